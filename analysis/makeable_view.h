@@ -1,0 +1,23 @@
+// What the makeable pane shows, as texts.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "core/board.h"
+
+namespace tricklet {
+
+struct MakeableView {
+  std::string caption;  ///< "Makeable contracts" or "Makeable tricks"
+  struct Row {
+    std::string seat;                           ///< "North"
+    std::array<std::string, kStrains> cells;    ///< spades, hearts, diamonds, clubs, no-trump
+  };
+  std::array<Row, kSeats> rows;  ///< North, South, East, West
+};
+
+/// Tricks less six with `MakeableContract` on, else tricks; "-" for 0 or less.
+MakeableView MakeMakeableView(const MakeableTable& table, bool contracts);
+
+}  // namespace tricklet

@@ -1,0 +1,78 @@
+#include "core/board.h"
+
+#include <algorithm>
+
+namespace tricklet {
+
+int SeatHolding(const HandTable& hands, Card card) {
+  for (const Seat seat : kAllSeats) {
+    if (hands[seat][card.suit].Has(card.rank)) return IndexOf(seat);
+  }
+  return -1;
+}
+
+void AddCard(HandTable& hands, Card card, Seat seat) { hands[seat][card.suit].Add(card.rank); }
+
+void GetHand(std::string_view& text, HandTable& hands, Seat seat) {
+  const auto blank = text.find(' ');
+  std::string_view hand = text.substr(0, blank);
+  text = blank == std::string_view::npos ? std::string_view() : text.substr(blank + 1);
+  for (const Suit suit : kAllSuits) {
+    const auto dot = hand.find('.');
+    hands[seat][suit] = AddSpace(hand.substr(0, dot));
+    hand = dot == std::string_view::npos ? std::string_view() : hand.substr(dot + 1);
+  }
+}
+
+bool HasCards(const HandTable& hands) {
+  return std::any_of(hands.begin(), hands.end(), [](const PerSuit<Holding>& hand) {
+    return std::any_of(hand.begin(), hand.end(), [](Holding holding) { return !holding.Empty(); });
+  });
+}
+
+void GetContract(Board& board) {
+  board.Contract.clear();
+  board.ContractLevel = 0;
+  PerSide<EnumArray<BidStrain, int, kStrains>> firstNamer;  // seat index, -1 when unset
+  for (auto& strains : firstNamer) strains.fill(-1);
+  bool doubled = false;
+  bool redoubled = false;
+  Call lastBid;
+  Seat bidder = board.Dealer();
+  Seat seat = board.Dealer();
+  for (const Call call : board.Calls) {
+    if (call.IsDouble() || call.IsRedouble()) {
+      doubled = call.IsDouble();
+      redoubled = call.IsRedouble();
+    } else if (call.IsBid()) {
+      doubled = redoubled = false;
+      lastBid = call;
+      bidder = seat;
+      int& namer = firstNamer[SideOf(seat)][call.Denomination()];
+      if (namer < 0) namer = IndexOf(seat);
+    }
+    seat = SeatAfter(seat);
+  }
+  if (board.NumCalls() == kSeats && board.Calls[0].IsPass()) {
+    board.Contract = kAllPass;
+  } else if (lastBid.IsBid()) {
+    board.Contract = lastBid.Text() + (redoubled ? "xx" : doubled ? "x" : "");
+    board.ContractLevel = lastBid.Level();
+    board.Declarer = static_cast<Seat>(firstNamer[SideOf(bidder)][lastBid.Denomination()]);
+    board.Trumps = ToStrain(lastBid.Denomination());
+  }
+}
+
+std::string ContractLabel(const Board& board) {
+  if (board.Contract.empty() || board.Contract == kAllPass) return board.Contract;
+  return board.Contract + " by " + std::string(SeatName[board.Declarer]);
+}
+
+void ClearAll(Board& board) {
+  const int number = board.BoardNumber;
+  board = Board();
+  board.BoardNumber = number;
+  board.HandChanged = true;
+}
+
+}  // namespace tricklet

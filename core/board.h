@@ -1,0 +1,68 @@
+// The board record: everything that the program knows of the board in hand.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "core/call.h"
+#include "core/holding.h"
+#include "core/notation.h"
+
+namespace tricklet {
+
+/// The holdings of all four seats: `hands[seat][suit]`.
+using HandTable = PerSeat<PerSuit<Holding>>;
+
+/// Double-dummy tricks, 0..13, of each declarer in each strain. Values of a foreign file are kept
+/// as they are.
+using MakeableTable =
+    EnumArray<TableSeat, EnumArray<TableStrain, std::int16_t, kStrains>, kSeats>;
+
+/// The current board. A value: copying it copies the board.
+struct Board {
+  int BoardNumber = kFirstBoardNumber;  ///< 1..999; 0 while an import has not met a number yet
+  HandTable Hands;
+  CallList Calls;
+
+  // Derived from `Calls` by `GetContract`.
+  std::string Contract;  ///< "4Sx"; "All Pass"; empty when there is none
+  Seat Declarer = Seat::North;
+  Strain Trumps = Strain::NoTrump;
+  int ContractLevel = 0;  ///< 1..7; 0 when there is no contract
+
+  MakeableTable Makeable;
+  bool MakeableValid = false;  ///< `Makeable` holds the table of this deal
+  bool HandChanged = false;    ///< there are changes that are not saved
+
+  int NumCalls() const { return Calls.Count(); }
+  Seat Dealer() const { return DealerOfBoard(BoardNumber); }
+  tricklet::Vulnerability Vulnerability() const { return VulOfBoard(BoardNumber); }
+};
+
+constexpr std::string_view kAllPass = "All Pass";
+
+/// The seat that holds `card`, as an index 0..3; -1 when it has not been dealt.
+int SeatHolding(const HandTable& hands, Card card);
+
+/// Gives `card` to `seat`.
+void AddCard(HandTable& hands, Card card, Seat seat);
+
+/// Reads the hand at the front of `text` (ranks of spades, hearts, diamonds, clubs with "." between
+/// them, the ten written "10", up to the first blank) into `seat` and leaves in `text` what follows
+/// that blank. Suits that are not given become void; so does a hand given as "-".
+void GetHand(std::string_view& text, HandTable& hands, Seat seat);
+
+bool HasCards(const HandTable& hands);
+
+/// Derives `Contract`, `Declarer`, `Trumps` and `ContractLevel` from the calls and the dealer. The
+/// declarer is the first of the last bidder's side to have named the strain. The calls need not be
+/// a legal auction.
+void GetContract(Board& board);
+
+/// "4Sx by South", "All Pass", or empty when there is no contract.
+std::string ContractLabel(const Board& board);
+
+/// Empties the board for a new deal: cards, calls, contract and table; it then counts as changed.
+void ClearAll(Board& board);
+
+}  // namespace tricklet

@@ -1,0 +1,79 @@
+// One call of an auction, and the list of calls of a board.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/notation.h"
+
+namespace tricklet {
+
+/// A pass, a double, a redouble or a bid.
+class Call {
+ public:
+  static constexpr int kBids = 35;
+
+  constexpr Call() = default;  // a pass
+  static constexpr Call Pass() { return Call(kPass); }
+  static constexpr Call Double() { return Call(kDouble); }
+  static constexpr Call Redouble() { return Call(kRedouble); }
+  /// `level` 1..7.
+  static constexpr Call Bid(int level, BidStrain strain) {
+    return Call(static_cast<std::uint8_t>((level - 1) * kStrains + IndexOf(strain)));
+  }
+
+  constexpr bool IsBid() const { return code_ < kBids; }
+  constexpr bool IsPass() const { return code_ == kPass; }
+  constexpr bool IsDouble() const { return code_ == kDouble; }
+  constexpr bool IsRedouble() const { return code_ == kRedouble; }
+  /// Of a bid: 0..34, in bidding order.
+  constexpr int BidIndex() const { return code_; }
+  constexpr int Level() const { return code_ / kStrains + 1; }
+  constexpr BidStrain Denomination() const { return static_cast<BidStrain>(code_ % kStrains); }
+
+  /// "Pass", "Dbl", "Rdbl", or level and strain letter(s): "1C" .. "7NT".
+  std::string Text() const;
+
+  /// The call that `text` names. Letter case and blanks around it do not matter, and short forms
+  /// are taken too: "P", "X", "D", "XX", "R", "1N". Nothing when it names no call.
+  static std::optional<Call> FromText(std::string_view text);
+
+  friend constexpr bool operator==(Call, Call) = default;
+
+ private:
+  static constexpr std::uint8_t kPass = kBids;
+  static constexpr std::uint8_t kDouble = kBids + 1;
+  static constexpr std::uint8_t kRedouble = kBids + 2;
+  constexpr explicit Call(std::uint8_t code) : code_(code) {}
+  std::uint8_t code_ = kPass;
+};
+
+/// The calls of one auction in order; the first is the dealer's. Holds 100 at the most.
+class CallList {
+ public:
+  static constexpr int kCapacity = 100;
+
+  constexpr int Count() const { return count_; }
+  constexpr bool Empty() const { return count_ == 0; }
+  constexpr bool Full() const { return count_ == kCapacity; }
+  constexpr void Clear() { count_ = 0; }
+  /// Throws `Fault` kSubscriptOutOfRange when the list is full.
+  void Add(Call call);
+  constexpr void RemoveLast() {
+    if (count_ > 0) --count_;
+  }
+  constexpr Call operator[](int index) const { return calls_.at(static_cast<std::size_t>(index)); }
+  constexpr const Call* begin() const { return calls_.data(); }
+  constexpr const Call* end() const { return calls_.data() + count_; }
+
+  friend bool operator==(const CallList& a, const CallList& b);
+
+ private:
+  std::array<Call, kCapacity> calls_{};
+  int count_ = 0;
+};
+
+}  // namespace tricklet

@@ -1,0 +1,75 @@
+// The one port through which the engine asks for the person and the platform.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tricklet {
+
+inline constexpr std::string_view kProgramName = "Tricklet";
+
+enum class Buttons { YesNo, YesNoCancel, OKCancel };
+enum class Answer { Yes, No, OK, Cancel };
+
+/// What a file chooser offers.
+struct FileChoice {
+  std::string description;              ///< "Hand Records"
+  std::vector<std::string> extensions;  ///< without the dot
+  std::filesystem::path suggested;      ///< file or folder to begin with; may be empty
+};
+
+/// A window, a console or a test script. Texts are UTF-8; line breaks in them are "\n".
+class Host {
+ public:
+  Host() = default;
+  Host(const Host&) = delete;
+  Host& operator=(const Host&) = delete;
+  virtual ~Host() = default;
+
+  virtual void Tell(const std::string& text, const std::string& title) = 0;
+  void Tell(const std::string& text) { Tell(text, std::string(kProgramName)); }
+
+  /// One of the answers that `buttons` offers; No or Cancel when the person does not answer.
+  virtual Answer Ask(const std::string& text, const std::string& title, Buttons buttons) = 0;
+
+  virtual void Beep() = 0;
+
+  /// Nothing when the person chooses none.
+  virtual std::optional<std::filesystem::path> ChooseFolder(
+      const std::string& title, const std::filesystem::path& start) = 0;
+  virtual std::optional<std::filesystem::path> ChooseOpenFile(const FileChoice& choice) = 0;
+  virtual std::optional<std::filesystem::path> ChooseSaveFile(const FileChoice& choice) = 0;
+
+  /// Sends a file or folder to the recycle bin; false when that could not be done, and then it is
+  /// still in its place. Nothing is ever deleted for good.
+  virtual bool Recycle(const std::filesystem::path& path) = 0;
+
+  virtual bool OpenUrl(const std::string& address) = 0;
+
+  /// One step of long work: shows `text` and `done` of `total` (0: not known) and lets pending
+  /// events run. False when the person has cancelled the work.
+  virtual bool Step(const std::string& text, int done, int total) = 0;
+  /// Around long work: the progress display appears, and is gone again.
+  virtual void BeginWork() = 0;
+  virtual void EndWork() = 0;
+
+  /// Ends the program as soon as the running procedure has returned.
+  virtual void EndProgram() = 0;
+};
+
+/// Keeps the progress display up for as long as it lives, whichever way the work ends.
+class WorkScope {
+ public:
+  explicit WorkScope(Host& host) : host_(host) { host_.BeginWork(); }
+  ~WorkScope() { host_.EndWork(); }
+  WorkScope(const WorkScope&) = delete;
+  WorkScope& operator=(const WorkScope&) = delete;
+
+ private:
+  Host& host_;
+};
+
+}  // namespace tricklet

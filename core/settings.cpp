@@ -1,0 +1,224 @@
+#include "core/settings.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include "core/text.h"
+
+namespace tricklet {
+namespace {
+
+constexpr std::string_view kMacro = "macro";
+constexpr std::string_view kOptions = "Tricklet";
+constexpr std::string_view kWindowText = "&H80000008";
+
+/// A table row for a member of `Settings`, or of one of its two fonts.
+#define TRICKLET_FIELD(member) \
+  [](Settings& settings) -> SettingField { return &settings.member; }
+
+constexpr std::array kTable{
+    SettingEntry{kMacro, "filelocation", "", TRICKLET_FIELD(filelocation)},
+    SettingEntry{kMacro, "library", "Default", TRICKLET_FIELD(library)},
+    SettingEntry{kOptions, "CardsFaces", "True", TRICKLET_FIELD(CardsFaces)},
+    SettingEntry{kOptions, "CardDesign", "1", TRICKLET_FIELD(CardDesign), 1, 3},
+    SettingEntry{kOptions, "SuitColour", "True", TRICKLET_FIELD(SuitColour)},
+    SettingEntry{kOptions, "SuitFontSize", "14", TRICKLET_FIELD(SuitFontSize), 6, 96},
+    SettingEntry{kOptions, "CaptionPlayer", "False", TRICKLET_FIELD(CaptionPlayer)},
+    SettingEntry{kOptions, "CaptionnCards", "True", TRICKLET_FIELD(CaptionnCards)},
+    SettingEntry{kOptions, "CaptionHCP", "True", TRICKLET_FIELD(CaptionHCP)},
+    SettingEntry{kOptions, "CaptionLTC", "True", TRICKLET_FIELD(CaptionLTC)},
+    SettingEntry{kOptions, "CaptionDeclarer", "True", TRICKLET_FIELD(CaptionDeclarer)},
+    SettingEntry{kOptions, "CaptionDummy", "True", TRICKLET_FIELD(CaptionDummy)},
+    SettingEntry{kOptions, "AutoLaunch", "False", TRICKLET_FIELD(AutoLaunch)},
+    SettingEntry{kOptions, "AutoUpdate", "True", TRICKLET_FIELD(AutoUpdate)},
+    SettingEntry{kOptions, "AutoMakeable", "True", TRICKLET_FIELD(AutoMakeable)},
+    SettingEntry{kOptions, "ShowStats", "True", TRICKLET_FIELD(ShowStats)},
+    SettingEntry{kOptions, "ShowMakeable", "True", TRICKLET_FIELD(ShowMakeable)},
+    SettingEntry{kOptions, "MakeableContract", "True", TRICKLET_FIELD(MakeableContract)},
+    SettingEntry{kOptions, "PBNBids", "True", TRICKLET_FIELD(PBNBids)},
+    SettingEntry{kOptions, "PBNShark", "False", TRICKLET_FIELD(PBNShark)},
+    SettingEntry{kOptions, "EditMethod", "1", TRICKLET_FIELD(EditMethod), 1, 3},
+    SettingEntry{kOptions, "ShowMessage", "0", TRICKLET_FIELD(ShowMessage), 0, 99999},
+    SettingEntry{kOptions, "ColourScheme", "0", TRICKLET_FIELD(ColourScheme), 0, 2},
+    SettingEntry{"HGFont0", "Name", "Arial Narrow", TRICKLET_FIELD(HGFont[0].Name)},
+    SettingEntry{"HGFont0", "Size", "24", TRICKLET_FIELD(HGFont[0].Size), 6, 96},
+    SettingEntry{"HGFont0", "Bold", "False", TRICKLET_FIELD(HGFont[0].Bold)},
+    SettingEntry{"HGFont0", "Italic", "False", TRICKLET_FIELD(HGFont[0].Italic)},
+    SettingEntry{"HGFont0", "Strikethrough", "False", TRICKLET_FIELD(HGFont[0].Strikethrough)},
+    SettingEntry{"HGFont0", "Underline", "False", TRICKLET_FIELD(HGFont[0].Underline)},
+    SettingEntry{"HGFont0", "Forecolour", kWindowText, TRICKLET_FIELD(HGFont[0].Forecolour)},
+    SettingEntry{"HGFont1", "Name", "Arial", TRICKLET_FIELD(HGFont[1].Name)},
+    SettingEntry{"HGFont1", "Size", "15", TRICKLET_FIELD(HGFont[1].Size), 6, 96},
+    SettingEntry{"HGFont1", "Bold", "False", TRICKLET_FIELD(HGFont[1].Bold)},
+    SettingEntry{"HGFont1", "Italic", "False", TRICKLET_FIELD(HGFont[1].Italic)},
+    SettingEntry{"HGFont1", "Strikethrough", "False", TRICKLET_FIELD(HGFont[1].Strikethrough)},
+    SettingEntry{"HGFont1", "Underline", "False", TRICKLET_FIELD(HGFont[1].Underline)},
+    SettingEntry{"HGFont1", "Forecolour", kWindowText, TRICKLET_FIELD(HGFont[1].Forecolour)},
+};
+#undef TRICKLET_FIELD
+
+std::optional<double> NumberFromText(std::string_view text) {
+  double value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (error != std::errc() || end != text.data() + text.size() || !std::isfinite(value)) {
+    return std::nullopt;
+  }
+  return value;
+}
+
+/// Overloads that read one type of field; each leaves the field alone when it returns false.
+struct Reader {
+  const SettingEntry& entry;
+  std::string_view text;
+
+  bool operator()(bool* field) const {
+    if (EqualNoCase(text, "True") || EqualNoCase(text, "False")) {
+      *field = EqualNoCase(text, "True");
+      return true;
+    }
+    return false;
+  }
+  bool operator()(double* field) const {
+    const auto value = NumberFromText(text);
+    if (!value || *value < entry.lowest || *value > entry.highest) return false;
+    *field = *value;
+    return true;
+  }
+  bool operator()(int* field) const {
+    double value = 0;
+    if (!(*this)(&value) || value != std::floor(value)) return false;
+    *field = static_cast<int>(value);
+    return true;
+  }
+  bool operator()(std::string* field) const {
+    *field = text;
+    return true;
+  }
+  /// "&H" and hexadecimal digits, or the number as a signed decimal.
+  bool operator()(ColourNumber* field) const {
+    const bool hex = text.size() > 2 && EqualNoCase(text.substr(0, 2), "&H");
+    const std::string_view digits = hex ? text.substr(2) : text;
+    std::int64_t value = 0;
+    const auto [end, error] =
+        std::from_chars(digits.data(), digits.data() + digits.size(), value, hex ? 16 : 10);
+    if (error != std::errc() || end != digits.data() + digits.size()) return false;
+    if (value < INT32_MIN || value > UINT32_MAX) return false;
+    field->value = static_cast<std::uint32_t>(value);
+    return true;
+  }
+};
+
+std::string NumberText(double value) {
+  std::array<char, 32> buffer{};
+  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+  return {buffer.data(), result.ptr};
+}
+
+struct Writer {
+  std::string operator()(const bool* field) const { return *field ? "True" : "False"; }
+  std::string operator()(const int* field) const { return std::to_string(*field); }
+  std::string operator()(const double* field) const { return NumberText(*field); }
+  std::string operator()(const std::string* field) const { return *field; }
+  std::string operator()(const ColourNumber* field) const {
+    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    std::string text = "&H";
+    for (int shift = 28; shift >= 0; shift -= 4) {
+      text += kDigits[(field->value >> static_cast<unsigned>(shift)) & 0xFU];
+    }
+    return text;
+  }
+};
+
+std::string StoreName(std::string_view section, std::string_view key) {
+  return std::string(section) + "/" + std::string(key);
+}
+
+}  // namespace
+
+Settings::Settings() {
+  for (const SettingEntry& entry : kTable) SetFromText(*this, entry, entry.defaultText);
+}
+
+std::optional<std::string> MemoryStore::Read(std::string_view section, std::string_view key) const {
+  const std::string name = StoreName(section, key);
+  for (const auto& [stored, value] : values_) {
+    if (stored == name) return value;
+  }
+  return std::nullopt;
+}
+
+void MemoryStore::Write(std::string_view section, std::string_view key, const std::string& value) {
+  const std::string name = StoreName(section, key);
+  for (auto& [stored, old] : values_) {
+    if (stored == name) {
+      old = value;
+      return;
+    }
+  }
+  values_.emplace_back(name, value);
+}
+
+std::optional<std::string> OverlayStore::Read(std::string_view section,
+                                              std::string_view key) const {
+  if (section == kMacro) {
+    if (auto value = over_.Read(section, key)) return value;
+  }
+  return below_.Read(section, key);
+}
+
+void OverlayStore::Write(std::string_view section, std::string_view key, const std::string& value) {
+  if (section == kMacro) {
+    over_.Write(section, key, value);
+  } else {
+    below_.Write(section, key, value);
+  }
+}
+
+std::span<const SettingEntry> SettingTable() { return kTable; }
+
+const SettingEntry* FindSetting(std::string_view name) {
+  for (const SettingEntry& entry : kTable) {
+    const bool font = entry.section != kMacro && entry.section != kOptions;
+    if (EqualNoCase(name, StoreName(entry.section, entry.key)) ||
+        (!font && EqualNoCase(name, entry.key))) {
+      return &entry;
+    }
+  }
+  return nullptr;
+}
+
+std::string SettingText(const Settings& settings, const SettingEntry& entry) {
+  Settings copy = settings;  // fields are reached through a mutable reference only
+  return std::visit(Writer{}, entry.field(copy));
+}
+
+bool SetFromText(Settings& settings, const SettingEntry& entry, std::string_view text) {
+  return std::visit(Reader{entry, text}, entry.field(settings));
+}
+
+Settings LoadSettings(const SettingsStore& store) {
+  Settings settings;
+  for (const SettingEntry& entry : kTable) {
+    if (const auto text = store.Read(entry.section, entry.key)) SetFromText(settings, entry, *text);
+  }
+  return settings;
+}
+
+void SaveSettings(const Settings& settings, SettingsStore& store) {
+  for (const SettingEntry& entry : kTable) {
+    if (entry.section == kMacro || entry.key == "ShowMessage") continue;
+    SaveSetting(settings, entry, store);
+  }
+}
+
+void SaveSetting(const Settings& settings, const SettingEntry& entry, SettingsStore& store) {
+  store.Write(entry.section, entry.key, SettingText(settings, entry));
+}
+
+void SaveSetting(const Settings& settings, std::string_view key, SettingsStore& store) {
+  if (const SettingEntry* entry = FindSetting(key)) SaveSetting(settings, *entry, store);
+}
+
+}  // namespace tricklet

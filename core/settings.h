@@ -1,0 +1,142 @@
+// The user's settings: one typed table of keys, defaults and limits, over a store port.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace tricklet {
+
+/// A colour number as the store has always held it: 0x00BBGGRR, or a system colour when the top bit
+/// is set.
+struct ColourNumber {
+  std::uint32_t value = 0;
+  friend bool operator==(ColourNumber, ColourNumber) = default;
+};
+
+/// The system's window-text colour.
+inline constexpr ColourNumber kWindowTextColour{0x80000008U};
+
+struct FontSetting {
+  std::string Name;
+  double Size = 0;  ///< points
+  bool Bold = false;
+  bool Italic = false;
+  bool Strikethrough = false;
+  bool Underline = false;
+  ColourNumber Forecolour = kWindowTextColour;
+  friend bool operator==(const FontSetting&, const FontSetting&) = default;
+};
+
+/// Every setting under the name of its key.
+struct Settings {
+  std::string filelocation;       ///< library root, ending in the platform's separator; UTF-8
+  std::string library;            ///< current library
+  bool CardsFaces = false;        ///< hands as card faces; else as text
+  int CardDesign = 0;             ///< 1..3
+  bool SuitColour = false;        ///< four suit colours; else red and black
+  double SuitFontSize = 0;        ///< points
+  bool CaptionPlayer = false;
+  bool CaptionnCards = false;
+  bool CaptionHCP = false;
+  bool CaptionLTC = false;
+  bool CaptionDeclarer = false;
+  bool CaptionDummy = false;
+  bool AutoLaunch = false;        ///< open the main window without waiting on the start dialog
+  bool AutoUpdate = false;        ///< look for a newer version at start
+  bool AutoMakeable = false;      ///< compute a missing double-dummy table
+  bool ShowStats = false;
+  bool ShowMakeable = false;
+  bool MakeableContract = false;  ///< makeable pane shows contracts; else tricks
+  bool PBNBids = false;           ///< PBN export writes the auction
+  bool PBNShark = false;          ///< PBN export writes a result tag and a board comment
+  int EditMethod = 0;
+  int ShowMessage = 0;            ///< version up to which the notice of new features has been seen
+  int ColourScheme = 0;           ///< 0 as the system, 1 light, 2 dark
+  std::array<FontSetting, 2> HGFont;  ///< 0: holdings as text; 1: captions and auction
+
+  /// All defaults, from the table.
+  Settings();
+  friend bool operator==(const Settings&, const Settings&) = default;
+};
+
+/// Where settings live: section and key to text.
+class SettingsStore {
+ public:
+  SettingsStore() = default;
+  SettingsStore(const SettingsStore&) = delete;
+  SettingsStore& operator=(const SettingsStore&) = delete;
+  virtual ~SettingsStore() = default;
+  /// Nothing when the key has never been written.
+  virtual std::optional<std::string> Read(std::string_view section, std::string_view key) const = 0;
+  virtual void Write(std::string_view section, std::string_view key, const std::string& value) = 0;
+};
+
+/// A store in memory: for tests, and laid over another store to keep some keys from reaching it.
+class MemoryStore : public SettingsStore {
+ public:
+  std::optional<std::string> Read(std::string_view section, std::string_view key) const override;
+  void Write(std::string_view section, std::string_view key, const std::string& value) override;
+
+ private:
+  std::vector<std::pair<std::string, std::string>> values_;  // "section/key" to value
+};
+
+/// Another store, but for the section "macro" (root and library), which stays in memory. Used when
+/// a root or library is named for one call only.
+class OverlayStore : public SettingsStore {
+ public:
+  explicit OverlayStore(SettingsStore& below) : below_(below) {}
+  std::optional<std::string> Read(std::string_view section, std::string_view key) const override;
+  void Write(std::string_view section, std::string_view key, const std::string& value) override;
+
+ private:
+  SettingsStore& below_;
+  MemoryStore over_;
+};
+
+/// The member of `Settings` that an entry of the table stands for.
+using SettingField = std::variant<bool*, int*, double*, std::string*, ColourNumber*>;
+
+/// One row of the table.
+struct SettingEntry {
+  std::string_view section;
+  std::string_view key;
+  std::string_view defaultText;
+  SettingField (*field)(Settings&);
+  double lowest = 0;   ///< of numbers
+  double highest = 0;
+};
+
+/// The table: every key that is stored, in the order of `Settings`.
+std::span<const SettingEntry> SettingTable();
+
+/// An entry by "key" or "section/key", in any letter case; null when there is none. The seven font
+/// keys exist twice and need their section.
+const SettingEntry* FindSetting(std::string_view name);
+
+std::string SettingText(const Settings& settings, const SettingEntry& entry);
+
+/// Sets the field from `text`; false, and nothing changed, when `text` is no value of its type or
+/// outside its limits.
+bool SetFromText(Settings& settings, const SettingEntry& entry, std::string_view text);
+
+/// Reads every key; a missing or unreadable one takes its default.
+Settings LoadSettings(const SettingsStore& store);
+
+/// Writes every key of the options (not those of section "macro", which are written when they
+/// change, nor "ShowMessage").
+void SaveSettings(const Settings& settings, SettingsStore& store);
+
+/// Writes the one key of `entry`.
+void SaveSetting(const Settings& settings, const SettingEntry& entry, SettingsStore& store);
+/// The same by key; `key` must be in the table.
+void SaveSetting(const Settings& settings, std::string_view key, SettingsStore& store);
+
+}  // namespace tricklet

@@ -1,0 +1,38 @@
+// Hand statistics and the captions made of them.
+#pragma once
+
+#include <string>
+
+#include "core/board.h"
+#include "core/notation.h"
+#include "core/settings.h"
+
+namespace tricklet {
+
+/// What `GetStats` finds in a deal.
+struct Statistics {
+  PerSeat<PerSuit<int>> SuitLength;
+  PerSeat<PerSuit<int>> SuitHCP;  ///< ace 4, king 3, queen 2, jack 1
+  PerSeat<int> SeatCardCount;
+  PerSeat<int> SeatHCP;
+  PerSeat<int> SeatLTC;  ///< losing-trick count
+  PerSide<int> PairLTC;
+  PerSuit<Holding> MissingCards;  ///< ranks of the suit that no seat holds
+  Seat IncompleteSeat = Seat::North;  ///< the last seat without 13 cards, when there is one
+  bool AllHandsComplete = false;      ///< all four seats hold 13 cards
+
+  /// Some seat holds `card`.
+  bool CardDealt(Card card) const { return !MissingCards[card.suit].Has(card.rank); }
+};
+
+Statistics GetStats(const HandTable& hands);
+
+/// Losers of one suit: one for each of ace, king and queen, as far as the suit is long, that is not
+/// held. A holding headed by ace, jack, ten without king and queen counts exactly one.
+int SuitLosers(Holding holding);
+
+/// The caption of each hand from the four caption switches of `settings`, for example
+/// "North: 13 cards : HCP=12 LTC=6".
+PerSeat<std::string> GetCaptionsEdit(const Statistics& statistics, const Settings& settings);
+
+}  // namespace tricklet

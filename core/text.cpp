@@ -1,0 +1,154 @@
+#include "core/text.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace tricklet {
+namespace {
+
+constexpr bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+
+/// Length of the well-formed UTF-8 sequence at the front of `bytes`, 0 when there is none (Unicode
+/// standard, table 3-7: no overlong forms, no surrogates, nothing above U+10FFFF).
+std::size_t SequenceLength(std::string_view bytes) {
+  const auto at = [bytes](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
+  const unsigned lead = at(0);
+  if (lead < 0x80) return 1;
+  std::size_t length = 0;
+  unsigned low = 0x80;
+  unsigned high = 0xBF;
+  if (lead >= 0xC2 && lead <= 0xDF) {
+    length = 2;
+  } else if (lead >= 0xE0 && lead <= 0xEF) {
+    length = 3;
+    if (lead == 0xE0) low = 0xA0;
+    if (lead == 0xED) high = 0x9F;
+  } else if (lead >= 0xF0 && lead <= 0xF4) {
+    length = 4;
+    if (lead == 0xF0) low = 0x90;
+    if (lead == 0xF4) high = 0x8F;
+  }
+  if (length == 0 || bytes.size() < length || at(1) < low || at(1) > high) return 0;
+  for (std::size_t i = 2; i < length; ++i) {
+    if (at(i) < 0x80 || at(i) > 0xBF) return 0;
+  }
+  return length;
+}
+
+}  // namespace
+
+std::string_view Trim(std::string_view text) {
+  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+char ToUpper(char c) {
+  return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+std::string ToUpper(std::string_view text) {
+  std::string upper(text);
+  for (char& c : upper) c = ToUpper(c);
+  return upper;
+}
+
+bool EqualNoCase(std::string_view a, std::string_view b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char x, char y) { return ToUpper(x) == ToUpper(y); });
+}
+
+int LeadingNumber(std::string_view text) {
+  constexpr int kHighest = std::numeric_limits<std::int16_t>::max();
+  constexpr int kLowest = std::numeric_limits<std::int16_t>::min();
+  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+  bool negative = false;
+  if (!text.empty() && (text.front() == '-' || text.front() == '+')) {
+    negative = text.front() == '-';
+    text.remove_prefix(1);
+  }
+  int value = 0;
+  for (const char c : text) {
+    if (c < '0' || c > '9') break;
+    value = value * 10 + (c - '0');
+    if (value > kHighest) return negative ? kLowest : kHighest;
+  }
+  return negative ? -value : value;
+}
+
+bool IsValidUtf8(std::string_view bytes) {
+  while (!bytes.empty()) {
+    const std::size_t length = SequenceLength(bytes);
+    if (length == 0) return false;
+    bytes.remove_prefix(length);
+  }
+  return true;
+}
+
+std::string Latin1ToUtf8(std::string_view bytes) {
+  std::string text;
+  text.reserve(bytes.size());
+  for (const char c : bytes) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < 0x80) {
+      text += c;
+    } else {
+      text += static_cast<char>(0xC0U | (byte >> 6U));
+      text += static_cast<char>(0x80U | (byte & 0x3FU));
+    }
+  }
+  return text;
+}
+
+std::string Utf8ToLatin1(std::string_view text) {
+  std::string bytes;
+  bytes.reserve(text.size());
+  while (!text.empty()) {
+    const std::size_t length = std::max<std::size_t>(SequenceLength(text), 1);
+    const auto lead = static_cast<unsigned char>(text[0]);
+    if (lead < 0x80) {
+      bytes += text[0];
+    } else if (length == 2 && lead <= 0xC3) {
+      const auto trail = static_cast<unsigned char>(text[1]);
+      bytes += static_cast<char>(((lead & 0x03U) << 6U) | (trail & 0x3FU));
+    } else {
+      bytes += '?';
+    }
+    text.remove_prefix(length);
+  }
+  return bytes;
+}
+
+std::string Showable(std::string_view bytes, std::size_t longest) {
+  const bool cut = bytes.size() > longest;
+  if (cut) {
+    bytes = bytes.substr(0, longest);
+    // A cut inside a multi-byte character must not turn the whole text into Latin-1.
+    std::size_t back = bytes.size();
+    while (back > 0 && bytes.size() - back < 3 &&
+           (static_cast<unsigned char>(bytes[back - 1]) & 0xC0U) == 0x80U) {
+      --back;
+    }
+    if (back > 0 && static_cast<unsigned char>(bytes[back - 1]) >= 0xC0U &&
+        SequenceLength(bytes.substr(back - 1)) == 0) {
+      bytes = bytes.substr(0, back - 1);
+    }
+  }
+  std::string text = IsValidUtf8(bytes) ? std::string(bytes) : Latin1ToUtf8(bytes);
+  for (char& c : text) {
+    if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) c = ' ';
+  }
+  if (cut) text += "...";
+  return text;
+}
+
+std::string PathText(const std::filesystem::path& path) {
+  const std::u8string text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
+std::filesystem::path PathFromText(std::string_view text) {
+  return std::filesystem::path(std::u8string(text.begin(), text.end()));
+}
+
+}  // namespace tricklet

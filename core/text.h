@@ -1,0 +1,37 @@
+// Text helpers of the readers and writers. All text inside the program is UTF-8.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace tricklet {
+
+/// Without the blanks at both ends (blanks and tabs only: line ends are the readers' business).
+std::string_view Trim(std::string_view text);
+
+/// ASCII letters in upper case; all other bytes as they are.
+std::string ToUpper(std::string_view text);
+char ToUpper(char c);
+
+/// Equal but for the case of ASCII letters.
+bool EqualNoCase(std::string_view a, std::string_view b);
+
+/// The number that `text` begins with (blanks, a sign, digits); 0 when it begins with none. Numbers
+/// beyond 16 bits come back as -32768 or 32767.
+int LeadingNumber(std::string_view text);
+
+bool IsValidUtf8(std::string_view bytes);
+std::string Latin1ToUtf8(std::string_view bytes);
+/// Characters outside Latin-1 become "?".
+std::string Utf8ToLatin1(std::string_view text);
+
+/// Bytes of a foreign file made fit to be shown: UTF-8 kept, anything else taken as Latin-1, control
+/// characters as blanks, and cut with "..." beyond `longest` bytes.
+std::string Showable(std::string_view bytes, std::size_t longest = 200);
+
+std::string PathText(const std::filesystem::path& path);
+std::filesystem::path PathFromText(std::string_view text);
+
+}  // namespace tricklet

@@ -1,0 +1,43 @@
+// The export command.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "library/session.h"
+
+namespace tricklet {
+
+/// What `frmExport` asks for.
+struct ExportRange {
+  int first = 0;
+  int last = 0;      ///< 0: the dialog was cancelled
+  std::string type;  ///< "pbn"
+};
+
+/// The types that can be written, in the order of `optType`.
+const std::vector<std::string>& ExportTypes();
+
+/// The current library holds a board; else tells "There are no hands to export".
+bool HasHandsToExport(Session& session);
+
+/// The two texts of `frmExport` are a range; else tells "Please enter a valid range".
+bool CheckRangeTexts(Session& session, std::string_view from, std::string_view to,
+                     ExportRange& range);
+
+/// Every board of the range has its file; else tells which are missing.
+bool CheckExportRange(Session& session, const ExportRange& range);
+
+/// The file name to begin with: `last` with its ending turned into the type.
+std::filesystem::path SuggestedExportPath(const std::filesystem::path& last,
+                                          const std::string& type);
+
+/// After the dialog: checks the range, lets the person choose the file (starting from `path`, which
+/// takes the choice or becomes empty) and writes it. True when all boards were written.
+bool Export(Session& session, const ExportRange& range, std::filesystem::path& path);
+
+/// Writes the range to a file already named; its ending selects the format.
+bool ExportFile(Session& session, const ExportRange& range, const std::filesystem::path& path);
+
+}  // namespace tricklet

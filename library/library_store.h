@@ -1,0 +1,71 @@
+// Library folders: finding, selecting, counting, trimming; copying one board to another place.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "library/session.h"
+
+namespace tricklet {
+
+/// Boards that an empty library offers.
+inline constexpr int kBoardsOfEmptyLibrary = 24;
+
+/// Lists the libraries of the root (sub-folders whose name does not begin with ".") and selects the
+/// current one, or the first when it is gone. An empty root is given the library "Default".
+void GetLibraryNames(Session& session);
+
+/// Scans the current library's folder, once.
+void CountHands(Session& session);
+
+/// Scans the current library and sets the number of boards offered.
+void FindFiles(Session& session);
+
+/// "Library - NAME" and "N boards in library".
+std::string LibraryCaption(const Session& session);
+std::string LibraryCountText(const Session& session);
+
+/// Asks about unsaved changes before the board is left. OK, or Cancel when the person wants to stay
+/// (or wanted to save and the board could not be saved).
+Answer CheckSaveChanges(Session& session);
+
+/// Selects the library at `index` of `LibraryNames` and loads its board 1, after
+/// `CheckSaveChanges`. False when the person stayed.
+bool SelectLibrary(Session& session, int index);
+/// The same by name; false too when there is no such library.
+bool SelectLibrary(Session& session, std::string_view name);
+
+/// Selects a board of 1..MaxBoard and loads it, after `CheckSaveChanges`. False when the person
+/// stayed or there is no such entry.
+bool SelectBoard(Session& session, int boardNumber);
+
+/// Steps to the next or the previous board and round the end of the list.
+bool StepBoard(Session& session, bool backward = false);
+
+/// Sets the highest board offered: raised at once; lowered after a question, which sends the boards
+/// above it to the recycle bin. False when `highest` is not 1..999 or the person said No.
+bool SetMaxBoard(Session& session, int highest);
+
+/// `character` may be typed into a library's name at this place.
+bool AllowedInLibraryName(char32_t character, bool first);
+/// `name` can be given to a new library of this root: allowed characters, and not yet taken in any
+/// letter case.
+bool IsNewLibraryName(const Session& session, std::string_view name);
+
+/// Makes an empty library of the name and selects it, after `CheckSaveChanges`. False, with a beep
+/// or a message, when it could not.
+bool CreateLibrary(Session& session, std::string_view name);
+
+/// Gives the current library another name; refused with a message when that is taken.
+bool RenameLibrary(Session& session, std::string_view name);
+
+/// `mnuCopyHand`: remembers the current board as the one to paste.
+void CopyHand(Session& session);
+/// `mnuPasteHand`: copies the remembered board's file over the current board's, byte for byte,
+/// after a question when the current board holds cards. False when nothing was pasted.
+bool PasteHand(Session& session);
+
+/// `ClearAll` for the current board: an empty, unsaved board of the same number.
+void ClearBoard(Session& session);
+
+}  // namespace tricklet

@@ -1,0 +1,71 @@
+// The state of the running program, and what it needs to reach the person and the settings.
+#pragma once
+
+#include <array>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "core/board.h"
+#include "core/host.h"
+#include "core/settings.h"
+
+namespace tricklet {
+
+/// What is known of the current library from its last scan.
+struct LibraryState {
+  std::array<bool, kLastBoardNumber + 1> BoardPresent{};  ///< by board number
+  int BoardCount = 0;
+  int FirstBoard = kLastBoardNumber + 1;  ///< 1000 when the library is empty
+  int LastBoard = 0;                      ///< 0 when the library is empty
+  int MaxBoard = 0;                       ///< number of entries in the list of boards: 1..MaxBoard
+};
+
+/// One per program. The window and the command line derive all that they show from it.
+struct Session {
+  Session(Host& hostToAsk, SettingsStore& storeToUse)
+      : host(hostToAsk), store(storeToUse), settings(LoadSettings(storeToUse)) {}
+
+  Host& host;
+  SettingsStore& store;
+  Settings settings;
+
+  Board board;           ///< the current board
+  LibraryState library;  ///< the current library
+  std::vector<std::string> LibraryNames;  ///< all libraries of the root, in the order of the list
+  int LibIndex = -1;                      ///< the current library's position in it, -1 when none
+
+  std::string CopyLibrary;  ///< where the board to paste comes from; empty when none was copied
+  int CopyBoard = 0;
+
+  /// An import, export or the like is running: nothing is asked about unsaved changes.
+  bool BatchRunning = false;
+
+  const std::string& LibraryName() const { return settings.library; }
+  /// The root of all libraries.
+  std::filesystem::path FileLocation() const;
+  /// The current library's folder.
+  std::filesystem::path LibraryPath() const;
+  /// The file of a board of the current library.
+  std::filesystem::path BoardPath(int boardNumber) const;
+};
+
+/// Restores `BatchRunning` however the batch ends.
+class BatchScope {
+ public:
+  explicit BatchScope(Session& session) : session_(session), before_(session.BatchRunning) {
+    session_.BatchRunning = true;
+  }
+  ~BatchScope() { session_.BatchRunning = before_; }
+  BatchScope(const BatchScope&) = delete;
+  BatchScope& operator=(const BatchScope&) = delete;
+
+ private:
+  Session& session_;
+  bool before_;
+};
+
+/// `path` as text that ends in the platform's separator, as the library root is stored.
+std::string FolderText(const std::filesystem::path& path);
+
+}  // namespace tricklet

@@ -1,0 +1,28 @@
+// From the program's entry to the first board.
+#pragma once
+
+#include <string>
+
+#include "library/session.h"
+
+namespace tricklet {
+
+/// "Version 3.2.05".
+std::string VersionText();
+
+/// 100 x major + minor: what is compared with the setting `ShowMessage`.
+int VersionNumber();
+
+/// What the start dialog says of updates.
+std::string UpdateText(const Settings& settings);
+
+/// Shows the notice of new features when this version's has not been seen, and remembers when the
+/// person does not want it again.
+void ShowNotice(Session& session);
+
+/// Makes sure that the library root and the current library exist (asking for a root when there is
+/// none), lists libraries and boards and loads board 1. False when no root was chosen: the program
+/// ends then.
+bool OpenLibraries(Session& session);
+
+}  // namespace tricklet

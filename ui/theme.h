@@ -1,0 +1,31 @@
+// Colours of the window: everything that the palette does not give.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+
+#include "core/notation.h"
+#include "core/settings.h"
+
+class QApplication;
+
+namespace tricklet::ui {
+
+/// Colour of a suit's symbol on paper (card faces) or on the window's own background; four colours
+/// or red and black, and readable on a dark background too.
+QColor SuitColourOnCard(Suit suit, bool fourColours);
+QColor SuitColourOnWindow(Suit suit, bool fourColours, const QPalette& palette);
+
+/// The window's background is dark.
+bool IsDark(const QPalette& palette);
+
+/// Applies `ColourScheme` (0 as the system, 1 light, 2 dark) to the whole program.
+void ApplyColourScheme(QApplication& application, int scheme);
+
+/// A stored font and its colour; the system's window-text colour is taken from `palette`.
+QFont ToFont(const FontSetting& setting);
+QColor ToColour(ColourNumber colour, const QPalette& palette);
+ColourNumber FromColour(const QColor& colour);
+
+}  // namespace tricklet::ui
