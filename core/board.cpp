@@ -11,7 +11,9 @@ int SeatHolding(const HandTable& hands, Card card) {
   return -1;
 }
 
-void AddCard(HandTable& hands, Card card, Seat seat) { hands[seat][card.suit].Add(card.rank); }
+void AddCard(HandTable& hands, Card card, Seat seat) {
+  hands[seat][card.suit].Add(card.rank);
+}
 
 void GetHand(std::string_view& text, HandTable& hands, Seat seat) {
   const auto blank = text.find(' ');

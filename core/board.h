@@ -15,8 +15,7 @@ using HandTable = PerSeat<PerSuit<Holding>>;
 
 /// Double-dummy tricks, 0..13, of each declarer in each strain. Values of a foreign file are kept
 /// as they are.
-using MakeableTable =
-    EnumArray<TableSeat, EnumArray<TableStrain, std::int16_t, kStrains>, kSeats>;
+using MakeableTable = EnumArray<TableSeat, EnumArray<TableStrain, std::int16_t, kStrains>, kSeats>;
 
 /// The current board. A value: copying it copies the board.
 struct Board {

@@ -38,8 +38,8 @@ class Host {
   virtual void Beep() = 0;
 
   /// Nothing when the person chooses none.
-  virtual std::optional<std::filesystem::path> ChooseFolder(
-      const std::string& title, const std::filesystem::path& start) = 0;
+  virtual std::optional<std::filesystem::path> ChooseFolder(const std::string& title,
+                                                            const std::filesystem::path& start) = 0;
   virtual std::optional<std::filesystem::path> ChooseOpenFile(const FileChoice& choice) = 0;
   virtual std::optional<std::filesystem::path> ChooseSaveFile(const FileChoice& choice) = 0;
 

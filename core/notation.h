@@ -99,8 +99,12 @@ constexpr int IndexOf(Enum value) {
 constexpr Seat SeatAfter(Seat seat, int steps = 1) {
   return static_cast<Seat>(static_cast<unsigned>(IndexOf(seat) + steps) & 3U);
 }
-constexpr Seat PartnerOf(Seat seat) { return SeatAfter(seat, 2); }
-constexpr Side SideOf(Seat seat) { return static_cast<Side>(IndexOf(seat) % 2); }
+constexpr Seat PartnerOf(Seat seat) {
+  return SeatAfter(seat, 2);
+}
+constexpr Side SideOf(Seat seat) {
+  return static_cast<Side>(IndexOf(seat) % 2);
+}
 
 /// The one place where bidding order and play order meet: no-trump stays last, the suits turn over.
 constexpr Strain ToStrain(BidStrain strain) {
@@ -110,12 +114,16 @@ constexpr BidStrain ToBidStrain(Strain strain) {
   return strain == Strain::NoTrump ? BidStrain::NoTrump
                                    : static_cast<BidStrain>(3 - IndexOf(strain));
 }
-constexpr Strain ToStrain(Suit suit) { return static_cast<Strain>(IndexOf(suit)); }
+constexpr Strain ToStrain(Suit suit) {
+  return static_cast<Strain>(IndexOf(suit));
+}
 /// Table columns run in bidding order.
 constexpr TableStrain ToTableStrain(BidStrain strain) {
   return static_cast<TableStrain>(IndexOf(strain));
 }
-constexpr TableStrain ToTableStrain(Strain strain) { return ToTableStrain(ToBidStrain(strain)); }
+constexpr TableStrain ToTableStrain(Strain strain) {
+  return ToTableStrain(ToBidStrain(strain));
+}
 
 /// North and West keep their places; East and South change theirs. The map is its own inverse.
 constexpr TableSeat ToTableSeat(Seat seat) {
@@ -131,8 +139,7 @@ inline constexpr EnumArray<Strain, std::string_view, kStrains> StrainLetter{
     {"S", "H", "D", "C", "NT"}};
 inline constexpr PerSuit<std::string_view> SuitName{{"Spades", "Hearts", "Diamonds", "Clubs"}};
 /// Suit symbols U+2660, U+2665, U+2666, U+2663 in UTF-8.
-inline constexpr PerSuit<std::string_view> SuitSymbol{
-    {"\u2660", "\u2665", "\u2666", "\u2663"}};
+inline constexpr PerSuit<std::string_view> SuitSymbol{{"\u2660", "\u2665", "\u2666", "\u2663"}};
 inline constexpr EnumArray<Vulnerability, std::string_view, 4> VulText{
     {"Love all", "NS vulnerable", "EW vulnerable", "All vulnerable"}};
 inline constexpr EnumArray<Vulnerability, std::string_view, 4> VulShort{

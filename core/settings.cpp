@@ -15,8 +15,7 @@ constexpr std::string_view kOptions = "Tricklet";
 constexpr std::string_view kWindowText = "&H80000008";
 
 /// A table row for a member of `Settings`, or of one of its two fonts.
-#define TRICKLET_FIELD(member) \
-  [](Settings& settings) -> SettingField { return &settings.member; }
+#define TRICKLET_FIELD(member) [](Settings& settings) -> SettingField { return &settings.member; }
 
 constexpr std::array kTable{
     SettingEntry{kMacro, "filelocation", "", TRICKLET_FIELD(filelocation)},
@@ -176,7 +175,9 @@ void OverlayStore::Write(std::string_view section, std::string_view key, const s
   }
 }
 
-std::span<const SettingEntry> SettingTable() { return kTable; }
+std::span<const SettingEntry> SettingTable() {
+  return kTable;
+}
 
 const SettingEntry* FindSetting(std::string_view name) {
   for (const SettingEntry& entry : kTable) {

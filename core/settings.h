@@ -36,29 +36,29 @@ struct FontSetting {
 
 /// Every setting under the name of its key.
 struct Settings {
-  std::string filelocation;       ///< library root, ending in the platform's separator; UTF-8
-  std::string library;            ///< current library
-  bool CardsFaces = false;        ///< hands as card faces; else as text
-  int CardDesign = 0;             ///< 1..3
-  bool SuitColour = false;        ///< four suit colours; else red and black
-  double SuitFontSize = 0;        ///< points
+  std::string filelocation;  ///< library root, ending in the platform's separator; UTF-8
+  std::string library;       ///< current library
+  bool CardsFaces = false;   ///< hands as card faces; else as text
+  int CardDesign = 0;        ///< 1..3
+  bool SuitColour = false;   ///< four suit colours; else red and black
+  double SuitFontSize = 0;   ///< points
   bool CaptionPlayer = false;
   bool CaptionnCards = false;
   bool CaptionHCP = false;
   bool CaptionLTC = false;
   bool CaptionDeclarer = false;
   bool CaptionDummy = false;
-  bool AutoLaunch = false;        ///< open the main window without waiting on the start dialog
-  bool AutoUpdate = false;        ///< look for a newer version at start
-  bool AutoMakeable = false;      ///< compute a missing double-dummy table
+  bool AutoLaunch = false;    ///< open the main window without waiting on the start dialog
+  bool AutoUpdate = false;    ///< look for a newer version at start
+  bool AutoMakeable = false;  ///< compute a missing double-dummy table
   bool ShowStats = false;
   bool ShowMakeable = false;
   bool MakeableContract = false;  ///< makeable pane shows contracts; else tricks
   bool PBNBids = false;           ///< PBN export writes the auction
   bool PBNShark = false;          ///< PBN export writes a result tag and a board comment
   int EditMethod = 0;
-  int ShowMessage = 0;            ///< version up to which the notice of new features has been seen
-  int ColourScheme = 0;           ///< 0 as the system, 1 light, 2 dark
+  int ShowMessage = 0;   ///< version up to which the notice of new features has been seen
+  int ColourScheme = 0;  ///< 0 as the system, 1 light, 2 dark
   std::array<FontSetting, 2> HGFont;  ///< 0: holdings as text; 1: captions and auction
 
   /// All defaults, from the table.
@@ -110,7 +110,7 @@ struct SettingEntry {
   std::string_view key;
   std::string_view defaultText;
   SettingField (*field)(Settings&);
-  double lowest = 0;   ///< of numbers
+  double lowest = 0;  ///< of numbers
   double highest = 0;
 };
 

@@ -5,8 +5,8 @@
 namespace tricklet {
 namespace {
 
-constexpr int kHonours = 4;      // ace to jack carry points
-constexpr int kLoserRanks = 3;   // ace to queen can be losers
+constexpr int kHonours = 4;     // ace to jack carry points
+constexpr int kLoserRanks = 3;  // ace to queen can be losers
 
 int HonourPoints(Holding holding) {
   int points = 0;

@@ -17,7 +17,7 @@ struct Statistics {
   PerSeat<int> SeatHCP;
   PerSeat<int> SeatLTC;  ///< losing-trick count
   PerSide<int> PairLTC;
-  PerSuit<Holding> MissingCards;  ///< ranks of the suit that no seat holds
+  PerSuit<Holding> MissingCards;      ///< ranks of the suit that no seat holds
   Seat IncompleteSeat = Seat::North;  ///< the last seat without 13 cards, when there is one
   bool AllHandsComplete = false;      ///< all four seats hold 13 cards
 

@@ -6,7 +6,9 @@
 namespace tricklet {
 namespace {
 
-constexpr bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+constexpr bool IsBlank(char c) {
+  return c == ' ' || c == '\t';
+}
 
 /// Length of the well-formed UTF-8 sequence at the front of `bytes`, 0 when there is none (Unicode
 /// standard, table 3-7: no overlong forms, no surrogates, nothing above U+10FFFF).

@@ -27,8 +27,8 @@ std::string Latin1ToUtf8(std::string_view bytes);
 /// Characters outside Latin-1 become "?".
 std::string Utf8ToLatin1(std::string_view text);
 
-/// Bytes of a foreign file made fit to be shown: UTF-8 kept, anything else taken as Latin-1, control
-/// characters as blanks, and cut with "..." beyond `longest` bytes.
+/// Bytes of a foreign file made fit to be shown: UTF-8 kept, anything else taken as Latin-1,
+/// control characters as blanks, and cut with "..." beyond `longest` bytes.
 std::string Showable(std::string_view bytes, std::size_t longest = 200);
 
 std::string PathText(const std::filesystem::path& path);

@@ -5,9 +5,9 @@
 
 namespace tricklet {
 
-/// Writes the current board to its file in the current library. Asks before a changed board replaces
-/// an existing file, and refuses to replace a read-only one. True when it was written; a failure is
-/// reported and leaves the old file and the unsaved flag.
+/// Writes the current board to its file in the current library. Asks before a changed board
+/// replaces an existing file, and refuses to replace a read-only one. True when it was written; a
+/// failure is reported and leaves the old file and the unsaved flag.
 bool SaveHand(Session& session, Buttons style = Buttons::YesNo);
 
 /// Stores the current board of a run (import, generation): no question, no rescan of the library.
@@ -15,8 +15,9 @@ bool SaveHand(Session& session, Buttons style = Buttons::YesNo);
 void StoreBoard(Session& session);
 
 /// Reads the current board from its file. Without a file the board is cleared and its number stays;
-/// a file that cannot be read gives a message, and the board keeps what had been read.
-void LoadHand(Session& session);
+/// a file that cannot be read gives a message, and the board keeps what had been read. True when
+/// the board was read.
+bool LoadHand(Session& session);
 
 /// Reads the board under its number for a writer: false, with a message, when the file cannot be
 /// read. The table is read only for a complete deal; `allHandsComplete` says whether it is one.

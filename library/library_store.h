@@ -1,8 +1,10 @@
 // Library folders: finding, selecting, counting, trimming; copying one board to another place.
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "library/session.h"
 
@@ -13,9 +15,16 @@ inline constexpr int kBoardsOfEmptyLibrary = 24;
 
 /// Lists the libraries of the root (sub-folders whose name does not begin with ".") and selects the
 /// current one, or the first when it is gone. An empty root is given the library "Default".
+/// Selecting loads board 1, after `CheckSaveChanges`; on Cancel nothing happens.
 void GetLibraryNames(Session& session);
 
-/// Scans the current library's folder, once.
+/// Names of the libraries under `root`, in the order of the list.
+std::vector<std::string> FoldersOf(const std::filesystem::path& root);
+
+/// Scans a library's folder, once; `MaxBoard` is left at 0.
+LibraryState ScanLibrary(const std::filesystem::path& folder);
+
+/// Scans the current library.
 void CountHands(Session& session);
 
 /// Scans the current library and sets the number of boards offered.
@@ -48,6 +57,8 @@ bool SetMaxBoard(Session& session, int highest);
 
 /// `character` may be typed into a library's name at this place.
 bool AllowedInLibraryName(char32_t character, bool first);
+/// All characters of `name` are allowed, and there is one.
+bool HasAllowedCharacters(std::string_view name);
 /// `name` can be given to a new library of this root: allowed characters, and not yet taken in any
 /// letter case.
 bool IsNewLibraryName(const Session& session, std::string_view name);

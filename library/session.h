@@ -30,8 +30,8 @@ struct Session {
   SettingsStore& store;
   Settings settings;
 
-  Board board;           ///< the current board
-  LibraryState library;  ///< the current library
+  Board board;                            ///< the current board
+  LibraryState library;                   ///< the current library
   std::vector<std::string> LibraryNames;  ///< all libraries of the root, in the order of the list
   int LibIndex = -1;                      ///< the current library's position in it, -1 when none
 

@@ -1,0 +1,164 @@
+#include "library/board_file.h"
+
+#include <algorithm>
+#include <charconv>
+#include <optional>
+
+#include "core/statistics.h"
+#include "core/text.h"
+
+namespace tricklet {
+namespace {
+
+constexpr std::string_view kEnding = ".txt";
+constexpr std::string_view kLineEnd = "\r\n";
+
+/// Hands out one line after another, whichever way the lines end.
+class LineReader {
+ public:
+  explicit LineReader(std::string_view text) : rest_(text) {}
+
+  bool AtEnd() const { return rest_.empty(); }
+
+  std::optional<std::string_view> Next() {
+    if (AtEnd()) return std::nullopt;
+    const auto end = rest_.find_first_of(kLineEnd);
+    const std::string_view line = rest_.substr(0, end);
+    rest_.remove_prefix(line.size());
+    const bool pair = rest_.substr(0, kLineEnd.size()) == kLineEnd;
+    rest_.remove_prefix(std::min(rest_.size(), pair ? kLineEnd.size() : 1));
+    return line;
+  }
+
+  /// The next line as a number; nothing when it is none. Blanks round it do not matter.
+  std::optional<int> NextNumber() {
+    const auto line = Next();
+    if (!line) return std::nullopt;
+    const std::string_view digits = Trim(*line);
+    std::int16_t value = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    if (error != std::errc() || end != digits.data() + digits.size()) return std::nullopt;
+    return value;
+  }
+
+  /// Only blanks and empty lines are left.
+  bool OnlyBlanksLeft() const {
+    return rest_.find_first_not_of(" \t\r\n") == std::string_view::npos;
+  }
+
+ private:
+  std::string_view rest_;
+};
+
+void AppendNumber(std::string& text, int value) {
+  if (value >= 0) text += ' ';
+  text += std::to_string(value);
+  text += kLineEnd;
+}
+
+/// Takes `holding` of `suit` from every seat before `seat`: a card lies in one hand only.
+void TakeFromSeatsBefore(HandTable& hands, Seat seat, Suit suit, Holding holding) {
+  for (const Seat other : kAllSeats) {
+    if (other == seat) return;
+    hands[other][suit] = hands[other][suit] - holding;
+  }
+}
+
+bool ReadHands(LineReader& lines, HandTable& hands) {
+  for (const Seat seat : kAllSeats) {
+    for (const Suit suit : kAllSuits) {
+      const auto line = lines.Next();
+      if (!line) return false;
+      hands[seat][suit] = AddSpace(*line);
+      TakeFromSeatsBefore(hands, seat, suit, hands[seat][suit]);
+    }
+  }
+  return true;
+}
+
+bool ReadCalls(LineReader& lines, CallList& calls) {
+  const auto count = lines.NextNumber();
+  if (!count || *count < 0 || *count > CallList::kCapacity) return false;
+  for (int i = 0; i < *count; ++i) {
+    const auto line = lines.Next();
+    const auto call = line ? Call::FromText(*line) : std::nullopt;
+    if (!call) return false;
+    calls.Add(*call);
+  }
+  return true;
+}
+
+/// A file that ends after the calls has no table.
+bool ReadTable(LineReader& lines, Board& board) {
+  if (lines.OnlyBlanksLeft()) return true;
+  const auto valid = lines.NextNumber();
+  if (!valid) return false;
+  if (*valid != 1) return true;
+  MakeableTable table;
+  for (auto& row : table) {
+    for (std::int16_t& tricks : row) {
+      const auto value = lines.NextNumber();
+      if (!value) return false;
+      tricks = static_cast<std::int16_t>(*value);
+    }
+  }
+  board.Makeable = table;
+  board.MakeableValid = true;
+  return true;
+}
+
+}  // namespace
+
+std::string BoardFileName(int boardNumber) {
+  std::string digits = std::to_string(boardNumber);
+  if (digits.size() < 3) digits.insert(0, 3 - digits.size(), '0');
+  return digits + std::string(kEnding);
+}
+
+int BoardNumberOfFile(std::string_view name) {
+  constexpr std::size_t kDigits = 3;
+  if (name.size() != kDigits + kEnding.size() || name.substr(kDigits) != kEnding) return 0;
+  int number = 0;
+  for (const char c : name.substr(0, kDigits)) {
+    if (c < '0' || c > '9') return 0;
+    number = number * 10 + (c - '0');
+  }
+  return number;
+}
+
+std::string WriteBoardText(const Board& board) {
+  std::string text;
+  text.reserve(512);
+  for (const Seat seat : kAllSeats) {
+    for (const Suit suit : kAllSuits) {
+      text += HoldingText(board.Hands[seat][suit]);
+      text += kLineEnd;
+    }
+  }
+  AppendNumber(text, board.NumCalls());
+  for (const Call call : board.Calls) {
+    text += call.Text();
+    text += kLineEnd;
+  }
+  AppendNumber(text, board.MakeableValid ? 1 : 0);
+  if (board.MakeableValid) {
+    for (const auto& row : board.Makeable) {
+      for (const std::int16_t tricks : row) AppendNumber(text, tricks);
+    }
+  }
+  return text;
+}
+
+bool ReadBoardText(std::string_view text, Board& board, TableReading tables) {
+  LineReader lines(text);
+  board.Hands = HandTable();
+  board.Calls.Clear();
+  board.MakeableValid = false;
+  const bool readable = ReadHands(lines, board.Hands) && ReadCalls(lines, board.Calls);
+  GetContract(board);
+  if (!readable) return false;
+  const bool wantTable = tables == TableReading::Always || GetStats(board.Hands).AllHandsComplete;
+  return !wantTable || ReadTable(lines, board);
+}
+
+}  // namespace tricklet

@@ -1,0 +1,93 @@
+#include "library/board_store.h"
+
+#include "core/fault.h"
+#include "core/statistics.h"
+#include "core/text.h"
+#include "library/board_file.h"
+#include "library/file_io.h"
+#include "library/library_store.h"
+
+namespace tricklet {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The file is marked read-only. Asked of its permissions, not by trying to open it: an
+/// administrator may open anything, and the mark is the owner's wish all the same.
+bool IsReadOnly(const fs::path& path) {
+  std::error_code failure;
+  const fs::file_status status = fs::status(path, failure);
+  return !failure && (status.permissions() & fs::perms::owner_write) == fs::perms::none;
+}
+
+/// Asks before a changed board replaces `path`; false when it must not.
+bool MayReplace(Session& session, const fs::path& path, Buttons style) {
+  const std::string question =
+      "Overwrite existing board " + std::to_string(session.board.BoardNumber) + "?";
+  const Answer answer = session.host.Ask(question, "Hand already in library", style);
+  if (answer != Answer::Yes && answer != Answer::OK) return false;
+  if (IsReadOnly(path)) {
+    session.host.Tell("The file\n" + PathText(path) + "\nis read only so the hand cannot be saved");
+    return false;
+  }
+  return true;
+}
+
+void TellUnreadable(Session& session, const fs::path& path) {
+  session.host.Tell("Can't read the file " + PathText(path));
+}
+
+bool ReadBoardFile(const fs::path& path, Board& board, TableReading tables) {
+  try {
+    return ReadBoardText(ReadWholeFile(path, kMaxBoardFileBytes), board, tables);
+  } catch (const Fault&) {
+    return false;
+  }
+}
+
+}  // namespace
+
+bool SaveHand(Session& session, Buttons style) {
+  const fs::path path = session.BoardPath(session.board.BoardNumber);
+  if (session.board.HandChanged && FileExists(path) && !MayReplace(session, path, style)) {
+    return false;
+  }
+  try {
+    StoreBoard(session);
+  } catch (const Fault& fault) {
+    ErrorReport(session.host, fault);
+    return false;
+  }
+  CountHands(session);
+  return true;
+}
+
+void StoreBoard(Session& session) {
+  if (!IsStorable(session.board.BoardNumber)) {
+    throw Fault(FaultNumber::SubscriptOutOfRange, "A library holds boards 1 to 999");
+  }
+  ReplaceWholeFile(session.BoardPath(session.board.BoardNumber), WriteBoardText(session.board));
+  session.board.HandChanged = false;
+}
+
+bool LoadHand(Session& session) {
+  const fs::path path = session.BoardPath(session.board.BoardNumber);
+  ClearAll(session.board);
+  session.board.HandChanged = false;
+  if (!FileExists(path)) return false;
+  const bool readable = ReadBoardFile(path, session.board, TableReading::Always);
+  if (!readable) TellUnreadable(session, path);
+  return readable;
+}
+
+bool LoadHandBasic(Session& session, Board& board, bool& allHandsComplete) {
+  const fs::path path = session.BoardPath(board.BoardNumber);
+  ClearAll(board);
+  board.HandChanged = false;
+  const bool readable = ReadBoardFile(path, board, TableReading::OnlyWhenComplete);
+  if (!readable) TellUnreadable(session, path);
+  allHandsComplete = readable && GetStats(board.Hands).AllHandsComplete;
+  return readable;
+}
+
+}  // namespace tricklet

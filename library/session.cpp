@@ -1,0 +1,26 @@
+#include "library/session.h"
+
+#include "core/text.h"
+#include "library/board_file.h"
+
+namespace tricklet {
+
+namespace fs = std::filesystem;
+
+fs::path Session::FileLocation() const {
+  return PathFromText(settings.filelocation);
+}
+
+fs::path Session::LibraryPath() const {
+  return FileLocation() / PathFromText(settings.library);
+}
+
+fs::path Session::BoardPath(int boardNumber) const {
+  return LibraryPath() / BoardFileName(boardNumber);
+}
+
+std::string FolderText(const fs::path& path) {
+  return PathText(path / "");
+}
+
+}  // namespace tricklet

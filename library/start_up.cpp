@@ -1,0 +1,83 @@
+#include "library/start_up.h"
+
+#include "core/fault.h"
+#include "core/text.h"
+#include "core/version.h"
+#include "library/library_store.h"
+
+namespace tricklet {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool FolderExists(const fs::path& path) {
+  std::error_code ignored;
+  return !path.empty() && fs::is_directory(path, ignored);
+}
+
+/// A path that ends in a separator names a drive (or the file system's root) as a whole.
+bool IsDriveRoot(const fs::path& path) {
+  return !path.has_filename() && path == path.root_path();
+}
+
+/// Asks until a folder that can be a library root is chosen; false when none is.
+bool ChooseLibraryRoot(Session& session) {
+  session.settings.filelocation.clear();
+  session.host.Tell(
+      "Please choose a folder (new or existing)\nwhere you will keep your library of hands");
+  for (;;) {
+    const auto chosen = session.host.ChooseFolder("Choose the macro library folder", fs::path());
+    if (!chosen || chosen->empty()) {
+      session.host.Tell("You must choose a folder");
+      return false;
+    }
+    if (IsDriveRoot(*chosen)) {
+      session.host.Tell("Please choose a folder, not " + PathText(*chosen));
+      continue;
+    }
+    session.settings.filelocation = FolderText(*chosen);
+    SaveSetting(session.settings, "filelocation", session.store);
+    return true;
+  }
+}
+
+}  // namespace
+
+std::string VersionText() {
+  const std::string revision = std::to_string(kVersionRevision);
+  return "Version " + std::to_string(kVersionMajor) + "." + std::to_string(kVersionMinor) + "." +
+         (revision.size() < 2 ? "0" : "") + revision;
+}
+
+int VersionNumber() {
+  return 100 * kVersionMajor + kVersionMinor;
+}
+
+std::string UpdateText(const Settings& settings) {
+  // There is no site to ask yet, so with the option on the start goes on without a word.
+  return settings.AutoUpdate ? "" : "Option to check for updates is switched off";
+}
+
+void ShowNotice(Session& session) {
+  if (session.settings.ShowMessage >= VersionNumber()) return;
+  const Answer again = session.host.Ask(
+      "Click Help > New Features to see details of the latest changes\n\n"
+      "Do you want to see this message next time Tricklet starts?",
+      std::string(kProgramName), Buttons::YesNo);
+  if (again == Answer::Yes) return;
+  session.settings.ShowMessage = VersionNumber();
+  SaveSetting(session.settings, "ShowMessage", session.store);
+}
+
+bool OpenLibraries(Session& session) {
+  if (!FolderExists(session.FileLocation()) && !ChooseLibraryRoot(session)) return false;
+  std::error_code failure;
+  fs::create_directories(session.LibraryPath(), failure);
+  if (failure) {
+    ErrorReport(session.host, Fault::OfFile(failure, PathText(session.LibraryPath())));
+  }
+  GetLibraryNames(session);
+  return true;
+}
+
+}  // namespace tricklet
