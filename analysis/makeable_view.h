@@ -11,10 +11,10 @@ namespace tricklet {
 struct MakeableView {
   std::string caption;  ///< "Makeable contracts" or "Makeable tricks"
   struct Row {
-    std::string seat;                           ///< "North"
-    std::array<std::string, kStrains> cells;    ///< spades, hearts, diamonds, clubs, no-trump
+    std::string seat;                         ///< "North"
+    std::array<std::string, kStrains> cells;  ///< spades, hearts, diamonds, clubs, no-trump
   };
-  std::array<Row, kSeats> rows;  ///< North, South, East, West
+  std::array<Row, kSeats> rows;  ///< clockwise from North
 };
 
 /// Tricks less six with `MakeableContract` on, else tricks; "-" for 0 or less.

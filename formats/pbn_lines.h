@@ -1,0 +1,35 @@
+// The lines of a PBN text, one after another.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace tricklet {
+
+/// A cursor that never copies: a line may be as long as the file.
+class PbnLines {
+ public:
+  explicit PbnLines(std::string_view text);
+
+  /// The text holds a line end at all.
+  bool HasLines() const { return !separator_.empty(); }
+
+  /// Moves to the next line; past the last one `Line` stays what it was.
+  void ReadNextLine();
+
+  bool PastEnd() const { return pastEnd_; }
+  std::string_view Line() const { return line_; }
+
+  /// Thousandths of the text that have been read.
+  int Progress() const;
+  static constexpr int kWhole = 1000;
+
+ private:
+  std::string_view text_;
+  std::string_view separator_;
+  std::size_t next_ = 0;  // where the next line begins; npos after the last
+  std::string_view line_;
+  bool pastEnd_ = false;
+};
+
+}  // namespace tricklet
