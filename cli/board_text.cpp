@@ -1,0 +1,135 @@
+#include "cli/board_text.h"
+
+#include <array>
+
+#include "analysis/makeable_view.h"
+#include "core/statistics.h"
+
+namespace tricklet::cli {
+namespace {
+
+constexpr std::size_t kColumn = 26;  // of the diagram: West, North and South, East
+constexpr std::size_t kCallWidth = 7;
+constexpr std::size_t kNumberWidth = 4;
+
+/// Characters, not bytes: suit symbols take three bytes each.
+std::size_t Width(const std::string& text) {
+  std::size_t width = 0;
+  for (const char c : text) width += (static_cast<unsigned char>(c) & 0xC0U) != 0x80U ? 1 : 0;
+  return width;
+}
+
+std::string PadRight(std::string text, std::size_t width) {
+  const std::size_t have = Width(text);
+  if (have < width) text.append(width - have, ' ');
+  return text;
+}
+
+std::string PadLeft(const std::string& text, std::size_t width) {
+  const std::size_t have = Width(text);
+  return have < width ? std::string(width - have, ' ') + text : text;
+}
+
+void AppendLine(std::string& text, std::string line) {
+  line.erase(line.find_last_not_of(' ') + 1);
+  text += line + "\n";
+}
+
+std::string SuitLine(const Board& board, Seat seat, Suit suit) {
+  const Holding holding = board.Hands[seat][suit];
+  return std::string(SuitSymbol[suit]) + (holding.Empty() ? " -" : HoldingText(holding));
+}
+
+void AppendHand(std::string& text, const Board& board, Seat seat) {
+  const std::string indent(kColumn, ' ');
+  AppendLine(text, indent + std::string(SeatName[seat]));
+  for (const Suit suit : kAllSuits) AppendLine(text, indent + SuitLine(board, seat, suit));
+}
+
+void AppendWestAndEast(std::string& text, const Board& board) {
+  AppendLine(text, PadRight("West", 2 * kColumn) + "East");
+  for (const Suit suit : kAllSuits) {
+    AppendLine(text, PadRight(SuitLine(board, Seat::West, suit), 2 * kColumn) +
+                         SuitLine(board, Seat::East, suit));
+  }
+}
+
+std::string CallText(Call call) {
+  if (!call.IsBid() || call.Denomination() == BidStrain::NoTrump) return call.Text();
+  const Strain strain = ToStrain(call.Denomination());
+  return std::to_string(call.Level()) + std::string(SuitSymbol[static_cast<Suit>(strain)]);
+}
+
+/// Columns West, North, East, South; the first row begins at the dealer.
+void AppendAuction(std::string& text, const Board& board) {
+  if (board.NumCalls() == 0) return;
+  text += "\n";
+  std::string line;
+  for (const Seat seat : {Seat::West, Seat::North, Seat::East, Seat::South}) {
+    line += PadRight(std::string(SeatName[seat]), kCallWidth);
+  }
+  AppendLine(text, line);
+  int column = IndexOf(SeatAfter(board.Dealer()));
+  line.assign(static_cast<std::size_t>(column) * kCallWidth, ' ');
+  for (const Call call : board.Calls) {
+    line += PadRight(CallText(call), kCallWidth);
+    if (++column % kSeats == 0) {
+      AppendLine(text, line);
+      line.clear();
+    }
+  }
+  if (!line.empty()) AppendLine(text, line);
+  if (!board.Contract.empty()) AppendLine(text, "\nContract: " + ContractLabel(board));
+}
+
+void AppendStatistics(std::string& text, const Board& board) {
+  const Statistics statistics = GetStats(board.Hands);
+  std::string line = "\n" + PadRight("", kCallWidth) + " HCP LTC";
+  for (const Suit suit : kAllSuits) line += PadLeft(std::string(SuitSymbol[suit]), kNumberWidth);
+  AppendLine(text, line);
+  for (const Seat seat : kAllSeats) {
+    line = PadRight(std::string(SeatName[seat]), kCallWidth) +
+           PadLeft(std::to_string(statistics.SeatHCP[seat]), kNumberWidth) +
+           PadLeft(std::to_string(statistics.SeatLTC[seat]), kNumberWidth);
+    for (const Suit suit : kAllSuits) {
+      line += PadLeft(std::to_string(statistics.SuitLength[seat][suit]), kNumberWidth);
+    }
+    AppendLine(text, line);
+  }
+  AppendLine(text, "Losers: NS " + std::to_string(statistics.PairLTC[Side::NorthSouth]) + ", EW " +
+                       std::to_string(statistics.PairLTC[Side::EastWest]));
+}
+
+void AppendTable(std::string& text, const Board& board, bool contracts) {
+  if (!board.MakeableValid) return;
+  const MakeableView view = MakeMakeableView(board.Makeable, contracts);
+  AppendLine(text, "\n" + view.caption);
+  std::string line = PadRight("", kCallWidth);
+  for (const Suit suit : kAllSuits) line += PadLeft(std::string(SuitSymbol[suit]), kNumberWidth);
+  AppendLine(text, line + PadLeft("NT", kNumberWidth));
+  for (const MakeableView::Row& row : view.rows) {
+    line = PadRight(row.seat, kCallWidth);
+    for (const std::string& cell : row.cells) line += PadLeft(cell, kNumberWidth);
+    AppendLine(text, line);
+  }
+}
+
+}  // namespace
+
+std::string BoardText(const Board& board, const std::string& libraryName,
+                      const Settings& settings) {
+  std::string text;
+  AppendLine(text, libraryName + " - Board " + std::to_string(board.BoardNumber));
+  AppendLine(text, "Dealer " + std::string(SeatName[board.Dealer()]) + ", " +
+                       std::string(VulText[board.Vulnerability()]));
+  text += "\n";
+  AppendHand(text, board, Seat::North);
+  AppendWestAndEast(text, board);
+  AppendHand(text, board, Seat::South);
+  AppendAuction(text, board);
+  AppendStatistics(text, board);
+  AppendTable(text, board, settings.MakeableContract);
+  return text;
+}
+
+}  // namespace tricklet::cli

@@ -1,0 +1,168 @@
+#include "cli/commands.h"
+
+#include <ostream>
+
+#include "cli/board_text.h"
+#include "core/fault.h"
+#include "core/text.h"
+#include "formats/export.h"
+#include "formats/import.h"
+#include "library/board_store.h"
+#include "library/file_io.h"
+#include "library/library_store.h"
+
+namespace tricklet::cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool RootExists(const Context& context) {
+  std::error_code ignored;
+  const fs::path root = context.session.FileLocation();
+  if (!root.empty() && fs::is_directory(root, ignored)) return true;
+  context.session.host.Tell(root.empty()
+                                ? "There is no library root yet: name one with --root"
+                                : "There is no folder " + context.session.settings.filelocation);
+  return false;
+}
+
+bool MakeLibrary(const Context& context) {
+  Session& session = context.session;
+  if (session.settings.filelocation.empty()) return RootExists(context);
+  if (!HasAllowedCharacters(session.LibraryName())) {
+    session.host.Tell("A library cannot be named " + session.LibraryName());
+    return false;
+  }
+  std::error_code failure;
+  fs::create_directories(session.LibraryPath(), failure);
+  if (failure) ErrorReport(session.host, Fault::OfFile(failure, PathText(session.LibraryPath())));
+  return !failure;
+}
+
+/// The name by which a setting is listed: with its section only where the key alone is not enough.
+std::string ListedName(const SettingEntry& entry) {
+  const bool alone = FindSetting(entry.key) == &entry;
+  return (alone ? "" : std::string(entry.section) + "/") + std::string(entry.key);
+}
+
+ExitCode WriteSetting(const Context& context, const SettingEntry& entry, std::string value) {
+  Session& session = context.session;
+  if (entry.key == "filelocation") value = FolderText(PathFromText(value));
+  if (!SetFromText(session.settings, entry, value)) {
+    session.host.Tell(value + " is no value of " + ListedName(entry));
+    return ExitCode::Refused;
+  }
+  SaveSetting(session.settings, entry, session.store);
+  return ExitCode::Done;
+}
+
+}  // namespace
+
+bool OpenLibrary(const Context& context, bool create) {
+  Session& session = context.session;
+  std::error_code ignored;
+  if (!fs::is_directory(session.LibraryPath(), ignored) || session.LibraryName().empty()) {
+    if (create) {
+      if (!MakeLibrary(context)) return false;
+    } else {
+      if (!RootExists(context)) return false;
+      session.host.Tell("There is no library " + session.LibraryName() + " in " +
+                        session.settings.filelocation);
+      return false;
+    }
+  }
+  FindFiles(session);
+  return true;
+}
+
+ExitCode Libraries(const Context& context) {
+  if (!RootExists(context)) return ExitCode::Refused;
+  const fs::path root = context.session.FileLocation();
+  for (const std::string& name : FoldersOf(root)) {
+    context.data << name << '\t' << ScanLibrary(root / PathFromText(name)).BoardCount << '\n';
+  }
+  return ExitCode::Done;
+}
+
+ExitCode Boards(const Context& context, bool longForm) {
+  if (!OpenLibrary(context, false)) return ExitCode::Refused;
+  bool allRead = true;
+  Board board;
+  for (int number = kFirstBoardNumber; number <= context.session.library.LastBoard; ++number) {
+    if (!context.session.library.BoardPresent.at(static_cast<std::size_t>(number))) continue;
+    context.data << number;
+    if (longForm) {
+      board.BoardNumber = number;
+      bool complete = false;
+      allRead = LoadHandBasic(context.session, board, complete) && allRead;
+      context.data << '\t' << SeatName[board.Dealer()] << '\t' << VulShort[board.Vulnerability()]
+                   << '\t' << (board.Contract.empty() ? "-" : ContractLabel(board)) << '\t'
+                   << (board.MakeableValid ? "yes" : "no");
+    }
+    context.data << '\n';
+  }
+  return allRead ? ExitCode::Done : ExitCode::Refused;
+}
+
+ExitCode Show(const Context& context, int boardNumber) {
+  Session& session = context.session;
+  if (!OpenLibrary(context, false)) return ExitCode::Refused;
+  if (!FileExists(session.BoardPath(boardNumber))) {
+    session.host.Tell("There is no board " + std::to_string(boardNumber) + " in library " +
+                      session.LibraryName());
+    return ExitCode::Refused;
+  }
+  session.board.BoardNumber = boardNumber;
+  if (!LoadHand(session)) return ExitCode::Refused;
+  context.data << BoardText(session.board, session.LibraryName(), session.settings);
+  return ExitCode::Done;
+}
+
+ExitCode ImportFiles(const Context& context, const std::vector<fs::path>& files,
+                     const std::function<bool()>& ended) {
+  if (!OpenLibrary(context, true)) return ExitCode::Refused;
+  bool allDone = true;
+  for (const fs::path& file : files) {
+    const ImportOutcome outcome = ImportFile(context.session, file);
+    allDone = allDone && outcome.boardsSaved > 0 && !outcome.failed && !outcome.cancelled;
+    if (outcome.cancelled || ended()) return ExitCode::Refused;
+  }
+  return allDone ? ExitCode::Done : ExitCode::Refused;
+}
+
+ExitCode ExportBoards(const Context& context, const std::string& first, const std::string& last,
+                      const fs::path& file) {
+  Session& session = context.session;
+  ExportRange range;
+  if (!OpenLibrary(context, false) || !HasHandsToExport(session) ||
+      !CheckRangeTexts(session, first, last, range)) {
+    return ExitCode::Refused;
+  }
+  if (FileExists(file) &&
+      session.host.Ask(PathText(file) + " already exists\nDo you want to replace it?",
+                       std::string(kProgramName), Buttons::YesNo) != Answer::Yes) {
+    return ExitCode::Refused;
+  }
+  return ExportFile(session, range, file) ? ExitCode::Done : ExitCode::Refused;
+}
+
+ExitCode SettingsCommand(const Context& context, const std::string& key,
+                         const std::optional<std::string>& value) {
+  const Session& session = context.session;
+  if (key.empty()) {
+    for (const SettingEntry& entry : SettingTable()) {
+      context.data << ListedName(entry) << '=' << SettingText(session.settings, entry) << '\n';
+    }
+    return ExitCode::Done;
+  }
+  const SettingEntry* entry = FindSetting(key);
+  if (entry == nullptr) {
+    session.host.Tell("There is no setting " + key);
+    return ExitCode::Refused;
+  }
+  if (value) return WriteSetting(context, *entry, *value);
+  context.data << SettingText(session.settings, *entry) << '\n';
+  return ExitCode::Done;
+}
+
+}  // namespace tricklet::cli

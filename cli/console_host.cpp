@@ -1,0 +1,117 @@
+#include "cli/console_host.h"
+
+#include <algorithm>
+#include <istream>
+#include <ostream>
+#include <string>
+
+#include "platform/recycle.h"
+
+namespace tricklet::cli {
+namespace {
+
+/// What is answered for a person who cannot be asked.
+Answer Cautious(Buttons buttons) {
+  return buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
+}
+
+std::string_view Choices(Buttons buttons) {
+  switch (buttons) {
+    case Buttons::YesNo:
+      return " [y/n] ";
+    case Buttons::YesNoCancel:
+      return " [y/n/c] ";
+    case Buttons::OKCancel:
+      return " [o/c] ";
+  }
+  return " ";
+}
+
+/// The answer that a typed line means; nothing when it means none.
+std::optional<Answer> FromLine(const std::string& line, Buttons buttons) {
+  const char c = line.empty() ? ' ' : line[0];
+  const bool yesNo = buttons != Buttons::OKCancel;
+  if (yesNo && (c == 'y' || c == 'Y')) return Answer::Yes;
+  if (yesNo && (c == 'n' || c == 'N')) return Answer::No;
+  if (!yesNo && (c == 'o' || c == 'O' || c == 'y' || c == 'Y')) return Answer::OK;
+  if (buttons != Buttons::YesNo && (c == 'c' || c == 'C')) return Answer::Cancel;
+  return std::nullopt;
+}
+
+Answer FromOption(bool yes, Buttons buttons) {
+  if (buttons == Buttons::OKCancel) return yes ? Answer::OK : Answer::Cancel;
+  return yes ? Answer::Yes : Answer::No;
+}
+
+}  // namespace
+
+void ConsoleHost::Tell(const std::string& text, const std::string& /*title*/) {
+  EndWork();
+  messages_ << text << '\n';
+}
+
+Answer ConsoleHost::Ask(const std::string& text, const std::string& /*title*/, Buttons buttons) {
+  EndWork();
+  messages_ << text;
+  if (options_.answer) {
+    messages_ << (*options_.answer ? " yes\n" : " no\n");
+    return FromOption(*options_.answer, buttons);
+  }
+  if (!options_.terminal) {
+    messages_ << " no (--yes or --no answers this)\n";
+    return Cautious(buttons);
+  }
+  std::string line;
+  for (;;) {
+    messages_ << Choices(buttons) << std::flush;
+    if (!std::getline(in_, line)) return Cautious(buttons);
+    if (const auto answer = FromLine(line, buttons)) return *answer;
+  }
+}
+
+void ConsoleHost::Beep() {
+  if (options_.terminal) messages_ << '\a';
+}
+
+// Paths are named in the arguments: a console has nobody to choose them.
+std::optional<std::filesystem::path> ConsoleHost::ChooseFolder(
+    const std::string& /*title*/, const std::filesystem::path& /*start*/) {
+  return std::nullopt;
+}
+std::optional<std::filesystem::path> ConsoleHost::ChooseOpenFile(const FileChoice& /*choice*/) {
+  return std::nullopt;
+}
+std::optional<std::filesystem::path> ConsoleHost::ChooseSaveFile(const FileChoice& /*choice*/) {
+  return std::nullopt;
+}
+
+bool ConsoleHost::Recycle(const std::filesystem::path& path) {
+  return platform::Recycle(path);
+}
+
+bool ConsoleHost::OpenUrl(const std::string& address) {
+  messages_ << address << '\n';
+  return true;
+}
+
+bool ConsoleHost::Step(const std::string& text, int done, int total) {
+  constexpr int kBarWidth = 30;
+  constexpr auto kRedrawEvery = std::chrono::milliseconds(50);
+  const auto now = std::chrono::steady_clock::now();
+  if (options_.terminal && !options_.quiet && total > 0 && now - lastDrawn_ >= kRedrawEvery) {
+    lastDrawn_ = now;
+    barShown_ = true;
+    const int filled = std::clamp(done * kBarWidth / total, 0, kBarWidth);
+    messages_ << "\r[" << std::string(static_cast<std::size_t>(filled), '#')
+              << std::string(static_cast<std::size_t>(kBarWidth - filled), '.') << "] " << text
+              << "   " << std::flush;
+  }
+  return !interrupted_.load();
+}
+
+void ConsoleHost::EndWork() {
+  if (barShown_) messages_ << "\r\033[K" << std::flush;
+  barShown_ = false;
+}
+
+}  // namespace tricklet::cli

@@ -1,0 +1,17 @@
+// The command line program: gives the command line its process.
+#include <iostream>
+
+#include "cli/run.h"
+#include "platform/settings_store.h"
+#include "platform/signals.h"
+#include "platform/terminal.h"
+
+int main(int argc, char** argv) {
+  tricklet::platform::IgnoreFileSizeSignal();
+  const std::vector<std::string> arguments = tricklet::platform::PrepareConsole(argc, argv);
+  const auto store = tricklet::platform::MakeSettingsStore();
+  const tricklet::cli::Console console{std::cin, std::cout, std::cerr,
+                                       tricklet::platform::IsTerminal(),
+                                       tricklet::platform::CatchInterrupt()};
+  return tricklet::cli::Run(arguments, *store, console);
+}
