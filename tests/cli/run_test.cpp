@@ -1,0 +1,137 @@
+#include "cli/run.h"
+
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/library_fixture.h"
+
+namespace tricklet {
+namespace {
+
+namespace fs = std::filesystem;
+using test::ReadFile;
+using test::WriteFile;
+
+const std::string kPbn =
+    "% PBN 2.1\n[Board \"7\"]\n"
+    "[Deal \"N:A873.AJ83.52.Q32 95.74.AQJ84.T754 QT62.KQ62.K93.K8 KJ4.T95.T76.AJ96\"]\n"
+    "[Auction \"S\"]\n1NT AP\n[DoubleDummyTricks \"7AA557AA565337753377\"]\n";
+
+class CommandLine : public testing::Test {
+ protected:
+  CommandLine() { WriteFile(folder.Path() / "in.pbn", kPbn); }
+
+  /// Runs with --root on the test's folder; `out` and `err` hold what was printed.
+  int Run(std::vector<std::string> arguments, const std::string& typed = "",
+          bool terminal = false) {
+    arguments.insert(arguments.begin(), {"--root", PathText(folder.Path() / "root")});
+    return RunBare(arguments, typed, terminal);
+  }
+  int RunBare(const std::vector<std::string>& arguments, const std::string& typed = "",
+              bool terminal = false) {
+    std::istringstream in(typed);
+    std::ostringstream data;
+    std::ostringstream messages;
+    const int code = cli::Run(arguments, store, {in, data, messages, terminal, interrupted});
+    out = data.str();
+    err = messages.str();
+    return code;
+  }
+  std::string File(const char* name) { return PathText(folder.Path() / PathFromText(name)); }
+
+  test::TempFolder folder;
+  MemoryStore store;
+  std::atomic<bool> interrupted{false};
+  std::string out;
+  std::string err;
+};
+
+TEST_F(CommandLine, ImportsListsShowsAndExports) {
+  EXPECT_EQ(Run({"--library", "Caf\u00e9", "import", File("in.pbn")}), 0);
+  EXPECT_EQ(err, "Hand 7 has been saved to the library - Caf\u00e9\n");
+  EXPECT_EQ(Run({"libraries"}), 0);
+  EXPECT_EQ(out, "Caf\u00e9\t1\n");
+  EXPECT_EQ(Run({"--library", "Caf\u00e9", "boards", "--long"}), 0);
+  EXPECT_EQ(out, "7\tSouth\tAll vul\t1NT by South\tyes\n");
+  EXPECT_EQ(Run({"--library", "Caf\u00e9", "show", "7"}), 0);
+  for (const char* part : {"Dealer South, All vulnerable", "\u2660 Q 10 6 2",
+                           "Contract: 1NT by South", "Makeable contracts", "South    13"}) {
+    EXPECT_NE(out.find(part), std::string::npos) << part << "\n" << out;
+  }
+  EXPECT_EQ(Run({"--library", "Caf\u00e9", "export", "7", "7", File("out.pbn")}), 0);
+  EXPECT_NE(ReadFile(folder.Path() / "out.pbn").find("[Auction \"S\"]\r\n1NT Pass Pass Pass "),
+            std::string::npos);
+  EXPECT_FALSE(store.Read("macro", "library")) << "root and library are for one call only";
+}
+
+TEST_F(CommandLine, QuestionsAreAnsweredByOptionTerminalOrCaution) {
+  ASSERT_EQ(Run({"import", File("in.pbn")}), 0);
+  const std::vector<std::string> again{"import", File("in.pbn")};
+  EXPECT_EQ(Run(again), 1) << "nobody there: not overwritten";
+  EXPECT_EQ(Run({"--no", "import", File("in.pbn")}), 1);
+  EXPECT_EQ(Run({"--yes", "import", File("in.pbn")}), 0);
+  EXPECT_EQ(Run(again, "what?\ny\n", true), 0);
+  EXPECT_EQ(Run(again, "n\n", true), 1);
+  EXPECT_EQ(Run(again, "", true), 1) << "the terminal was closed";
+  ASSERT_EQ(Run({"export", "7", "7", File("out.pbn")}), 0);
+  EXPECT_EQ(Run({"export", "7", "7", File("out.pbn")}), 1);
+  EXPECT_EQ(Run({"--yes", "export", "7", "7", File("out.pbn")}), 0);
+}
+
+TEST_F(CommandLine, RefusesWithAMessageAndOne) {
+  const std::vector<std::vector<std::string>> kRefused{
+      {"boards"},
+      {"show", "1"},
+      {"export", "1", "2", File("x.pbn")},
+      {"libraries"},
+      {"settings", "Colour"},
+      {"settings", "CardDesign", "9"},
+      {"--library", "a/b", "import", File("in.pbn")},
+      {"import", File("missing.pbn")},
+      {"show", "3"}};
+  for (const auto& arguments : kRefused) {
+    EXPECT_EQ(Run(arguments), 1) << arguments[0];
+    EXPECT_NE(err, "") << arguments[0];
+    EXPECT_EQ(out, "") << arguments[0];
+  }
+  EXPECT_EQ(RunBare({"boards"}), 1) << "no root at all";
+}
+
+TEST_F(CommandLine, WrongUsageIsTwo) {
+  const std::vector<std::vector<std::string>> kWrong{{},
+                                                     {"unknown"},
+                                                     {"show"},
+                                                     {"show", "0"},
+                                                     {"show", "1000"},
+                                                     {"show", "x"},
+                                                     {"import"},
+                                                     {"--yes", "--no", "boards"},
+                                                     {"export", "1", "2"}};
+  for (const auto& arguments : kWrong) {
+    EXPECT_EQ(Run(arguments), 2);
+    EXPECT_NE(err, "");
+  }
+  EXPECT_EQ(RunBare({"--help"}), 0);
+  EXPECT_NE(out, "");
+}
+
+TEST_F(CommandLine, CtrlCCancels) {
+  interrupted = true;
+  EXPECT_EQ(Run({"import", File("in.pbn")}), 1);
+  EXPECT_NE(err.find("No hands have been saved"), std::string::npos);
+}
+
+TEST_F(CommandLine, SettingsAreListedReadAndWritten) {
+  EXPECT_EQ(RunBare({"settings"}), 0);
+  EXPECT_NE(out.find("CardDesign=1\n"), std::string::npos);
+  EXPECT_NE(out.find("HGFont1/Size=15\n"), std::string::npos);
+  EXPECT_EQ(RunBare({"settings", "cardDesign", "2"}), 0);
+  EXPECT_EQ(RunBare({"settings", "CardDesign"}), 0);
+  EXPECT_EQ(out, "2\n");
+  EXPECT_EQ(RunBare({"settings", "filelocation", PathText(folder.Path())}), 0);
+  EXPECT_EQ(store.Read("macro", "filelocation"), FolderText(folder.Path()));
+}
+
+}  // namespace
+}  // namespace tricklet

@@ -1,0 +1,81 @@
+#include "core/settings.h"
+
+#include <set>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace tricklet {
+namespace {
+
+TEST(Settings, DefaultsAndRoundTrip) {
+  MemoryStore store;
+  Settings settings = LoadSettings(store);
+  EXPECT_EQ(settings, Settings());
+  EXPECT_EQ(settings.library, "Default");
+  EXPECT_TRUE(settings.AutoMakeable);
+  EXPECT_EQ(settings.HGFont[0].Size, 24);
+  EXPECT_EQ(settings.HGFont[1].Forecolour, kWindowTextColour);
+
+  settings.CardDesign = 3;
+  settings.SuitFontSize = 14.5;
+  settings.PBNBids = false;
+  settings.HGFont[0].Name = "Caf\u00e9 Sans";
+  settings.HGFont[1].Forecolour.value = 0x0000FF;
+  SaveSettings(settings, store);
+  EXPECT_EQ(LoadSettings(store), settings);
+  EXPECT_EQ(store.Read("Tricklet", "PBNBids"), "False");
+  EXPECT_FALSE(store.Read("macro", "library")) << "the root and library are not options";
+}
+
+TEST(Settings, WhatCannotBeReadTakesItsDefault) {
+  const struct {
+    const char* section;
+    const char* key;
+    const char* text;
+  } kCases[] = {{"Tricklet", "CardDesign", "9"},     {"Tricklet", "CardDesign", "1.5"},
+                {"Tricklet", "CardDesign", ""},      {"Tricklet", "CardsFaces", "yes"},
+                {"Tricklet", "SuitFontSize", "nan"}, {"Tricklet", "SuitFontSize", "1e99"},
+                {"HGFont0", "Forecolour", "&HXYZ"},  {"HGFont0", "Size", "14 points"}};
+  for (const auto& c : kCases) {
+    MemoryStore store;
+    store.Write(c.section, c.key, c.text);
+    EXPECT_EQ(LoadSettings(store), Settings()) << c.key << " " << c.text;
+  }
+}
+
+TEST(Settings, ColoursAreReadAsSignedNumbersToo) {
+  MemoryStore store;
+  store.Write("HGFont0", "Forecolour", "-2147483640");
+  EXPECT_EQ(LoadSettings(store).HGFont[0].Forecolour, kWindowTextColour);
+}
+
+TEST(Settings, EveryKeyIsFoundAndBelongsToAFieldOfItsOwn) {
+  Settings settings;
+  std::set<const void*> fields;
+  for (const SettingEntry& entry : SettingTable()) {
+    const std::string name = std::string(entry.section) + "/" + std::string(entry.key);
+    EXPECT_EQ(FindSetting(name), &entry) << name;
+    fields.insert(
+        std::visit([](auto* field) -> const void* { return field; }, entry.field(settings)));
+    EXPECT_TRUE(SetFromText(settings, entry, entry.defaultText)) << name;
+  }
+  EXPECT_EQ(fields.size(), SettingTable().size());
+  EXPECT_EQ(FindSetting("carddesign"), FindSetting("Tricklet/CardDesign"));
+  EXPECT_EQ(FindSetting("Size"), nullptr) << "there are two fonts";
+}
+
+TEST(OverlayStore, KeepsRootAndLibraryFromTheStoreBelow) {
+  MemoryStore below;
+  below.Write("macro", "library", "Mine");
+  OverlayStore overlay(below);
+  EXPECT_EQ(overlay.Read("macro", "library"), "Mine");
+  overlay.Write("macro", "library", "Other");
+  overlay.Write("Tricklet", "CardDesign", "2");
+  EXPECT_EQ(overlay.Read("macro", "library"), "Other");
+  EXPECT_EQ(below.Read("macro", "library"), "Mine");
+  EXPECT_EQ(below.Read("Tricklet", "CardDesign"), "2");
+}
+
+}  // namespace
+}  // namespace tricklet

@@ -1,0 +1,70 @@
+#include "core/statistics.h"
+
+#include <gtest/gtest.h>
+
+namespace tricklet {
+namespace {
+
+TEST(Statistics, LosersOfASuit) {
+  const struct {
+    const char* holding;
+    int losers;
+  } kCases[] = {{"", 0},         {"A", 0},        {"Q", 1},      {"2", 1},        {"A K", 0},
+                {"A Q", 1},      {"Q J", 2},      {"K 2", 1},    {"A J 10 5", 1}, {"A J 9", 2},
+                {"A Q J 10", 1}, {"K Q J 10", 1}, {"J 10 9", 3}, {"A K Q 5", 0}};
+  for (const auto& c : kCases) EXPECT_EQ(SuitLosers(AddSpace(c.holding)), c.losers) << c.holding;
+}
+
+TEST(Statistics, CountsPointsLengthsAndMissingCards) {
+  HandTable hands;
+  std::string_view deal = "AKQ2.AJ105..K43 J3.K2.A98765.Q108 1098.Q87.KQJ.AJ75 7654.9643.10432.9";
+  for (const Seat seat : kAllSeats) GetHand(deal, hands, seat);
+  const Statistics statistics = GetStats(hands);
+  EXPECT_EQ(statistics.SeatHCP[Seat::North], 17);
+  EXPECT_EQ(statistics.SeatLTC[Seat::North], 3);  // 0 spades, 1 hearts (A J 10), 2 clubs
+  EXPECT_EQ(statistics.SuitHCP[Seat::South][Suit::Diamonds], 6);
+  EXPECT_EQ(statistics.SeatCardCount[Seat::North], 11);
+  EXPECT_EQ(statistics.IncompleteSeat, Seat::North);
+  EXPECT_FALSE(statistics.AllHandsComplete);
+  EXPECT_EQ(HoldingText(statistics.MissingCards[Suit::Clubs]), " 6 2");
+  EXPECT_TRUE(statistics.MissingCards[Suit::Spades].Empty());
+  EXPECT_FALSE(statistics.CardDealt({Suit::Clubs, Rank::Six}));
+
+  AddCard(hands, {Suit::Clubs, Rank::Six}, Seat::North);
+  AddCard(hands, {Suit::Clubs, Rank::Two}, Seat::North);
+  const Statistics whole = GetStats(hands);
+  EXPECT_TRUE(whole.AllHandsComplete);
+  int points = 0;
+  for (const int seatPoints : whole.SeatHCP) points += seatPoints;
+  EXPECT_EQ(points, 40);
+  EXPECT_EQ(whole.PairLTC[Side::NorthSouth],
+            whole.SeatLTC[Seat::North] + whole.SeatLTC[Seat::South]);
+}
+
+TEST(Captions, FollowTheFourSwitches) {
+  Statistics statistics;
+  statistics.SeatCardCount[Seat::South] = 13;
+  statistics.SeatHCP[Seat::South] = 12;
+  statistics.SeatLTC[Seat::South] = 6;
+  const struct {
+    bool player, cards, points, losers;
+    const char* caption;
+  } kCases[] = {
+      {true, true, true, true, "South: 13 cards : HCP=12 LTC=6"},
+      {false, true, false, true, "13 cards : LTC=6"},
+      {false, true, false, false, "13 cards "},
+      {true, false, true, false, "South: HCP=12 "},
+      {false, false, false, false, ""},
+  };
+  for (const auto& c : kCases) {
+    Settings settings;
+    settings.CaptionPlayer = c.player;
+    settings.CaptionnCards = c.cards;
+    settings.CaptionHCP = c.points;
+    settings.CaptionLTC = c.losers;
+    EXPECT_EQ(GetCaptionsEdit(statistics, settings)[Seat::South], c.caption);
+  }
+}
+
+}  // namespace
+}  // namespace tricklet

@@ -1,0 +1,135 @@
+#include "library/board_store.h"
+
+#include <gtest/gtest.h>
+
+#include "core/fault.h"
+#include "library/board_file.h"
+#include "library/file_io.h"
+#include "tests/support/library_fixture.h"
+
+namespace tricklet {
+namespace {
+
+namespace fs = std::filesystem;
+using test::LibraryTest;
+using test::ReadFile;
+using test::WriteFile;
+
+constexpr const char* kQuestion = "Overwrite existing board 7?";
+constexpr const char* kTitle = "Hand already in library";
+
+class BoardStore : public LibraryTest {
+ protected:
+  BoardStore() {
+    session.board.BoardNumber = 7;
+    path = session.BoardPath(7);
+  }
+  fs::path path;
+};
+
+TEST_F(BoardStore, SavesANewBoardWithoutAQuestion) {
+  ClearAll(session.board);
+  EXPECT_TRUE(session.board.HandChanged);
+  EXPECT_TRUE(SaveHand(session));
+  EXPECT_FALSE(session.board.HandChanged);
+  EXPECT_EQ(ReadFile(path), WriteBoardText(session.board));
+  EXPECT_EQ(session.library.BoardCount, 1);
+}
+
+TEST_F(BoardStore, AsksBeforeAChangedBoardReplacesAFile) {
+  WriteFile(path, "old");
+  session.board.HandChanged = true;
+  host.ExpectAsk(kQuestion, kTitle, Answer::No);
+  EXPECT_FALSE(SaveHand(session));
+  EXPECT_EQ(ReadFile(path), "old");
+  EXPECT_TRUE(session.board.HandChanged);
+
+  host.ExpectAsk(kQuestion, kTitle, Answer::Yes);
+  EXPECT_TRUE(SaveHand(session));
+  EXPECT_NE(ReadFile(path), "old");
+
+  WriteFile(path, "old");
+  EXPECT_TRUE(SaveHand(session)) << "nothing is asked about a board without changes";
+  EXPECT_NE(ReadFile(path), "old");
+}
+
+TEST_F(BoardStore, LeavesAReadOnlyFileAlone) {
+  WriteFile(path, "old");
+  fs::permissions(path, fs::perms::owner_read);
+  session.board.HandChanged = true;
+  host.ExpectAsk(kQuestion, kTitle, Answer::Yes);
+  host.ExpectTell("The file\n" + PathText(path) + "\nis read only so the hand cannot be saved");
+  EXPECT_FALSE(SaveHand(session));
+  EXPECT_EQ(ReadFile(path), "old");
+  EXPECT_TRUE(session.board.HandChanged);
+}
+
+TEST_F(BoardStore, AFailedSaveIsReportedAndLosesNothing) {
+  fs::create_directories(path / "in the way");  // a folder where the file should be
+  session.board.HandChanged = true;
+  host.ExpectAskWith("Do you wish to try to continue?", Answer::Yes);
+  EXPECT_FALSE(SaveHand(session));
+  EXPECT_TRUE(session.board.HandChanged);
+  EXPECT_FALSE(host.ended);
+
+  fs::remove_all(session.LibraryPath());
+  host.ExpectAskWith("Error no. 53", Answer::No);
+  EXPECT_FALSE(SaveHand(session));
+  EXPECT_TRUE(host.ended);
+  EXPECT_FALSE(fs::exists(session.LibraryPath())) << "nothing half-made is left";
+}
+
+TEST_F(BoardStore, NothingIsLeftBesideAFailedFile) {
+  fs::create_directories(path / "in the way");
+  EXPECT_THROW(ReplaceWholeFile(path, "data"), Fault);
+  EXPECT_EQ(std::distance(fs::directory_iterator(session.LibraryPath()), {}), 1);
+}
+
+TEST_F(BoardStore, LoadsWhatWasSaved) {
+  WriteFile(path, test::OneSuitEachText());
+  session.board.HandChanged = true;
+  EXPECT_TRUE(LoadHand(session));
+  EXPECT_FALSE(session.board.HandChanged);
+  EXPECT_EQ(session.board.Hands[Seat::West][Suit::Clubs].Count(), 13);
+  EXPECT_EQ(session.board.BoardNumber, 7);
+}
+
+TEST_F(BoardStore, AMissingFileGivesAnEmptyBoardOfTheNumber) {
+  AddCard(session.board.Hands, {Suit::Spades, Rank::Ace}, Seat::North);
+  session.board.Calls.Add(Call::Pass());
+  EXPECT_FALSE(LoadHand(session));
+  EXPECT_FALSE(HasCards(session.board.Hands));
+  EXPECT_EQ(session.board.NumCalls(), 0);
+  EXPECT_FALSE(session.board.HandChanged);
+  EXPECT_EQ(session.board.BoardNumber, 7);
+}
+
+TEST_F(BoardStore, AnUnreadableFileGivesItsMessageAndKeepsWhatWasRead) {
+  const std::string hands = test::OneSuitEachText().substr(0, 200);
+  WriteFile(path, test::OneSuitEachText().substr(0, 60));
+  host.ExpectTell("Can't read the file " + PathText(path));
+  EXPECT_FALSE(LoadHand(session));
+  EXPECT_EQ(session.board.Hands[Seat::North][Suit::Spades].Count(), 13);
+
+  WriteFile(path, std::string(kMaxBoardFileBytes + 1, ' '));
+  host.ExpectTell("Can't read the file " + PathText(path));
+  EXPECT_FALSE(LoadHand(session));
+}
+
+TEST_F(BoardStore, TheBasicLoaderTellsCompleteDeals) {
+  WriteFile(path, test::OneSuitEachText());
+  Board board;
+  board.BoardNumber = 7;
+  bool complete = false;
+  EXPECT_TRUE(LoadHandBasic(session, board, complete));
+  EXPECT_TRUE(complete);
+  std::string text = test::OneSuitEachText();
+  text.replace(text.find(" A"), 2, "");
+  text.replace(text.rfind(" 0"), 2, "no number");  // not read for an incomplete deal
+  WriteFile(path, text);
+  EXPECT_TRUE(LoadHandBasic(session, board, complete));
+  EXPECT_FALSE(complete);
+}
+
+}  // namespace
+}  // namespace tricklet

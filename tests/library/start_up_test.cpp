@@ -1,0 +1,70 @@
+#include "library/start_up.h"
+
+#include <gtest/gtest.h>
+
+#include "core/version.h"
+#include "tests/support/library_fixture.h"
+
+namespace tricklet {
+namespace {
+
+namespace fs = std::filesystem;
+
+class StartUp : public test::LibraryTest {
+ protected:
+  void ExpectRootMessage() {
+    host.ExpectTell(
+        "Please choose a folder (new or existing)\nwhere you will keep your library of hands");
+  }
+};
+
+TEST_F(StartUp, TheFirstStartAsksForARootAndMakesTheDefaultLibrary) {
+  session.settings = Settings();
+  ExpectRootMessage();
+  host.Choose(folder.Path().root_path());
+  host.ExpectTell("Please choose a folder, not " + PathText(folder.Path().root_path()));
+  host.Choose(folder.Path() / "hands");
+  EXPECT_TRUE(OpenLibraries(session));
+  EXPECT_EQ(store.Read("macro", "filelocation"), FolderText(folder.Path() / "hands"));
+  EXPECT_TRUE(fs::is_directory(folder.Path() / "hands" / "Default"));
+  EXPECT_EQ(session.LibraryName(), "Default");
+  EXPECT_EQ(session.board.BoardNumber, 1);
+}
+
+TEST_F(StartUp, WithoutARootTheProgramEnds) {
+  session.settings.filelocation = FolderText(folder.Path() / "deleted");
+  ExpectRootMessage();
+  host.Choose(std::nullopt);
+  host.ExpectTell("You must choose a folder");
+  EXPECT_FALSE(OpenLibraries(session));
+  EXPECT_FALSE(store.Read("macro", "filelocation"));
+}
+
+TEST_F(StartUp, AStoredLibraryThatIsGoneIsMadeAgain) {
+  session.settings.library = "Last year";
+  EXPECT_TRUE(OpenLibraries(session));
+  EXPECT_EQ(session.LibraryName(), "Last year");
+  EXPECT_TRUE(fs::is_directory(session.LibraryPath()));
+  EXPECT_EQ(session.LibraryNames, (std::vector<std::string>{"Club", "Last year"}));
+}
+
+TEST_F(StartUp, TheNoticeComesUntilItIsNotWantedAnyMore) {
+  const std::string part = "Do you want to see this message next time Tricklet starts?";
+  host.ExpectAskWith(part, Answer::Yes);
+  ShowNotice(session);
+  EXPECT_FALSE(store.Read("Tricklet", "ShowMessage"));
+  host.ExpectAskWith(part, Answer::No);
+  ShowNotice(session);
+  EXPECT_EQ(store.Read("Tricklet", "ShowMessage"),
+            std::to_string(100 * kVersionMajor + kVersionMinor));
+  ShowNotice(session);
+}
+
+TEST_F(StartUp, SaysWhenUpdatesAreNotLookedFor) {
+  EXPECT_EQ(UpdateText(session.settings), "");
+  session.settings.AutoUpdate = false;
+  EXPECT_EQ(UpdateText(session.settings), "Option to check for updates is switched off");
+}
+
+}  // namespace
+}  // namespace tricklet

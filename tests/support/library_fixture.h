@@ -1,0 +1,79 @@
+// A library root in a temporary folder, with a scripted host and settings in memory.
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "core/text.h"
+#include "library/library_store.h"
+#include "library/session.h"
+#include "tests/support/scripted_host.h"
+
+namespace tricklet::test {
+
+/// A folder that goes with the test. Its name has a blank and letters outside ASCII.
+class TempFolder {
+ public:
+  TempFolder() {
+    std::random_device random;
+    path_ = std::filesystem::temp_directory_path() /
+            PathFromText("tricklet t\u00e9st \u2660 " + std::to_string(random()));
+    std::filesystem::create_directories(path_);
+  }
+  ~TempFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
+  TempFolder(const TempFolder&) = delete;
+  TempFolder& operator=(const TempFolder&) = delete;
+  const std::filesystem::path& Path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+inline std::string ReadFile(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+inline void WriteFile(const std::filesystem::path& path, const std::string& data) {
+  std::filesystem::create_directories(path.parent_path());
+  std::ofstream file(path, std::ios::binary);
+  file << data;
+}
+
+/// The text of a board file whose four seats hold one suit each: North spades, East hearts and so
+/// on.
+inline std::string OneSuitEachText() {
+  const std::string suit = " A K Q J 10 9 8 7 6 5 4 3 2";
+  std::string text;
+  for (int seat = 0; seat < 4; ++seat) {
+    for (int line = 0; line < 4; ++line) text += (line == seat ? suit : "") + "\r\n";
+  }
+  return text + " 0\r\n 0\r\n";
+}
+
+class LibraryTest : public testing::Test {
+ protected:
+  LibraryTest() : session(host, store) {
+    session.settings.filelocation = FolderText(folder.Path());
+    session.settings.library = "Club";
+    std::filesystem::create_directories(session.LibraryPath());
+    FindFiles(session);
+  }
+
+  void PutBoard(int number) { WriteFile(session.BoardPath(number), OneSuitEachText()); }
+
+  TempFolder folder;
+  ScriptedHost host;
+  MemoryStore store;
+  Session session;
+};
+
+}  // namespace tricklet::test

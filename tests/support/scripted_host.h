@@ -1,0 +1,134 @@
+// A host that follows a script: every message and question must be expected, in order.
+#pragma once
+
+#include <deque>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "core/host.h"
+
+namespace tricklet::test {
+
+/// Fails the test on a message or question that the script does not hold, and when it is destroyed
+/// with some of the script left over.
+class ScriptedHost : public Host {
+ public:
+  ~ScriptedHost() override {
+    EXPECT_TRUE(script_.empty()) << "expected but not shown: " << script_.front().text;
+    EXPECT_TRUE(choices_.empty()) << "a choice was never asked for";
+  }
+
+  /// The next message is exactly this.
+  void ExpectTell(std::string text) { script_.push_back({std::move(text), {}, {}}); }
+  /// The next question is exactly this, and is answered so.
+  void ExpectAsk(std::string text, std::string title, Answer answer) {
+    script_.push_back({std::move(text), std::move(title), answer});
+  }
+  /// The next question contains `part`, and is answered so.
+  void ExpectAskWith(std::string part, Answer answer) {
+    script_.push_back({std::move(part), {}, answer, true});
+  }
+  /// The next chooser's result.
+  void Choose(std::optional<std::filesystem::path> path) { choices_.push_back(std::move(path)); }
+
+  using Host::Tell;
+  void Tell(const std::string& text, const std::string& /*title*/) override {
+    const auto expected = Next(text);
+    EXPECT_FALSE(expected.answer) << "a message where a question was expected: " << text;
+    Match(expected, text);
+  }
+  Answer Ask(const std::string& text, const std::string& title, Buttons buttons) override {
+    const auto expected = Next(text);
+    Match(expected, text);
+    if (!expected.title.empty()) {
+      EXPECT_EQ(title, expected.title);
+    }
+    EXPECT_TRUE(expected.answer) << "a question where a message was expected: " << text;
+    const Answer cautious = buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
+    return expected.answer.value_or(cautious);
+  }
+  void Beep() override { ++beeps; }
+  std::optional<std::filesystem::path> ChooseFolder(
+      const std::string& /*title*/, const std::filesystem::path& /*start*/) override {
+    return NextChoice();
+  }
+  std::optional<std::filesystem::path> ChooseOpenFile(const FileChoice& /*choice*/) override {
+    return NextChoice();
+  }
+  std::optional<std::filesystem::path> ChooseSaveFile(const FileChoice& choice) override {
+    suggested = choice.suggested;
+    return NextChoice();
+  }
+  /// Moves what is recycled out of the way, as a recycle bin does.
+  bool Recycle(const std::filesystem::path& path) override {
+    recycled.push_back(path.filename().string());
+    std::error_code failure;
+    std::filesystem::remove_all(path, failure);
+    return !failure;
+  }
+  bool OpenUrl(const std::string& address) override {
+    opened.push_back(address);
+    return true;
+  }
+  bool Step(const std::string& text, int /*done*/, int /*total*/) override {
+    steps.push_back(text);
+    return static_cast<int>(steps.size()) != cancelAtStep;
+  }
+  void BeginWork() override { ++working; }
+  void EndWork() override { --working; }
+  void EndProgram() override { ended = true; }
+
+  int beeps = 0;
+  int working = 0;
+  bool ended = false;
+  int cancelAtStep = 0;  ///< the step (from 1) at which the person cancels
+  std::vector<std::string> steps;
+  std::vector<std::string> recycled;
+  std::vector<std::string> opened;
+  std::filesystem::path suggested;
+
+ private:
+  struct Expected {
+    std::string text;
+    std::string title;
+    std::optional<Answer> answer;
+    bool part = false;
+  };
+
+  Expected Next(const std::string& shown) {
+    if (script_.empty()) {
+      ADD_FAILURE() << "not expected: " << shown;
+      return {};
+    }
+    Expected expected = script_.front();
+    script_.pop_front();
+    return expected;
+  }
+  static void Match(const Expected& expected, const std::string& shown) {
+    if (expected.part) {
+      EXPECT_NE(shown.find(expected.text), std::string::npos) << shown;
+    } else {
+      EXPECT_EQ(shown, expected.text);
+    }
+  }
+  std::optional<std::filesystem::path> NextChoice() {
+    if (choices_.empty()) {
+      ADD_FAILURE() << "a chooser that is not expected";
+      return std::nullopt;
+    }
+    auto choice = choices_.front();
+    choices_.pop_front();
+    return choice;
+  }
+
+  std::deque<Expected> script_;
+  std::deque<std::optional<std::filesystem::path>> choices_;
+};
+
+}  // namespace tricklet::test
