@@ -1,0 +1,205 @@
+// A library of 999 boards: importing, exporting and opening it, each beside the least that the disk
+// has to do for it.
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <string>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+#include "bench/quiet_host.h"
+#include "core/text.h"
+#include "formats/export.h"
+#include "formats/import.h"
+#include "formats/pbn_writer.h"
+#include "library/board_file.h"
+#include "library/file_io.h"
+#include "library/library_store.h"
+
+namespace tricklet::bench {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kBoards = kLastBoardNumber;
+constexpr int kRepetitions = 21;
+
+Board RandomBoard(int number, std::mt19937& random) {
+  std::array<int, kCardsInPack> pack{};
+  for (int card = 0; card < kCardsInPack; ++card) pack.at(static_cast<std::size_t>(card)) = card;
+  std::shuffle(pack.begin(), pack.end(), random);
+  Board board;
+  board.BoardNumber = number;
+  for (int i = 0; i < kCardsInPack; ++i) {
+    AddCard(board.Hands, Card::FromIndex(pack.at(static_cast<std::size_t>(i))),
+            static_cast<Seat>(i % kSeats));
+  }
+  for (const char* call : {"1NT", "Pass", "3NT", "Pass", "Pass", "Pass"}) {
+    board.Calls.Add(Call::FromText(call).value());
+  }
+  board.MakeableValid = true;
+  for (auto& row : board.Makeable) {
+    for (auto& tricks : row) tricks = static_cast<std::int16_t>(random() % 14);
+  }
+  return board;
+}
+
+/// A root with the library "Full" of 999 boards, an empty one, and the PBN file of those boards.
+class Fixture {
+ public:
+  Fixture() : root(fs::temp_directory_path() / ("tricklet-bench-" + std::to_string(Seed()))) {
+    std::mt19937 random(1);
+    std::string pbn = "% PBN 2.1\r\n";
+    fs::create_directories(root / "Full");
+    for (int number = 1; number <= kBoards; ++number) {
+      const Board board = RandomBoard(number, random);
+      texts.push_back(WriteBoardText(board));
+      pbn += PbnRecord(board, "Full", {}) + "\r\n";
+      ReplaceWholeFile(root / "Full" / BoardFileName(number), texts.back());
+    }
+    ReplaceWholeFile(root / "boards.pbn", pbn);
+  }
+  ~Fixture() {
+    std::error_code ignored;
+    fs::remove_all(root, ignored);
+  }
+  Fixture(const Fixture&) = delete;
+  Fixture& operator=(const Fixture&) = delete;
+
+  /// The empty library, made anew.
+  fs::path Emptied() const {
+    fs::remove_all(root / "Empty");
+    fs::create_directories(root / "Empty");
+    return root / "Empty";
+  }
+
+  fs::path root;
+  std::vector<std::string> texts;
+
+ private:
+  static unsigned Seed() { return std::random_device()(); }
+};
+
+const Fixture& Boards() {
+  static const Fixture fixture;
+  return fixture;
+}
+
+Session MakeSession(Host& host, SettingsStore& store, const std::string& library) {
+  Session session(host, store);
+  session.settings.filelocation = FolderText(Boards().root);
+  session.settings.library = library;
+  return session;
+}
+
+/// Times `work` alone, after `prepare`.
+template <class Prepare, class Work>
+void Measure(benchmark::State& state, Prepare prepare, Work work) {
+  for ([[maybe_unused]] auto _ : state) {
+    prepare();
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+    state.SetIterationTime(taken.count());
+  }
+}
+
+/// What std::ofstream and rename make of it: the peer knows nothing of our own file calls.
+void WriteFilesFloor(benchmark::State& state) {
+  fs::path folder;
+  Measure(
+      state, [&folder] { folder = Boards().Emptied(); },
+      [&folder] {
+        for (int number = 1; number <= kBoards; ++number) {
+          const fs::path path = folder / BoardFileName(number);
+          fs::path beside = path;
+          beside += ".new";
+          std::ofstream(beside, std::ios::binary)
+              << Boards().texts.at(static_cast<std::size_t>(number - 1));
+          fs::rename(beside, path);
+        }
+      });
+}
+
+void ImportBoards(benchmark::State& state) {
+  QuietHost host;
+  MemoryStore store;
+  Session session = MakeSession(host, store, "Empty");
+  int saved = 0;
+  Measure(
+      state, [] { Boards().Emptied(); },
+      [&] { saved = ImportFile(session, Boards().root / "boards.pbn").boardsSaved; });
+  if (saved != kBoards) state.SkipWithError("not all boards came in");
+}
+
+void ReadFilesFloor(benchmark::State& state) {
+  std::size_t bytes = 0;
+  Measure(
+      state, [] {},
+      [&bytes] {
+        for (int number = 1; number <= kBoards; ++number) {
+          std::ifstream file(Boards().root / "Full" / BoardFileName(number), std::ios::binary);
+          std::array<char, 4096> buffer{};
+          file.read(buffer.data(), buffer.size());
+          bytes += static_cast<std::size_t>(file.gcount());
+        }
+      });
+  benchmark::DoNotOptimize(bytes);
+}
+
+void ExportBoards(benchmark::State& state) {
+  QuietHost host;
+  MemoryStore store;
+  Session session = MakeSession(host, store, "Full");
+  bool written = false;
+  Measure(
+      state, [] {},
+      [&] {
+        written = ExportFile(session, {1, kBoards, "pbn"}, Boards().root / "out.pbn");
+      });
+  if (!written) state.SkipWithError("the boards were not written");
+}
+
+void OpenFloor(benchmark::State& state) {
+  std::size_t found = 0;
+  Measure(
+      state, [] {},
+      [&found] {
+        for (const auto& entry : fs::directory_iterator(Boards().root / "Full")) {
+          found += entry.path().native().size();
+        }
+        found += ReadWholeFile(Boards().root / "Full" / "001.txt", kMaxBoardFileBytes).size();
+      });
+  benchmark::DoNotOptimize(found);
+}
+
+void OpenLibrary(benchmark::State& state) {
+  QuietHost host;
+  MemoryStore store;
+  Session session = MakeSession(host, store, "Full");
+  GetLibraryNames(session);
+  Measure(
+      state, [] {}, [&session] { SelectLibrary(session, "Full"); });
+  if (session.library.BoardCount != kBoards) state.SkipWithError("not all boards were found");
+}
+
+#define TRICKLET_BENCH(function)  \
+  BENCHMARK(function)             \
+      ->UseManualTime()           \
+      ->Iterations(1)             \
+      ->Repetitions(kRepetitions) \
+      ->ReportAggregatesOnly()    \
+      ->Unit(benchmark::kMillisecond)
+
+TRICKLET_BENCH(WriteFilesFloor);
+TRICKLET_BENCH(ImportBoards);
+TRICKLET_BENCH(ReadFilesFloor);
+TRICKLET_BENCH(ExportBoards);
+TRICKLET_BENCH(OpenFloor);
+TRICKLET_BENCH(OpenLibrary);
+
+}  // namespace
+}  // namespace tricklet::bench

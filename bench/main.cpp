@@ -1,0 +1,25 @@
+#include <string>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+#include "bench/ratio_reporter.h"
+
+int main(int argc, char** argv) {
+  // Repetitions of all benchmarks in turn: a disk that slows down for a while then slows a figure
+  // and its floor alike.
+  std::string interleave = "--benchmark_enable_random_interleaving=true";
+  std::vector<char*> arguments(argv, argv + argc);
+  arguments.insert(arguments.begin() + 1, interleave.data());
+  int count = static_cast<int>(arguments.size());
+  benchmark::Initialize(&count, arguments.data());
+  if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 1;
+  tricklet::bench::RatioReporter reporter({
+      {"ImportBoards", "WriteFilesFloor", 1.5},
+      {"ExportBoards", "ReadFilesFloor", 3.0},
+      {"OpenLibrary", "OpenFloor", 3.0},
+  });
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  benchmark::Shutdown();
+  return 0;
+}

@@ -1,0 +1,34 @@
+// A host that says yes to everything and shows nothing.
+#pragma once
+
+#include "core/host.h"
+
+namespace tricklet::bench {
+
+class QuietHost : public Host {
+ public:
+  using Host::Tell;
+  void Tell(const std::string& /*text*/, const std::string& /*title*/) override {}
+  Answer Ask(const std::string& /*text*/, const std::string& /*title*/, Buttons buttons) override {
+    return buttons == Buttons::OKCancel ? Answer::OK : Answer::Yes;
+  }
+  void Beep() override {}
+  std::optional<std::filesystem::path> ChooseFolder(
+      const std::string& /*title*/, const std::filesystem::path& /*start*/) override {
+    return std::nullopt;
+  }
+  std::optional<std::filesystem::path> ChooseOpenFile(const FileChoice& /*choice*/) override {
+    return std::nullopt;
+  }
+  std::optional<std::filesystem::path> ChooseSaveFile(const FileChoice& /*choice*/) override {
+    return std::nullopt;
+  }
+  bool Recycle(const std::filesystem::path& /*path*/) override { return false; }
+  bool OpenUrl(const std::string& /*address*/) override { return false; }
+  bool Step(const std::string& /*text*/, int /*done*/, int /*total*/) override { return true; }
+  void BeginWork() override {}
+  void EndWork() override {}
+  void EndProgram() override {}
+};
+
+}  // namespace tricklet::bench
