@@ -27,10 +27,10 @@ FaultNumber NumberOf(std::error_code code) {
 
 }  // namespace
 
-Fault::Fault(FaultNumber number, std::string description, SourceLocation where)
+Fault::Fault(FaultNumber number, std::string description, std::source_location where)
     : number_(number), description_(std::move(description)), line_(where.line()) {}
 
-Fault Fault::OfFile(std::error_code code, const std::string& path, SourceLocation where) {
+Fault Fault::OfFile(std::error_code code, const std::string& path, std::source_location where) {
   return {NumberOf(code), code.message() + ": " + path, where};
 }
 

@@ -2,10 +2,9 @@
 #pragma once
 
 #include <exception>
+#include <source_location>
 #include <string>
 #include <system_error>
-
-#include "core/source_location.h"
 
 namespace tricklet {
 
@@ -28,11 +27,11 @@ enum class FaultNumber : int {
 class Fault : public std::exception {
  public:
   Fault(FaultNumber number, std::string description,
-        SourceLocation where = SourceLocation::current());
+        std::source_location where = std::source_location::current());
 
   /// The failure of a file operation: number and description from the system's error code.
   static Fault OfFile(std::error_code code, const std::string& path,
-                      SourceLocation where = SourceLocation::current());
+                      std::source_location where = std::source_location::current());
 
   FaultNumber Number() const { return number_; }
   const std::string& Description() const { return description_; }
