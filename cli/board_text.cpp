@@ -63,7 +63,6 @@ std::string CallText(Call call) {
 /// Columns West, North, East, South; the first row begins at the dealer.
 void AppendAuction(std::string& text, const Board& board) {
   if (board.NumCalls() == 0) return;
-  text += "\n";
   std::string line;
   for (const Seat seat : {Seat::West, Seat::North, Seat::East, Seat::South}) {
     line += PadRight(std::string(SeatName[seat]), kCallWidth);
@@ -116,17 +115,29 @@ void AppendTable(std::string& text, const Board& board, bool contracts) {
 
 }  // namespace
 
+std::string HandsText(const Board& board) {
+  std::string text;
+  AppendHand(text, board, Seat::North);
+  AppendWestAndEast(text, board);
+  AppendHand(text, board, Seat::South);
+  return text;
+}
+
+std::string AuctionText(const Board& board) {
+  std::string text;
+  AppendAuction(text, board);
+  return text;
+}
+
 std::string BoardText(const Board& board, const std::string& libraryName,
                       const Settings& settings) {
   std::string text;
   AppendLine(text, libraryName + " - Board " + std::to_string(board.BoardNumber));
   AppendLine(text, "Dealer " + std::string(SeatName[board.Dealer()]) + ", " +
                        std::string(VulText[board.Vulnerability()]));
-  text += "\n";
-  AppendHand(text, board, Seat::North);
-  AppendWestAndEast(text, board);
-  AppendHand(text, board, Seat::South);
-  AppendAuction(text, board);
+  text += "\n" + HandsText(board);
+  const std::string auction = AuctionText(board);
+  if (!auction.empty()) text += "\n" + auction;
   AppendStatistics(text, board);
   AppendTable(text, board, settings.MakeableContract);
   return text;

@@ -11,4 +11,10 @@ namespace tricklet::cli {
 /// Several lines, UTF-8, each ended by "\n".
 std::string BoardText(const Board& board, const std::string& libraryName, const Settings& settings);
 
+/// The four hands as a diagram alone.
+std::string HandsText(const Board& board);
+
+/// The auction and its contract; empty when there is none.
+std::string AuctionText(const Board& board);
+
 }  // namespace tricklet::cli

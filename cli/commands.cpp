@@ -75,6 +75,18 @@ bool OpenLibrary(const Context& context, bool create) {
   return true;
 }
 
+bool LoadBoard(const Context& context, int boardNumber) {
+  Session& session = context.session;
+  if (!OpenLibrary(context, false)) return false;
+  if (!FileExists(session.BoardPath(boardNumber))) {
+    session.host.Tell("There is no board " + std::to_string(boardNumber) + " in library " +
+                      session.LibraryName());
+    return false;
+  }
+  session.board.BoardNumber = boardNumber;
+  return LoadHand(session);
+}
+
 ExitCode Libraries(const Context& context) {
   if (!RootExists(context)) return ExitCode::Refused;
   const fs::path root = context.session.FileLocation();
@@ -105,15 +117,8 @@ ExitCode Boards(const Context& context, bool longForm) {
 }
 
 ExitCode Show(const Context& context, int boardNumber) {
-  Session& session = context.session;
-  if (!OpenLibrary(context, false)) return ExitCode::Refused;
-  if (!FileExists(session.BoardPath(boardNumber))) {
-    session.host.Tell("There is no board " + std::to_string(boardNumber) + " in library " +
-                      session.LibraryName());
-    return ExitCode::Refused;
-  }
-  session.board.BoardNumber = boardNumber;
-  if (!LoadHand(session)) return ExitCode::Refused;
+  const Session& session = context.session;
+  if (!LoadBoard(context, boardNumber)) return ExitCode::Refused;
   context.data << BoardText(session.board, session.LibraryName(), session.settings);
   return ExitCode::Done;
 }

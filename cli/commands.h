@@ -23,6 +23,10 @@ enum class ExitCode : int { Done = 0, Refused = 1, Usage = 2 };
 /// The current library must be there; else says so and is false. `create` makes it instead.
 bool OpenLibrary(const Context& context, bool create);
 
+/// Opens the library and loads the board; false, with a message, when there is none or it cannot be
+/// read.
+bool LoadBoard(const Context& context, int boardNumber);
+
 ExitCode Libraries(const Context& context);
 ExitCode Boards(const Context& context, bool longForm);
 ExitCode Show(const Context& context, int boardNumber);

@@ -7,9 +7,11 @@
 
 #include "cli/commands.h"
 #include "cli/console_host.h"
+#include "cli/play_commands.h"
 #include "core/fault.h"
 #include "core/text.h"
 #include "core/version.h"
+#include "play/card_play.h"
 
 namespace tricklet::cli {
 namespace {
@@ -31,6 +33,9 @@ struct Arguments {
   std::string file;
   std::string key;
   std::optional<std::string> value;
+  std::vector<std::string> calls;
+  PlayArguments play;
+  ScoreArguments score;
 };
 
 using Command = std::function<ExitCode(const Context&, const ConsoleHost&)>;
@@ -55,6 +60,13 @@ void DescribeOptions(CLI::App& app, Arguments& arguments) {
   app.require_subcommand(1);
 }
 
+/// The argument that names a board.
+void AddBoard(CLI::App& command, int& board) {
+  command.add_option("N", board, "Board number")
+      ->required()
+      ->check(CLI::Range(kFirstBoardNumber, kLastBoardNumber));
+}
+
 void DescribeListings(CLI::App& app, Arguments& arguments, Command& command) {
   app.add_subcommand("libraries", "Each library and its number of boards")->callback([&command] {
     command = [](const Context& context, const ConsoleHost&) { return Libraries(context); };
@@ -68,9 +80,7 @@ void DescribeListings(CLI::App& app, Arguments& arguments, Command& command) {
     };
   });
   auto* show = app.add_subcommand("show", "One board with auction, statistics and table");
-  show->add_option("N", arguments.board, "Board number")
-      ->required()
-      ->check(CLI::Range(kFirstBoardNumber, kLastBoardNumber));
+  AddBoard(*show, arguments.board);
   show->callback([&] {
     command = [&arguments](const Context& context, const ConsoleHost&) {
       return Show(context, arguments.board);
@@ -107,6 +117,51 @@ void DescribeSettings(CLI::App& app, Arguments& arguments, Command& command) {
   settings->callback([&] {
     command = [&arguments](const Context& context, const ConsoleHost&) {
       return SettingsCommand(context, arguments.key, arguments.value);
+    };
+  });
+}
+
+void DescribePlay(CLI::App& app, Arguments& arguments, Command& command) {
+  auto* auction = app.add_subcommand("auction", "Show the auction, or replace it and save");
+  AddBoard(*auction, arguments.board);
+  auction->add_option("CALL", arguments.calls, "Calls from the dealer on: 1n 4s p x xx ap");
+  auction->callback([&] {
+    command = [&arguments](const Context& context, const ConsoleHost&) {
+      return Auction(context, arguments.board, arguments.calls);
+    };
+  });
+  auto* play = app.add_subcommand("play", "Play cards and show the table after them");
+  AddBoard(*play, arguments.play.board);
+  play->add_option("CARD", arguments.play.cards, "Cards from the opening lead on: SA h10 HT c2");
+  play->add_option("--undo", arguments.play.undo, "Take back the last K cards")
+      ->type_name("K")
+      ->check(CLI::Range(0, kCardsInPack));
+  play->add_option("--claim", arguments.play.claim, "The seat on play takes the rest")
+      ->type_name("SEAT");
+  play->callback([&] {
+    command = [&arguments](const Context& context, const ConsoleHost&) {
+      return Play(context, arguments.play);
+    };
+  });
+}
+
+void DescribeScore(CLI::App& app, Arguments& arguments, Command& command) {
+  ScoreArguments& asked = arguments.score;
+  auto* score = app.add_subcommand("score", "Score a contract");
+  score->add_option("CONTRACT", asked.contract, "4S, 3NTx, 1Cxx")->required();
+  score->add_option("DECLARER", asked.declarer, "N, E, S or W")->required();
+  score->add_option("TRICKS", asked.tricks, "Tricks of the declaring side")
+      ->required()
+      ->check(CLI::Range(0, kTricks));
+  auto* board = score->add_option("--board", asked.board, "Board that gives the vulnerability")
+                    ->type_name("N")
+                    ->check(CLI::Range(kFirstBoardNumber, kLastBoardNumber));
+  score->add_option("--vul", asked.vulnerability, "Vulnerability")
+      ->excludes(board)
+      ->check(CLI::IsMember({"none", "ns", "ew", "all"}, CLI::ignore_case));
+  score->callback([&] {
+    command = [&asked](const Context& context, const ConsoleHost&) {
+      return Score(context, asked);
     };
   });
 }
@@ -149,6 +204,8 @@ int Run(const std::vector<std::string>& arguments, SettingsStore& store, const C
   DescribeOptions(app, parsed);
   DescribeListings(app, parsed, command);
   DescribeTransfers(app, parsed, command);
+  DescribePlay(app, parsed, command);
+  DescribeScore(app, parsed, command);
   DescribeSettings(app, parsed, command);
   try {
     std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());

@@ -32,6 +32,7 @@ struct Board {
   MakeableTable Makeable;
   bool MakeableValid = false;  ///< `Makeable` holds the table of this deal
   bool HandChanged = false;    ///< there are changes that are not saved
+  bool PlayMode = false;       ///< the board is being played
 
   int NumCalls() const { return Calls.Count(); }
   Seat Dealer() const { return DealerOfBoard(BoardNumber); }

@@ -122,6 +122,71 @@ TEST_F(CommandLine, CtrlCCancels) {
   EXPECT_NE(err.find("No hands have been saved"), std::string::npos);
 }
 
+TEST_F(CommandLine, AuctionsAreShownReplacedOrRefused) {
+  ASSERT_EQ(Run({"import", File("in.pbn")}), 0);
+  EXPECT_EQ(Run({"auction", "7"}), 0);
+  EXPECT_NE(out.find("1NT by South"), std::string::npos) << out;
+  const struct {
+    std::vector<std::string> calls;
+    const char* message;
+  } kRefused[] = {
+      {{"1s", "1h"}, "1H by West: the bid is not sufficient\n"},
+      {{"1s", "xx"}, "Rdbl by West: there is no double of the opponents to redouble\n"},
+      {{"x"}, "Dbl by South: there is no bid of the opponents to double\n"},
+      {{"1s", "p", "p", "p", "p"}, "Pass by South: the auction is over\n"},
+      {{"1s", "p"}, "The auction is not complete: North is to call\n"},
+      {{"1s", "huh"}, "huh is no call\n"},
+  };
+  for (const auto& c : kRefused) {
+    std::vector<std::string> arguments{"--yes", "auction", "7"};
+    arguments.insert(arguments.end(), c.calls.begin(), c.calls.end());
+    EXPECT_EQ(Run(arguments), 1);
+    EXPECT_EQ(err, c.message);
+  }
+  EXPECT_EQ(Run({"--yes", "auction", "7", "1h", "x", "xx", "ap"}), 0);
+  EXPECT_NE(out.find("1Hxx by South"), std::string::npos) << out;
+  EXPECT_EQ(Run({"boards", "--long"}), 0);
+  EXPECT_NE(out.find("1Hxx by South"), std::string::npos) << out;
+  EXPECT_EQ(Run({"auction", "7", "ap"}), 1) << "nobody there to say that it may be overwritten";
+}
+
+TEST_F(CommandLine, PlaysCards) {
+  ASSERT_EQ(Run({"import", File("in.pbn")}), 0);
+  EXPECT_EQ(Run({"play", "7", "sk", "S3", "s9", "SQ", "h10", "HA"}), 0);
+  EXPECT_EQ(Run({"play", "7", "sk", "S3", "s9", "SQ", "st"}), 1);
+  EXPECT_EQ(err, "♠10 cannot be played by West now\n");
+  EXPECT_EQ(Run({"play", "7", "sk", "S3", "s9", "SQ", "HT", "--undo", "1", "--claim", "w"}), 0);
+  EXPECT_EQ(Run({"play", "7", "sk", "S8", "--undo", "1"}), 0);
+  EXPECT_NE(out.find("West played ♠K\nNorth is on play\n"), std::string::npos) << out;
+  EXPECT_EQ(Run({"play", "7", "--claim", "west"}), 0);
+  EXPECT_NE(out.find("1NT-7 by South : EW +700\n"), std::string::npos) << out;
+  EXPECT_EQ(Run({"play", "7", "--claim", "north"}), 1);
+  EXPECT_EQ(err, "North is not on play\n");
+}
+
+TEST_F(CommandLine, Scores) {
+  const struct {
+    std::vector<std::string> arguments;
+    const char* line;
+  } kCases[] = {
+      {{"4Sx", "N", "9", "--board", "5"}, "4Sx-1 by North : EW +200\n"},
+      {{"3nt", "south", "9", "--vul", "none"}, "3NT= by South : NS +400\n"},
+      {{"1c**", "e", "7"}, "1Cxx= by East : EW +230\n"},
+      {{"6N", "W", "12", "--vul", "ALL"}, "6NT= by West : EW +1440\n"},
+  };
+  for (const auto& c : kCases) {
+    std::vector<std::string> arguments{"score"};
+    arguments.insert(arguments.end(), c.arguments.begin(), c.arguments.end());
+    EXPECT_EQ(RunBare(arguments), 0) << err;
+    EXPECT_EQ(out, c.line);
+  }
+  EXPECT_EQ(RunBare({"score", "8S", "N", "9"}), 1);
+  EXPECT_EQ(RunBare({"score", "4Sxxx", "N", "9"}), 1);
+  EXPECT_EQ(RunBare({"score", "4S", "Q", "9"}), 1);
+  EXPECT_EQ(RunBare({"score", "4S", "N", "14"}), 2);
+  EXPECT_EQ(RunBare({"score", "4S", "N", "9", "--board", "1", "--vul", "all"}), 2);
+}
+
 TEST_F(CommandLine, SettingsAreListedReadAndWritten) {
   EXPECT_EQ(RunBare({"settings"}), 0);
   EXPECT_NE(out.find("CardDesign=1\n"), std::string::npos);

@@ -1,0 +1,206 @@
+#include "cli/play_commands.h"
+
+#include <algorithm>
+#include <ostream>
+
+#include "cli/board_text.h"
+#include "core/text.h"
+#include "library/board_store.h"
+#include "play/auction_entry.h"
+#include "play/card_play.h"
+#include "play/scoring.h"
+
+namespace tricklet::cli {
+namespace {
+
+/// A console shows a finished trick until the next card: nothing waits.
+class NoTimer : public TrickTimer {
+ public:
+  void Start(std::chrono::milliseconds /*delay*/) override {}
+  void Stop() override {}
+};
+
+ExitCode Refuse(const Context& context, const std::string& text) {
+  context.session.host.Tell(text);
+  return ExitCode::Refused;
+}
+
+std::optional<Seat> SeatFromText(std::string_view text) {
+  for (const Seat seat : kAllSeats) {
+    const std::string_view name = SeatName[seat];
+    if (EqualNoCase(text, name) || EqualNoCase(text, name.substr(0, 1))) return seat;
+  }
+  return std::nullopt;
+}
+
+/// Suit letter and rank: "SA", "h10", "HT".
+std::optional<Card> CardFromText(std::string_view text) {
+  if (text.size() < 2) return std::nullopt;
+  const auto suit = std::string_view("SHDC").find(ToUpper(text[0]));
+  const std::string_view rank = text.substr(1);
+  if (suit == std::string_view::npos) return std::nullopt;
+  for (int index = 0; index < kRanks; ++index) {
+    const auto candidate = static_cast<Rank>(index);
+    const bool ten = candidate == Rank::Ten && EqualNoCase(rank, "T");
+    if (ten || EqualNoCase(rank, RankText[candidate]))
+      return Card{static_cast<Suit>(suit), candidate};
+  }
+  return std::nullopt;
+}
+
+std::string CardText(Card card) {
+  return std::string(SuitSymbol[card.suit]) + std::string(RankText[card.rank]);
+}
+
+/// Why `call` cannot be made now.
+std::string WhyNot(const AuctionEntry& entry, Call call) {
+  const std::string by = call.Text() + " by " + std::string(SeatName[entry.ToCall()]) + ": ";
+  if (entry.Over()) return by + "the auction is over";
+  if (call.IsBid()) return by + "the bid is not sufficient";
+  if (call.IsDouble()) return by + "there is no bid of the opponents to double";
+  return by + "there is no double of the opponents to redouble";
+}
+
+/// False, with the reason, at the first call that is not legal.
+bool MakeCalls(const Context& context, AuctionEntry& entry, const std::vector<std::string>& calls) {
+  for (const std::string& text : calls) {
+    if (EqualNoCase(text, "AP")) {
+      entry.AllPass();
+      continue;
+    }
+    const auto call = Call::FromText(text);
+    if (!call) {
+      context.session.host.Tell(text + " is no call");
+      return false;
+    }
+    if (!entry.Make(*call)) {
+      context.session.host.Tell(WhyNot(entry, *call));
+      return false;
+    }
+  }
+  if (entry.OKEnabled()) return true;
+  context.session.host.Tell(
+      "The auction is not complete: " + std::string(SeatName[entry.ToCall()]) + " is to call");
+  return false;
+}
+
+bool PlayCards(const Context& context, CardPlay& play, const std::vector<std::string>& cards) {
+  for (const std::string& text : cards) {
+    const auto card = CardFromText(text);
+    if (!card) {
+      context.session.host.Tell(text + " is no card");
+      return false;
+    }
+    const auto onPlay = play.Now().OnPlay;
+    if (play.Play(*card)) continue;
+    context.session.host.Tell(
+        CardText(*card) + " cannot be played" +
+        (onPlay ? " by " + std::string(SeatName[*onPlay]) + " now" : ": the play is over"));
+    return false;
+  }
+  return true;
+}
+
+bool ClaimBy(const Context& context, CardPlay& play, const std::string& text) {
+  const auto seat = SeatFromText(text);
+  if (seat && play.Now().OnPlay == seat) {
+    play.Claim();
+    return true;
+  }
+  context.session.host.Tell(seat ? std::string(SeatName[*seat]) + " is not on play"
+                                 : text + " is no seat");
+  return false;
+}
+
+void ShowTable(const Context& context, const CardPlay& play) {
+  const PlayState& state = play.Now();
+  Board left = context.session.board;
+  left.Hands = state.CardsLeft;
+  std::ostream& data = context.data;
+  data << HandsText(left) << '\n' << ContractLabel(left) << '\n';
+  data << play.TricksText(Side::NorthSouth) << "  " << play.TricksText(Side::EastWest) << '\n';
+  for (const Seat seat : kAllSeats) {
+    if (const auto& card = state.TrickCards[seat]) {
+      data << SeatName[seat] << " played " << CardText(*card) << '\n';
+    }
+  }
+  if (state.OnPlay) data << SeatName[*state.OnPlay] << " is on play\n";
+  if (play.Finished()) data << play.ScoreText() << '\n';
+}
+
+/// The contract of `text`, in the board's fields; false when it is none.
+bool ReadContract(const std::string& text, Board& board) {
+  const std::string upper = ToUpper(text);
+  const auto mark = upper.find_first_of("X*");
+  const auto bid = Call::FromText(upper.substr(0, mark));
+  if (!bid || !bid->IsBid()) return false;
+  const std::string doubling = mark == std::string::npos ? "" : upper.substr(mark);
+  if (doubling.size() > 2 || doubling.find_first_not_of("X*") != std::string::npos) return false;
+  board.ContractLevel = bid->Level();
+  board.Trumps = ToStrain(bid->Denomination());
+  board.Contract = bid->Text() + std::string(doubling.size(), 'x');
+  return true;
+}
+
+}  // namespace
+
+ExitCode Auction(const Context& context, int boardNumber, const std::vector<std::string>& calls) {
+  Session& session = context.session;
+  if (!LoadBoard(context, boardNumber)) return ExitCode::Refused;
+  if (calls.empty()) {
+    context.data << AuctionText(session.board);
+    return ExitCode::Done;
+  }
+  // The stored calls may break the rules; as they are to be replaced, nobody need hear of it.
+  Board entered = session.board;
+  entered.Calls.Clear();
+  AuctionEntry entry(entered, session.host);
+  if (!MakeCalls(context, entry, calls) || !entry.OK()) return ExitCode::Refused;
+  if (!(entered.Calls == session.board.Calls)) {
+    session.board = entered;
+    session.board.HandChanged = true;
+    if (!SaveHand(session)) return ExitCode::Refused;
+  }
+  context.data << AuctionText(session.board);
+  return ExitCode::Done;
+}
+
+ExitCode Play(const Context& context, const PlayArguments& arguments) {
+  Session& session = context.session;
+  if (!LoadBoard(context, arguments.board)) return ExitCode::Refused;
+  NoTimer timer;
+  CardPlay play(session.board, session.host, timer);
+  if (!play.Start()) {
+    if (session.board.Contract == kAllPass) return ExitCode::Refused;
+    return Refuse(context, CardPlay::NeedsAuction(session.board)
+                               ? "The board has no auction"
+                               : "The board has no contract, or not all four hands");
+  }
+  if (!PlayCards(context, play, arguments.cards)) return ExitCode::Refused;
+  if (arguments.undo > play.UndoTop()) return Refuse(context, "Not so many cards were played");
+  for (int card = 0; card < arguments.undo; ++card) play.Undo();
+  if (arguments.claim && !ClaimBy(context, play, *arguments.claim)) return ExitCode::Refused;
+  ShowTable(context, play);
+  return ExitCode::Done;
+}
+
+ExitCode Score(const Context& context, const ScoreArguments& arguments) {
+  Board board;
+  const auto declarer = SeatFromText(arguments.declarer);
+  if (!ReadContract(arguments.contract, board)) {
+    return Refuse(context, arguments.contract + " is no contract");
+  }
+  if (!declarer) return Refuse(context, arguments.declarer + " is no seat");
+  board.Declarer = *declarer;
+  board.BoardNumber = arguments.board;
+  // Boards 1 to 4 are love all, North-South, East-West and all vulnerable.
+  constexpr std::array<std::string_view, 4> kNames{"none", "ns", "ew", "all"};
+  const auto name = std::find_if(kNames.begin(), kNames.end(), [&](std::string_view each) {
+    return EqualNoCase(each, arguments.vulnerability);
+  });
+  if (name != kNames.end()) board.BoardNumber = static_cast<int>(name - kNames.begin()) + 1;
+  context.data << ResultLine(board, arguments.tricks) << '\n';
+  return ExitCode::Done;
+}
+
+}  // namespace tricklet::cli

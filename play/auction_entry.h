@@ -1,0 +1,95 @@
+// The rules of the auction dialog: which calls may be made, and what the finished auction means.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/board.h"
+#include "core/host.h"
+
+namespace tricklet {
+
+/// Entering the auction of one board. The calls are the entry's own until `OK` hands them to the
+/// board, so that the board keeps its auction whatever happens before that. Every call procedure
+/// does nothing when its call is not legal; ask first what is enabled.
+class AuctionEntry {
+ public:
+  /// What a call changes, and an undo brings back.
+  struct State {
+    int CallIndex = 0;  ///< modulo 4: the seat to call, and the column of the last call (W N E S)
+    int CallsMade = 0;
+    int SideToDouble = 0;  ///< 0 before any bid; else the last bidder's opponents, 1 dealer's side
+    bool Doubled = false;
+    bool Redoubled = false;
+    int Passes = 0;                   ///< since the last bid, double or redouble
+    int LastBid = -1;                 ///< index of the last bid; -1 none; 35 when no bid can follow
+    int BidLevel = 0;                 ///< 1..7
+    std::optional<BidStrain> Strain;  ///< of the last bid (the dialog's BidStrain)
+    Seat BidderSeat = Seat::North;    ///< of the last bid
+    /// The first player of each side to bid each strain.
+    PerSide<EnumArray<BidStrain, std::optional<Seat>, kStrains>> FirstNamer;
+    bool DblEnabled = false;
+    bool RdbEnabled = false;
+    bool PassEnabled = true;
+    bool OKEnabled = false;
+    friend bool operator==(const State&, const State&) = default;
+  };
+
+  /// Opens on the board's stored calls, as far as they are legal; where they stop being so is told.
+  AuctionEntry(Board& board, Host& host);
+
+  // The buttons.
+  bool BidEnabled(int index) const { return index > state_.LastBid && index < Call::kBids; }
+  bool DblEnabled() const { return state_.DblEnabled; }
+  bool RdbEnabled() const { return state_.RdbEnabled; }
+  bool PassEnabled() const { return state_.PassEnabled; }
+  bool AllPassEnabled() const { return state_.PassEnabled; }
+  bool UndoEnabled() const { return state_.CallsMade > 0; }
+  bool ClearEnabled() const { return UndoEnabled(); }
+  /// The auction is complete; or it is empty and the board's is not, so that it can be taken away.
+  bool OKEnabled() const;
+
+  /// Bid `index`: (level - 1) * 5 + strain, 0..34.
+  void Bid(int index);
+  void pass();
+  /// Passes until the auction is over.
+  void AllPass();
+  void CallDbl();
+  void CallRdb();
+  /// Any call; false when it is not legal now.
+  bool Make(Call call);
+  /// Takes back the last call.
+  void UnCall();
+  /// Takes back every call.
+  void Clear();
+
+  /// Commits: the board has these calls and their contract, play in progress ends, and the board
+  /// counts as changed when its auction is another than before. False when not enabled.
+  bool OK();
+  /// Asks "Any bidding changes will be lost"; true when the person agrees. The board is as it was.
+  bool Cancel();
+
+  const CallList& Calls() const { return calls_; }
+  const State& Now() const { return state_; }
+  /// The player to call (`BidColour` marks it).
+  Seat ToCall() const { return static_cast<Seat>(static_cast<unsigned>(state_.CallIndex) & 3U); }
+  bool Over() const { return !state_.PassEnabled; }
+
+ private:
+  void EnableBids(int index);
+  void AddCall(Call call);
+  void Remember();
+  /// True, after a message, when no further call can be held.
+  bool CheckLimit();
+  void Replay(const CallList& stored);
+
+  Board& board_;
+  Host& host_;
+  CallList calls_;
+  State state_;
+  std::array<State, CallList::kCapacity + 1> snapshots_{};  // by calls made
+};
+
+}  // namespace tricklet

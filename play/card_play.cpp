@@ -1,0 +1,148 @@
+#include "play/card_play.h"
+
+#include "core/statistics.h"
+#include "play/scoring.h"
+
+namespace tricklet {
+
+bool CardPlay::NeedsAuction(const Board& board) {
+  return board.Contract == kAllPass || board.Calls.Empty();
+}
+
+bool CardPlay::Start() {
+  if (board_.Contract == kAllPass) {
+    host_.Tell("The bidding was All Pass");
+    return false;
+  }
+  if (board_.ContractLevel == 0 || !GetStats(board_.Hands).AllHandsComplete) return false;
+  timer_.Stop();
+  state_ = PlayState();
+  state_.OnPlay = SeatAfter(board_.Declarer);
+  state_.CardsLeft = board_.Hands;
+  UndoTop_ = 0;
+  board_.PlayMode = true;
+  return true;
+}
+
+void CardPlay::Stop() {
+  timer_.Stop();
+  board_.PlayMode = false;
+}
+
+PerSuit<Holding> CardPlay::LegalCards() const {
+  PerSuit<Holding> legal;
+  if (!PlayMode() || !state_.OnPlay) return legal;
+  legal = state_.CardsLeft[*state_.OnPlay];
+  if (state_.CardsInTrick > 0 && !legal[state_.LedSuit].Empty()) {
+    const Holding follow = legal[state_.LedSuit];
+    legal.fill(Holding());
+    legal[state_.LedSuit] = follow;
+  }
+  return legal;
+}
+
+bool CardPlay::IsLegal(Card card) const {
+  return LegalCards()[card.suit].Has(card.rank);
+}
+
+bool CardPlay::Play(Card card) {
+  if (!PlayMode() || SeatHolding(state_.CardsLeft, card) < 0) return false;
+  if (!IsLegal(card)) {
+    host_.Beep();
+    return false;
+  }
+  undoRecords_.at(static_cast<std::size_t>(UndoTop_++)) = state_;
+  if (state_.CardsInTrick == 0 && state_.TricksPlayed > 0) QuitTrick();
+  PutOnTable(card, *state_.OnPlay);
+  return true;
+}
+
+void CardPlay::PutOnTable(Card card, Seat seat) {
+  if (state_.CardsInTrick == 0) {
+    state_.LedSuit = card.suit;
+    state_.BestRank.reset();
+    state_.BestTrump.reset();
+  }
+  state_.TrickGathered = false;
+  state_.TrickCards[seat] = card;
+  state_.CardsLeft[seat][card.suit].Remove(card.rank);
+  ++state_.CardsInTrick;
+  DecideWinner(card, seat);
+  if (state_.CardsInTrick == kSeats) {
+    FinishTrick();
+  } else {
+    state_.OnPlay = SeatAfter(seat);
+  }
+}
+
+void CardPlay::DecideWinner(Card card, Seat seat) {
+  const bool trump = ToStrain(card.suit) == board_.Trumps;
+  if (card.suit == state_.LedSuit) {
+    // Once a plain suit has been ruffed, its own cards cannot win any more.
+    if (state_.BestTrump || (state_.BestRank && *state_.BestRank < card.rank)) return;
+    state_.BestRank = card.rank;
+    state_.TrickWinner = seat;
+  } else if (trump && (!state_.BestTrump || card.rank < *state_.BestTrump)) {
+    state_.BestTrump = card.rank;
+    state_.TrickWinner = seat;
+  }
+}
+
+void CardPlay::WinTrick(Side side) {
+  state_.LastTrickSide = side;
+  ++state_.TricksWon[side];
+  state_.TrickSides.at(static_cast<std::size_t>(state_.TricksPlayed++)) = side;
+}
+
+void CardPlay::FinishTrick() {
+  state_.CardsInTrick = 0;
+  state_.LastTrick = state_.TrickCards;
+  WinTrick(SideOf(state_.TrickWinner));
+  state_.OnPlay = state_.TrickWinner;
+  if (state_.TricksPlayed == kTricks) state_.OnPlay.reset();
+  timer_.Start(kTrickDelay);
+}
+
+void CardPlay::QuitTrick() {
+  timer_.Stop();
+  if (!PlayMode() || state_.CardsInTrick != 0) return;
+  state_.TrickCards.fill(std::nullopt);
+  state_.TrickGathered = true;
+}
+
+void CardPlay::Undo() {
+  if (!UndoEnabled()) return;
+  timer_.Stop();
+  state_ = undoRecords_.at(static_cast<std::size_t>(--UndoTop_));
+  if (state_.CardsInTrick == 0 && state_.TricksPlayed > 0) {
+    // Before a lead the trick before it lies on the table again, even if it had been gathered.
+    state_.TrickCards = state_.LastTrick;
+    state_.TrickGathered = false;
+  }
+}
+
+std::string CardPlay::ClaimCaption() const {
+  return state_.OnPlay ? "Claim by " + std::string(SeatName[*state_.OnPlay]) : "Claim";
+}
+
+void CardPlay::Claim() {
+  if (!ClaimEnabled()) return;
+  const Side side = SideOf(*state_.OnPlay);
+  timer_.Stop();
+  state_.TrickCards.fill(std::nullopt);
+  state_.CardsInTrick = 0;
+  state_.TrickGathered = true;
+  while (state_.TricksPlayed < kTricks) WinTrick(side);
+  state_.OnPlay.reset();
+  state_.Claimed = true;
+}
+
+std::string CardPlay::TricksText(Side side) const {
+  return (side == Side::NorthSouth ? "NS: " : "EW: ") + std::to_string(state_.TricksWon[side]);
+}
+
+std::string CardPlay::ScoreText() const {
+  return Finished() ? ResultLine(board_, state_.TricksWon[SideOf(board_.Declarer)]) : "";
+}
+
+}  // namespace tricklet

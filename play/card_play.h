@@ -1,0 +1,118 @@
+// Playing a board card by card, with undo and claim.
+#pragma once
+
+#include <array>
+#include <chrono>
+#include <optional>
+#include <string>
+
+#include "core/board.h"
+#include "core/host.h"
+
+namespace tricklet {
+
+/// The clock behind the finished trick: it lies on the table for a while and is then gathered.
+class TrickTimer {
+ public:
+  TrickTimer() = default;
+  TrickTimer(const TrickTimer&) = delete;
+  TrickTimer& operator=(const TrickTimer&) = delete;
+  virtual ~TrickTimer() = default;
+  /// Calls `CardPlay::QuitTrick` once after `delay`, unless stopped before.
+  virtual void Start(std::chrono::milliseconds delay) = 0;
+  virtual void Stop() = 0;
+};
+
+/// How long a finished trick lies on the table.
+inline constexpr std::chrono::milliseconds kTrickDelay{2000};
+
+inline constexpr int kTricks = 13;
+
+/// The state of the play: a value, so that an undo record is a copy of it.
+struct PlayState {
+  std::optional<Seat> OnPlay;      ///< nobody after a claim and after the last trick
+  int CardsInTrick = 0;            ///< 0..4
+  Suit LedSuit = Suit::Spades;     ///< of the current trick's first card
+  std::optional<Rank> BestRank;    ///< best so far in the suit led
+  std::optional<Rank> BestTrump;   ///< best trump so far on a plain-suit lead
+  Seat TrickWinner = Seat::North;  ///< who is winning the trick
+  Side LastTrickSide = Side::NorthSouth;
+  int TricksPlayed = 0;                     ///< 0..13
+  PerSeat<std::optional<Card>> TrickCards;  ///< on the table
+  PerSeat<std::optional<Card>> LastTrick;   ///< the last complete trick, gathered or not
+  PerSide<int> TricksWon;
+  /// The side that won each trick so far, in order; `TricksPlayed` of them.
+  std::array<Side, kTricks> TrickSides{};
+  HandTable CardsLeft;        ///< cards still in the hands
+  bool TrickGathered = true;  ///< the last trick has been cleared from the table
+  bool Claimed = false;
+  friend bool operator==(const PlayState&, const PlayState&) = default;
+};
+
+/// The play of the board in hand. It is on exactly while the board's `PlayMode` is set: loading
+/// another board, clearing it or confirming an auction ends it without further ado.
+class CardPlay {
+ public:
+  CardPlay(Board& board, Host& host, TrickTimer& timer)
+      : board_(board), host_(host), timer_(timer) {}
+
+  /// The board has no auction that could be played: the auction dialog comes first.
+  static bool NeedsAuction(const Board& board);
+
+  /// `cmdPlay` after the auction dialog: starts at the opening lead. False, with "The bidding was
+  /// All Pass" for a passed-out board, when the board cannot be played.
+  bool Start();
+  /// Ends the play; the board is as before it.
+  void Stop();
+
+  bool PlayMode() const { return board_.PlayMode; }
+  const PlayState& Now() const { return state_; }
+
+  /// `seat` may play `card` now: it is on play, holds it, and follows suit if it can.
+  bool IsLegal(Card card) const;
+  /// The legal cards of the seat on play, suit by suit.
+  PerSuit<Holding> LegalCards() const;
+
+  /// Plays a card of the hand that holds it; gathers the finished trick first. A beep and no change
+  /// when it is not legal; nothing at all for a card that is not in a hand. True when it was
+  /// played.
+  bool Play(Card card);
+
+  /// Gathers the finished trick from the table.
+  void QuitTrick();
+
+  bool UndoEnabled() const { return PlayMode() && UndoTop_ > 0 && !state_.Claimed; }
+  /// Takes back the last card.
+  void Undo();
+
+  bool ClaimEnabled() const { return PlayMode() && state_.OnPlay.has_value(); }
+  /// "Claim by South".
+  std::string ClaimCaption() const;
+  /// The side on play takes all tricks that are left.
+  void Claim();
+
+  /// 13 tricks are played or claimed.
+  bool Finished() const { return PlayMode() && state_.TricksPlayed == kTricks; }
+  /// "NS: 4" and "EW: 2".
+  std::string TricksText(Side side) const;
+  /// The result line; empty while the play goes on.
+  std::string ScoreText() const;
+
+  /// Cards played so far: how often `Undo` can be called.
+  int UndoTop() const { return UndoTop_; }
+
+ private:
+  void PutOnTable(Card card, Seat seat);
+  void DecideWinner(Card card, Seat seat);
+  void FinishTrick();
+  void WinTrick(Side side);
+
+  Board& board_;
+  Host& host_;
+  TrickTimer& timer_;
+  PlayState state_;
+  int UndoTop_ = 0;
+  std::array<PlayState, kCardsInPack> undoRecords_{};  // the state before each card
+};
+
+}  // namespace tricklet
