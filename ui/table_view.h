@@ -1,13 +1,18 @@
 // The table: four hands, their captions, dealer and vulnerability.
 #pragma once
 
-#include <QWidget>
 #include <optional>
+
+#include <QWidget>
 
 #include "core/board.h"
 #include "core/settings.h"
+#include "ui/card_painter.h"
+#include "ui/table_layout.h"
 
 namespace tricklet::ui {
+
+struct TableColours;
 
 /// Draws a board; scales with its size. It holds a copy of what it shows and changes nothing.
 class TableView : public QWidget {
@@ -19,6 +24,9 @@ class TableView : public QWidget {
   /// Shows `board` as `settings` ask.
   void Show(const Board& board, const Settings& settings);
 
+  /// Where everything lies at the present size.
+  TableLayout Layout() const;
+
   QSize minimumSizeHint() const override;
   QSize sizeHint() const override;
 
@@ -26,8 +34,15 @@ class TableView : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void DrawFelt(QPainter& painter, const TableLayout& layout, const TableColours& colours) const;
+  void DrawCaptions(QPainter& painter, const TableLayout& layout,
+                    const TableColours& colours) const;
+  void DrawCards(QPainter& painter, const TableLayout& layout);
+  void DrawText(QPainter& painter, const TableLayout& layout) const;
+
   Board board_;
   Settings settings_;
+  CardPainter cards_;
 };
 
 }  // namespace tricklet::ui

@@ -28,4 +28,9 @@ QFont ToFont(const FontSetting& setting);
 QColor ToColour(ColourNumber colour, const QPalette& palette);
 ColourNumber FromColour(const QColor& colour);
 
+/// Contrast of two opaque colours, 1..21, after WCAG 2.1 ("contrast ratio").
+double Contrast(const QColor& a, const QColor& b);
+/// `wanted` where it can be read on `background`, else black or white, whichever reads better.
+QColor ReadableOn(const QColor& background, const QColor& wanted);
+
 }  // namespace tricklet::ui

@@ -1,0 +1,68 @@
+// The command line of the program with a window, and its picture mode.
+#include "ui/launch.h"
+
+#include <QApplication>
+#include <QImage>
+
+#include "tests/support/library_fixture.h"
+#include "ui/text.h"
+
+namespace tricklet::ui {
+namespace {
+
+QApplication& Application() {
+  if (auto* running = qobject_cast<QApplication*>(QCoreApplication::instance())) return *running;
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  static int count = 1;
+  static std::string name = "test";
+  static char* values[] = {name.data(), nullptr};
+  static QApplication application(count, values);
+  return application;
+}
+
+LaunchOptions Parse(const QString& line) {
+  return ParseLaunch(QStringList{QStringLiteral("tricklet")} +
+                     line.split(u' ', Qt::SkipEmptyParts));
+}
+
+TEST(LaunchTest, ReadsTheCommandLine) {
+  const LaunchOptions options = Parse(QStringLiteral(
+      "--root /deals --library Club --board 7 --screenshot a.png --size 1024x700 x.pbn y.pbn"));
+  EXPECT_TRUE(options.error.isEmpty());
+  EXPECT_EQ(options.root, QStringLiteral("/deals"));
+  EXPECT_EQ(options.library, QStringLiteral("Club"));
+  EXPECT_EQ(options.board, 7);
+  EXPECT_EQ(options.screenshot, QStringLiteral("a.png"));
+  EXPECT_EQ(options.size, QSize(1024, 700));
+  EXPECT_EQ(options.files.size(), 2U);
+}
+
+TEST(LaunchTest, RefusesWhatMakesNoSense) {
+  for (const char* line : {"--board 0", "--board 1000", "--board x", "--size 12", "--size 0x9",
+                           "--size 1024x700x3", "--size 99999x800", "--nonsense", "--board"}) {
+    EXPECT_FALSE(Parse(QString::fromLatin1(line)).error.isEmpty()) << line;
+  }
+}
+
+TEST(LaunchTest, DrawsTheWindowAndLeavesTheStoredLibraryAlone) {
+  QApplication& application = Application();
+  const test::TempFolder folder;
+  std::filesystem::create_directories(folder.Path() / "Club");
+  LaunchOptions options;
+  options.root = PathToQt(folder.Path());
+  options.library = QStringLiteral("Club");
+  options.screenshot = PathToQt(folder.Path() / "window.png");
+  options.size = QSize(1024, 700);
+  MemoryStore store;
+  EXPECT_EQ(Launch(application, options, store), 0);
+  const QImage image(options.screenshot);
+  EXPECT_EQ(image.deviceIndependentSize().toSize(), options.size);
+  EXPECT_FALSE(store.Read("macro", "library").has_value());
+  EXPECT_FALSE(store.Read("macro", "filelocation").has_value());
+
+  options.screenshot = PathToQt(folder.Path() / "no such folder" / "window.png");
+  EXPECT_EQ(Launch(application, options, store), 1);
+}
+
+}  // namespace
+}  // namespace tricklet::ui

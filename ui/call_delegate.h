@@ -1,0 +1,22 @@
+// One cell of the auction grid.
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace tricklet::ui {
+
+/// Draws a text and, after it, a suit symbol in a colour of its own.
+class CallDelegate : public QStyledItemDelegate {
+  Q_OBJECT
+
+ public:
+  static constexpr int kSymbolRole = Qt::UserRole;            ///< QString; empty when there is none
+  static constexpr int kSymbolColourRole = Qt::UserRole + 1;  ///< QColor
+
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
+};
+
+}  // namespace tricklet::ui

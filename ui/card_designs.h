@@ -1,0 +1,19 @@
+// The three designs of card faces.
+#pragma once
+
+#include <QColor>
+#include <QPainter>
+
+#include "core/holding.h"
+
+namespace tricklet::ui {
+
+/// The size in which a face is drawn; the painter's transformation brings it to the screen's.
+inline constexpr double kFaceWidth = 100;
+inline constexpr double kFaceHeight = 140;
+
+/// Draws what is printed on `card`, with the upper left corner at the origin. `design` as
+/// `Settings::CardDesign`: 2 pips and courts, 3 large index, anything else index and one symbol.
+void DrawFace(QPainter& painter, Card card, int design, const QColor& ink);
+
+}  // namespace tricklet::ui

@@ -1,0 +1,40 @@
+// Draws cards fast: every face is rendered once for a size, a screen and a design.
+#pragma once
+
+#include <array>
+
+#include <QPainter>
+#include <QPixmap>
+#include <QSizeF>
+
+#include "core/holding.h"
+
+namespace tricklet::ui {
+
+/// All that the picture of a card depends on, besides the card.
+struct CardLook {
+  QSizeF size;            ///< in the widget's pixels
+  double pixelRatio = 1;  ///< device pixels to one of the widget's
+  int design = 1;         ///< `Settings::CardDesign`
+  bool fourColours = true;
+  friend bool operator==(const CardLook&, const CardLook&) = default;
+};
+
+/// Holds at most one picture of each card of the pack; a new look drops them all.
+class CardPainter {
+ public:
+  void SetLook(const CardLook& look);
+  /// Draws the card, and a slight shadow round it, with its upper left corner at `corner`.
+  void Draw(QPainter& painter, QPointF corner, Card card);
+
+ private:
+  QPixmap RenderBlank() const;
+  QPixmap Render(Card card);
+  double Margin() const;
+
+  CardLook look_;
+  QPixmap blank_;
+  std::array<QPixmap, kCardsInPack> faces_;
+};
+
+}  // namespace tricklet::ui

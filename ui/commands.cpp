@@ -1,0 +1,198 @@
+#include "ui/commands.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QUrl>
+
+#include "core/fault.h"
+#include "formats/export.h"
+#include "formats/import.h"
+#include "library/board_store.h"
+#include "library/library_store.h"
+#include "library/start_up.h"
+#include "ui/frmExport.h"
+#include "ui/frmOptions.h"
+#include "ui/name_filter.h"
+#include "ui/text.h"
+#include "ui/theme.h"
+
+namespace tricklet::ui {
+
+Commands::Commands(Session& session, QWidget* window)
+    : QObject(window), session_(session), window_(window) {}
+
+template <class Procedure>
+void Commands::Run(const Procedure& procedure) {
+  if (running_) return;
+  running_ = true;
+  try {
+    procedure();
+  } catch (const std::exception& failure) {
+    ErrorReport(session_.host, FaultFrom(failure));
+  }
+  running_ = false;
+  emit Done();
+}
+
+void Commands::Import() {
+  Run([this] { tricklet::Import(session_); });
+}
+
+void Commands::ImportFiles(const std::vector<std::filesystem::path>& files) {
+  for (const std::filesystem::path& file : files) {
+    bool goOn = true;
+    Run([&] { goOn = !ImportFile(session_, file).cancelled; });
+    if (!goOn) return;
+  }
+}
+
+void Commands::Export() {
+  Run([this] {
+    if (!HasHandsToExport(session_)) return;
+    CountHands(session_);
+    frmExport dialog(session_, window_);
+    if (dialog.exec() == QDialog::Accepted) {
+      tricklet::Export(session_, dialog.Range(), exportPath_);
+    }
+  });
+}
+
+void Commands::Save() {
+  Run([this] { SaveHand(session_); });
+}
+
+void Commands::Exit() {
+  session_.host.EndProgram();
+}
+
+void Commands::SelectLibrary(int index) {
+  Run([&] { tricklet::SelectLibrary(session_, index); });
+}
+
+void Commands::CreateLibrary(const QString& name) {
+  Run([&] { tricklet::CreateLibrary(session_, FromQt(name)); });
+}
+
+void Commands::RenameLibrary() {
+  Run([this] {
+    QInputDialog dialog(window_);
+    dialog.setObjectName(QStringLiteral("dlgRename"));
+    dialog.setWindowTitle(tr("Rename library"));
+    dialog.setLabelText(tr("New name of the library"));
+    dialog.setTextValue(ToQt(session_.LibraryName()));
+    if (auto* edit = dialog.findChild<QLineEdit*>()) new NameFilter(edit, session_.host);
+    if (dialog.exec() != QDialog::Accepted) return;
+    const std::string name = FromQt(dialog.textValue());
+    if (name != session_.LibraryName()) tricklet::RenameLibrary(session_, name);
+  });
+}
+
+void Commands::RefreshLibraries() {
+  Run([this] {
+    if (CheckSaveChanges(session_) == Answer::Cancel) return;
+    const std::string library = session_.LibraryName();
+    const int boardNumber = session_.board.BoardNumber;
+    GetLibraryNames(session_);
+    if (session_.LibraryName() == library) tricklet::SelectBoard(session_, boardNumber);
+  });
+}
+
+void Commands::SelectBoard(int boardNumber) {
+  Run([&] { tricklet::SelectBoard(session_, boardNumber); });
+}
+
+void Commands::StepBoard(bool backward) {
+  Run([&] { tricklet::StepBoard(session_, backward); });
+}
+
+void Commands::FirstBoard() {
+  SelectBoard(kFirstBoardNumber);
+}
+void Commands::LastBoard() {
+  SelectBoard(session_.library.MaxBoard);
+}
+
+void Commands::GoToBoard() {
+  Run([this] {
+    QInputDialog dialog(window_);
+    dialog.setObjectName(QStringLiteral("dlgGoTo"));
+    dialog.setWindowTitle(tr("Go to board"));
+    dialog.setLabelText(tr("Board (1 to %1)").arg(session_.library.MaxBoard));
+    dialog.setInputMode(QInputDialog::IntInput);
+    dialog.setIntRange(kFirstBoardNumber, session_.library.MaxBoard);
+    dialog.setIntValue(session_.board.BoardNumber);
+    if (dialog.exec() == QDialog::Accepted) tricklet::SelectBoard(session_, dialog.intValue());
+  });
+}
+
+void Commands::SetMaxBoard(int boardNumber) {
+  Run([&] { tricklet::SetMaxBoard(session_, boardNumber); });
+}
+
+void Commands::CopyHand() {
+  Run([this] { tricklet::CopyHand(session_); });
+}
+
+void Commands::PasteHand() {
+  Run([this] { tricklet::PasteHand(session_); });
+}
+
+void Commands::ClearBoard() {
+  Run([this] { tricklet::ClearBoard(session_); });
+}
+
+void Commands::Toggle(bool Settings::*setting, std::string_view key) {
+  Run([&] {
+    session_.settings.*setting = !(session_.settings.*setting);
+    SaveSetting(session_.settings, key, session_.store);
+  });
+}
+
+void Commands::SetColourScheme(int scheme) {
+  Run([&] {
+    session_.settings.ColourScheme = scheme;
+    SaveSetting(session_.settings, "ColourScheme", session_.store);
+    ApplyColourScheme(*qApp, scheme);
+  });
+}
+
+void Commands::Options() {
+  Run([this] {
+    frmOptions dialog(session_, window_);
+    if (dialog.exec() != QDialog::Accepted) return;
+    session_.settings = dialog.Chosen();
+    SaveSettings(session_.settings, session_.store);
+    ApplyColourScheme(*qApp, session_.settings.ColourScheme);
+  });
+}
+
+void Commands::OpenDocument(const QString& fileName) {
+  Run([&] {
+    const QFileInfo document(QDir(QCoreApplication::applicationDirPath()), fileName);
+    if (!document.exists()) {
+      session_.host.Tell("The help file has not been installed");
+      return;
+    }
+    session_.host.OpenUrl(FromQt(QUrl::fromLocalFile(document.absoluteFilePath()).toString()));
+  });
+}
+
+void Commands::Help() {
+  OpenDocument(QStringLiteral("Tricklet.pdf"));
+}
+void Commands::NewFeatures() {
+  OpenDocument(QStringLiteral("TrickletLatest.pdf"));
+}
+
+void Commands::About() {
+  Run([this] {
+    const QString text = tr("A library of bridge deals: keep, look at and exchange hand records.");
+    session_.host.Tell(std::string(kProgramName) + "\n" + VersionText() + "\n\n" + FromQt(text),
+                       FromQt(tr("About Tricklet")));
+  });
+}
+
+}  // namespace tricklet::ui

@@ -1,0 +1,184 @@
+#include "ui/launch.h"
+
+#include <cstdio>
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+
+#include "library/library_store.h"
+#include "library/start_up.h"
+#include "ui/frmStart.h"
+#include "ui/later.h"
+#include "ui/main_window.h"
+#include "ui/qt_host.h"
+#include "ui/text.h"
+#include "ui/theme.h"
+
+namespace tricklet::ui {
+namespace {
+
+/// The options that the parser and the help text share.
+struct Parser {
+  QCommandLineParser parser;
+  QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")},
+                          QCoreApplication::translate("Launch", "Show this help and end.")};
+  QCommandLineOption version{{QStringLiteral("v"), QStringLiteral("version")},
+                             QCoreApplication::translate("Launch", "Show the version and end.")};
+  QCommandLineOption root{
+      QStringLiteral("root"),
+      QCoreApplication::translate("Launch", "Folder of all libraries, for this call only."),
+      QStringLiteral("DIR")};
+  QCommandLineOption library{
+      QStringLiteral("library"),
+      QCoreApplication::translate("Launch", "Library to open, for this call only."),
+      QStringLiteral("NAME")};
+  QCommandLineOption board{QStringLiteral("board"),
+                           QCoreApplication::translate("Launch", "Board to begin with."),
+                           QStringLiteral("N")};
+  QCommandLineOption screenshot{
+      QStringLiteral("screenshot"),
+      QCoreApplication::translate("Launch", "Write a picture of the window and end."),
+      QStringLiteral("FILE.png")};
+  QCommandLineOption size{QStringLiteral("size"),
+                          QCoreApplication::translate("Launch", "Size of the picture."),
+                          QStringLiteral("WxH")};
+
+  Parser() {
+    parser.setApplicationDescription(
+        QCoreApplication::translate("Launch", "Keeps, shows and exchanges bridge deals."));
+    parser.addOptions({help, version, root, library, board, screenshot, size});
+    parser.addPositionalArgument(
+        QStringLiteral("files"),
+        QCoreApplication::translate("Launch", "Hand records to import into the library."),
+        QStringLiteral("[files...]"));
+  }
+};
+
+constexpr int kSmallestSide = 200;
+constexpr int kLargestSide = 16384;
+
+/// "1280x800"; an invalid size when `text` is none.
+QSize SizeFromText(const QString& text) {
+  const QStringList sides = text.split(u'x');
+  if (sides.size() != 2) return {};
+  const QSize size(sides.at(0).toInt(), sides.at(1).toInt());
+  const auto fits = [](int side) { return side >= kSmallestSide && side <= kLargestSide; };
+  return fits(size.width()) && fits(size.height()) ? size : QSize();
+}
+
+/// Asks nobody: every question has its cautious answer, and messages go to the error output.
+class SilentHost : public QtHost {
+ public:
+  using Host::Tell;
+  void Tell(const std::string& text, const std::string& /*title*/) override {
+    std::fprintf(stderr, "%s\n", text.c_str());
+  }
+  Answer Ask(const std::string& text, const std::string& title, Buttons buttons) override {
+    Tell(text, title);
+    return buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
+  }
+  void Beep() override {}
+  std::optional<std::filesystem::path> ChooseFolder(
+      const std::string& /*title*/, const std::filesystem::path& /*start*/) override {
+    return std::nullopt;
+  }
+};
+
+/// The window as a picture file; false when that could not be written.
+bool WriteScreenshot(MainWindow& window, const LaunchOptions& options) {
+  window.setAttribute(Qt::WA_DontShowOnScreen);
+  window.resize(options.size);
+  window.show();
+  QCoreApplication::processEvents();
+  window.Display();  // widths are known by now
+  QCoreApplication::processEvents();
+  return window.grab().save(options.screenshot, "PNG");
+}
+
+int RunWindow(QApplication& application, MainWindow& window, const LaunchOptions& options) {
+  window.RestorePlace();
+  window.show();
+  window.Display();
+  if (!options.files.empty()) {
+    Later(&window, [&window, &options] { window.ImportFiles(options.files); });
+  }
+  const int exitCode = application.exec();
+  window.SavePlace();
+  return exitCode;
+}
+
+int RunSession(QApplication& application, const LaunchOptions& options, Session& session,
+               QtHost& host) {
+  const bool pictureOnly = !options.screenshot.isEmpty();
+  ApplyColourScheme(application, session.settings.ColourScheme);
+  if (!pictureOnly && !session.settings.AutoLaunch) {
+    frmStart start(session);
+    if (start.exec() != QDialog::Accepted) return 0;
+  }
+  if (!pictureOnly) ShowNotice(session);
+  if (!OpenLibraries(session)) return 1;
+  if (host.HasEnded()) return 0;
+  if (options.board != 0) SelectBoard(session, options.board);
+  MainWindow window(session);
+  host.Attach(&window, window.Progress());
+  if (!pictureOnly) return RunWindow(application, window, options);
+  if (!options.files.empty()) window.ImportFiles(options.files);
+  return WriteScreenshot(window, options) ? 0 : 1;
+}
+
+}  // namespace
+
+LaunchOptions ParseLaunch(const QStringList& arguments) {
+  Parser known;
+  LaunchOptions options;
+  if (!known.parser.parse(arguments)) {
+    options.error = known.parser.errorText();
+    return options;
+  }
+  options.help = known.parser.isSet(known.help);
+  options.version = known.parser.isSet(known.version);
+  options.root = known.parser.value(known.root);
+  options.library = known.parser.value(known.library);
+  options.screenshot = known.parser.value(known.screenshot);
+  if (known.parser.isSet(known.board)) {
+    const QString text = known.parser.value(known.board);
+    options.board = text.toInt();
+    if (!IsStorable(options.board)) {
+      options.error = QCoreApplication::translate("Launch", "Not a board number: %1").arg(text);
+    }
+  }
+  if (known.parser.isSet(known.size)) {
+    const QString text = known.parser.value(known.size);
+    options.size = SizeFromText(text);
+    if (!options.size.isValid()) {
+      options.error = QCoreApplication::translate("Launch", "Not a size: %1").arg(text);
+    }
+  }
+  for (const QString& file : known.parser.positionalArguments()) {
+    options.files.push_back(PathFromQt(file));
+  }
+  return options;
+}
+
+QString HelpText() {
+  return Parser().parser.helpText();
+}
+
+int Launch(QApplication& application, const LaunchOptions& options, SettingsStore& store) {
+  OverlayStore overlay(store);
+  const bool overlaid = !options.root.isEmpty() || !options.library.isEmpty();
+  if (!options.root.isEmpty()) {
+    const QString root = QDir(options.root).absolutePath();
+    overlay.Write("macro", "filelocation", FolderText(PathFromQt(root)));
+  }
+  if (!options.library.isEmpty()) overlay.Write("macro", "library", FromQt(options.library));
+
+  QtHost asking;
+  SilentHost silent;
+  QtHost& host = options.screenshot.isEmpty() ? asking : silent;
+  Session session(host, overlaid ? static_cast<SettingsStore&>(overlay) : store);
+  return RunSession(application, options, session, host);
+}
+
+}  // namespace tricklet::ui

@@ -1,0 +1,40 @@
+// From the command line to the main window.
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+#include <QSize>
+#include <QString>
+#include <QStringList>
+
+#include "core/settings.h"
+
+class QApplication;
+
+namespace tricklet::ui {
+
+/// What the program's command line asks for.
+struct LaunchOptions {
+  QString root;           ///< library root for this call only; empty: the stored one
+  QString library;        ///< library for this call only; empty: the stored one
+  int board = 0;          ///< board to begin with; 0: the first
+  QString screenshot;     ///< picture of the window to write, and then end; empty: none
+  QSize size{1280, 800};  ///< of the picture
+  std::vector<std::filesystem::path> files;  ///< to import
+
+  bool help = false;
+  bool version = false;
+  QString error;  ///< what is wrong with the command line; empty when nothing is
+};
+
+/// `arguments` begin with the program's name. Touches no screen.
+LaunchOptions ParseLaunch(const QStringList& arguments);
+
+/// The text of `--help`.
+QString HelpText();
+
+/// Runs the program on `store` and returns its exit code.
+int Launch(QApplication& application, const LaunchOptions& options, SettingsStore& store);
+
+}  // namespace tricklet::ui

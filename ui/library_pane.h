@@ -1,0 +1,64 @@
+// The left column's upper part: library, board, and what can be done with the board.
+#pragma once
+
+#include <QWidget>
+
+#include "library/session.h"
+
+class QComboBox;
+class QLabel;
+class QPushButton;
+class QToolButton;
+
+namespace tricklet::ui {
+
+class BoardListModel;
+class ElidedLabel;
+class Section;
+
+/// Shows and chooses library, board and highest board. It asks by its signals and changes nothing:
+/// when a choice was refused, the next `Show` puts the old one back.
+class LibraryPane : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit LibraryPane(Session& session, QWidget* parent = nullptr);
+
+  void Show(const Session& session);
+
+  /// Puts the cursor into `cmbLibs`, ready for the name of a new library.
+  void BeginNewLibrary();
+
+  /// The controls in the order of the tab key.
+  QList<QWidget*> TabOrder() const;
+
+ signals:
+  void LibraryChosen(int index);
+  void LibraryNamed(const QString& name);
+  void BoardChosen(int boardNumber);
+  void HighestChosen(int boardNumber);
+  void StepAsked(bool backward);
+  void SaveAsked();
+
+ private:
+  void BuildLibrary(Session& session);
+  void BuildBoard();
+  void BuildCommands();
+  void ShowNames(const Session& session);
+  void NameTyped(const QString& text);
+
+  const Session& session_;
+  Section* fraLibrary;
+  QComboBox* cmbLibs;
+  QPushButton* cmdChange;
+  QLabel* lblLibrary;
+  QToolButton* lblPrevious;
+  QComboBox* cmbBoard;
+  QToolButton* lblNext;
+  QComboBox* cmbMaxBoard;
+  BoardListModel* boards_;
+  Section* fraBoard_;
+  QPushButton* cmdSave;
+};
+
+}  // namespace tricklet::ui

@@ -1,0 +1,155 @@
+#include "ui/main_menu.h"
+
+#include <array>
+
+#include <QAction>
+#include <QActionGroup>
+#include <QKeySequence>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "ui/commands.h"
+#include "ui/text.h"
+
+namespace tricklet::ui {
+
+MainMenu::MainMenu(QMainWindow& window, Commands& commands)
+    : QObject(&window), window_(window), commands_(commands) {
+  BuildFile();
+  BuildLibrary();
+  BuildBoard();
+  BuildView();
+  BuildOptionsAndHelp();
+  window_.addActions(actions_);
+}
+
+QMenu* MainMenu::AddMenu(const QString& title) {
+  return window_.menuBar()->addMenu(title);
+}
+
+QAction* MainMenu::Add(QMenu* menu, const char* name, const QString& text,
+                       const QList<QKeySequence>& keys) {
+  QAction* action = menu->addAction(text);
+  action->setObjectName(QString::fromLatin1(name));
+  action->setShortcuts(keys);
+  action->setMenuRole(QAction::NoRole);
+  actions_ += action;
+  return action;
+}
+
+QAction* MainMenu::Add(QMenu* menu, const char* name, const QString& text,
+                       const QList<QKeySequence>& keys, Command command) {
+  QAction* action = Add(menu, name, text, keys);
+  connect(action, &QAction::triggered, &commands_, [this, command] { (commands_.*command)(); });
+  return action;
+}
+
+QAction* MainMenu::AddToggle(QMenu* menu, const char* name, const QString& text,
+                             const QKeySequence& key, bool Settings::*setting,
+                             const char* settingKey) {
+  QAction* action = Add(menu, name, text, {key});
+  action->setCheckable(true);
+  connect(action, &QAction::triggered, &commands_,
+          [this, setting, settingKey] { commands_.Toggle(setting, settingKey); });
+  return action;
+}
+
+void MainMenu::BuildFile() {
+  QMenu* menu = AddMenu(tr("&File"));
+  Add(menu, "mnuImport", tr("&Import hand records..."), {QKeySequence::Open}, &Commands::Import);
+  Add(menu, "mnuExport", tr("&Export hand records..."), {QKeySequence(tr("Ctrl+E"))},
+      &Commands::Export);
+  menu->addSeparator();
+  save_ = Add(menu, "mnuSave", tr("&Save board"), {QKeySequence::Save}, &Commands::Save);
+  menu->addSeparator();
+  QAction* exit = Add(menu, "mnuExit", tr("E&xit"), {QKeySequence(tr("Ctrl+Q"))}, &Commands::Exit);
+  exit->setMenuRole(QAction::QuitRole);
+}
+
+void MainMenu::BuildLibrary() {
+  QMenu* menu = AddMenu(tr("&Library"));
+  Add(menu, "mnuRenameLibrary", tr("&Rename library..."), {QKeySequence(tr("F2"))},
+      &Commands::RenameLibrary);
+  connect(Add(menu, "mnuNewLibrary", tr("&New library..."), {QKeySequence::New}),
+          &QAction::triggered, this, &MainMenu::NewLibraryAsked);
+  Add(menu, "mnuRefresh", tr("Re&fresh"), {QKeySequence(tr("F5"))}, &Commands::RefreshLibraries);
+}
+
+void MainMenu::BuildBoard() {
+  QMenu* menu = AddMenu(tr("&Board"));
+  Add(menu, "mnuNext", tr("&Next board"),
+      {QKeySequence(tr("PgDown")), QKeySequence(tr("Ctrl+Right"))}, &Commands::NextBoard);
+  Add(menu, "mnuPrevious", tr("Pre&vious board"),
+      {QKeySequence(tr("PgUp")), QKeySequence(tr("Ctrl+Left"))}, &Commands::PreviousBoard);
+  Add(menu, "mnuFirst", tr("&First board"), {QKeySequence(tr("Ctrl+Home"))}, &Commands::FirstBoard);
+  Add(menu, "mnuLast", tr("&Last board"), {QKeySequence(tr("Ctrl+End"))}, &Commands::LastBoard);
+  Add(menu, "mnuGoTo", tr("&Go to board..."), {QKeySequence(tr("Ctrl+G"))}, &Commands::GoToBoard);
+  menu->addSeparator();
+  Add(menu, "mnuCopyHand", tr("&Copy board"), {QKeySequence::Copy}, &Commands::CopyHand);
+  pasteHand_ =
+      Add(menu, "mnuPasteHand", tr("&Paste board"), {QKeySequence::Paste}, &Commands::PasteHand);
+  menu->addSeparator();
+  Add(menu, "mnuClearBoard", tr("Clea&r board"), {QKeySequence(tr("Ctrl+Shift+Del"))},
+      &Commands::ClearBoard);
+}
+
+void MainMenu::BuildView() {
+  QMenu* menu = AddMenu(tr("&View"));
+  statistics_ = AddToggle(menu, "mnuStatistics", tr("&Statistics"), QKeySequence(tr("Ctrl+T")),
+                          &Settings::ShowStats, "ShowStats");
+  makeable_ = AddToggle(menu, "mnuMakeable", tr("&Makeable contracts"), QKeySequence(tr("Ctrl+M")),
+                        &Settings::ShowMakeable, "ShowMakeable");
+  cardFaces_ = AddToggle(menu, "mnuCardFaces", tr("Card &faces"), QKeySequence(tr("Ctrl+F")),
+                         &Settings::CardsFaces, "CardsFaces");
+  menu->addSeparator();
+  BuildColours(menu);
+  menu->addSeparator();
+  connect(Add(menu, "mnuPresentation", tr("&Presentation"), {QKeySequence(tr("F11"))}),
+          &QAction::triggered, this, &MainMenu::PresentationAsked);
+}
+
+void MainMenu::BuildColours(QMenu* view) {
+  QMenu* menu = view->addMenu(tr("&Colour scheme"));
+  colours_ = new QActionGroup(this);
+  const std::array<QAction*, 3> schemes{
+      Add(menu, "mnuColoursSystem", tr("As the &system"), {QKeySequence(tr("Ctrl+Alt+1"))}),
+      Add(menu, "mnuColoursLight", tr("&Light"), {QKeySequence(tr("Ctrl+Alt+2"))}),
+      Add(menu, "mnuColoursDark", tr("&Dark"), {QKeySequence(tr("Ctrl+Alt+3"))})};
+  int scheme = 0;
+  for (QAction* action : schemes) {
+    action->setCheckable(true);
+    colours_->addAction(action);
+    connect(action, &QAction::triggered, &commands_,
+            [this, scheme] { commands_.SetColourScheme(scheme); });
+    ++scheme;
+  }
+}
+
+void MainMenu::BuildOptionsAndHelp() {
+  QMenu* options = AddMenu(tr("&Options"));
+  Add(options, "mnuOptions", tr("&Options..."), {QKeySequence(tr("Ctrl+,"))}, &Commands::Options);
+  QMenu* help = AddMenu(tr("&Help"));
+  Add(help, "mnuHelp", tr("&Help"), {QKeySequence(tr("F1"))}, &Commands::Help);
+  Add(help, "mnuNewFeatures", tr("&New Features"), {QKeySequence(tr("Shift+F1"))},
+      &Commands::NewFeatures);
+  help->addSeparator();
+  Add(help, "mnuAbout", tr("&About Tricklet"), {QKeySequence(tr("Ctrl+F1"))}, &Commands::About);
+}
+
+void MainMenu::Show(const Session& session) {
+  for (QAction* action : actions_) action->setEnabled(enabled_);
+  save_->setEnabled(enabled_ && session.board.HandChanged);
+  pasteHand_->setEnabled(enabled_ && !session.CopyLibrary.empty());
+  statistics_->setChecked(session.settings.ShowStats);
+  makeable_->setChecked(session.settings.ShowMakeable);
+  cardFaces_->setChecked(session.settings.CardsFaces);
+  colours_->actions().at(session.settings.ColourScheme)->setChecked(true);
+}
+
+void MainMenu::SetEnabled(bool enabled) {
+  enabled_ = enabled;
+  for (QAction* action : actions_) action->setEnabled(enabled);
+}
+
+}  // namespace tricklet::ui

@@ -1,0 +1,65 @@
+// Menus and keys of the main window.
+#pragma once
+
+#include <QList>
+#include <QObject>
+
+#include "library/session.h"
+
+class QAction;
+class QActionGroup;
+class QKeySequence;
+class QMainWindow;
+class QMenu;
+
+namespace tricklet::ui {
+
+class Commands;
+
+/// Builds the menu bar. Its keys work while the menu bar is hidden too.
+class MainMenu : public QObject {
+  Q_OBJECT
+
+ public:
+  MainMenu(QMainWindow& window, Commands& commands);
+
+  /// Sets what is enabled and checked.
+  void Show(const Session& session);
+
+  /// Off while long work runs: no command can be given then.
+  void SetEnabled(bool enabled);
+
+ signals:
+  void NewLibraryAsked();
+  void PresentationAsked();
+
+ private:
+  using Command = void (Commands::*)();
+
+  QMenu* AddMenu(const QString& title);
+  QAction* Add(QMenu* menu, const char* name, const QString& text, const QList<QKeySequence>& keys);
+  QAction* Add(QMenu* menu, const char* name, const QString& text, const QList<QKeySequence>& keys,
+               Command command);
+  QAction* AddToggle(QMenu* menu, const char* name, const QString& text, const QKeySequence& key,
+                     bool Settings::*setting, const char* settingKey);
+  void BuildFile();
+  void BuildLibrary();
+  void BuildBoard();
+  void BuildView();
+  void BuildColours(QMenu* view);
+  void BuildOptionsAndHelp();
+
+  QMainWindow& window_;
+  Commands& commands_;
+  QList<QAction*> actions_;
+  bool enabled_ = true;
+
+  QAction* save_ = nullptr;
+  QAction* pasteHand_ = nullptr;
+  QAction* statistics_ = nullptr;
+  QAction* makeable_ = nullptr;
+  QAction* cardFaces_ = nullptr;
+  QActionGroup* colours_ = nullptr;
+};
+
+}  // namespace tricklet::ui

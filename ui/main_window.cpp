@@ -1,0 +1,260 @@
+#include "ui/main_window.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStatusBar>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include "library/library_store.h"
+#include "ui/auction_pane.h"
+#include "ui/commands.h"
+#include "ui/later.h"
+#include "ui/library_pane.h"
+#include "ui/main_menu.h"
+#include "ui/makeable_pane.h"
+#include "ui/progress_frame.h"
+#include "ui/section.h"
+#include "ui/statistics_pane.h"
+#include "ui/table_view.h"
+#include "ui/text.h"
+
+namespace tricklet::ui {
+namespace {
+
+/// Widths of the side columns in heights of the window's font.
+constexpr double kLeftWidth = 15;
+constexpr double kRightWidth = 19;
+/// Round the panes, and between them.
+constexpr int kMargin = 10;
+
+constexpr std::string_view kPlaceSection = "Window";
+constexpr std::string_view kPlaceKey = "Geometry";
+
+/// Room kept while hidden, so that the window does not change its shape during work.
+void KeepRoom(QWidget* widget) {
+  QSizePolicy policy = widget->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  widget->setSizePolicy(policy);
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Session& session)
+    : session_(session),
+      commands_(new Commands(session, this)),
+      menu_(new MainMenu(*this, *commands_)),
+      library_(new LibraryPane(session)),
+      statistics_(new StatisticsPane),
+      table_(new TableView),
+      auction_(new AuctionPane),
+      makeable_(new MakeablePane),
+      progress_(new ProgressFrame) {
+  setObjectName(QStringLiteral("frmMain"));
+  setAcceptDrops(true);
+  LayOut();
+  BuildStatusLine();
+  Connect();
+  SetTabOrder();
+  table_->setFocus();
+  Display();
+}
+
+void MainWindow::LayOut() {
+  left_ = MakeColumn(QStringLiteral("colLeft"), {library_, statistics_}, kLeftWidth);
+  right_ = MakeColumn(QStringLiteral("colRight"), {auction_, makeable_}, kRightWidth);
+  table_->setObjectName(QStringLiteral("picTable"));
+  table_->setAccessibleName(tr("Table"));
+  table_->setFocusPolicy(Qt::StrongFocus);
+  table_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+
+  auto* row = new QHBoxLayout;
+  row->setSpacing(kMargin);
+  row->addWidget(left_);
+  row->addWidget(table_, 1);
+  row->addWidget(right_);
+  auto* centre = new QWidget(this);
+  auto* column = new QVBoxLayout(centre);
+  column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  column->setSpacing(kMargin);
+  column->addLayout(row, 1);
+  column->addWidget(progress_);
+  setCentralWidget(centre);
+}
+
+QScrollArea* MainWindow::MakeColumn(const QString& name, const QList<QWidget*>& panes,
+                                    double width) {
+  auto* content = new QWidget;
+  auto* column = new QVBoxLayout(content);
+  column->setContentsMargins(2, 2, 2, 2);
+  column->setSpacing(12);
+  for (QWidget* pane : panes) column->addWidget(pane);
+  column->addStretch(1);
+  auto* area = new QScrollArea(this);
+  area->setObjectName(name);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidgetResizable(true);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  area->setFixedWidth(static_cast<int>(fontMetrics().height() * width));
+  area->setWidget(content);
+  KeepRoom(area);
+  return area;
+}
+
+void MainWindow::BuildStatusLine() {
+  status_ = new ElidedLabel(this);
+  status_->setObjectName(QStringLiteral("lblStatus"));
+  MakeQuiet(status_);
+  auto* hint = new QLabel(tr("F1 help · F11 presentation"), this);
+  MakeQuiet(hint);
+  statusBar()->setSizeGripEnabled(false);
+  statusBar()->setContentsMargins(8, 0, 8, 4);
+  statusBar()->addWidget(status_, 1);
+  statusBar()->addPermanentWidget(hint);
+}
+
+void MainWindow::Connect() {
+  connect(commands_, &Commands::Done, this, &MainWindow::Display);
+  connect(library_, &LibraryPane::LibraryChosen, commands_, &Commands::SelectLibrary);
+  connect(library_, &LibraryPane::LibraryNamed, commands_, &Commands::CreateLibrary);
+  connect(library_, &LibraryPane::BoardChosen, commands_, &Commands::SelectBoard);
+  connect(library_, &LibraryPane::HighestChosen, commands_, &Commands::SetMaxBoard);
+  connect(library_, &LibraryPane::StepAsked, commands_, &Commands::StepBoard);
+  connect(library_, &LibraryPane::SaveAsked, commands_, &Commands::Save);
+  connect(menu_, &MainMenu::NewLibraryAsked, library_, &LibraryPane::BeginNewLibrary);
+  connect(menu_, &MainMenu::PresentationAsked, this, [this] { SetPresentation(!presentation_); });
+  connect(progress_, &ProgressFrame::Begun, this, [this] { SetWorking(true); });
+  connect(progress_, &ProgressFrame::Ended, this, [this] { SetWorking(false); });
+
+  leavePresentation_ = new QAction(tr("Leave the presentation"), this);
+  leavePresentation_->setShortcut(Qt::Key_Escape);
+  leavePresentation_->setEnabled(false);
+  connect(leavePresentation_, &QAction::triggered, this, [this] { SetPresentation(false); });
+  addAction(leavePresentation_);
+}
+
+void MainWindow::SetTabOrder() {
+  const QList<QWidget*> order =
+      library_->TabOrder() + QList<QWidget*>{table_} + auction_->TabOrder() + makeable_->TabOrder();
+  for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order.at(i - 1), order.at(i));
+}
+
+void MainWindow::Display() {
+  menu_->Show(session_);
+  library_->Show(session_);
+  statistics_->Show(session_);
+  table_->Show(session_.board, session_.settings);
+  auction_->Show(session_);
+  makeable_->Show(session_);
+  const Board& board = session_.board;
+  setWindowTitle(tr("%1 - Board %2[*] - Tricklet")
+                     .arg(ToQt(session_.LibraryName()), QString::number(board.BoardNumber)));
+  setWindowModified(board.HandChanged);
+  status_->setText(board.HandChanged
+                       ? tr("Board %1 has changes that are not saved").arg(board.BoardNumber)
+                       : tr("Ready"));
+}
+
+void MainWindow::ImportFiles(const std::vector<std::filesystem::path>& files) {
+  commands_->ImportFiles(files);
+}
+
+void MainWindow::SetWorking(bool working) {
+  menu_->SetEnabled(!working);
+  menuBar()->setEnabled(!working);
+  left_->setEnabled(!working);
+  setAcceptDrops(!working);
+  leavePresentation_->setEnabled(!working && presentation_);  // Escape cancels the work meanwhile
+  ShowColumns();
+  if (!working) table_->setFocus();
+}
+
+void MainWindow::ShowColumns() {
+  const bool working = progress_->IsWorking();
+  KeepRoom(table_);
+  table_->setVisible(!working);
+  left_->setVisible(!presentation_);
+  right_->setVisible(!presentation_ && !working);
+}
+
+void MainWindow::SetPresentation(bool on) {
+  if (presentation_ == on) return;
+  presentation_ = on;
+  leavePresentation_->setEnabled(on);
+  for (QWidget* side : {left_, right_}) {
+    QSizePolicy policy = side->sizePolicy();
+    policy.setRetainSizeWhenHidden(!on);
+    side->setSizePolicy(policy);
+  }
+  const int margin = on ? 0 : kMargin;
+  centralWidget()->layout()->setContentsMargins(margin, margin, margin, margin);
+  menuBar()->setVisible(!on);
+  statusBar()->setVisible(!on);
+  ShowColumns();
+  if (on) {
+    stateBefore_ = windowState();
+    setWindowState(stateBefore_ | Qt::WindowFullScreen);
+  } else {
+    setWindowState(stateBefore_);
+  }
+  table_->setFocus();
+}
+
+void MainWindow::RestorePlace() {
+  const auto stored = session_.store.Read(kPlaceSection, kPlaceKey);
+  if (stored && restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(*stored)))) return;
+  resize(QSize(1280, 800).boundedTo(screen()->availableSize()));
+}
+
+void MainWindow::SavePlace() {
+  SetPresentation(false);
+  session_.store.Write(kPlaceSection, kPlaceKey, saveGeometry().toBase64().toStdString());
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && table_ != nullptr && status_ != nullptr) Display();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (progress_->IsWorking()) {
+    progress_->Cancel();
+    event->ignore();
+    return;
+  }
+  if (CheckSaveChanges(session_) == Answer::Cancel) {
+    event->ignore();
+    return;
+  }
+  Display();
+  event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  for (const QUrl& url : event->mimeData()->urls()) {
+    if (url.isLocalFile()) {
+      event->acceptProposedAction();
+      return;
+    }
+  }
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  std::vector<std::filesystem::path> files;
+  for (const QUrl& url : event->mimeData()->urls()) {
+    if (url.isLocalFile()) files.push_back(PathFromQt(url.toLocalFile()));
+  }
+  event->acceptProposedAction();
+  // Questions come after the drop, so that the program that it came from does not wait for them.
+  Later(this, [this, files] { ImportFiles(files); });
+}
+
+}  // namespace tricklet::ui

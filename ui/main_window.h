@@ -1,0 +1,79 @@
+// The main window: lays out the panes and routes what they ask for.
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+#include <QMainWindow>
+
+#include "library/session.h"
+
+class QLabel;
+class QScrollArea;
+
+namespace tricklet::ui {
+
+class AuctionPane;
+class Commands;
+class LibraryPane;
+class MainMenu;
+class MakeablePane;
+class ProgressFrame;
+class StatisticsPane;
+class TableView;
+
+/// Everything that it shows is derived from the session by `Display`.
+class MainWindow : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  explicit MainWindow(Session& session);
+
+  /// Draws the whole state.
+  void Display();
+
+  /// Imports the files one after another.
+  void ImportFiles(const std::vector<std::filesystem::path>& files);
+
+  /// Full screen with nothing but the table.
+  void SetPresentation(bool on);
+
+  /// The window's place and size, from one run to the next.
+  void RestorePlace();
+  void SavePlace();
+
+  ProgressFrame* Progress() const { return progress_; }
+
+ protected:
+  void changeEvent(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ private:
+  void LayOut();
+  void Connect();
+  void SetTabOrder();
+  void BuildStatusLine();
+  void SetWorking(bool working);
+  void ShowColumns();
+  QScrollArea* MakeColumn(const QString& name, const QList<QWidget*>& panes, double width);
+
+  Session& session_;
+  Commands* commands_;
+  MainMenu* menu_;
+  LibraryPane* library_;
+  StatisticsPane* statistics_;
+  TableView* table_;
+  AuctionPane* auction_;
+  MakeablePane* makeable_;
+  ProgressFrame* progress_;
+  QScrollArea* left_ = nullptr;
+  QScrollArea* right_ = nullptr;
+  QLabel* status_ = nullptr;
+  QAction* leavePresentation_ = nullptr;
+  bool presentation_ = false;
+  Qt::WindowStates stateBefore_;
+};
+
+}  // namespace tricklet::ui

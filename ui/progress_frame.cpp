@@ -1,0 +1,79 @@
+#include "ui/progress_frame.h"
+
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QShortcut>
+
+namespace tricklet::ui {
+namespace {
+
+/// Steps can come by the thousand; drawing each would take longer than the work.
+constexpr int kMillisecondsBetweenDrawings = 33;
+
+}  // namespace
+
+ProgressFrame::ProgressFrame(QWidget* parent)
+    : QFrame(parent),
+      lblProgress(new QLabel(this)),
+      bar_(new QProgressBar(this)),
+      cmdCancelImport(new QPushButton(tr("Cancel"), this)) {
+  setObjectName(QStringLiteral("fraProgress"));
+  setAccessibleName(tr("Progress"));
+  lblProgress->setObjectName(QStringLiteral("lblProgress"));
+  lblProgress->setTextFormat(Qt::PlainText);
+  lblProgress->setMinimumWidth(fontMetrics().horizontalAdvance(tr("Generating board 999")));
+  bar_->setObjectName(QStringLiteral("barProgress"));
+  bar_->setAccessibleName(tr("Boards done"));
+  bar_->setTextVisible(false);
+  bar_->setMaximumHeight(fontMetrics().height() * 3 / 4);
+  cmdCancelImport->setObjectName(QStringLiteral("cmdCancelImport"));
+  new QShortcut(Qt::Key_Escape, this, this, &ProgressFrame::Cancel);  // works while visible
+  connect(cmdCancelImport, &QPushButton::clicked, this, &ProgressFrame::Cancel);
+
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(16);
+  row->addWidget(lblProgress);
+  row->addWidget(bar_, 1);
+  row->addWidget(cmdCancelImport);
+  hide();
+}
+
+void ProgressFrame::Begin() {
+  if (++depth_ > 1) return;
+  cancelled_ = false;
+  sinceDrawn_.invalidate();
+  lblProgress->clear();
+  bar_->setRange(0, 0);
+  cmdCancelImport->setEnabled(true);
+  show();
+  emit Begun();
+}
+
+void ProgressFrame::End() {
+  if (depth_ == 0 || --depth_ > 0) return;
+  hide();
+  emit Ended();
+}
+
+bool ProgressFrame::Step(const QString& text, int done, int total) {
+  const bool due = !sinceDrawn_.isValid() || sinceDrawn_.elapsed() >= kMillisecondsBetweenDrawings;
+  if (due) {
+    lblProgress->setText(text);
+    bar_->setRange(0, total);
+    bar_->setValue(done);
+    sinceDrawn_.start();
+  }
+  QCoreApplication::processEvents();
+  return !cancelled_;
+}
+
+void ProgressFrame::Cancel() {
+  cancelled_ = true;
+  cmdCancelImport->setEnabled(false);
+}
+
+}  // namespace tricklet::ui

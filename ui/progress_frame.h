@@ -1,0 +1,45 @@
+// The progress display at the foot of the window.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QFrame>
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+
+namespace tricklet::ui {
+
+/// Shown while long work runs: what is being done, how far it is, and a way to cancel it.
+class ProgressFrame : public QFrame {
+  Q_OBJECT
+
+ public:
+  explicit ProgressFrame(QWidget* parent = nullptr);
+
+  /// Around long work; pairs may be nested, and only the outermost shows and hides the frame.
+  void Begin();
+  void End();
+  bool IsWorking() const { return depth_ > 0; }
+
+  /// Shows a step (`total` 0: how many there are is not known) and lets pending events run once.
+  /// False when the person has cancelled since `Begin`.
+  bool Step(const QString& text, int done, int total);
+
+  /// What `cmdCancelImport` does.
+  void Cancel();
+
+ signals:
+  void Begun();
+  void Ended();
+
+ private:
+  QLabel* lblProgress;
+  QProgressBar* bar_;
+  QPushButton* cmdCancelImport;
+  QElapsedTimer sinceDrawn_;
+  int depth_ = 0;
+  bool cancelled_ = false;
+};
+
+}  // namespace tricklet::ui

@@ -1,0 +1,51 @@
+// Building blocks of the side columns.
+#pragma once
+
+#include <QFrame>
+#include <QLabel>
+
+class QHBoxLayout;
+class QVBoxLayout;
+
+namespace tricklet::ui {
+
+/// A line of plain text that gives way: what does not fit is cut with "...", and the whole text is
+/// in the tool tip then.
+class ElidedLabel : public QLabel {
+  Q_OBJECT
+
+ public:
+  explicit ElidedLabel(QWidget* parent = nullptr);
+
+  QSize minimumSizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+/// A frame of a side column: a title in bold, and its contents below.
+class Section : public QFrame {
+  Q_OBJECT
+
+ public:
+  Section(const QString& name, QWidget* parent);
+
+  /// The title is the frame's accessible name too.
+  void SetTitle(const QString& title);
+  /// For a control at the right end of the title.
+  QHBoxLayout* TitleRow() const { return titleRow_; }
+  QVBoxLayout* Body() const { return body_; }
+
+ private:
+  QVBoxLayout* body_;
+  QHBoxLayout* titleRow_;
+  ElidedLabel* title_;
+};
+
+/// A label in the quiet colour of secondary text.
+void MakeQuiet(QLabel* label);
+
+/// A thin line between two sections.
+QFrame* MakeSeparator(QWidget* parent);
+
+}  // namespace tricklet::ui

@@ -1,0 +1,32 @@
+// Colours and fonts of the table that its drawings share.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+#include <QSizeF>
+#include <QStringList>
+
+namespace tricklet::ui {
+
+/// The felt and what lies flat on it; darker where the palette is dark.
+struct TableColours {
+  QColor feltTop;
+  QColor feltBottom;
+  QColor caption;  ///< behind a caption
+  QColor centre;   ///< the middle panel
+  QColor line;     ///< thin edges
+  QColor text;     ///< on any of the above
+  QColor dimText;
+};
+TableColours ColoursFor(const QPalette& palette);
+
+/// White on it, and it on felt, can be told apart.
+inline const QColor kVulnerableRed(0xC8, 0x20, 0x2F);
+inline const QColor kDealerYellow(0xFF, 0xDD, 0x55);
+
+/// `font` at the largest size in pixels, up to `mostPixels`, at which each of `texts` fits into
+/// `room`; never below 5 pixels.
+QFont Fitted(QFont font, const QStringList& texts, QSizeF room, double mostPixels);
+
+}  // namespace tricklet::ui

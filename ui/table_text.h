@@ -1,0 +1,35 @@
+// The hands as text: four lines, each a suit's symbol and its ranks.
+#pragma once
+
+#include <QFont>
+#include <QPainter>
+#include <QPalette>
+
+#include "core/board.h"
+#include "core/settings.h"
+#include "ui/table_layout.h"
+
+namespace tricklet::ui {
+
+/// Sizes of one text display; all four hands share them.
+struct TextMeasures {
+  QFont font;
+  double symbolHeight = 0;
+  double symbolWidth = 0;  ///< the column of symbols, with the space after it
+  double lineHeight = 0;
+};
+
+/// Fonts as the settings ask, larger on a table larger than 760 x 680 and smaller where a hand
+/// would not fit otherwise. `dotsPerInch` is that of the screen.
+TextMeasures MeasureText(const TableLayout& layout, const HandTable& hands,
+                         const Settings& settings, double dotsPerInch);
+
+/// What a hand takes, and its panel inside its area.
+QSizeF TextPanelSize(const TextMeasures& measures, const PerSuit<Holding>& hand);
+QRectF TextPanel(const TableLayout& layout, const TextMeasures& measures,
+                 const PerSuit<Holding>& hand, Seat seat);
+
+void DrawTextHand(QPainter& painter, const QRectF& panel, const TextMeasures& measures,
+                  const PerSuit<Holding>& hand, const Settings& settings, const QPalette& palette);
+
+}  // namespace tricklet::ui
