@@ -16,25 +16,11 @@
 namespace tricklet::ui {
 namespace {
 
-QApplication& Application() {
-  if (auto* running = qobject_cast<QApplication*>(QCoreApplication::instance())) return *running;
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  static int count = 1;
-  static std::string name = "test";
-  static char* values[] = {name.data(), nullptr};
-  static QApplication application(count, values);
-  return application;
-}
-
 class DialogsTest : public test::LibraryTest {
  protected:
-  DialogsTest() : application_(Application()) {}
-
   static void Click(const QWidget& dialog, const char* name) {
     dialog.findChild<QAbstractButton*>(QString::fromLatin1(name))->click();
   }
-
-  QApplication& application_;
 };
 
 TEST_F(DialogsTest, EscapeIsTheCautiousAnswerAndTextsAreNoMarkup) {
@@ -52,7 +38,7 @@ TEST_F(DialogsTest, EscapeIsTheCautiousAnswerAndTextsAreNoMarkup) {
   };
   QtHost asking;
   for (const auto& [buttons, key, answer] : cases) {
-    Later(&application_, [pressed = key] {
+    Later(qApp, [pressed = key] {
       auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
       ASSERT_NE(box, nullptr);
       EXPECT_EQ(box->textFormat(), Qt::PlainText);

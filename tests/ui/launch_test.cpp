@@ -10,16 +10,6 @@
 namespace tricklet::ui {
 namespace {
 
-QApplication& Application() {
-  if (auto* running = qobject_cast<QApplication*>(QCoreApplication::instance())) return *running;
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  static int count = 1;
-  static std::string name = "test";
-  static char* values[] = {name.data(), nullptr};
-  static QApplication application(count, values);
-  return application;
-}
-
 LaunchOptions Parse(const QString& line) {
   return ParseLaunch(QStringList{QStringLiteral("tricklet")} +
                      line.split(u' ', Qt::SkipEmptyParts));
@@ -45,7 +35,7 @@ TEST(LaunchTest, RefusesWhatMakesNoSense) {
 }
 
 TEST(LaunchTest, DrawsTheWindowAndLeavesTheStoredLibraryAlone) {
-  QApplication& application = Application();
+  QApplication& application = *qApp;
   const test::TempFolder folder;
   std::filesystem::create_directories(folder.Path() / "Club");
   LaunchOptions options;

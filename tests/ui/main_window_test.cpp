@@ -24,16 +24,6 @@
 namespace tricklet::ui {
 namespace {
 
-QApplication& Application() {
-  if (auto* running = qobject_cast<QApplication*>(QCoreApplication::instance())) return *running;
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  static int count = 1;
-  static std::string name = "test";
-  static char* values[] = {name.data(), nullptr};
-  static QApplication application(count, values);
-  return application;
-}
-
 /// Follows a script, and shows work in the window as the program does.
 class WindowHost : public test::ScriptedHost {
  public:
@@ -57,7 +47,7 @@ class WindowHost : public test::ScriptedHost {
 
 class MainWindowTest : public testing::Test {
  protected:
-  MainWindowTest() : application_(Application()), session(host, store) {
+  MainWindowTest() : session(host, store) {
     session.settings.filelocation = FolderText(folder.Path());
     session.settings.library = "Club";
     for (const int number : {1, 3, 22, 24}) PutBoard(number);
@@ -96,7 +86,6 @@ class MainWindowTest : public testing::Test {
   }
   QString ShownBoard() const { return Find<QComboBox>("cmbBoard")->currentText(); }
 
-  QApplication& application_;
   test::TempFolder folder;
   WindowHost host;
   MemoryStore store;

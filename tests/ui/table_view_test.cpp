@@ -14,21 +14,9 @@
 namespace tricklet::ui {
 namespace {
 
-/// The program's application where there is one, else one without a screen.
-QApplication& Application() {
-  if (auto* running = qobject_cast<QApplication*>(QCoreApplication::instance())) return *running;
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  static int argc = 1;
-  static char name[] = "test";
-  static char* argv[] = {name, nullptr};
-  static QApplication application(argc, argv);
-  return application;
-}
-
 class TableViewTest : public testing::Test {
  protected:
-  TableViewTest() : application_(Application()) {}
-  void TearDown() override { ApplyColourScheme(application_, 0); }
+  void TearDown() override { ApplyColourScheme(*qApp, 0); }
 
   static Board LongSuits() {
     Board board;
@@ -51,8 +39,6 @@ class TableViewTest : public testing::Test {
     view.render(&picture);
     return picture;
   }
-
-  QApplication& application_;
 };
 
 TEST_F(TableViewTest, PaintsEachDesignColouringAndDisplayItsOwnWay) {
@@ -126,18 +112,18 @@ TEST_F(TableViewTest, TellsAScreenReaderWhatItShows) {
 
 TEST_F(TableViewTest, SwitchesColourSchemesAndBack) {
   const QColor before = QApplication::palette().color(QPalette::Window);
-  ApplyColourScheme(application_, 2);
+  ApplyColourScheme(*qApp, 2);
   EXPECT_TRUE(IsDark(QApplication::palette()));
-  ApplyColourScheme(application_, 1);
+  ApplyColourScheme(*qApp, 1);
   EXPECT_FALSE(IsDark(QApplication::palette()));
-  ApplyColourScheme(application_, 0);
+  ApplyColourScheme(*qApp, 0);
   EXPECT_EQ(QApplication::palette().color(QPalette::Window), before);
 }
 
 TEST_F(TableViewTest, CanReadSuitsAndTextOnEveryBackground) {
   constexpr double kLeast = 3.0;  // WCAG 2.1, large text
   for (const int scheme : {1, 2}) {
-    ApplyColourScheme(application_, scheme);
+    ApplyColourScheme(*qApp, scheme);
     const QPalette palette = QApplication::palette();
     for (const auto role : {QPalette::Window, QPalette::Base, QPalette::AlternateBase}) {
       const QColor background = palette.color(role);
