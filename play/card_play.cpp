@@ -1,5 +1,7 @@
 #include "play/card_play.h"
 
+#include <bit>
+
 #include "core/statistics.h"
 #include "play/scoring.h"
 
@@ -43,6 +45,17 @@ PerSuit<Holding> CardPlay::LegalCards() const {
 
 bool CardPlay::IsLegal(Card card) const {
   return LegalCards()[card.suit].Has(card.rank);
+}
+
+std::optional<Card> CardPlay::OnlyLegalCard() const {
+  std::optional<Card> only;
+  const PerSuit<Holding> legal = LegalCards();
+  for (const Suit suit : kAllSuits) {
+    if (legal[suit].Empty()) continue;
+    if (only || legal[suit].Count() > 1) return std::nullopt;
+    only = Card{suit, static_cast<Rank>(std::countr_zero(legal[suit].Bits()))};
+  }
+  return only;
 }
 
 bool CardPlay::Play(Card card) {

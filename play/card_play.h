@@ -73,6 +73,9 @@ class CardPlay {
   /// The legal cards of the seat on play, suit by suit.
   PerSuit<Holding> LegalCards() const;
 
+  /// The one legal card; nothing when there are more, or none.
+  std::optional<Card> OnlyLegalCard() const;
+
   /// Plays a card of the hand that holds it; gathers the finished trick first. A beep and no change
   /// when it is not legal; nothing at all for a card that is not in a hand. True when it was
   /// played.

@@ -48,7 +48,8 @@ TableView::TableView(QWidget* parent) : QWidget(parent) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void TableView::Show(const Board& board, const Settings& settings) {
+void TableView::Show(const Board& board, const Settings& settings, const CardPlay* /*play*/,
+                     std::optional<Seat> /*toCall*/) {
   board_ = board;
   settings_ = settings;
   setAccessibleDescription(DescribeTable(board_));

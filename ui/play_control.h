@@ -1,0 +1,61 @@
+// The play of the board in the window: the engine's rules with a real clock.
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+
+#include "library/session.h"
+#include "play/card_play.h"
+
+namespace tricklet::ui {
+
+/// The engine's trick timer on the event loop.
+class QtTrickTimer : public QObject, public TrickTimer {
+  Q_OBJECT
+
+ public:
+  explicit QtTrickTimer(QObject* parent = nullptr);
+  void Start(std::chrono::milliseconds delay) override;
+  void Stop() override;
+
+ signals:
+  void Elapsed();
+
+ private:
+  QTimer timQuit;
+};
+
+/// Owns the play of the session's board. Every change of it, by a person or by the clock, ends with
+/// `Changed`.
+class PlayControl : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit PlayControl(Session& session, QObject* parent = nullptr);
+
+  /// What is to be shown; its `PlayMode` says whether there is a play at all.
+  const CardPlay& Play() const { return play_; }
+
+  /// `cmdPlay`, after the auction dialog where `CardPlay::NeedsAuction` asks for it. False when the
+  /// board cannot be played.
+  bool Start();
+  /// Leaves the play; the board is as before it.
+  void Stop();
+  void PlayCard(Card card);
+  /// Plays the only legal card; beeps when there is not just one.
+  void PlayOnlyCard();
+  void Undo();
+  void Claim();
+  /// Gathers a finished trick without waiting for the clock.
+  void QuitTrick();
+
+ signals:
+  void Changed();
+
+ private:
+  Session& session_;
+  QtTrickTimer timer_;
+  CardPlay play_;
+};
+
+}  // namespace tricklet::ui
