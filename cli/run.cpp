@@ -42,6 +42,7 @@ using Command = std::function<ExitCode(const Context&, const ConsoleHost&)>;
 
 std::vector<fs::path> Paths(const std::vector<std::string>& texts) {
   std::vector<fs::path> paths;
+  paths.reserve(texts.size());
   for (const std::string& text : texts) paths.push_back(PathFromText(text));
   return paths;
 }

@@ -21,7 +21,7 @@ else()
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # GCC 12 sees an overlap in every "literal" + std::string&& when it optimises (its bug 105329).
-  target_compile_options(tricklet_flags INTERFACE -Wno-restrict)
+  target_compile_options(tricklet_flags INTERFACE $<$<NOT:$<CONFIG:Debug>>:-Wno-restrict>)
 endif()
 if(TRICKLET_SANITIZE)
   set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

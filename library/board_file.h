@@ -15,7 +15,7 @@
 namespace tricklet {
 
 /// Largest board file that is read; a full one takes under 2 KiB.
-inline constexpr std::size_t kMaxBoardFileBytes = 64 * 1024;
+inline constexpr std::size_t kMaxBoardFileBytes = std::size_t{64} * 1024;
 
 /// "007.txt" for board 7.
 std::string BoardFileName(int boardNumber);

@@ -160,19 +160,24 @@ bool AuctionEntry::OK() {
   board_.Calls = calls_;
   board_.PlayMode = false;
   board_.HandChanged = board_.HandChanged || changed;
+  CommitContract();
+  return true;
+}
+
+void AuctionEntry::CommitContract() {
   board_.Contract.clear();
   board_.ContractLevel = 0;
   if (calls_.Count() == kPassesWithoutABid && calls_[0].IsPass()) {
     board_.Contract = kAllPass;
   } else if (state_.Strain) {
+    const BidStrain strain = *state_.Strain;
+    const std::string doubling = state_.Redoubled ? "xx" : state_.Doubled ? "x" : "";
     board_.ContractLevel = state_.BidLevel;
-    board_.Contract = Call::Bid(state_.BidLevel, *state_.Strain).Text() + (state_.Redoubled ? "xx"
-                                                                           : state_.Doubled ? "x"
-                                                                                            : "");
-    board_.Declarer = *state_.FirstNamer[SideOf(state_.BidderSeat)][*state_.Strain];
-    board_.Trumps = ToStrain(*state_.Strain);
+    board_.Contract = Call::Bid(state_.BidLevel, strain).Text() + doubling;
+    board_.Declarer =
+        state_.FirstNamer[SideOf(state_.BidderSeat)][strain].value_or(state_.BidderSeat);
+    board_.Trumps = ToStrain(strain);
   }
-  return true;
 }
 
 bool AuctionEntry::Cancel() {

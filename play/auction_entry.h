@@ -84,6 +84,7 @@ class AuctionEntry {
   /// True, after a message, when no further call can be held.
   bool CheckLimit();
   void Replay(const CallList& stored);
+  void CommitContract();
 
   Board& board_;
   Host& host_;

@@ -60,13 +60,14 @@ std::optional<Card> CardPlay::OnlyLegalCard() const {
 
 bool CardPlay::Play(Card card) {
   if (!PlayMode() || SeatHolding(state_.CardsLeft, card) < 0) return false;
+  const Seat onPlay = state_.OnPlay.value_or(Seat::North);
   if (!IsLegal(card)) {
     host_.Beep();
     return false;
   }
   undoRecords_.at(static_cast<std::size_t>(UndoTop_++)) = state_;
   if (state_.CardsInTrick == 0 && state_.TricksPlayed > 0) QuitTrick();
-  PutOnTable(card, *state_.OnPlay);
+  PutOnTable(card, onPlay);
   return true;
 }
 
@@ -139,7 +140,7 @@ std::string CardPlay::ClaimCaption() const {
 }
 
 void CardPlay::Claim() {
-  if (!ClaimEnabled()) return;
+  if (!PlayMode() || !state_.OnPlay) return;
   const Side side = SideOf(*state_.OnPlay);
   timer_.Stop();
   state_.TrickCards.fill(std::nullopt);

@@ -1,10 +1,10 @@
-#include <sstream>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include "core/board.h"
 #include "core/fault.h"
+#include "tests/support/calls.h"
 
 namespace tricklet {
 namespace {
@@ -13,9 +13,7 @@ namespace {
 Board BoardWith(int number, const std::string& auction) {
   Board board;
   board.BoardNumber = number;
-  std::istringstream words(auction);
-  for (std::string word; words >> word;) board.Calls.Add(Call::FromText(word).value());
-  GetContract(board);
+  test::SetAuction(board, auction);
   return board;
 }
 

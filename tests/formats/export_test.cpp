@@ -6,6 +6,7 @@
 #include "formats/import.h"
 #include "formats/pbn_writer.h"
 #include "library/board_file.h"
+#include "tests/support/calls.h"
 #include "tests/support/library_fixture.h"
 
 namespace tricklet {
@@ -32,7 +33,7 @@ class ExportTest : public test::LibraryTest {
     Board board;
     bool readable = ReadBoardText(test::OneSuitEachText(), board, TableReading::Always);
     ASSERT_TRUE(readable);
-    for (const char* call : calls) board.Calls.Add(Call::FromText(call).value());
+    for (const char* call : calls) board.Calls.Add(test::CallOf(call));
     board.MakeableValid = table;
     std::int16_t tricks = 0;
     for (auto& row : board.Makeable) {

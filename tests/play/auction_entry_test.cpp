@@ -1,11 +1,11 @@
 #include "play/auction_entry.h"
 
 #include <random>
-#include <sstream>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "tests/support/calls.h"
 #include "tests/support/scripted_host.h"
 
 namespace tricklet {
@@ -16,9 +16,7 @@ using test::ScriptedHost;
 Board BoardOf(int number, const std::string& auction = "") {
   Board board;
   board.BoardNumber = number;
-  std::istringstream words(auction);
-  for (std::string word; words >> word;) board.Calls.Add(Call::FromText(word).value());
-  GetContract(board);
+  test::SetAuction(board, auction);
   return board;
 }
 
@@ -199,10 +197,10 @@ TEST(AuctionEntry, ADeclarerIsForgottenWhenHisBidIsTakenBack) {
   Board board = BoardOf(1);
   ScriptedHost host;
   AuctionEntry entry(board, host);
-  for (const char* call : {"1H", "Pass"}) entry.Make(Call::FromText(call).value());
+  for (const char* call : {"1H", "Pass"}) entry.Make(test::CallOf(call));
   entry.Clear();
   for (const char* call : {"Pass", "Pass", "1H", "Pass", "2H"}) {
-    entry.Make(Call::FromText(call).value());
+    entry.Make(test::CallOf(call));
   }
   entry.AllPass();
   ASSERT_TRUE(entry.OK());

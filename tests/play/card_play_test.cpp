@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/calls.h"
 #include "tests/support/scripted_host.h"
 
 namespace tricklet {
@@ -126,12 +127,7 @@ class PlayTest : public testing::Test {
     for (const Seat seat : kAllSeats) {
       board.Hands[seat][static_cast<Suit>(seat)] = Holding::FromBits(Holding::kAllBits);
     }
-    SetAuction({"1NT", "Pass", "Pass", "Pass"});
-  }
-  void SetAuction(std::initializer_list<const char*> calls) {
-    board.Calls.Clear();
-    for (const char* call : calls) board.Calls.Add(Call::FromText(call).value());
-    GetContract(board);
+    test::SetAuction(board, "1NT Pass Pass Pass");
   }
   Board board;
   ScriptedHost host;
@@ -148,14 +144,14 @@ TEST_F(PlayTest, StartsWithTheOpeningLead) {
 }
 
 TEST_F(PlayTest, DoesNotStartWithoutAContractOrAFullDeal) {
-  SetAuction({});
+  test::SetAuction(board, "");
   EXPECT_TRUE(CardPlay::NeedsAuction(board));
   EXPECT_FALSE(play.Start());
-  SetAuction({"Pass", "Pass", "Pass", "Pass"});
+  test::SetAuction(board, "Pass Pass Pass Pass");
   EXPECT_TRUE(CardPlay::NeedsAuction(board));
   host.ExpectTell("The bidding was All Pass");
   EXPECT_FALSE(play.Start());
-  SetAuction({"1NT", "Pass", "Pass", "Pass"});
+  test::SetAuction(board, "1NT Pass Pass Pass");
   EXPECT_FALSE(CardPlay::NeedsAuction(board));
   board.Hands[Seat::North][Suit::Spades].Remove(Rank::Two);
   EXPECT_FALSE(play.Start());
