@@ -1,0 +1,26 @@
+// How a command is chosen on the command line and then carried out.
+#pragma once
+
+#include <functional>
+
+#include "cli/commands.h"
+#include "cli/console_host.h"
+
+namespace CLI {
+class App;
+}
+
+namespace tricklet::cli {
+
+/// What the parser leaves behind: the command that was named, with its arguments.
+using Command = std::function<ExitCode(const Context&, const ConsoleHost&)>;
+
+/// Adds the argument N, a board number 1..999.
+void AddBoardArgument(CLI::App& command, int& board);
+
+/// libraries, boards, show, import, export, settings.
+void AddLibraryCommands(CLI::App& app, Command& command);
+/// auction, play, score.
+void AddPlayCommands(CLI::App& app, Command& command);
+
+}  // namespace tricklet::cli
