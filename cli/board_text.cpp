@@ -3,6 +3,7 @@
 #include <array>
 
 #include "analysis/makeable_view.h"
+#include "analysis/par.h"
 #include "core/statistics.h"
 
 namespace tricklet::cli {
@@ -102,7 +103,7 @@ void AppendStatistics(std::string& text, const Board& board) {
 void AppendTable(std::string& text, const Board& board, bool contracts) {
   if (!board.MakeableValid) return;
   const MakeableView view = MakeMakeableView(board.Makeable, contracts);
-  AppendLine(text, "\n" + view.caption);
+  AppendLine(text, view.caption);
   std::string line = PadRight("", kCallWidth);
   for (const Suit suit : kAllSuits) line += PadLeft(std::string(SuitSymbol[suit]), kNumberWidth);
   AppendLine(text, line + PadLeft("NT", kNumberWidth));
@@ -111,6 +112,7 @@ void AppendTable(std::string& text, const Board& board, bool contracts) {
     for (const std::string& cell : row.cells) line += PadLeft(cell, kNumberWidth);
     AppendLine(text, line);
   }
+  AppendLine(text, ParText(ComputePar(board.Makeable, board.Dealer(), board.Vulnerability())));
 }
 
 }  // namespace
@@ -129,6 +131,12 @@ std::string AuctionText(const Board& board) {
   return text;
 }
 
+std::string TableText(const Board& board, bool contracts) {
+  std::string text;
+  AppendTable(text, board, contracts);
+  return text;
+}
+
 std::string BoardText(const Board& board, const std::string& libraryName,
                       const Settings& settings) {
   std::string text;
@@ -139,7 +147,8 @@ std::string BoardText(const Board& board, const std::string& libraryName,
   const std::string auction = AuctionText(board);
   if (!auction.empty()) text += "\n" + auction;
   AppendStatistics(text, board);
-  AppendTable(text, board, settings.MakeableContract);
+  const std::string table = TableText(board, settings.MakeableContract);
+  if (!table.empty()) text += "\n" + table;
   return text;
 }
 

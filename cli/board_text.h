@@ -17,4 +17,7 @@ std::string HandsText(const Board& board);
 /// The auction and its contract; empty when there is none.
 std::string AuctionText(const Board& board);
 
+/// The makeable table with par below it; empty when there is none.
+std::string TableText(const Board& board, bool contracts);
+
 }  // namespace tricklet::cli

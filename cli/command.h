@@ -23,4 +23,7 @@ void AddLibraryCommands(CLI::App& app, Command& command);
 /// auction, play, score.
 void AddPlayCommands(CLI::App& app, Command& command);
 
+/// analyse, link.
+void AddAnalysisCommands(CLI::App& app, Command& command);
+
 }  // namespace tricklet::cli

@@ -105,8 +105,7 @@ ExitCode Boards(const Context& context, bool longForm) {
     context.data << number;
     if (longForm) {
       board.BoardNumber = number;
-      bool complete = false;
-      allRead = LoadHandBasic(context.session, board, complete) && allRead;
+      allRead = ReadBoard(context.session, board) && allRead;
       context.data << '\t' << SeatName[board.Dealer()] << '\t' << VulShort[board.Vulnerability()]
                    << '\t' << (board.Contract.empty() ? "-" : ContractLabel(board)) << '\t'
                    << (board.MakeableValid ? "yes" : "no");

@@ -4,11 +4,11 @@
 #include <ostream>
 
 #include "cli/board_text.h"
+#include "core/scoring.h"
 #include "core/text.h"
 #include "library/board_store.h"
 #include "play/auction_entry.h"
 #include "play/card_play.h"
-#include "play/scoring.h"
 
 namespace tricklet::cli {
 namespace {

@@ -54,6 +54,7 @@ int Execute(const Command& command, const Arguments& arguments, SettingsStore& s
   ConsoleHost host(console.in, console.messages, OptionsFrom(arguments, console),
                    console.interrupted);
   Session session(host, named ? static_cast<SettingsStore&>(overlay) : store);
+  session.GetSolver = console.solver;
   try {
     const ExitCode code = command({session, console.data}, host);
     return static_cast<int>(host.Ended() ? ExitCode::Refused : code);
@@ -73,6 +74,7 @@ int Run(const std::vector<std::string>& arguments, SettingsStore& store, const C
   DescribeOptions(app, parsed);
   AddLibraryCommands(app, command);
   AddPlayCommands(app, command);
+  AddAnalysisCommands(app, command);
   try {
     std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
     app.parse(reversed);

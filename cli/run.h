@@ -2,10 +2,12 @@
 #pragma once
 
 #include <atomic>
+#include <functional>
 #include <iosfwd>
 #include <string>
 #include <vector>
 
+#include "analysis/solver.h"
 #include "core/settings.h"
 
 namespace tricklet::cli {
@@ -17,6 +19,8 @@ struct Console {
   std::ostream& messages;  ///< standard error
   bool terminal = false;   ///< both ends of the conversation are a person's
   const std::atomic<bool>& interrupted;
+  /// The double-dummy solver, asked for when it is first needed; empty: none.
+  std::function<Solver&()> solver;
 };
 
 /// Carries out one command line (without the program's name). Returns the exit code: 0 done,

@@ -11,6 +11,7 @@
 #include "library/board_store.h"
 #include "library/file_io.h"
 #include "library/library_store.h"
+#include "library/tables.h"
 
 namespace tricklet {
 namespace {
@@ -82,6 +83,13 @@ void ReportRun(Session& session, const ExportRun& run, const fs::path& path) {
 
 bool WritePBN(Session& session, const ExportRange& range, const fs::path& path) {
   if (!CheckExportRange(session, range)) return false;
+  if (session.settings.AutoMakeable && session.GetSolver) {
+    // All missing tables together take the solver's batches; one by one they would not.
+    if (AnalyseBoards(session, session.GetSolver(), range.first, range.last, false).cancelled) {
+      session.host.Tell("Export cancelled");
+      return false;
+    }
+  }
   const ExportRun run = CollectPBN(session, range);
   try {
     ReplaceWholeFile(path, run.text);

@@ -1,5 +1,6 @@
 #include "library/board_store.h"
 
+#include "analysis/get_dds.h"
 #include "core/fault.h"
 #include "core/statistics.h"
 #include "core/text.h"
@@ -45,6 +46,18 @@ bool ReadBoardFile(const fs::path& path, Board& board, TableReading tables) {
   }
 }
 
+/// Gives the board just read from `path` the table that it lacks, in memory and in its file.
+void AddMissingTable(Session& session, const fs::path& path, Board& board) {
+  if (session.TablesInBackground || !WantsTable(session, board)) return;
+  if (!GetDDS(board, session.GetSolver(), session.host, false)) return;
+  board.HandChanged = false;
+  try {
+    ReplaceWholeFile(path, WriteBoardText(board));
+  } catch (const Fault&) {
+    // The table is on the screen all the same; where the folder is read-only it stays there.
+  }
+}
+
 }  // namespace
 
 bool SaveHand(Session& session, Buttons style) {
@@ -76,18 +89,33 @@ bool LoadHand(Session& session) {
   session.board.HandChanged = false;
   if (!FileExists(path)) return false;
   const bool readable = ReadBoardFile(path, session.board, TableReading::Always);
-  if (!readable) TellUnreadable(session, path);
+  if (readable) {
+    AddMissingTable(session, path, session.board);
+  } else {
+    TellUnreadable(session, path);
+  }
   return readable;
 }
 
-bool LoadHandBasic(Session& session, Board& board, bool& allHandsComplete) {
+bool ReadBoard(Session& session, Board& board) {
   const fs::path path = session.BoardPath(board.BoardNumber);
   ClearAll(board);
   board.HandChanged = false;
   const bool readable = ReadBoardFile(path, board, TableReading::OnlyWhenComplete);
   if (!readable) TellUnreadable(session, path);
-  allHandsComplete = readable && GetStats(board.Hands).AllHandsComplete;
   return readable;
+}
+
+bool LoadHandBasic(Session& session, Board& board, bool& allHandsComplete) {
+  const bool readable = ReadBoard(session, board);
+  allHandsComplete = readable && GetStats(board.Hands).AllHandsComplete;
+  if (allHandsComplete) AddMissingTable(session, session.BoardPath(board.BoardNumber), board);
+  return readable;
+}
+
+bool WantsTable(const Session& session, const Board& board) {
+  return !board.MakeableValid && session.settings.AutoMakeable && session.GetSolver &&
+         GetStats(board.Hands).AllHandsComplete;
 }
 
 }  // namespace tricklet

@@ -19,8 +19,16 @@ void StoreBoard(Session& session);
 /// the board was read.
 bool LoadHand(Session& session);
 
-/// Reads the board under its number for a writer: false, with a message, when the file cannot be
-/// read. The table is read only for a complete deal; `allHandsComplete` says whether it is one.
+/// The board is complete, lacks its table, and the settings and a solver call for one.
+bool WantsTable(const Session& session, const Board& board);
+
+/// Reads the board under its number as it is stored; false, with a message, when the file cannot be
+/// read. The table is read only for a complete deal.
+bool ReadBoard(Session& session, Board& board);
+
+/// The same for a writer, with a missing table computed and stored: false, with a message, when the
+/// file cannot be read. The table is read only for a complete deal; `allHandsComplete` says whether
+/// it is one.
 bool LoadHandBasic(Session& session, Board& board, bool& allHandsComplete);
 
 }  // namespace tricklet

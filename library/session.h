@@ -3,9 +3,11 @@
 
 #include <array>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
+#include "analysis/solver.h"
 #include "core/board.h"
 #include "core/host.h"
 #include "core/settings.h"
@@ -37,6 +39,11 @@ struct Session {
 
   std::string CopyLibrary;  ///< where the board to paste comes from; empty when none was copied
   int CopyBoard = 0;
+
+  /// The double-dummy solver, loaded when it is first asked for; empty where none is to be used.
+  std::function<Solver&()> GetSolver;
+  /// A missing table is not computed while a board is loaded but later, by the window's worker.
+  bool TablesInBackground = false;
 
   /// An import, export or the like is running: nothing is asked about unsaved changes.
   bool BatchRunning = false;

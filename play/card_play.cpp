@@ -3,7 +3,7 @@
 #include <bit>
 
 #include "core/statistics.h"
-#include "play/scoring.h"
+#include "core/scoring.h"
 
 namespace tricklet {
 

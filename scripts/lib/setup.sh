@@ -8,6 +8,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 build_packages=(
   g++ cmake ninja-build ccache
   qt6-base-dev libcli11-dev
+  libdds0            # the double-dummy solver, loaded at run time
   fonts-dejavu-core  # has the four suit symbols
 )
 test_packages=(libgtest-dev libgmock-dev)

@@ -33,7 +33,7 @@ class CommandLine : public testing::Test {
     std::istringstream in(typed);
     std::ostringstream data;
     std::ostringstream messages;
-    const int code = cli::Run(arguments, store, {in, data, messages, terminal, interrupted});
+    const int code = cli::Run(arguments, store, {in, data, messages, terminal, interrupted, {}});
     out = data.str();
     err = messages.str();
     return code;

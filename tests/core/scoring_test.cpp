@@ -1,4 +1,4 @@
-#include "play/scoring.h"
+#include "core/scoring.h"
 
 #include <fstream>
 #include <map>

@@ -1,0 +1,61 @@
+// The records that cross the border to the double-dummy solver library. Their shapes are those of
+// its published interface (version 2.9); the names of the fields are ours.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+namespace tricklet::dds {
+
+inline constexpr int kDealTextSize = 80;  ///< of a deal text, the terminating zero included
+
+/// A PBN deal text, the rest of the buffer zero.
+struct DealText {
+  std::array<char, kDealTextSize> cards;
+};
+
+/// Tricks by strain (spades, hearts, diamonds, clubs, no-trump) and seat (N E S W).
+struct TableByStrain {
+  std::array<std::array<std::int32_t, 4>, 5> tricks;
+};
+
+/// The library's largest batch has 40 tables of five strains.
+inline constexpr int kTableSlots = 200;
+
+struct DealBatch {
+  std::int32_t count;
+  std::array<DealText, kTableSlots> deals;
+};
+
+struct TableBatch {
+  std::int32_t strainsSolved;
+  std::array<TableByStrain, kTableSlots> tables;
+};
+
+/// Room for par results that are not asked for.
+struct ParBatch {
+  std::array<std::array<char, 2 * 16 + 2 * 128>, 40> results;
+};
+
+/// A position in mid-play: the cards of the current trick, in order, and those left in the hands.
+struct Position {
+  std::int32_t trump;  ///< 0 spades .. 3 clubs, 4 no-trump
+  std::int32_t first;  ///< seat that led to the current trick, N E S W
+  std::array<std::int32_t, 3> trickSuit;
+  std::array<std::int32_t, 3> trickRank;  ///< 2..14; 0 where no card lies
+  DealText cardsLeft;
+};
+
+/// What each card of the hand on play leads to.
+struct CardTricks {
+  std::int32_t nodes;
+  std::int32_t count;
+  std::array<std::int32_t, 13> suit;
+  std::array<std::int32_t, 13> rank;    ///< 2..14
+  std::array<std::int32_t, 13> equals;  ///< lower cards worth the same: bit r for rank r
+  std::array<std::int32_t, 13> tricks;  ///< of the side on play, the current trick included
+};
+
+inline constexpr int kNoFault = 1;  ///< status of success
+
+}  // namespace tricklet::dds

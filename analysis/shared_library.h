@@ -1,0 +1,30 @@
+// A shared library of the system, opened by name.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace tricklet {
+
+/// Stays loaded until the program ends: a solver keeps threads and memory that do not survive its
+/// being taken away.
+class SharedLibrary {
+ public:
+  /// Opens `name`, a path or a bare file name for the system to find. `IsOpen` tells whether it
+  /// did.
+  explicit SharedLibrary(const std::filesystem::path& name);
+
+  bool IsOpen() const { return handle_ != nullptr; }
+
+  /// The entry of that name as a pointer to a function of type `Function`; null when there is none.
+  template <class Function>
+  Function* Entry(const char* name) const {
+    return reinterpret_cast<Function*>(Address(name));
+  }
+
+ private:
+  void* Address(const char* name) const;
+  void* handle_ = nullptr;
+};
+
+}  // namespace tricklet

@@ -1,0 +1,55 @@
+// The port to a double-dummy solver.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "core/board.h"
+
+namespace tricklet {
+
+/// Tricks for solver seat h (N E S W) in solver strain s (spades, hearts, diamonds, clubs,
+/// no-trump), at position h * 5 + s.
+using SolverRecord = std::array<std::int32_t, kSeats * kStrains>;
+
+/// A position in mid-play.
+struct SolverPosition {
+  Strain trumps = Strain::NoTrump;
+  Seat leader = Seat::North;  ///< of the current trick
+  std::vector<Card> trick;    ///< its cards in order, 0..3
+  HandTable cardsLeft;        ///< the hands without them
+};
+
+/// Double-dummy tricks of the side on play for one card of the hand on play.
+struct CardScore {
+  Card card;
+  int tricks = 0;  ///< with the current trick, 0..13
+};
+
+class Solver {
+ public:
+  /// The most deals of one batch.
+  static constexpr int kBatch = 32;
+
+  Solver() = default;
+  Solver(const Solver&) = delete;
+  Solver& operator=(const Solver&) = delete;
+  virtual ~Solver() = default;
+
+  /// Why there is no solver, for the person; empty when there is one.
+  virtual std::string Missing() const = 0;
+
+  /// Solves complete deals given as PBN deal texts, at most `kBatch`, on all cores. Returns the
+  /// solver's own text of what went wrong, empty on success. May be called from any thread.
+  virtual std::string Solve(std::span<const std::string> deals,
+                            std::span<SolverRecord> records) = 0;
+
+  /// The tricks that every card of the hand on play leads to; empty when the solver cannot tell.
+  virtual std::vector<CardScore> SolveCards(const SolverPosition& position) = 0;
+};
+
+}  // namespace tricklet

@@ -1,0 +1,215 @@
+#include "analysis/solver_library.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <mutex>
+
+#include "analysis/dds_types.h"
+#include "analysis/deal_text.h"
+#include "analysis/shared_library.h"
+#include "core/text.h"
+
+namespace tricklet {
+namespace {
+
+namespace fs = std::filesystem;
+
+// The entries, by the names that the library gives them.
+using CalcTableVB = std::int32_t(dds::DealText*, std::int32_t*);     // CalcDDtablePBNVB
+using CalcTable = std::int32_t(dds::DealText, dds::TableByStrain*);  // CalcDDtablePBN
+using CalcAllTables = std::int32_t(dds::DealBatch*, std::int32_t, std::int32_t*, dds::TableBatch*,
+                                   dds::ParBatch*);  // CalcAllTablesPBN
+using SolvePosition = std::int32_t(dds::Position, std::int32_t, std::int32_t, std::int32_t,
+                                   dds::CardTricks*, std::int32_t);  // SolveBoardPBN
+using StatusText = void(std::int32_t, char*);                        // ErrorMessage
+
+dds::DealText ToBuffer(const std::string& deal) {
+  dds::DealText buffer{};
+  std::copy_n(deal.begin(), std::min<std::size_t>(deal.size(), dds::kDealTextSize - 1),
+              buffer.cards.begin());
+  return buffer;
+}
+
+SolverRecord ToRecord(const dds::TableByStrain& table) {
+  SolverRecord record{};
+  for (std::size_t seat = 0; seat < kSeats; ++seat) {
+    for (std::size_t strain = 0; strain < kStrains; ++strain) {
+      record.at(seat * kStrains + strain) = table.tricks.at(strain).at(seat);
+    }
+  }
+  return record;
+}
+
+/// The library counts ranks from 2 to 14, the ace.
+std::int32_t ToLibraryRank(Rank rank) {
+  return 14 - IndexOf(rank);
+}
+
+/// A hostile or foreign library may write any numbers.
+bool IsPlausible(std::span<const SolverRecord> records) {
+  return std::all_of(records.begin(), records.end(), [](const SolverRecord& record) {
+    return std::all_of(record.begin(), record.end(),
+                       [](std::int32_t tricks) { return tricks >= 0 && tricks <= 13; });
+  });
+}
+
+class LibrarySolver : public Solver {
+ public:
+  explicit LibrarySolver(const SharedLibrary& library)
+      : calcTableVB_(library.Entry<CalcTableVB>("CalcDDtablePBNVB")),
+        calcTable_(library.Entry<CalcTable>("CalcDDtablePBN")),
+        calcAllTables_(library.Entry<CalcAllTables>("CalcAllTablesPBN")),
+        solvePosition_(library.Entry<SolvePosition>("SolveBoardPBN")),
+        statusText_(library.Entry<StatusText>("ErrorMessage")) {}
+
+  bool IsSolver() const { return calcTableVB_ != nullptr || calcTable_ != nullptr; }
+
+  std::string Missing() const override { return {}; }
+
+  std::string Solve(std::span<const std::string> deals, std::span<SolverRecord> records) override {
+    const std::lock_guard lock(mutex_);
+    std::int32_t status = dds::kNoFault;
+    if (deals.size() > 1 && calcAllTables_ != nullptr) {
+      status = SolveBatch(deals, records);
+    } else {
+      for (std::size_t i = 0; i < deals.size() && status == dds::kNoFault; ++i) {
+        status = SolveOne(deals[i], records[i]);
+      }
+    }
+    if (status != dds::kNoFault) return TextOf(status);
+    return IsPlausible(records) ? "" : "The double-dummy solver gave an answer that cannot be";
+  }
+
+  std::vector<CardScore> SolveCards(const SolverPosition& position) override;
+
+ private:
+  std::int32_t SolveOne(const std::string& deal, SolverRecord& record) {
+    dds::DealText buffer = ToBuffer(deal);
+    if (calcTableVB_ != nullptr) return calcTableVB_(&buffer, record.data());
+    dds::TableByStrain table{};
+    const std::int32_t status = calcTable_(buffer, &table);
+    record = ToRecord(table);
+    return status;
+  }
+
+  std::int32_t SolveBatch(std::span<const std::string> deals, std::span<SolverRecord> records) {
+    const auto batch = std::make_unique<dds::DealBatch>();
+    const auto tables = std::make_unique<dds::TableBatch>();
+    const auto par = std::make_unique<dds::ParBatch>();
+    batch->count = static_cast<std::int32_t>(deals.size());
+    for (std::size_t i = 0; i < deals.size(); ++i) batch->deals.at(i) = ToBuffer(deals[i]);
+    std::array<std::int32_t, kStrains> skippedStrains{};
+    constexpr std::int32_t kWithoutPar = -1;
+    const std::int32_t status =
+        calcAllTables_(batch.get(), kWithoutPar, skippedStrains.data(), tables.get(), par.get());
+    for (std::size_t i = 0; i < deals.size(); ++i) records[i] = ToRecord(tables->tables.at(i));
+    return status;
+  }
+
+  std::string TextOf(std::int32_t status) const {
+    std::array<char, 256> line{};
+    if (statusText_ != nullptr) statusText_(status, line.data());
+    line.back() = '\0';
+    const std::string text = Showable(line.data());
+    return text.empty() ? "The double-dummy solver ended with status " + std::to_string(status)
+                        : text;
+  }
+
+  std::mutex mutex_;  // the library is not made for two callers at a time
+  CalcTableVB* calcTableVB_;
+  CalcTable* calcTable_;
+  CalcAllTables* calcAllTables_;
+  SolvePosition* solvePosition_;
+  StatusText* statusText_;
+};
+
+/// The cards of one entry: the card named, and the lower ones that are worth the same.
+void AppendScores(const dds::CardTricks& answer, std::size_t entry,
+                  std::vector<CardScore>& scores) {
+  constexpr int kLowest = 2;
+  constexpr int kAce = 14;
+  const std::int32_t suit = answer.suit.at(entry);
+  if (suit < 0 || suit >= kSuits) return;
+  for (int rank = kAce; rank >= kLowest; --rank) {
+    const bool equal =
+        ((static_cast<std::uint32_t>(answer.equals.at(entry)) >> static_cast<unsigned>(rank)) &
+         1U) != 0;
+    if (rank != answer.rank.at(entry) && !equal) continue;
+    scores.push_back(
+        {{static_cast<Suit>(suit), static_cast<Rank>(kAce - rank)}, answer.tricks.at(entry)});
+  }
+}
+
+std::vector<CardScore> LibrarySolver::SolveCards(const SolverPosition& position) {
+  if (solvePosition_ == nullptr) return {};
+  dds::Position record{};
+  record.trump = IndexOf(position.trumps);
+  record.first = IndexOf(position.leader);
+  for (std::size_t i = 0; i < std::min<std::size_t>(position.trick.size(), 3); ++i) {
+    record.trickSuit.at(i) = IndexOf(position.trick[i].suit);
+    record.trickRank.at(i) = ToLibraryRank(position.trick[i].rank);
+  }
+  record.cardsLeft = ToBuffer(SolverDealText(position.cardsLeft));
+  constexpr std::int32_t kBestScore = -1;
+  constexpr std::int32_t kAllCards = 3;
+  constexpr std::int32_t kMode = 1;  // look at a single card too
+  dds::CardTricks answer{};
+  const std::lock_guard lock(mutex_);
+  std::vector<CardScore> scores;
+  if (solvePosition_(record, kBestScore, kAllCards, kMode, &answer, 0) != dds::kNoFault) {
+    return scores;
+  }
+  const auto count = std::clamp<std::size_t>(static_cast<std::size_t>(answer.count), 0, 13);
+  for (std::size_t entry = 0; entry < count; ++entry) AppendScores(answer, entry, scores);
+  return scores;
+}
+
+/// Stands in where no library was found.
+class MissingSolver : public Solver {
+ public:
+  explicit MissingSolver(std::string why) : why_(std::move(why)) {}
+  std::string Missing() const override { return why_; }
+  std::string Solve(std::span<const std::string> /*deals*/,
+                    std::span<SolverRecord> /*records*/) override {
+    return why_;
+  }
+  std::vector<CardScore> SolveCards(const SolverPosition& /*position*/) override { return {}; }
+
+ private:
+  std::string why_;
+};
+
+std::vector<fs::path> NamesToTry(const fs::path& programFolder) {
+#ifdef _WIN32
+  const std::vector<fs::path> names{"dds.dll"};
+#else
+  const std::vector<fs::path> names{"libdds.so.0", "libdds.so"};
+#endif
+  std::vector<fs::path> tries;
+  if (const char* named = std::getenv("TRICKLET_SOLVER"); named != nullptr && *named != '\0') {
+    tries.emplace_back(named);
+  }
+  for (const fs::path& name : names) {
+    if (!programFolder.empty()) tries.push_back(programFolder / name);
+  }
+  tries.insert(tries.end(), names.begin(), names.end());
+  return tries;
+}
+
+}  // namespace
+
+std::unique_ptr<Solver> LoadSolver(const fs::path& programFolder) {
+  std::string why = "The double-dummy solver was not found. Tried:";
+  for (const fs::path& name : NamesToTry(programFolder)) {
+    const SharedLibrary library(name);
+    if (library.IsOpen()) {
+      auto solver = std::make_unique<LibrarySolver>(library);
+      if (solver->IsSolver()) return solver;
+    }
+    why += "\n" + PathText(name) + (library.IsOpen() ? " (it is no solver)" : "");
+  }
+  return std::make_unique<MissingSolver>(why);
+}
+
+}  // namespace tricklet

@@ -1,0 +1,64 @@
+#include "cli/analysis_commands.h"
+
+#include <algorithm>
+#include <ostream>
+
+#include "analysis/online_link.h"
+#include "cli/board_text.h"
+#include "library/board_store.h"
+#include "library/tables.h"
+
+namespace tricklet::cli {
+namespace {
+
+void ShowTables(const Context& context, int first, int last) {
+  Session& session = context.session;
+  Board board;
+  for (int number = first; number <= last; ++number) {
+    if (!session.library.BoardPresent.at(static_cast<std::size_t>(number))) continue;
+    board.BoardNumber = number;
+    if (!ReadBoard(session, board) || !board.MakeableValid) continue;
+    context.data << "Board " << number << '\n'
+                 << TableText(board, session.settings.MakeableContract) << '\n';
+  }
+}
+
+}  // namespace
+
+ExitCode Analyse(const Context& context, const AnalyseArguments& arguments) {
+  Session& session = context.session;
+  if (!OpenLibrary(context, false)) return ExitCode::Refused;
+  const int first = arguments.first.value_or(kFirstBoardNumber);
+  const int last = arguments.last.value_or(arguments.first.value_or(kLastBoardNumber));
+  if (last < first) {
+    session.host.Tell("Please enter a valid range");
+    return ExitCode::Refused;
+  }
+  if (!session.GetSolver) {
+    session.host.Tell("There is no double-dummy solver");
+    return ExitCode::Refused;
+  }
+  const AnalysisOutcome outcome =
+      AnalyseBoards(session, session.GetSolver(), first, last, arguments.again);
+  session.host.Tell(AnalysisText(outcome));
+  if (arguments.show) ShowTables(context, first, last);
+  return outcome.failure.empty() && !outcome.cancelled ? ExitCode::Done : ExitCode::Refused;
+}
+
+ExitCode Link(const Context& context, int boardNumber) {
+  Session& session = context.session;
+  if (!LoadBoard(context, boardNumber)) return ExitCode::Refused;
+  if (session.settings.SolverHost.empty()) {
+    session.host.Tell("Name the page's host first: settings SolverHost HOST");
+    return ExitCode::Refused;
+  }
+  if (const std::string error = SolverAddressError(session.board); !error.empty()) {
+    session.host.Tell(error);
+    return ExitCode::Refused;
+  }
+  context.data << SolverAddress(session.board, session.LibraryName(), session.settings.SolverHost)
+               << '\n';
+  return ExitCode::Done;
+}
+
+}  // namespace tricklet::cli

@@ -1,0 +1,162 @@
+#include "cli/generate_commands.h"
+
+#include <algorithm>
+#include <charconv>
+#include <ostream>
+#include <string_view>
+
+#include "cli/notation_text.h"
+#include "core/text.h"
+#include "generate/generate.h"
+
+namespace tricklet::cli {
+namespace {
+
+constexpr EnumArray<HandType, std::string_view, kHandTypes> kTypeWords{
+    {"balanced", "weak2", "4441", "preempt"}};
+
+std::optional<int> NumberOf(std::string_view text, int highest) {
+  int number = 0;
+  const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
+  const bool whole = failure == std::errc() && end == text.data() + text.size();
+  if (!whole || number < 0 || number > highest) return std::nullopt;
+  return number;
+}
+
+/// "15-17" or "16".
+std::optional<Limits> LimitsFromText(std::string_view text, int highest) {
+  const auto dash = text.find('-');
+  const auto low = NumberOf(text.substr(0, dash), highest);
+  const auto high = dash == std::string_view::npos ? low : NumberOf(text.substr(dash + 1), highest);
+  if (!low || !high || *low > *high) return std::nullopt;
+  return Limits{*low, *high};
+}
+
+/// Four ranges with commas between them.
+std::optional<PerSuit<Limits>> LengthsFromText(std::string_view text) {
+  if (std::count(text.begin(), text.end(), ',') != kSuits - 1) return std::nullopt;
+  PerSuit<Limits> lengths;
+  for (const Suit suit : kAllSuits) {
+    const auto comma = text.find(',');
+    const auto range = LimitsFromText(text.substr(0, comma), kCardsInHand);
+    if (!range) return std::nullopt;
+    lengths[suit] = *range;
+    text.remove_prefix(comma == std::string_view::npos ? text.size() : comma + 1);
+  }
+  return lengths;
+}
+
+struct Direction {
+  int index = 0;
+  bool fromDealer = false;
+};
+
+std::optional<Direction> DirectionFromText(std::string_view text) {
+  constexpr std::string_view kDealer = "dealer";
+  if (const auto seat = SeatFromText(text)) return Direction{IndexOf(*seat), false};
+  if (!EqualNoCase(text.substr(0, kDealer.size()), kDealer)) return std::nullopt;
+  text.remove_prefix(kDealer.size());
+  if (text.empty()) return Direction{0, true};
+  const auto steps = text.front() == '+' ? NumberOf(text.substr(1), kSeats - 1) : std::nullopt;
+  if (!steps) return std::nullopt;
+  return Direction{*steps, true};
+}
+
+std::optional<HandType> TypeFromText(std::string_view text) {
+  for (const HandType type : kAllHandTypes) {
+    if (EqualNoCase(text, kTypeWords[type])) return type;
+  }
+  return std::nullopt;
+}
+
+std::optional<std::string> ReadShape(const HandArguments& asked, GenHand hand,
+                                     Constraints& constraints) {
+  if (asked.type && asked.lengths) return "A hand has either lengths or a type";
+  if (asked.lengths) {
+    const auto lengths = LengthsFromText(*asked.lengths);
+    if (!lengths) return *asked.lengths + " are no four ranges of 0-13 cards";
+    constraints.SuitLimits[hand] = *lengths;
+  }
+  if (!asked.type) {
+    return asked.option ? std::optional<std::string>("An option belongs to a type") : std::nullopt;
+  }
+  const auto type = TypeFromText(*asked.type);
+  if (!type) return *asked.type + " is no hand type";
+  constraints.UseSuitLengths[hand] = false;
+  constraints.HandTypeIndex[hand] = *type;
+  if (!asked.option) return std::nullopt;
+  const bool exists =
+      (*asked.option == 1 || *asked.option == 2) && !HandTypeOptions[*type].front().empty();
+  if (!exists) return *asked.type + " has no option " + std::to_string(*asked.option);
+  constraints.HandTypeOption[*type][hand] = *asked.option - 1;
+  return std::nullopt;
+}
+
+std::optional<std::string> ReadPoints(const HandArguments& asked, GenHand hand,
+                                      Constraints& constraints) {
+  if (!asked.points) return std::nullopt;
+  const auto points = LimitsFromText(*asked.points, kMaxPoints);
+  if (!points) return *asked.points + " is no range of 0-37 points";
+  constraints.PointLimits[hand] = *points;
+  return std::nullopt;
+}
+
+/// Both directions count from the same: from North, or from the dealer.
+std::optional<std::string> ReadDirections(const PerGenHand<HandArguments>& hands,
+                                          Constraints& constraints) {
+  std::optional<bool> fromDealer;
+  for (const GenHand hand : kGenHands) {
+    const auto& text = hands[hand].direction;
+    if (!text) continue;
+    const auto direction = DirectionFromText(*text);
+    if (!direction) return *text + " is no seat";
+    if (fromDealer && *fromDealer != direction->fromDealer) {
+      return "Both hands are given by seats, or both from the dealer";
+    }
+    fromDealer = direction->fromDealer;
+    constraints.HandDirection[hand] = direction->index;
+  }
+  constraints.RelativeToDealer = fromDealer.value_or(false);
+  return std::nullopt;
+}
+
+}  // namespace
+
+Constraints ReadConstraints(const GenerateArguments& arguments,
+                            std::optional<std::string>& problem) {
+  Constraints constraints;
+  constraints.GenBoards = {arguments.first, arguments.last};
+  constraints.NumGenHands = arguments.hands[GenHand::Second].Any() ? 2 : 1;
+  problem.reset();
+  if (arguments.first > arguments.last) problem = "The first board is above the last";
+  if (!problem) problem = ReadDirections(arguments.hands, constraints);
+  for (const GenHand hand : kGenHands) {
+    if (!problem) problem = ReadShape(arguments.hands[hand], hand, constraints);
+    if (!problem) problem = ReadPoints(arguments.hands[hand], hand, constraints);
+  }
+  return constraints;
+}
+
+ExitCode GenerateBoards(const Context& context, const GenerateArguments& arguments) {
+  Session& session = context.session;
+  std::optional<std::string> problem;
+  const Constraints constraints = ReadConstraints(arguments, problem);
+  if (problem) {
+    session.host.Tell(*problem);
+    return ExitCode::Usage;
+  }
+  if (const auto contradiction = CheckConstraints(constraints)) {
+    session.host.Tell(*contradiction);
+    return ExitCode::Refused;
+  }
+  if (!OpenLibrary(context, true)) return ExitCode::Refused;
+  RandomSource random = arguments.seed ? RandomSource(*arguments.seed) : RandomSource();
+  const GenerateOutcome outcome =
+      Generate(session, constraints, random, {.analyse = arguments.analyse, .preview = {}});
+  if (outcome.refused) return ExitCode::Refused;
+  context.data << outcome.boardsStored << (outcome.boardsStored == 1 ? " board" : " boards")
+               << " generated\n";
+  return outcome.cancelled || outcome.failed ? ExitCode::Refused : ExitCode::Done;
+}
+
+}  // namespace tricklet::cli

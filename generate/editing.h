@@ -1,0 +1,58 @@
+// Editing the cards of a board by hand. The cards that no seat holds are the pack.
+//
+// Every edit leaves the board unsaved and its makeable table not valid, and no card in two hands.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/board.h"
+#include "generate/random_source.h"
+
+namespace tricklet {
+
+/// What every edit does besides moving cards.
+void MarkEdited(Board& board);
+
+/// Gives the card to a seat, or back to the pack. False, and nothing changed, when the seat already
+/// holds 13 other cards.
+bool MoveCard(Board& board, Card card, std::optional<Seat> to);
+
+enum class TakeCards : std::uint8_t {
+  FromPack,      ///< a card that another seat holds is refused
+  FromAllSeats,  ///< such a card is taken from that seat
+};
+
+/// Gives the seat the hand that `text` writes (see `ReadHandText`) in place of its cards, which go
+/// back to the pack. Returns why not, for the person to read, and then nothing changed; nothing
+/// when it was done.
+[[nodiscard]] std::optional<std::string> SetHand(Board& board, Seat seat, std::string_view text,
+                                                 TakeCards take = TakeCards::FromPack);
+
+/// When three seats hold 13 cards, gives the pack to the fourth. False, and nothing changed, when
+/// there is no such fourth seat.
+bool FillFourthHand(Board& board);
+
+/// The boards to which the undo of a clear and of a random fill go back. To be emptied when
+/// another board is loaded.
+struct EditHistory {
+  std::optional<Board> ClearFrames;  ///< before the last `Clear`
+  std::optional<Board> CardFrame;    ///< before the last `Fill`
+};
+
+/// `cmdClear`: takes all cards and calls from the board.
+void Clear(Board& board, EditHistory& history);
+/// `cmdUndoClear`: cards, auction and makeable table are again as before the last `Clear`. False
+/// when there is none of this board to undo.
+bool UndoClear(Board& board, EditHistory& history);
+
+/// `cmdRandom`: deals the pack at random to the seats that lack cards. A full deal stays as it is.
+/// False when `Random` refuses; the person is then told `kRandomisationError`.
+bool Fill(Board& board, EditHistory& history, RandomSource& random);
+/// `cmdUndoFill`: cards and makeable table are again as before the last `Fill`. False when there is
+/// none of this board to undo.
+bool UndoFill(Board& board, EditHistory& history);
+
+}  // namespace tricklet

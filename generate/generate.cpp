@@ -1,0 +1,87 @@
+#include "generate/generate.h"
+
+#include <algorithm>
+#include <exception>
+#include <string>
+
+#include "core/fault.h"
+#include "generate/deal.h"
+#include "library/board_store.h"
+#include "library/file_io.h"
+#include "library/library_store.h"
+
+namespace tricklet {
+namespace {
+
+/// Asks about overwriting when any board of the range exists.
+bool MayOverwrite(Session& session, const Constraints& constraints) {
+  const auto [first, last] = constraints.GenBoards;
+  for (int number = first; number <= last; ++number) {
+    if (!FileExists(session.BoardPath(number))) continue;
+    return session.host.Ask("You will overwrite existing boards in the library - " +
+                                session.LibraryName() + "\nDo you wish to do that?",
+                            std::string(kProgramName), Buttons::YesNo) == Answer::Yes;
+  }
+  return true;
+}
+
+/// Deals the current board until the person takes the deal; false when the run is to end.
+bool DealBoard(Session& session, const Constraints& constraints, RandomSource& random,
+               const GenerateOptions& options) {
+  Board& board = session.board;
+  while (true) {
+    ClearAll(board);
+    board.Hands = GenerateDeal(constraints, board.Dealer(), random);
+    if (options.analyse) options.analyse(board);
+    const Answer answer = options.preview ? options.preview(board) : Answer::Yes;
+    if (answer != Answer::No) return answer == Answer::Yes;
+  }
+}
+
+void DealRange(Session& session, const Constraints& constraints, RandomSource& random,
+               const GenerateOptions& options, GenerateOutcome& outcome) {
+  const auto [first, last] = constraints.GenBoards;
+  const BatchScope batch(session);
+  const WorkScope work(session.host);
+  for (int number = first; number <= last; ++number) {
+    const std::string text = "Generating board " + std::to_string(number);
+    session.board.BoardNumber = number;
+    outcome.cancelled = !session.host.Step(text, number - first, last - first + 1) ||
+                        !DealBoard(session, constraints, random, options);
+    if (outcome.cancelled) return;
+    StoreBoard(session);
+    ++outcome.boardsStored;
+  }
+}
+
+/// Lists the library again and loads board `number`.
+void ShowBoard(Session& session, int number) {
+  session.board.BoardNumber = number;
+  FindFiles(session);
+  session.board.BoardNumber = std::clamp(number, kFirstBoardNumber, session.library.MaxBoard);
+  LoadHand(session);
+}
+
+}  // namespace
+
+GenerateOutcome Generate(Session& session, const Constraints& constraints, RandomSource& random,
+                         const GenerateOptions& options) {
+  if (CheckSaveChanges(session) == Answer::Cancel) return {.refused = true};
+  const int before = session.board.BoardNumber;
+  if (!MayOverwrite(session, constraints)) {
+    // A board whose changes the person gave up is shown as it is stored.
+    LoadHand(session);
+    return {.refused = true};
+  }
+  GenerateOutcome outcome;
+  try {
+    DealRange(session, constraints, random, options, outcome);
+  } catch (const std::exception& failure) {
+    outcome.failed = true;
+    ErrorReport(session.host, FaultFrom(failure));
+  }
+  ShowBoard(session, outcome.boardsStored > 0 ? constraints.GenBoards.front() : before);
+  return outcome;
+}
+
+}  // namespace tricklet

@@ -1,0 +1,74 @@
+#include "generate/rotation.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/fault.h"
+#include "generate/editing.h"
+
+namespace tricklet {
+namespace {
+
+/// Seats that a rotation moves the cards on, clockwise: 1, 3 or 2.
+int StepsOf(Rotation rotation) {
+  switch (rotation) {
+    case Rotation::Clockwise:
+      return 1;
+    case Rotation::AntiClockwise:
+      return 3;
+    case Rotation::HalfTurn:
+      break;
+  }
+  return 2;
+}
+
+void RotateHands(HandTable& hands, Rotation rotation) {
+  const HandTable before = hands;
+  for (const Seat seat : kAllSeats) hands[SeatAfter(seat, StepsOf(rotation))] = before[seat];
+}
+
+/// Moves every call `steps` seats on. A player who opened `steps` seats after the dealer either has
+/// that many passes before him, or leaves out the passes that led round to the dealer.
+bool MoveCalls(CallList& calls, int steps) {
+  const auto* const opening =
+      std::find_if(calls.begin(), calls.end(), [](Call call) { return !call.IsPass(); });
+  const int passes = static_cast<int>(opening - calls.begin());
+  if (calls.Empty() || (passes == kSeats && calls.Count() == kSeats)) return true;
+  if (passes >= kSeats) return false;
+  const int added = passes + steps < kSeats ? steps : steps - kSeats;
+  if (calls.Count() + added > CallList::kCapacity) return false;
+  CallList moved;
+  for (int pass = 0; pass < passes + added; ++pass) moved.Add(Call::Pass());
+  for (const auto* call = opening; call != calls.end(); ++call) moved.Add(*call);
+  calls = moved;
+  return true;
+}
+
+}  // namespace
+
+void swap(Board& board, int from, int to) {
+  const bool seats = from >= 0 && from < kSeats && to >= 0 && to < kSeats;
+  const bool rotation = from >= kSeats && from <= IndexOf(Rotation::HalfTurn);
+  if (!seats && !rotation) throw Fault(FaultNumber::SubscriptOutOfRange, "No such seat");
+  MarkEdited(board);
+  if (rotation) {
+    RotateHands(board.Hands, static_cast<Rotation>(from));
+  } else {
+    std::swap(board.Hands[static_cast<Seat>(from)], board.Hands[static_cast<Seat>(to)]);
+  }
+}
+
+bool Rotate(Board& board, Rotation rotation, bool takeAuction) {
+  swap(board, IndexOf(rotation), 0);
+  if (!takeAuction) return true;
+  const bool moved = MoveCalls(board.Calls, StepsOf(rotation));
+  if (moved) GetContract(board);
+  return moved;
+}
+
+void SwapSuit(Board& board, Suit suit1, Suit suit2) {
+  MarkEdited(board);
+  for (const Seat seat : kAllSeats) std::swap(board.Hands[seat][suit1], board.Hands[seat][suit2]);
+}
+
+}  // namespace tricklet

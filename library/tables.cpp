@@ -1,0 +1,195 @@
+#include "library/tables.h"
+
+#include <chrono>
+#include <future>
+#include <utility>
+#include <vector>
+
+#include "analysis/get_dds.h"
+#include "core/fault.h"
+#include "core/statistics.h"
+#include "library/board_file.h"
+#include "library/board_store.h"
+#include "library/file_io.h"
+#include "library/library_store.h"
+
+namespace tricklet {
+namespace {
+
+namespace fs = std::filesystem;
+using Clock = std::chrono::steady_clock;
+
+/// Deals on their way to the solver.
+struct Batch {
+  std::vector<int> numbers;
+  std::vector<HandTable> deals;
+};
+
+/// What comes back.
+struct SolvedBatch {
+  std::vector<MakeableTable> tables;
+  std::string failure;
+};
+
+/// "Analysing board 23, 40 s left".
+std::string ProgressText(int number, int done, int total, Clock::duration taken) {
+  std::string text = "Analysing board " + std::to_string(number);
+  if (done == 0) return text;
+  const double seconds = std::chrono::duration<double>(taken).count();
+  const int left = static_cast<int>(seconds / done * (total - done) + 0.5);
+  return text + ", " +
+         (left < 100 ? std::to_string(left) + " s" : std::to_string(left / 60) + " min") + " left";
+}
+
+/// One run over a range of boards.
+class AnalysisRun {
+ public:
+  AnalysisRun(Session& session, Solver& solver) : session_(session), solver_(solver) {}
+
+  AnalysisOutcome Run(int first, int last, bool again) {
+    FindWork(first, last, again);
+    const WorkScope work(session_.host);
+    const BatchScope batchScope(session_);
+    Batch current = NextBatch();
+    while (!current.numbers.empty() && !outcome_.cancelled && outcome_.failure.empty()) {
+      auto answer = std::async(std::launch::async, [this, &current] { return Solve(current); });
+      StorePending();
+      Batch following = NextBatch();
+      Wait(answer, current.numbers.front());
+      Keep(answer.get(), std::move(current));
+      current = std::move(following);
+    }
+    StorePending();
+    return outcome_;
+  }
+
+ private:
+  void FindWork(int first, int last, bool again) {
+    CountHands(session_);
+    for (int number = first; number <= last; ++number) {
+      if (!session_.library.BoardPresent.at(static_cast<std::size_t>(number))) continue;
+      if (Wanted(number, again)) numbers_.push_back(number);
+    }
+  }
+
+  /// Reads the board and keeps its deal, if it needs a table and can have one.
+  bool Wanted(int number, bool again) {
+    Board board;
+    try {
+      const bool readable =
+          ReadBoardText(ReadWholeFile(session_.BoardPath(number), kMaxBoardFileBytes), board,
+                        TableReading::Always);
+      if (!readable || !GetStats(board.Hands).AllHandsComplete) {
+        ++outcome_.incomplete;
+        return false;
+      }
+    } catch (const Fault&) {
+      ++outcome_.incomplete;
+      return false;
+    }
+    if (board.MakeableValid && !again) return false;
+    deals_.push_back(board.Hands);
+    return true;
+  }
+
+  Batch NextBatch() {
+    Batch batch;
+    for (; next_ < numbers_.size() && batch.numbers.size() < Solver::kBatch; ++next_) {
+      batch.numbers.push_back(numbers_[next_]);
+      batch.deals.push_back(deals_[next_]);
+    }
+    return batch;
+  }
+
+  SolvedBatch Solve(const Batch& batch) {
+    SolvedBatch answer;
+    answer.tables = SolveDeals(solver_, batch.deals, answer.failure);
+    return answer;
+  }
+
+  /// Lets pending events run until the batch is solved; the solver cannot be stopped in a batch.
+  void Wait(std::future<SolvedBatch>& answer, int number) {
+    constexpr auto kEvery = std::chrono::milliseconds(20);
+    const auto total = static_cast<int>(numbers_.size());
+    do {
+      const std::string text = ProgressText(number, solved_, total, Clock::now() - start_);
+      if (!session_.host.Step(text, solved_, total)) outcome_.cancelled = true;
+    } while (answer.wait_for(kEvery) != std::future_status::ready);
+  }
+
+  void Keep(SolvedBatch answer, Batch batch) {
+    outcome_.failure = answer.failure;
+    solved_ += static_cast<int>(answer.tables.size());
+    pending_ = std::move(batch);
+    pendingTables_ = std::move(answer.tables);
+  }
+
+  void StorePending() {
+    for (std::size_t i = 0; i < pendingTables_.size(); ++i) {
+      const int number = pending_.numbers[i];
+      if (!StoreTable(session_.BoardPath(number), pending_.deals[i], pendingTables_[i])) continue;
+      ++outcome_.computed;
+      Board& board = session_.board;
+      if (board.BoardNumber == number && board.Hands == pending_.deals[i]) {
+        board.Makeable = pendingTables_[i];
+        board.MakeableValid = true;
+      }
+    }
+    pendingTables_.clear();
+  }
+
+  Session& session_;
+  Solver& solver_;
+  AnalysisOutcome outcome_;
+  std::vector<int> numbers_;      // of the boards to be solved
+  std::vector<HandTable> deals_;  // theirs
+  std::size_t next_ = 0;
+  int solved_ = 0;
+  Batch pending_;  // solved, not yet stored
+  std::vector<MakeableTable> pendingTables_;
+  Clock::time_point start_ = Clock::now();
+};
+
+}  // namespace
+
+bool StoreTable(const fs::path& path, const HandTable& hands, const MakeableTable& table) {
+  try {
+    Board board;
+    const std::string text = ReadWholeFile(path, kMaxBoardFileBytes);
+    if (!ReadBoardText(text, board, TableReading::Always) || !(board.Hands == hands)) return false;
+    board.Makeable = table;
+    board.MakeableValid = true;
+    ReplaceWholeFile(path, WriteBoardText(board));
+    return true;
+  } catch (const Fault&) {
+    return false;
+  }
+}
+
+AnalysisOutcome AnalyseBoards(Session& session, Solver& solver, int first, int last, bool again) {
+  AnalysisOutcome outcome;
+  outcome.failure = solver.Missing();
+  if (!outcome.failure.empty()) return outcome;
+  return AnalysisRun(session, solver).Run(first, last, again);
+}
+
+std::string AnalysisText(const AnalysisOutcome& outcome) {
+  if (!outcome.failure.empty() && outcome.computed == 0) return outcome.failure;
+  std::string text = std::to_string(outcome.computed) +
+                     (outcome.computed == 1 ? " table has" : " tables have") + " been computed";
+  if (outcome.incomplete > 0) {
+    text += "\n" + std::to_string(outcome.incomplete) +
+            (outcome.incomplete == 1 ? " hand is" : " hands are") + " incomplete";
+  }
+  if (outcome.cancelled) text += "\nAnalysis cancelled";
+  if (!outcome.failure.empty()) text += "\n" + outcome.failure;
+  return text;
+}
+
+void AnalyseLibrary(Session& session, Solver& solver, bool again) {
+  if (CheckSaveChanges(session) == Answer::Cancel) return;
+  session.host.Tell(
+      AnalysisText(AnalyseBoards(session, solver, kFirstBoardNumber, kLastBoardNumber, again)));
+}
+
+}  // namespace tricklet

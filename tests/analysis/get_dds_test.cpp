@@ -1,0 +1,140 @@
+#include "analysis/get_dds.h"
+
+#include <fstream>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+#include "analysis/deal_text.h"
+#include "analysis/solver_library.h"
+#include "formats/pbn_writer.h"
+#include "library/board_file.h"
+#include "tests/support/fake_solver.h"
+#include "tests/support/scripted_host.h"
+
+namespace tricklet {
+namespace {
+
+HandTable Deal(std::string_view text) {
+  HandTable hands;
+  std::string tens;
+  for (const char c : text.substr(2)) tens += c == 'T' ? std::string("10") : std::string(1, c);
+  std::string_view rest = tens;
+  const auto first = std::string_view("NESW").find(text[0]);
+  for (int step = 0; step < kSeats; ++step) {
+    GetHand(rest, hands, SeatAfter(static_cast<Seat>(first), step));
+  }
+  return hands;
+}
+
+constexpr const char* kDeal =
+    "N:AKQ..JT9876.5432 J32.AKQJ.5.AKQJT T9876.T98.AKQ.98 54.765432.432.76";
+
+TEST(GetDDS, BringsTheRecordIntoTableOrder) {
+  SolverRecord record{};
+  for (std::size_t i = 0; i < record.size(); ++i) record.at(i) = static_cast<std::int32_t>(i);
+  const MakeableTable table = ToMakeable(record);
+  EXPECT_EQ(table[TableSeat::North][TableStrain::Spades], 0);
+  EXPECT_EQ(table[TableSeat::North][TableStrain::Clubs], 3);
+  EXPECT_EQ(table[TableSeat::East][TableStrain::Spades], 5);
+  EXPECT_EQ(table[TableSeat::South][TableStrain::NoTrump], 14);
+  EXPECT_EQ(table[TableSeat::West][TableStrain::Hearts], 16);
+}
+
+TEST(GetDDS, WarnsOfAWrongNumberOfCardsAndKeepsTheTable) {
+  Board board;
+  board.Hands = Deal("N:AKQ..JT987.5432 J32.AKQJ.5.AKQJT T9876.T98.AKQ.98 54.765432.432.76");
+  board.MakeableValid = true;
+  board.Makeable[TableSeat::North][TableStrain::Clubs] = 7;
+  test::FakeSolver solver;
+  test::ScriptedHost host;
+  EXPECT_FALSE(GetDDS(board, solver, host, false));
+  host.ExpectTell("Warning - hand North - AKQ..JT987.5432 has 12 cards.");
+  EXPECT_FALSE(GetDDS(board, solver, host, true));
+  EXPECT_TRUE(solver.solved.empty());
+  EXPECT_EQ(board.Makeable[TableSeat::North][TableStrain::Clubs], 7);
+  EXPECT_FALSE(board.HandChanged);
+}
+
+TEST(GetDDS, ReportsTheSolversOwnWords) {
+  Board board;
+  board.Hands = Deal(kDeal);
+  test::FakeSolver solver;
+  test::ScriptedHost host;
+  solver.failure = "Too many tables";
+  host.ExpectTell("Too many tables");
+  EXPECT_FALSE(GetDDS(board, solver, host, true));
+  EXPECT_FALSE(board.MakeableValid);
+  solver.failure.clear();
+  EXPECT_TRUE(GetDDS(board, solver, host, true));
+  EXPECT_TRUE(board.MakeableValid);
+  EXPECT_TRUE(board.HandChanged);
+  EXPECT_EQ(board.Makeable, ToMakeable(test::FakeSolver::RecordOf(kDeal)));
+}
+
+TEST(SolverLibrary, SaysWhatWasTried) {
+  ASSERT_EQ(setenv("TRICKLET_SOLVER", "/nowhere/libsolver.so", 1), 0);
+  // Something that can be loaded, but is no solver, must not be taken for one.
+  const auto solver = LoadSolver("/nowhere/program");
+  unsetenv("TRICKLET_SOLVER");
+  EXPECT_EQ(solver->Missing(), "") << "the system's library is found behind the others";
+}
+
+TEST(SolverLibrary, AgreesWithPublishedTables) {
+  const auto solver = LoadSolver({});
+  ASSERT_EQ(solver->Missing(), "");
+  std::ifstream file(TRICKLET_TEST_DATA "/double_dummy.txt");
+  std::vector<HandTable> deals;
+  std::vector<MakeableTable> expected;
+  for (std::string line; std::getline(file, line);) {
+    if (line.empty() || line[0] == '#') continue;
+    deals.push_back(Deal(line.substr(0, line.find(';'))));
+    std::istringstream numbers(line.substr(line.find(';') + 1));
+    MakeableTable table;
+    for (const Strain strain :
+         {Strain::Spades, Strain::Hearts, Strain::Diamonds, Strain::Clubs, Strain::NoTrump}) {
+      for (const Seat seat : kAllSeats) numbers >> table[ToTableSeat(seat)][ToTableStrain(strain)];
+    }
+    ASSERT_TRUE(numbers) << line;
+    expected.push_back(table);
+  }
+  ASSERT_GE(deals.size(), 10U);
+  std::string failure;
+  EXPECT_EQ(SolveDeals(*solver, deals, failure), expected);
+  EXPECT_EQ(failure, "");
+  // one alone goes another way into the library, and the table through our own file and back
+  Board board;
+  board.Hands = deals[0];
+  test::ScriptedHost host;
+  ASSERT_TRUE(GetDDS(board, *solver, host, true));
+  Board read;
+  ASSERT_TRUE(ReadBoardText(WriteBoardText(board), read, TableReading::Always));
+  EXPECT_EQ(read.Makeable, expected[0]);
+}
+
+TEST(SolverLibrary, TellsTheTricksOfEachCard) {
+  const auto solver = LoadSolver({});
+  // Each seat holds one suit; spades are trumps: the lead does not matter.
+  SolverPosition position;
+  position.trumps = Strain::Spades;
+  position.leader = Seat::East;
+  for (const Seat seat : kAllSeats) {
+    position.cardsLeft[seat][static_cast<Suit>(seat)] = Holding::FromBits(Holding::kAllBits);
+  }
+  const auto leads = solver->SolveCards(position);
+  ASSERT_EQ(leads.size(), 13U);
+  for (const CardScore& lead : leads) {
+    EXPECT_EQ(lead.card.suit, Suit::Hearts);
+    EXPECT_EQ(lead.tricks, 0);
+  }
+  position.leader = Seat::West;
+  position.trick = {{Suit::Clubs, Rank::Ace}};
+  position.cardsLeft[Seat::West][Suit::Clubs].Remove(Rank::Ace);
+  const auto ruffs = solver->SolveCards(position);
+  ASSERT_EQ(ruffs.size(), 13U);
+  EXPECT_EQ(ruffs[0].card.suit, Suit::Spades);
+  EXPECT_EQ(ruffs[0].tricks, 13);
+}
+
+}  // namespace
+}  // namespace tricklet

@@ -1,0 +1,109 @@
+#include "analysis/par.h"
+
+#include <array>
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include "analysis/shared_library.h"
+
+namespace tricklet {
+namespace {
+
+/// Tricks of North-South and of East-West in clubs, diamonds, hearts, spades, no-trump.
+MakeableTable Table(std::array<int, 5> northSouth, std::array<int, 5> eastWest) {
+  MakeableTable table;
+  for (const TableStrain strain : kAllTableStrains) {
+    const auto index = static_cast<std::size_t>(strain);
+    for (const TableSeat seat : {TableSeat::North, TableSeat::South}) {
+      table[seat][strain] = static_cast<std::int16_t>(northSouth.at(index));
+    }
+    for (const TableSeat seat : {TableSeat::East, TableSeat::West}) {
+      table[seat][strain] = static_cast<std::int16_t>(eastWest.at(index));
+    }
+  }
+  return table;
+}
+
+TEST(Par, HandWorkedCases) {
+  const struct {
+    const char* what;
+    MakeableTable table;
+    Seat dealer;
+    Vulnerability vulnerability;
+    const char* text;
+  } kCases[] = {
+      {"game in spades, no save", Table({6, 6, 6, 10, 7}, {6, 6, 6, 3, 6}), Seat::North,
+       Vulnerability::None, "Par 4S= NS +420"},
+      {"two games of one score", Table({11, 6, 6, 6, 9}, {2, 3, 3, 3, 3}), Seat::North,
+       Vulnerability::None, "Par 3NT=, 5C= NS +400"},
+      {"save against the vulnerable game", Table({3, 3, 4, 10, 5}, {9, 3, 8, 3, 3}), Seat::North,
+       Vulnerability::NorthSouth, "Par 5Cx-2 NS +300"},
+      {"nobody makes anything", Table({6, 6, 6, 6, 6}, {6, 6, 6, 6, 6}), Seat::South,
+       Vulnerability::All, "Par All Pass 0"},
+      {"both make 1NT: the dealer's side has it", Table({5, 5, 5, 5, 7}, {5, 5, 5, 5, 7}),
+       Seat::South, Vulnerability::All, "Par 1NT= NS +90"},
+      {"both make 1NT: the other dealer", Table({5, 5, 5, 5, 7}, {5, 5, 5, 5, 7}), Seat::West,
+       Vulnerability::All, "Par 1NT= EW +90"},
+      {"part score saved against", Table({6, 6, 8, 6, 6}, {7, 7, 5, 8, 7}), Seat::North,
+       Vulnerability::None, "Par 3Hx-1 EW +100"},
+      {"grand slam", Table({13, 13, 13, 13, 13}, {0, 0, 0, 0, 0}), Seat::East, Vulnerability::All,
+       "Par 7NT= NS +2220"},
+  };
+  for (const auto& c : kCases) {
+    EXPECT_EQ(ParText(ComputePar(c.table, c.dealer, c.vulnerability)), c.text) << c.what;
+  }
+}
+
+TEST(Par, NamesTheDeclarerWhenOnlyOneCanMakeIt) {
+  MakeableTable table = Table({6, 6, 6, 6, 9}, {4, 4, 4, 4, 4});
+  table[TableSeat::South][TableStrain::NoTrump] = 8;
+  EXPECT_EQ(ParText(ComputePar(table, Seat::North, Vulnerability::None)),
+            "Par 3NT= by North NS +400");
+}
+
+/// The solver library's own par, as a second opinion.
+struct LibraryTable {
+  std::array<std::array<std::int32_t, 4>, 5> tricks;
+};
+struct LibraryPar {
+  std::int32_t number;
+  std::int32_t score;
+  std::array<std::array<char, 10>, 10> contracts;
+};
+using DealerPar = std::int32_t(LibraryTable*, LibraryPar*, std::int32_t, std::int32_t);
+
+TEST(Par, AgreesWithTheSolverLibrarysOwnOnRandomTables) {
+  const SharedLibrary library("libdds.so.0");
+  auto* dealerPar = library.Entry<DealerPar>("DealerPar");
+  ASSERT_NE(dealerPar, nullptr);
+  std::mt19937 random(3);
+  constexpr std::array kVulnerabilities{Vulnerability::None, Vulnerability::All,
+                                        Vulnerability::NorthSouth, Vulnerability::EastWest};
+  for (int round = 0; round < 4000; ++round) {
+    MakeableTable table;
+    LibraryTable theirs{};
+    for (const Strain strain :
+         {Strain::Spades, Strain::Hearts, Strain::Diamonds, Strain::Clubs, Strain::NoTrump}) {
+      // What one side can take the other cannot, give or take the lead.
+      const int northSouth = static_cast<int>(random() % 14);
+      for (const Seat seat : kAllSeats) {
+        int tricks = SideOf(seat) == Side::NorthSouth ? northSouth : 13 - northSouth;
+        if (random() % 4 == 0 && tricks > 0) --tricks;
+        table[ToTableSeat(seat)][ToTableStrain(strain)] = static_cast<std::int16_t>(tricks);
+        theirs.tricks.at(static_cast<std::size_t>(strain)).at(static_cast<std::size_t>(seat)) =
+            tricks;
+      }
+    }
+    for (const Seat dealer : kAllSeats) {
+      const auto code = random() % 4;
+      LibraryPar par{};
+      ASSERT_EQ(dealerPar(&theirs, &par, IndexOf(dealer), static_cast<std::int32_t>(code)), 1);
+      const int ours = ComputePar(table, dealer, kVulnerabilities.at(code)).score;
+      ASSERT_EQ(ours, par.score) << "round " << round << " dealer " << IndexOf(dealer);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tricklet

@@ -1,0 +1,123 @@
+#include "library/tables.h"
+
+#include <gtest/gtest.h>
+
+#include "analysis/deal_text.h"
+#include "analysis/get_dds.h"
+#include "library/board_file.h"
+#include "library/board_store.h"
+#include "tests/support/fake_solver.h"
+#include "tests/support/library_fixture.h"
+
+namespace tricklet {
+namespace {
+
+using test::FakeSolver;
+using test::ReadFile;
+using test::WriteFile;
+
+class TablesTest : public test::LibraryTest {
+ protected:
+  /// Boards that differ: two cards of the one-suit deal change hands, by the number.
+  void PutDeal(int number) {
+    Board board;
+    for (const Seat seat : kAllSeats) {
+      board.Hands[seat][static_cast<Suit>(seat)] = Holding::FromBits(Holding::kAllBits);
+    }
+    const auto rank = static_cast<Rank>(number % kRanks);
+    const auto other = static_cast<Rank>(number / kRanks % kRanks);
+    board.Hands[Seat::North][Suit::Spades].Remove(rank);
+    board.Hands[Seat::East][Suit::Hearts].Remove(other);
+    board.Hands[Seat::North][Suit::Hearts].Add(other);
+    board.Hands[Seat::East][Suit::Spades].Add(rank);
+    WriteFile(session.BoardPath(number), WriteBoardText(board));
+  }
+  Board Stored(int number) {
+    Board board;
+    EXPECT_TRUE(ReadBoardText(ReadFile(session.BoardPath(number)), board, TableReading::Always));
+    return board;
+  }
+  void ExpectOwnTable(int number) {
+    const Board board = Stored(number);
+    EXPECT_TRUE(board.MakeableValid) << number;
+    EXPECT_EQ(board.Makeable, ToMakeable(FakeSolver::RecordOf(SolverDealText(board.Hands))))
+        << number;
+  }
+  FakeSolver solver;
+};
+
+TEST_F(TablesTest, EveryBoardGetsItsOwnTableInBatches) {
+  for (int number = 1; number <= 100; ++number) PutDeal(number);
+  WriteFile(session.BoardPath(200), "nothing");
+  session.board.BoardNumber = 40;
+  LoadHand(session);
+  const AnalysisOutcome outcome = AnalyseBoards(session, solver, 1, 999, false);
+  EXPECT_EQ(outcome.computed, 100);
+  EXPECT_EQ(outcome.incomplete, 1);
+  EXPECT_EQ(solver.batches, (std::vector<std::size_t>{32, 32, 32, 4}));
+  for (int number = 1; number <= 100; ++number) ExpectOwnTable(number);
+  EXPECT_TRUE(session.board.MakeableValid) << "the board in hand has it too";
+  EXPECT_EQ(host.working, 0);
+
+  solver.batches.clear();
+  EXPECT_EQ(AnalyseBoards(session, solver, 1, 999, false).computed, 0) << "nothing is missing now";
+  EXPECT_EQ(AnalyseBoards(session, solver, 7, 9, true).computed, 3);
+  EXPECT_EQ(solver.batches, std::vector<std::size_t>{3});
+}
+
+TEST_F(TablesTest, CancelKeepsWhatIsSolved) {
+  for (int number = 1; number <= 80; ++number) PutDeal(number);
+  host.cancelAtStep = 1;
+  const AnalysisOutcome outcome = AnalyseBoards(session, solver, 1, 999, false);
+  EXPECT_TRUE(outcome.cancelled);
+  EXPECT_EQ(outcome.computed, 32) << "the batch that was under way";
+  EXPECT_EQ(AnalysisText(outcome), "32 tables have been computed\nAnalysis cancelled");
+}
+
+TEST_F(TablesTest, FailuresAreTold) {
+  PutDeal(1);
+  solver.failure = "Too many tables";
+  EXPECT_EQ(AnalysisText(AnalyseBoards(session, solver, 1, 9, false)), "Too many tables");
+  EXPECT_FALSE(Stored(1).MakeableValid);
+  solver.missing = "no solver";
+  host.ExpectTell("no solver");
+  AnalyseLibrary(session, solver);
+}
+
+TEST_F(TablesTest, ATableIsStoredOnlyForTheDealThatWasAnalysed) {
+  PutDeal(1);
+  PutDeal(2);
+  const Board first = Stored(1);
+  MakeableTable table;
+  table[TableSeat::North][TableStrain::Clubs] = 9;
+  EXPECT_FALSE(StoreTable(session.BoardPath(2), first.Hands, table));
+  EXPECT_FALSE(StoreTable(session.BoardPath(3), first.Hands, table));
+  EXPECT_FALSE(Stored(2).MakeableValid);
+  EXPECT_TRUE(StoreTable(session.BoardPath(1), first.Hands, table));
+  EXPECT_EQ(Stored(1).Makeable, table);
+}
+
+TEST_F(TablesTest, LoadingABoardAddsItsMissingTable) {
+  PutDeal(5);
+  session.board.BoardNumber = 5;
+  ASSERT_TRUE(LoadHand(session));
+  EXPECT_FALSE(session.board.MakeableValid) << "no solver is to be used";
+  session.GetSolver = [this]() -> Solver& { return solver; };
+  session.settings.AutoMakeable = false;
+  ASSERT_TRUE(LoadHand(session));
+  EXPECT_FALSE(session.board.MakeableValid);
+  session.settings.AutoMakeable = true;
+  session.TablesInBackground = true;
+  ASSERT_TRUE(LoadHand(session));
+  EXPECT_FALSE(session.board.MakeableValid);
+  EXPECT_TRUE(WantsTable(session, session.board));
+  session.TablesInBackground = false;
+  ASSERT_TRUE(LoadHand(session));
+  EXPECT_TRUE(session.board.MakeableValid);
+  EXPECT_FALSE(session.board.HandChanged);
+  ExpectOwnTable(5);
+  EXPECT_EQ(solver.solved.size(), 1U);
+}
+
+}  // namespace
+}  // namespace tricklet
