@@ -2,8 +2,14 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
 #include <cstdlib>
+#include <iostream>
 #include <mutex>
+
+#ifdef __GLIBC__
+#include <unistd.h>
+#endif
 
 #include "analysis/dds_types.h"
 #include "analysis/deal_text.h"
@@ -180,6 +186,25 @@ class MissingSolver : public Solver {
   std::string why_;
 };
 
+/// When the process ends, version 2.9 of the library clears up memory that its own static objects
+/// have given back already, and may crash there. Handlers run last in, first out, so this one ends
+/// the process before that; by then main() has returned and all that is written is written.
+void EndBeforeLibraryCleansUp() {
+#ifdef __GLIBC__
+  static const bool registered = [] {
+    on_exit(
+        [](int status, void* /*unused*/) {
+          std::cout.flush();
+          std::fflush(nullptr);
+          _exit(status);
+        },
+        nullptr);
+    return true;
+  }();
+  static_cast<void>(registered);
+#endif
+}
+
 std::vector<fs::path> NamesToTry(const fs::path& programFolder) {
 #ifdef _WIN32
   const std::vector<fs::path> names{"dds.dll"};
@@ -205,7 +230,10 @@ std::unique_ptr<Solver> LoadSolver(const fs::path& programFolder) {
     const SharedLibrary library(name);
     if (library.IsOpen()) {
       auto solver = std::make_unique<LibrarySolver>(library);
-      if (solver->IsSolver()) return solver;
+      if (solver->IsSolver()) {
+        EndBeforeLibraryCleansUp();
+        return solver;
+      }
     }
     why += "\n" + PathText(name) + (library.IsOpen() ? " (it is no solver)" : "");
   }
