@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
+#include <memory>
 #include <mutex>
 
 #ifdef __GLIBC__
@@ -238,6 +239,17 @@ std::unique_ptr<Solver> LoadSolver(const fs::path& programFolder) {
     why += "\n" + PathText(name) + (library.IsOpen() ? " (it is no solver)" : "");
   }
   return std::make_unique<MissingSolver>(why);
+}
+
+std::function<Solver&()> SolverOnDemand(const fs::path& programFolder) {
+  struct Lazy {
+    std::once_flag once;
+    std::unique_ptr<Solver> solver;
+  };
+  return [programFolder, lazy = std::make_shared<Lazy>()]() -> Solver& {
+    std::call_once(lazy->once, [&] { lazy->solver = LoadSolver(programFolder); });
+    return *lazy->solver;
+  };
 }
 
 }  // namespace tricklet

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 
 #include "analysis/solver.h"
@@ -12,5 +13,9 @@ namespace tricklet {
 /// names; in `programFolder`; where the system finds libraries. Its name is dds.dll on Windows,
 /// libdds.so.0 and then libdds.so elsewhere. Never fails: what was tried is in `Missing()`.
 std::unique_ptr<Solver> LoadSolver(const std::filesystem::path& programFolder);
+
+/// The same, but loaded when it is first asked for (from any thread): it takes memory and threads
+/// that much of the program need not pay for.
+std::function<Solver&()> SolverOnDemand(const std::filesystem::path& programFolder);
 
 }  // namespace tricklet

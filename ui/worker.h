@@ -1,0 +1,51 @@
+// Work beside the window's own thread.
+#pragma once
+
+#include <condition_variable>
+#include <deque>
+#include <functional>
+#include <mutex>
+#include <thread>
+
+#include <QObject>
+
+namespace tricklet::ui {
+
+/// One thread that does one job after another, the newest first: what the person looks at now comes
+/// before what has been left.
+class Worker : public QObject {
+  Q_OBJECT
+
+ public:
+  /// More jobs than this do not wait: the oldest of them are dropped.
+  static constexpr std::size_t kMostWaiting = 256;
+
+  explicit Worker(QObject* parent = nullptr);
+  /// Waits for the job under way; the jobs that wait are dropped, and nothing is delivered.
+  ~Worker() override;
+
+  /// `work` runs on the worker's thread, then `done` on the window's.
+  void Post(std::function<void()> work, std::function<void()> done);
+
+ signals:
+  /// A job has been worked off (sent from the worker's thread).
+  void Finished();
+
+ private:
+  struct Job {
+    std::function<void()> work;
+    std::function<void()> done;
+  };
+
+  void Run();
+  void Deliver();
+
+  std::mutex mutex_;
+  std::condition_variable wake_;
+  std::deque<Job> waiting_;                     // the newest at the back
+  std::deque<std::function<void()>> finished_;  // in the order of their work
+  bool stop_ = false;
+  std::thread thread_;
+};
+
+}  // namespace tricklet::ui
