@@ -13,11 +13,11 @@ namespace tricklet::cli {
 
 /// What is asked of one constrained hand, as typed.
 struct HandArguments {
-  std::optional<std::string> direction;  ///< a seat, "dealer", or "dealer+1" to "dealer+3"
-  std::optional<std::string> points;     ///< "15-17", or "16" for exactly so many
-  std::optional<std::string> lengths;    ///< of S, H, D, C: "5-13,0-4,2,0-13"
-  std::optional<std::string> type;       ///< "balanced", "weak2", "4441" or "preempt"
-  std::optional<int> option;             ///< of the type: 1 or 2
+  std::optional<std::string> direction = {};  ///< a seat, "dealer", or "dealer+1" to "dealer+3"
+  std::optional<std::string> points = {};     ///< "15-17", or "16" for exactly so many
+  std::optional<std::string> lengths = {};    ///< of S, H, D, C: "5-13,0-4,2,0-13"
+  std::optional<std::string> type = {};       ///< "balanced", "weak2", "4441" or "preempt"
+  std::optional<int> option = {};             ///< of the type: 1 or 2
 
   bool Any() const { return direction || points || lengths || type || option; }
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <cstdint>
 #include <utility>
 
 #include "generate/hand_type.h"
@@ -10,33 +11,78 @@
 namespace tricklet {
 namespace {
 
-using Hand = PerSuit<Holding>;
+/// A set of cards: the bits are `Card::Index`.
+using CardSet = std::uint64_t;
 
-constexpr int kHonours = 4;  // of a suit: ace, king, queen, jack
-constexpr Holding kHonourRanks = Holding::FromBits((1U << kHonours) - 1);
-constexpr Holding kWholeSuit = Holding::FromBits(Holding::kAllBits);
+constexpr CardSet kPack = (CardSet{1} << kCardsInPack) - 1;
 
-/// 4, 3, 2 or 1; of an honour.
-constexpr int PointsOf(Rank honour) {
-  return kHonours - IndexOf(honour);
+constexpr CardSet SetOf(int card) {
+  return CardSet{1} << static_cast<unsigned>(card);
 }
 
-int CardsOf(const Hand& hand) {
-  int count = 0;
-  for (const Holding holding : hand) count += holding.Count();
-  return count;
+constexpr CardSet SetOf(Suit suit, Holding holding) {
+  return CardSet{holding.Bits()} << static_cast<unsigned>(IndexOf(suit) * kRanks);
 }
 
-/// One of the ranks of `ranks`, which is not empty.
-Rank RandomRank(Holding ranks, RandomSource& random) {
-  unsigned bits = ranks.Bits();
-  for (int skip = RandomBetween(0, ranks.Count() - 1, random); skip > 0; --skip) bits &= bits - 1;
-  return static_cast<Rank>(std::countr_zero(bits));
+/// These ranks in all suits.
+constexpr CardSet RanksOfAllSuits(Holding ranks) {
+  CardSet cards = 0;
+  for (const Suit suit : kAllSuits) cards |= SetOf(suit, ranks);
+  return cards;
+}
+
+constexpr CardSet WholeSuit(Suit suit) {
+  return SetOf(suit, Holding::FromBits(Holding::kAllBits));
+}
+
+constexpr int kHonourRanks = 4;  // ace 4 points, king 3, queen 2, jack 1
+constexpr CardSet kHonours = RanksOfAllSuits(Holding::FromBits((1U << kHonourRanks) - 1));
+
+/// The honours worth at most n points, by n of 0..4: for 1 point the jacks, for 4 all.
+constexpr auto kHonoursUpTo = [] {
+  std::array<CardSet, kHonourRanks + 1> upTo{};
+  for (std::size_t points = 1; points < upTo.size(); ++points) {
+    const auto jackUpwards = Holding::FromBits(0xFU << (kHonourRanks - points));
+    upTo.at(points) = RanksOfAllSuits(jackUpwards) & kHonours;
+  }
+  return upTo;
+}();
+
+constexpr int PointsOf(CardSet cards) {
+  int points = 0;
+  for (std::size_t least = 1; least < kHonoursUpTo.size(); ++least) {
+    points += std::popcount(cards & kHonours & ~kHonoursUpTo.at(least - 1));
+  }
+  return points;
+}
+
+CardSet SetOf(const PerSuit<Holding>& hand) {
+  CardSet cards = 0;
+  for (const Suit suit : kAllSuits) cards |= SetOf(suit, hand[suit]);
+  return cards;
+}
+
+PerSuit<Holding> HandOf(CardSet cards) {
+  PerSuit<Holding> hand;
+  for (Holding& holding : hand) {
+    holding = Holding::FromBits(static_cast<unsigned>(cards & Holding::kAllBits));
+    cards >>= static_cast<unsigned>(kRanks);
+  }
+  return hand;
+}
+
+/// One of `cards`, which is not empty.
+int RandomCard(CardSet cards, RandomSource& random) {
+  const auto count = static_cast<std::uint32_t>(std::popcount(cards));
+  for (std::uint32_t skip = random.Below(count); skip > 0; --skip) cards &= cards - 1;
+  return std::countr_zero(cards);
 }
 
 /// Makes the limits agree with a hand of 13 cards: no suit so long that the others' minima do not
-/// fit, none so short that the others' maxima do not reach.
+/// fit, none so short that the others' maxima do not reach. Where a minimum is above its maximum
+/// the maximum counts, so that no hand gets more than 13 cards.
 void Tighten(PerSuit<Limits>& limits) {
+  for (Limits& suit : limits) suit.minimum = std::min(suit.minimum, suit.maximum);
   int minima = 0;
   for (const Limits& suit : limits) minima += suit.minimum;
   for (Limits& suit : limits) {
@@ -52,19 +98,30 @@ void Tighten(PerSuit<Limits>& limits) {
 /// Lengths within the limits. They add up to 13 unless the limits leave too little room.
 PerSuit<int> ChooseLengths(const PerSuit<Limits>& limits, RandomSource& random) {
   PerSuit<int> lengths;
-  PerSuit<double> weights;  // cards of the suit still outside the hand, 0 when it takes no more
+  // Cards of the suit still outside the hand, 0 when it takes no more. As whole numbers these are
+  // picked from faster than by `WeightedPick`, with the same odds.
+  PerSuit<int> weights;
+  int weight = 0;
   int total = 0;
   for (const Suit suit : kAllSuits) {
     const auto [minimum, maximum] = limits[suit];
     lengths[suit] = minimum;
     weights[suit] = minimum >= maximum ? 0 : kRanks - minimum;
+    weight += weights[suit];
     total += minimum;
   }
-  for (; total < kCardsInHand; ++total) {
-    const auto suit = static_cast<Suit>(WeightedPick(weights.values_, 0, kSuits - 1, random));
-    if (weights[suit] <= 0) break;
-    weights[suit] -= 1;
-    if (++lengths[suit] >= limits[suit].maximum) weights[suit] = 0;
+  for (; total < kCardsInHand && weight > 0; ++total) {
+    const auto drawn = static_cast<int>(random.Below(static_cast<std::uint32_t>(weight)));
+    const int spades = weights[Suit::Spades];
+    const int majors = spades + weights[Suit::Hearts];
+    const int notClubs = majors + weights[Suit::Diamonds];
+    // Without branches, which nobody could predict.
+    const auto suit =
+        static_cast<Suit>(static_cast<int>(drawn >= spades) + static_cast<int>(drawn >= majors) +
+                          static_cast<int>(drawn >= notClubs));
+    const int taken = ++lengths[suit] >= limits[suit].maximum ? weights[suit] : 1;
+    weights[suit] -= taken;
+    weight -= taken;
   }
   return lengths;
 }
@@ -77,35 +134,33 @@ class HandBuilder {
 
   /// The first hand that meets the constraints, or the last attempt. Only its cards count as
   /// placed: those of failed attempts are free again.
-  Hand Build(GenHand which) {
-    Hand hand;
+  CardSet Build(GenHand which) {
+    CardSet hand = 0;
     PerSuit<int> lengths;
     for (int attempt = 1; attempt <= kMaxAttempts; ++attempt) {
       lengths = ChooseLengths(LimitsOf(which), random_);
       hand = Attempt(lengths, DrawPoints(which));
       if (Accepted(hand, which)) break;
     }
-    for (const Suit suit : kAllSuits) placed_[suit] = placed_[suit] | hand[suit];
+    placed_ |= hand;
     firstLengths_ = lengths;
     return hand;
   }
 
  private:
   PerSuit<Limits> LimitsOf(GenHand which) {
-    const HandType type = constraints_.HandTypeIndex[which];
-    PerSuit<Limits> limits = constraints_.UseSuitLengths[which]
-                                 ? constraints_.SuitLimits[which]
-                                 : ChooseHandType(type, constraints_.HandTypeOption[type][which],
-                                                  firstLengths_, random_);
+    PerSuit<Limits> limits = constraints_.SuitLimits[which];
+    if (!constraints_.UseSuitLengths[which]) {
+      const HandType type = constraints_.HandTypeIndex[which];
+      const int option = constraints_.HandTypeOption[type][which];
+      limits = ChooseHandType(type, option, firstLengths_, random_);
+    }
     Tighten(limits);
+    const bool roomForSecond = which == GenHand::First && constraints_.NumGenHands == 2;
     for (const Suit suit : kAllSuits) {
-      int& maximum = limits[suit].maximum;
-      if (which == GenHand::Second) {
-        maximum = std::min(maximum, kRanks - firstLengths_[suit]);
-      } else if (constraints_.NumGenHands == 2) {
-        const int kept = constraints_.SuitLimits[GenHand::Second][suit].minimum;
-        maximum = std::min(maximum, kRanks - kept);
-      }
+      int taken = firstLengths_[suit];
+      if (roomForSecond) taken = constraints_.SuitLimits[GenHand::Second][suit].minimum;
+      limits[suit].maximum = std::min(limits[suit].maximum, kRanks - taken);
     }
     return limits;
   }
@@ -115,104 +170,97 @@ class HandBuilder {
     return WeightedPick(HcpOdds, lowest, highest, random_);
   }
 
-  bool Accepted(const Hand& hand, GenHand which) const {
-    int points = 0;
-    for (const Holding holding : hand) {
-      for (unsigned bits = (holding & kHonourRanks).Bits(); bits != 0; bits &= bits - 1) {
-        points += PointsOf(static_cast<Rank>(std::countr_zero(bits)));
-      }
-    }
+  bool Accepted(CardSet hand, GenHand which) const {
     const auto [lowest, highest] = constraints_.PointLimits[which];
-    return CardsOf(hand) == kCardsInHand && points >= lowest && points <= highest;
+    const int points = PointsOf(hand);
+    return std::popcount(hand) == kCardsInHand && points >= lowest && points <= highest;
   }
 
-  Hand Attempt(const PerSuit<int>& lengths, int points) {
-    Hand hand;
-    AddHonours(hand, lengths, points);
+  /// Fewer than 13 cards when there are not enough spot cards.
+  CardSet Attempt(PerSuit<int> lengths, int points) {
+    CardSet hand = TakeHonours(lengths, points);
     for (const Suit suit : kAllSuits) {
-      Holding spots = kWholeSuit - kHonourRanks - placed_[suit];
-      for (int lacking = lengths[suit] - hand[suit].Count(); lacking > 0 && !spots.Empty();
-           --lacking) {
-        const Rank rank = RandomRank(spots, random_);
-        spots.Remove(rank);
-        hand[suit].Add(rank);
+      CardSet spots = WholeSuit(suit) & ~kHonours & ~placed_;
+      for (int lacking = lengths[suit]; lacking > 0 && spots != 0; --lacking) {
+        const CardSet drawn = SetOf(RandomCard(spots, random_));
+        spots &= ~drawn;
+        hand |= drawn;
       }
     }
     return hand;
   }
 
-  /// Honours at random among those that fit, until they make up `points` or none fits.
-  void AddHonours(Hand& hand, const PerSuit<int>& lengths, int points) {
-    std::array<Card, std::size_t{kSuits} * kHonours> honours{};
-    std::size_t count = 0;
+  /// Honours at random among those that fit, until they make up `points` or none fits. Takes them
+  /// off the lengths.
+  CardSet TakeHonours(PerSuit<int>& lengths, int points) {
+    CardSet hand = 0;
+    CardSet fitting = kHonours & ~placed_;
     for (const Suit suit : kAllSuits) {
-      for (int index = 0; index < kHonours; ++index) {
-        const Card honour{suit, static_cast<Rank>(index)};
-        if (!placed_[suit].Has(honour.rank)) honours.at(count++) = honour;
-      }
+      if (lengths[suit] <= 0) fitting &= ~WholeSuit(suit);
     }
     while (points > 0) {
-      const auto fits = [&](Card honour) {
-        return PointsOf(honour.rank) <= points && !hand[honour.suit].Has(honour.rank) &&
-               hand[honour.suit].Count() < lengths[honour.suit];
-      };
-      auto* const end = std::partition(honours.data(), honours.data() + count, fits);
-      count = static_cast<std::size_t>(end - honours.data());
-      if (count == 0) return;
-      const Card drawn = honours.at(random_.Below(static_cast<std::uint32_t>(count)));
-      hand[drawn.suit].Add(drawn.rank);
-      points -= PointsOf(drawn.rank);
+      fitting &= kHonoursUpTo.at(static_cast<std::size_t>(std::min(points, kHonourRanks)));
+      if (fitting == 0) break;
+      const int card = RandomCard(fitting, random_);
+      const auto [suit, rank] = Card::FromIndex(card);
+      hand |= SetOf(card);
+      fitting &= ~SetOf(card);
+      points -= kHonourRanks - IndexOf(rank);
+      if (--lengths[suit] == 0) fitting &= ~WholeSuit(suit);
     }
+    return hand;
   }
 
   const Constraints& constraints_;
   RandomSource& random_;
-  Hand placed_;                // cards of the hands already built
+  CardSet placed_ = 0;         // cards of the hands already built
   PerSuit<int> firstLengths_;  // lengths chosen for the hand already built
 };
 
-/// The cards that no seat holds.
-struct Pool {
-  explicit Pool(const HandTable& hands) {
-    for (const Suit suit : kAllSuits) {
-      Holding held;
-      for (const Seat seat : kAllSeats) held = held | hands[seat][suit];
-      for (unsigned bits = (kWholeSuit - held).Bits(); bits != 0; bits &= bits - 1) {
-        cards.at(count++) = {suit, static_cast<Rank>(std::countr_zero(bits))};
-      }
-    }
+/// Four hands; the last that is not full gets the cards that are left.
+bool DealRest(std::array<CardSet, kSeats>& hands, RandomSource& random) {
+  CardSet left = kPack;
+  for (const CardSet hand : hands) left &= ~hand;
+  std::array<std::uint8_t, kCardsInPack> pool{};
+  std::uint32_t count = 0;
+  for (CardSet rest = left; rest != 0; rest &= rest - 1) {
+    pool.at(count++) = static_cast<std::uint8_t>(std::countr_zero(rest));
   }
-  std::array<Card, kCardsInPack> cards{};
-  std::size_t count = 0;
-};
+  if (count == 0) return true;
+  std::array<std::uint32_t, kSeats> places{};
+  std::uint32_t free = 0;
+  std::size_t last = 0;
+  for (std::size_t seat = 0; seat < hands.size(); ++seat) {
+    const int held = std::popcount(hands.at(seat));
+    if (held > kCardsInHand) return false;
+    places.at(seat) = static_cast<std::uint32_t>(kCardsInHand - held);
+    if (places.at(seat) > 0) last = seat;
+    free += places.at(seat);
+  }
+  if (free != count) return false;
+  // A shuffle from the front. What is left for the last seat need not be shuffled: the order of
+  // the cards within a hand makes no difference.
+  std::uint32_t next = 0;
+  for (std::size_t seat = 0; seat < last; ++seat) {
+    CardSet dealt = 0;
+    for (std::uint32_t place = places.at(seat); place > 0; --place, ++next) {
+      std::swap(pool.at(next), pool.at(next + random.Below(count - next)));
+      dealt |= SetOf(pool.at(next));
+    }
+    hands.at(seat) |= dealt;
+    left &= ~dealt;
+  }
+  hands.at(last) |= left;
+  return true;
+}
 
 }  // namespace
 
 bool Random(HandTable& hands, RandomSource& random) {
-  Pool pool(hands);
-  if (pool.count == 0) return true;
-  PerSeat<int> places;
-  int free = 0;
-  Seat lastSeat = Seat::North;  // of those with free places
-  for (const Seat seat : kAllSeats) {
-    places[seat] = kCardsInHand - CardsOf(hands[seat]);
-    if (places[seat] < 0) return false;
-    if (places[seat] > 0) lastSeat = seat;
-    free += places[seat];
-  }
-  if (free != static_cast<int>(pool.count)) return false;
-  std::size_t next = 0;
-  for (const Seat seat : kAllSeats) {
-    for (int place = 0; place < places[seat]; ++place, ++next) {
-      // A shuffle from the front. What is left for the last seat need not be shuffled: the order
-      // of the cards within a hand makes no difference.
-      if (seat != lastSeat) {
-        const auto left = static_cast<std::uint32_t>(pool.count - next);
-        std::swap(pool.cards.at(next), pool.cards.at(next + random.Below(left)));
-      }
-      AddCard(hands, pool.cards.at(next), seat);
-    }
-  }
+  std::array<CardSet, kSeats> sets{};
+  for (const Seat seat : kAllSeats) sets.at(static_cast<std::size_t>(seat)) = SetOf(hands[seat]);
+  if (!DealRest(sets, random)) return false;
+  for (const Seat seat : kAllSeats) hands[seat] = HandOf(sets.at(static_cast<std::size_t>(seat)));
   return true;
 }
 
@@ -221,7 +269,7 @@ HandTable GenerateDeal(const Constraints& constraints, Seat dealer, RandomSource
   HandBuilder builder(constraints, random);
   for (const GenHand which : kGenHands) {
     if (IndexOf(which) >= constraints.NumGenHands) break;
-    hands[SeatOf(constraints, which, dealer)] = builder.Build(which);
+    hands[SeatOf(constraints, which, dealer)] = HandOf(builder.Build(which));
   }
   Random(hands, random);
   return hands;

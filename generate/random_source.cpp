@@ -1,23 +1,24 @@
 #include "generate/random_source.h"
 
-#include <algorithm>
-#include <array>
+#include <random>
 
 namespace tricklet {
-namespace {
-
-/// 256 bits of the system's own: far more than the 96 that number all deals.
-std::mt19937_64 SeededBySystem() {
+RandomSource::RandomSource() {
   std::random_device device;
-  std::array<std::uint32_t, 8> words{};
-  std::generate(words.begin(), words.end(), [&device] { return device(); });
-  std::seed_seq seed(words.begin(), words.end());
-  return std::mt19937_64(seed);
+  for (std::uint64_t& word : state_) word = std::uint64_t{device()} << 32U | device();
+  state_[0] |= 1U;
 }
 
-}  // namespace
-
-RandomSource::RandomSource() : engine_(SeededBySystem()) {}
+RandomSource::RandomSource(std::uint64_t seed) {
+  // The four words are outputs of SplitMix64, as the authors advise: the finaliser of a counter
+  // (Steele, Lea and Flood, "Fast splittable pseudorandom number generators", 2014).
+  for (std::uint64_t& word : state_) {
+    seed += 0x9E3779B97F4A7C15U;
+    word = (seed ^ (seed >> 30U)) * 0xBF58476D1CE4E5B9U;
+    word = (word ^ (word >> 27U)) * 0x94D049BB133111EBU;
+    word ^= word >> 31U;
+  }
+}
 
 int WeightedPick(std::span<const double> weights, int low, int high, RandomSource& random) {
   if (high <= low) return low;

@@ -4,13 +4,11 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QLabel>
 #include <QTableWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 #include "ui/call_delegate.h"
-#include "ui/section.h"
 #include "ui/symbols.h"
 #include "ui/text.h"
 #include "ui/theme.h"
@@ -92,31 +90,18 @@ QTableWidget* MakeGrid(QWidget* parent) {
 }  // namespace
 
 AuctionPane::AuctionPane(QWidget* parent)
-    : QWidget(parent),
-      fraAuction_(new Section(QStringLiteral("fraAuction"), this)),
+    : Section(QStringLiteral("fraAuction"), parent),
       cmdBid(new QToolButton(this)),
-      flexBids(MakeGrid(this)),
-      lblContract(new QLabel(this)) {
-  fraAuction_->SetTitle(tr("Auction"));
+      flexBids(MakeGrid(this)) {
+  SetTitle(tr("Auction"));
   cmdBid->setObjectName(QStringLiteral("cmdBid"));
   cmdBid->setAccessibleName(tr("Show the auction"));
   cmdBid->setAutoRaise(true);
   cmdBid->setCheckable(true);
   cmdBid->setFocusPolicy(Qt::StrongFocus);
   connect(cmdBid, &QToolButton::toggled, this, &AuctionPane::Expand);
-  fraAuction_->TitleRow()->addWidget(cmdBid);
-  fraAuction_->Body()->addWidget(flexBids);
-
-  lblContract->setObjectName(QStringLiteral("lblContract"));
-  QFont large = font();
-  large.setPointSizeF(large.pointSizeF() * 1.25);
-  large.setBold(true);
-  lblContract->setFont(large);
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(10);
-  column->addWidget(fraAuction_);
-  column->addWidget(lblContract);
+  TitleRow()->addWidget(cmdBid);
+  Body()->addWidget(flexBids);
   cmdBid->setChecked(true);
 }
 
@@ -130,10 +115,10 @@ QList<QWidget*> AuctionPane::TabOrder() const {
   return {cmdBid, flexBids};
 }
 
-void AuctionPane::Show(const Session& session) {
+void AuctionPane::Show(const Session& session, const AuctionEntry* entry) {
+  flexBids->setVisible(entry != nullptr || cmdBid->isChecked());
   ShowHeads(session.board);
-  ShowCalls(session);
-  ShowContract(session);
+  ShowCalls(session, entry != nullptr ? entry->Calls() : session.board.Calls);
 }
 
 void AuctionPane::ShowHeads(const Board& board) {
@@ -152,20 +137,19 @@ void AuctionPane::ShowHeads(const Board& board) {
   }
 }
 
-void AuctionPane::ShowCalls(const Session& session) {
-  const Board& board = session.board;
-  const int offset = ColumnOf(board.Dealer());
-  const int rows = std::max(kLeastRows, (offset + board.NumCalls() + kSeats - 1) / kSeats);
+void AuctionPane::ShowCalls(const Session& session, const CallList& calls) {
+  const int offset = ColumnOf(session.board.Dealer());
+  const int rows = std::max(kLeastRows, (offset + calls.Count() + kSeats - 1) / kSeats);
   const QFont font = FontForCalls(session.settings.HGFont[1], fontMetrics());
   flexBids->clearContents();
   flexBids->setRowCount(rows);
   flexBids->setFont(font);
   const int rowHeight = QFontMetrics(font).height() + 4;
   flexBids->verticalHeader()->setDefaultSectionSize(rowHeight);
-  for (int i = 0; i < board.NumCalls(); ++i) {
-    const int place = offset + i;
-    flexBids->setItem(place / kSeats, place % kSeats,
-                      MakeCall(board.Calls[i], session.settings, palette()));
+  int place = offset;
+  for (const Call call : calls) {
+    flexBids->setItem(place / kSeats, place % kSeats, MakeCall(call, session.settings, palette()));
+    ++place;
   }
   QFont headFont = this->font();
   headFont.setBold(true);
@@ -175,20 +159,6 @@ void AuctionPane::ShowCalls(const Session& session) {
   flexBids->horizontalHeader()->setFixedHeight(headHeight);
   flexBids->setFixedHeight(headHeight + rowHeight * std::min(rows, kMostRows));
   flexBids->scrollToBottom();
-}
-
-void AuctionPane::ShowContract(const Session& session) {
-  const Board& board = session.board;
-  lblContract->setVisible(board.NumCalls() > 0);
-  QString label = ToQt(ContractLabel(board)).toHtmlEscaped();
-  if (board.ContractLevel > 0 && board.Trumps != Strain::NoTrump) {
-    // The label begins with the level and the strain's letter.
-    label = label.left(1) +
-            ColouredSymbol(ToSuit(board.Trumps), session.settings.SuitColour, palette()) +
-            label.mid(2);
-  }
-  lblContract->setText(label);
-  lblContract->setAccessibleName(ToQt(ContractLabel(board)));
 }
 
 }  // namespace tricklet::ui

@@ -1,40 +1,35 @@
-// The right column's upper part: the auction and the contract.
+// The right column's upper part: the auction.
 #pragma once
 
-#include <QWidget>
-
 #include "library/session.h"
+#include "play/auction_entry.h"
+#include "ui/section.h"
 
-class QLabel;
 class QTableWidget;
 class QToolButton;
 
 namespace tricklet::ui {
 
-class Section;
-
-/// The calls in rows of four from West to South, the dealer's first; and the contract below.
-class AuctionPane : public QWidget {
+/// The calls in rows of four from West to South, the dealer's first.
+class AuctionPane : public Section {
   Q_OBJECT
 
  public:
   explicit AuctionPane(QWidget* parent = nullptr);
 
-  void Show(const Session& session);
+  /// Shows the board's auction; while one is being entered, that one, and opens up for it.
+  void Show(const Session& session, const AuctionEntry* entry);
 
   /// The controls in the order of the tab key.
   QList<QWidget*> TabOrder() const;
 
  private:
   void ShowHeads(const Board& board);
-  void ShowCalls(const Session& session);
-  void ShowContract(const Session& session);
+  void ShowCalls(const Session& session, const CallList& calls);
   void Expand(bool expanded);
 
-  Section* fraAuction_;
   QToolButton* cmdBid;
   QTableWidget* flexBids;
-  QLabel* lblContract;
 };
 
 }  // namespace tricklet::ui

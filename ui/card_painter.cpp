@@ -9,9 +9,8 @@
 namespace tricklet::ui {
 namespace {
 
-constexpr double kCornerShare = 0.07;  // of the card's width
-const QColor kPaper(0xFF, 0xFE, 0xF9);
 const QColor kEdge(0x9A, 0x9C, 0x94);
+const QColor kShade(0x1C, 0x3A, 0x30, 120);
 
 /// A soft shadow: three rounded rectangles, each a little larger than the last.
 void DrawShadow(QPainter& painter, const QRectF& card, double radius, double reach) {
@@ -24,6 +23,16 @@ void DrawShadow(QPainter& painter, const QRectF& card, double radius, double rea
   }
 }
 
+/// Nothing yet, with room for a card and `margin` all round.
+QPixmap Transparent(const CardLook& look, double margin) {
+  const QSizeF room = (look.size + QSizeF(2 * margin, 2 * margin)) * look.pixelRatio;
+  QPixmap picture(std::max(1, static_cast<int>(std::ceil(room.width()))),
+                  std::max(1, static_cast<int>(std::ceil(room.height()))));
+  picture.setDevicePixelRatio(look.pixelRatio);
+  picture.fill(Qt::transparent);
+  return picture;
+}
+
 }  // namespace
 
 void CardPainter::SetLook(const CardLook& look) {
@@ -31,6 +40,7 @@ void CardPainter::SetLook(const CardLook& look) {
   look_ = look;
   faces_.fill(QPixmap());
   blank_ = QPixmap();
+  shade_ = QPixmap();
 }
 
 /// Room for the shadow, in whole pixels of the widget.
@@ -41,30 +51,47 @@ double CardPainter::Margin() const {
 void CardPainter::Draw(QPainter& painter, QPointF corner, Card card) {
   QPixmap& face = faces_.at(static_cast<std::size_t>(card.Index()));
   if (face.isNull()) face = Render(card);
+  DrawOnPixel(painter, corner, face);
+}
+
+void CardPainter::DrawDimmed(QPainter& painter, QPointF corner, Card card) {
+  Draw(painter, corner, card);
+  if (shade_.isNull()) shade_ = RenderShade();
+  DrawOnPixel(painter, corner, shade_);
+}
+
+void CardPainter::DrawOnPixel(QPainter& painter, QPointF corner, const QPixmap& picture) const {
   const auto onPixel = [&](double at) {
     return std::round((at - Margin()) * look_.pixelRatio) / look_.pixelRatio;
   };
-  painter.drawPixmap(QPointF(onPixel(corner.x()), onPixel(corner.y())), face);
+  painter.drawPixmap(QPointF(onPixel(corner.x()), onPixel(corner.y())), picture);
 }
 
 /// A card without print, the same for all; most of the work.
 QPixmap CardPainter::RenderBlank() const {
-  const double margin = Margin();
-  const QSizeF room = (look_.size + QSizeF(2 * margin, 2 * margin)) * look_.pixelRatio;
-  QPixmap blank(std::max(1, static_cast<int>(std::ceil(room.width()))),
-                std::max(1, static_cast<int>(std::ceil(room.height()))));
-  blank.setDevicePixelRatio(look_.pixelRatio);
-  blank.fill(Qt::transparent);
+  QPixmap blank = Transparent(look_, Margin());
   QPainter painter(&blank);
   painter.setRenderHint(QPainter::Antialiasing);
-  const QRectF body(QPointF(margin, margin), look_.size);
+  const QRectF body(QPointF(Margin(), Margin()), look_.size);
   const double radius = body.width() * kCornerShare;
-  DrawShadow(painter, body, radius, margin);
+  DrawShadow(painter, body, radius, Margin());
   const double line = std::max(1.0 / look_.pixelRatio, body.width() * 0.008);
   painter.setPen(QPen(kEdge, line));
   painter.setBrush(kPaper);
   painter.drawRoundedRect(body.adjusted(line / 2, line / 2, -line / 2, -line / 2), radius, radius);
   return blank;
+}
+
+/// Lies exactly over a card.
+QPixmap CardPainter::RenderShade() const {
+  QPixmap shade = Transparent(look_, Margin());
+  QPainter painter(&shade);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(kShade);
+  const double radius = look_.size.width() * kCornerShare;
+  painter.drawRoundedRect(QRectF(QPointF(Margin(), Margin()), look_.size), radius, radius);
+  return shade;
 }
 
 QPixmap CardPainter::Render(Card card) {

@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include <QColor>
 #include <QPainter>
 #include <QPixmap>
 #include <QSizeF>
@@ -10,6 +11,11 @@
 #include "core/holding.h"
 
 namespace tricklet::ui {
+
+/// Of a card's width.
+inline constexpr double kCornerShare = 0.07;
+/// What cards are printed on.
+inline const QColor kPaper(0xFF, 0xFE, 0xF9);
 
 /// All that the picture of a card depends on, besides the card.
 struct CardLook {
@@ -26,14 +32,19 @@ class CardPainter {
   void SetLook(const CardLook& look);
   /// Draws the card, and a slight shadow round it, with its upper left corner at `corner`.
   void Draw(QPainter& painter, QPointF corner, Card card);
+  /// The same, in the shade: a card that cannot be played.
+  void DrawDimmed(QPainter& painter, QPointF corner, Card card);
 
  private:
+  void DrawOnPixel(QPainter& painter, QPointF corner, const QPixmap& picture) const;
   QPixmap RenderBlank() const;
+  QPixmap RenderShade() const;
   QPixmap Render(Card card);
   double Margin() const;
 
   CardLook look_;
   QPixmap blank_;
+  QPixmap shade_;
   std::array<QPixmap, kCardsInPack> faces_;
 };
 

@@ -13,20 +13,23 @@
 #include "library/board_store.h"
 #include "library/library_store.h"
 #include "library/start_up.h"
+#include "ui/frmBidding.h"
 #include "ui/frmExport.h"
 #include "ui/frmOptions.h"
 #include "ui/name_filter.h"
+#include "ui/play_control.h"
 #include "ui/text.h"
 #include "ui/theme.h"
 
 namespace tricklet::ui {
 
-Commands::Commands(Session& session, QWidget* window)
-    : QObject(window), session_(session), window_(window) {}
+Commands::Commands(Session& session, PlayControl& play, QWidget* window)
+    : QObject(window), session_(session), play_(play), window_(window) {}
 
+/// False when another command is running, and nothing was done.
 template <class Procedure>
-void Commands::Run(const Procedure& procedure) {
-  if (running_) return;
+bool Commands::Attempt(const Procedure& procedure) {
+  if (running_) return false;
   running_ = true;
   try {
     procedure();
@@ -34,7 +37,12 @@ void Commands::Run(const Procedure& procedure) {
     ErrorReport(session_.host, FaultFrom(failure));
   }
   running_ = false;
-  emit Done();
+  return true;
+}
+
+template <class Procedure>
+void Commands::Run(const Procedure& procedure) {
+  if (Attempt(procedure)) emit Done();
 }
 
 void Commands::Import() {
@@ -142,6 +150,48 @@ void Commands::PasteHand() {
 
 void Commands::ClearBoard() {
   Run([this] { tricklet::ClearBoard(session_); });
+}
+
+void Commands::Bidding() {
+  Run([this] { EnterAuction(); });
+}
+
+void Commands::EnterAuction() {
+  frmBidding dialog(session_, window_);
+  connect(&dialog, &frmBidding::AuctionChanged, this, &Commands::AuctionChanged);
+  auction_ = &dialog.Entry();
+  emit AuctionChanged();
+  emit AuctionOpened(&dialog);
+  dialog.exec();
+  auction_ = nullptr;
+  emit AuctionChanged();
+}
+
+void Commands::PlayOrStop() {
+  Run([this] {
+    if (session_.board.PlayMode) {
+      play_.Stop();
+      return;
+    }
+    if (CardPlay::NeedsAuction(session_.board)) EnterAuction();
+    if (play_.Start()) emit PlayStarted();
+  });
+}
+
+void Commands::PlayCard(Card card) {
+  Attempt([&] { play_.PlayCard(card); });
+}
+void Commands::PlayOnlyCard() {
+  Attempt([this] { play_.PlayOnlyCard(); });
+}
+void Commands::UndoCard() {
+  Attempt([this] { play_.Undo(); });
+}
+void Commands::Claim() {
+  Attempt([this] { play_.Claim(); });
+}
+void Commands::QuitTrick() {
+  Attempt([this] { play_.QuitTrick(); });
 }
 
 void Commands::Toggle(bool Settings::*setting, std::string_view key) {

@@ -7,11 +7,19 @@
 #include <QObject>
 #include <QPointer>
 
+#include "core/holding.h"
 #include "library/session.h"
 
 class QWidget;
 
+namespace tricklet {
+class AuctionEntry;
+}
+
 namespace tricklet::ui {
+
+class PlayControl;
+class frmBidding;
 
 /// The routes from menus, keys, panes and drops to the engine's procedures. Each command runs to
 /// its end and is followed by `Done`, whatever came of it; a command that is asked for while
@@ -21,7 +29,10 @@ class Commands : public QObject {
 
  public:
   /// Dialogs stand over `window`.
-  Commands(Session& session, QWidget* window);
+  Commands(Session& session, PlayControl& play, QWidget* window);
+
+  /// The auction that is being entered; nullptr while the auction dialog is closed.
+  const AuctionEntry* Auction() const { return auction_; }
 
   void Import();
   void ImportFiles(const std::vector<std::filesystem::path>& files);
@@ -46,6 +57,16 @@ class Commands : public QObject {
   void PasteHand();
   void ClearBoard();
 
+  void Bidding();
+  /// Starts the play, after the auction dialog where there is no auction yet; or leaves it.
+  void PlayOrStop();
+  // Followed by the play's `Changed` instead of `Done`.
+  void PlayCard(Card card);
+  void PlayOnlyCard();
+  void UndoCard();
+  void Claim();
+  void QuitTrick();
+
   /// Turns a switch of the settings over and stores it.
   void Toggle(bool Settings::*setting, std::string_view key);
   void SetColourScheme(int scheme);
@@ -57,13 +78,23 @@ class Commands : public QObject {
 
  signals:
   void Done();
+  /// Before the auction dialog appears.
+  void AuctionOpened(frmBidding* dialog);
+  /// `Auction` has other calls than before, or is over.
+  void AuctionChanged();
+  void PlayStarted();
 
  private:
   template <class Procedure>
+  bool Attempt(const Procedure& procedure);
+  template <class Procedure>
   void Run(const Procedure& procedure);
+  void EnterAuction();
   void OpenDocument(const QString& fileName);
 
   Session& session_;
+  PlayControl& play_;
+  const AuctionEntry* auction_ = nullptr;
   QPointer<QWidget> window_;
   std::filesystem::path exportPath_;  // of the last export, where the next one begins
   bool running_ = false;

@@ -74,17 +74,13 @@ LibraryPane::LibraryPane(Session& session, QWidget* parent)
     : QWidget(parent),
       session_(session),
       fraLibrary(new Section(QStringLiteral("fraLibrary"), this)),
-      boards_(new BoardListModel(this)),
-      fraBoard_(new Section(QStringLiteral("fraBoard"), this)) {
+      boards_(new BoardListModel(this)) {
   BuildLibrary(session);
   BuildBoard();
-  BuildCommands();
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(10);
   column->addWidget(fraLibrary);
-  column->addWidget(MakeSeparator(this));
-  column->addWidget(fraBoard_);
 }
 
 void LibraryPane::BuildLibrary(Session& session) {
@@ -155,20 +151,8 @@ void LibraryPane::BuildBoard() {
   fraLibrary->Body()->addLayout(highest);
 }
 
-void LibraryPane::BuildCommands() {
-  cmdSave = new QPushButton(tr("Save"), this);
-  cmdSave->setObjectName(QStringLiteral("cmdSave"));
-  cmdSave->setToolTip(tr("Write the board to its library"));
-  connect(cmdSave, &QPushButton::clicked, this, &LibraryPane::SaveAsked);
-  auto* grid = new QGridLayout;
-  grid->setColumnStretch(0, 1);
-  grid->setColumnStretch(1, 1);
-  grid->addWidget(cmdSave, 0, 0);
-  fraBoard_->Body()->addLayout(grid);
-}
-
 QList<QWidget*> LibraryPane::TabOrder() const {
-  return {cmbLibs, cmdChange, lblPrevious, cmbBoard, lblNext, cmbMaxBoard, cmdSave};
+  return {cmbLibs, cmdChange, lblPrevious, cmbBoard, lblNext, cmbMaxBoard};
 }
 
 void LibraryPane::Show(const Session& session) {
@@ -184,12 +168,15 @@ void LibraryPane::Show(const Session& session) {
   const bool steps = session.library.MaxBoard > 0;
   lblPrevious->setEnabled(steps);
   lblNext->setEnabled(steps);
+}
 
-  const Board& board = session.board;
-  fraBoard_->SetTitle(
-      tr("Dealer %1 · %2")
-          .arg(ToQt(SeatName[board.Dealer()]), ToQt(VulShort[board.Vulnerability()])));
-  cmdSave->setEnabled(board.HandChanged);
+void LibraryPane::OfferNext(bool offer) {
+  QPalette colours;
+  if (offer) {
+    colours.setBrush(QPalette::Button, palette().brush(QPalette::Highlight));
+    colours.setBrush(QPalette::ButtonText, palette().brush(QPalette::HighlightedText));
+  }
+  if (lblNext->palette() != colours) lblNext->setPalette(colours);
 }
 
 void LibraryPane::ShowNames(const Session& session) {

@@ -1,4 +1,4 @@
-// The left column's upper part: library, board, and what can be done with the board.
+// The left column's upper part: library and board.
 #pragma once
 
 #include <QWidget>
@@ -26,6 +26,9 @@ class LibraryPane : public QWidget {
 
   void Show(const Session& session);
 
+  /// Makes the way to the next board stand out, or not.
+  void OfferNext(bool offer);
+
   /// Puts the cursor into `cmbLibs`, ready for the name of a new library.
   void BeginNewLibrary();
 
@@ -38,12 +41,10 @@ class LibraryPane : public QWidget {
   void BoardChosen(int boardNumber);
   void HighestChosen(int boardNumber);
   void StepAsked(bool backward);
-  void SaveAsked();
 
  private:
   void BuildLibrary(Session& session);
   void BuildBoard();
-  void BuildCommands();
   void ShowNames(const Session& session);
   void NameTyped(const QString& text);
 
@@ -57,8 +58,6 @@ class LibraryPane : public QWidget {
   QToolButton* lblNext;
   QComboBox* cmbMaxBoard;
   BoardListModel* boards_;
-  Section* fraBoard_;
-  QPushButton* cmdSave;
 };
 
 }  // namespace tricklet::ui

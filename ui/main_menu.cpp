@@ -10,6 +10,7 @@
 #include <QMenuBar>
 
 #include "ui/commands.h"
+#include "ui/play_control.h"
 #include "ui/text.h"
 
 namespace tricklet::ui {
@@ -19,6 +20,7 @@ MainMenu::MainMenu(QMainWindow& window, Commands& commands)
   BuildFile();
   BuildLibrary();
   BuildBoard();
+  BuildPlay();
   BuildView();
   BuildOptionsAndHelp();
   window_.addActions(actions_);
@@ -90,8 +92,20 @@ void MainMenu::BuildBoard() {
   pasteHand_ =
       Add(menu, "mnuPasteHand", tr("&Paste board"), {QKeySequence::Paste}, &Commands::PasteHand);
   menu->addSeparator();
-  Add(menu, "mnuClearBoard", tr("Clea&r board"), {QKeySequence(tr("Ctrl+Shift+Del"))},
-      &Commands::ClearBoard);
+  clearBoard_ = Add(menu, "mnuClearBoard", tr("Clea&r board"), {QKeySequence(tr("Ctrl+Shift+Del"))},
+                    &Commands::ClearBoard);
+}
+
+void MainMenu::BuildPlay() {
+  QMenu* menu = AddMenu(tr("&Play"));
+  bidding_ =
+      Add(menu, "mnuBidding", tr("&Bidding..."), {QKeySequence(tr("Ctrl+B"))}, &Commands::Bidding);
+  menu->addSeparator();
+  play_ = Add(menu, "mnuPlay", tr("&Play"), {QKeySequence(tr("Ctrl+P"))}, &Commands::PlayOrStop);
+  undoCard_ = Add(menu, "mnuUndoCard", tr("&Undo card"), {QKeySequence::Undo}, &Commands::UndoCard);
+  gatherTrick_ = Add(menu, "mnuGatherTrick", tr("&Gather trick"), {QKeySequence(tr("Ctrl+Return"))},
+                     &Commands::QuitTrick);
+  claim_ = Add(menu, "mnuClaim", tr("&Claim"), {QKeySequence(tr("Ctrl+L"))}, &Commands::Claim);
 }
 
 void MainMenu::BuildView() {
@@ -137,14 +151,28 @@ void MainMenu::BuildOptionsAndHelp() {
   Add(help, "mnuAbout", tr("&About Tricklet"), {QKeySequence(tr("Ctrl+F1"))}, &Commands::About);
 }
 
-void MainMenu::Show(const Session& session) {
+void MainMenu::Show(const Session& session, const PlayControl& play) {
   for (QAction* action : actions_) action->setEnabled(enabled_);
+  const bool editable = enabled_ && !play.UnderWay();
   save_->setEnabled(enabled_ && session.board.HandChanged);
-  pasteHand_->setEnabled(enabled_ && !session.CopyLibrary.empty());
+  pasteHand_->setEnabled(editable && !session.CopyLibrary.empty());
+  clearBoard_->setEnabled(editable);
+  bidding_->setEnabled(editable);
+  ShowPlay(play);
   statistics_->setChecked(session.settings.ShowStats);
   makeable_->setChecked(session.settings.ShowMakeable);
   cardFaces_->setChecked(session.settings.CardsFaces);
   colours_->actions().at(session.settings.ColourScheme)->setChecked(true);
+}
+
+void MainMenu::ShowPlay(const PlayControl& play) {
+  const bool on = play.Play().PlayMode();
+  play_->setText(on ? tr("Stop &play") : tr("&Play"));
+  play_->setEnabled(enabled_ && (on || play.CanStart()));
+  undoCard_->setEnabled(enabled_ && play.Play().UndoEnabled());
+  claim_->setText(on ? ToQt(play.Play().ClaimCaption()) : tr("&Claim"));
+  claim_->setEnabled(enabled_ && play.Play().ClaimEnabled());
+  gatherTrick_->setEnabled(enabled_ && play.TrickComplete());
 }
 
 void MainMenu::SetEnabled(bool enabled) {

@@ -15,6 +15,7 @@ class QMenu;
 namespace tricklet::ui {
 
 class Commands;
+class PlayControl;
 
 /// Builds the menu bar. Its keys work while the menu bar is hidden too.
 class MainMenu : public QObject {
@@ -24,7 +25,7 @@ class MainMenu : public QObject {
   MainMenu(QMainWindow& window, Commands& commands);
 
   /// Sets what is enabled and checked.
-  void Show(const Session& session);
+  void Show(const Session& session, const PlayControl& play);
 
   /// Off while long work runs: no command can be given then.
   void SetEnabled(bool enabled);
@@ -45,9 +46,11 @@ class MainMenu : public QObject {
   void BuildFile();
   void BuildLibrary();
   void BuildBoard();
+  void BuildPlay();
   void BuildView();
   void BuildColours(QMenu* view);
   void BuildOptionsAndHelp();
+  void ShowPlay(const PlayControl& play);
 
   QMainWindow& window_;
   Commands& commands_;
@@ -56,6 +59,12 @@ class MainMenu : public QObject {
 
   QAction* save_ = nullptr;
   QAction* pasteHand_ = nullptr;
+  QAction* clearBoard_ = nullptr;
+  QAction* bidding_ = nullptr;
+  QAction* play_ = nullptr;
+  QAction* undoCard_ = nullptr;
+  QAction* claim_ = nullptr;
+  QAction* gatherTrick_ = nullptr;
   QAction* statistics_ = nullptr;
   QAction* makeable_ = nullptr;
   QAction* cardFaces_ = nullptr;

@@ -1,5 +1,8 @@
 #include "ui/main_window.h"
 
+#include <algorithm>
+#include <optional>
+
 #include <QAction>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
@@ -8,20 +11,24 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
-#include <QScrollArea>
 #include <QStatusBar>
 #include <QUrl>
 #include <QVBoxLayout>
 
 #include "library/library_store.h"
 #include "ui/auction_pane.h"
+#include "ui/board_pane.h"
 #include "ui/commands.h"
+#include "ui/contract_pane.h"
+#include "ui/frmBidding.h"
 #include "ui/later.h"
 #include "ui/library_pane.h"
 #include "ui/main_menu.h"
 #include "ui/makeable_pane.h"
+#include "ui/play_control.h"
 #include "ui/progress_frame.h"
 #include "ui/section.h"
+#include "ui/side_column.h"
 #include "ui/statistics_pane.h"
 #include "ui/table_view.h"
 #include "ui/text.h"
@@ -35,26 +42,25 @@ constexpr double kRightWidth = 19;
 /// Round the panes, and between them.
 constexpr int kMargin = 10;
 
+/// About as high as the title bar of a dialog.
+constexpr int kFrameHeight = 40;
+
 constexpr std::string_view kPlaceSection = "Window";
 constexpr std::string_view kPlaceKey = "Geometry";
-
-/// Room kept while hidden, so that the window does not change its shape during work.
-void KeepRoom(QWidget* widget) {
-  QSizePolicy policy = widget->sizePolicy();
-  policy.setRetainSizeWhenHidden(true);
-  widget->setSizePolicy(policy);
-}
 
 }  // namespace
 
 MainWindow::MainWindow(Session& session)
     : session_(session),
-      commands_(new Commands(session, this)),
+      play_(new PlayControl(session, this)),
+      commands_(new Commands(session, *play_, this)),
       menu_(new MainMenu(*this, *commands_)),
       library_(new LibraryPane(session)),
+      board_(new BoardPane(*commands_)),
       statistics_(new StatisticsPane),
       table_(new TableView),
       auction_(new AuctionPane),
+      contract_(new ContractPane(*commands_)),
       makeable_(new MakeablePane),
       progress_(new ProgressFrame) {
   setObjectName(QStringLiteral("frmMain"));
@@ -68,8 +74,9 @@ MainWindow::MainWindow(Session& session)
 }
 
 void MainWindow::LayOut() {
-  left_ = MakeColumn(QStringLiteral("colLeft"), {library_, statistics_}, kLeftWidth);
-  right_ = MakeColumn(QStringLiteral("colRight"), {auction_, makeable_}, kRightWidth);
+  left_ = new SideColumn(QStringLiteral("colLeft"), {library_, board_, statistics_}, kLeftWidth);
+  right_ =
+      new SideColumn(QStringLiteral("colRight"), {auction_, contract_, makeable_}, kRightWidth);
   table_->setObjectName(QStringLiteral("picTable"));
   table_->setAccessibleName(tr("Table"));
   table_->setFocusPolicy(Qt::StrongFocus);
@@ -87,26 +94,6 @@ void MainWindow::LayOut() {
   column->addLayout(row, 1);
   column->addWidget(progress_);
   setCentralWidget(centre);
-}
-
-QScrollArea* MainWindow::MakeColumn(const QString& name, const QList<QWidget*>& panes,
-                                    double width) {
-  auto* content = new QWidget;
-  auto* column = new QVBoxLayout(content);
-  column->setContentsMargins(2, 2, 2, 2);
-  column->setSpacing(12);
-  for (QWidget* pane : panes) column->addWidget(pane);
-  column->addStretch(1);
-  auto* area = new QScrollArea(this);
-  area->setObjectName(name);
-  area->setFrameShape(QFrame::NoFrame);
-  area->setWidgetResizable(true);
-  area->setFocusPolicy(Qt::NoFocus);
-  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  area->setFixedWidth(static_cast<int>(fontMetrics().height() * width));
-  area->setWidget(content);
-  KeepRoom(area);
-  return area;
 }
 
 void MainWindow::BuildStatusLine() {
@@ -128,7 +115,6 @@ void MainWindow::Connect() {
   connect(library_, &LibraryPane::BoardChosen, commands_, &Commands::SelectBoard);
   connect(library_, &LibraryPane::HighestChosen, commands_, &Commands::SetMaxBoard);
   connect(library_, &LibraryPane::StepAsked, commands_, &Commands::StepBoard);
-  connect(library_, &LibraryPane::SaveAsked, commands_, &Commands::Save);
   connect(menu_, &MainMenu::NewLibraryAsked, library_, &LibraryPane::BeginNewLibrary);
   connect(menu_, &MainMenu::PresentationAsked, this, [this] { SetPresentation(!presentation_); });
   connect(progress_, &ProgressFrame::Begun, this, [this] { SetWorking(true); });
@@ -139,21 +125,33 @@ void MainWindow::Connect() {
   leavePresentation_->setEnabled(false);
   connect(leavePresentation_, &QAction::triggered, this, [this] { SetPresentation(false); });
   addAction(leavePresentation_);
+  ConnectPlay();
+}
+
+void MainWindow::ConnectPlay() {
+  connect(commands_, &Commands::AuctionOpened, this, &MainWindow::PlaceBesideAuction);
+  connect(commands_, &Commands::AuctionChanged, this, &MainWindow::DisplayAuction);
+  connect(commands_, &Commands::PlayStarted, table_, qOverload<>(&QWidget::setFocus));
+  connect(play_, &PlayControl::Changed, this, &MainWindow::DisplayPlay);
+  connect(table_, &TableView::CardAsked, commands_, &Commands::PlayCard);
+  connect(table_, &TableView::OnlyCardAsked, commands_, &Commands::PlayOnlyCard);
+  connect(table_, &TableView::TrickAsked, commands_, &Commands::QuitTrick);
 }
 
 void MainWindow::SetTabOrder() {
-  const QList<QWidget*> order =
-      library_->TabOrder() + QList<QWidget*>{table_} + auction_->TabOrder() + makeable_->TabOrder();
+  const QList<QWidget*> order = library_->TabOrder() + board_->TabOrder() +
+                                QList<QWidget*>{table_} + auction_->TabOrder() +
+                                contract_->TabOrder() + makeable_->TabOrder();
   for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order.at(i - 1), order.at(i));
 }
 
 void MainWindow::Display() {
-  menu_->Show(session_);
+  play_->Follow();
   library_->Show(session_);
+  board_->Show(session_.board);
   statistics_->Show(session_);
-  table_->Show(session_.board, session_.settings);
-  auction_->Show(session_);
   makeable_->Show(session_);
+  DisplayAuction();
   const Board& board = session_.board;
   setWindowTitle(tr("%1 - Board %2[*] - Tricklet")
                      .arg(ToQt(session_.LibraryName()), QString::number(board.BoardNumber)));
@@ -161,6 +159,33 @@ void MainWindow::Display() {
   status_->setText(board.HandChanged
                        ? tr("Board %1 has changes that are not saved").arg(board.BoardNumber)
                        : tr("Ready"));
+}
+
+void MainWindow::DisplayAuction() {
+  auction_->Show(session_, commands_->Auction());
+  ShowColumns();
+  DisplayPlay();
+}
+
+/// What a card more or less on the table changes.
+void MainWindow::DisplayPlay() {
+  if (progress_->IsWorking()) return;
+  const AuctionEntry* entry = commands_->Auction();
+  menu_->Show(session_, *play_);
+  board_->ShowPlay(*play_);
+  library_->OfferNext(play_->Play().Finished());
+  contract_->Show(session_, play_->Play(), entry != nullptr);
+  const bool playing = entry == nullptr && session_.board.PlayMode;
+  table_->Show(session_.board, session_.settings, playing ? &play_->Play() : nullptr,
+               entry != nullptr && !entry->Over() ? std::optional(entry->ToCall()) : std::nullopt);
+}
+
+/// The lower left corner: there it covers neither the auction nor the middle of the table.
+void MainWindow::PlaceBesideAuction(QWidget* dialog) {
+  dialog->adjustSize();
+  const QPoint corner = mapToGlobal(QPoint(kMargin, height() - dialog->height() - kFrameHeight));
+  const QRect room = screen()->availableGeometry();
+  dialog->move(std::max(corner.x(), room.left()), std::max(corner.y(), room.top()));
 }
 
 void MainWindow::ImportFiles(const std::vector<std::filesystem::path>& files) {
@@ -179,21 +204,17 @@ void MainWindow::SetWorking(bool working) {
 
 void MainWindow::ShowColumns() {
   const bool working = progress_->IsWorking();
-  KeepRoom(table_);
+  KeepRoom(table_, true);
   table_->setVisible(!working);
   left_->setVisible(!presentation_);
-  right_->setVisible(!presentation_ && !working);
+  right_->setVisible((!presentation_ || commands_->Auction() != nullptr) && !working);
 }
 
 void MainWindow::SetPresentation(bool on) {
   if (presentation_ == on) return;
   presentation_ = on;
   leavePresentation_->setEnabled(on);
-  for (QWidget* side : {left_, right_}) {
-    QSizePolicy policy = side->sizePolicy();
-    policy.setRetainSizeWhenHidden(!on);
-    side->setSizePolicy(policy);
-  }
+  for (QWidget* side : {left_, right_}) KeepRoom(side, !on);
   const int margin = on ? 0 : kMargin;
   centralWidget()->layout()->setContentsMargins(margin, margin, margin, margin);
   menuBar()->setVisible(!on);

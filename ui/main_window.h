@@ -9,16 +9,19 @@
 #include "library/session.h"
 
 class QLabel;
-class QScrollArea;
 
 namespace tricklet::ui {
 
 class AuctionPane;
+class BoardPane;
 class Commands;
+class ContractPane;
 class LibraryPane;
 class MainMenu;
 class MakeablePane;
+class PlayControl;
 class ProgressFrame;
+class SideColumn;
 class StatisticsPane;
 class TableView;
 
@@ -53,23 +56,29 @@ class MainWindow : public QMainWindow {
  private:
   void LayOut();
   void Connect();
+  void ConnectPlay();
+  void DisplayAuction();
+  void DisplayPlay();
+  void PlaceBesideAuction(QWidget* dialog);
   void SetTabOrder();
   void BuildStatusLine();
   void SetWorking(bool working);
   void ShowColumns();
-  QScrollArea* MakeColumn(const QString& name, const QList<QWidget*>& panes, double width);
 
   Session& session_;
+  PlayControl* play_;
   Commands* commands_;
   MainMenu* menu_;
   LibraryPane* library_;
+  BoardPane* board_;
   StatisticsPane* statistics_;
   TableView* table_;
   AuctionPane* auction_;
+  ContractPane* contract_;
   MakeablePane* makeable_;
   ProgressFrame* progress_;
-  QScrollArea* left_ = nullptr;
-  QScrollArea* right_ = nullptr;
+  SideColumn* left_ = nullptr;
+  SideColumn* right_ = nullptr;
   QLabel* status_ = nullptr;
   QAction* leavePresentation_ = nullptr;
   bool presentation_ = false;

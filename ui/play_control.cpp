@@ -1,8 +1,10 @@
 #include "ui/play_control.h"
 
+#include "core/statistics.h"
+
 namespace tricklet::ui {
 
-QtTrickTimer::QtTrickTimer(QObject* parent) : QObject(parent) {
+QtTrickTimer::QtTrickTimer(QObject* parent) : QObject(parent), timQuit(this) {
   timQuit.setObjectName(QStringLiteral("timQuit"));
   timQuit.setSingleShot(true);
   connect(&timQuit, &QTimer::timeout, this, &QtTrickTimer::Elapsed);
@@ -17,8 +19,16 @@ void QtTrickTimer::Stop() {
 }
 
 PlayControl::PlayControl(Session& session, QObject* parent)
-    : QObject(parent), session_(session), play_(session.board, session.host, timer_) {
+    : QObject(parent), session_(session), timer_(this), play_(session.board, session.host, timer_) {
   connect(&timer_, &QtTrickTimer::Elapsed, this, &PlayControl::QuitTrick);
+}
+
+bool PlayControl::CanStart() const {
+  return GetStats(session_.board.Hands).AllHandsComplete;
+}
+
+bool PlayControl::TrickComplete() const {
+  return play_.PlayMode() && play_.Now().CardsInTrick == 0 && !play_.Now().TrickGathered;
 }
 
 bool PlayControl::Start() {
@@ -58,6 +68,10 @@ void PlayControl::Claim() {
 void PlayControl::QuitTrick() {
   play_.QuitTrick();
   emit Changed();
+}
+
+void PlayControl::Follow() {
+  if (!play_.PlayMode()) timer_.Stop();
 }
 
 }  // namespace tricklet::ui

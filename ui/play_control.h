@@ -36,6 +36,13 @@ class PlayControl : public QObject {
   /// What is to be shown; its `PlayMode` says whether there is a play at all.
   const CardPlay& Play() const { return play_; }
 
+  /// All four hands are complete: there is something to play.
+  bool CanStart() const;
+  /// Cards are still to be played: nothing else is done with the board meanwhile.
+  bool UnderWay() const { return play_.PlayMode() && !play_.Finished(); }
+  /// A finished trick lies on the table, to be gathered.
+  bool TrickComplete() const;
+
   /// `cmdPlay`, after the auction dialog where `CardPlay::NeedsAuction` asks for it. False when the
   /// board cannot be played.
   bool Start();
@@ -48,6 +55,9 @@ class PlayControl : public QObject {
   void Claim();
   /// Gathers a finished trick without waiting for the clock.
   void QuitTrick();
+  /// To be called when the board in hand may be another one, or changed: the clock of a play that
+  /// has ended by that runs no longer.
+  void Follow();
 
  signals:
   void Changed();

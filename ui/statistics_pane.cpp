@@ -64,9 +64,10 @@ StatisticsPane::StatisticsPane(QWidget* parent) : Section(QStringLiteral("fraSta
 }
 
 void StatisticsPane::Show(const Session& session) {
-  setVisible(session.settings.ShowStats && HasCards(session.board.Hands));
+  const Board& board = session.board;
+  setVisible(session.settings.ShowStats && HasCards(board.Hands) && !board.PlayMode);
   if (isHidden()) return;
-  const Statistics statistics = GetStats(session.board.Hands);
+  const Statistics statistics = GetStats(board.Hands);
   for (const Suit suit : kAllSuits) {
     symbols_[suit]->setText(ColouredSymbol(suit, session.settings.SuitColour, palette()));
   }

@@ -7,7 +7,7 @@
 
 namespace tricklet::ui {
 
-/// Visible only when the statistics are switched on and the board holds cards.
+/// Visible only when the statistics are switched on, the board holds cards and is not being played.
 class StatisticsPane : public Section {
   Q_OBJECT
 

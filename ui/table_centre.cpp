@@ -1,6 +1,7 @@
 #include "ui/table_centre.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include <QCoreApplication>
 #include <QFontMetricsF>
@@ -28,13 +29,16 @@ QString SeatLetter(Seat seat) {
   }
 }
 
+/// Where the dealer's disc goes.
+enum class DiscSide : std::uint8_t { Left, Right, Below };
+
 /// The mark of one seat: a badge, red where vulnerable, and the dealer's disc beside it.
 class SeatMark {
  public:
-  SeatMark(const Board& board, Seat seat, const QFont& font, double unit)
+  SeatMark(const Board& board, Seat seat, const QFont& font, double unit, DiscSide discSide)
       : vulnerable_(IsVulnerable(board.Vulnerability(), SideOf(seat))),
         dealer_(board.Dealer() == seat),
-        discOnLeft_(seat == Seat::East),
+        discSide_(discSide),
         text_(SeatLetter(seat)),
         font_(font),
         unit_(unit) {
@@ -62,8 +66,10 @@ class SeatMark {
     painter.drawText(badge, Qt::AlignCenter, text_);
     if (!dealer_) return;
     QRectF disc(0, 0, 1.35 * unit_, 1.35 * unit_);
-    const double away = badge_.width() / 2 + 0.3 * unit_ + disc.width() / 2;
-    disc.moveCenter({middle.x() + (discOnLeft_ ? -away : away), middle.y()});
+    const double across = badge_.width() / 2 + 0.3 * unit_ + disc.width() / 2;
+    const double down = badge_.height() / 2 + 0.2 * unit_ + disc.height() / 2;
+    const QPointF away = discSide_ == DiscSide::Below ? QPointF(0, down) : QPointF(across, 0);
+    disc.moveCenter(discSide_ == DiscSide::Left ? middle - away : middle + away);
     DrawDisc(painter, disc);
   }
 
@@ -79,7 +85,7 @@ class SeatMark {
 
   bool vulnerable_;
   bool dealer_;
-  bool discOnLeft_;
+  DiscSide discSide_;
   QString text_;
   QFont font_;
   double unit_;
@@ -103,16 +109,51 @@ void DrawLines(QPainter& painter, const QRectF& room, const QStringList& lines, 
   }
 }
 
-}  // namespace
-
-void DrawCentre(QPainter& painter, const QRectF& panel, const Board& board,
-                const TableColours& colours, const QFont& font) {
+void DrawPanel(QPainter& painter, const QRectF& panel, const TableColours& colours) {
   painter.setPen(QPen(colours.line, 1));
   painter.setBrush(colours.centre);
   painter.drawRoundedRect(panel.adjusted(0.5, 0.5, -0.5, -0.5), 12, 12);
+}
 
+/// Size of the marks during play, and the bands that they keep to.
+double PlayUnit(const QRectF& panel) {
+  return std::clamp(std::min(panel.width(), panel.height()) * 0.06, 8.0, 32.0);
+}
+QSizeF PlayBands(const QRectF& panel) {
+  return QSizeF(2.9, 1.75) * PlayUnit(panel);
+}
+
+}  // namespace
+
+QRectF TrickRoom(const QRectF& panel) {
+  const QSizeF bands = PlayBands(panel);
+  return panel.adjusted(bands.width(), bands.height(), -bands.width(), -bands.height());
+}
+
+void DrawCentreInPlay(QPainter& painter, const QRectF& panel, const Board& board,
+                      const TableColours& colours, const QFont& font) {
+  DrawPanel(painter, panel, colours);
+  const double unit = PlayUnit(panel);
+  const QPointF middle = panel.center();
+  const double across = PlayBands(panel).width() / 2;
+  const double down = PlayBands(panel).height() / 2;
+  const auto draw = [&](Seat seat, QPointF place, DiscSide discSide) {
+    SeatMark(board, seat, font, unit, discSide).Draw(painter, place, colours);
+  };
+  draw(Seat::North, {middle.x(), panel.top() + down}, DiscSide::Right);
+  draw(Seat::South, {middle.x(), panel.bottom() - down}, DiscSide::Right);
+  draw(Seat::West, {panel.left() + across, middle.y()}, DiscSide::Below);
+  draw(Seat::East, {panel.right() - across, middle.y()}, DiscSide::Below);
+}
+
+void DrawCentre(QPainter& painter, const QRectF& panel, const Board& board,
+                const TableColours& colours, const QFont& font) {
+  DrawPanel(painter, panel, colours);
   const double unit = std::clamp(std::min(panel.width(), panel.height()) * 0.095, 5.0, 48.0);
-  const auto mark = [&](Seat seat) { return SeatMark(board, seat, font, unit); };
+  const auto mark = [&](Seat seat) {
+    const DiscSide discSide = seat == Seat::East ? DiscSide::Left : DiscSide::Right;
+    return SeatMark(board, seat, font, unit, discSide);
+  };
   const SeatMark north = mark(Seat::North);
   const SeatMark east = mark(Seat::East);
   const SeatMark south = mark(Seat::South);

@@ -9,7 +9,6 @@ namespace {
 // Proportions of a card of poker size, 63 x 88 mm.
 constexpr double kCardAspect = 1.4;  // height to width
 // Lengths in cards' widths.
-constexpr double kFanStep = 0.6;        // North and South, where there is room
 constexpr double kRowStepAcross = 0.5;  // West and East, where there is room
 constexpr double kLeastStep = 0.27;     // the index still shows
 constexpr double kLeastSide = 2.7;      // West and East

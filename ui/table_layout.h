@@ -19,6 +19,9 @@ namespace tricklet::ui {
 /// The suits of a hand from left to right (or top to bottom) in alternating colours.
 inline constexpr std::array kTableSuits{Suit::Spades, Suit::Hearts, Suit::Clubs, Suit::Diamonds};
 
+/// From one card of North's and South's fans to the next, in cards' widths, where there is room.
+inline constexpr double kFanStep = 0.6;
+
 enum class HandDisplay : std::uint8_t { Cards, Text };
 
 struct PlacedCard {

@@ -24,6 +24,9 @@ TableColours ColoursFor(const QPalette& palette);
 /// White on it, and it on felt, can be told apart.
 inline const QColor kVulnerableRed(0xC8, 0x20, 0x2F);
 inline const QColor kDealerYellow(0xFF, 0xDD, 0x55);
+/// Behind the captions of the hand on play and of the player to call; black on them can be read.
+inline const QColor kOnPlayYellow(0xFF, 0xE0, 0x55);
+inline const QColor kToCallCyan(0x2E, 0xE6, 0xE6);
 
 /// `font` at the largest size in pixels, up to `mostPixels`, at which each of `texts` fits into
 /// `room`; never below 5 pixels.

@@ -6,6 +6,7 @@
 
 #include "ui/card_glyphs.h"
 #include "ui/table_words.h"
+#include "ui/text.h"
 #include "ui/theme.h"
 
 namespace tricklet::ui {
@@ -41,6 +42,33 @@ bool Fits(const TableLayout& layout, const TextMeasures& measures, const HandTab
     const QRectF& area = layout.hands[seat].area;
     return size.width() <= area.width() && size.height() <= area.height();
   });
+}
+
+QColor InkOf(const Settings& settings, const QPalette& palette) {
+  return ReadableOn(palette.color(QPalette::Base),
+                    ToColour(settings.HGFont[0].Forecolour, palette));
+}
+
+/// Room for the ranks of `suit`.
+QRectF LineOf(const QRectF& panel, const TextMeasures& measures, Suit suit) {
+  return {panel.left() + Padding(measures) + measures.symbolWidth,
+          panel.top() + Padding(measures) / 2 + IndexOf(suit) * measures.lineHeight, panel.width(),
+          measures.lineHeight};
+}
+
+/// The panel itself with the column of symbols.
+void DrawPanel(QPainter& painter, const QRectF& panel, const TextMeasures& measures,
+               const Settings& settings, const QPalette& palette) {
+  const double radius = 0.3 * measures.lineHeight;
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(palette.color(QPalette::Base));
+  painter.drawRoundedRect(panel, radius, radius);
+  const double middle = panel.left() + Padding(measures) + measures.symbolHeight / 2;
+  for (const Suit suit : kAllSuits) {
+    painter.setBrush(SuitColourOnWindow(suit, settings.SuitColour, palette));
+    painter.drawPath(SuitOutline(suit, {middle, LineOf(panel, measures, suit).center().y()},
+                                 measures.symbolHeight));
+  }
 }
 
 }  // namespace
@@ -81,26 +109,64 @@ QRectF TextPanel(const TableLayout& layout, const TextMeasures& measures,
   return panel.intersected(area);
 }
 
+std::vector<PlacedCard> PlaceRanks(const QRectF& panel, const TextMeasures& measures,
+                                   const PerSuit<Holding>& hand, Seat seat) {
+  const QFontMetricsF metrics(measures.font);
+  const double blank = metrics.horizontalAdvance(u' ');
+  const double left = panel.left() + Padding(measures) + measures.symbolWidth;
+  std::vector<PlacedCard> ranks;
+  double y = panel.top() + Padding(measures) / 2;
+  for (const Suit suit : kAllSuits) {
+    double x = left;
+    for (int index = 0; index < kRanks; ++index) {
+      const auto rank = static_cast<Rank>(index);
+      if (!hand[suit].Has(rank)) continue;
+      const double width = metrics.horizontalAdvance(ToQt(RankText[rank]));
+      ranks.push_back(
+          {seat, {suit, rank}, QRectF(x - blank / 2, y, width + blank, measures.lineHeight)});
+      x += width + blank;
+    }
+    y += measures.lineHeight;
+  }
+  return ranks;
+}
+
 void DrawTextHand(QPainter& painter, const QRectF& panel, const TextMeasures& measures,
                   const PerSuit<Holding>& hand, const Settings& settings, const QPalette& palette) {
-  const QColor background = palette.color(QPalette::Base);
-  const double radius = 0.3 * measures.lineHeight;
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(background);
-  painter.drawRoundedRect(panel, radius, radius);
+  DrawPanel(painter, panel, measures, settings, palette);
   painter.setFont(measures.font);
-  const QColor ink = ReadableOn(background, ToColour(settings.HGFont[0].Forecolour, palette));
-  double y = panel.top() + Padding(measures) / 2;
-  const double x = panel.left() + Padding(measures);
+  painter.setPen(InkOf(settings, palette));
   for (const Suit suit : kAllSuits) {
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(SuitColourOnWindow(suit, settings.SuitColour, palette));
-    painter.drawPath(SuitOutline(suit, {x + measures.symbolHeight / 2, y + measures.lineHeight / 2},
-                                 measures.symbolHeight));
-    painter.setPen(ink);
-    painter.drawText(QRectF(x + measures.symbolWidth, y, panel.width(), measures.lineHeight),
-                     Qt::AlignLeft | Qt::AlignVCenter, HoldingLine(hand[suit]));
-    y += measures.lineHeight;
+    painter.drawText(LineOf(panel, measures, suit), Qt::AlignLeft | Qt::AlignVCenter,
+                     HoldingLine(hand[suit]));
+  }
+}
+
+void DrawTextHandInPlay(QPainter& painter, const QRectF& panel, const TextMeasures& measures,
+                        const PerSuit<Holding>& hand, Seat seat, const TablePlay& play,
+                        const Settings& settings, const QPalette& palette) {
+  DrawPanel(painter, panel, measures, settings, palette);
+  const bool onPlay = play.now.OnPlay == seat;
+  const PerSuit<Holding>& left = play.now.CardsLeft[seat];
+  QFont legalFont = measures.font;
+  legalFont.setBold(true);
+  legalFont.setUnderline(true);
+  const QColor ink = InkOf(settings, palette);
+  QColor dim = ink;
+  dim.setAlphaF(0.5F);
+  for (const PlacedCard& rank : PlaceRanks(panel, measures, hand, seat)) {
+    if (!left[rank.card.suit].Has(rank.card.rank)) continue;
+    const bool legal = onPlay && play.IsLegal(rank.card);
+    painter.setFont(legal ? legalFont : measures.font);
+    painter.setPen(onPlay && !legal ? dim : ink);
+    painter.drawText(rank.rect, Qt::AlignCenter, ToQt(RankText[rank.card.rank]));
+  }
+  painter.setFont(measures.font);
+  painter.setPen(ink);
+  for (const Suit suit : kAllSuits) {
+    if (!left[suit].Empty()) continue;
+    painter.drawText(LineOf(panel, measures, suit), Qt::AlignLeft | Qt::AlignVCenter,
+                     HoldingLine({}));
   }
 }
 

@@ -1,6 +1,8 @@
 // The hands as text: four lines, each a suit's symbol and its ranks.
 #pragma once
 
+#include <vector>
+
 #include <QFont>
 #include <QPainter>
 #include <QPalette>
@@ -8,6 +10,7 @@
 #include "core/board.h"
 #include "core/settings.h"
 #include "ui/table_layout.h"
+#include "ui/table_play.h"
 
 namespace tricklet::ui {
 
@@ -31,5 +34,15 @@ QRectF TextPanel(const TableLayout& layout, const TextMeasures& measures,
 
 void DrawTextHand(QPainter& painter, const QRectF& panel, const TextMeasures& measures,
                   const PerSuit<Holding>& hand, const Settings& settings, const QPalette& palette);
+
+/// The ranks of a hand in its panel as `DrawTextHand` writes them: what a click may meet.
+std::vector<PlacedCard> PlaceRanks(const QRectF& panel, const TextMeasures& measures,
+                                   const PerSuit<Holding>& hand, Seat seat);
+
+/// The hand during play. Cards that are gone leave their places empty. In the hand on play legal
+/// ranks are bold and underlined and all others dim.
+void DrawTextHandInPlay(QPainter& painter, const QRectF& panel, const TextMeasures& measures,
+                        const PerSuit<Holding>& hand, Seat seat, const TablePlay& play,
+                        const Settings& settings, const QPalette& palette);
 
 }  // namespace tricklet::ui

@@ -1,42 +1,29 @@
 #include "ui/table_view.h"
 
 #include <algorithm>
+#include <cmath>
 
-#include <QFontMetricsF>
+#include <QCursor>
 #include <QLinearGradient>
 #include <QPainter>
 
 #include "ui/table_centre.h"
-#include "ui/table_style.h"
 #include "ui/table_text.h"
+#include "ui/table_trick.h"
+#include "ui/table_won.h"
 #include "ui/table_words.h"
-#include "ui/theme.h"
 
 namespace tricklet::ui {
 namespace {
 
 constexpr double kFeltRadius = 12;
-constexpr double kReferenceHeight = 680;
-// Of a caption's height.
-constexpr double kCaptionPadding = 0.55;  // at either end
-constexpr double kCaptionText = 0.62;
+/// How far a legal card stands out, of the gap between North's caption and cards; below 1, so that
+/// it stays clear of what lies above it.
+constexpr double kRaise = 0.85;
 
-/// The caption's place within its room: each hand's beside its cards.
-QRectF PillIn(const QRectF& room, double width, double height, Seat seat) {
-  QRectF pill(0, 0, std::min(width, room.width()), height);
-  pill.moveCenter(room.center());
-  if (seat == Seat::West) pill.moveLeft(room.left());
-  if (seat == Seat::East) pill.moveRight(room.right());
-  return pill;
-}
-
-void DrawPill(QPainter& painter, const QRectF& pill, const QString& text, const QColor& background,
-              const QColor& ink) {
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(background);
-  painter.drawRoundedRect(pill, pill.height() / 2, pill.height() / 2);
-  painter.setPen(ink);
-  painter.drawText(pill, Qt::AlignCenter, text);
+double RaiseOf(const TableLayout& layout) {
+  const PlacedHand& north = layout.hands[Seat::North];
+  return std::round(kRaise * (north.area.top() - north.caption.bottom()));
 }
 
 }  // namespace
@@ -48,17 +35,50 @@ TableView::TableView(QWidget* parent) : QWidget(parent) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void TableView::Show(const Board& board, const Settings& settings, const CardPlay* /*play*/,
-                     std::optional<Seat> /*toCall*/) {
+void TableView::Show(const Board& board, const Settings& settings, const CardPlay* play,
+                     std::optional<Seat> toCall) {
+  std::optional<TablePlay> shown = CopyOf(play);
+  if (shown != play_) keys_.Forget();
   board_ = board;
   settings_ = settings;
-  setAccessibleDescription(DescribeTable(board_));
+  play_ = std::move(shown);
+  toCall_ = toCall;
+  setAccessibleDescription(play_ ? DescribePlay(board_, *play_) : DescribeTable(board_, toCall_));
+  setMouseTracking(play_.has_value());
+  ShowCursor(mapFromGlobal(QCursor::pos()));
   update();
 }
 
 TableLayout TableView::Layout() const {
-  return LayOutTable(size(), board_.Hands,
-                     settings_.CardsFaces ? HandDisplay::Cards : HandDisplay::Text);
+  const HandDisplay display = settings_.CardsFaces ? HandDisplay::Cards : HandDisplay::Text;
+  TableLayout layout = LayOutTable(size(), board_.Hands, display);
+  if (play_ && display == HandDisplay::Cards) PlaceCardsLeft(layout, *play_);
+  if (play_ && display == HandDisplay::Text) PlaceRanksLeft(layout, *play_);
+  return layout;
+}
+
+/// Every card keeps the place that it had in the full hand: nothing moves under the mouse, and a
+/// card that is taken back returns to where it was.
+void TableView::PlaceCardsLeft(TableLayout& layout, const TablePlay& play) {
+  std::erase_if(layout.cards, [&](const PlacedCard& placed) {
+    return !play.now.CardsLeft[placed.seat][placed.card.suit].Has(placed.card.rank);
+  });
+  const double raise = RaiseOf(layout);
+  for (PlacedCard& placed : layout.cards) {
+    if (play.IsLegal(placed.card)) placed.rect.translate(0, -raise);
+  }
+}
+
+void TableView::PlaceRanksLeft(TableLayout& layout, const TablePlay& play) const {
+  const TextMeasures measures = MeasureText(layout, board_.Hands, settings_, logicalDpiY());
+  for (const Seat seat : kAllSeats) {
+    const PerSuit<Holding>& hand = board_.Hands[seat];
+    const QRectF panel = TextPanel(layout, measures, hand, seat);
+    for (const PlacedCard& rank : PlaceRanks(panel, measures, hand, seat)) {
+      const bool left = play.now.CardsLeft[seat][rank.card.suit].Has(rank.card.rank);
+      if (left) layout.cards.push_back(rank);
+    }
+  }
 }
 
 QSize TableView::minimumSizeHint() const {
@@ -74,13 +94,35 @@ void TableView::paintEvent(QPaintEvent* /*event*/) {
   const TableLayout layout = Layout();
   const TableColours colours = ColoursFor(palette());
   DrawFelt(painter, layout, colours);
-  DrawCentre(painter, layout.centre, board_, colours, font());
-  DrawCaptions(painter, layout, colours);
+  const PerSeat<Caption> captions = Captions();
+  const CaptionLayout pills = LayOutCaptions(layout, captions, settings_, logicalDpiY());
+  if (play_) DrawWon(painter, LayOutWon(layout, *play_), *play_, backs_, colours, font());
+  DrawCaptions(painter, pills, captions, settings_, colours, palette());
+  DrawMiddle(painter, layout, colours);
   if (settings_.CardsFaces) {
     DrawCards(painter, layout);
   } else {
     DrawText(painter, layout);
   }
+}
+
+PerSeat<Caption> TableView::Captions() const {
+  const auto onPlay = play_ ? play_->now.OnPlay : std::nullopt;
+  const PerSeat<QString> texts = play_     ? PlayCaptions(board_, settings_, onPlay)
+                                 : toCall_ ? CallCaptions(board_, settings_, *toCall_)
+                                           : TableCaptions(board_, settings_);
+  PerSeat<Caption> captions;
+  for (const Seat seat : kAllSeats) {
+    captions[seat].text = texts[seat];
+    if (play_ && play_->PlayedOut()) captions[seat].mark = CaptionMark::Over;
+  }
+  if (onPlay) {
+    captions[*onPlay].mark = CaptionMark::OnPlay;
+    captions[*onPlay].halfTyped = keys_.HalfTyped();
+  } else if (!play_ && toCall_) {
+    captions[*toCall_].mark = CaptionMark::ToCall;
+  }
+  return captions;
 }
 
 void TableView::DrawFelt(QPainter& painter, const TableLayout& layout,
@@ -93,30 +135,18 @@ void TableView::DrawFelt(QPainter& painter, const TableLayout& layout,
   painter.drawRoundedRect(layout.felt, kFeltRadius, kFeltRadius);
 }
 
-void TableView::DrawCaptions(QPainter& painter, const TableLayout& layout,
-                             const TableColours& colours) const {
-  const PerSeat<QString> captions = TableCaptions(board_, settings_);
-  // One size for all four; the narrowest room decides.
-  const QRectF& room = layout.hands[Seat::West].caption;
-  const double ends = 2 * kCaptionPadding * room.height();
-  const double wished =
-      settings_.HGFont[1].Size * logicalDpiY() / 72 * std::max(1.0, height() / kReferenceHeight);
-  QFont font =
-      Fitted(ToFont(settings_.HGFont[1]), {captions.begin(), captions.end()},
-             {room.width() - ends, room.height()}, std::min(wished, kCaptionText * room.height()));
-  constexpr int kLeastPixels = 9;  // below that a shortened text says more
-  font.setPixelSize(std::max(kLeastPixels, font.pixelSize()));
-  painter.setFont(font);
-  const QFontMetricsF metrics(font);
-  const double high = std::min(room.height(), font.pixelSize() / kCaptionText);
-  const QColor wanted = ToColour(settings_.HGFont[1].Forecolour, palette());
-  const QColor ink = ReadableOn(colours.caption, wanted);
-  for (const Seat seat : kAllSeats) {
-    if (captions[seat].isEmpty()) continue;
-    const QRectF& place = layout.hands[seat].caption;
-    const QString text = metrics.elidedText(captions[seat], Qt::ElideRight, place.width() - ends);
-    const double width = metrics.horizontalAdvance(text) + ends;
-    DrawPill(painter, PillIn(place, width, high, seat), text, colours.caption, ink);
+void TableView::DrawMiddle(QPainter& painter, const TableLayout& layout,
+                           const TableColours& colours) {
+  if (!play_) {
+    DrawCentre(painter, layout.centre, board_, colours, font());
+    return;
+  }
+  DrawCentreInPlay(painter, layout.centre, board_, colours, font());
+  const QRectF room = TrickRoom(layout.centre);
+  DrawTrick(painter, LayOutTrick(room, layout.cardSize), *play_, trickCards_, settings_, colours);
+  // The last trick lies there for a while before the result takes its place.
+  if (play_->finished && play_->now.TrickGathered) {
+    DrawScore(painter, room, play_->score, colours, font());
   }
 }
 
@@ -124,7 +154,12 @@ void TableView::DrawCards(QPainter& painter, const TableLayout& layout) {
   cards_.SetLook({layout.cardSize, painter.device()->devicePixelRatioF(), settings_.CardDesign,
                   settings_.SuitColour});
   for (const PlacedCard& placed : layout.cards) {
-    cards_.Draw(painter, placed.rect.topLeft(), placed.card);
+    const bool onPlay = play_ && play_->now.OnPlay == placed.seat;
+    if (onPlay && !play_->IsLegal(placed.card)) {
+      cards_.DrawDimmed(painter, placed.rect.topLeft(), placed.card);
+    } else {
+      cards_.Draw(painter, placed.rect.topLeft(), placed.card);
+    }
   }
 }
 
@@ -133,8 +168,12 @@ void TableView::DrawText(QPainter& painter, const TableLayout& layout) const {
   const TextMeasures measures = MeasureText(layout, board_.Hands, settings_, logicalDpiY());
   for (const Seat seat : kAllSeats) {
     const PerSuit<Holding>& hand = board_.Hands[seat];
-    DrawTextHand(painter, TextPanel(layout, measures, hand, seat), measures, hand, settings_,
-                 palette());
+    const QRectF panel = TextPanel(layout, measures, hand, seat);
+    if (play_) {
+      DrawTextHandInPlay(painter, panel, measures, hand, seat, *play_, settings_, palette());
+    } else {
+      DrawTextHand(painter, panel, measures, hand, settings_, palette());
+    }
   }
 }
 

@@ -8,12 +8,15 @@
 #include "core/board.h"
 #include "core/settings.h"
 #include "play/card_play.h"
+#include "ui/card_back.h"
 #include "ui/card_painter.h"
+#include "ui/table_captions.h"
+#include "ui/table_keys.h"
 #include "ui/table_layout.h"
+#include "ui/table_play.h"
+#include "ui/table_style.h"
 
 namespace tricklet::ui {
-
-struct TableColours;
 
 /// Draws a board; scales with its size. It holds a copy of what it shows and changes nothing.
 class TableView : public QWidget {
@@ -27,7 +30,8 @@ class TableView : public QWidget {
   void Show(const Board& board, const Settings& settings, const CardPlay* play = nullptr,
             std::optional<Seat> toCall = std::nullopt);
 
-  /// Where everything lies at the present size.
+  /// Where everything lies at the present size. During play these are the cards left, the legal
+  /// ones raised, and their ranks in the text display.
   TableLayout Layout() const;
 
   QSize minimumSizeHint() const override;
@@ -42,18 +46,32 @@ class TableView : public QWidget {
   void TrickAsked();
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  PerSeat<Caption> Captions() const;
+  static void PlaceCardsLeft(TableLayout& layout, const TablePlay& play);
+  void PlaceRanksLeft(TableLayout& layout, const TablePlay& play) const;
   void DrawFelt(QPainter& painter, const TableLayout& layout, const TableColours& colours) const;
-  void DrawCaptions(QPainter& painter, const TableLayout& layout,
-                    const TableColours& colours) const;
+  void DrawMiddle(QPainter& painter, const TableLayout& layout, const TableColours& colours);
   void DrawCards(QPainter& painter, const TableLayout& layout);
   void DrawText(QPainter& painter, const TableLayout& layout) const;
+  void ShowCursor(QPointF mouse);
+  bool IsOurKey(const QKeyEvent& event) const;
 
   Board board_;
   Settings settings_;
+  std::optional<TablePlay> play_;
+  std::optional<Seat> toCall_;
+  TableKeys keys_;
   CardPainter cards_;
+  CardPainter trickCards_;
+  CardBacks backs_;
 };
 
 }  // namespace tricklet::ui

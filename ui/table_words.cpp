@@ -12,6 +12,8 @@ struct Words {
   Q_DECLARE_TR_FUNCTIONS(TableView)
 };
 
+const QString kBetween = QStringLiteral(" \u00B7 ");
+
 QString Role(const Board& board, const Settings& settings, Seat seat) {
   const bool contract = !board.Contract.empty() && board.Contract != kAllPass;
   if (!contract) return {};
@@ -30,6 +32,31 @@ QString DescribeHand(const PerSuit<Holding>& hand) {
   return suits.join(QStringLiteral("; "));
 }
 
+QStringList DescribeHands(const HandTable& hands) {
+  QStringList parts;
+  for (const Seat seat : kAllSeats) {
+    bool cards = false;
+    for (const Suit suit : kAllSuits) cards = cards || !hands[seat][suit].Empty();
+    parts << ToQt(SeatName[seat]) + QStringLiteral(": ") +
+                 (cards ? DescribeHand(hands[seat]) : Words::tr("no cards"));
+  }
+  return parts;
+}
+
+QString DescribeTrick(const PlayState& now) {
+  QStringList cards;
+  for (const Seat seat : kAllSeats) {
+    const auto& card = now.TrickCards[seat];
+    if (!card) continue;
+    QString text = ToQt(SeatName[seat]) + u' ' + ToQt(SuitName[card->suit]).toLower() + u' ' +
+                   ToQt(RankText[card->rank]);
+    if (seat == now.TrickWinner) text += u' ' + Words::tr("(winning)");
+    cards << text;
+  }
+  if (cards.isEmpty()) return Words::tr("No card on the table");
+  return Words::tr("On the table: %1").arg(cards.join(QStringLiteral(", ")));
+}
+
 }  // namespace
 
 PerSeat<QString> TableCaptions(const Board& board, const Settings& settings) {
@@ -40,6 +67,27 @@ PerSeat<QString> TableCaptions(const Board& board, const Settings& settings) {
     // The parts end in blanks of their own.
     captions[seat] = (ToQt(edited[seat]) + u' ' + Role(board, settings, seat)).simplified();
   }
+  return captions;
+}
+
+PerSeat<QString> PlayCaptions(const Board& board, const Settings& settings,
+                              std::optional<Seat> onPlay) {
+  PerSeat<QString> captions;
+  for (const Seat seat : kAllSeats) {
+    QStringList words;
+    const QString role = Role(board, settings, seat);
+    if (!role.isEmpty()) words << role;
+    if (seat == onPlay) words << Words::tr("to play");
+    captions[seat] = (ToQt(SeatName[seat]) + QStringLiteral(": ") + words.join(kBetween)).trimmed();
+  }
+  return captions;
+}
+
+PerSeat<QString> CallCaptions(const Board& board, const Settings& settings, Seat toCall) {
+  PerSeat<QString> captions = TableCaptions(board, settings);
+  QString& caption = captions[toCall];
+  caption = caption.isEmpty() ? ToQt(SeatName[toCall]) + QStringLiteral(": ") : caption + kBetween;
+  caption += Words::tr("to call");
   return captions;
 }
 
@@ -58,16 +106,24 @@ QString HoldingLine(Holding holding) {
   return ToQt(HoldingText(holding)).trimmed();
 }
 
-QString DescribeTable(const Board& board) {
+QString DescribeTable(const Board& board, std::optional<Seat> toCall) {
   QStringList parts = BoardLine(board);
   parts << DealerLines(board).front();
   parts << ToQt(VulText[board.Vulnerability()]);
-  for (const Seat seat : kAllSeats) {
-    bool cards = false;
-    for (const Suit suit : kAllSuits) cards = cards || !board.Hands[seat][suit].Empty();
-    parts << ToQt(SeatName[seat]) + QStringLiteral(": ") +
-                 (cards ? DescribeHand(board.Hands[seat]) : Words::tr("no cards"));
-  }
+  if (toCall) parts << Words::tr("%1 to call").arg(ToQt(SeatName[*toCall]));
+  parts << DescribeHands(board.Hands);
+  return parts.join(QStringLiteral(". ")) + u'.';
+}
+
+QString DescribePlay(const Board& board, const TablePlay& play) {
+  const PlayState& now = play.now;
+  QStringList parts = BoardLine(board);
+  parts << ToQt(ContractLabel(board));
+  if (now.OnPlay) parts << Words::tr("%1 to play").arg(ToQt(SeatName[*now.OnPlay]));
+  if (play.finished) parts << play.score;
+  parts << DescribeTrick(now);
+  parts << play.tricks[Side::NorthSouth] << play.tricks[Side::EastWest];
+  parts << DescribeHands(now.CardsLeft);
   return parts.join(QStringLiteral(". ")) + u'.';
 }
 

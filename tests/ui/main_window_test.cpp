@@ -1,6 +1,4 @@
 // The real main window on a library of its own, worked by keys and clicks.
-#include "ui/main_window.h"
-
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -16,86 +14,17 @@
 #include <QUrl>
 
 #include "formats/import.h"
-#include "tests/support/library_fixture.h"
+#include "tests/ui/window_fixture.h"
 #include "ui/later.h"
-#include "ui/progress_frame.h"
-#include "ui/text.h"
 
 namespace tricklet::ui {
 namespace {
 
-/// Follows a script, and shows work in the window as the program does.
-class WindowHost : public test::ScriptedHost {
- public:
-  bool Step(const std::string& text, int done, int total) override {
-    ScriptedHost::Step(text, done, total);
-    if (onStep) onStep();
-    return progress->Step(ToQt(text), done, total);
-  }
-  void BeginWork() override {
-    ScriptedHost::BeginWork();
-    progress->Begin();
-  }
-  void EndWork() override {
-    ScriptedHost::EndWork();
-    progress->End();
-  }
-
-  ProgressFrame* progress = nullptr;
-  std::function<void()> onStep;
-};
-
-class MainWindowTest : public testing::Test {
- protected:
-  MainWindowTest() : session(host, store) {
-    session.settings.filelocation = FolderText(folder.Path());
-    session.settings.library = "Club";
-    for (const int number : {1, 3, 22, 24}) PutBoard(number);
-    std::filesystem::create_directories(folder.Path() / "Teaching");
-    GetLibraryNames(session);
-  }
-
-  void PutBoard(int number) { test::WriteFile(session.BoardPath(number), test::OneSuitEachText()); }
-
-  void Open() {
-    window = std::make_unique<MainWindow>(session);
-    host.progress = window->Progress();
-    window->show();
-    QApplication::setActiveWindow(window.get());
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-  }
-
-  template <class Widget>
-  Widget* Find(const char* name) const {
-    auto* widget = window->findChild<Widget*>(QString::fromLatin1(name));
-    EXPECT_NE(widget, nullptr) << name;
-    return widget;
-  }
-  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
-    QTest::keyClick(window.get(), key, modifiers);
-  }
-  void Click(const char* name) const {
-    QTest::mouseClick(Find<QAbstractButton>(name), Qt::LeftButton);
-  }
-  /// Replaces the text of an editable combo box by typing, as the system delivers keys.
-  void Type(const char* name, const char* text) const {
-    QLineEdit* edit = Find<QComboBox>(name)->lineEdit();
-    edit->setFocus();
-    edit->selectAll();
-    QTest::keyClicks(QApplication::focusWidget(), QString::fromLatin1(text));
-  }
-  QString ShownBoard() const { return Find<QComboBox>("cmbBoard")->currentText(); }
-
-  test::TempFolder folder;
-  WindowHost host;
-  MemoryStore store;
-  Session session;
-  std::unique_ptr<MainWindow> window;
-};
+class MainWindowTest : public WindowTest {};
 
 TEST_F(MainWindowTest, EveryWayOfSteppingShowsTheBoard) {
   Open();
-  const auto down = [this] { QTest::keyClick(Find<QComboBox>("cmbBoard"), Qt::Key_Down); };
+  const auto down = [this] { PressKey(Find<QComboBox>("cmbBoard"), Qt::Key_Down); };
   const struct {
     const char* way;
     std::function<void()> step;
@@ -130,7 +59,7 @@ TEST_F(MainWindowTest, RefusesCharactersInALibraryNameAndCreatesTheLibrary) {
   EXPECT_TRUE(create->isEnabled());
   Type("cmbLibs", "TEACHING");
   EXPECT_FALSE(create->isEnabled()) << "that library is there, in another letter case";
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+  FocusKey(Qt::Key_Escape);
   EXPECT_EQ(libraries->currentText(), QStringLiteral("Club"));
 
   Type("cmbLibs", "Autumn");
@@ -152,7 +81,7 @@ TEST_F(MainWindowTest, LowersTheHighestBoardOnlyAfterYes) {
   for (const Answer answer : {Answer::No, Answer::Yes}) {
     host.ExpectAskWith(question, answer);
     Type("cmbMaxBoard", "20");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    FocusKey(Qt::Key_Return);
     const int left = answer == Answer::Yes ? 20 : 24;
     EXPECT_EQ(highest->currentText(), QString::number(left));
     EXPECT_EQ(Find<QComboBox>("cmbBoard")->count(), left);
@@ -161,7 +90,7 @@ TEST_F(MainWindowTest, LowersTheHighestBoardOnlyAfterYes) {
   EXPECT_EQ(Find<QLabel>("lblLibrary")->text(), QStringLiteral("2 boards in library"));
 
   Type("cmbMaxBoard", "0");
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  FocusKey(Qt::Key_Return);
   EXPECT_EQ(highest->currentText(), QStringLiteral("20"));
 }
 
@@ -175,13 +104,13 @@ TEST_F(MainWindowTest, AsksAboutUnsavedChangesBeforeABoardIsLeft) {
   Open();
   for (const auto& [answer, board, written] : cases) {
     session.board.HandChanged = false;
-    QTest::keyClick(window.get(), Qt::Key_Home, Qt::ControlModifier);
+    PressKey(window.get(), Qt::Key_Home, Qt::ControlModifier);
     Click("lblNext");
     Key(Qt::Key_Delete, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_TRUE(Find<QPushButton>("cmdSave")->isEnabled());
     EXPECT_TRUE(window->isWindowModified());
     host.ExpectAsk(question, "Save changes?", answer);
-    QTest::keyClick(Find<QComboBox>("cmbBoard"), Qt::Key_Down);
+    PressKey(Find<QComboBox>("cmbBoard"), Qt::Key_Down);
     EXPECT_EQ(session.board.BoardNumber, board);
     EXPECT_EQ(Find<QComboBox>("cmbBoard")->currentIndex(), board - 1) << "put back when refused";
     EXPECT_EQ(std::filesystem::exists(session.BoardPath(2)), written);
@@ -331,10 +260,10 @@ TEST_F(MainWindowTest, CopyInATextBoxLeavesTheBoardAlone) {
   QLineEdit* name = Find<QComboBox>("cmbLibs")->lineEdit();
   name->setFocus();
   name->selectAll();
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::ControlModifier);
+  FocusKey(Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(session.CopyBoard, 0);
   Find<QWidget>("picTable")->setFocus();
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::ControlModifier);
+  FocusKey(Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(session.CopyBoard, 1);
 }
 

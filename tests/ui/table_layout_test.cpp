@@ -84,9 +84,7 @@ TEST_P(TableGeometry, KeepsHandsCaptionsAndCentreApartAndOnTheFelt) {
 TEST_P(TableGeometry, LeavesAPartOfEveryCardToBeHit) {
   for (const PlacedCard& placed : layout_.cards) {
     const auto hit = CardAt(layout_, placed.rect.topLeft() + QPointF(1.5, 1.5));
-    ASSERT_TRUE(hit.has_value());
-    EXPECT_EQ(hit->seat, placed.seat);
-    EXPECT_EQ(hit->card, placed.card);
+    EXPECT_TRUE(hit && hit->seat == placed.seat && hit->card == placed.card) << placed.card.Index();
   }
 }
 

@@ -1,0 +1,109 @@
+// A main window on a library of its own.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string_view>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTest>
+
+#include "tests/support/library_fixture.h"
+#include "ui/main_window.h"
+#include "ui/progress_frame.h"
+#include "ui/text.h"
+
+namespace tricklet::ui {
+
+/// Follows a script, and shows work in the window as the program does.
+class WindowHost : public test::ScriptedHost {
+ public:
+  bool Step(const std::string& text, int done, int total) override {
+    test::ScriptedHost::Step(text, done, total);
+    if (onStep) onStep();
+    return progress->Step(ToQt(text), done, total);
+  }
+  void BeginWork() override {
+    test::ScriptedHost::BeginWork();
+    progress->Begin();
+  }
+  void EndWork() override {
+    test::ScriptedHost::EndWork();
+    progress->End();
+  }
+
+  ProgressFrame* progress = nullptr;
+  std::function<void()> onStep;
+};
+
+/// Library Club with boards 1, 3, 22 and 24, and the empty library Teaching.
+class WindowTest : public testing::Test {
+ protected:
+  WindowTest() : session(host, store) {
+    session.settings.filelocation = FolderText(folder.Path());
+    session.settings.library = "Club";
+    for (const int number : {1, 3, 22, 24}) PutBoard(number);
+    std::filesystem::create_directories(folder.Path() / "Teaching");
+    GetLibraryNames(session);
+  }
+
+  void PutBoard(int number) { test::WriteFile(session.BoardPath(number), test::OneSuitEachText()); }
+
+  void Open() {
+    window = std::make_unique<MainWindow>(session);
+    host.progress = window->Progress();
+    window->show();
+    QApplication::setActiveWindow(window.get());
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  }
+
+  template <class Widget>
+  Widget* Find(const char* name) const {
+    auto* widget = window->findChild<Widget*>(QString::fromLatin1(name));
+    EXPECT_NE(widget, nullptr) << name;
+    return widget;
+  }
+  /// Presses and lets go; the widget has to outlive it.
+  template <class AnyKey>
+  static void PressKey(QWidget* widget, AnyKey key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyPress(widget, key, modifiers);
+    QTest::keyRelease(widget, key, modifiers);
+  }
+  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
+    PressKey(window.get(), key, modifiers);
+  }
+  /// To whatever has the focus, as the system delivers keys.
+  static void FocusKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QWidget* focus = QApplication::focusWidget();
+    ASSERT_NE(focus, nullptr);
+    PressKey(focus, key, modifiers);
+  }
+  static void FocusKeys(std::string_view keys) {
+    for (const char key : keys) {
+      QWidget* focus = QApplication::focusWidget();
+      ASSERT_NE(focus, nullptr);
+      PressKey(focus, key);
+    }
+  }
+  void Click(const char* name) const {
+    QTest::mouseClick(Find<QAbstractButton>(name), Qt::LeftButton);
+  }
+  /// Replaces the text of an editable combo box by typing.
+  void Type(const char* name, const char* text) const {
+    QLineEdit* edit = Find<QComboBox>(name)->lineEdit();
+    edit->setFocus();
+    edit->selectAll();
+    FocusKeys(text);
+  }
+  QString ShownBoard() const { return Find<QComboBox>("cmbBoard")->currentText(); }
+
+  test::TempFolder folder;
+  WindowHost host;
+  MemoryStore store;
+  Session session;
+  std::unique_ptr<MainWindow> window;
+};
+
+}  // namespace tricklet::ui

@@ -1,0 +1,60 @@
+#include "ui/board_pane.h"
+
+#include <QGridLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "ui/commands.h"
+#include "ui/play_control.h"
+#include "ui/text.h"
+
+namespace tricklet::ui {
+namespace {
+
+constexpr int kColumns = 2;
+
+}  // namespace
+
+BoardPane::BoardPane(Commands& commands, QWidget* parent)
+    : Section(QStringLiteral("fraBoard"), parent), commands_(commands) {
+  Body()->insertWidget(0, MakeSeparator(this));
+  auto* grid = new QGridLayout;
+  for (int column = 0; column < kColumns; ++column) grid->setColumnStretch(column, 1);
+  cmdBidding = Add(grid, "cmdBidding", tr("Bidding..."), tr("Enter the auction (Ctrl+B)"),
+                   &Commands::Bidding);
+  cmdPlay = Add(grid, "cmdPlay", tr("Play"), tr("Play the board card by card (Ctrl+P)"),
+                &Commands::PlayOrStop);
+  cmdSave = Add(grid, "cmdSave", tr("Save"), tr("Write the board to its library"), &Commands::Save);
+  cmdBidding->setAccessibleName(tr("Bidding"));
+  Body()->addLayout(grid);
+}
+
+QPushButton* BoardPane::Add(QGridLayout* grid, const char* name, const QString& text,
+                            const QString& tip, void (Commands::*command)()) {
+  auto* button = new QPushButton(text, this);
+  button->setObjectName(QString::fromLatin1(name));
+  button->setToolTip(tip);
+  connect(button, &QPushButton::clicked, &commands_, [this, command] { (commands_.*command)(); });
+  const int place = grid->count();
+  grid->addWidget(button, place / kColumns, place % kColumns);
+  return button;
+}
+
+QList<QWidget*> BoardPane::TabOrder() const {
+  return {cmdBidding, cmdPlay, cmdSave};
+}
+
+void BoardPane::Show(const Board& board) {
+  SetTitle(tr("Dealer %1 · %2")
+               .arg(ToQt(SeatName[board.Dealer()]), ToQt(VulShort[board.Vulnerability()])));
+  cmdSave->setEnabled(board.HandChanged);
+}
+
+void BoardPane::ShowPlay(const PlayControl& play) {
+  const bool on = play.Play().PlayMode();
+  cmdBidding->setEnabled(!play.UnderWay());
+  cmdPlay->setText(on ? tr("Stop play") : tr("Play"));
+  cmdPlay->setEnabled(on || play.CanStart());
+}
+
+}  // namespace tricklet::ui

@@ -1,0 +1,37 @@
+// The left column's middle part: dealer, vulnerability, and what can be done with the board.
+#pragma once
+
+#include "core/board.h"
+#include "ui/section.h"
+
+class QGridLayout;
+class QPushButton;
+
+namespace tricklet::ui {
+
+class Commands;
+class PlayControl;
+
+class BoardPane : public Section {
+  Q_OBJECT
+
+ public:
+  explicit BoardPane(Commands& commands, QWidget* parent = nullptr);
+
+  void Show(const Board& board);
+  void ShowPlay(const PlayControl& play);
+
+  /// The controls in the order of the tab key.
+  QList<QWidget*> TabOrder() const;
+
+ private:
+  QPushButton* Add(QGridLayout* grid, const char* name, const QString& text, const QString& tip,
+                   void (Commands::*command)());
+
+  Commands& commands_;
+  QPushButton* cmdBidding;
+  QPushButton* cmdPlay;
+  QPushButton* cmdSave;
+};
+
+}  // namespace tricklet::ui

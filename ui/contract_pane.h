@@ -1,0 +1,42 @@
+// The right column's middle part: the contract, its play and its result.
+#pragma once
+
+#include <QWidget>
+
+#include "core/notation.h"
+#include "library/session.h"
+#include "play/card_play.h"
+
+class QLabel;
+class QPushButton;
+
+namespace tricklet::ui {
+
+class Commands;
+
+/// The contract; during play the tricks of both sides, undo and claim; and the result line.
+class ContractPane : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit ContractPane(Commands& commands, QWidget* parent = nullptr);
+
+  /// Shows the board's contract and `play`. Nothing is shown while the auction is being entered:
+  /// the contract is not known then.
+  void Show(const Session& session, const CardPlay& play, bool entering);
+
+  /// The controls in the order of the tab key.
+  QList<QWidget*> TabOrder() const;
+
+ private:
+  void ShowPlay(const CardPlay& play);
+
+  QLabel* lblContract;
+  PerSide<QLabel*> lblTricks;
+  QWidget* fraPlay_;
+  QPushButton* cmdUndo;
+  QPushButton* cmdClaim;
+  QLabel* lblScore;
+};
+
+}  // namespace tricklet::ui

@@ -1,0 +1,21 @@
+// The columns of panes on either side of the table.
+#pragma once
+
+#include <QScrollArea>
+
+namespace tricklet::ui {
+
+/// Panes one below the other; scrolls when they need more height than there is.
+class SideColumn : public QScrollArea {
+  Q_OBJECT
+
+ public:
+  /// `width` in heights of the font.
+  SideColumn(const QString& name, const QList<QWidget*>& panes, double width,
+             QWidget* parent = nullptr);
+};
+
+/// Whether the room of a widget is kept while it is hidden, so that nothing else moves.
+void KeepRoom(QWidget* widget, bool keep);
+
+}  // namespace tricklet::ui

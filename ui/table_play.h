@@ -1,0 +1,31 @@
+// What the table shows of a play: a copy, so that painting asks nobody.
+#pragma once
+
+#include <optional>
+
+#include <QString>
+
+#include "play/card_play.h"
+
+namespace tricklet::ui {
+
+struct TablePlay {
+  PlayState now;
+  PerSuit<Holding> legal;   ///< of the hand on play
+  PerSide<QString> tricks;  ///< "NS: 4", "EW: 2"
+  bool finished = false;
+  QString score;  ///< the result line once the play is finished
+
+  /// The last trick has been played and gathered: nothing is left to be done. A claim leaves cards
+  /// in the hands and is not meant.
+  bool PlayedOut() const { return finished && now.TrickGathered && !now.Claimed; }
+  /// What the hand on play still holds.
+  PerSuit<Holding> HandOnPlay() const;
+  bool IsLegal(Card card) const { return legal[card.suit].Has(card.rank); }
+  friend bool operator==(const TablePlay&, const TablePlay&) = default;
+};
+
+/// Nothing unless a board is being played.
+std::optional<TablePlay> CopyOf(const CardPlay* play);
+
+}  // namespace tricklet::ui
