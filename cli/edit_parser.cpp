@@ -35,8 +35,8 @@ void AddEditCommands(CLI::App& app, Command& command) {
   AddAction(*edit, "fill", "Deal the missing cards at random", EditAction::Fill, 0, "", asked)
       .add_option("--seed", asked->seed, "The same number deals the same cards")
       ->type_name("N");
-  AddAction(*edit, "hand", "Give a seat its hand: N AKT2.QJ5.-.98", EditAction::SetHand, 2, "HAND",
-            asked)
+  AddAction(*edit, "hand", "Give a seat its hand, voids left empty: N AKT2.QJ5..98",
+            EditAction::SetHand, 2, "HAND", asked)
       .add_flag("--take", asked->takeCards, "Also cards that other seats hold");
   edit->callback([&command, asked] {
     command = [asked](const Context& context, const ConsoleHost&) {

@@ -167,7 +167,10 @@ TEST_F(PlayWindowTest, LeavingTheDialogAsksAndRestores) {
   for (const auto& leave : ways) {
     Expect([&](frmBidding& dialog) {
       Press(dialog, "cmdClear");
-      FocusKeys("7c");
+      FocusKeys("7");
+      FocusKey(Qt::Key_Return);
+      EXPECT_TRUE(dialog.isVisible()) << "half a call does not confirm the empty auction";
+      FocusKeys("c");
       host.ExpectAskWith("Any bidding changes will be lost", Answer::Cancel);
       leave(dialog);
       EXPECT_TRUE(dialog.isVisible());
