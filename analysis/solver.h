@@ -14,7 +14,7 @@ namespace tricklet {
 
 /// Tricks for solver seat h (N E S W) in solver strain s (spades, hearts, diamonds, clubs,
 /// no-trump), at position h * 5 + s.
-using SolverRecord = std::array<std::int32_t, kSeats * kStrains>;
+using SolverRecord = std::array<std::int32_t, static_cast<std::size_t>(kSeats) * kStrains>;
 
 /// A position in mid-play.
 struct SolverPosition {

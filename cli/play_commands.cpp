@@ -4,6 +4,7 @@
 #include <ostream>
 
 #include "cli/board_text.h"
+#include "cli/notation_text.h"
 #include "core/scoring.h"
 #include "core/text.h"
 #include "library/board_store.h"
@@ -23,14 +24,6 @@ class NoTimer : public TrickTimer {
 ExitCode Refuse(const Context& context, const std::string& text) {
   context.session.host.Tell(text);
   return ExitCode::Refused;
-}
-
-std::optional<Seat> SeatFromText(std::string_view text) {
-  for (const Seat seat : kAllSeats) {
-    const std::string_view name = SeatName[seat];
-    if (EqualNoCase(text, name) || EqualNoCase(text, name.substr(0, 1))) return seat;
-  }
-  return std::nullopt;
 }
 
 /// Suit letter and rank: "SA", "h10", "HT".

@@ -2,7 +2,10 @@
 
 #include <CLI/CLI.hpp>
 
+#include "analysis/get_dds.h"
 #include "cli/command.h"
+#include "cli/edit_commands.h"
+#include "cli/generate_commands.h"
 #include "core/fault.h"
 #include "core/text.h"
 #include "core/version.h"
@@ -75,6 +78,11 @@ int Run(const std::vector<std::string>& arguments, SettingsStore& store, const C
   AddLibraryCommands(app, command);
   AddPlayCommands(app, command);
   AddAnalysisCommands(app, command);
+  AddEditCommands(app, command);
+  AddGenerateCommands(app, command, [](const Context& context, Board& board) {
+    Session& session = context.session;
+    if (session.GetSolver) GetDDS(board, session.GetSolver(), session.host, true);
+  });
   try {
     std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
     app.parse(reversed);

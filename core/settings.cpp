@@ -41,7 +41,6 @@ constexpr std::array kTable{
     SettingEntry{kOptions, "EditMethod", "1", TRICKLET_FIELD(EditMethod), 1, 3},
     SettingEntry{kOptions, "ShowMessage", "0", TRICKLET_FIELD(ShowMessage), 0, 99999},
     SettingEntry{kOptions, "SolverHost", "", TRICKLET_FIELD(SolverHost)},
-    SettingEntry{kOptions, "ShowBestCards", "False", TRICKLET_FIELD(ShowBestCards)},
     SettingEntry{kOptions, "ColourScheme", "0", TRICKLET_FIELD(ColourScheme), 0, 2},
     SettingEntry{"HGFont0", "Name", "Arial Narrow", TRICKLET_FIELD(HGFont[0].Name)},
     SettingEntry{"HGFont0", "Size", "24", TRICKLET_FIELD(HGFont[0].Size), 6, 96},

@@ -57,10 +57,9 @@ struct Settings {
   bool PBNBids = false;           ///< PBN export writes the auction
   bool PBNShark = false;          ///< PBN export writes a result tag and a board comment
   int EditMethod = 0;
-  int ShowMessage = 0;   ///< version up to which the notice of new features has been seen
-  std::string SolverHost;         ///< of the online double-dummy page; empty: not yet named
-  bool ShowBestCards = false;     ///< in play: double-dummy tricks on the cards
-  int ColourScheme = 0;  ///< 0 as the system, 1 light, 2 dark
+  int ShowMessage = 0;     ///< version up to which the notice of new features has been seen
+  std::string SolverHost;  ///< of the online double-dummy page; empty: not yet named
+  int ColourScheme = 0;    ///< 0 as the system, 1 light, 2 dark
   std::array<FontSetting, 2> HGFont;  ///< 0: holdings as text; 1: captions and auction
 
   /// All defaults, from the table.

@@ -2,13 +2,13 @@
 
 #include <bit>
 
-#include "core/statistics.h"
 #include "core/scoring.h"
+#include "core/statistics.h"
 
 namespace tricklet {
 
 bool CardPlay::NeedsAuction(const Board& board) {
-  return board.Contract == kAllPass || board.Calls.Empty();
+  return board.ContractLevel == 0;
 }
 
 bool CardPlay::Start() {

@@ -55,6 +55,11 @@ void BackgroundTables::Post(bool asked) {
 }
 
 void BackgroundTables::Take(const Job& job) {
+  if (session_.BatchRunning) {
+    underWay_.erase(
+        job.Key());  // the run may be at the same file; the board will be looked at again
+    return;
+  }
   if (!job.failure.empty()) {
     if (job.asked) session_.host.Tell(job.failure);
     return;

@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "core/statistics.h"
 #include "ui/commands.h"
 #include "ui/play_control.h"
 #include "ui/text.h"
@@ -24,6 +25,10 @@ BoardPane::BoardPane(Commands& commands, QWidget* parent)
                    &Commands::Bidding);
   cmdPlay = Add(grid, "cmdPlay", tr("Play"), tr("Play the board card by card (Ctrl+P)"),
                 &Commands::PlayOrStop);
+  cmdDDS = Add(grid, "cmdDDS", tr("Analyse"), tr("Compute the double-dummy table (Ctrl+D)"),
+               &Commands::AnalyseBoard);
+  cmdBSOL = Add(grid, "cmdBSOL", tr("Online"),
+                tr("Open the online double-dummy page (Ctrl+Shift+O)"), &Commands::OnlineSolver);
   cmdSave = Add(grid, "cmdSave", tr("Save"), tr("Write the board to its library"), &Commands::Save);
   cmdBidding->setAccessibleName(tr("Bidding"));
   Body()->addLayout(grid);
@@ -41,13 +46,16 @@ QPushButton* BoardPane::Add(QGridLayout* grid, const char* name, const QString& 
 }
 
 QList<QWidget*> BoardPane::TabOrder() const {
-  return {cmdBidding, cmdPlay, cmdSave};
+  return {cmdBidding, cmdPlay, cmdDDS, cmdBSOL, cmdSave};
 }
 
 void BoardPane::Show(const Board& board) {
   SetTitle(tr("Dealer %1 · %2")
                .arg(ToQt(SeatName[board.Dealer()]), ToQt(VulShort[board.Vulnerability()])));
   cmdSave->setEnabled(board.HandChanged);
+  const bool complete = GetStats(board.Hands).AllHandsComplete;
+  cmdDDS->setEnabled(complete);
+  cmdBSOL->setEnabled(complete);
 }
 
 void BoardPane::ShowPlay(const PlayControl& play) {

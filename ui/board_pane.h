@@ -31,6 +31,8 @@ class BoardPane : public Section {
   Commands& commands_;
   QPushButton* cmdBidding;
   QPushButton* cmdPlay;
+  QPushButton* cmdDDS;
+  QPushButton* cmdBSOL;
   QPushButton* cmdSave;
 };
 

@@ -27,8 +27,7 @@ Commands::Commands(Session& session, PlayControl& play, QWidget* window)
     : QObject(window), session_(session), play_(play), window_(window) {}
 
 /// False when another command is running, and nothing was done.
-template <class Procedure>
-bool Commands::Attempt(const Procedure& procedure) {
+bool Commands::Attempt(const std::function<void()>& procedure) {
   if (running_) return false;
   running_ = true;
   try {
@@ -40,8 +39,7 @@ bool Commands::Attempt(const Procedure& procedure) {
   return true;
 }
 
-template <class Procedure>
-void Commands::Run(const Procedure& procedure) {
+void Commands::Run(const std::function<void()>& procedure) {
   if (Attempt(procedure)) emit Done();
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <vector>
 
 #include <QObject>
@@ -57,6 +58,13 @@ class Commands : public QObject {
   void PasteHand();
   void ClearBoard();
 
+  /// `cmdDDS`: the double-dummy table of the board in hand, by `TableAsked`.
+  void AnalyseBoard();
+  /// `mnuAnalyse`: every missing table of the library.
+  void AnalyseLibrary();
+  /// `cmdBSOL`: the board on the online double-dummy page; its host is asked for once.
+  void OnlineSolver();
+
   void Bidding();
   /// Starts the play, after the auction dialog where there is no auction yet; or leaves it.
   void PlayOrStop();
@@ -77,6 +85,7 @@ class Commands : public QObject {
   void About();
 
  signals:
+  void TableAsked();
   void Done();
   /// Before the auction dialog appears.
   void AuctionOpened(frmBidding* dialog);
@@ -85,10 +94,8 @@ class Commands : public QObject {
   void PlayStarted();
 
  private:
-  template <class Procedure>
-  bool Attempt(const Procedure& procedure);
-  template <class Procedure>
-  void Run(const Procedure& procedure);
+  bool Attempt(const std::function<void()>& procedure);
+  void Run(const std::function<void()>& procedure);
   void EnterAuction();
   void OpenDocument(const QString& fileName);
 

@@ -6,6 +6,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 
+#include "analysis/solver_library.h"
 #include "library/library_store.h"
 #include "library/start_up.h"
 #include "ui/frmStart.h"
@@ -178,6 +179,10 @@ int Launch(QApplication& application, const LaunchOptions& options, SettingsStor
   SilentHost silent;
   QtHost& host = options.screenshot.isEmpty() ? asking : silent;
   Session session(host, overlaid ? static_cast<SettingsStore&>(overlay) : store);
+  if (options.screenshot.isEmpty()) {
+    session.GetSolver = SolverOnDemand(PathFromQt(QCoreApplication::applicationDirPath()));
+    session.TablesInBackground = true;
+  }
   return RunSession(application, options, session, host);
 }
 

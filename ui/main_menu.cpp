@@ -21,6 +21,7 @@ MainMenu::MainMenu(QMainWindow& window, Commands& commands)
   BuildLibrary();
   BuildBoard();
   BuildPlay();
+  BuildAnalysis();
   BuildView();
   BuildOptionsAndHelp();
   window_.addActions(actions_);
@@ -106,6 +107,16 @@ void MainMenu::BuildPlay() {
   gatherTrick_ = Add(menu, "mnuGatherTrick", tr("&Gather trick"), {QKeySequence(tr("Ctrl+Return"))},
                      &Commands::QuitTrick);
   claim_ = Add(menu, "mnuClaim", tr("&Claim"), {QKeySequence(tr("Ctrl+L"))}, &Commands::Claim);
+}
+
+void MainMenu::BuildAnalysis() {
+  QMenu* menu = AddMenu(tr("&Analysis"));
+  Add(menu, "mnuDDS", tr("Analyse &board"), {QKeySequence(tr("Ctrl+D"))}, &Commands::AnalyseBoard);
+  Add(menu, "mnuAnalyse", tr("&Analyse all boards"), {QKeySequence(tr("Ctrl+Shift+D"))},
+      &Commands::AnalyseLibrary);
+  menu->addSeparator();
+  Add(menu, "mnuBSOL", tr("&Online double-dummy page"), {QKeySequence(tr("Ctrl+Shift+O"))},
+      &Commands::OnlineSolver);
 }
 
 void MainMenu::BuildView() {

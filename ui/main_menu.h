@@ -47,6 +47,7 @@ class MainMenu : public QObject {
   void BuildLibrary();
   void BuildBoard();
   void BuildPlay();
+  void BuildAnalysis();
   void BuildView();
   void BuildColours(QMenu* view);
   void BuildOptionsAndHelp();

@@ -17,6 +17,7 @@
 
 #include "library/library_store.h"
 #include "ui/auction_pane.h"
+#include "ui/background_tables.h"
 #include "ui/board_pane.h"
 #include "ui/commands.h"
 #include "ui/contract_pane.h"
@@ -53,6 +54,7 @@ constexpr std::string_view kPlaceKey = "Geometry";
 MainWindow::MainWindow(Session& session)
     : session_(session),
       play_(new PlayControl(session, this)),
+      tables_(new BackgroundTables(session, this)),
       commands_(new Commands(session, *play_, this)),
       menu_(new MainMenu(*this, *commands_)),
       library_(new LibraryPane(session)),
@@ -117,6 +119,8 @@ void MainWindow::Connect() {
   connect(library_, &LibraryPane::StepAsked, commands_, &Commands::StepBoard);
   connect(menu_, &MainMenu::NewLibraryAsked, library_, &LibraryPane::BeginNewLibrary);
   connect(menu_, &MainMenu::PresentationAsked, this, [this] { SetPresentation(!presentation_); });
+  connect(commands_, &Commands::TableAsked, tables_, &BackgroundTables::Ask);
+  connect(tables_, &BackgroundTables::Changed, this, &MainWindow::Display);
   connect(progress_, &ProgressFrame::Begun, this, [this] { SetWorking(true); });
   connect(progress_, &ProgressFrame::Ended, this, [this] { SetWorking(false); });
 
@@ -152,6 +156,7 @@ void MainWindow::Display() {
   statistics_->Show(session_);
   makeable_->Show(session_);
   DisplayAuction();
+  tables_->Look();
   const Board& board = session_.board;
   setWindowTitle(tr("%1 - Board %2[*] - Tricklet")
                      .arg(ToQt(session_.LibraryName()), QString::number(board.BoardNumber)));

@@ -13,6 +13,7 @@ class QLabel;
 namespace tricklet::ui {
 
 class AuctionPane;
+class BackgroundTables;
 class BoardPane;
 class Commands;
 class ContractPane;
@@ -67,6 +68,7 @@ class MainWindow : public QMainWindow {
 
   Session& session_;
   PlayControl* play_;
+  BackgroundTables* tables_;
   Commands* commands_;
   MainMenu* menu_;
   LibraryPane* library_;

@@ -2,11 +2,13 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QTableWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 #include "analysis/makeable_view.h"
+#include "analysis/par.h"
 #include "ui/symbols.h"
 #include "ui/text.h"
 #include "ui/theme.h"
@@ -22,7 +24,8 @@ constexpr int kFirstStrainColumn = 1;
 MakeablePane::MakeablePane(QWidget* parent)
     : Section(QStringLiteral("fraMakeable"), parent),
       cmdMake(new QToolButton(this)),
-      lvwMake(new QTableWidget(kSeats, 1 + kStrains, this)) {
+      lvwMake(new QTableWidget(kSeats, 1 + kStrains, this)),
+      lblPar(new QLabel(this)) {
   cmdMake->setObjectName(QStringLiteral("cmdMake"));
   cmdMake->setAccessibleName(tr("Show the makeable table"));
   cmdMake->setAutoRaise(true);
@@ -55,6 +58,9 @@ MakeablePane::MakeablePane(QWidget* parent)
     }
   }
   Body()->addWidget(lvwMake);
+  lblPar->setObjectName(QStringLiteral("lblPar"));
+  lblPar->setWordWrap(true);
+  Body()->addWidget(lblPar);
   cmdMake->setChecked(true);
 }
 
@@ -96,6 +102,8 @@ void MakeablePane::Show(const Session& session) {
     for (const std::string& cell : line.cells) lvwMake->item(row, column++)->setText(ToQt(cell));
     ++row;
   }
+  const Board& board = session.board;
+  lblPar->setText(ToQt(ParText(ComputePar(board.Makeable, board.Dealer(), board.Vulnerability()))));
   lvwMake->setFixedHeight(lvwMake->horizontalHeader()->sizeHint().height() +
                           lvwMake->verticalHeader()->length() + 2 * lvwMake->frameWidth());
 }

@@ -4,6 +4,7 @@
 #include "library/session.h"
 #include "ui/section.h"
 
+class QLabel;
 class QTableWidget;
 class QToolButton;
 
@@ -27,6 +28,7 @@ class MakeablePane : public Section {
 
   QToolButton* cmdMake;
   QTableWidget* lvwMake;
+  QLabel* lblPar;
 };
 
 }  // namespace tricklet::ui

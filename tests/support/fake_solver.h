@@ -2,7 +2,7 @@
 // came.
 #pragma once
 
-#include <algorithm>
+#include <atomic>
 #include <mutex>
 #include <string>
 #include <vector>
@@ -21,6 +21,7 @@ class FakeSolver : public Solver {
       solved.push_back(deals[i]);
       records[i] = RecordOf(deals[i]);
     }
+    dealsSolved += deals.size();
     return failure;
   }
   std::vector<CardScore> SolveCards(const SolverPosition& /*position*/) override { return {}; }
@@ -40,6 +41,7 @@ class FakeSolver : public Solver {
   std::string failure;
   std::vector<std::size_t> batches;
   std::vector<std::string> solved;
+  std::atomic<std::size_t> dealsSolved{0};  ///< to be read while a thread may be solving
 
  private:
   std::mutex mutex_;
