@@ -11,7 +11,8 @@ MakeableTable ToMakeable(const SolverRecord& record) {
   MakeableTable table;
   for (const Seat seat : kAllSeats) {
     for (const Strain strain : kSolverStrains) {
-      const auto position = static_cast<std::size_t>(IndexOf(seat) * kStrains + IndexOf(strain));
+      const auto position =
+          static_cast<std::size_t>(seat) * kStrains + static_cast<std::size_t>(strain);
       table[ToTableSeat(seat)][ToTableStrain(strain)] =
           static_cast<std::int16_t>(record.at(position));
     }
