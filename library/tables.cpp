@@ -1,6 +1,7 @@
 #include "library/tables.h"
 
 #include <chrono>
+#include <cmath>
 #include <future>
 #include <utility>
 #include <vector>
@@ -36,7 +37,7 @@ std::string ProgressText(int number, int done, int total, Clock::duration taken)
   std::string text = "Analysing board " + std::to_string(number);
   if (done == 0) return text;
   const double seconds = std::chrono::duration<double>(taken).count();
-  const int left = static_cast<int>(seconds / done * (total - done) + 0.5);
+  const long left = std::lround(seconds / done * (total - done));
   return text + ", " +
          (left < 100 ? std::to_string(left) + " s" : std::to_string(left / 60) + " min") + " left";
 }
