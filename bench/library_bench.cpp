@@ -1,6 +1,5 @@
 // A library of 999 boards: importing, exporting and opening it, each beside the least that the disk
 // has to do for it.
-#include <algorithm>
 #include <chrono>
 #include <filesystem>
 #include <fstream>
@@ -11,6 +10,7 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/quiet_host.h"
+#include "bench/random_board.h"
 #include "core/text.h"
 #include "formats/export.h"
 #include "formats/import.h"
@@ -27,19 +27,9 @@ namespace fs = std::filesystem;
 constexpr int kBoards = kLastBoardNumber;
 constexpr int kRepetitions = 21;
 
-Board RandomBoard(int number, std::mt19937& random) {
-  std::array<int, kCardsInPack> pack{};
-  for (int card = 0; card < kCardsInPack; ++card) pack.at(static_cast<std::size_t>(card)) = card;
-  std::shuffle(pack.begin(), pack.end(), random);
-  Board board;
-  board.BoardNumber = number;
-  for (int i = 0; i < kCardsInPack; ++i) {
-    AddCard(board.Hands, Card::FromIndex(pack.at(static_cast<std::size_t>(i))),
-            static_cast<Seat>(i % kSeats));
-  }
-  for (const char* call : {"1NT", "Pass", "3NT", "Pass", "Pass", "Pass"}) {
-    board.Calls.Add(Call::FromText(call).value());
-  }
+/// A random deal with an auction and a table.
+Board FullBoard(int number, std::mt19937& random) {
+  Board board = RandomBoard(number, random);
   board.MakeableValid = true;
   for (auto& row : board.Makeable) {
     for (auto& tricks : row) tricks = static_cast<std::int16_t>(random() % 14);
@@ -55,7 +45,7 @@ class Fixture {
     std::string pbn = "% PBN 2.1\r\n";
     fs::create_directories(root / "Full");
     for (int number = 1; number <= kBoards; ++number) {
-      const Board board = RandomBoard(number, random);
+      const Board board = FullBoard(number, random);
       texts.push_back(WriteBoardText(board));
       pbn += PbnRecord(board, "Full", {}) + "\r\n";
       ReplaceWholeFile(root / "Full" / BoardFileName(number), texts.back());
