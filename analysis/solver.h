@@ -22,6 +22,7 @@ struct SolverPosition {
   Seat leader = Seat::North;  ///< of the current trick
   std::vector<Card> trick;    ///< its cards in order, 0..3
   HandTable cardsLeft;        ///< the hands without them
+  friend bool operator==(const SolverPosition&, const SolverPosition&) = default;
 };
 
 /// Double-dummy tricks of the side on play for one card of the hand on play.

@@ -33,6 +33,7 @@ constexpr std::array kTable{
     SettingEntry{kOptions, "AutoLaunch", "False", TRICKLET_FIELD(AutoLaunch)},
     SettingEntry{kOptions, "AutoUpdate", "True", TRICKLET_FIELD(AutoUpdate)},
     SettingEntry{kOptions, "AutoMakeable", "True", TRICKLET_FIELD(AutoMakeable)},
+    SettingEntry{kOptions, "ShowBestCards", "False", TRICKLET_FIELD(ShowBestCards)},
     SettingEntry{kOptions, "ShowStats", "True", TRICKLET_FIELD(ShowStats)},
     SettingEntry{kOptions, "ShowMakeable", "True", TRICKLET_FIELD(ShowMakeable)},
     SettingEntry{kOptions, "MakeableContract", "True", TRICKLET_FIELD(MakeableContract)},

@@ -48,9 +48,10 @@ struct Settings {
   bool CaptionLTC = false;
   bool CaptionDeclarer = false;
   bool CaptionDummy = false;
-  bool AutoLaunch = false;    ///< open the main window without waiting on the start dialog
-  bool AutoUpdate = false;    ///< look for a newer version at start
-  bool AutoMakeable = false;  ///< compute a missing double-dummy table
+  bool AutoLaunch = false;     ///< open the main window without waiting on the start dialog
+  bool AutoUpdate = false;     ///< look for a newer version at start
+  bool AutoMakeable = false;   ///< compute a missing double-dummy table
+  bool ShowBestCards = false;  ///< in play, the tricks that each card leads to
   bool ShowStats = false;
   bool ShowMakeable = false;
   bool MakeableContract = false;  ///< makeable pane shows contracts; else tricks

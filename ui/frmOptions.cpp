@@ -131,6 +131,8 @@ QWidget* frmOptions::StartPage() {
   AddCheck(column, "AutoLaunch", tr("Open the main window at once"), &Settings::AutoLaunch);
   AddCheck(column, "AutoUpdate", tr("Look for a newer version at start"), &Settings::AutoUpdate);
   AddCheck(column, "AutoMakeable", tr("Compute a missing makeable table"), &Settings::AutoMakeable);
+  AddCheck(column, "ShowBestCards", tr("In play, the tricks that each card leads to"),
+           &Settings::ShowBestCards);
   AddCheck(column, "ShowStats", tr("Show the statistics"), &Settings::ShowStats);
   AddCheck(column, "ShowMakeable", tr("Show the makeable table"), &Settings::ShowMakeable);
   AddCheck(column, "MakeableContract", tr("Makeable table as contracts, not tricks"),

@@ -125,6 +125,8 @@ void MainMenu::BuildView() {
                           &Settings::ShowStats, "ShowStats");
   makeable_ = AddToggle(menu, "mnuMakeable", tr("&Makeable contracts"), QKeySequence(tr("Ctrl+M")),
                         &Settings::ShowMakeable, "ShowMakeable");
+  bestCards_ = AddToggle(menu, "mnuBestCards", tr("&Best cards in play"),
+                         QKeySequence(tr("Ctrl+K")), &Settings::ShowBestCards, "ShowBestCards");
   cardFaces_ = AddToggle(menu, "mnuCardFaces", tr("Card &faces"), QKeySequence(tr("Ctrl+F")),
                          &Settings::CardsFaces, "CardsFaces");
   menu->addSeparator();
@@ -172,6 +174,7 @@ void MainMenu::Show(const Session& session, const PlayControl& play) {
   ShowPlay(play);
   statistics_->setChecked(session.settings.ShowStats);
   makeable_->setChecked(session.settings.ShowMakeable);
+  bestCards_->setChecked(session.settings.ShowBestCards);
   cardFaces_->setChecked(session.settings.CardsFaces);
   colours_->actions().at(session.settings.ColourScheme)->setChecked(true);
 }

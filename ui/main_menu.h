@@ -68,6 +68,7 @@ class MainMenu : public QObject {
   QAction* gatherTrick_ = nullptr;
   QAction* statistics_ = nullptr;
   QAction* makeable_ = nullptr;
+  QAction* bestCards_ = nullptr;
   QAction* cardFaces_ = nullptr;
   QActionGroup* colours_ = nullptr;
 };

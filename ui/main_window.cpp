@@ -18,6 +18,7 @@
 #include "library/library_store.h"
 #include "ui/auction_pane.h"
 #include "ui/background_tables.h"
+#include "ui/best_cards_finder.h"
 #include "ui/board_pane.h"
 #include "ui/commands.h"
 #include "ui/contract_pane.h"
@@ -55,6 +56,7 @@ MainWindow::MainWindow(Session& session)
     : session_(session),
       play_(new PlayControl(session, this)),
       tables_(new BackgroundTables(session, this)),
+      best_(new BestCardsFinder(session, play_->Play(), this)),
       commands_(new Commands(session, *play_, this)),
       menu_(new MainMenu(*this, *commands_)),
       library_(new LibraryPane(session)),
@@ -137,6 +139,7 @@ void MainWindow::ConnectPlay() {
   connect(commands_, &Commands::AuctionChanged, this, &MainWindow::DisplayAuction);
   connect(commands_, &Commands::PlayStarted, table_, qOverload<>(&QWidget::setFocus));
   connect(play_, &PlayControl::Changed, this, &MainWindow::DisplayPlay);
+  connect(best_, &BestCardsFinder::Changed, this, &MainWindow::DisplayPlay);
   connect(table_, &TableView::CardAsked, commands_, &Commands::PlayCard);
   connect(table_, &TableView::OnlyCardAsked, commands_, &Commands::PlayOnlyCard);
   connect(table_, &TableView::TrickAsked, commands_, &Commands::QuitTrick);
@@ -183,6 +186,8 @@ void MainWindow::DisplayPlay() {
   const bool playing = entry == nullptr && session_.board.PlayMode;
   table_->Show(session_.board, session_.settings, playing ? &play_->Play() : nullptr,
                entry != nullptr && !entry->Over() ? std::optional(entry->ToCall()) : std::nullopt);
+  best_->Look();
+  table_->ShowBestCards(best_->Tricks());
 }
 
 /// The lower left corner: there it covers neither the auction nor the middle of the table.

@@ -14,6 +14,7 @@ namespace tricklet::ui {
 
 class AuctionPane;
 class BackgroundTables;
+class BestCardsFinder;
 class BoardPane;
 class Commands;
 class ContractPane;
@@ -69,6 +70,7 @@ class MainWindow : public QMainWindow {
   Session& session_;
   PlayControl* play_;
   BackgroundTables* tables_;
+  BestCardsFinder* best_;
   Commands* commands_;
   MainMenu* menu_;
   LibraryPane* library_;

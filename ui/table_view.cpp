@@ -7,6 +7,7 @@
 #include <QLinearGradient>
 #include <QPainter>
 
+#include "ui/table_best.h"
 #include "ui/table_centre.h"
 #include "ui/table_text.h"
 #include "ui/table_trick.h"
@@ -46,6 +47,11 @@ void TableView::Show(const Board& board, const Settings& settings, const CardPla
   setAccessibleDescription(play_ ? DescribePlay(board_, *play_) : DescribeTable(board_, toCall_));
   setMouseTracking(play_.has_value());
   ShowCursor(mapFromGlobal(QCursor::pos()));
+  update();
+}
+
+void TableView::ShowBestCards(std::vector<CardScore> best) {
+  best_ = std::move(best);
   update();
 }
 
@@ -104,6 +110,7 @@ void TableView::paintEvent(QPaintEvent* /*event*/) {
   } else {
     DrawText(painter, layout);
   }
+  if (play_) DrawBestCards(painter, layout, best_, font());
 }
 
 PerSeat<Caption> TableView::Captions() const {

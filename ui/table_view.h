@@ -2,9 +2,11 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include <QWidget>
 
+#include "analysis/solver.h"
 #include "core/board.h"
 #include "core/settings.h"
 #include "play/card_play.h"
@@ -29,6 +31,9 @@ class TableView : public QWidget {
   /// and what lies on the table; during an auction `toCall` is the player to call.
   void Show(const Board& board, const Settings& settings, const CardPlay* play = nullptr,
             std::optional<Seat> toCall = std::nullopt);
+
+  /// Writes on cards of the hand on play the tricks that they lead to; none to write nothing.
+  void ShowBestCards(std::vector<CardScore> best);
 
   /// Where everything lies at the present size. During play these are the cards left, the legal
   /// ones raised, and their ranks in the text display.
@@ -68,6 +73,7 @@ class TableView : public QWidget {
   Settings settings_;
   std::optional<TablePlay> play_;
   std::optional<Seat> toCall_;
+  std::vector<CardScore> best_;
   TableKeys keys_;
   CardPainter cards_;
   CardPainter trickCards_;

@@ -1,0 +1,25 @@
+#include "play/best_cards.h"
+
+namespace tricklet {
+
+std::optional<SolverPosition> PositionOf(const PlayState& state, Strain trumps) {
+  if (!state.OnPlay) return std::nullopt;
+  SolverPosition position;
+  position.trumps = trumps;
+  position.cardsLeft = state.CardsLeft;
+  position.leader =
+      static_cast<Seat>((IndexOf(*state.OnPlay) - state.CardsInTrick + kSeats) % kSeats);
+  Seat seat = position.leader;
+  for (int i = 0; i < state.CardsInTrick; ++i, seat = SeatAfter(seat)) {
+    position.trick.push_back(*state.TrickCards[seat]);
+  }
+  return position;
+}
+
+std::vector<CardScore> BestCards(Solver& solver, const SolverPosition& position, int tricksWon) {
+  std::vector<CardScore> scores = solver.SolveCards(position);
+  for (CardScore& score : scores) score.tricks += tricksWon;
+  return scores;
+}
+
+}  // namespace tricklet
