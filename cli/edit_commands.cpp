@@ -48,8 +48,9 @@ ExitCode SwapSuits(const Context& context, const EditArguments& arguments) {
 
 ExitCode FillBoard(const Context& context, const EditArguments& arguments) {
   EditHistory history;
-  RandomSource random = arguments.seed ? RandomSource(*arguments.seed) : RandomSource();
-  if (Fill(context.session.board, history, random)) return ExitCode::Done;
+  Session& session = context.session;
+  if (arguments.seed) session.random = RandomSource(*arguments.seed);
+  if (Fill(session.board, history, session.random)) return ExitCode::Done;
   return End(context, std::string(kRandomisationError), ExitCode::Refused);
 }
 

@@ -150,9 +150,9 @@ ExitCode GenerateBoards(const Context& context, const GenerateArguments& argumen
     return ExitCode::Refused;
   }
   if (!OpenLibrary(context, true)) return ExitCode::Refused;
-  RandomSource random = arguments.seed ? RandomSource(*arguments.seed) : RandomSource();
+  if (arguments.seed) session.random = RandomSource(*arguments.seed);
   const GenerateOutcome outcome =
-      Generate(session, constraints, random, {.analyse = arguments.analyse, .preview = {}});
+      Generate(session, constraints, {.analyse = arguments.analyse, .preview = {}});
   if (outcome.refused) return ExitCode::Refused;
   context.data << outcome.boardsStored << (outcome.boardsStored == 1 ? " board" : " boards")
                << " generated\n";

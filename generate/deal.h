@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "core/board.h"
+#include "core/random_source.h"
 #include "generate/constraints.h"
-#include "generate/random_source.h"
 
 namespace tricklet {
 

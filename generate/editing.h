@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include "core/board.h"
-#include "generate/random_source.h"
+#include "core/random_source.h"
 
 namespace tricklet {
 

@@ -26,20 +26,19 @@ bool MayOverwrite(Session& session, const Constraints& constraints) {
 }
 
 /// Deals the current board until the person takes the deal; false when the run is to end.
-bool DealBoard(Session& session, const Constraints& constraints, RandomSource& random,
-               const GenerateOptions& options) {
+bool DealBoard(Session& session, const Constraints& constraints, const GenerateOptions& options) {
   Board& board = session.board;
   while (true) {
     ClearAll(board);
-    board.Hands = GenerateDeal(constraints, board.Dealer(), random);
+    board.Hands = GenerateDeal(constraints, board.Dealer(), session.random);
     if (options.analyse) options.analyse(board);
     const Answer answer = options.preview ? options.preview(board) : Answer::Yes;
     if (answer != Answer::No) return answer == Answer::Yes;
   }
 }
 
-void DealRange(Session& session, const Constraints& constraints, RandomSource& random,
-               const GenerateOptions& options, GenerateOutcome& outcome) {
+void DealRange(Session& session, const Constraints& constraints, const GenerateOptions& options,
+               GenerateOutcome& outcome) {
   const auto [first, last] = constraints.GenBoards;
   const BatchScope batch(session);
   const WorkScope work(session.host);
@@ -47,7 +46,7 @@ void DealRange(Session& session, const Constraints& constraints, RandomSource& r
     const std::string text = "Generating board " + std::to_string(number);
     session.board.BoardNumber = number;
     outcome.cancelled = !session.host.Step(text, number - first, last - first + 1) ||
-                        !DealBoard(session, constraints, random, options);
+                        !DealBoard(session, constraints, options);
     if (outcome.cancelled) return;
     StoreBoard(session);
     ++outcome.boardsStored;
@@ -64,7 +63,7 @@ void ShowBoard(Session& session, int number) {
 
 }  // namespace
 
-GenerateOutcome Generate(Session& session, const Constraints& constraints, RandomSource& random,
+GenerateOutcome Generate(Session& session, const Constraints& constraints,
                          const GenerateOptions& options) {
   if (CheckSaveChanges(session) == Answer::Cancel) return {.refused = true};
   const int before = session.board.BoardNumber;
@@ -75,7 +74,7 @@ GenerateOutcome Generate(Session& session, const Constraints& constraints, Rando
   }
   GenerateOutcome outcome;
   try {
-    DealRange(session, constraints, random, options, outcome);
+    DealRange(session, constraints, options, outcome);
   } catch (const std::exception& failure) {
     outcome.failed = true;
     ErrorReport(session.host, FaultFrom(failure));

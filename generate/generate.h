@@ -5,7 +5,6 @@
 
 #include "core/host.h"
 #include "generate/constraints.h"
-#include "generate/random_source.h"
 #include "library/session.h"
 
 namespace tricklet {
@@ -27,7 +26,7 @@ struct GenerateOutcome {
 /// Fills the boards `GenBoards` of the current library with deals, and then loads the first of
 /// them. Asks before about unsaved changes, and once about overwriting. The constraints must be
 /// such that `CheckConstraints` accepts them.
-GenerateOutcome Generate(Session& session, const Constraints& constraints, RandomSource& random,
+GenerateOutcome Generate(Session& session, const Constraints& constraints,
                          const GenerateOptions& options = {});
 
 }  // namespace tricklet

@@ -1,8 +1,8 @@
 // The suit lengths of the named hand types.
 #pragma once
 
+#include "core/random_source.h"
 #include "generate/constraints.h"
-#include "generate/random_source.h"
 
 namespace tricklet {
 

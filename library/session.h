@@ -10,6 +10,7 @@
 #include "analysis/solver.h"
 #include "core/board.h"
 #include "core/host.h"
+#include "core/random_source.h"
 #include "core/settings.h"
 
 namespace tricklet {
@@ -36,6 +37,9 @@ struct Session {
   LibraryState library;                   ///< the current library
   std::vector<std::string> LibraryNames;  ///< all libraries of the root, in the order of the list
   int LibIndex = -1;                      ///< the current library's position in it, -1 when none
+
+  /// The only one of the program. Seeded by the system, unless a seed is given at the start.
+  RandomSource random;
 
   std::string CopyLibrary;  ///< where the board to paste comes from; empty when none was copied
   int CopyBoard = 0;

@@ -37,6 +37,10 @@ struct Parser {
   QCommandLineOption board{QStringLiteral("board"),
                            QCoreApplication::translate("Launch", "Board to begin with."),
                            QStringLiteral("N")};
+  QCommandLineOption seed{
+      QStringLiteral("seed"),
+      QCoreApplication::translate("Launch", "The same number gives the same random deals."),
+      QStringLiteral("N")};
   QCommandLineOption screenshot{
       QStringLiteral("screenshot"),
       QCoreApplication::translate("Launch", "Write a picture of the window and end."),
@@ -48,7 +52,7 @@ struct Parser {
   Parser() {
     parser.setApplicationDescription(
         QCoreApplication::translate("Launch", "Keeps, shows and exchanges bridge deals."));
-    parser.addOptions({help, version, root, library, board, screenshot, size});
+    parser.addOptions({help, version, root, library, board, seed, screenshot, size});
     parser.addPositionalArgument(
         QStringLiteral("files"),
         QCoreApplication::translate("Launch", "Hand records to import into the library."),
@@ -149,6 +153,14 @@ LaunchOptions ParseLaunch(const QStringList& arguments) {
       options.error = QCoreApplication::translate("Launch", "Not a board number: %1").arg(text);
     }
   }
+  if (known.parser.isSet(known.seed)) {
+    const QString text = known.parser.value(known.seed);
+    bool isNumber = false;
+    options.seed = text.toULongLong(&isNumber);
+    if (!isNumber) {
+      options.error = QCoreApplication::translate("Launch", "Not a number: %1").arg(text);
+    }
+  }
   if (known.parser.isSet(known.size)) {
     const QString text = known.parser.value(known.size);
     options.size = SizeFromText(text);
@@ -183,6 +195,7 @@ int Launch(QApplication& application, const LaunchOptions& options, SettingsStor
     session.GetSolver = SolverOnDemand(PathFromQt(QCoreApplication::applicationDirPath()));
     session.TablesInBackground = true;
   }
+  if (options.seed) session.random = RandomSource(*options.seed);
   return RunSession(application, options, session, host);
 }
 

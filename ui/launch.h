@@ -1,7 +1,9 @@
 // From the command line to the main window.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <vector>
 
 #include <QSize>
@@ -16,11 +18,12 @@ namespace tricklet::ui {
 
 /// What the program's command line asks for.
 struct LaunchOptions {
-  QString root;           ///< library root for this call only; empty: the stored one
-  QString library;        ///< library for this call only; empty: the stored one
-  int board = 0;          ///< board to begin with; 0: the first
-  QString screenshot;     ///< picture of the window to write, and then end; empty: none
-  QSize size{1280, 800};  ///< of the picture
+  QString root;                       ///< library root for this call only; empty: the stored one
+  QString library;                    ///< library for this call only; empty: the stored one
+  int board = 0;                      ///< board to begin with; 0: the first
+  std::optional<std::uint64_t> seed;  ///< of the random numbers; nothing: by the system
+  QString screenshot;                 ///< picture of the window to write, and then end; empty: none
+  QSize size{1280, 800};              ///< of the picture
   std::vector<std::filesystem::path> files;  ///< to import
 
   bool help = false;

@@ -21,11 +21,13 @@ const std::string kOverwrite =
 
 class GenerateRun : public test::LibraryTest {
  protected:
+  GenerateRun() { session.random = RandomSource(1); }
+
   GenerateOutcome Run(int first, int last, const GenerateOptions& options = {}) {
     Constraints constraints;
     constraints.NumGenHands = 1;
     constraints.GenBoards = {first, last};
-    return Generate(session, constraints, random, options);
+    return Generate(session, constraints, options);
   }
   Board Stored(int number) {
     Board board;
@@ -35,8 +37,6 @@ class GenerateRun : public test::LibraryTest {
     EXPECT_TRUE(complete) << number;
     return board;
   }
-
-  RandomSource random{1};
 };
 
 TEST_F(GenerateRun, StoresTheRangeAndShowsItsFirstBoard) {

@@ -16,20 +16,23 @@ LaunchOptions Parse(const QString& line) {
 }
 
 TEST(LaunchTest, ReadsTheCommandLine) {
-  const LaunchOptions options = Parse(QStringLiteral(
-      "--root /deals --library Club --board 7 --screenshot a.png --size 1024x700 x.pbn y.pbn"));
+  const LaunchOptions options =
+      Parse(QStringLiteral("--root /deals --library Club --board 7 --seed 42 --screenshot a.png "
+                           "--size 1024x700 x.pbn y.pbn"));
   EXPECT_TRUE(options.error.isEmpty());
   EXPECT_EQ(options.root, QStringLiteral("/deals"));
   EXPECT_EQ(options.library, QStringLiteral("Club"));
   EXPECT_EQ(options.board, 7);
+  EXPECT_EQ(options.seed, 42U);
   EXPECT_EQ(options.screenshot, QStringLiteral("a.png"));
   EXPECT_EQ(options.size, QSize(1024, 700));
   EXPECT_EQ(options.files.size(), 2U);
 }
 
 TEST(LaunchTest, RefusesWhatMakesNoSense) {
-  for (const char* line : {"--board 0", "--board 1000", "--board x", "--size 12", "--size 0x9",
-                           "--size 1024x700x3", "--size 99999x800", "--nonsense", "--board"}) {
+  for (const char* line :
+       {"--board 0", "--board 1000", "--board x", "--size 12", "--size 0x9", "--size 1024x700x3",
+        "--size 99999x800", "--seed", "--seed x", "--seed -1", "--nonsense", "--board"}) {
     EXPECT_FALSE(Parse(QString::fromLatin1(line)).error.isEmpty()) << line;
   }
 }

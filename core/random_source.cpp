@@ -1,4 +1,4 @@
-#include "generate/random_source.h"
+#include "core/random_source.h"
 
 #include <random>
 

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "generate/random_source.h"
+#include "core/random_source.h"
 #include "tests/generate/chi_square.h"
 
 namespace tricklet {
