@@ -146,7 +146,11 @@ ExitCode GenerateBoards(const Context& context, const GenerateArguments& argumen
     return ExitCode::Usage;
   }
   if (const auto contradiction = CheckConstraints(constraints)) {
-    session.host.Tell(*contradiction);
+    session.host.Tell(contradiction->text);
+    return ExitCode::Refused;
+  }
+  if (arguments.analyse && !session.GetSolver) {
+    session.host.Tell("There is no double-dummy solver");
     return ExitCode::Refused;
   }
   if (!OpenLibrary(context, true)) return ExitCode::Refused;
@@ -156,7 +160,11 @@ ExitCode GenerateBoards(const Context& context, const GenerateArguments& argumen
   if (outcome.refused) return ExitCode::Refused;
   context.data << outcome.boardsStored << (outcome.boardsStored == 1 ? " board" : " boards")
                << " generated\n";
-  return outcome.cancelled || outcome.failed ? ExitCode::Refused : ExitCode::Done;
+  if (outcome.cancelled || outcome.failed) return ExitCode::Refused;
+  if (!arguments.analyse) return ExitCode::Done;
+  session.host.Tell(AnalysisText(outcome.tables));
+  return outcome.tables.failure.empty() && !outcome.tables.cancelled ? ExitCode::Done
+                                                                     : ExitCode::Refused;
 }
 
 }  // namespace tricklet::cli

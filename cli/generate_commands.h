@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 
@@ -25,9 +24,9 @@ struct HandArguments {
 struct GenerateArguments {
   int first = 1;
   int last = 1;
-  PerGenHand<HandArguments> hands;      ///< the second is constrained when anything is said of it
-  std::optional<std::uint64_t> seed;    ///< the same seed gives the same deals
-  std::function<void(Board&)> analyse;  ///< computes the table of each deal; may be empty
+  PerGenHand<HandArguments> hands;    ///< the second is constrained when anything is said of it
+  std::optional<std::uint64_t> seed;  ///< the same seed gives the same deals
+  bool analyse = false;               ///< computes the double-dummy tables too
 };
 
 /// The constraints that the arguments mean; `problem` says so when they cannot be read. They may
@@ -39,9 +38,7 @@ Constraints ReadConstraints(const GenerateArguments& arguments,
 /// contradict each other are refused.
 ExitCode GenerateBoards(const Context& context, const GenerateArguments& arguments);
 
-using AnalyseBoard = std::function<void(const Context&, Board&)>;
-
-/// generate. The option --analyse is there when `analyse` is.
-void AddGenerateCommands(CLI::App& app, Command& command, const AnalyseBoard& analyse = {});
+/// generate.
+void AddGenerateCommands(CLI::App& app, Command& command);
 
 }  // namespace tricklet::cli

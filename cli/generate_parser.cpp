@@ -28,29 +28,20 @@ void AddHand(CLI::App& generate, HandArguments& hand, const std::string& number)
 
 }  // namespace
 
-void AddGenerateCommands(CLI::App& app, Command& command, const AnalyseBoard& analyse) {
-  struct Entry {
-    GenerateArguments asked;
-    bool analyse = false;
-  };
-  const auto entry = std::make_shared<Entry>();
-  GenerateArguments& asked = entry->asked;
+void AddGenerateCommands(CLI::App& app, Command& command) {
+  const auto asked = std::make_shared<GenerateArguments>();
   const CLI::Range boards(kFirstBoardNumber, kLastBoardNumber);
   auto* generate = app.add_subcommand("generate", "Fill boards with random deals");
-  generate->add_option("FIRST", asked.first, "First board")->required()->check(boards);
-  generate->add_option("LAST", asked.last, "Last board")->required()->check(boards);
-  AddHand(*generate, asked.hands[GenHand::First], "1");
-  AddHand(*generate, asked.hands[GenHand::Second], "2");
-  generate->add_option("--seed", asked.seed, "The same number gives the same deals")
+  generate->add_option("FIRST", asked->first, "First board")->required()->check(boards);
+  generate->add_option("LAST", asked->last, "Last board")->required()->check(boards);
+  AddHand(*generate, asked->hands[GenHand::First], "1");
+  AddHand(*generate, asked->hands[GenHand::Second], "2");
+  generate->add_option("--seed", asked->seed, "The same number gives the same deals")
       ->type_name("N");
-  if (analyse) generate->add_flag("--analyse", entry->analyse, "Compute double-dummy tables");
-  generate->callback([&command, entry, analyse] {
-    command = [entry, analyse](const Context& context, const ConsoleHost&) {
-      GenerateArguments arguments = entry->asked;
-      if (entry->analyse) {
-        arguments.analyse = [&](Board& board) { analyse(context, board); };
-      }
-      return GenerateBoards(context, arguments);
+  generate->add_flag("--analyse", asked->analyse, "Compute double-dummy tables");
+  generate->callback([&command, asked] {
+    command = [asked](const Context& context, const ConsoleHost&) {
+      return GenerateBoards(context, *asked);
     };
   });
 }

@@ -2,7 +2,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include "analysis/get_dds.h"
 #include "cli/command.h"
 #include "cli/edit_commands.h"
 #include "cli/generate_commands.h"
@@ -79,10 +78,7 @@ int Run(const std::vector<std::string>& arguments, SettingsStore& store, const C
   AddPlayCommands(app, command);
   AddAnalysisCommands(app, command);
   AddEditCommands(app, command);
-  AddGenerateCommands(app, command, [](const Context& context, Board& board) {
-    Session& session = context.session;
-    if (session.GetSolver) GetDDS(board, session.GetSolver(), session.host, true);
-  });
+  AddGenerateCommands(app, command);
   try {
     std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
     app.parse(reversed);

@@ -19,7 +19,20 @@ int MostPoints(const PerSuit<Limits>& suits) {
   return points;
 }
 
-std::optional<std::string> CheckHand(const Constraints& constraints, GenHand hand) {
+Suit SuitOfHighestMinimum(const PerSuit<Limits>& suits) {
+  return *std::max_element(kAllSuits.begin(), kAllSuits.end(), [&suits](Suit a, Suit b) {
+    return suits[a].minimum < suits[b].minimum;
+  });
+}
+
+Suit SuitOfLowestMaximum(const PerSuit<Limits>& suits) {
+  return *std::min_element(kAllSuits.begin(), kAllSuits.end(), [&suits](Suit a, Suit b) {
+    return suits[a].maximum < suits[b].maximum;
+  });
+}
+
+std::optional<Contradiction> CheckHand(const Constraints& constraints, GenHand hand) {
+  using enum ConstraintPart;
   const std::string number = std::to_string(IndexOf(hand) + 1);
   const PerSuit<Limits>& suits = constraints.SuitLimits[hand];
   int minima = 0;
@@ -28,39 +41,49 @@ std::optional<std::string> CheckHand(const Constraints& constraints, GenHand han
     minima += suit.minimum;
     maxima += suit.maximum;
   }
-  if (minima > kCardsInHand) return "Suit minima add up to more than 13 in hand " + number;
-  if (maxima < kCardsInHand) return "Suit maxima add up to less than 13 in hand " + number;
+  if (minima > kCardsInHand) {
+    return Contradiction{"Suit minima add up to more than 13 in hand " + number, hand, SuitMinima,
+                         SuitOfHighestMinimum(suits)};
+  }
+  if (maxima < kCardsInHand) {
+    return Contradiction{"Suit maxima add up to less than 13 in hand " + number, hand, SuitMaxima,
+                         SuitOfLowestMaximum(suits)};
+  }
   const int points = constraints.PointLimits[hand].minimum;
   if (points > MostPoints(suits)) {
-    return "Cannot have " + std::to_string(points) + " points with the distribution for hand " +
-           number;
+    return Contradiction{"Cannot have " + std::to_string(points) +
+                             " points with the distribution for hand " + number,
+                         hand, Points};
   }
   return std::nullopt;
 }
 
-std::optional<std::string> CheckBothHands(const Constraints& constraints) {
+std::optional<Contradiction> CheckBothHands(const Constraints& constraints) {
+  using enum ConstraintPart;
+  constexpr GenHand kSecond = GenHand::Second;
   const auto& points = constraints.PointLimits;
-  if (points[GenHand::First].minimum + points[GenHand::Second].minimum > kPointsInPack) {
-    return "Too many minimum points between the 2 hands";
+  if (points[GenHand::First].minimum + points[kSecond].minimum > kPointsInPack) {
+    return Contradiction{"Too many minimum points between the 2 hands", kSecond, Points};
   }
   const auto& suits = constraints.SuitLimits;
   for (const Suit suit : kAllSuits) {
-    if (suits[GenHand::First][suit].minimum + suits[GenHand::Second][suit].minimum > kRanks) {
-      return "Too many " + std::string(SuitName[suit]) + " between the 2 hands";
+    if (suits[GenHand::First][suit].minimum + suits[kSecond][suit].minimum > kRanks) {
+      return Contradiction{"Too many " + std::string(SuitName[suit]) + " between the 2 hands",
+                           kSecond, SuitMinima, suit};
     }
   }
-  if (constraints.HandDirection[GenHand::First] == constraints.HandDirection[GenHand::Second]) {
-    return "Hand 2 is the same direction as hand 1";
+  if (constraints.HandDirection[GenHand::First] == constraints.HandDirection[kSecond]) {
+    return Contradiction{"Hand 2 is the same direction as hand 1", kSecond, Direction};
   }
   return std::nullopt;
 }
 
 }  // namespace
 
-std::optional<std::string> CheckConstraints(const Constraints& constraints) {
+std::optional<Contradiction> CheckConstraints(const Constraints& constraints) {
   for (const GenHand hand : kGenHands) {
     if (IndexOf(hand) >= constraints.NumGenHands) break;
-    if (auto problem = CheckHand(constraints, hand)) return problem;
+    if (auto contradiction = CheckHand(constraints, hand)) return contradiction;
   }
   return constraints.NumGenHands == 2 ? CheckBothHands(constraints) : std::nullopt;
 }

@@ -68,9 +68,20 @@ struct Constraints {
   std::array<int, 2> GenBoards{1, 24};  ///< first and last board
 };
 
-/// What is wrong with the constraints, as it is told to the person; nothing when they agree.
-/// Constraints that agree may still be met by few deals.
-std::optional<std::string> CheckConstraints(const Constraints& constraints);
+enum class ConstraintPart : std::uint8_t { SuitMinima, SuitMaxima, Points, Direction };
+
+/// Constraints that no deal can meet.
+struct Contradiction {
+  std::string text;  ///< what the person is told
+  /// Where it shows first; of two hands that contradict each other, in the second.
+  GenHand hand = GenHand::First;
+  ConstraintPart part = ConstraintPart::SuitMinima;
+  Suit suit = Suit::Spades;  ///< of the minima and maxima the one that is furthest out
+};
+
+/// The first contradiction; nothing when the constraints agree. Constraints that agree may still be
+/// met by few deals.
+std::optional<Contradiction> CheckConstraints(const Constraints& constraints);
 
 /// Where the constrained hand goes on a board with this dealer.
 Seat SeatOf(const Constraints& constraints, GenHand hand, Seat dealer);

@@ -31,7 +31,6 @@ bool DealBoard(Session& session, const Constraints& constraints, const GenerateO
   while (true) {
     ClearAll(board);
     board.Hands = GenerateDeal(constraints, board.Dealer(), session.random);
-    if (options.analyse) options.analyse(board);
     const Answer answer = options.preview ? options.preview(board) : Answer::Yes;
     if (answer != Answer::No) return answer == Answer::Yes;
   }
@@ -40,8 +39,6 @@ bool DealBoard(Session& session, const Constraints& constraints, const GenerateO
 void DealRange(Session& session, const Constraints& constraints, const GenerateOptions& options,
                GenerateOutcome& outcome) {
   const auto [first, last] = constraints.GenBoards;
-  const BatchScope batch(session);
-  const WorkScope work(session.host);
   for (int number = first; number <= last; ++number) {
     const std::string text = "Generating board " + std::to_string(number);
     session.board.BoardNumber = number;
@@ -51,6 +48,17 @@ void DealRange(Session& session, const Constraints& constraints, const GenerateO
     StoreBoard(session);
     ++outcome.boardsStored;
   }
+}
+
+/// The whole run under one progress display.
+void DealAndAnalyse(Session& session, const Constraints& constraints,
+                    const GenerateOptions& options, GenerateOutcome& outcome) {
+  const BatchScope batch(session);
+  const WorkScope work(session.host);
+  DealRange(session, constraints, options, outcome);
+  if (!options.analyse || outcome.cancelled || !session.GetSolver) return;
+  const auto [first, last] = constraints.GenBoards;
+  outcome.tables = AnalyseBoards(session, session.GetSolver(), first, last, false);
 }
 
 /// Lists the library again and loads board `number`.
@@ -74,7 +82,7 @@ GenerateOutcome Generate(Session& session, const Constraints& constraints,
   }
   GenerateOutcome outcome;
   try {
-    DealRange(session, constraints, options, outcome);
+    DealAndAnalyse(session, constraints, options, outcome);
   } catch (const std::exception& failure) {
     outcome.failed = true;
     ErrorReport(session.host, FaultFrom(failure));

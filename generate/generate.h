@@ -6,14 +6,17 @@
 #include "core/host.h"
 #include "generate/constraints.h"
 #include "library/session.h"
+#include "library/tables.h"
 
 namespace tricklet {
 
-/// What is done with each deal before it is stored. Both may be empty.
 struct GenerateOptions {
-  std::function<void(Board&)> analyse;  ///< fills the makeable table
-  /// Shows the deal to the person: Yes stores it, No deals again, anything else ends the run.
-  std::function<Answer(const Board&)> preview;
+  /// Computes the makeable tables of the boards, in batches, once all of them are stored. Without a
+  /// solver in the session the boards have no tables.
+  bool analyse = false;
+  /// Shows each deal to the person before it is stored: Yes stores it, No deals again, anything
+  /// else ends the run. May be empty.
+  std::function<Answer(const Board&)> preview = {};
 };
 
 struct GenerateOutcome {
@@ -21,6 +24,8 @@ struct GenerateOutcome {
   bool refused = false;    ///< by the person, before anything was written
   bool cancelled = false;  ///< in mid-run: the boards up to then are stored
   bool failed = false;     ///< a board could not be stored
+  /// Of the analysis, where that was asked for and the run came to its end.
+  AnalysisOutcome tables = {};
 };
 
 /// Fills the boards `GenBoards` of the current library with deals, and then loads the first of

@@ -155,7 +155,47 @@ TEST(CheckConstraints, TellsTheFirstContradiction) {
   for (const auto& c : kCases) {
     Constraints constraints;
     c.change(constraints);
-    EXPECT_EQ(CheckConstraints(constraints).value_or(""), c.message);
+    EXPECT_EQ(CheckConstraints(constraints).value_or(Contradiction{}).text, c.message);
+  }
+}
+
+TEST(CheckConstraints, PointsAtWhatToChange) {
+  constexpr GenHand kOne = GenHand::First;
+  constexpr GenHand kTwo = GenHand::Second;
+  using enum ConstraintPart;
+  const struct {
+    std::function<void(Constraints&)> change;
+    GenHand hand;
+    ConstraintPart part;
+    Suit suit;
+  } kCases[] = {
+      {[](Constraints& c) {
+         c.SuitLimits[kTwo].values_ = {{{3, 13}, {2, 13}, {6, 13}, {4, 13}}};
+       },
+       kTwo, SuitMinima, Suit::Diamonds},
+      {[](Constraints& c) {
+         c.SuitLimits[kOne].values_ = {{{0, 5}, {0, 4}, {0, 3}, {0, 0}}};
+       },
+       kOne, SuitMaxima, Suit::Clubs},
+      {[](Constraints& c) {
+         c.PointLimits.fill({21, 37});
+       },
+       kTwo, Points, Suit::Spades},
+      {[](Constraints& c) {
+         c.SuitLimits[kOne][Suit::Hearts].minimum = 12;
+         c.SuitLimits[kTwo][Suit::Hearts].minimum = 2;
+       },
+       kTwo, SuitMinima, Suit::Hearts},
+      {[](Constraints& c) { c.HandDirection.fill(2); }, kTwo, Direction, Suit::Spades},
+  };
+  for (const auto& c : kCases) {
+    Constraints constraints;
+    c.change(constraints);
+    const auto found = CheckConstraints(constraints);
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->hand, c.hand) << found->text;
+    EXPECT_EQ(found->part, c.part) << found->text;
+    EXPECT_EQ(found->suit, c.suit) << found->text;
   }
 }
 

@@ -6,11 +6,14 @@
 #include <CLI/CLI.hpp>
 #include <gtest/gtest.h>
 
+#include "analysis/deal_text.h"
+#include "analysis/get_dds.h"
 #include "cli/board_text.h"
 #include "cli/edit_commands.h"
 #include "cli/generate_commands.h"
 #include "core/statistics.h"
 #include "library/board_store.h"
+#include "tests/support/fake_solver.h"
 #include "tests/support/library_fixture.h"
 
 namespace tricklet {
@@ -94,25 +97,40 @@ TEST_F(GenerateRun, PreviewTakesDealsAgainOrEnds) {
   // No, No, Yes for board 1; Yes for board 2; Cancel at board 3.
   std::vector<Answer> answers{Answer::Cancel, Answer::Yes, Answer::Yes, Answer::No, Answer::No};
   std::vector<Board> shown;
-  const GenerateOutcome outcome = Run(1, 9,
-                                      {.analyse = [](Board& board) { board.MakeableValid = true; },
-                                       .preview =
-                                           [&](const Board& board) {
-                                             EXPECT_TRUE(board.MakeableValid);
-                                             shown.push_back(board);
-                                             const Answer answer = answers.back();
-                                             answers.pop_back();
-                                             return answer;
-                                           }});
+  const GenerateOutcome outcome = Run(1, 9, {.preview = [&](const Board& board) {
+                                        shown.push_back(board);
+                                        const Answer answer = answers.back();
+                                        answers.pop_back();
+                                        return answer;
+                                      }});
   EXPECT_EQ(outcome.boardsStored, 2);
   EXPECT_TRUE(outcome.cancelled);
   ASSERT_EQ(shown.size(), 5U);
   EXPECT_NE(shown[0].Hands, shown[1].Hands);
   EXPECT_EQ(Stored(1).Hands, shown[2].Hands);
-  EXPECT_TRUE(Stored(1).MakeableValid);
   EXPECT_EQ(shown[3].BoardNumber, 2);
   EXPECT_EQ(Stored(2).Hands, shown[3].Hands);
   EXPECT_EQ(session.library.BoardCount, 2);
+}
+
+TEST_F(GenerateRun, TablesAreComputedInBatchesOnceAllBoardsAreStored) {
+  test::FakeSolver solver;
+  session.GetSolver = [&solver]() -> Solver& { return solver; };
+  EXPECT_EQ(Run(3, 42, {.analyse = true}).tables.computed, 40);
+  EXPECT_EQ(solver.batches, (std::vector<std::size_t>{32, 8}));
+  for (const int number : {3, 42}) {
+    const Board board = Stored(number);
+    EXPECT_TRUE(board.MakeableValid);
+    EXPECT_EQ(board.Makeable, ToMakeable(solver.RecordOf(SolverDealText(board.Hands))));
+  }
+  EXPECT_TRUE(session.board.MakeableValid);
+  EXPECT_EQ(host.working, 0);
+
+  solver.failure = "Too many tables";
+  const GenerateOutcome outcome = Run(50, 51, {.analyse = true});
+  EXPECT_EQ(outcome.boardsStored, 2) << "deals are kept though the solver fails";
+  EXPECT_EQ(outcome.tables.failure, "Too many tables");
+  EXPECT_FALSE(session.board.MakeableValid);
 }
 
 TEST_F(GenerateRun, ABoardThatCannotBeStoredEndsTheRun) {
@@ -239,20 +257,24 @@ TEST_F(GenerateCommands, AreParsed) {
   std::ostringstream messages;
   const std::atomic<bool> interrupted{false};
   const cli::ConsoleHost console(in, messages, {}, interrupted);
-  int analysed = 0;
+  test::FakeSolver solver;
   const auto run = [&](const std::string& line) {
     CLI::App app;
     cli::Command command;
-    cli::AddGenerateCommands(app, command,
-                             [&analysed](const cli::Context&, Board&) { ++analysed; });
+    cli::AddGenerateCommands(app, command);
     cli::AddEditCommands(app, command);
     app.parse(line);
     return command(context, console);
   };
-  EXPECT_EQ(run("generate 3 4 --hand1 E --points1 20-37 --type1 4441 --hand2 w "
-                "--lengths2 0-13,0-13,0-13,0-3 --points2 0-4 --seed 1 --analyse"),
-            cli::ExitCode::Done);
-  EXPECT_EQ(analysed, 2);
+  const std::string generate =
+      "generate 3 4 --hand1 E --points1 20-37 --type1 4441 --hand2 w "
+      "--lengths2 0-13,0-13,0-13,0-3 --points2 0-4 --seed 1 --analyse";
+  host.ExpectTell("There is no double-dummy solver");
+  EXPECT_EQ(run(generate), cli::ExitCode::Refused);
+  EXPECT_EQ(session.library.BoardCount, 0);
+  session.GetSolver = [&solver]() -> Solver& { return solver; };
+  host.ExpectTell("2 tables have been computed");
+  EXPECT_EQ(run(generate), cli::ExitCode::Done);
   EXPECT_GE(GetStats(Stored(4).Hands).SeatHCP[Seat::East], 20);
   const std::vector<std::string> edits{
       "edit 4 rotate acw --with-auction", "edit 4 swap N S",      "edit 4 swapsuit H D",
