@@ -25,12 +25,15 @@ BoardPane::BoardPane(Commands& commands, QWidget* parent)
                    &Commands::Bidding);
   cmdPlay = Add(grid, "cmdPlay", tr("Play"), tr("Play the board card by card (Ctrl+P)"),
                 &Commands::PlayOrStop);
+  cmdGenerate = Add(grid, "cmdGenerate", tr("Generate..."),
+                    tr("Fill boards with random deals (Ctrl+Shift+G)"), &Commands::Generate);
+  cmdSave = Add(grid, "cmdSave", tr("Save"), tr("Write the board to its library"), &Commands::Save);
   cmdDDS = Add(grid, "cmdDDS", tr("Analyse"), tr("Compute the double-dummy table (Ctrl+D)"),
                &Commands::AnalyseBoard);
   cmdBSOL = Add(grid, "cmdBSOL", tr("Online"),
                 tr("Open the online double-dummy page (Ctrl+Shift+O)"), &Commands::OnlineSolver);
-  cmdSave = Add(grid, "cmdSave", tr("Save"), tr("Write the board to its library"), &Commands::Save);
   cmdBidding->setAccessibleName(tr("Bidding"));
+  cmdGenerate->setAccessibleName(tr("Generate deals"));
   Body()->addLayout(grid);
 }
 
@@ -46,7 +49,7 @@ QPushButton* BoardPane::Add(QGridLayout* grid, const char* name, const QString& 
 }
 
 QList<QWidget*> BoardPane::TabOrder() const {
-  return {cmdBidding, cmdPlay, cmdDDS, cmdBSOL, cmdSave};
+  return {cmdBidding, cmdPlay, cmdGenerate, cmdSave, cmdDDS, cmdBSOL};
 }
 
 void BoardPane::Show(const Board& board) {

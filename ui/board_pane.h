@@ -31,6 +31,7 @@ class BoardPane : public Section {
   Commands& commands_;
   QPushButton* cmdBidding;
   QPushButton* cmdPlay;
+  QPushButton* cmdGenerate;
   QPushButton* cmdDDS;
   QPushButton* cmdBSOL;
   QPushButton* cmdSave;

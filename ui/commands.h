@@ -10,6 +10,7 @@
 
 #include "core/holding.h"
 #include "library/session.h"
+#include "ui/frmGenerate.h"
 
 class QWidget;
 
@@ -65,6 +66,9 @@ class Commands : public QObject {
   /// `cmdBSOL`: the board on the online double-dummy page; its host is asked for once.
   void OnlineSolver();
 
+  /// `cmdGenerate`: fills boards of the library with random deals.
+  void Generate();
+
   void Bidding();
   /// Starts the play, after the auction dialog where there is no auction yet; or leaves it.
   void PlayOrStop();
@@ -104,6 +108,7 @@ class Commands : public QObject {
   const AuctionEntry* auction_ = nullptr;
   QPointer<QWidget> window_;
   std::filesystem::path exportPath_;  // of the last export, where the next one begins
+  GenerateChoices generateChoices_;   // those before
   bool running_ = false;
 };
 

@@ -76,6 +76,10 @@ void MainMenu::BuildLibrary() {
       &Commands::RenameLibrary);
   connect(Add(menu, "mnuNewLibrary", tr("&New library..."), {QKeySequence::New}),
           &QAction::triggered, this, &MainMenu::NewLibraryAsked);
+  menu->addSeparator();
+  Add(menu, "mnuGenerate", tr("&Generate deals..."), {QKeySequence(tr("Ctrl+Shift+G"))},
+      &Commands::Generate);
+  menu->addSeparator();
   Add(menu, "mnuRefresh", tr("Re&fresh"), {QKeySequence(tr("F5"))}, &Commands::RefreshLibraries);
 }
 
