@@ -1,6 +1,6 @@
 #include "ui/frmGenerate.h"
 
-#include <QButtonGroup>
+#include <QAbstractButton>
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QGridLayout>
@@ -8,11 +8,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QVBoxLayout>
 
 #include "ui/generate_hand.h"
 #include "ui/number_range.h"
+#include "ui/option_group.h"
 #include "ui/text.h"
 
 namespace tricklet::ui {
@@ -39,8 +39,9 @@ void AddOptions(QGridLayout* grid, const QString& caption, const QButtonGroup* o
 frmGenerate::frmGenerate(Session& session, const GenerateChoices& choices, QWidget* parent)
     : QDialog(parent),
       session_(session),
-      optnGen(BuildOptions("optnGen", {tr("&One"), tr("&Two")})),
-      optSpecify(BuildOptions("optSpecify", {tr("&Seats"), tr("Steps from the &dealer")})),
+      optnGen(MakeOptions(QStringLiteral("optnGen"), {tr("&One"), tr("&Two")}, this)),
+      optSpecify(MakeOptions(QStringLiteral("optSpecify"),
+                             {tr("&Seats"), tr("Steps from the &dealer")}, this)),
       chkPreview(new QCheckBox(tr("Show each deal before it is &kept"), this)) {
   setObjectName(QStringLiteral("frmGenerate"));
   setWindowTitle(tr("Generate deals"));
@@ -54,22 +55,13 @@ frmGenerate::frmGenerate(Session& session, const GenerateChoices& choices, QWidg
   column->addLayout(BuildRun());
   column->addLayout(hands);
   column->addWidget(chkPreview);
-  column->addWidget(BuildButtons());
+  QDialogButtonBox* buttons = BuildButtons();
+  column->addWidget(buttons);
   Connect();
+  SetTabOrder(*buttons);
   Fill(choices);
   boards_->Minimum()->setFocus();
   boards_->Minimum()->lineEdit()->selectAll();
-}
-
-QButtonGroup* frmGenerate::BuildOptions(const char* name, const QStringList& texts) {
-  auto* group = new QButtonGroup(this);
-  for (const QString& text : texts) {
-    const auto index = static_cast<int>(group->buttons().size());
-    auto* option = new QRadioButton(text, this);
-    option->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index));
-    group->addButton(option, index);
-  }
-  return group;
 }
 
 /// What holds for both hands.
@@ -95,7 +87,7 @@ QLayout* frmGenerate::BuildRun() {
   return grid;
 }
 
-QWidget* frmGenerate::BuildButtons() {
+QDialogButtonBox* frmGenerate::BuildButtons() {
   auto* buttons = new QDialogButtonBox(this);
   auto* cmdGo = buttons->addButton(tr("&Generate"), QDialogButtonBox::AcceptRole);
   cmdGo->setObjectName(QStringLiteral("cmdGo"));
@@ -114,10 +106,16 @@ void frmGenerate::Connect() {
       hand->SetRelativeToDealer(optSpecify->checkedId() == kFromDealer);
     }
   });
+}
+
+void frmGenerate::SetTabOrder(const QDialogButtonBox& buttons) {
   QList<QWidget*> order{boards_->Minimum(), boards_->Maximum()};
   for (const QButtonGroup* options : {optnGen, optSpecify}) {
     for (QAbstractButton* option : options->buttons()) order += option;
   }
+  for (const GenerateHand* hand : hands_) order += hand->TabOrder();
+  order += chkPreview;
+  for (QAbstractButton* button : buttons.buttons()) order += button;
   for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order.at(i - 1), order.at(i));
 }
 

@@ -8,6 +8,7 @@
 
 class QButtonGroup;
 class QCheckBox;
+class QDialogButtonBox;
 class QLayout;
 
 namespace tricklet::ui {
@@ -34,10 +35,10 @@ class frmGenerate : public QDialog {
   GenerateChoices Chosen() const;
 
  private:
-  QButtonGroup* BuildOptions(const char* name, const QStringList& texts);
   QLayout* BuildRun();
-  QWidget* BuildButtons();
+  QDialogButtonBox* BuildButtons();
   void Connect();
+  void SetTabOrder(const QDialogButtonBox& buttons);
   void Fill(const GenerateChoices& choices);
   void Go();
 

@@ -2,17 +2,17 @@
 
 #include <algorithm>
 
-#include <QButtonGroup>
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QRadioButton>
 #include <QVBoxLayout>
 
 #include "ui/number_range.h"
+#include "ui/option_group.h"
 #include "ui/section.h"
 #include "ui/symbols.h"
 #include "ui/text.h"
@@ -30,18 +30,6 @@ QFrame* MakeFrame(const QString& name, const QString& title, QWidget* parent) {
   frame->setObjectName(name);
   frame->setAccessibleName(title);
   return frame;
-}
-
-/// A button group of `texts`, its buttons named by `name` and their index.
-QButtonGroup* MakeOptions(const QString& name, const QStringList& texts, QWidget* parent) {
-  auto* group = new QButtonGroup(parent);
-  int index = 0;
-  for (const QString& text : texts) {
-    auto* option = new QRadioButton(text, parent);
-    option->setObjectName(QStringLiteral("%1_%2").arg(name).arg(index));
-    group->addButton(option, index++);
-  }
-  return group;
 }
 
 /// What a direction is called: a seat, or the steps from the dealer.
@@ -89,7 +77,6 @@ GenerateHand::GenerateHand(GenHand hand, const Constraints& constraints, bool fo
   connect(cmbHandType, &QComboBox::currentIndexChanged, this, &GenerateHand::ShowTypeOptions);
   connect(optHandType, &QButtonGroup::idClicked, this,
           [this](int option) { typeOptions_[Type()] = option; });
-  SetTabOrder();
   Fill(constraints);
 }
 
@@ -171,14 +158,14 @@ void GenerateHand::BuildType(QBoxLayout* column) {
   column->addWidget(fraHandType);
 }
 
-void GenerateHand::SetTabOrder() {
+QList<QWidget*> GenerateHand::TabOrder() const {
   QList<QWidget*> order;
   for (QAbstractButton* option : optSuit->buttons()) order += option;
   order += {points_->Minimum(), points_->Maximum(), optType->button(kBySuitLengths)};
   for (const NumberRange* range : lengths_) order += {range->Minimum(), range->Maximum()};
   order += {optType->button(kByHandType), cmbHandType};
   for (QAbstractButton* option : optHandType->buttons()) order += option;
-  for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order.at(i - 1), order.at(i));
+  return order;
 }
 
 void GenerateHand::Fill(const Constraints& constraints) {

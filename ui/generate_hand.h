@@ -36,6 +36,9 @@ class GenerateHand : public QGroupBox {
   /// lengths are those of a hand type, to the choice between the two.
   void FocusOn(ConstraintPart part, Suit suit);
 
+  /// The controls in the order of the tab key.
+  QList<QWidget*> TabOrder() const;
+
  private:
   QString NameOf(const char* control) const;
   QString Title(const QString& what) const;
@@ -43,7 +46,6 @@ class GenerateHand : public QGroupBox {
   void BuildPoints(QBoxLayout* column);
   void BuildLengths(QBoxLayout* column, bool fourColours);
   void BuildType(QBoxLayout* column);
-  void SetTabOrder();
   void Fill(const Constraints& constraints);
   void ShowTypeOptions();
   HandType Type() const;

@@ -53,6 +53,15 @@ QPalette ToPalette(const Scheme& scheme) {
   return palette;
 }
 
+/// The style draws the rings and boxes of option buttons and check boxes in a darker shade of the
+/// window's colour, which is lost on a dark window. Nothing else of them takes that role.
+void BrightenIndicators(const Scheme& scheme) {
+  QPalette palette = ToPalette(scheme);
+  palette.setColor(QPalette::Window, QColor(scheme.text));
+  palette.setColor(QPalette::Disabled, QPalette::Window, QColor(scheme.dim));
+  for (const char* kind : {"QRadioButton", "QCheckBox"}) QApplication::setPalette(palette, kind);
+}
+
 /// Relative luminance, 0..1, after WCAG 2.1.
 double Luminance(const QColor& colour) {
   const auto linear = [](double channel) {
@@ -92,6 +101,7 @@ void ApplyColourScheme(QApplication& application, int scheme) {
   if (scheme == 1 || scheme == 2) {
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setPalette(ToPalette(scheme == 2 ? kDark : kLight));
+    if (scheme == 2) BrightenIndicators(kDark);
     changed = true;
   } else if (changed) {
     QApplication::setStyle(systemStyle);

@@ -208,6 +208,27 @@ TEST_F(GenerateWindowTest, WhatDoesNotApplyIsClosed) {
   });
 }
 
+TEST_F(GenerateWindowTest, TheTabKeyFollowsTheEye) {
+  Open();
+  Generate([](const Driven& form) {
+    form.Click("optType2_1");
+    std::vector<std::string> order;
+    constexpr std::size_t kMost = 40;
+    do {
+      order.push_back(form.Focus());
+      form.Press(Qt::Key_Tab);
+    } while (form.Focus() != order.front() && order.size() < kMost);
+    const std::vector<std::string> expected{
+        "cmbBoards_0",    "cmbBoards_1",    "optnGen_1",      "optSpecify_0",   "optSuit1_0",
+        "cmbMinPoints_0", "cmbMaxPoints_0", "optType1_0",     "cmbMinCards_0",  "cmbMaxCards_0",
+        "cmbMinCards_1",  "cmbMaxCards_1",  "cmbMinCards_2",  "cmbMaxCards_2",  "cmbMinCards_3",
+        "cmbMaxCards_3",  "optSuit2_1",     "cmbMinPoints_1", "cmbMaxPoints_1", "optType2_1",
+        "cmbHandType_1",  "optHandType2_0", "chkPreview",     "cmdGo",          "cmdCancel"};
+    EXPECT_EQ(order, expected);
+    form.Click("cmdCancel");
+  });
+}
+
 TEST_F(GenerateWindowTest, NumbersOutsideTheRangeCannotBeTyped) {
   Open();
   Generate([](const Driven& form) {
@@ -271,6 +292,7 @@ TEST_F(GenerateWindowTest, AContradictionIsToldAndLeadsToWhereItIs) {
          form.Type("cmbMinCards_0", "8");
          form.Type("cmbMinCards_1", "8");
          form.Click("optType1_1");
+         form.Find<QWidget>("chkPreview")->setFocus();
        },
        "Suit minima add up to more than 13 in hand 1", "optType1_1"},
   };
