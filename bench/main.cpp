@@ -18,6 +18,7 @@ int main(int argc, char** argv) {
       {"ImportBoards", "WriteFilesFloor", 1.5},
       {"ExportBoards", "ReadFilesFloor", 3.0},
       {"OpenLibrary", "OpenFloor", 3.0},
+      {"AnalyseBoards", "SolverAloneFloor", 1.05},
   });
   benchmark::RunSpecifiedBenchmarks(&reporter);
   benchmark::Shutdown();
