@@ -65,9 +65,11 @@ TEST_F(GenerateRun, AsksOnceBeforeOverwriting) {
   FindFiles(session);
   session.board.BoardNumber = 2;
   LoadHand(session);
+  session.board.PlayMode = true;
   const Board before = session.board;
   host.ExpectAsk(kOverwrite, "Tricklet", Answer::No);
   EXPECT_TRUE(Run(1, 4).refused);
+  EXPECT_TRUE(session.board.PlayMode) << "a play goes on when nothing was generated";
   EXPECT_EQ(session.library.BoardCount, 2);
   EXPECT_EQ(session.board.Hands, before.Hands);
   host.ExpectAsk(kOverwrite, "Tricklet", Answer::Yes);
