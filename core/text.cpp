@@ -78,6 +78,15 @@ int LeadingNumber(std::string_view text) {
   return negative ? -value : value;
 }
 
+std::string_view TakeLine(std::string_view& rest) {
+  constexpr std::string_view kPair = "\r\n";
+  const std::string_view line = rest.substr(0, rest.find_first_of(kPair));
+  rest.remove_prefix(line.size());
+  rest.remove_prefix(rest.starts_with(kPair) ? kPair.size()
+                                             : std::min<std::size_t>(rest.size(), 1));
+  return line;
+}
+
 bool IsValidUtf8(std::string_view bytes) {
   while (!bytes.empty()) {
     const std::size_t length = SequenceLength(bytes);

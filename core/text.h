@@ -22,6 +22,10 @@ bool EqualNoCase(std::string_view a, std::string_view b);
 /// beyond 16 bits come back as -32768 or 32767.
 int LeadingNumber(std::string_view text);
 
+/// Takes the line at the front of `rest`, without its end (CR LF, CR or LF). `rest` must not be
+/// empty.
+std::string_view TakeLine(std::string_view& rest);
+
 bool IsValidUtf8(std::string_view bytes);
 std::string Latin1ToUtf8(std::string_view bytes);
 /// Characters outside Latin-1 become "?".

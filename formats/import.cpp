@@ -7,6 +7,7 @@
 #include "core/fault.h"
 #include "core/text.h"
 #include "formats/file_type.h"
+#include "formats/lin_file.h"
 #include "formats/pbn_reader.h"
 #include "library/board_store.h"
 #include "library/file_io.h"
@@ -27,7 +28,9 @@ class LibrarySink : public BoardSink {
 
   void Store(const Board& board) override {
     if (firstStored_ == 0) {
-      RecycleLinData();
+      // Imported boards carry no results, so those of the boards that they replace go. The import
+      // does not depend on it.
+      RecycleLinData(session_);
       firstStored_ = board.BoardNumber;
     }
     session_.board = board;
@@ -39,13 +42,6 @@ class LibrarySink : public BoardSink {
   int FirstStored() const { return firstStored_; }
 
  private:
-  /// Imported boards carry no results, so those of the boards that they replace go. The import does
-  /// not depend on it.
-  void RecycleLinData() {
-    const fs::path linData = session_.LibraryPath() / "LIN.txt";
-    if (FileExists(linData)) session_.host.Recycle(linData);
-  }
-
   Session& session_;
   int firstStored_ = 0;
 };

@@ -22,12 +22,7 @@ class LineReader {
 
   std::optional<std::string_view> Next() {
     if (AtEnd()) return std::nullopt;
-    const auto end = rest_.find_first_of(kLineEnd);
-    const std::string_view line = rest_.substr(0, end);
-    rest_.remove_prefix(line.size());
-    const bool pair = rest_.substr(0, kLineEnd.size()) == kLineEnd;
-    rest_.remove_prefix(std::min(rest_.size(), pair ? kLineEnd.size() : 1));
-    return line;
+    return TakeLine(rest_);
   }
 
   /// The next line as a number; nothing when it is none. Blanks round it do not matter.

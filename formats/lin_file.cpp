@@ -1,0 +1,145 @@
+#include "formats/lin_file.h"
+
+#include <utility>
+
+#include "core/fault.h"
+#include "core/text.h"
+#include "library/file_io.h"
+
+namespace tricklet {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+/// `value` as one line that is no header.
+std::string LineOf(std::string_view value) {
+  std::string line;
+  line.reserve(value.size());
+  bool inLineEnd = false;
+  for (const char c : value) {
+    const bool lineEnd = c == '\r' || c == '\n';
+    const bool control = static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
+    if (!lineEnd || !inLineEnd) line += control ? ' ' : c;
+    inLineEnd = lineEnd;
+  }
+  if (line.starts_with('[')) line.insert(line.begin(), ' ');
+  return line;
+}
+
+void AppendLine(std::string& text, std::string_view line) {
+  text += line;
+  text += kLineEnd;
+}
+
+void AppendLines(std::string& text, std::string_view header,
+                 const std::vector<std::string>& values) {
+  AppendLine(text, header);
+  for (const std::string& value : values) {
+    if (!value.empty()) AppendLine(text, LineOf(value));
+  }
+}
+
+void AppendValue(std::string& text, std::string_view header, std::string_view value) {
+  AppendLine(text, header);
+  AppendLine(text, LineOf(value));
+}
+
+bool IsHeader(std::string_view line) {
+  return line.starts_with('[') && line.ends_with(']');
+}
+
+/// Takes the lines of one section after another.
+class LinFileParser {
+ public:
+  LinFile Parse(std::string_view text) {
+    std::string_view header;
+    if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+    while (!text.empty()) {
+      const std::string_view line = TakeLine(text);
+      if (IsHeader(line)) {
+        header = line;
+        if (EqualNoCase(header, "[teams]")) Teams();
+      } else if (!line.empty()) {
+        TakeValue(header, std::string(line));
+      }
+    }
+    return std::move(data_);
+  }
+
+ private:
+  void TakeValue(std::string_view header, std::string value) {
+    if (EqualNoCase(header, "[lin]")) {
+      data_.Lin.push_back(std::move(value));
+    } else if (EqualNoCase(header, "[names]")) {
+      data_.Names.push_back(std::move(value));
+    } else if (EqualNoCase(header, "[boardscoringmethod]") ||
+               EqualNoCase(header, "[boardscoring]")) {
+      data_.BoardScoringMethod = std::move(value);
+    } else if (EqualNoCase(header, "[boardscoringabb]")) {
+      data_.BoardScoringAbb = std::move(value);
+    } else if (EqualNoCase(header, "[teams]")) {
+      Teams().Teams.push_back(std::move(value));
+    } else if (EqualNoCase(header, "[teamsscoringmethod]")) {
+      Teams().TeamScoringMethod = std::move(value);
+    } else if (EqualNoCase(header, "[teamscoringabb]")) {
+      Teams().TeamScoringAbb = std::move(value);
+    }
+  }
+
+  LinTeams& Teams() {
+    if (!data_.TeamEvent) data_.TeamEvent.emplace();
+    return *data_.TeamEvent;
+  }
+
+  LinFile data_;
+};
+
+}  // namespace
+
+std::string LinFileText(const LinFile& data) {
+  std::string text;
+  AppendValue(text, "[BoardScoringMethod]", data.BoardScoringMethod);
+  AppendValue(text, "[BoardScoringAbb]", data.BoardScoringAbb);
+  if (data.TeamEvent) {
+    AppendLines(text, "[Teams]", data.TeamEvent->Teams);
+    AppendValue(text, "[TeamScoringMethod]", data.TeamEvent->TeamScoringMethod);
+    AppendValue(text, "[TeamScoringAbb]", data.TeamEvent->TeamScoringAbb);
+  }
+  AppendLines(text, "[Names]", data.Names);
+  AppendLines(text, "[LIN]", data.Lin);
+  return text;
+}
+
+LinFile ParseLinFile(std::string_view text) {
+  if (!IsValidUtf8(text)) return LinFileParser().Parse(Latin1ToUtf8(text));
+  return LinFileParser().Parse(text);
+}
+
+fs::path LinDataPath(const Session& session) {
+  return session.LibraryPath() / "LIN.txt";
+}
+
+LinFile LoadLinData(const Session& session) {
+  const fs::path path = LinDataPath(session);
+  if (!FileExists(path)) return {};
+  return ParseLinFile(ReadWholeFile(path, kMaxLinFileBytes));
+}
+
+void StoreLinData(const Session& session, const LinFile& data) {
+  const fs::path path = LinDataPath(session);
+  const std::string text = LinFileText(data);
+  if (text.size() > kMaxLinFileBytes) {
+    throw Fault(FaultNumber::DeviceError, "The file would be too large: " + PathText(path));
+  }
+  ReplaceWholeFile(path, text);
+}
+
+bool RecycleLinData(Session& session) {
+  const fs::path path = LinDataPath(session);
+  return !FileExists(path) || session.host.Recycle(path);
+}
+
+}  // namespace tricklet
