@@ -14,6 +14,7 @@ class Host;
 /// failures, so that a number means the same to a user as it did.
 enum class FaultNumber : int {
   SubscriptOutOfRange = 9,
+  TypeMismatch = 13,
   FileNotFound = 53,
   DeviceError = 57,
   DiskFull = 61,

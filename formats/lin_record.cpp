@@ -1,0 +1,180 @@
+#include "formats/lin_record.h"
+
+#include <algorithm>
+#include <array>
+
+#include "core/text.h"
+
+namespace tricklet {
+namespace {
+
+constexpr std::string_view kSuitLetters = "SHDC";
+constexpr std::string_view kRankLetters = "AKQJT98765432";
+
+/// The seats in the order of a record's hands and players.
+constexpr std::array kLinSeats{Seat::South, Seat::West, Seat::North, Seat::East};
+
+/// Cards of a text of suit and rank letters: one suit letter, then its ranks.
+class CardText {
+ public:
+  /// The card that `c` completes; nothing when it is a suit letter or none of both.
+  std::optional<Card> Next(char c) {
+    const char letter = ToUpper(c);
+    if (const auto suit = kSuitLetters.find(letter); suit != std::string_view::npos) {
+      suit_ = static_cast<Suit>(suit);
+      return std::nullopt;
+    }
+    const auto rank = kRankLetters.find(letter);
+    if (!suit_ || rank == std::string_view::npos) return std::nullopt;
+    return Card{*suit_, static_cast<Rank>(rank)};
+  }
+  void NewHand() { suit_.reset(); }
+
+ private:
+  std::optional<Suit> suit_;
+};
+
+void GiveCard(LinRecord& record, Card card, Seat seat) {
+  if (const int holder = SeatHolding(record.hands, card); holder >= 0) {
+    record.repeatsCard = true;
+    record.hands[static_cast<Seat>(holder)][card.suit].Remove(card.rank);
+  }
+  AddCard(record.hands, card, seat);
+  record.hasDeal = true;
+}
+
+bool IsEmpty(const PerSuit<Holding>& hand) {
+  return std::all_of(hand.begin(), hand.end(), [](Holding holding) { return holding.Empty(); });
+}
+
+/// Gives the one hand that is not given what the other three leave.
+void CompleteDeal(HandTable& hands) {
+  if (std::count_if(hands.begin(), hands.end(), IsEmpty) != 1) return;
+  PerSuit<Holding>& fourth = *std::find_if(hands.begin(), hands.end(), IsEmpty);
+  for (const Suit suit : kAllSuits) {
+    Holding held;
+    for (const Seat seat : kAllSeats) held = held | hands[seat][suit];
+    fourth[suit] = Holding::FromBits(Holding::kAllBits) - held;
+  }
+}
+
+void ReadDeal(std::string_view value, LinRecord& record) {
+  if (record.hasDeal || value.empty()) return;
+  const int digit = value[0] - '1';
+  if (digit >= 0 && digit < kSeats) record.dealer = kLinSeats.at(static_cast<std::size_t>(digit));
+  std::size_t hand = 0;
+  CardText cards;
+  for (const char c : value.substr(1)) {
+    if (c == ',') {
+      if (++hand == kLinSeats.size()) break;
+      cards.NewHand();
+    } else if (const auto card = cards.Next(c)) {
+      GiveCard(record, *card, kLinSeats.at(hand));
+    }
+  }
+  CompleteDeal(record.hands);
+}
+
+/// One call of an "mb" field, or several that stand there without a mark between them ("1Cp1Hp").
+void ReadCalls(std::string_view value, std::vector<Call>& calls) {
+  std::string text(value);
+  std::erase(text, '!');  // the alert
+  if (const auto call = Call::FromText(text)) {
+    calls.push_back(*call);
+    return;
+  }
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool bid = text[i] >= '1' && text[i] <= '7';
+    if (const auto call = Call::FromText(std::string_view(text).substr(i, bid ? 2 : 1))) {
+      calls.push_back(*call);
+      if (bid) ++i;
+    }
+  }
+}
+
+/// The names of the open room, or of the closed one where the field has those too.
+void ReadPlayers(std::string_view value, LinRecord& record) {
+  std::array<std::string_view, std::size_t{2} * kSeats> names{};
+  std::size_t count = 0;
+  for (; count < names.size(); ++count) {
+    const auto comma = value.find(',');
+    names.at(count) = Trim(value.substr(0, comma));
+    if (comma == std::string_view::npos) break;
+    value.remove_prefix(comma + 1);
+  }
+  const bool second = record.closedRoom && count + 1 >= names.size();
+  for (std::size_t i = 0; i < kLinSeats.size(); ++i) {
+    record.players[kLinSeats.at(i)] = names.at(i + (second ? kLinSeats.size() : 0));
+  }
+}
+
+void ReadPlay(std::string_view value, std::vector<Card>& play) {
+  CardText cards;
+  for (const char c : value) {
+    if (const auto card = cards.Next(c)) play.push_back(*card);
+  }
+}
+
+/// "o12", "c12" or "12", with or without more behind it.
+void ReadRoom(std::string_view value, LinRecord& record, int& number) {
+  if (value.empty()) return;
+  const char room = ToUpper(value[0]);
+  record.closedRoom = room == 'C';
+  if (room == 'O' || room == 'C') value.remove_prefix(1);
+  number = std::max(LeadingNumber(value), 0);
+}
+
+void ReadHeader(std::string_view value, LinRecord& record) {
+  constexpr std::string_view kBoard = "Board ";
+  if (EqualNoCase(value.substr(0, kBoard.size()), kBoard)) {
+    record.boardNumber = std::max(LeadingNumber(value.substr(kBoard.size())), 0);
+  }
+}
+
+void ReadResult(const LinField& field, LinRecord& record) {
+  const auto tag = std::find(LinResultTagText.begin(), LinResultTagText.end(), field.tag);
+  if (tag == LinResultTagText.end()) return;
+  record.results[static_cast<LinResultTag>(tag - LinResultTagText.begin())] = field.value;
+}
+
+}  // namespace
+
+LinRecord ParseLinRecord(std::string_view text) {
+  LinRecord record;
+  int roomNumber = 0;
+  std::string_view players;
+  for (LinField field; NextLinField(text, field);) {
+    if (field.tag == "qx") {
+      ReadRoom(field.value, record, roomNumber);
+    } else if (field.tag == "ah") {
+      ReadHeader(field.value, record);
+    } else if (field.tag == "md") {
+      ReadDeal(field.value, record);
+    } else if (field.tag == "mb") {
+      record.hasAuction = true;
+      ReadCalls(field.value, record.calls);
+    } else if (field.tag == "pn") {
+      players = field.value;
+    } else if (field.tag == "pc") {
+      ReadPlay(field.value, record.play);
+    } else if (field.tag == "mc") {
+      record.claim = LeadingNumber(field.value);
+    } else {
+      ReadResult(field, record);
+    }
+  }
+  ReadPlayers(players, record);
+  if (record.boardNumber == 0) record.boardNumber = roomNumber;
+  return record;
+}
+
+Board BoardOfLinRecord(const LinRecord& record) {
+  Board board;
+  board.BoardNumber = record.boardNumber;
+  board.Hands = record.hands;
+  for (const Call call : record.calls) board.Calls.Add(call);
+  GetContract(board);
+  return board;
+}
+
+}  // namespace tricklet

@@ -1,0 +1,92 @@
+#include "formats/lin_text.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "core/fault.h"
+#include "core/notation.h"
+
+namespace tricklet {
+namespace {
+
+std::optional<unsigned> HexDigit(char c) {
+  constexpr unsigned kTen = 10;
+  if (c >= '0' && c <= '9') return static_cast<unsigned>(c - '0');
+  if (c >= 'A' && c <= 'F') return kTen + static_cast<unsigned>(c - 'A');
+  if (c >= 'a' && c <= 'f') return kTen + static_cast<unsigned>(c - 'a');
+  return std::nullopt;
+}
+
+/// One pass: what an escape stood for is never taken for the beginning of another.
+std::string DecodePercent(std::string_view text) {
+  std::string decoded;
+  decoded.reserve(text.size());
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] != '%') {
+      decoded += text[i];
+      continue;
+    }
+    const auto high = i + 2 < text.size() ? HexDigit(text[i + 1]) : std::nullopt;
+    const auto low = high ? HexDigit(text[i + 2]) : std::nullopt;
+    if (!low) throw Fault(FaultNumber::TypeMismatch, "A percent escape is not complete");
+    decoded += static_cast<char>((*high << 4U) | *low);
+    i += 2;
+  }
+  return decoded;
+}
+
+std::string_view TrimLines(std::string_view text) {
+  constexpr std::string_view kBlanks = " \t\r\n";
+  const auto first = text.find_first_not_of(kBlanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+/// What stands before the next bar, which is taken too.
+std::string_view TakeToBar(std::string_view& rest) {
+  const auto bar = rest.find('|');
+  const std::string_view taken = rest.substr(0, bar);
+  rest = bar == std::string_view::npos ? std::string_view() : rest.substr(bar + 1);
+  return TrimLines(taken);
+}
+
+bool IsTag(std::string_view text) {
+  constexpr std::string_view kOwn = "qen";
+  const bool length = text.size() == 2 || (text.starts_with(kOwn) && text.size() > kOwn.size() &&
+                                           text.size() <= kOwn.size() + 2);
+  return length &&
+         std::all_of(text.begin(), text.end(), [](char c) { return c >= 'a' && c <= 'z'; });
+}
+
+}  // namespace
+
+std::string ReadLinData(std::string_view text) {
+  std::string decoded = DecodePercent(text);
+  CleanLinNames(decoded);
+  return decoded;
+}
+
+void CleanLinNames(std::string& text) {
+  constexpr std::string_view kTag = "|pn|";
+  const auto tag = text.find(kTag.substr(0, kTag.size() - 1));
+  if (tag == std::string::npos) return;
+  const std::size_t begin = std::min(tag + kTag.size(), text.size());
+  for (int name = 0; name < kSeats; ++name) {
+    const std::size_t end = std::min(text.find('|', begin), text.size());
+    const std::size_t mark = text.find('#', begin);
+    if (mark >= end) return;
+    text.erase(mark, std::min(text.find(',', mark), end) - mark);
+  }
+}
+
+bool NextLinField(std::string_view& rest, LinField& field) {
+  while (!rest.empty()) {
+    field.tag = TakeToBar(rest);
+    if (!IsTag(field.tag)) continue;
+    field.value = TakeToBar(rest);
+    return true;
+  }
+  return false;
+}
+
+}  // namespace tricklet

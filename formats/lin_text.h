@@ -1,0 +1,34 @@
+// The text of LIN hand records: percent escapes, and the bars between tags and values.
+//
+// A record is a row of pairs "tag|value|": "md|3S..,S..,S..,|", "mb|1N|", "pg||". Tags are two
+// lower-case letters; a scorer's own tags in "LIN.txt" are "qen" and one or two more. Text is kept
+// as the bytes that it came in.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tricklet {
+
+/// Puts the character itself in the place of each percent escape ("%2C" becomes ","; "%25" becomes
+/// "%" and is not decoded again), and takes from each name behind "|pn" the part from its "#" on.
+/// Throws `Fault` kTypeMismatch for a "%" without two hexadecimal digits behind it.
+std::string ReadLinData(std::string_view text);
+
+/// Takes from each of the first four names behind "|pn|" the part from its "#" on:
+/// "|pn|Ann#12,Bob#7,Cy,Di#3|" becomes "|pn|Ann,Bob,Cy,Di|". A field without an end reaches to the
+/// end of the text.
+void CleanLinNames(std::string& text);
+
+/// One pair of a record.
+struct LinField {
+  std::string_view tag;
+  std::string_view value;  ///< as it stands, without blanks and line ends at both ends
+};
+
+/// Takes the next pair from the front of `rest`; false when there is none. Blanks, line ends and
+/// further bars before a tag do not matter, and neither does what is no tag where one should stand:
+/// the reading goes on behind its bar. A value without its bar reaches to the end.
+bool NextLinField(std::string_view& rest, LinField& field);
+
+}  // namespace tricklet
