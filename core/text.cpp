@@ -78,6 +78,12 @@ int LeadingNumber(std::string_view text) {
   return negative ? -value : value;
 }
 
+std::string ZeroPadded(int number, std::size_t digits) {
+  std::string text = std::to_string(number);
+  if (text.size() < digits) text.insert(0, digits - text.size(), '0');
+  return text;
+}
+
 std::string_view TakeLine(std::string_view& rest) {
   constexpr std::string_view kPair = "\r\n";
   const std::string_view line = rest.substr(0, rest.find_first_of(kPair));

@@ -22,6 +22,9 @@ bool EqualNoCase(std::string_view a, std::string_view b);
 /// beyond 16 bits come back as -32768 or 32767.
 int LeadingNumber(std::string_view text);
 
+/// A number that is not negative in at least so many digits: 7 as "007".
+std::string ZeroPadded(int number, std::size_t digits);
+
 /// Takes the line at the front of `rest`, without its end (CR LF, CR or LF). `rest` must not be
 /// empty.
 std::string_view TakeLine(std::string_view& rest);

@@ -5,7 +5,9 @@
 
 #include "core/fault.h"
 #include "core/text.h"
+#include "formats/dlm_writer.h"
 #include "formats/file_type.h"
+#include "formats/lin_writer.h"
 #include "formats/pbn_writer.h"
 #include "library/board_file.h"
 #include "library/board_store.h"
@@ -35,30 +37,54 @@ struct ExportRun {
   bool cancelled = false;
 };
 
-ExportRun CollectPBN(Session& session, const ExportRange& range) {
+/// Loads board `number` of the range for writing; false when it is incomplete, which the run
+/// notes, or when the run was cancelled.
+bool LoadForExport(Session& session, const ExportRange& range, int number, ExportRun& run,
+                   Board& board) {
+  board.BoardNumber = number;
+  bool complete = false;
+  LoadHandBasic(session, board, complete);
+  if (!session.host.Step("Exporting board " + std::to_string(number), number - range.first,
+                         range.last - range.first + 1)) {
+    run.cancelled = true;
+    return false;
+  }
+  if (!complete) run.incomplete.push_back(number);
+  return complete;
+}
+
+void CollectPBN(Session& session, const ExportRange& range, ExportRun& run) {
   const PbnOptions options{session.settings.PBNBids, session.settings.PBNShark};
-  const WorkScope work(session.host);
-  const BatchScope batch(session);
-  ExportRun run;
   Board board;
   for (int number = range.first; number <= range.last; ++number) {
-    board.BoardNumber = number;
-    bool complete = false;
-    LoadHandBasic(session, board, complete);
-    if (!session.host.Step("Exporting board " + std::to_string(number), number - range.first,
-                           range.last - range.first + 1)) {
-      run.cancelled = true;
-      break;
-    }
-    if (complete) {
-      run.text += PbnRecord(board, session.LibraryName(), options);
-    } else {
-      run.incomplete.push_back(number);
-    }
+    const bool complete = LoadForExport(session, range, number, run, board);
+    if (run.cancelled) break;
+    if (complete) run.text += PbnRecord(board, session.LibraryName(), options);
     run.text += "\r\n";
   }
   run.text += "\r\n";
-  return run;
+}
+
+void CollectDLM(Session& session, const ExportRange& range, ExportRun& run) {
+  run.text = DLMHeader(range.first, range.last);
+  Board board;
+  for (int number = kFirstBoardNumber; number <= kLastDLMBoard; ++number) {
+    run.text += DLMBoardHead(number);
+    if (number < range.first || number > range.last) {
+      run.text += DLMPlaceholderLine(number);
+    } else if (LoadForExport(session, range, number, run, board)) {
+      run.text += DLMBoardLine(number, board.Hands);
+    }
+    if (run.cancelled) break;
+  }
+  run.text += DLMFooter();
+}
+
+void CollectLIN(Session& session, const ExportRange& range, ExportRun& run) {
+  Board board;
+  for (int number = range.first; number <= range.last && !run.cancelled; ++number) {
+    if (LoadForExport(session, range, number, run, board)) run.text += LinRecordLine(board);
+  }
 }
 
 std::string IncompleteText(const std::vector<int>& incomplete) {
@@ -81,16 +107,35 @@ void ReportRun(Session& session, const ExportRun& run, const fs::path& path) {
   }
 }
 
-bool WritePBN(Session& session, const ExportRange& range, const fs::path& path) {
-  if (!CheckExportRange(session, range)) return false;
-  if (session.settings.AutoMakeable && session.GetSolver) {
-    // All missing tables together take the solver's batches; one by one they would not.
-    if (AnalyseBoards(session, session.GetSolver(), range.first, range.last, false).cancelled) {
-      session.host.Tell("Export cancelled");
-      return false;
-    }
+using Collector = void (*)(Session&, const ExportRange&, ExportRun&);
+
+/// Nothing when no file of the type is written.
+Collector CollectorOf(const std::string& type) {
+  if (type == "pbn") return CollectPBN;
+  if (type == "dlm") return CollectDLM;
+  return type == "lin" ? CollectLIN : nullptr;
+}
+
+/// All missing tables together take the solver's batches; one by one they would not. False when
+/// it was cancelled.
+bool AddMissingTables(Session& session, const ExportRange& range) {
+  if (!session.settings.AutoMakeable || !session.GetSolver) return true;
+  if (!AnalyseBoards(session, session.GetSolver(), range.first, range.last, false).cancelled) {
+    return true;
   }
-  const ExportRun run = CollectPBN(session, range);
+  session.host.Tell("Export cancelled");
+  return false;
+}
+
+bool WriteRange(Session& session, const ExportRange& range, const fs::path& path,
+                Collector collect) {
+  if (!CheckExportRange(session, range) || !AddMissingTables(session, range)) return false;
+  ExportRun run;
+  {
+    const WorkScope work(session.host);
+    const BatchScope batch(session);
+    collect(session, range, run);
+  }
   try {
     ReplaceWholeFile(path, run.text);
   } catch (const Fault& fault) {
@@ -104,7 +149,7 @@ bool WritePBN(Session& session, const ExportRange& range, const fs::path& path) 
 }  // namespace
 
 const std::vector<std::string>& ExportTypes() {
-  static const std::vector<std::string> kTypes{"pbn"};
+  static const std::vector<std::string> kTypes{"pbn", "dlm", "lin"};
   return kTypes;
 }
 
@@ -165,11 +210,10 @@ bool Export(Session& session, const ExportRange& range, fs::path& path) {
 bool ExportFile(Session& session, const ExportRange& range, const fs::path& path) {
   // What is written is what is stored, so changes to the board in hand are settled first.
   if (CheckSaveChanges(session) == Answer::Cancel) return false;
-  const std::string type = FileTypeOf(path);
-  if (type == "pbn") return WritePBN(session, range, path);
-  const bool known = type == "dlm" || type == "lin";
-  session.host.Tell(known ? "This version of Tricklet cannot write " + type + " files yet"
-                          : "The file must be of type pbn, dlm or lin");
+  if (const Collector collect = CollectorOf(FileTypeOf(path))) {
+    return WriteRange(session, range, path, collect);
+  }
+  session.host.Tell("The file must be of type pbn, dlm or lin");
   return false;
 }
 

@@ -13,7 +13,7 @@ namespace tricklet {
 struct ExportRange {
   int first = 0;
   int last = 0;      ///< 0: the dialog was cancelled
-  std::string type;  ///< "pbn"
+  std::string type;  ///< "pbn", "dlm" or "lin"
 };
 
 /// The types that can be written, in the order of `optType`.

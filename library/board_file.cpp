@@ -105,9 +105,8 @@ bool ReadTable(LineReader& lines, Board& board) {
 }  // namespace
 
 std::string BoardFileName(int boardNumber) {
-  std::string digits = std::to_string(boardNumber);
-  if (digits.size() < 3) digits.insert(0, 3 - digits.size(), '0');
-  return digits + std::string(kEnding);
+  constexpr std::size_t kDigits = 3;
+  return ZeroPadded(boardNumber, kDigits) + std::string(kEnding);
 }
 
 int BoardNumberOfFile(std::string_view name) {

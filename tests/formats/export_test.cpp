@@ -180,5 +180,88 @@ TEST_F(ExportTest, TheChooserStartsFromTheLastFile) {
   EXPECT_EQ(SuggestedExportPath("abc", "pbn"), "abc");
 }
 
+/// The lines of the file at `path` that begin with `beginning`.
+std::vector<std::string> LinesOf(const fs::path& path, std::string_view beginning) {
+  std::vector<std::string> lines;
+  const std::string text = ReadFile(path);
+  for (std::string_view rest = text; !rest.empty();) {
+    const std::string_view line = TakeLine(rest);
+    if (line.starts_with(beginning)) lines.emplace_back(line);
+  }
+  return lines;
+}
+
+TEST_F(ExportTest, WritesLinRecords) {
+  path.replace_extension("lin");
+  for (const int n : {1, 4, 7, 13, 16}) PutBoard(n);
+  const struct {
+    int board;
+    const char* start;
+    const char* end;
+  } kCases[] = {
+      {1, "qx|o1|md|3", "|rh||ah|Board 1|sv|0|pg||\r\n"},
+      {4, "qx|o4|md|2", "|rh||ah|Board 4|sv|B|pg||\r\n"},
+      {7, "qx|o7|md|1", "|rh||ah|Board 7|sv|B|pg||\r\n"},
+      {13, "qx|o13|md|3", "|rh||ah|Board 13|sv|B|pg||\r\n"},
+      {16, "qx|o16|md|2", "|rh||ah|Board 16|sv|E|pg||\r\n"},
+  };
+  for (const auto& c : kCases) {
+    ExpectCreated();
+    EXPECT_TRUE(ExportFile(session, {c.board, c.board, "lin"}, path));
+    EXPECT_EQ(ReadFile(path), std::string(c.start) + "SHDAKQJT98765432C,SHDCAKQJT98765432," +
+                                  "SAKQJT98765432HDC" + c.end);
+  }
+}
+
+TEST_F(ExportTest, WritesAllBoardsOfADealingMachine) {
+  path.replace_extension("dlm");
+  for (int n = 5; n <= 7; ++n) PutBoard(n);
+  WriteFile(session.BoardPath(6), "nothing");
+  host.ExpectTell("Can't read the file " + PathText(session.BoardPath(6)));
+  host.ExpectTell("1 hand is incomplete:-\n6 ");
+  EXPECT_FALSE(ExportFile(session, {5, 7, "dlm"}, path));
+  const auto boards = LinesOf(path, "Board ");
+  ASSERT_EQ(boards.size(), 98U) << "all but the incomplete one";
+  EXPECT_EQ(boards[0], "Board 01=aaaaaabffffffkkkkkklpppppp015");
+  EXPECT_EQ(boards[5], "Board 07=aaaaaabffffffkkkkkklpppppp009");
+  EXPECT_EQ(LinesOf(path, "Duplicates ").size(), 99U);
+  EXPECT_EQ(LinesOf(path, "Property ").back(), "Property 99=1");
+  EXPECT_EQ(LinesOf(path, "Checksum="), std::vector<std::string>{"Checksum=002"});
+  EXPECT_TRUE(ReadFile(path).ends_with(
+      "lpppppp109\r\n[STARTUP]\r\nStatistics=Yes\r\nAdd filename=Yes\r\nMakeable=1\r\n"
+      "Reversed=0\r\n"));
+  EXPECT_EQ(host.steps.size(), 3U);
+}
+
+TEST_F(ExportTest, BoardsAbove99AreNotWrittenForADealingMachine) {
+  path.replace_extension("dlm");
+  for (int n = 95; n <= 120; ++n) PutBoard(n);
+  ExpectCreated();
+  EXPECT_TRUE(ExportFile(session, {95, 120, "dlm"}, path));
+  EXPECT_EQ(LinesOf(path, "Board ").size(), 99U);
+  EXPECT_EQ(host.steps.back(), "Exporting board 99");
+  EXPECT_EQ(LinesOf(path, "To board="), std::vector<std::string>{"To board=120"});
+}
+
+TEST_F(ExportTest, EveryTypeReportsAndCancelsAlike) {
+  for (int n = 1; n <= 3; ++n) PutBoard(n);
+  const struct {
+    const char* type;
+    const char* line;
+  } kCases[] = {{"lin", "qx|"}, {"dlm", "Board "}};
+  for (const auto& c : kCases) {
+    path.replace_extension(c.type);
+    host.steps.clear();
+    host.cancelAtStep = 2;
+    host.ExpectTell("Export cancelled");
+    EXPECT_FALSE(ExportFile(session, {1, 3, c.type}, path));
+    EXPECT_EQ(LinesOf(path, c.line).size(), 1U) << c.type;
+    host.cancelAtStep = 0;
+    host.ExpectTell("1 hands are missing in the specified range:\nHands 4");
+    EXPECT_FALSE(ExportFile(session, {1, 4, c.type}, path));
+    EXPECT_EQ(LinesOf(path, c.line).size(), 1U) << "nothing is written: " << c.type;
+  }
+}
+
 }  // namespace
 }  // namespace tricklet

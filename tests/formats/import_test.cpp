@@ -135,6 +135,29 @@ TEST_F(ImportTest, ALostLibraryFolderIsReported) {
   EXPECT_EQ(session.library.BoardCount, 0);
 }
 
+TEST_F(ImportTest, ReadsDlmFiles) {
+  const std::string deal = "blblblblblblblblblblblblbl";
+  const std::string boards = "Board 02=" + deal + "012\r\nBoard 01=" + deal + "015\r\n";
+  WriteFile(session.LibraryPath() / "LIN.txt", "[lin]\r\n");
+  host.ExpectTell("2 hands (1-2) have been saved to the library - Club");
+  ImportFile(session, File("[Document]\r\nTo board=2\r\n" + boards, "two.DLM"));
+  EXPECT_EQ(session.board.BoardNumber, 1) << "the lowest";
+  EXPECT_EQ(HoldingText(session.board.Hands[Seat::North][Suit::Spades]), " A 10 6 2");
+  EXPECT_EQ(host.recycled, std::vector<std::string>{"LIN.txt"});
+
+  host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
+  host.ExpectTell("Can't read this line:\nboard 03=aaa");
+  host.ExpectTell("No hands have been saved to the library - Club");
+  EXPECT_TRUE(ImportFile(session, File(boards + "Board 03=aaa\r\n", "bad.dlm")).failed);
+
+  host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
+  host.ExpectAskWith("Error no. 9\n", Answer::Yes);
+  const fs::path path = File("Board 05=" + deal.substr(0, 25) + "q\r\n", "worse.dlm");
+  host.ExpectTell("Cannot read the file " + PathText(path));
+  EXPECT_TRUE(ImportFile(session, path).failed);
+  EXPECT_EQ(session.library.BoardCount, 2);
+}
+
 TEST_F(ImportTest, ResultsOfTheReplacedBoardsGoToTheRecycleBin) {
   WriteFile(session.LibraryPath() / "LIN.txt", "[lin]\r\n");
   host.ExpectTell("Hand 1 has been saved to the library - Club");

@@ -1,38 +1,21 @@
 #include "formats/pbn_reader.h"
 
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "core/fault.h"
 #include "core/statistics.h"
+#include "tests/support/collector.h"
 
 namespace tricklet {
 namespace {
 
-class Collector : public BoardSink {
- public:
-  void Store(const Board& board) override { boards.push_back(board); }
-  bool Begin(int boardNumber, int done, int total) override {
-    EXPECT_GE(done, 0);
-    EXPECT_LE(done, total);
-    begun.push_back(boardNumber);
-    return static_cast<int>(begun.size()) != cancelAt;
-  }
-  std::vector<Board> boards;
-  std::vector<int> begun;
-  int cancelAt = 0;
-};
+using test::CallsOf;
+using test::Collector;
 
 const std::string kDeal =
     "[Deal \"N:A873.AJ83.52.Q32 95.74.AQJ84.T754 QT62.KQ62.K93.K8 KJ4.T95.T76.AJ96\"]\n";
-
-std::string CallsOf(const Board& board) {
-  std::string text;
-  for (const Call call : board.Calls) text += (text.empty() ? "" : " ") + call.Text();
-  return text;
-}
 
 /// The one board of a file of a header line, Board 5, and `body`.
 Board ReadOne(const std::string& body) {

@@ -1,0 +1,133 @@
+#include "formats/import_run.h"
+
+#include <algorithm>
+#include <exception>
+
+#include "core/fault.h"
+#include "core/text.h"
+#include "formats/lin_file.h"
+#include "library/board_store.h"
+#include "library/file_io.h"
+#include "library/library_store.h"
+
+namespace tricklet {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The records of a whole season take a few MiB; more than this is no hand-record file.
+constexpr std::size_t kMaxHandRecordBytes = std::size_t{256} * 1024 * 1024;
+
+/// Stores each board in the current library and shows how far the reading has come.
+class LibrarySink : public BoardSink {
+ public:
+  explicit LibrarySink(Session& session) : session_(session) {}
+
+  void Store(const Board& board) override {
+    if (firstStored_ == 0) {
+      // The results of the boards that are replaced go with them. The import does not depend on it.
+      RecycleLinData(session_);
+      firstStored_ = board.BoardNumber;
+    }
+    session_.board = board;
+    StoreBoard(session_);
+  }
+  bool Begin(int boardNumber, int done, int total) override {
+    return session_.host.Step("Importing board " + std::to_string(boardNumber), done, total);
+  }
+  int FirstStored() const { return firstStored_; }
+
+ private:
+  Session& session_;
+  int firstStored_ = 0;
+};
+
+std::string ResultText(const Session& session, const ReadResult& result) {
+  std::string text = "No hands have";
+  if (result.boardsSaved == 1) {
+    text = "Hand " + std::to_string(result.firstBoard) + " has";
+  } else if (result.boardsSaved > 1) {
+    text = std::to_string(result.boardsSaved) + " hands (" + std::to_string(result.firstBoard) +
+           "-" + std::to_string(result.lastBoard) + ") have";
+  }
+  return text + " been saved to the library - " + session.LibraryName();
+}
+
+bool MayOverwriteLibrary(Session& session) {
+  CountHands(session);
+  if (session.library.BoardCount == 0) return true;
+  return session.host.Ask("Overwrite existing hands in library " + session.LibraryName() + "?",
+                          "Hands already in library", Buttons::YesNo) == Answer::Yes;
+}
+
+/// Reads and stores; false when an unexpected failure ended it.
+bool RunReader(Session& session, std::string_view text, const TextReader& reader, LibrarySink& sink,
+               ReadResult& result) {
+  try {
+    const WorkScope work(session.host);
+    const BatchScope batch(session);
+    result = reader(text, sink);
+    return true;
+  } catch (const std::exception& failure) {
+    ErrorReport(session.host, FaultFrom(failure));
+    return false;
+  }
+}
+
+/// Makes board `number` the current one and lists the library again.
+void ShowLibrary(Session& session, int number) {
+  session.board.BoardNumber = number;
+  FindFiles(session);
+  session.board.BoardNumber = std::clamp(number, kFirstBoardNumber, session.library.MaxBoard);
+  LoadHand(session);
+}
+
+ImportOutcome TellUnreadable(Session& session, const std::string& unreadable, int boardBefore) {
+  session.host.Tell(unreadable);
+  ShowLibrary(session, boardBefore);
+  return {.failed = true};
+}
+
+/// The board to show after an import: the first of the file, or the first that could be stored.
+int BoardToShow(const ReadResult& result, const LibrarySink& sink) {
+  return IsStorable(result.firstBoard) ? result.firstBoard : sink.FirstStored();
+}
+
+}  // namespace
+
+bool MayImport(Session& session) {
+  if (CheckSaveChanges(session) == Answer::Cancel) return false;
+  if (MayOverwriteLibrary(session)) return true;
+  LoadHand(session);
+  return false;
+}
+
+ImportOutcome StoreText(Session& session, std::string_view text, const std::string& unreadable,
+                        const TextReader& reader) {
+  const int boardBefore = session.board.BoardNumber;
+  ReadResult result;
+  LibrarySink sink(session);
+  session.board.HandChanged = false;
+  if (!RunReader(session, text, reader, sink, result)) {
+    return TellUnreadable(session, unreadable, boardBefore);
+  }
+  if (result.badLine) session.host.Tell("Can't read this line:\n" + Showable(*result.badLine));
+  session.host.Tell(ResultText(session, result));
+  ShowLibrary(session, result.boardsSaved > 0 ? BoardToShow(result, sink) : boardBefore);
+  return {.boardsSaved = result.boardsSaved,
+          .cancelled = result.cancelled,
+          .failed = result.badLine.has_value()};
+}
+
+ImportOutcome StoreFile(Session& session, const fs::path& path, const TextReader& reader) {
+  const std::string unreadable = "Cannot read the file " + PathText(path);
+  std::string text;
+  try {
+    text = ReadWholeFile(path, kMaxHandRecordBytes);
+  } catch (const Fault&) {
+    return TellUnreadable(session, unreadable, session.board.BoardNumber);
+  }
+  return StoreText(session, text, unreadable, reader);
+}
+
+}  // namespace tricklet
