@@ -6,7 +6,6 @@
 #include "core/fault.h"
 #include "core/text.h"
 #include "formats/export.h"
-#include "formats/import.h"
 #include "library/board_store.h"
 #include "library/file_io.h"
 #include "library/library_store.h"
@@ -122,12 +121,12 @@ ExitCode Show(const Context& context, int boardNumber) {
   return ExitCode::Done;
 }
 
-ExitCode ImportFiles(const Context& context, const std::vector<fs::path>& files,
+ExitCode ImportFiles(const Context& context, Importer import, const std::vector<fs::path>& files,
                      const std::function<bool()>& ended) {
   if (!OpenLibrary(context, true)) return ExitCode::Refused;
   bool allDone = true;
   for (const fs::path& file : files) {
-    const ImportOutcome outcome = ImportFile(context.session, file);
+    const ImportOutcome outcome = import(context.session, file);
     allDone = allDone && outcome.boardsSaved > 0 && !outcome.failed && !outcome.cancelled;
     if (outcome.cancelled || ended()) return ExitCode::Refused;
   }

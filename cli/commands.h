@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "formats/import.h"
 #include "library/session.h"
 
 namespace tricklet::cli {
@@ -17,6 +18,9 @@ struct Context {
   Session& session;
   std::ostream& data;
 };
+
+/// An import of one file into the current library: `ImportFile`, `ImportLinFile`.
+using Importer = ImportOutcome (*)(Session&, const std::filesystem::path&);
 
 enum class ExitCode : int { Done = 0, Refused = 1, Usage = 2 };
 
@@ -31,7 +35,8 @@ ExitCode Libraries(const Context& context);
 ExitCode Boards(const Context& context, bool longForm);
 ExitCode Show(const Context& context, int boardNumber);
 /// Ends early when `ended` says that the program is to end.
-ExitCode ImportFiles(const Context& context, const std::vector<std::filesystem::path>& files,
+ExitCode ImportFiles(const Context& context, Importer import,
+                     const std::vector<std::filesystem::path>& files,
                      const std::function<bool()>& ended);
 ExitCode ExportBoards(const Context& context, const std::string& first, const std::string& last,
                       const std::filesystem::path& file);

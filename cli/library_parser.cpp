@@ -5,6 +5,7 @@
 
 #include "cli/command.h"
 #include "core/text.h"
+#include "formats/import_lin.h"
 
 namespace tricklet::cli {
 namespace {
@@ -39,13 +40,14 @@ void AddListings(CLI::App& app, Command& command) {
   });
 }
 
-void AddImport(CLI::App& app, Command& command) {
+void AddImporter(CLI::App& app, Command& command, const char* name, const char* description,
+                 Importer import) {
   const auto files = std::make_shared<std::vector<std::string>>();
-  auto* reader = app.add_subcommand("import", "Store the boards of hand-record files (pbn)");
+  auto* reader = app.add_subcommand(name, description);
   reader->add_option("FILE", *files, "Files, told apart by their ending")->required();
-  reader->callback([&command, files] {
-    command = [files](const Context& context, const ConsoleHost& host) {
-      return ImportFiles(context, Paths(*files), [&host] { return host.Ended(); });
+  reader->callback([&command, files, import] {
+    command = [files, import](const Context& context, const ConsoleHost& host) {
+      return ImportFiles(context, import, Paths(*files), [&host] { return host.Ended(); });
     };
   });
 }
@@ -57,7 +59,7 @@ void AddExport(CLI::App& app, Command& command) {
     std::string file;
   };
   const auto range = std::make_shared<Range>();
-  auto* writer = app.add_subcommand("export", "Write boards to a hand-record file (pbn)");
+  auto* writer = app.add_subcommand("export", "Write boards to a hand-record file (pbn, dlm, lin)");
   writer->add_option("FIRST", range->first, "First board")->required();
   writer->add_option("LAST", range->last, "Last board")->required();
   writer->add_option("FILE", range->file, "File; its ending selects the format")->required();
@@ -94,7 +96,10 @@ void AddBoardArgument(CLI::App& command, int& board) {
 
 void AddLibraryCommands(CLI::App& app, Command& command) {
   AddListings(app, command);
-  AddImport(app, command);
+  AddImporter(app, command, "import", "Store the boards of hand-record files (pbn, dlm)",
+              ImportFile);
+  AddImporter(app, command, "import-lin", "Store the boards and records of LIN files",
+              ImportLinFile);
   AddExport(app, command);
   AddSettings(app, command);
 }

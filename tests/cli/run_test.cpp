@@ -65,6 +65,20 @@ TEST_F(CommandLine, ImportsListsShowsAndExports) {
   EXPECT_FALSE(store.Read("macro", "library")) << "root and library are for one call only";
 }
 
+TEST_F(CommandLine, CarriesBoardsThroughEveryType) {
+  ASSERT_EQ(Run({"--library", "A", "import", File("in.pbn")}), 0);
+  EXPECT_EQ(Run({"--library", "A", "export", "7", "7", File("out.lin")}), 0);
+  EXPECT_EQ(Run({"--library", "B", "import-lin", File("out.lin")}), 0);
+  EXPECT_EQ(err, "Hand 7 has been saved to the library - B\n");
+  EXPECT_EQ(Run({"--library", "B", "import-lin", File("in.pbn")}), 1) << "the type is asked for";
+  EXPECT_EQ(Run({"--library", "B", "export", "7", "7", File("out.dlm")}), 0);
+  EXPECT_EQ(Run({"--library", "C", "import", File("out.dlm")}), 0);
+  EXPECT_EQ(err, "7 hands (1-7) have been saved to the library - C\n") << "with what stands before";
+  EXPECT_EQ(Run({"--library", "C", "show", "7"}), 0);
+  EXPECT_NE(out.find("\u2660 Q 10 6 2"), std::string::npos) << out;
+  EXPECT_EQ(Run({"--library", "C", "import", File("out.lin")}), 1) << "not of this command";
+}
+
 TEST_F(CommandLine, QuestionsAreAnsweredByOptionTerminalOrCaution) {
   ASSERT_EQ(Run({"import", File("in.pbn")}), 0);
   const std::vector<std::string> again{"import", File("in.pbn")};

@@ -1,0 +1,196 @@
+#include "formats/lin_reader.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <utility>
+
+#include "core/statistics.h"
+#include "core/text.h"
+#include "formats/lin_record.h"
+
+namespace tricklet {
+namespace {
+
+constexpr std::string_view kEncodedBar = "%7C";
+
+/// The records of a text copied from a site's address, which has them percent-encoded behind
+/// "lin=", blanks as "+".
+std::string DecodeAddress(std::string_view text) {
+  constexpr std::string_view kParameter = "lin=";
+  const auto parameter = text.find(kParameter);
+  if (parameter != std::string_view::npos) text.remove_prefix(parameter + kParameter.size());
+  std::string encoded(text);
+  std::replace(encoded.begin(), encoded.end(), '+', ' ');
+  return ReadLinData(encoded);
+}
+
+bool IsAddress(std::string_view text) {
+  return text.find('|') == std::string_view::npos &&
+         ToUpper(text).find(kEncodedBar) != std::string::npos;
+}
+
+std::string PlainText(std::string_view text) {
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+  std::string plain = IsAddress(text) ? DecodeAddress(text) : std::string(text);
+  return IsValidUtf8(plain) ? plain : Latin1ToUtf8(plain);
+}
+
+/// What describes the board and how it was played; chat, scores of the match and page marks do not.
+bool IsKept(std::string_view tag) {
+  constexpr std::array<std::string_view, 8> kKept{"st", "md", "sv", "mb", "an", "pc", "mc", "zz"};
+  return std::find(kKept.begin(), kKept.end(), tag) != kKept.end();
+}
+
+/// A record as it is collected, field by field.
+struct Collected {
+  std::string_view room;    // of "qx"
+  std::string_view header;  // of "ah"
+  std::string_view players;
+  std::string_view deal;
+  bool hasRoom = false;
+  bool hasPlayers = false;
+  bool hasDeal = false;
+  bool pageEnded = false;  // since the deal
+  std::string fields;      // those that are kept as they stand
+};
+
+/// The fields to be read of a record, with the names that hold for it.
+std::string LineOf(const Collected& record) {
+  return "qx|" + std::string(record.room) + "|pn|" + std::string(record.players) + "|ah|" +
+         std::string(record.header) + "|" + record.fields;
+}
+
+bool CanBeDealt(const LinRecord& record) {
+  return record.hasDeal && !record.repeatsCard &&
+         std::all_of(kAllSeats.begin(), kAllSeats.end(),
+                     [counts = GetStats(record.hands).SeatCardCount](Seat seat) {
+                       return counts[seat] <= kCardsInHand;
+                     });
+}
+
+/// A record for "LIN.txt": the players of its own room, and its board by the number stored.
+std::string LineOf(const LinRecord& record, const Collected& collected) {
+  const PerSeat<std::string>& players = record.players;
+  return std::string("qx|") + (record.closedRoom ? "c" : "o") + std::to_string(record.boardNumber) +
+         "|pn|" + players[Seat::South] + "," + players[Seat::West] + "," + players[Seat::North] +
+         "," + players[Seat::East] + "|rh||ah|Board " + std::to_string(record.boardNumber) + "|" +
+         collected.fields + "pg||";
+}
+
+class LinReader {
+ public:
+  LinReader(std::string_view text, BoardSink& sink, std::vector<std::string>& records)
+      : text_(text), rest_(text), sink_(sink), records_(records) {}
+
+  ReadResult Read() {
+    for (LinField field; !stopped_ && NextLinField(rest_, field);) {
+      if (BeginsRecord(field.tag)) EndRecord();
+      if (!stopped_) Take(field);
+    }
+    if (!stopped_) EndRecord();
+    return result_;
+  }
+
+ private:
+  bool BeginsRecord(std::string_view tag) const {
+    if (tag == "md") return record_.hasDeal;
+    if (tag == "qx") return record_.hasDeal || record_.hasRoom;
+    return tag == "pn" && record_.hasDeal && (record_.hasPlayers || record_.pageEnded);
+  }
+
+  void Take(const LinField& field) {
+    if (field.tag == "qx") {
+      record_.room = field.value;
+      record_.hasRoom = true;
+    } else if (field.tag == "pn") {
+      record_.players = field.value;
+      record_.hasPlayers = true;
+    } else if (field.tag == "ah") {
+      record_.header = field.value;
+    } else if (field.tag == "md") {
+      record_.deal = field.value;
+      record_.hasDeal = true;
+    } else if (field.tag == "pg") {
+      record_.pageEnded = record_.hasDeal;
+    }
+    if (!IsKept(field.tag)) return;
+    record_.fields += field.tag;
+    record_.fields += '|';
+    record_.fields += field.value;
+    record_.fields += '|';
+  }
+
+  /// Deals with the record in hand; the next one begins with its names.
+  void EndRecord() {
+    const Collected record = std::exchange(record_, Collected());
+    record_.players = record.players;
+    // A page without a deal, or one that clears the table: "md|0|".
+    if (record.deal.find_first_not_of("0123456789,") == std::string_view::npos) return;
+    LinRecord parsed = ParseLinRecord(LineOf(record));
+    if (!CanBeDealt(parsed)) {
+      result_.badLine = "md|" + std::string(record.deal) + "|";
+      stopped_ = true;
+      return;
+    }
+    if (parsed.boardNumber == 0) parsed.boardNumber = NextNumberOf(parsed);
+    if (!Begin(parsed.boardNumber)) return;
+    if (!IsStorable(parsed.boardNumber)) return;
+    if (IsTheBoardStored(parsed)) records_.push_back(LineOf(parsed, record));
+  }
+
+  int NextNumberOf(const LinRecord& record) const {
+    int number = result_.lastBoard + 1;
+    while (record.dealer && DealerOfBoard(number) != *record.dealer) ++number;
+    return number;
+  }
+
+  bool Begin(int number) {
+    if (!sink_.Begin(number, ThousandthsRead(text_, rest_), kWholeText)) {
+      result_.cancelled = stopped_ = true;
+      return false;
+    }
+    if (result_.firstBoard == 0) result_.firstBoard = number;
+    result_.lastBoard = std::max(result_.lastBoard, number);
+    return true;
+  }
+
+  /// Stores the first record of a board; false for a further one that is of another deal.
+  bool IsTheBoardStored(LinRecord& record) {
+    const auto [stored, first] = stored_.try_emplace(record.boardNumber, record.hands);
+    if (!first) return stored->second == record.hands;
+    if (record.dealer.value_or(DealerOfBoard(record.boardNumber)) !=
+        DealerOfBoard(record.boardNumber)) {
+      record.calls.clear();
+    }
+    sink_.Store(BoardOfLinRecord(record));
+    ++result_.boardsSaved;
+    return true;
+  }
+
+  std::string_view text_;
+  std::string_view rest_;
+  BoardSink& sink_;
+  std::vector<std::string>& records_;
+  Collected record_;
+  std::map<int, HandTable> stored_;
+  bool stopped_ = false;
+  ReadResult result_;
+};
+
+}  // namespace
+
+bool LooksLikeLin(std::string_view text) {
+  constexpr std::string_view kDeal = "md|";
+  constexpr std::string_view kEncodedDeal = "MD%7C";
+  if (text.find(kDeal) != std::string_view::npos) return true;
+  return IsAddress(text) && ToUpper(text).find(kEncodedDeal) != std::string::npos;
+}
+
+ReadResult ReadLIN(std::string_view text, BoardSink& sink, std::vector<std::string>& records) {
+  const std::string plain = PlainText(text);
+  return LinReader(plain, sink, records).Read();
+}
+
+}  // namespace tricklet

@@ -1,0 +1,115 @@
+#include "formats/import_lin.h"
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "formats/lin_file.h"
+#include "tests/support/library_fixture.h"
+
+namespace tricklet {
+namespace {
+
+namespace fs = std::filesystem;
+using test::WriteFile;
+
+std::string Record(const std::string& room, const std::string& more = "") {
+  return "qx|" + room + "|md|0SAKQJT98765432,HAKQJT98765432,DAKQJT98765432,|" + more + "pg||\r\n";
+}
+
+class ImportLinTest : public test::LibraryTest {
+ protected:
+  fs::path File(const std::string& text, const std::string& name = "s\u00e9ance 1.LIN") {
+    fs::path path = folder.Path() / PathFromText(name);
+    WriteFile(path, text);
+    return path;
+  }
+};
+
+TEST_F(ImportLinTest, StoresBoardsAndTheirRecords) {
+  WriteFile(session.LibraryPath() / "LIN.txt", "[lin]\r\nqx|o1|md|1SA,,,|rh||ah|Board 1|\r\n");
+  host.ExpectTell("2 hands (5-6) have been saved to the library - Club");
+  const ImportOutcome outcome = ImportLinFile(
+      session, File(Record("o5", "mb|1C|mb|p|mb|p|mb|p|") + Record("c5") + Record("o6")));
+  EXPECT_EQ(outcome.boardsSaved, 2);
+  EXPECT_EQ(session.board.BoardNumber, 5);
+  EXPECT_EQ(session.board.Contract, "1C");
+  EXPECT_EQ(session.library.BoardCount, 2);
+  EXPECT_EQ(host.steps.front(), "Importing board 5");
+  EXPECT_EQ(host.recycled, std::vector<std::string>{"LIN.txt"}) << "the old results are not lost";
+  const LinFile results = LoadLinData(session);
+  EXPECT_EQ(results.Lin.size(), 3U);
+  EXPECT_EQ(results.BoardScoringAbb, "IMP") << "two rooms";
+}
+
+TEST_F(ImportLinTest, TakesAChosenFileAndAText) {
+  host.Choose(File(Record("o1")));
+  host.ExpectTell("Hand 1 has been saved to the library - Club");
+  EXPECT_EQ(ImportLin(session).boardsSaved, 1);
+  EXPECT_EQ(LoadLinData(session).BoardScoringAbb, "MP");
+  host.ExpectAsk("Overwrite existing hands in library Club?", "Hands already in library",
+                 Answer::Yes);
+  host.ExpectTell("Hand 2 has been saved to the library - Club");
+  EXPECT_EQ(ImportLinText(session, Record("o2")).boardsSaved, 1);
+}
+
+TEST_F(ImportLinTest, AsksAndRefusesAsEveryImportDoes) {
+  PutBoard(1);
+  host.ExpectAskWith("Overwrite existing hands", Answer::No);
+  EXPECT_TRUE(ImportLinFile(session, File(Record("o1"))).refused);
+  host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
+  host.Choose(std::nullopt);
+  EXPECT_TRUE(ImportLin(session).refused);
+  host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
+  host.ExpectTell("The file must be of type lin");
+  EXPECT_TRUE(ImportLinFile(session, File(Record("o1"), "boards.pbn")).refused);
+  host.ExpectTell("There are no LIN records in this text");
+  EXPECT_TRUE(ImportLinText(session, "Dear Ann, dear Bob").refused);
+  session.board.HandChanged = true;
+  host.ExpectAskWith("Do you want to save changes to board 1", Answer::Cancel);
+  EXPECT_TRUE(ImportLinText(session, Record("o1")).refused);
+  EXPECT_TRUE(session.board.HandChanged);
+}
+
+TEST_F(ImportLinTest, BadInputIsToldAndStoresNothingOfIt) {
+  host.ExpectTell("Can't read this line:\nmd|3SAA,,,|");
+  host.ExpectTell("Hand 1 has been saved to the library - Club");
+  EXPECT_TRUE(ImportLinFile(session, File(Record("o1") + "qx|o2|md|3SAA,,,|")).failed);
+  EXPECT_EQ(LoadLinData(session).Lin.size(), 1U);
+
+  std::string calls;
+  for (int i = 0; i < 101; ++i) calls += "mb|p|";
+  const fs::path path = File(Record("o2", calls));
+  host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
+  host.ExpectAskWith("Error no. 9\n", Answer::Yes);
+  host.ExpectTell("Cannot read the file " + PathText(path));
+  EXPECT_TRUE(ImportLinFile(session, path).failed);
+  host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
+  host.ExpectAskWith("Error no. 13\n", Answer::Yes);
+  host.ExpectTell("Cannot read the LIN records");
+  EXPECT_TRUE(ImportLinText(session, "lin=md%7C3SA%7C%").failed);
+  EXPECT_EQ(session.library.BoardCount, 1);
+  EXPECT_EQ(LoadLinData(session).Lin.size(), 1U) << "the results of the board that stays";
+
+  host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
+  host.ExpectTell("No hands have been saved to the library - Club");
+  EXPECT_EQ(ImportLinFile(session, File("no records")).boardsSaved, 0);
+}
+
+TEST_F(ImportLinTest, CancelKeepsBoardsAndTheirRecords) {
+  host.cancelAtStep = 3;
+  host.ExpectTell("2 hands (1-2) have been saved to the library - Club");
+  EXPECT_TRUE(ImportLinFile(session, File(Record("o1") + Record("o2") + Record("o3"))).cancelled);
+  EXPECT_EQ(LoadLinData(session).Lin.size(), 2U);
+}
+
+TEST_F(ImportLinTest, AnyFileGoesToItsImport) {
+  host.ExpectTell("Hand 1 has been saved to the library - Club");
+  EXPECT_EQ(ImportAnyFile(session, File(Record("o1"))).boardsSaved, 1);
+  host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
+  host.ExpectTell("The file must be of type pbn, dlm or xml");
+  EXPECT_TRUE(ImportAnyFile(session, File("", "a.txt")).refused);
+}
+
+}  // namespace
+}  // namespace tricklet
