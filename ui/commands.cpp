@@ -1,6 +1,7 @@
 #include "ui/commands.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDir>
 #include <QFileInfo>
 #include <QInputDialog>
@@ -9,7 +10,7 @@
 
 #include "core/fault.h"
 #include "formats/export.h"
-#include "formats/import.h"
+#include "formats/import_lin.h"
 #include "library/board_store.h"
 #include "library/library_store.h"
 #include "library/start_up.h"
@@ -47,10 +48,22 @@ void Commands::Import() {
   Run([this] { tricklet::Import(session_); });
 }
 
+void Commands::ImportLin() {
+  Run([this] { tricklet::ImportLin(session_); });
+}
+
+void Commands::ImportLinText(const QString& text) {
+  Run([&] { tricklet::ImportLinText(session_, FromQt(text)); });
+}
+
+void Commands::PasteLin() {
+  ImportLinText(QApplication::clipboard()->text());
+}
+
 void Commands::ImportFiles(const std::vector<std::filesystem::path>& files) {
   for (const std::filesystem::path& file : files) {
     bool goOn = true;
-    Run([&] { goOn = !ImportFile(session_, file).cancelled; });
+    Run([&] { goOn = !ImportAnyFile(session_, file).cancelled; });
     if (!goOn) return;
   }
 }

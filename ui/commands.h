@@ -37,6 +37,10 @@ class Commands : public QObject {
   const AuctionEntry* Auction() const { return auction_; }
 
   void Import();
+  void ImportLin();
+  /// The LIN records, or the address of some, that the clipboard or a drop brought.
+  void ImportLinText(const QString& text);
+  void PasteLin();
   void ImportFiles(const std::vector<std::filesystem::path>& files);
   void Export();
   void Save();

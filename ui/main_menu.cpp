@@ -61,6 +61,10 @@ QAction* MainMenu::AddToggle(QMenu* menu, const char* name, const QString& text,
 void MainMenu::BuildFile() {
   QMenu* menu = AddMenu(tr("&File"));
   Add(menu, "mnuImport", tr("&Import hand records..."), {QKeySequence::Open}, &Commands::Import);
+  Add(menu, "mnuImportLin", tr("Import &LIN records..."), {QKeySequence(tr("Ctrl+Shift+I"))},
+      &Commands::ImportLin);
+  Add(menu, "mnuPasteLin", tr("&Paste LIN records"), {QKeySequence(tr("Ctrl+Shift+V"))},
+      &Commands::PasteLin);
   Add(menu, "mnuExport", tr("&Export hand records..."), {QKeySequence(tr("Ctrl+E"))},
       &Commands::Export);
   menu->addSeparator();

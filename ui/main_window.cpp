@@ -9,10 +9,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
-#include <QUrl>
 #include <QVBoxLayout>
 
 #include "library/library_store.h"
@@ -22,6 +20,7 @@
 #include "ui/board_pane.h"
 #include "ui/commands.h"
 #include "ui/contract_pane.h"
+#include "ui/dropped_records.h"
 #include "ui/frmBidding.h"
 #include "ui/later.h"
 #include "ui/library_pane.h"
@@ -270,22 +269,17 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-  for (const QUrl& url : event->mimeData()->urls()) {
-    if (url.isLocalFile()) {
-      event->acceptProposedAction();
-      return;
-    }
-  }
+  if (!DroppedRecords(*event->mimeData()).Empty()) event->acceptProposedAction();
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
-  std::vector<std::filesystem::path> files;
-  for (const QUrl& url : event->mimeData()->urls()) {
-    if (url.isLocalFile()) files.push_back(PathFromQt(url.toLocalFile()));
-  }
+  const DroppedRecords dropped(*event->mimeData());
   event->acceptProposedAction();
   // Questions come after the drop, so that the program that it came from does not wait for them.
-  Later(this, [this, files] { ImportFiles(files); });
+  Later(this, [this, dropped] {
+    ImportFiles(dropped.files);
+    if (!dropped.lin.isEmpty()) commands_->ImportLinText(dropped.lin);
+  });
 }
 
 }  // namespace tricklet::ui

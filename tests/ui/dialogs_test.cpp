@@ -12,6 +12,7 @@
 #include "ui/frmStart.h"
 #include "ui/later.h"
 #include "ui/qt_host.h"
+#include "ui/text.h"
 
 namespace tricklet::ui {
 namespace {
@@ -84,6 +85,14 @@ TEST_F(DialogsTest, TheExportDialogStaysUntilItsRangeIsValid) {
   EXPECT_EQ(dialog.Range().first, 2);
   EXPECT_EQ(dialog.Range().last, 8);
   EXPECT_EQ(dialog.Range().type, "pbn");
+  const auto types = dialog.findChildren<QRadioButton*>(QStringLiteral("optType"));
+  for (const char* type : {"dlm", "lin", "pbn"}) {
+    for (QRadioButton* option : types) {
+      if (FromQt(option->text().toLower()) == type) option->click();
+    }
+    Click(dialog, "cmdGo");
+    EXPECT_EQ(dialog.Range().type, type);
+  }
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string_view>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>

@@ -1,0 +1,72 @@
+// LIN records on their ways into the window.
+#include <QClipboard>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QUrl>
+
+#include "tests/ui/window_fixture.h"
+
+namespace tricklet::ui {
+namespace {
+
+const QString kRecord =
+    QStringLiteral("qx|o7|md|1SAKQJT98765432,HAKQJT98765432,DAKQJT98765432,|mb|1C|pg||\n");
+
+class LinWindowTest : public WindowTest {
+ protected:
+  void SetUp() override {
+    SelectLibrary(session, "Teaching");
+    Open();
+  }
+  /// Whether the window takes `data` when it is dragged over it; then drops it.
+  bool Drop(const QMimeData& data) {
+    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QCoreApplication::sendEvent(window.get(), &enter);
+    if (!enter.isAccepted()) return false;
+    QDropEvent drop(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window.get(), &drop);
+    QTest::qWait(1);
+    return true;
+  }
+};
+
+TEST_F(LinWindowTest, AreChosenPastedOrDropped) {
+  const auto file = folder.Path() / "a.lin";
+  test::WriteFile(file, FromQt(kRecord));
+  QMimeData files;
+  files.setUrls({QUrl::fromLocalFile(PathToQt(file))});
+  QMimeData text;
+  text.setText(kRecord);
+  const std::function<void()> ways[] = {
+      [&] {
+        host.Choose(file);
+        Key(Qt::Key_I, Qt::ControlModifier | Qt::ShiftModifier);
+      },
+      [this] {
+        QApplication::clipboard()->setText(kRecord);
+        Key(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+      },
+      [&] { EXPECT_TRUE(Drop(files)); },
+      [&] { EXPECT_TRUE(Drop(text)); },
+  };
+  for (const auto& way : ways) {
+    if (&way != &ways[0]) host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
+    host.ExpectTell("Hand 7 has been saved to the library - Teaching");
+    way();
+    EXPECT_EQ(FromQt(ShownBoard()), "Board 7");
+    EXPECT_EQ(session.board.Contract, "1C");
+  }
+}
+
+TEST_F(LinWindowTest, OtherTextIsRefused) {
+  QApplication::clipboard()->setText(QStringLiteral("Dear Ann"));
+  host.ExpectTell("There are no LIN records in this text");
+  Key(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+  QMimeData text;
+  text.setText(QStringLiteral("Dear Ann"));
+  EXPECT_FALSE(Drop(text));
+}
+
+}  // namespace
+}  // namespace tricklet::ui
