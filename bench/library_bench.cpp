@@ -1,14 +1,12 @@
 // A library of 999 boards: importing, exporting and opening it, each beside the least that the disk
 // has to do for it.
-#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <random>
 #include <string>
 #include <vector>
 
-#include <benchmark/benchmark.h>
-
+#include "bench/measure.h"
 #include "bench/quiet_host.h"
 #include "bench/random_board.h"
 #include "core/text.h"
@@ -25,7 +23,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kBoards = kLastBoardNumber;
-constexpr int kRepetitions = 21;
 
 /// A random deal with an auction and a table.
 Board FullBoard(int number, std::mt19937& random) {
@@ -83,18 +80,6 @@ Session MakeSession(Host& host, SettingsStore& store, const std::string& library
   session.settings.filelocation = FolderText(Boards().root);
   session.settings.library = library;
   return session;
-}
-
-/// Times `work` alone, after `prepare`.
-template <class Prepare, class Work>
-void Measure(benchmark::State& state, Prepare prepare, Work work) {
-  for ([[maybe_unused]] auto _ : state) {
-    prepare();
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
-    state.SetIterationTime(taken.count());
-  }
 }
 
 /// What std::ofstream and rename make of it: the peer knows nothing of our own file calls.
@@ -175,14 +160,6 @@ void OpenLibrary(benchmark::State& state) {
       state, [] {}, [&session] { SelectLibrary(session, "Full"); });
   if (session.library.BoardCount != kBoards) state.SkipWithError("not all boards were found");
 }
-
-#define TRICKLET_BENCH(function)  \
-  BENCHMARK(function)             \
-      ->UseManualTime()           \
-      ->Iterations(1)             \
-      ->Repetitions(kRepetitions) \
-      ->ReportAggregatesOnly()    \
-      ->Unit(benchmark::kMillisecond)
 
 TRICKLET_BENCH(WriteFilesFloor);
 TRICKLET_BENCH(ImportBoards);

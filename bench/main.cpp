@@ -19,6 +19,8 @@ int main(int argc, char** argv) {
       {"ExportBoards", "ReadFilesFloor", 3.0},
       {"OpenLibrary", "OpenFloor", 3.0},
       {"AnalyseBoards", "SolverAloneFloor", 1.05},
+      {"ImportDlm", "ReadDlmFloor", 2.0},
+      {"ImportLinRecords", "ReadLinFloor", 2.0},
   });
   benchmark::RunSpecifiedBenchmarks(&reporter);
   benchmark::Shutdown();

@@ -1,0 +1,38 @@
+// Any bytes as a DLM file: nothing but boards, a bad line or a fault may come of them, and every
+// board that is stored has the letters that it was read from.
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+#include "core/fault.h"
+#include "formats/dlm_deal.h"
+#include "formats/dlm_reader.h"
+
+namespace {
+
+class CheckingSink : public tricklet::BoardSink {
+ public:
+  void Store(const tricklet::Board& board) override {
+    if (!tricklet::IsStorable(board.BoardNumber)) std::abort();
+    const std::string deal = tricklet::EncodeDLMDeal(board.BoardNumber, board.Hands);
+    const std::string_view letters = std::string_view(deal).substr(0, tricklet::kDLMDealLetters);
+    if (!(tricklet::DecodeDLMDeal(letters) == board.Hands)) std::abort();
+  }
+  bool Begin(int /*boardNumber*/, int done, int total) override {
+    if (done < 0 || done > total) std::abort();
+    return true;
+  }
+};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  CheckingSink sink;
+  try {
+    tricklet::ReadDLM({reinterpret_cast<const char*>(data), size}, sink);
+  } catch (const tricklet::Fault&) {
+    // a deal with a bad letter
+  }
+  return 0;
+}

@@ -1,0 +1,53 @@
+// Any bytes as a LIN file: nothing but boards, a bad deal or a fault may come of them; a board that
+// is stored can be written to its file and comes back, and its record for "LIN.txt" names it.
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+#include <vector>
+
+#include "core/fault.h"
+#include "formats/lin_reader.h"
+#include "formats/lin_record.h"
+#include "library/board_file.h"
+
+namespace {
+
+class CheckingSink : public tricklet::BoardSink {
+ public:
+  void Store(const tricklet::Board& board) override {
+    if (!tricklet::IsStorable(board.BoardNumber)) std::abort();
+    tricklet::Board read;
+    read.BoardNumber = board.BoardNumber;
+    const std::string text = tricklet::WriteBoardText(board);
+    if (!tricklet::ReadBoardText(text, read, tricklet::TableReading::Always)) std::abort();
+    if (!(read.Hands == board.Hands) || !(read.Calls == board.Calls)) std::abort();
+  }
+  bool Begin(int /*boardNumber*/, int done, int total) override {
+    if (done < 0 || done > total) std::abort();
+    return true;
+  }
+};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string_view text(reinterpret_cast<const char*>(data), size);
+  CheckingSink sink;
+  std::vector<std::string> records;
+  try {
+    tricklet::ReadLIN(text, sink, records);
+    for (const std::string& record : records) {
+      const tricklet::LinRecord parsed = tricklet::ParseLinRecord(record);
+      if (!tricklet::IsStorable(parsed.boardNumber) || !parsed.hasDeal) std::abort();
+    }
+  } catch (const tricklet::Fault&) {
+    // more than 100 calls, or an address with a broken escape
+  }
+  try {
+    tricklet::ParseLinRecord(tricklet::ReadLinData(text));
+  } catch (const tricklet::Fault&) {
+    // a broken escape
+  }
+  return 0;
+}
