@@ -45,6 +45,13 @@ std::string_view Trim(std::string_view text) {
   return text;
 }
 
+std::string_view TrimLines(std::string_view text) {
+  constexpr std::string_view kBlanks = " \t\r\n";
+  const auto first = text.find_first_not_of(kBlanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
 char ToUpper(char c) {
   return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
 }
@@ -100,6 +107,22 @@ bool IsValidUtf8(std::string_view bytes) {
     bytes.remove_prefix(length);
   }
   return true;
+}
+
+std::string MendUtf8(std::string_view bytes) {
+  if (IsValidUtf8(bytes)) return std::string(bytes);
+  std::string text;
+  text.reserve(bytes.size());
+  while (!bytes.empty()) {
+    const std::size_t length = SequenceLength(bytes);
+    if (length > 0) {
+      text += bytes.substr(0, length);
+    } else {
+      text += Latin1ToUtf8(bytes.substr(0, 1));
+    }
+    bytes.remove_prefix(std::max<std::size_t>(length, 1));
+  }
+  return text;
 }
 
 std::string Latin1ToUtf8(std::string_view bytes) {

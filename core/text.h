@@ -11,6 +11,9 @@ namespace tricklet {
 /// Without the blanks at both ends (blanks and tabs only: line ends are the readers' business).
 std::string_view Trim(std::string_view text);
 
+/// Without the blanks, tabs and line ends at both ends.
+std::string_view TrimLines(std::string_view text);
+
 /// ASCII letters in upper case; all other bytes as they are.
 std::string ToUpper(std::string_view text);
 char ToUpper(char c);
@@ -30,6 +33,8 @@ std::string ZeroPadded(int number, std::size_t digits);
 std::string_view TakeLine(std::string_view& rest);
 
 bool IsValidUtf8(std::string_view bytes);
+/// Makes text valid UTF-8: every byte that belongs to no well-formed sequence is taken as Latin-1.
+std::string MendUtf8(std::string_view bytes);
 std::string Latin1ToUtf8(std::string_view bytes);
 /// Characters outside Latin-1 become "?".
 std::string Utf8ToLatin1(std::string_view text);

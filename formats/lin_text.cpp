@@ -5,6 +5,7 @@
 
 #include "core/fault.h"
 #include "core/notation.h"
+#include "core/text.h"
 
 namespace tricklet {
 namespace {
@@ -33,13 +34,6 @@ std::string DecodePercent(std::string_view text) {
     i += 2;
   }
   return decoded;
-}
-
-std::string_view TrimLines(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t\r\n";
-  const auto first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
 /// What stands before the next bar, which is taken too.

@@ -1,0 +1,26 @@
+// Boards of the LIN records that came with club results.
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "formats/lin_file.h"
+#include "formats/pbn_reader.h"
+
+namespace tricklet {
+
+/// The board that a LIN record names by "|Board N", else by its room; 0 when it names none.
+int BoardNumberOfLin(std::string_view record);
+
+/// The boards numbered `firstBoard` to `lastBoard` of which `data` has a deal, in ascending order:
+/// of each, deal and auction of its first record that has a deal. The first board's record
+/// decides whether auctions are read. Numbers that cannot be stored are passed over. Throws `Fault`
+/// for an auction of more than 100 calls.
+std::vector<Board> BoardsOfLinData(const LinFile& data, int firstBoard, int lastBoard);
+
+/// Stores those boards. `result` counts on while they are stored, so it is true when what `sink`
+/// throws ends the reading. All boards are read before the first is stored.
+void ReadLinCards(const LinFile& data, int firstBoard, int lastBoard, BoardSink& sink,
+                  ReadResult& result);
+
+}  // namespace tricklet

@@ -1,0 +1,41 @@
+#include "formats/lin_cards.h"
+
+#include <gtest/gtest.h>
+
+namespace tricklet {
+namespace {
+
+/// A record of a deal in which `spades` is South's and West's and North's cards are given.
+std::string Record(int board, const std::string& south, const std::string& calls = "") {
+  return "qx|o1|md|3S" + south + ",HA,DA,|rh||ah|Board " + std::to_string(board) + "|" + calls +
+         "pg||qent|9|qens|140||qenns|1|";
+}
+
+TEST(LinCards, ABoardHasTheDealOfItsFirstRecordThatGivesOne) {
+  LinFile data;
+  data.Lin = {"rh||ah|Board 1|qent|", Record(12, "2"),  Record(1, "A"),
+              Record(1, "K"),         Record(120, "3"), "qx|o2|md|3SQ,HA,DA,|pg||"};
+  const auto boards = BoardsOfLinData(data, 1, 12);
+  ASSERT_EQ(boards.size(), 3U);
+  EXPECT_EQ(boards[0].BoardNumber, 1);
+  EXPECT_TRUE(boards[0].Hands[Seat::South][Suit::Spades].Has(Rank::Ace));
+  EXPECT_EQ(boards[1].BoardNumber, 2) << "named by its room alone";
+  EXPECT_EQ(boards[2].BoardNumber, 12);
+  EXPECT_TRUE(boards[2].Hands[Seat::South][Suit::Spades].Has(Rank::Two));
+  EXPECT_TRUE(BoardsOfLinData(data, 2, 11).at(0).BoardNumber == 2);
+  EXPECT_TRUE(BoardsOfLinData({}, 1, 999).empty());
+}
+
+TEST(LinCards, TheFirstBoardDecidesAboutAuctions) {
+  const std::string calls = "mb|1N!|mb|p|mb|p|mb|d|mb|r|mb|p|mb|p|mb|p|";
+  LinFile data;
+  data.Lin = {Record(2, "2", calls), Record(1, "A", calls)};
+  EXPECT_EQ(BoardsOfLinData(data, 1, 2).at(0).Contract, "1NTxx");
+  EXPECT_EQ(BoardsOfLinData(data, 1, 2).at(1).NumCalls(), 8);
+  data.Lin[1] = Record(1, "A");
+  EXPECT_EQ(BoardsOfLinData(data, 1, 2).at(1).NumCalls(), 0);
+  EXPECT_EQ(BoardsOfLinData(data, 2, 2).at(0).NumCalls(), 8);
+}
+
+}  // namespace
+}  // namespace tricklet
