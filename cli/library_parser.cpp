@@ -96,7 +96,7 @@ void AddBoardArgument(CLI::App& command, int& board) {
 
 void AddLibraryCommands(CLI::App& app, Command& command) {
   AddListings(app, command);
-  AddImporter(app, command, "import", "Store the boards of hand-record files (pbn, dlm)",
+  AddImporter(app, command, "import", "Store the boards of hand-record files (pbn, dlm, xml)",
               ImportFile);
   AddImporter(app, command, "import-lin", "Store the boards and records of LIN files",
               ImportLinFile);

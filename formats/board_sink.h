@@ -34,6 +34,7 @@ struct ReadResult {
   int firstBoard = 0;  ///< as read, 0 when none was; not always a number that can be stored
   int lastBoard = 0;   ///< the highest as read
   bool cancelled = false;
+  bool failed = false;                 ///< a message has said why the reading ended
   std::optional<std::string> badLine;  ///< the line that could not be read and ended the reading
 };
 

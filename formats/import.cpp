@@ -3,6 +3,7 @@
 #include "formats/dlm_reader.h"
 #include "formats/file_type.h"
 #include "formats/import_run.h"
+#include "formats/import_xml.h"
 #include "formats/pbn_reader.h"
 #include "library/board_store.h"
 
@@ -11,12 +12,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
+TextReader XmlReaderOf(Session& session, const fs::path& path) {
+  return [&session, &path](std::string_view bytes, BoardSink& sink) {
+    return ReadXML(session, path, bytes, sink);
+  };
+}
+
 ImportOutcome ImportChosen(Session& session, const fs::path& path) {
   const std::string type = FileTypeOf(path);
   if (type == "pbn") return StoreFile(session, path, ReadPBN);
   if (type == "dlm") return StoreFile(session, path, ReadDLM);
-  session.host.Tell(type == "xml" ? "This version of Tricklet cannot read xml files yet"
-                                  : "The file must be of type pbn, dlm or xml");
+  if (type == "xml") return StoreFile(session, path, XmlReaderOf(session, path));
+  session.host.Tell("The file must be of type pbn, dlm or xml");
   // A board whose changes the person gave up is shown as it is stored.
   LoadHand(session);
   return {.refused = true};

@@ -24,13 +24,13 @@ class LibrarySink : public BoardSink {
   explicit LibrarySink(Session& session) : session_(session) {}
 
   void Store(const Board& board) override {
+    session_.board = board;
+    StoreBoard(session_);
     if (firstStored_ == 0) {
       // The results of the boards that are replaced go with them. The import does not depend on it.
       RecycleLinData(session_);
       firstStored_ = board.BoardNumber;
     }
-    session_.board = board;
-    StoreBoard(session_);
   }
   bool Begin(int boardNumber, int done, int total) override {
     return session_.host.Step("Importing board " + std::to_string(boardNumber), done, total);
@@ -116,7 +116,7 @@ ImportOutcome StoreText(Session& session, std::string_view text, const std::stri
   ShowLibrary(session, result.boardsSaved > 0 ? BoardToShow(result, sink) : boardBefore);
   return {.boardsSaved = result.boardsSaved,
           .cancelled = result.cancelled,
-          .failed = result.badLine.has_value()};
+          .failed = result.failed || result.badLine};
 }
 
 ImportOutcome StoreFile(Session& session, const fs::path& path, const TextReader& reader) {

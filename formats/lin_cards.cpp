@@ -44,7 +44,7 @@ void ReadLinCards(const LinFile& data, int firstBoard, int lastBoard, BoardSink&
   const std::vector<Board> boards = BoardsOfLinData(data, firstBoard, lastBoard);
   const int total = static_cast<int>(boards.size());
   for (const Board& board : boards) {
-    if (!sink.Begin(board.BoardNumber, result.boardsSaved, total)) {
+    if (!sink.Begin(board.BoardNumber, result.boardsSaved * kWholeText / total, kWholeText)) {
       result.cancelled = true;
       return;
     }

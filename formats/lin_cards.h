@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "formats/board_sink.h"
 #include "formats/lin_file.h"
-#include "formats/pbn_reader.h"
 
 namespace tricklet {
 

@@ -18,8 +18,6 @@
 namespace tricklet {
 namespace {
 
-constexpr const char* kLoadFailed =
-    "XML File Load failed - a website might not be available or the file is in the wrong format";
 constexpr const char* kUnexpectedFormat = "Unexpected XML format";
 constexpr const char* kOneSession = "Only Single Session Imports supported";
 constexpr const char* kOneSection = "Only Single Section Imports supported";
@@ -228,10 +226,10 @@ std::variant<UsebioResults, UsebioRefusal> ReadUsebio(std::string text) {
   pugi::xml_document document;
   if (!document.load_buffer_inplace(text.data(), text.size(), pugi::parse_default,
                                     pugi::encoding_utf8)) {
-    return UsebioRefusal{kLoadFailed};
+    return UsebioRefusal{kXmlLoadFailed};
   }
   DepthGauge gauge;
-  if (!document.traverse(gauge)) return UsebioRefusal{kLoadFailed};
+  if (!document.traverse(gauge)) return UsebioRefusal{kXmlLoadFailed};
   try {
     return UsebioReader(document).Read();
   } catch (const UsebioRefusal& refusal) {

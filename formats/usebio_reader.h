@@ -22,6 +22,10 @@ struct UsebioRefusal {
   std::string message;
 };
 
+/// The message for a file that is no XML, or not fit to be read.
+inline constexpr const char* kXmlLoadFailed =
+    "XML File Load failed - a website might not be available or the file is in the wrong format";
+
 /// Elements inside one another that are read; a results file has some ten.
 inline constexpr int kMaxXmlDepth = 64;
 /// Longest name, word or record that is read, in bytes.

@@ -26,6 +26,8 @@ class ScriptedHost : public Host {
 
   /// The next message is exactly this.
   void ExpectTell(std::string text) { script_.push_back({std::move(text), {}, {}}); }
+  /// The next message contains `part`.
+  void ExpectTellWith(std::string part) { script_.push_back({std::move(part), {}, {}, true}); }
   /// The next question is exactly this, and is answered so.
   void ExpectAsk(std::string text, std::string title, Answer answer) {
     script_.push_back({std::move(text), std::move(title), answer});
