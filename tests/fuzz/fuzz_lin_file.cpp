@@ -1,0 +1,45 @@
+// Any bytes as a "LIN.txt": what is read is written and read again without change, and each board
+// that it holds comes back from its own file.
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+#include "core/fault.h"
+#include "core/text.h"
+#include "formats/lin_cards.h"
+#include "formats/lin_file.h"
+#include "library/board_file.h"
+
+namespace {
+
+using namespace tricklet;
+
+void CheckBoards(const LinFile& data) {
+  for (const Board& board : BoardsOfLinData(data, kFirstBoardNumber, kLastBoardNumber)) {
+    Board read;
+    read.BoardNumber = board.BoardNumber;
+    if (!ReadBoardText(WriteBoardText(board), read, TableReading::Always)) std::abort();
+    if (!(read.Calls == board.Calls) || read.Contract != board.Contract) std::abort();
+  }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const LinFile foreign = ParseLinFile({reinterpret_cast<const char*>(data), size});
+  const std::string text = LinFileText(foreign);
+  if (!IsValidUtf8(text)) std::abort();
+  const LinFile own = ParseLinFile(text);
+  if (own.Lin.size() != foreign.Lin.size() || own.Names.size() != foreign.Names.size() ||
+      own.TeamEvent.has_value() != foreign.TeamEvent.has_value()) {
+    std::abort();
+  }
+  if (!(ParseLinFile(LinFileText(own)) == own)) std::abort();
+  try {
+    CheckBoards(own);
+  } catch (const Fault&) {
+    // an auction of more than 100 calls
+  }
+  return 0;
+}

@@ -1,0 +1,53 @@
+// Any bytes as a USEBIO file: nothing but results, a refusal or a fault may come of them. Results
+// must come back from their "LIN.txt" line by line, and each of their boards from its own file.
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+#include <utility>
+
+#include "core/fault.h"
+#include "core/text.h"
+#include "formats/lin_cards.h"
+#include "formats/usebio_reader.h"
+#include "formats/xml_text.h"
+#include "library/board_file.h"
+
+namespace {
+
+using namespace tricklet;
+
+void CheckBoards(const UsebioResults& results) {
+  for (const Board& board : BoardsOfLinData(results.data, results.firstBoard, results.lastBoard)) {
+    if (!IsStorable(board.BoardNumber)) std::abort();
+    Board read;
+    read.BoardNumber = board.BoardNumber;
+    if (!ReadBoardText(WriteBoardText(board), read, TableReading::Always)) std::abort();
+    if (!(read.Calls == board.Calls) || read.Contract != board.Contract) std::abort();
+  }
+}
+
+void CheckResults(const UsebioResults& results) {
+  const std::string text = LinFileText(results.data);
+  if (!IsValidUtf8(text)) std::abort();
+  const LinFile read = ParseLinFile(text);
+  if (read.Lin.size() != results.data.Lin.size()) std::abort();
+  if (read.Names.size() != results.data.Names.size()) std::abort();
+  CheckBoards(results);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  XmlText xml = DecodeXml({reinterpret_cast<const char*>(data), size});
+  if (!IsValidUtf8(xml.text)) std::abort();
+  RewriteDocumentType(xml.text);
+  if (DecodeXml(EncodeXml(xml)).text.size() > xml.text.size()) std::abort();
+  try {
+    const auto read = ReadUsebio(std::move(xml.text));
+    if (const auto* results = std::get_if<UsebioResults>(&read)) CheckResults(*results);
+  } catch (const Fault&) {
+    // an escape cut short, or an auction of more than 100 calls
+  }
+  return 0;
+}
