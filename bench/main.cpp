@@ -21,6 +21,7 @@ int main(int argc, char** argv) {
       {"AnalyseBoards", "SolverAloneFloor", 1.05},
       {"ImportDlm", "ReadDlmFloor", 2.0},
       {"ImportLinRecords", "ReadLinFloor", 2.0},
+      {"ImportUsebio", "UsebioFloor", 2.0},
   });
   benchmark::RunSpecifiedBenchmarks(&reporter);
   benchmark::Shutdown();
