@@ -24,7 +24,7 @@ std::string EncodeXml(const XmlText& xml);
 
 /// Where the online document type lives; none is given, so the declaration names the path alone.
 /// Nothing is ever fetched from it.
-inline constexpr std::string_view kDtdHost = "";
+inline constexpr std::string_view kDtdHost;
 inline constexpr std::string_view kDtdPath = "/dtd/usebio_v1_2_ext.dtd";
 
 /// Replaces the declaration "<!DOCTYPE USEBIO ...>", its internal subset with it, by one that names

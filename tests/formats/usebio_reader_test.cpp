@@ -154,7 +154,7 @@ TEST(Usebio, NamesOfPairsAndTeams) {
                                              "</TEAM><TEAM><TEAM_NAME>Spades</TEAM_NAME></TEAM>"));
   const LinFile data = Read(UsebioText(teams, "TEAMS")).data;
   EXPECT_EQ(data.Names, names);
-  EXPECT_EQ(data.TeamEvent->Teams, (std::vector<std::string>{"4 Hearts", "Spades"}));
+  EXPECT_EQ(data.TeamEvent.value().Teams, (std::vector<std::string>{"4 Hearts", "Spades"}));
   const std::string nested = Element("PARTICIPANTS", Element("PARTICIPANTS", pairs));
   EXPECT_EQ(Read(UsebioText(nested)).data.Names, names) << "each pair once";
 }
@@ -217,7 +217,8 @@ TEST(Usebio, EntitiesOfTheDocumentTypeAreNotExpanded) {
       "<!DOCTYPE USEBIO [<!ENTITY a0 \"ha\"><!ENTITY f SYSTEM \"file:///etc/passwd\">";
   for (int level = 1; level < 30; ++level) {
     const std::string inner = "&a" + std::to_string(level - 1) + ";";
-    bomb += "<!ENTITY a" + std::to_string(level) + " \"" + inner + inner + "\">";
+    bomb.append("<!ENTITY a").append(std::to_string(level));
+    bomb.append(" \"").append(inner).append(inner).append("\">");
   }
   const LinFile data =
       Read(bomb + "]>" + test::UsebioBody(Element("PARTICIPANTS", Pair("1", "NS", "&a29;", "&f;"))))
