@@ -1,14 +1,34 @@
 #include "formats/lin_cards.h"
 
 #include <algorithm>
-#include <array>
-#include <optional>
+#include <map>
 #include <utility>
 
+#include "core/fault.h"
 #include "core/text.h"
 #include "formats/lin_record.h"
 
 namespace tricklet {
+
+namespace {
+
+/// Of each board of the range the first record with a deal that can be right, else one that has a
+/// deal at all.
+std::map<int, LinRecord> RecordsOf(const LinFile& data, int firstBoard, int lastBoard) {
+  std::map<int, LinRecord> records;
+  for (const std::string& text : data.Lin) {
+    const int number = BoardNumberOfLin(text);
+    if (!IsStorable(number) || number < firstBoard || number > lastBoard) continue;
+    const auto kept = records.find(number);
+    if (kept != records.end() && CanBeDealt(kept->second)) continue;
+    LinRecord record = ParseLinRecord(text);
+    record.boardNumber = number;
+    if (record.hasDeal) records.insert_or_assign(number, std::move(record));
+  }
+  return records;
+}
+
+}  // namespace
 
 int BoardNumberOfLin(std::string_view record) {
   constexpr std::string_view kBoard = "|Board ";
@@ -18,23 +38,17 @@ int BoardNumberOfLin(std::string_view record) {
 }
 
 std::vector<Board> BoardsOfLinData(const LinFile& data, int firstBoard, int lastBoard) {
-  std::array<std::optional<LinRecord>, kLastBoardNumber + 1> found;
-  for (const std::string& text : data.Lin) {
-    const int number = BoardNumberOfLin(text);
-    if (!IsStorable(number) || number < firstBoard || number > lastBoard) continue;
-    auto& kept = found.at(static_cast<std::size_t>(number));
-    if (kept) continue;
-    LinRecord record = ParseLinRecord(text);
-    record.boardNumber = number;
-    if (record.hasDeal) kept = std::move(record);
-  }
   std::vector<Board> boards;
   bool auctions = false;
-  for (auto& record : found) {
-    if (!record) continue;
-    if (boards.empty()) auctions = record->hasAuction;
-    if (!auctions) record->calls.clear();
-    boards.push_back(BoardOfLinRecord(*record));
+  for (auto& [number, record] : RecordsOf(data, firstBoard, lastBoard)) {
+    if (!CanBeDealt(record)) {
+      throw Fault(
+          FaultNumber::TypeMismatch,
+          "Board " + std::to_string(number) + " has a card twice or more than 13 cards in a hand");
+    }
+    if (boards.empty()) auctions = record.hasAuction;
+    if (!auctions || HasForeignDealer(record)) record.calls.clear();
+    boards.push_back(BoardOfLinRecord(record));
   }
   return boards;
 }

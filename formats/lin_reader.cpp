@@ -5,7 +5,6 @@
 #include <map>
 #include <utility>
 
-#include "core/statistics.h"
 #include "core/text.h"
 #include "formats/lin_record.h"
 
@@ -60,14 +59,6 @@ struct Collected {
 std::string LineOf(const Collected& record) {
   return "qx|" + std::string(record.room) + "|pn|" + std::string(record.players) + "|ah|" +
          std::string(record.header) + "|" + record.fields;
-}
-
-bool CanBeDealt(const LinRecord& record) {
-  return record.hasDeal && !record.repeatsCard &&
-         std::all_of(kAllSeats.begin(), kAllSeats.end(),
-                     [counts = GetStats(record.hands).SeatCardCount](Seat seat) {
-                       return counts[seat] <= kCardsInHand;
-                     });
 }
 
 /// A record for "LIN.txt": the players of its own room, and its board by the number stored.
@@ -160,10 +151,7 @@ class LinReader {
   bool IsTheBoardStored(LinRecord& record) {
     const auto [stored, first] = stored_.try_emplace(record.boardNumber, record.hands);
     if (!first) return stored->second == record.hands;
-    if (record.dealer.value_or(DealerOfBoard(record.boardNumber)) !=
-        DealerOfBoard(record.boardNumber)) {
-      record.calls.clear();
-    }
+    if (HasForeignDealer(record)) record.calls.clear();
     sink_.Store(BoardOfLinRecord(record));
     ++result_.boardsSaved;
     return true;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/statistics.h"
 #include "core/text.h"
 
 namespace tricklet {
@@ -166,6 +167,18 @@ LinRecord ParseLinRecord(std::string_view text) {
   ReadPlayers(players, record);
   if (record.boardNumber == 0) record.boardNumber = roomNumber;
   return record;
+}
+
+bool CanBeDealt(const LinRecord& record) {
+  return record.hasDeal && !record.repeatsCard &&
+         std::all_of(kAllSeats.begin(), kAllSeats.end(),
+                     [counts = GetStats(record.hands).SeatCardCount](Seat seat) {
+                       return counts[seat] <= kCardsInHand;
+                     });
+}
+
+bool HasForeignDealer(const LinRecord& record) {
+  return record.dealer && *record.dealer != DealerOfBoard(record.boardNumber);
 }
 
 Board BoardOfLinRecord(const LinRecord& record) {

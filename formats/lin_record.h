@@ -39,6 +39,12 @@ struct LinRecord {
 /// no other hand holds.
 LinRecord ParseLinRecord(std::string_view text);
 
+/// It gives a deal in which no card is twice and no hand has more than 13 cards.
+bool CanBeDealt(const LinRecord& record);
+
+/// The deal's dealer is another than the board's, so its auction would begin at the wrong seat.
+bool HasForeignDealer(const LinRecord& record);
+
 /// The board as a library stores it: number, hands, calls and the contract from them.
 /// Throws `Fault` kSubscriptOutOfRange for more than 100 calls.
 Board BoardOfLinRecord(const LinRecord& record);

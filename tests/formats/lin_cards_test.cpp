@@ -2,19 +2,22 @@
 
 #include <gtest/gtest.h>
 
+#include "core/fault.h"
+
 namespace tricklet {
 namespace {
 
-/// A record of a deal in which `spades` is South's and West's and North's cards are given.
+/// A record in which South has `south` in spades; the board's own dealer deals.
 std::string Record(int board, const std::string& south, const std::string& calls = "") {
-  return "qx|o1|md|3S" + south + ",HA,DA,|rh||ah|Board " + std::to_string(board) + "|" + calls +
-         "pg||qent|9|qens|140||qenns|1|";
+  const std::string dealer = std::to_string((board + 1) % 4 + 1);
+  return "qx|o1|md|" + dealer + "S" + south + ",HA,DA,CA|rh||ah|Board " + std::to_string(board) +
+         "|" + calls + "pg||qent|9|qens|140||qenns|1|";
 }
 
 TEST(LinCards, ABoardHasTheDealOfItsFirstRecordThatGivesOne) {
   LinFile data;
   data.Lin = {"rh||ah|Board 1|qent|", Record(12, "2"),  Record(1, "A"),
-              Record(1, "K"),         Record(120, "3"), "qx|o2|md|3SQ,HA,DA,|pg||"};
+              Record(1, "K"),         Record(120, "3"), "qx|o2|md|4SQ,HA,DA,CA|pg||"};
   const auto boards = BoardsOfLinData(data, 1, 12);
   ASSERT_EQ(boards.size(), 3U);
   EXPECT_EQ(boards[0].BoardNumber, 1);
@@ -35,6 +38,26 @@ TEST(LinCards, TheFirstBoardDecidesAboutAuctions) {
   data.Lin[1] = Record(1, "A");
   EXPECT_EQ(BoardsOfLinData(data, 1, 2).at(1).NumCalls(), 0);
   EXPECT_EQ(BoardsOfLinData(data, 2, 2).at(0).NumCalls(), 8);
+}
+
+TEST(LinCards, AnAuctionOfAnotherDealerIsLeftOut) {
+  LinFile data;
+  data.Lin = {"md|4SA,HA,DA,CA|ah|Board 1|mb|1S|mb|p|mb|p|mb|p|"};
+  const Board board = BoardsOfLinData(data, 1, 1).at(0);
+  EXPECT_EQ(board.NumCalls(), 0) << "it is East who deals in the record";
+  EXPECT_TRUE(HasCards(board.Hands));
+}
+
+TEST(LinCards, ADealThatCannotBeRightGivesWayToAnotherTables) {
+  const std::string twice = "qx|o1|md|3SA,SA,DA,CA|rh||ah|Board 1|pg||";
+  const std::string fourteen = "qx|o1|md|3SAKQJT98765432HA,HK,DA,CA|rh||ah|Board 1|pg||";
+  LinFile data;
+  data.Lin = {twice, fourteen, Record(1, "K")};
+  EXPECT_TRUE(BoardsOfLinData(data, 1, 1).at(0).Hands[Seat::South][Suit::Spades].Has(Rank::King));
+  for (const std::string& wrong : {twice, fourteen}) {
+    data.Lin = {wrong};
+    EXPECT_THROW(BoardsOfLinData(data, 1, 1), Fault);
+  }
 }
 
 }  // namespace

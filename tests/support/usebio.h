@@ -13,8 +13,10 @@ inline std::string Element(const std::string& name, const std::string& content) 
 /// A LIN record as such files hold it: South has all spades, West all hearts, North all diamonds.
 inline std::string LinData(int board, const std::string& calls = "mb|1S|mb|p|mb|p|mb|p|") {
   const std::string number = std::to_string(board);
-  return "qx|o" + number + "|pn|Ann%2312%2CBob%2CCy%2CDi|md|3SAKQJT98765432,HAKQJT98765432," +
-         "DAKQJT98765432,|rh||ah|Board%20" + number + "|sv|o|" + calls + "pg||";
+  const std::string dealer = std::to_string((board + 1) % 4 + 1);  // 1 is South, 2 West ...
+  return "qx|o" + number + "|pn|Ann%2312%2CBob%2CCy%2CDi|md|" + dealer +
+         "SAKQJT98765432,HAKQJT98765432,DAKQJT98765432,|rh||ah|Board%20" + number + "|sv|o|" +
+         calls + "pg||";
 }
 
 inline std::string TravellerLine(const std::string& linData, const std::string& others = "") {
