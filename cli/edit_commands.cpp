@@ -27,7 +27,7 @@ ExitCode RotateBoard(const Context& context, const EditArguments& arguments) {
     return End(context, "A rotation is cw, acw or half", ExitCode::Usage);
   }
   if (Rotate(context.session.board, rotation, arguments.takeAuction)) return ExitCode::Done;
-  return End(context, "The auction cannot be taken along", ExitCode::Refused);
+  return End(context, std::string(kAuctionStays), ExitCode::Refused);
 }
 
 ExitCode SwapHands(const Context& context, const EditArguments& arguments) {

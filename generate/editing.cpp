@@ -1,5 +1,6 @@
 #include "generate/editing.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/statistics.h"
@@ -9,10 +10,21 @@
 namespace tricklet {
 namespace {
 
+bool IsOf(const std::optional<Board>& kept, const Board& board) {
+  return kept && kept->BoardNumber == board.BoardNumber;
+}
+
 /// A board to go back to; nothing when none was kept, or one of another number.
 std::optional<Board> TakeKept(std::optional<Board>& kept, const Board& board) {
-  if (kept && kept->BoardNumber != board.BoardNumber) return std::nullopt;
+  if (!IsOf(kept, board)) return std::nullopt;
   return std::exchange(kept, std::nullopt);
+}
+
+/// Marks the board only when its cards have really moved.
+void Replace(Board& board, const HandTable& hands) {
+  if (board.Hands == hands) return;
+  board.Hands = hands;
+  MarkEdited(board);
 }
 
 void ReturnToPack(HandTable& hands, Card card) {
@@ -33,8 +45,7 @@ bool MoveCard(Board& board, Card card, std::optional<Seat> to) {
     if (GetStats(hands).SeatCardCount[*to] >= kCardsInHand) return false;
     AddCard(hands, card, *to);
   }
-  board.Hands = hands;
-  MarkEdited(board);
+  Replace(board, hands);
   return true;
 }
 
@@ -53,24 +64,19 @@ std::optional<std::string> SetHand(Board& board, Seat seat, std::string_view tex
       hands[other][suit] = hands[other][suit] - both;
     }
   }
-  board.Hands = hands;
-  MarkEdited(board);
+  Replace(board, hands);
   return std::nullopt;
 }
 
-bool FillFourthHand(Board& board) {
-  const Statistics statistics = GetStats(board.Hands);
-  int full = 0;
-  for (const int count : statistics.SeatCardCount) full += count == kCardsInHand ? 1 : 0;
-  if (full != kSeats - 1) return false;
-  PerSuit<Holding>& fourth = board.Hands[statistics.IncompleteSeat];
-  for (const Suit suit : kAllSuits) fourth[suit] = fourth[suit] | statistics.MissingCards[suit];
-  MarkEdited(board);
-  return true;
+bool CanUndoClear(const Board& board, const EditHistory& history) {
+  return IsOf(history.ClearFrames, board);
+}
+bool CanUndoFill(const Board& board, const EditHistory& history) {
+  return IsOf(history.CardFrame, board);
 }
 
 void Clear(Board& board, EditHistory& history) {
-  history.ClearFrames = board;
+  if (HasCards(board.Hands) || board.NumCalls() > 0) history.ClearFrames = board;
   ClearAll(board);
 }
 
@@ -89,6 +95,22 @@ bool Fill(Board& board, EditHistory& history, RandomSource& random) {
   board.HandChanged = true;
   if (board.Hands == before.Hands) return true;
   history.CardFrame = before;
+  MarkEdited(board);
+  return true;
+}
+
+bool FourthHandIsOpen(const Board& board) {
+  const Statistics statistics = GetStats(board.Hands);
+  return std::count(statistics.SeatCardCount.begin(), statistics.SeatCardCount.end(),
+                    kCardsInHand) == kSeats - 1;
+}
+
+bool FillFourthHand(Board& board, EditHistory& history) {
+  if (!FourthHandIsOpen(board)) return false;
+  history.CardFrame = board;
+  const Statistics statistics = GetStats(board.Hands);
+  PerSuit<Holding>& fourth = board.Hands[statistics.IncompleteSeat];
+  for (const Suit suit : kAllSuits) fourth[suit] = fourth[suit] | statistics.MissingCards[suit];
   MarkEdited(board);
   return true;
 }

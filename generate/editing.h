@@ -17,7 +17,7 @@ namespace tricklet {
 void MarkEdited(Board& board);
 
 /// Gives the card to a seat, or back to the pack. False, and nothing changed, when the seat already
-/// holds 13 other cards.
+/// holds 13 other cards. A card that lies there already leaves the board as it is.
 bool MoveCard(Board& board, Card card, std::optional<Seat> to);
 
 enum class TakeCards : std::uint8_t {
@@ -27,22 +27,23 @@ enum class TakeCards : std::uint8_t {
 
 /// Gives the seat the hand that `text` writes (see `ReadHandText`) in place of its cards, which go
 /// back to the pack. Returns why not, for the person to read, and then nothing changed; nothing
-/// when it was done.
+/// when it was done. The hand that the seat has already leaves the board as it is.
 [[nodiscard]] std::optional<std::string> SetHand(Board& board, Seat seat, std::string_view text,
                                                  TakeCards take = TakeCards::FromPack);
-
-/// When three seats hold 13 cards, gives the pack to the fourth. False, and nothing changed, when
-/// there is no such fourth seat.
-bool FillFourthHand(Board& board);
 
 /// The boards to which the undo of a clear and of a random fill go back. To be emptied when
 /// another board is loaded.
 struct EditHistory {
   std::optional<Board> ClearFrames;  ///< before the last `Clear`
-  std::optional<Board> CardFrame;    ///< before the last `Fill`
+  std::optional<Board> CardFrame;    ///< before the last `Fill` or `FillFourthHand`
 };
 
-/// `cmdClear`: takes all cards and calls from the board.
+/// There is something of this board to undo.
+bool CanUndoClear(const Board& board, const EditHistory& history);
+bool CanUndoFill(const Board& board, const EditHistory& history);
+
+/// `cmdClear`: takes all cards and calls from the board. Where there are none, the undo still goes
+/// back to the last ones.
 void Clear(Board& board, EditHistory& history);
 /// `cmdUndoClear`: cards, auction and makeable table are again as before the last `Clear`. False
 /// when there is none of this board to undo.
@@ -51,7 +52,11 @@ bool UndoClear(Board& board, EditHistory& history);
 /// `cmdRandom`: deals the pack at random to the seats that lack cards. A full deal stays as it is.
 /// False when `Random` refuses; the person is then told `kRandomisationError`.
 bool Fill(Board& board, EditHistory& history, RandomSource& random);
-/// `cmdUndoFill`: cards and makeable table are again as before the last `Fill`. False when there is
+/// Three seats hold 13 cards, and the fourth does not.
+bool FourthHandIsOpen(const Board& board);
+/// Gives the pack to that fourth seat. False, and nothing changed, when there is none.
+bool FillFourthHand(Board& board, EditHistory& history);
+/// `cmdUndoFill`: cards and makeable table are again as before the last fill. False when there is
 /// none of this board to undo.
 bool UndoFill(Board& board, EditHistory& history);
 

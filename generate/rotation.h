@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 #include "core/board.h"
 
@@ -13,6 +14,9 @@ enum class Rotation : std::uint8_t {
   AntiClockwise = 5,  ///< North's cards go to West
   HalfTurn = 6,
 };
+
+/// What the person is told when `Rotate` cannot take the auction along.
+inline constexpr std::string_view kAuctionStays = "The auction cannot be taken along";
 
 /// With `from` a seat's index, exchanges its cards with those of seat `to`; with `from` 4..6
 /// rotates all hands (`to` does not matter). Every other number throws `Fault`

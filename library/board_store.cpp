@@ -85,6 +85,7 @@ void StoreBoard(Session& session) {
 
 bool LoadHand(Session& session) {
   const fs::path path = session.BoardPath(session.board.BoardNumber);
+  ++session.BoardsLoaded;
   ClearAll(session.board);
   session.board.HandChanged = false;
   if (!FileExists(path)) return false;

@@ -34,6 +34,7 @@ struct Session {
   Settings settings;
 
   Board board;                            ///< the current board
+  int BoardsLoaded = 0;                   ///< counts the loads of `board`: it may be another one
   LibraryState library;                   ///< the current library
   std::vector<std::string> LibraryNames;  ///< all libraries of the root, in the order of the list
   int LibIndex = -1;                      ///< the current library's position in it, -1 when none

@@ -31,6 +31,16 @@ void CardPlay::Stop() {
   board_.PlayMode = false;
 }
 
+bool CardPlay::EndForEditing() {
+  if (PlayMode() && UndoTop_ > 0 && state_.TricksPlayed < kTricks &&
+      host_.Ask("Confirm that you wish to edit this hand", std::string(kProgramName),
+                Buttons::YesNo) != Answer::Yes) {
+    return false;
+  }
+  Stop();
+  return true;
+}
+
 PerSuit<Holding> CardPlay::LegalCards() const {
   PerSuit<Holding> legal;
   if (!PlayMode() || !state_.OnPlay) return legal;

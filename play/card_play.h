@@ -65,6 +65,10 @@ class CardPlay {
   /// Ends the play; the board is as before it.
   void Stop();
 
+  /// Ends the play so that the cards can be edited, after a question when some have been played
+  /// and others not. False when the person wants to play on.
+  bool EndForEditing();
+
   bool PlayMode() const { return board_.PlayMode; }
   const PlayState& Now() const { return state_; }
 

@@ -165,6 +165,13 @@ TEST(MoveCard, BetweenHandsAndPack) {
     EXPECT_TRUE(MoveCard(board, ace, to));
     EXPECT_EQ(SeatHolding(board.Hands, ace), to ? IndexOf(*to) : -1);
     ExpectEdited(board);
+    const Board there = board;
+    board.HandChanged = false;
+    board.MakeableValid = true;
+    EXPECT_TRUE(MoveCard(board, ace, to));
+    EXPECT_EQ(board.Hands, there.Hands);
+    EXPECT_FALSE(board.HandChanged) << "it was there already";
+    EXPECT_TRUE(board.MakeableValid);
   }
   board = Board();
   board.Hands[Seat::East][Suit::Spades] = Holding::FromBits(Holding::kAllBits);
@@ -183,6 +190,9 @@ TEST(SetHand, ReadsOrRefusesWithTheReason) {
     const PerSuit<Holding> expected{{Ranks("AK12"), Ranks("QJ5"), Holding(), Ranks("98")}};
     EXPECT_EQ(board.Hands[Seat::South], expected) << text;
     ExpectEdited(board);
+    board.HandChanged = false;
+    EXPECT_FALSE(SetHand(board, Seat::South, text));
+    EXPECT_FALSE(board.HandChanged) << "the same hand";
   }
   const Board before = board;
   const struct {
@@ -222,15 +232,22 @@ TEST(FillFourthHand, OnlyWhenThreeAreFull) {
       for (const Suit suit : kAllSuits) {
         if (suit != kept) board.Hands[seat][suit] = Holding();
       }
-      ASSERT_TRUE(FillFourthHand(board));
+      const Board before = board;
+      EditHistory history;
+      ASSERT_TRUE(FillFourthHand(board, history));
       EXPECT_EQ(board.Hands, full.Hands);
       ExpectEdited(board);
+      ASSERT_TRUE(UndoFill(board, history));
+      EXPECT_EQ(board.Hands, before.Hands);
     }
   }
-  EXPECT_FALSE(FillFourthHand(full));
+  EditHistory history;
   Board partial = Partial();
-  EXPECT_FALSE(FillFourthHand(partial));
-  EXPECT_FALSE(partial.HandChanged);
+  for (Board* board : {&full, &partial}) {
+    EXPECT_FALSE(FillFourthHand(*board, history));
+    EXPECT_FALSE(board->HandChanged);
+    EXPECT_FALSE(CanUndoFill(*board, history));
+  }
 }
 
 TEST(EditHistory, UndoesClearAndFill) {
@@ -257,6 +274,7 @@ TEST(EditHistory, UndoesClearAndFill) {
   Board other = board;
   other.BoardNumber = 2;
   EXPECT_FALSE(UndoClear(other, history)) << "another board";
+  Clear(board, history);  // nothing this time
   ASSERT_TRUE(UndoClear(board, history));
   EXPECT_EQ(board.Hands, before.Hands);
   EXPECT_EQ(board.Calls, before.Calls);

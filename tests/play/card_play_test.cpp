@@ -217,6 +217,30 @@ TEST_F(PlayTest, LeavingTheBoardEndsThePlay) {
   EXPECT_EQ(play.ScoreText(), "");
 }
 
+TEST_F(PlayTest, EditingAsksOnlyInMidPlay) {
+  const std::string question = "Confirm that you wish to edit this hand";
+  EXPECT_TRUE(play.EndForEditing()) << "no play";
+  ASSERT_TRUE(play.Start());
+  EXPECT_TRUE(play.EndForEditing()) << "no card yet";
+  EXPECT_FALSE(play.PlayMode());
+  ASSERT_TRUE(play.Start());
+  ASSERT_TRUE(play.Play({Suit::Hearts, Rank::Two}));
+  host.ExpectAsk(question, "Tricklet", Answer::No);
+  EXPECT_FALSE(play.EndForEditing());
+  EXPECT_EQ(play.Now().CardsInTrick, 1);
+  play.Claim();
+  EXPECT_TRUE(play.EndForEditing()) << "nothing is left to be played";
+  ASSERT_TRUE(play.Start());
+  for (const Suit suit : {Suit::Hearts, Suit::Diamonds, Suit::Clubs, Suit::Spades}) {
+    ASSERT_TRUE(play.Play({suit, Rank::Two}));
+  }
+  EXPECT_TRUE(timer.running);
+  host.ExpectAsk(question, "Tricklet", Answer::Yes);
+  EXPECT_TRUE(play.EndForEditing());
+  EXPECT_FALSE(play.PlayMode());
+  EXPECT_FALSE(timer.running);
+}
+
 int CardsOf(const Board& board, Seat seat) {
   int count = 0;
   for (const Holding holding : board.Hands[seat]) count += holding.Count();
