@@ -267,8 +267,4 @@ bool RenameLibrary(Session& session, std::string_view name) {
   return true;
 }
 
-void ClearBoard(Session& session) {
-  ClearAll(session.board);
-}
-
 }  // namespace tricklet

@@ -76,7 +76,4 @@ void CopyHand(Session& session);
 /// after a question when the current board holds cards. False when nothing was pasted.
 bool PasteHand(Session& session);
 
-/// `ClearAll` for the current board: an empty, unsaved board of the same number.
-void ClearBoard(Session& session);
-
 }  // namespace tricklet

@@ -6,6 +6,7 @@
 
 #include "core/statistics.h"
 #include "ui/commands.h"
+#include "ui/edit_control.h"
 #include "ui/play_control.h"
 #include "ui/text.h"
 
@@ -25,6 +26,10 @@ BoardPane::BoardPane(Commands& commands, QWidget* parent)
                    &Commands::Bidding);
   cmdPlay = Add(grid, "cmdPlay", tr("Play"), tr("Play the board card by card (Ctrl+P)"),
                 &Commands::PlayOrStop);
+  cmdEdit = Add(grid, "cmdEdit", tr("Edit"), tr("Move cards between the hands (Ctrl+H)"),
+                &Commands::EditOrStop);
+  cmdSwap = Add(grid, "cmdSwap", tr("Swap..."),
+                tr("Exchange hands or suits, or rotate the deal (Ctrl+R)"), &Commands::Swap);
   cmdGenerate = Add(grid, "cmdGenerate", tr("Generate..."),
                     tr("Fill boards with random deals (Ctrl+Shift+G)"), &Commands::Generate);
   cmdSave = Add(grid, "cmdSave", tr("Save"), tr("Write the board to its library"), &Commands::Save);
@@ -33,6 +38,7 @@ BoardPane::BoardPane(Commands& commands, QWidget* parent)
   cmdBSOL = Add(grid, "cmdBSOL", tr("Online"),
                 tr("Open the online double-dummy page (Ctrl+Shift+O)"), &Commands::OnlineSolver);
   cmdBidding->setAccessibleName(tr("Bidding"));
+  cmdSwap->setAccessibleName(tr("Rotate/Swap"));
   cmdGenerate->setAccessibleName(tr("Generate deals"));
   Body()->addLayout(grid);
 }
@@ -49,21 +55,23 @@ QPushButton* BoardPane::Add(QGridLayout* grid, const char* name, const QString& 
 }
 
 QList<QWidget*> BoardPane::TabOrder() const {
-  return {cmdBidding, cmdPlay, cmdGenerate, cmdSave, cmdDDS, cmdBSOL};
+  return {cmdBidding, cmdPlay, cmdEdit, cmdSwap, cmdGenerate, cmdSave, cmdDDS, cmdBSOL};
 }
 
 void BoardPane::Show(const Board& board) {
   SetTitle(tr("Dealer %1 · %2")
                .arg(ToQt(SeatName[board.Dealer()]), ToQt(VulShort[board.Vulnerability()])));
   cmdSave->setEnabled(board.HandChanged);
-  const bool complete = GetStats(board.Hands).AllHandsComplete;
-  cmdDDS->setEnabled(complete);
-  cmdBSOL->setEnabled(complete);
+  cmdBSOL->setEnabled(GetStats(board.Hands).AllHandsComplete);
 }
 
-void BoardPane::ShowPlay(const PlayControl& play) {
+void BoardPane::ShowPlay(const PlayControl& play, const EditControl& edit) {
   const bool on = play.Play().PlayMode();
-  cmdBidding->setEnabled(!play.UnderWay());
+  cmdBidding->setEnabled(!play.UnderWay() && !edit.Editing());
+  cmdEdit->setText(edit.Editing() ? tr("Stop editing") : tr("Edit"));
+  cmdSwap->setEnabled(!play.UnderWay());
+  // Its table would not be seen while the hands are edited.
+  cmdDDS->setEnabled(play.CanStart() && !edit.Editing());
   cmdPlay->setText(on ? tr("Stop play") : tr("Play"));
   cmdPlay->setEnabled(on || play.CanStart());
 }

@@ -10,6 +10,7 @@ class QPushButton;
 namespace tricklet::ui {
 
 class Commands;
+class EditControl;
 class PlayControl;
 
 class BoardPane : public Section {
@@ -19,7 +20,7 @@ class BoardPane : public Section {
   explicit BoardPane(Commands& commands, QWidget* parent = nullptr);
 
   void Show(const Board& board);
-  void ShowPlay(const PlayControl& play);
+  void ShowPlay(const PlayControl& play, const EditControl& edit);
 
   /// The controls in the order of the tab key.
   QList<QWidget*> TabOrder() const;
@@ -31,6 +32,8 @@ class BoardPane : public Section {
   Commands& commands_;
   QPushButton* cmdBidding;
   QPushButton* cmdPlay;
+  QPushButton* cmdEdit;
+  QPushButton* cmdSwap;
   QPushButton* cmdGenerate;
   QPushButton* cmdDDS;
   QPushButton* cmdBSOL;

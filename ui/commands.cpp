@@ -14,6 +14,7 @@
 #include "library/board_store.h"
 #include "library/library_store.h"
 #include "library/start_up.h"
+#include "ui/edit_control.h"
 #include "ui/frmBidding.h"
 #include "ui/frmExport.h"
 #include "ui/frmOptions.h"
@@ -24,8 +25,8 @@
 
 namespace tricklet::ui {
 
-Commands::Commands(Session& session, PlayControl& play, QWidget* window)
-    : QObject(window), session_(session), play_(play), window_(window) {}
+Commands::Commands(Session& session, PlayControl& play, EditControl& edit, QWidget* window)
+    : QObject(window), session_(session), play_(play), edit_(edit), window_(window) {}
 
 /// False when another command is running, and nothing was done.
 bool Commands::Attempt(const std::function<void()>& procedure) {
@@ -41,6 +42,7 @@ bool Commands::Attempt(const std::function<void()>& procedure) {
 }
 
 void Commands::Run(const std::function<void()>& procedure) {
+  if (!running_ && finishTyping_ && !finishTyping_()) return;
   if (Attempt(procedure)) emit Done();
 }
 
@@ -159,10 +161,6 @@ void Commands::PasteHand() {
   Run([this] { tricklet::PasteHand(session_); });
 }
 
-void Commands::ClearBoard() {
-  Run([this] { tricklet::ClearBoard(session_); });
-}
-
 void Commands::Bidding() {
   Run([this] { EnterAuction(); });
 }
@@ -184,6 +182,7 @@ void Commands::PlayOrStop() {
       play_.Stop();
       return;
     }
+    edit_.Stop();
     if (CardPlay::NeedsAuction(session_.board)) EnterAuction();
     if (play_.Start()) emit PlayStarted();
   });

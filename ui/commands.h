@@ -3,6 +3,8 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
+#include <utility>
 #include <vector>
 
 #include <QObject>
@@ -20,8 +22,10 @@ class AuctionEntry;
 
 namespace tricklet::ui {
 
+class EditControl;
 class PlayControl;
 class frmBidding;
+class frmSwap;
 
 /// The routes from menus, keys, panes and drops to the engine's procedures. Each command runs to
 /// its end and is followed by `Done`, whatever came of it; a command that is asked for while
@@ -31,7 +35,11 @@ class Commands : public QObject {
 
  public:
   /// Dialogs stand over `window`.
-  Commands(Session& session, PlayControl& play, QWidget* window);
+  Commands(Session& session, PlayControl& play, EditControl& edit, QWidget* window);
+
+  /// `finish` takes over what is still being typed, before each command; false when that was
+  /// refused, and then the command is not carried out.
+  void SetFinishTyping(std::function<bool()> finish) { finishTyping_ = std::move(finish); }
 
   /// The auction that is being entered; nullptr while the auction dialog is closed.
   const AuctionEntry* Auction() const { return auction_; }
@@ -61,7 +69,20 @@ class Commands : public QObject {
   void SetMaxBoard(int boardNumber);
   void CopyHand();
   void PasteHand();
-  void ClearBoard();
+
+  /// `cmdEdit`: begins to edit the hands, or leaves it.
+  void EditOrStop();
+  /// `cmdSwap`: the dialog that exchanges and rotates.
+  void Swap();
+  void ClearHands();
+  void UndoClear();
+  void RandomFill();
+  void UndoFill();
+  void FillFourth();
+  void MoveCard(Card card, std::optional<Seat> to);
+  /// False when the text was refused.
+  bool TypeHand(Seat seat, const QString& text);
+  void SetEditMethod(int method);
 
   /// `cmdDDS`: the double-dummy table of the board in hand, by `TableAsked`.
   void AnalyseBoard();
@@ -100,6 +121,11 @@ class Commands : public QObject {
   /// `Auction` has other calls than before, or is over.
   void AuctionChanged();
   void PlayStarted();
+  void EditStarted();
+  /// By a dialog that is still open.
+  void HandsChanged();
+  /// Before the dialog appears.
+  void SwapOpened(frmSwap* dialog);
 
  private:
   bool Attempt(const std::function<void()>& procedure);
@@ -109,6 +135,8 @@ class Commands : public QObject {
 
   Session& session_;
   PlayControl& play_;
+  EditControl& edit_;
+  std::function<bool()> finishTyping_;
   const AuctionEntry* auction_ = nullptr;
   QPointer<QWidget> window_;
   std::filesystem::path exportPath_;  // of the last export, where the next one begins

@@ -10,6 +10,7 @@
 #include <QMenuBar>
 
 #include "ui/commands.h"
+#include "ui/edit_control.h"
 #include "ui/play_control.h"
 #include "ui/text.h"
 
@@ -20,6 +21,7 @@ MainMenu::MainMenu(QMainWindow& window, Commands& commands)
   BuildFile();
   BuildLibrary();
   BuildBoard();
+  BuildHands();
   BuildPlay();
   BuildAnalysis();
   BuildView();
@@ -78,8 +80,9 @@ void MainMenu::BuildLibrary() {
   QMenu* menu = AddMenu(tr("&Library"));
   Add(menu, "mnuRenameLibrary", tr("&Rename library..."), {QKeySequence(tr("F2"))},
       &Commands::RenameLibrary);
-  connect(Add(menu, "mnuNewLibrary", tr("&New library..."), {QKeySequence::New}),
-          &QAction::triggered, this, &MainMenu::NewLibraryAsked);
+  QAction* newLibrary = Add(menu, "mnuNewLibrary", tr("&New library..."), {QKeySequence::New});
+  connect(newLibrary, &QAction::triggered, this, &MainMenu::NewLibraryAsked);
+  leaveBoard_ << newLibrary;
   menu->addSeparator();
   Add(menu, "mnuGenerate", tr("&Generate deals..."), {QKeySequence(tr("Ctrl+Shift+G"))},
       &Commands::Generate);
@@ -89,20 +92,41 @@ void MainMenu::BuildLibrary() {
 
 void MainMenu::BuildBoard() {
   QMenu* menu = AddMenu(tr("&Board"));
-  Add(menu, "mnuNext", tr("&Next board"),
-      {QKeySequence(tr("PgDown")), QKeySequence(tr("Ctrl+Right"))}, &Commands::NextBoard);
-  Add(menu, "mnuPrevious", tr("Pre&vious board"),
-      {QKeySequence(tr("PgUp")), QKeySequence(tr("Ctrl+Left"))}, &Commands::PreviousBoard);
-  Add(menu, "mnuFirst", tr("&First board"), {QKeySequence(tr("Ctrl+Home"))}, &Commands::FirstBoard);
-  Add(menu, "mnuLast", tr("&Last board"), {QKeySequence(tr("Ctrl+End"))}, &Commands::LastBoard);
-  Add(menu, "mnuGoTo", tr("&Go to board..."), {QKeySequence(tr("Ctrl+G"))}, &Commands::GoToBoard);
+  leaveBoard_ << Add(menu, "mnuNext", tr("&Next board"),
+                     {QKeySequence(tr("PgDown")), QKeySequence(tr("Ctrl+Right"))},
+                     &Commands::NextBoard)
+              << Add(menu, "mnuPrevious", tr("Pre&vious board"),
+                     {QKeySequence(tr("PgUp")), QKeySequence(tr("Ctrl+Left"))},
+                     &Commands::PreviousBoard)
+              << Add(menu, "mnuFirst", tr("&First board"), {QKeySequence(tr("Ctrl+Home"))},
+                     &Commands::FirstBoard)
+              << Add(menu, "mnuLast", tr("&Last board"), {QKeySequence(tr("Ctrl+End"))},
+                     &Commands::LastBoard)
+              << Add(menu, "mnuGoTo", tr("&Go to board..."), {QKeySequence(tr("Ctrl+G"))},
+                     &Commands::GoToBoard);
   menu->addSeparator();
   Add(menu, "mnuCopyHand", tr("&Copy board"), {QKeySequence::Copy}, &Commands::CopyHand);
   pasteHand_ =
       Add(menu, "mnuPasteHand", tr("&Paste board"), {QKeySequence::Paste}, &Commands::PasteHand);
+}
+
+void MainMenu::BuildHands() {
+  QMenu* menu = AddMenu(tr("Ha&nds"));
+  edit_ = Add(menu, "mnuEdit", tr("&Edit"), {QKeySequence(tr("Ctrl+H"))}, &Commands::EditOrStop);
+  swap_ =
+      Add(menu, "mnuSwap", tr("Rotate/&Swap..."), {QKeySequence(tr("Ctrl+R"))}, &Commands::Swap);
   menu->addSeparator();
-  clearBoard_ = Add(menu, "mnuClearBoard", tr("Clea&r board"), {QKeySequence(tr("Ctrl+Shift+Del"))},
-                    &Commands::ClearBoard);
+  randomFill_ = Add(menu, "mnuRandom", tr("&Random fill"), {QKeySequence(tr("Ctrl+Shift+R"))},
+                    &Commands::RandomFill);
+  fillFourth_ = Add(menu, "mnuFillFourth", tr("&Fourth hand"), {QKeySequence(tr("Ctrl+4"))},
+                    &Commands::FillFourth);
+  undoFill_ = Add(menu, "mnuUndoFill", tr("&Undo fill"), {QKeySequence(tr("Ctrl+Shift+Z"))},
+                  &Commands::UndoFill);
+  menu->addSeparator();
+  clearBoard_ = Add(menu, "mnuClearBoard", tr("&Clear board"), {QKeySequence(tr("Ctrl+Shift+Del"))},
+                    &Commands::ClearHands);
+  undoClear_ = Add(menu, "mnuUndoClear", tr("Un&do clear"), {QKeySequence(tr("Ctrl+Shift+U"))},
+                   &Commands::UndoClear);
 }
 
 void MainMenu::BuildPlay() {
@@ -172,14 +196,15 @@ void MainMenu::BuildOptionsAndHelp() {
   Add(help, "mnuAbout", tr("&About Tricklet"), {QKeySequence(tr("Ctrl+F1"))}, &Commands::About);
 }
 
-void MainMenu::Show(const Session& session, const PlayControl& play) {
+void MainMenu::Show(const Session& session, const PlayControl& play, const EditControl& edit) {
   for (QAction* action : actions_) action->setEnabled(enabled_);
   const bool editable = enabled_ && !play.UnderWay();
   save_->setEnabled(enabled_ && session.board.HandChanged);
   pasteHand_->setEnabled(editable && !session.CopyLibrary.empty());
-  clearBoard_->setEnabled(editable);
-  bidding_->setEnabled(editable);
+  bidding_->setEnabled(editable && !edit.Editing());
+  for (QAction* action : leaveBoard_) action->setEnabled(enabled_ && !edit.Editing());
   ShowPlay(play);
+  ShowEdit(play, edit);
   statistics_->setChecked(session.settings.ShowStats);
   makeable_->setChecked(session.settings.ShowMakeable);
   bestCards_->setChecked(session.settings.ShowBestCards);
@@ -195,6 +220,17 @@ void MainMenu::ShowPlay(const PlayControl& play) {
   claim_->setText(on ? ToQt(play.Play().ClaimCaption()) : tr("&Claim"));
   claim_->setEnabled(enabled_ && play.Play().ClaimEnabled());
   gatherTrick_->setEnabled(enabled_ && play.TrickComplete());
+}
+
+void MainMenu::ShowEdit(const PlayControl& play, const EditControl& edit) {
+  const bool editable = enabled_ && !play.UnderWay();
+  edit_->setText(edit.Editing() ? tr("Stop &editing") : tr("&Edit"));
+  swap_->setEnabled(editable);
+  randomFill_->setEnabled(editable && edit.CanFill());
+  fillFourth_->setEnabled(editable && edit.CanFillFourth());
+  undoFill_->setEnabled(editable && edit.CanUndoFill());
+  clearBoard_->setEnabled(editable);
+  undoClear_->setEnabled(editable && edit.CanUndoClear());
 }
 
 void MainMenu::SetEnabled(bool enabled) {

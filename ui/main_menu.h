@@ -15,6 +15,7 @@ class QMenu;
 namespace tricklet::ui {
 
 class Commands;
+class EditControl;
 class PlayControl;
 
 /// Builds the menu bar. Its keys work while the menu bar is hidden too.
@@ -25,7 +26,7 @@ class MainMenu : public QObject {
   MainMenu(QMainWindow& window, Commands& commands);
 
   /// Sets what is enabled and checked.
-  void Show(const Session& session, const PlayControl& play);
+  void Show(const Session& session, const PlayControl& play, const EditControl& edit);
 
   /// Off while long work runs: no command can be given then.
   void SetEnabled(bool enabled);
@@ -46,12 +47,14 @@ class MainMenu : public QObject {
   void BuildFile();
   void BuildLibrary();
   void BuildBoard();
+  void BuildHands();
   void BuildPlay();
   void BuildAnalysis();
   void BuildView();
   void BuildColours(QMenu* view);
   void BuildOptionsAndHelp();
   void ShowPlay(const PlayControl& play);
+  void ShowEdit(const PlayControl& play, const EditControl& edit);
 
   QMainWindow& window_;
   Commands& commands_;
@@ -60,7 +63,14 @@ class MainMenu : public QObject {
 
   QAction* save_ = nullptr;
   QAction* pasteHand_ = nullptr;
+  QList<QAction*> leaveBoard_;  // not while hands are edited
+  QAction* edit_ = nullptr;
+  QAction* swap_ = nullptr;
+  QAction* randomFill_ = nullptr;
+  QAction* fillFourth_ = nullptr;
+  QAction* undoFill_ = nullptr;
   QAction* clearBoard_ = nullptr;
+  QAction* undoClear_ = nullptr;
   QAction* bidding_ = nullptr;
   QAction* play_ = nullptr;
   QAction* undoCard_ = nullptr;

@@ -21,7 +21,10 @@
 #include "ui/commands.h"
 #include "ui/contract_pane.h"
 #include "ui/dropped_records.h"
+#include "ui/edit_control.h"
+#include "ui/edit_pane.h"
 #include "ui/frmBidding.h"
+#include "ui/frmSwap.h"
 #include "ui/later.h"
 #include "ui/library_pane.h"
 #include "ui/main_menu.h"
@@ -54,11 +57,13 @@ constexpr std::string_view kPlaceKey = "Geometry";
 MainWindow::MainWindow(Session& session)
     : session_(session),
       play_(new PlayControl(session, this)),
+      edit_(std::make_unique<EditControl>(session, *play_)),
       tables_(new BackgroundTables(session, this)),
       best_(new BestCardsFinder(session, play_->Play(), this)),
-      commands_(new Commands(session, *play_, this)),
+      commands_(new Commands(session, *play_, *edit_, this)),
       menu_(new MainMenu(*this, *commands_)),
       library_(new LibraryPane(session)),
+      editPane_(new EditPane(*commands_)),
       board_(new BoardPane(*commands_)),
       statistics_(new StatisticsPane),
       table_(new TableView),
@@ -76,8 +81,13 @@ MainWindow::MainWindow(Session& session)
   Display();
 }
 
+MainWindow::~MainWindow() {
+  editPane_->ForgetTyping();  // a line that goes loses the focus first
+}
+
 void MainWindow::LayOut() {
-  left_ = new SideColumn(QStringLiteral("colLeft"), {library_, board_, statistics_}, kLeftWidth);
+  left_ = new SideColumn(QStringLiteral("colLeft"), {library_, editPane_, board_, statistics_},
+                         kLeftWidth);
   right_ =
       new SideColumn(QStringLiteral("colRight"), {auction_, contract_, makeable_}, kRightWidth);
   table_->setObjectName(QStringLiteral("picTable"));
@@ -131,6 +141,15 @@ void MainWindow::Connect() {
   connect(leavePresentation_, &QAction::triggered, this, [this] { SetPresentation(false); });
   addAction(leavePresentation_);
   ConnectPlay();
+  ConnectEdit();
+}
+
+void MainWindow::ConnectEdit() {
+  commands_->SetFinishTyping([this] { return editPane_->FinishTyping(); });
+  connect(commands_, &Commands::EditStarted, this, &MainWindow::BeginEditing);
+  connect(commands_, &Commands::SwapOpened, this, &MainWindow::PlaceBesideAuction);
+  connect(commands_, &Commands::HandsChanged, this, &MainWindow::Display);
+  connect(table_, &TableView::MoveAsked, commands_, &Commands::MoveCard);
 }
 
 void MainWindow::ConnectPlay() {
@@ -145,7 +164,7 @@ void MainWindow::ConnectPlay() {
 }
 
 void MainWindow::SetTabOrder() {
-  const QList<QWidget*> order = library_->TabOrder() + board_->TabOrder() +
+  const QList<QWidget*> order = library_->TabOrder() + editPane_->TabOrder() + board_->TabOrder() +
                                 QList<QWidget*>{table_} + auction_->TabOrder() +
                                 contract_->TabOrder() + makeable_->TabOrder();
   for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order.at(i - 1), order.at(i));
@@ -153,12 +172,14 @@ void MainWindow::SetTabOrder() {
 
 void MainWindow::Display() {
   play_->Follow();
+  edit_->Follow();
   library_->Show(session_);
+  editPane_->Show(session_, *edit_);
   board_->Show(session_.board);
   statistics_->Show(session_);
   makeable_->Show(session_);
   DisplayAuction();
-  tables_->Look();
+  if (!edit_->Editing()) tables_->Look();
   const Board& board = session_.board;
   setWindowTitle(tr("%1 - Board %2[*] - Tricklet")
                      .arg(ToQt(session_.LibraryName()), QString::number(board.BoardNumber)));
@@ -178,15 +199,30 @@ void MainWindow::DisplayAuction() {
 void MainWindow::DisplayPlay() {
   if (progress_->IsWorking()) return;
   const AuctionEntry* entry = commands_->Auction();
-  menu_->Show(session_, *play_);
-  board_->ShowPlay(*play_);
+  menu_->Show(session_, *play_, *edit_);
+  board_->ShowPlay(*play_, *edit_);
   library_->OfferNext(play_->Play().Finished());
   contract_->Show(session_, play_->Play(), entry != nullptr);
+  DisplayTable();
+}
+
+void MainWindow::DisplayTable() {
+  if (edit_->Editing()) {
+    table_->ShowEdit(session_.board, session_.settings);
+    return;
+  }
+  const AuctionEntry* entry = commands_->Auction();
   const bool playing = entry == nullptr && session_.board.PlayMode;
   table_->Show(session_.board, session_.settings, playing ? &play_->Play() : nullptr,
                entry != nullptr && !entry->Over() ? std::optional(entry->ToCall()) : std::nullopt);
   best_->Look();
   table_->ShowBestCards(best_->Tricks());
+}
+
+void MainWindow::BeginEditing() {
+  Display();
+  QWidget* line = editPane_->FirstLine();
+  (line != nullptr ? line : table_)->setFocus();
 }
 
 /// The lower left corner: there it covers neither the auction nor the middle of the table.
@@ -213,17 +249,21 @@ void MainWindow::SetWorking(bool working) {
 
 void MainWindow::ShowColumns() {
   const bool working = progress_->IsWorking();
+  const bool editing = edit_->Editing();
   KeepRoom(table_, true);
+  KeepRoom(left_, !presentation_);
+  KeepRoom(right_, !presentation_ && !editing);  // the pack needs its room
   table_->setVisible(!working);
   left_->setVisible(!presentation_);
-  right_->setVisible((!presentation_ || commands_->Auction() != nullptr) && !working);
+  right_->setVisible((!presentation_ || commands_->Auction() != nullptr) && !working && !editing);
+  library_->setVisible(!editing);
+  if (editing) statistics_->hide();
 }
 
 void MainWindow::SetPresentation(bool on) {
   if (presentation_ == on) return;
   presentation_ = on;
   leavePresentation_->setEnabled(on);
-  for (QWidget* side : {left_, right_}) KeepRoom(side, !on);
   const int margin = on ? 0 : kMargin;
   centralWidget()->layout()->setContentsMargins(margin, margin, margin, margin);
   menuBar()->setVisible(!on);
@@ -260,7 +300,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     return;
   }
-  if (CheckSaveChanges(session_) == Answer::Cancel) {
+  if (!editPane_->FinishTyping() || CheckSaveChanges(session_) == Answer::Cancel) {
     event->ignore();
     return;
   }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <vector>
 
 #include <QMainWindow>
@@ -18,6 +19,8 @@ class BestCardsFinder;
 class BoardPane;
 class Commands;
 class ContractPane;
+class EditControl;
+class EditPane;
 class LibraryPane;
 class MainMenu;
 class MakeablePane;
@@ -33,6 +36,7 @@ class MainWindow : public QMainWindow {
 
  public:
   explicit MainWindow(Session& session);
+  ~MainWindow() override;
 
   /// Draws the whole state.
   void Display();
@@ -59,8 +63,11 @@ class MainWindow : public QMainWindow {
   void LayOut();
   void Connect();
   void ConnectPlay();
+  void ConnectEdit();
   void DisplayAuction();
   void DisplayPlay();
+  void DisplayTable();
+  void BeginEditing();
   void PlaceBesideAuction(QWidget* dialog);
   void SetTabOrder();
   void BuildStatusLine();
@@ -69,11 +76,13 @@ class MainWindow : public QMainWindow {
 
   Session& session_;
   PlayControl* play_;
+  std::unique_ptr<EditControl> edit_;
   BackgroundTables* tables_;
   BestCardsFinder* best_;
   Commands* commands_;
   MainMenu* menu_;
   LibraryPane* library_;
+  EditPane* editPane_;
   BoardPane* board_;
   StatisticsPane* statistics_;
   TableView* table_;

@@ -42,6 +42,12 @@ void PlayControl::Stop() {
   emit Changed();
 }
 
+bool PlayControl::EndForEditing() {
+  const bool ended = play_.EndForEditing();
+  emit Changed();
+  return ended;
+}
+
 void PlayControl::PlayCard(Card card) {
   play_.Play(card);
   emit Changed();

@@ -48,6 +48,8 @@ class PlayControl : public QObject {
   bool Start();
   /// Leaves the play; the board is as before it.
   void Stop();
+  /// Leaves the play so that the cards can be edited. False when the person wants to play on.
+  bool EndForEditing();
   void PlayCard(Card card);
   /// Plays the only legal card; beeps when there is not just one.
   void PlayOnlyCard();

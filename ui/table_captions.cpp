@@ -30,15 +30,6 @@ double Extras(const Caption& caption, double pixels) {
   return pixels * ((HasSign(caption) ? kSign : 0) + (caption.halfTyped ? kSuit : 0));
 }
 
-/// The caption's place within its room: each hand's beside its cards.
-QRectF PillIn(const QRectF& room, double width, double height, Seat seat) {
-  QRectF pill(0, 0, std::min(width, room.width()), height);
-  pill.moveCenter(room.center());
-  if (seat == Seat::West) pill.moveLeft(room.left());
-  if (seat == Seat::East) pill.moveRight(room.right());
-  return pill;
-}
-
 QColor BackgroundOf(CaptionMark mark, const TableColours& colours) {
   switch (mark) {
     case CaptionMark::OnPlay:
@@ -112,29 +103,42 @@ CaptionLayout LayOutCaptions(const TableLayout& table, const PerSeat<Caption>& c
   layout.font = Fitted(ToFont(settings.HGFont[1]), texts,
                        {room.width() - ends - extras, room.height()}, most);
   layout.font.setPixelSize(std::max(kLeastPixels, layout.font.pixelSize()));
-  const QFontMetricsF metrics(layout.font);
-  const double pixels = layout.font.pixelSize();
-  const double high = std::min(room.height(), pixels / kText);
   for (const Seat seat : kAllSeats) {
-    const Caption& caption = captions[seat];
-    if (caption.text.isEmpty()) continue;
-    const double width =
-        metrics.horizontalAdvance(caption.text) + Extras(caption, pixels) + 2 * kPadding * high;
-    layout.pills[seat] = PillIn(table.hands[seat].caption, width, high, seat);
+    if (captions[seat].text.isEmpty()) continue;
+    QRectF& pill = layout.pills[seat];
+    const QRectF& place = table.hands[seat].caption;
+    pill = PillFor(layout, captions[seat], place);
+    // Each hand's beside its cards.
+    if (seat == Seat::West) pill.moveLeft(place.left());
+    if (seat == Seat::East) pill.moveRight(place.right());
   }
   return layout;
 }
 
+QRectF PillFor(const CaptionLayout& layout, const Caption& caption, const QRectF& room) {
+  const double pixels = layout.font.pixelSize();
+  const double high = std::min(room.height(), pixels / kText);
+  const double width = QFontMetricsF(layout.font).horizontalAdvance(caption.text) +
+                       Extras(caption, pixels) + 2 * kPadding * high;
+  QRectF pill(0, 0, std::min(width, room.width()), high);
+  pill.moveCenter(room.center());
+  return pill;
+}
+
+void DrawCaption(QPainter& painter, const CaptionLayout& layout, const QRectF& pill,
+                 const Caption& caption, const Settings& settings, const TableColours& colours,
+                 const QPalette& palette) {
+  const QColor background = BackgroundOf(caption.mark, colours);
+  painter.setFont(layout.font);
+  DrawPill(painter, pill, caption, layout.font, background,
+           ReadableOn(background, ToColour(settings.HGFont[1].Forecolour, palette)));
+}
+
 void DrawCaptions(QPainter& painter, const CaptionLayout& layout, const PerSeat<Caption>& captions,
                   const Settings& settings, const TableColours& colours, const QPalette& palette) {
-  painter.setFont(layout.font);
-  const QColor wanted = ToColour(settings.HGFont[1].Forecolour, palette);
   for (const Seat seat : kAllSeats) {
-    const Caption& caption = captions[seat];
-    if (caption.text.isEmpty()) continue;
-    const QColor background = BackgroundOf(caption.mark, colours);
-    DrawPill(painter, layout.pills[seat], caption, layout.font, background,
-             ReadableOn(background, wanted));
+    if (captions[seat].text.isEmpty()) continue;
+    DrawCaption(painter, layout, layout.pills[seat], captions[seat], settings, colours, palette);
   }
 }
 

@@ -1,4 +1,5 @@
-// Mouse and keys on the table. Outside of play all of them are left to others.
+// Mouse and keys on the table. Outside of play and editing all of them are left to others.
+#include <QApplication>
 #include <QMouseEvent>
 
 #include "ui/table_view.h"
@@ -6,6 +7,7 @@
 namespace tricklet::ui {
 
 bool TableView::IsOurKey(const QKeyEvent& event) const {
+  if (edit_) return TableEdit(*edit_).Key(event.key(), event.modifiers()).ours;
   if (!play_) return false;
   if (event.key() == Qt::Key_Space && event.modifiers() == Qt::NoModifier) {
     return play_->now.OnPlay.has_value();
@@ -23,6 +25,7 @@ bool TableView::event(QEvent* event) {
 }
 
 void TableView::keyPressEvent(QKeyEvent* event) {
+  if (edit_ && !event->isAutoRepeat() && EditKey(*event)) return;
   if (!play_ || !IsOurKey(*event)) {
     QWidget::keyPressEvent(event);
     return;
@@ -40,6 +43,10 @@ void TableView::keyPressEvent(QKeyEvent* event) {
 }
 
 void TableView::mousePressEvent(QMouseEvent* event) {
+  if (edit_ && event->button() == Qt::LeftButton) {
+    Ask(edit_->Press(LayOutEdit(size(), board_.Hands), event->position()));
+    return;
+  }
   if (!play_ || event->button() != Qt::LeftButton) {
     QWidget::mousePressEvent(event);
     return;
@@ -53,15 +60,62 @@ void TableView::mousePressEvent(QMouseEvent* event) {
 
 void TableView::mouseDoubleClickEvent(QMouseEvent* event) {
   // The second click would meet the card below the one that was just played.
-  if (!play_) QWidget::mouseDoubleClickEvent(event);
+  if (edit_) {
+    mousePressEvent(event);
+  } else if (!play_) {
+    QWidget::mouseDoubleClickEvent(event);
+  }
 }
 
 void TableView::mouseMoveEvent(QMouseEvent* event) {
   QWidget::mouseMoveEvent(event);
+  if (edit_ && (event->buttons() & Qt::LeftButton) != 0) {
+    edit_->Drag(LayOutEdit(size(), board_.Hands), event->position(),
+                QApplication::startDragDistance());
+    update();
+  }
   ShowCursor(event->position());
 }
 
+void TableView::mouseReleaseEvent(QMouseEvent* event) {
+  if (edit_ && event->button() == Qt::LeftButton) {
+    Ask(edit_->Release(LayOutEdit(size(), board_.Hands), event->position()));
+  } else {
+    QWidget::mouseReleaseEvent(event);
+  }
+}
+
+/// Shows what has become of the edit, and passes on what it asks for.
+void TableView::Ask(const std::optional<CardMove>& move) {
+  Describe();
+  if (move) emit MoveAsked(move->card, SeatOf(move->to));
+}
+
+bool TableView::EditKey(const QKeyEvent& event) {
+  const TableEdit::KeyAnswer answer = edit_->Key(event.key(), event.modifiers());
+  if (answer.ours) Ask(answer.move);
+  return answer.ours;
+}
+
+void TableView::ShowEditCursor(QPointF mouse) {
+  const bool card = EditedCardAt(LayOutEdit(size(), board_.Hands), board_.Hands, mouse).has_value();
+  const EditBy method = EditMethodOf(settings_);
+  if (edit_->Held()) {
+    setCursor(Qt::ClosedHandCursor);
+  } else if (card && method == EditBy::Dragging) {
+    setCursor(Qt::OpenHandCursor);
+  } else if (method == EditBy::Clicking && (card || edit_->Chosen())) {
+    setCursor(Qt::PointingHandCursor);
+  } else {
+    unsetCursor();
+  }
+}
+
 void TableView::ShowCursor(QPointF mouse) {
+  if (edit_) {
+    ShowEditCursor(mouse);
+    return;
+  }
   bool legal = false;
   if (play_) {
     const auto hit = CardAt(Layout(), mouse);

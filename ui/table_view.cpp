@@ -7,6 +7,7 @@
 #include <QLinearGradient>
 #include <QPainter>
 
+#include "ui/edit_painter.h"
 #include "ui/table_best.h"
 #include "ui/table_centre.h"
 #include "ui/table_text.h"
@@ -44,8 +45,24 @@ void TableView::Show(const Board& board, const Settings& settings, const CardPla
   settings_ = settings;
   play_ = std::move(shown);
   toCall_ = toCall;
-  setAccessibleDescription(play_ ? DescribePlay(board_, *play_) : DescribeTable(board_, toCall_));
-  setMouseTracking(play_.has_value());
+  edit_.reset();
+  Describe();
+}
+
+void TableView::ShowEdit(const Board& board, const Settings& settings) {
+  if (!edit_) Show(board, settings);
+  if (!edit_) edit_.emplace();
+  board_ = board;
+  settings_ = settings;
+  edit_->Show(board.Hands, EditMethodOf(settings));
+  Describe();
+}
+
+void TableView::Describe() {
+  setAccessibleDescription(edit_   ? DescribeEdit(board_, *edit_)
+                           : play_ ? DescribePlay(board_, *play_)
+                                   : DescribeTable(board_, toCall_));
+  setMouseTracking(play_ || edit_);
   ShowCursor(mapFromGlobal(QCursor::pos()));
   update();
 }
@@ -56,6 +73,7 @@ void TableView::ShowBestCards(std::vector<CardScore> best) {
 }
 
 TableLayout TableView::Layout() const {
+  if (edit_) return LayOutEdit(size(), board_.Hands).table;
   const HandDisplay display = settings_.CardsFaces ? HandDisplay::Cards : HandDisplay::Text;
   TableLayout layout = LayOutTable(size(), board_.Hands, display);
   if (play_ && display == HandDisplay::Cards) PlaceCardsLeft(layout, *play_);
@@ -100,6 +118,10 @@ void TableView::paintEvent(QPaintEvent* /*event*/) {
   const TableLayout layout = Layout();
   const TableColours colours = ColoursFor(palette());
   DrawFelt(painter, layout, colours);
+  if (edit_) {
+    DrawEditing(painter, colours);
+    return;
+  }
   const PerSeat<Caption> captions = Captions();
   const CaptionLayout pills = LayOutCaptions(layout, captions, settings_, logicalDpiY());
   if (play_) DrawWon(painter, LayOutWon(layout, *play_), *play_, backs_, colours, font());
@@ -111,6 +133,24 @@ void TableView::paintEvent(QPaintEvent* /*event*/) {
     DrawText(painter, layout);
   }
   if (play_) DrawBestCards(painter, layout, best_, font());
+}
+
+void TableView::DrawEditing(QPainter& painter, const TableColours& colours) {
+  const EditLayout layout = LayOutEdit(size(), board_.Hands);
+  const EditCaptionTexts captions = MakeEditCaptions(board_, settings_, *edit_);
+  const CaptionLayout pills =
+      LayOutCaptions(layout.table, captions.hands, settings_, logicalDpiY());
+  DrawCaptions(painter, pills, captions.hands, settings_, colours, palette());
+  DrawCaption(painter, pills, PillFor(pills, captions.pack, layout.packCaption), captions.pack,
+              settings_, colours, palette());
+  DrawCentre(painter, layout.table.centre, board_, colours, font());
+  DrawRooms(painter, layout, *edit_, colours);
+  CardLook look{layout.table.cardSize, painter.device()->devicePixelRatioF(), settings_.CardDesign,
+                settings_.SuitColour};
+  cards_.SetLook(look);
+  look.size = layout.packCardSize;
+  packCards_.SetLook(look);
+  DrawEditedCards(painter, layout, *edit_, cards_, packCards_);
 }
 
 PerSeat<Caption> TableView::Captions() const {

@@ -13,6 +13,7 @@
 #include "ui/card_back.h"
 #include "ui/card_painter.h"
 #include "ui/table_captions.h"
+#include "ui/table_edit.h"
 #include "ui/table_keys.h"
 #include "ui/table_layout.h"
 #include "ui/table_play.h"
@@ -31,6 +32,9 @@ class TableView : public QWidget {
   /// and what lies on the table; during an auction `toCall` is the player to call.
   void Show(const Board& board, const Settings& settings, const CardPlay* play = nullptr,
             std::optional<Seat> toCall = std::nullopt);
+  /// Shows `board` with its pack, to be edited in the way that the settings name. The cards are
+  /// what is moved, so they are shown as faces whatever the settings say.
+  void ShowEdit(const Board& board, const Settings& settings);
 
   /// Writes on cards of the hand on play the tricks that they lead to; none to write nothing.
   void ShowBestCards(std::vector<CardScore> best);
@@ -49,6 +53,8 @@ class TableView : public QWidget {
   void OnlyCardAsked();
   /// The table was clicked beside the cards.
   void TrickAsked();
+  /// A card was moved to a hand, or to the pack when there is no `to`.
+  void MoveAsked(Card card, std::optional<Seat> to);
 
  protected:
   bool event(QEvent* event) override;
@@ -56,6 +62,7 @@ class TableView : public QWidget {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
@@ -66,17 +73,24 @@ class TableView : public QWidget {
   void DrawMiddle(QPainter& painter, const TableLayout& layout, const TableColours& colours);
   void DrawCards(QPainter& painter, const TableLayout& layout);
   void DrawText(QPainter& painter, const TableLayout& layout) const;
+  void DrawEditing(QPainter& painter, const TableColours& colours);
+  void Describe();
   void ShowCursor(QPointF mouse);
+  void ShowEditCursor(QPointF mouse);
+  void Ask(const std::optional<CardMove>& move);
+  bool EditKey(const QKeyEvent& event);
   bool IsOurKey(const QKeyEvent& event) const;
 
   Board board_;
   Settings settings_;
   std::optional<TablePlay> play_;
+  std::optional<TableEdit> edit_;
   std::optional<Seat> toCall_;
   std::vector<CardScore> best_;
   TableKeys keys_;
   CardPainter cards_;
   CardPainter trickCards_;
+  CardPainter packCards_;
   CardBacks backs_;
 };
 

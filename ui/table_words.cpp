@@ -83,6 +83,21 @@ PerSeat<QString> PlayCaptions(const Board& board, const Settings& settings,
   return captions;
 }
 
+PerSeat<QString> EditCaptions(const Board& board, const Settings& settings) {
+  Settings named = settings;
+  named.CaptionPlayer = true;
+  PerSeat<QString> captions;
+  const PerSeat<std::string> edited = GetCaptionsEdit(GetStats(board.Hands), named);
+  for (const Seat seat : kAllSeats) captions[seat] = ToQt(edited[seat]).simplified();
+  return captions;
+}
+
+QString PackCaption(const Board& board) {
+  int cards = 0;
+  for (const Holding missing : GetStats(board.Hands).MissingCards) cards += missing.Count();
+  return cards == 1 ? Words::tr("Pack: 1 card") : Words::tr("Pack: %1 cards").arg(cards);
+}
+
 PerSeat<QString> CallCaptions(const Board& board, const Settings& settings, Seat toCall) {
   PerSeat<QString> captions = TableCaptions(board, settings);
   QString& caption = captions[toCall];
@@ -112,6 +127,22 @@ QString DescribeTable(const Board& board, std::optional<Seat> toCall) {
   parts << ToQt(VulText[board.Vulnerability()]);
   if (toCall) parts << Words::tr("%1 to call").arg(ToQt(SeatName[*toCall]));
   parts << DescribeHands(board.Hands);
+  return parts.join(QStringLiteral(". ")) + u'.';
+}
+
+QString DescribeEdit(const Board& board, const TableEdit& edit) {
+  QStringList parts = BoardLine(board);
+  parts << Words::tr("Editing");
+  if (const auto card = edit.Chosen()) {
+    parts << Words::tr("%1 %2 chosen").arg(ToQt(SuitName[card->suit]), ToQt(RankText[card->rank]));
+  }
+  if (const auto frame = edit.Receiver()) {
+    const auto seat = SeatOf(*frame);
+    parts << Words::tr("%1 waits for cards").arg(seat ? ToQt(SeatName[*seat]) : Words::tr("Pack"));
+  }
+  parts << DescribeHands(board.Hands);
+  const PerSuit<Holding> pack = GetStats(board.Hands).MissingCards;
+  parts << Words::tr("Pack") + QStringLiteral(": ") + DescribeHand(pack);
   return parts.join(QStringLiteral(". ")) + u'.';
 }
 

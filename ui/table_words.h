@@ -8,6 +8,7 @@
 
 #include "core/board.h"
 #include "core/settings.h"
+#include "ui/table_edit.h"
 #include "ui/table_play.h"
 
 namespace tricklet::ui {
@@ -19,6 +20,11 @@ PerSeat<QString> TableCaptions(const Board& board, const Settings& settings);
 /// The captions while the board is being played: "North: Dummy", "East: to play".
 PerSeat<QString> PlayCaptions(const Board& board, const Settings& settings,
                               std::optional<Seat> onPlay);
+/// The captions while hands are edited: all with the seat's name, of empty hands too.
+PerSeat<QString> EditCaptions(const Board& board, const Settings& settings);
+/// "Pack: 12 cards".
+QString PackCaption(const Board& board);
+
 /// The captions during an auction: the player to call is told in words too.
 PerSeat<QString> CallCaptions(const Board& board, const Settings& settings, Seat toCall);
 
@@ -32,6 +38,8 @@ QString HoldingLine(Holding holding);
 
 /// The board in words: "Board 1. Dealer North. Love all. North: spades A K 10 5; hearts ...".
 QString DescribeTable(const Board& board, std::optional<Seat> toCall = std::nullopt);
+/// The deal while it is edited: what waits for a card or a hand, the hands, and the pack.
+QString DescribeEdit(const Board& board, const TableEdit& edit);
 /// The play in words: whose turn it is, the trick on the table, the tricks won and the cards left.
 QString DescribePlay(const Board& board, const TablePlay& play);
 

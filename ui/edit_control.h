@@ -1,0 +1,58 @@
+// The editing of the board's hands in the window.
+#pragma once
+
+#include <string_view>
+
+#include "generate/editing.h"
+#include "generate/rotation.h"
+#include "library/session.h"
+
+namespace tricklet::ui {
+
+class PlayControl;
+
+/// Whether the session's board is being edited, and what has been kept to undo. Each edit is the
+/// engine's; a refusal is told to the person, with a beep or a message, and changes nothing.
+class EditControl {
+ public:
+  EditControl(Session& session, PlayControl& play);
+
+  bool Editing() const { return editing_; }
+
+  /// `cmdEdit`: begins, and ends the play, which may be asked about. False when the person wants to
+  /// play on.
+  bool Start();
+  void Stop() { editing_ = false; }
+  /// To be called when the board in hand may be another one: the editing of a board that has been
+  /// loaded or played since is over, and nothing of a board that has been loaded can be undone.
+  void Follow();
+
+  bool CanUndoClear() const;
+  // While editing.
+  bool CanFill() const;
+  bool CanFillFourth() const;
+  bool CanUndoFill() const;
+
+  void MoveCard(Card card, std::optional<Seat> to);
+  /// False when `text` was refused.
+  bool TypeHand(Seat seat, std::string_view text);
+  void Clear();
+  void UndoClear();
+  void Fill();
+  void FillFourth();
+  void UndoFill();
+  void SwapHands(Seat from, Seat to);
+  void SwapSuits(Suit suit1, Suit suit2);
+  void Rotate(Rotation rotation, bool takeAuction);
+
+ private:
+  Board& ForEditing();
+
+  Session& session_;
+  PlayControl& play_;
+  EditHistory history_;
+  int boardsLoaded_ = 0;
+  bool editing_ = false;
+};
+
+}  // namespace tricklet::ui

@@ -1,0 +1,60 @@
+// The left column's upper part while hands are edited.
+#pragma once
+
+#include "library/session.h"
+#include "ui/section.h"
+
+class QComboBox;
+class QGridLayout;
+class QLineEdit;
+class QPushButton;
+
+namespace tricklet::ui {
+
+class Commands;
+class EditControl;
+
+/// `fraEdit`: the ways of editing, what can be filled, cleared and undone, and, where hands are
+/// typed, a line for each.
+class EditPane : public Section {
+  Q_OBJECT
+
+ public:
+  explicit EditPane(Commands& commands, QWidget* parent = nullptr);
+
+  void Show(const Session& session, const EditControl& edit);
+
+  /// Takes over a hand that is being typed; false when it was refused, and the text is still there.
+  bool FinishTyping();
+  /// What is being typed is not taken over any more.
+  void ForgetTyping();
+  /// The line to begin with; nullptr where hands are not typed.
+  QWidget* FirstLine() const;
+
+  /// The controls in the order of the tab key.
+  QList<QWidget*> TabOrder() const;
+
+ private:
+  void BuildMethod();
+  QWidget* BuildLines();
+  void BuildButtons();
+  QPushButton* Add(QGridLayout* grid, const char* name, const QString& text, const QString& tip,
+                   void (Commands::*command)());
+  void ShowMethod(const Settings& settings);
+  void ShowLines(const Board& board);
+  bool FinishLine(Seat seat);
+
+  Commands& commands_;
+  QComboBox* cmbEditMethod_;
+  QLabel* hint_;
+  QWidget* lines_;
+  PerSeat<QLineEdit*> txtHand;
+  PerSeat<QString> shown_;  // in `txtHand` before anything was typed there
+  QPushButton* cmdRandom = nullptr;
+  QPushButton* cmdUndoFill = nullptr;
+  QPushButton* cmdFillFourth_ = nullptr;
+  QPushButton* cmdClear = nullptr;
+  QPushButton* cmdUndoClear = nullptr;
+};
+
+}  // namespace tricklet::ui
