@@ -1,6 +1,7 @@
 #include "ui/edit_painter.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "ui/table_words.h"
 
@@ -10,6 +11,8 @@ namespace {
 constexpr double kRoomRadius = 8;
 /// Of a card's width.
 constexpr double kFrame = 0.06;
+/// How far the chosen card stands out, of its height.
+constexpr double kRaise = 0.04;
 
 void DrawFrame(QPainter& painter, const QRectF& rect, double radius, const QPen& pen) {
   painter.setBrush(Qt::NoBrush);
@@ -22,6 +25,12 @@ QPen MarkPen(QSizeF card) {
   return {kOnPlayYellow, std::max(2.0, kFrame * card.width())};
 }
 
+/// In a strong frame.
+void DrawMarked(QPainter& painter, CardPainter& cards, const EditedCard& card) {
+  cards.Draw(painter, card.rect.topLeft(), card.card);
+  DrawFrame(painter, card.rect, card.rect.width() * kCornerShare, MarkPen(card.rect.size()));
+}
+
 /// One card among those of its hand or of the pack.
 void DrawOne(QPainter& painter, const TableEdit& edit, CardPainter& cards, Card card,
              const QRectF& rect) {
@@ -30,11 +39,10 @@ void DrawOne(QPainter& painter, const TableEdit& edit, CardPainter& cards, Card 
     cards.DrawDimmed(painter, rect.topLeft(), card);
     return;
   }
-  cards.Draw(painter, rect.topLeft(), card);
   if (edit.Chosen() == card) {
-    const QPen pen = MarkPen(rect.size());
-    const double half = pen.widthF();
-    DrawFrame(painter, rect.adjusted(half, half, -half, -half), rect.width() * kCornerShare, pen);
+    DrawMarked(painter, cards, {card, rect.translated(0, -std::round(kRaise * rect.height()))});
+  } else {
+    cards.Draw(painter, rect.topLeft(), card);
   }
 }
 
@@ -76,8 +84,7 @@ void DrawEditedCards(QPainter& painter, const EditLayout& layout, const TableEdi
   if (const auto held = edit.Held()) {
     CardPainter& own =
         FrameHolding(edit.Hands(), held->card) == HandFrame::Pack ? packCards : cards;
-    own.Draw(painter, held->rect.topLeft(), held->card);
-    DrawFrame(painter, held->rect, held->rect.width() * kCornerShare, MarkPen(held->rect.size()));
+    DrawMarked(painter, own, *held);
   }
 }
 

@@ -26,8 +26,8 @@ EditCaptionTexts MakeEditCaptions(const Board& board, const Settings& settings,
 void DrawRooms(QPainter& painter, const EditLayout& layout, const TableEdit& edit,
                const TableColours& colours);
 
-/// All cards where they lie, the chosen one in a frame; a card in the air is shaded in its place
-/// and drawn under the mouse. The painters have the looks that the layout asks for.
+/// All cards where they lie, the chosen one raised and in a frame; a card in the air is shaded in
+/// its place and drawn under the mouse. The painters have the looks that the layout asks for.
 void DrawEditedCards(QPainter& painter, const EditLayout& layout, const TableEdit& edit,
                      CardPainter& cards, CardPainter& packCards);
 

@@ -30,17 +30,19 @@ QString HandLine(const PerSuit<Holding>& hand) {
   return cards == 0 ? QString() : suits.join(u'.');
 }
 
+/// Examples are on lines of their own, so that they are not broken.
 QString HintFor(EditBy method) {
+  const QString keys = EditPane::tr("By keys: suit, rank and seat, as in\nH A N");
   switch (method) {
     case EditBy::Dragging:
-      return EditPane::tr(
-          "Drag cards between the hands and the pack. By keys: suit, rank and seat, as in H A N.");
+      return EditPane::tr("Drag cards between the hands and the pack.") + u' ' + keys;
     case EditBy::Clicking:
-      return EditPane::tr(
-          "Click a card and then its hand, or a hand and then its cards. By keys: suit, rank and "
-          "seat, as in H A N.");
+      return EditPane::tr("Click a card and then its hand, or a hand and then its cards.") + u' ' +
+             keys;
     default:
-      return EditPane::tr("Type a hand as spades, hearts, diamonds and clubs: AKT2.QJ5.-.98");
+      return EditPane::tr(
+          "Type a hand as spades, hearts, diamonds and clubs, and press Enter:\n"
+          "AKT2.QJ5.-.98");
   }
 }
 

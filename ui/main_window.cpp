@@ -147,7 +147,7 @@ void MainWindow::Connect() {
 void MainWindow::ConnectEdit() {
   commands_->SetFinishTyping([this] { return editPane_->FinishTyping(); });
   connect(commands_, &Commands::EditStarted, this, &MainWindow::BeginEditing);
-  connect(commands_, &Commands::SwapOpened, this, &MainWindow::PlaceBesideAuction);
+  connect(commands_, &Commands::SwapOpened, this, &MainWindow::PlaceBesideHands);
   connect(commands_, &Commands::HandsChanged, this, &MainWindow::Display);
   connect(table_, &TableView::MoveAsked, commands_, &Commands::MoveCard);
 }
@@ -228,7 +228,18 @@ void MainWindow::BeginEditing() {
 /// The lower left corner: there it covers neither the auction nor the middle of the table.
 void MainWindow::PlaceBesideAuction(QWidget* dialog) {
   dialog->adjustSize();
-  const QPoint corner = mapToGlobal(QPoint(kMargin, height() - dialog->height() - kFrameHeight));
+  PlaceAt(dialog, kMargin);
+}
+
+/// The lower right corner: there it covers no hand.
+void MainWindow::PlaceBesideHands(QWidget* dialog) {
+  dialog->adjustSize();
+  PlaceAt(dialog, width() - dialog->width() - kMargin);
+}
+
+/// At the lower edge of the window, `left` from its own left.
+void MainWindow::PlaceAt(QWidget* dialog, int left) {
+  const QPoint corner = mapToGlobal(QPoint(left, height() - dialog->height() - kFrameHeight));
   const QRect room = screen()->availableGeometry();
   dialog->move(std::max(corner.x(), room.left()), std::max(corner.y(), room.top()));
 }

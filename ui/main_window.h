@@ -69,6 +69,8 @@ class MainWindow : public QMainWindow {
   void DisplayTable();
   void BeginEditing();
   void PlaceBesideAuction(QWidget* dialog);
+  void PlaceBesideHands(QWidget* dialog);
+  void PlaceAt(QWidget* dialog, int left);
   void SetTabOrder();
   void BuildStatusLine();
   void SetWorking(bool working);
