@@ -7,9 +7,8 @@ namespace tricklet::ui {
 namespace {
 
 constexpr double kPackShare = 0.28;  // of the widget's width
-/// A suit of the pack lies in two rows: seven cards, and the six below them.
+/// A suit of the pack lies in two rows: seven cards, and below them the other six.
 constexpr int kRowCards = 7;
-constexpr int kSuitRows = 2;
 // In cards' widths and heights.
 constexpr double kLeastAcross = 0.27;  // the index still shows
 constexpr double kMostAcross = 0.6;
@@ -44,7 +43,7 @@ void PlacePack(EditLayout& layout) {
   double top = layout.packArea.top();
   for (const Suit each : kTableSuits) {
     for (int rank = 0; rank < kRanks; ++rank) {
-      const QPointF corner(left + across * (rank % kRowCards), top + row * (rank / kRowCards));
+      const QPointF corner(left + across * (rank % kRowCards), rank < kRowCards ? top : top + row);
       const auto index = static_cast<std::size_t>(Card{each, static_cast<Rank>(rank)}.Index());
       layout.packPlaces.at(index) = QRectF(corner, layout.packCardSize);
     }

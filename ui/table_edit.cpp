@@ -94,8 +94,9 @@ std::optional<CardMove> TableEdit::Press(const EditLayout& layout, QPointF at) {
 std::optional<CardMove> TableEdit::Click(const EditLayout& layout, QPointF at) {
   const auto frame = FrameAt(layout, at);
   const auto hit = EditedCardAt(layout, hands_, at);
-  if (chosen_ && frame && *frame != FrameHolding(hands_, *chosen_)) {
-    return CardMove{*std::exchange(chosen_, std::nullopt), *frame};
+  if (const auto chosen = chosen_; chosen && frame && *frame != FrameHolding(hands_, *chosen)) {
+    chosen_.reset();
+    return CardMove{*chosen, *frame};
   }
   if (hit && receiver_ && FrameHolding(hands_, hit->card) != *receiver_) {
     return CardMove{hit->card, *receiver_};
@@ -150,8 +151,11 @@ TableEdit::KeyAnswer TableEdit::Key(int key, Qt::KeyboardModifiers modifiers) {
     return {something, std::nullopt};
   }
   if (grip_) return {};
-  if (chosen_ && !keys_.HalfTyped()) {
-    if (const auto to = FrameOfLetter(key)) return GiveChosen(*to);
+  if (const auto chosen = chosen_; chosen && !keys_.HalfTyped()) {
+    if (const auto to = FrameOfLetter(key)) {
+      chosen_.reset();
+      return {true, CardMove{*chosen, *to}};
+    }
   }
   if (const auto receiver = FrameOfArrow(key)) {
     keys_.Forget();
@@ -159,10 +163,6 @@ TableEdit::KeyAnswer TableEdit::Key(int key, Qt::KeyboardModifiers modifiers) {
     return {true, std::nullopt};
   }
   return TypeCard(key, modifiers);
-}
-
-TableEdit::KeyAnswer TableEdit::GiveChosen(HandFrame to) {
-  return {true, CardMove{*std::exchange(chosen_, std::nullopt), to}};
 }
 
 TableEdit::KeyAnswer TableEdit::TypeCard(int key, Qt::KeyboardModifiers modifiers) {

@@ -71,7 +71,6 @@ class TableEdit {
   };
 
   std::optional<CardMove> Click(const EditLayout& layout, QPointF at);
-  KeyAnswer GiveChosen(HandFrame to);
   KeyAnswer TypeCard(int key, Qt::KeyboardModifiers modifiers);
   void Choose(HandFrame receiver);
 

@@ -119,7 +119,7 @@ void TableView::paintEvent(QPaintEvent* /*event*/) {
   const TableColours colours = ColoursFor(palette());
   DrawFelt(painter, layout, colours);
   if (edit_) {
-    DrawEditing(painter, colours);
+    DrawEditing(painter, *edit_, colours);
     return;
   }
   const PerSeat<Caption> captions = Captions();
@@ -135,22 +135,22 @@ void TableView::paintEvent(QPaintEvent* /*event*/) {
   if (play_) DrawBestCards(painter, layout, best_, font());
 }
 
-void TableView::DrawEditing(QPainter& painter, const TableColours& colours) {
+void TableView::DrawEditing(QPainter& painter, const TableEdit& edit, const TableColours& colours) {
   const EditLayout layout = LayOutEdit(size(), board_.Hands);
-  const EditCaptionTexts captions = MakeEditCaptions(board_, settings_, *edit_);
+  const EditCaptionTexts captions = MakeEditCaptions(board_, settings_, edit);
   const CaptionLayout pills =
       LayOutCaptions(layout.table, captions.hands, settings_, logicalDpiY());
   DrawCaptions(painter, pills, captions.hands, settings_, colours, palette());
   DrawCaption(painter, pills, PillFor(pills, captions.pack, layout.packCaption), captions.pack,
               settings_, colours, palette());
   DrawCentre(painter, layout.table.centre, board_, colours, font());
-  DrawRooms(painter, layout, *edit_, colours);
+  DrawRooms(painter, layout, edit, colours);
   CardLook look{layout.table.cardSize, painter.device()->devicePixelRatioF(), settings_.CardDesign,
                 settings_.SuitColour};
   cards_.SetLook(look);
   look.size = layout.packCardSize;
   packCards_.SetLook(look);
-  DrawEditedCards(painter, layout, *edit_, cards_, packCards_);
+  DrawEditedCards(painter, layout, edit, cards_, packCards_);
 }
 
 PerSeat<Caption> TableView::Captions() const {

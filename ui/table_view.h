@@ -73,7 +73,7 @@ class TableView : public QWidget {
   void DrawMiddle(QPainter& painter, const TableLayout& layout, const TableColours& colours);
   void DrawCards(QPainter& painter, const TableLayout& layout);
   void DrawText(QPainter& painter, const TableLayout& layout) const;
-  void DrawEditing(QPainter& painter, const TableColours& colours);
+  void DrawEditing(QPainter& painter, const TableEdit& edit, const TableColours& colours);
   void Describe();
   void ShowCursor(QPointF mouse);
   void ShowEditCursor(QPointF mouse);
