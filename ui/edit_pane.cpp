@@ -1,10 +1,14 @@
 #include "ui/edit_pane.h"
 
+#include <chrono>
+
+#include <QAction>
 #include <QComboBox>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSignalBlocker>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "ui/commands.h"
@@ -18,6 +22,8 @@ namespace {
 constexpr int kColumns = 2;
 /// More than any hand takes, blanks included.
 constexpr int kMostCharacters = 60;
+/// After a line has been left.
+constexpr std::chrono::milliseconds kLookAgain{20};
 
 /// "AKT2.QJ5.-.98"; nothing for a hand without cards.
 QString HandLine(const PerSuit<Holding>& hand) {
@@ -53,7 +59,11 @@ EditPane::EditPane(Commands& commands, QWidget* parent)
       commands_(commands),
       cmbEditMethod_(new QComboBox(this)),
       hint_(new QLabel(this)),
-      lines_(nullptr) {
+      lines_(nullptr),
+      lineLeft_(new QTimer(this)) {
+  lineLeft_->setSingleShot(true);
+  lineLeft_->setInterval(kLookAgain);
+  connect(lineLeft_, &QTimer::timeout, this, &EditPane::FinishLinesLeft);
   BuildMethod();
   lines_ = BuildLines();
   BuildButtons();
@@ -81,7 +91,14 @@ QWidget* EditPane::BuildLines() {
     line->setAccessibleName(tr("Hand of %1").arg(ToQt(SeatName[seat])));
     line->setMaxLength(kMostCharacters);
     line->setPlaceholderText(tr("no cards"));
-    connect(line, &QLineEdit::editingFinished, this, [this, seat] { FinishLine(seat); });
+    connect(line, &QLineEdit::returnPressed, this, [this, seat] { FinishLine(seat); });
+    connect(line, &QLineEdit::editingFinished, lineLeft_, qOverload<>(&QTimer::start));
+    auto* giveUp = new QAction(tr("Leave the hand as it is"), line);
+    giveUp->setShortcut(Qt::Key_Escape);
+    giveUp->setShortcutContext(Qt::WidgetShortcut);
+    connect(giveUp, &QAction::triggered, line,
+            [this, seat] { txtHand[seat]->setText(shown_[seat]); });
+    line->addAction(giveUp);
     auto* label = new QLabel(ToQt(SeatName[seat]), lines);
     label->setBuddy(line);
     grid->addWidget(label, IndexOf(seat), 0);
@@ -173,6 +190,18 @@ bool EditPane::FinishTyping() {
     if (!FinishLine(seat)) return false;
   }
   return true;
+}
+
+/// Not in the middle of a click: a message would keep the button that was pressed from being let
+/// go.
+void EditPane::FinishLinesLeft() {
+  if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+    lineLeft_->start();
+    return;
+  }
+  for (const Seat seat : kAllSeats) {
+    if (!txtHand[seat]->hasFocus() && !FinishLine(seat)) return;
+  }
 }
 
 bool EditPane::FinishLine(Seat seat) {

@@ -8,6 +8,7 @@ class QComboBox;
 class QGridLayout;
 class QLineEdit;
 class QPushButton;
+class QTimer;
 
 namespace tricklet::ui {
 
@@ -43,11 +44,13 @@ class EditPane : public Section {
   void ShowMethod(const Settings& settings);
   void ShowLines(const Board& board);
   bool FinishLine(Seat seat);
+  void FinishLinesLeft();
 
   Commands& commands_;
   QComboBox* cmbEditMethod_;
   QLabel* hint_;
   QWidget* lines_;
+  QTimer* lineLeft_;
   PerSeat<QLineEdit*> txtHand;
   PerSeat<QString> shown_;  // in `txtHand` before anything was typed there
   QPushButton* cmdRandom = nullptr;

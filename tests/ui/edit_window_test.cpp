@@ -238,9 +238,16 @@ TEST_F(EditWindowTest, HandsAreTypedAndRefusedWithTheReason) {
   EXPECT_EQ(session.board.Hands[Seat::East][Suit::Hearts], AddSpace("3")) << "taken over and saved";
   EXPECT_FALSE(session.board.HandChanged);
   EXPECT_TRUE(Shown("fraEdit"));
+  TypeHand(1, "Q.32..");
+  FocusKey(Qt::Key_Tab);
+  const auto taken = [this] { return session.board.HandChanged; };
+  EXPECT_TRUE(QTest::qWaitFor(taken)) << "by leaving the line";
+  EXPECT_EQ(session.board.Hands[Seat::East][Suit::Hearts], AddSpace("32"));
   TypeHand(2, "X.3..");
   host.ExpectTell("X does not begin with a rank");
   EXPECT_FALSE(window->close());
+  FocusKey(Qt::Key_Escape);
+  EXPECT_EQ(Line(2), QStringLiteral("-.-.AKQJT98765432.-")) << "given up";
 }
 
 TEST_F(EditWindowTest, ABoardIsClearedFilledSwappedAndSavedByClicks) {
