@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/fault.h"
 #include "formats/file_type.h"
 #include "formats/import_run.h"
 #include "formats/lin_file.h"
@@ -24,14 +25,24 @@ void SetScoring(LinFile& results) {
   results.BoardScoringAbb = match ? "IMP" : "MP";
 }
 
-/// Reads the boards, and keeps their records where those of club results are kept.
+/// Keeps the records of the boards stored where those of club results are kept.
+void KeepRecords(const Session& session, LinFile& results) {
+  if (results.Lin.empty()) return;
+  SetScoring(results);
+  StoreLinData(session, results);
+}
+
 TextReader ReaderInto(const Session& session) {
   return [&session](std::string_view text, BoardSink& sink) {
     LinFile results;
-    ReadResult result = ReadLIN(text, sink, results.Lin);
-    if (results.Lin.empty()) return result;
-    SetScoring(results);
-    StoreLinData(session, results);
+    ReadResult result;
+    try {
+      result = ReadLIN(text, sink, results.Lin);
+    } catch (const Fault&) {
+      KeepRecords(session, results);  // the boards before the one that failed are stored
+      throw;
+    }
+    KeepRecords(session, results);
     return result;
   };
 }

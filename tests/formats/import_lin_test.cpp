@@ -79,17 +79,18 @@ TEST_F(ImportLinTest, BadInputIsToldAndStoresNothingOfIt) {
 
   std::string calls;
   for (int i = 0; i < 101; ++i) calls += "mb|p|";
-  const fs::path path = File(Record("o2", calls));
+  const fs::path path = File(Record("o1") + Record("c1") + Record("o2", calls));
   host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
   host.ExpectAskWith("Error no. 9\n", Answer::Yes);
   host.ExpectTell("Cannot read the file " + PathText(path));
   EXPECT_TRUE(ImportLinFile(session, path).failed);
+  EXPECT_EQ(LoadLinData(session).Lin.size(), 2U) << "the results of the board that stays";
   host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
   host.ExpectAskWith("Error no. 13\n", Answer::Yes);
   host.ExpectTell("Cannot read the LIN records");
   EXPECT_TRUE(ImportLinText(session, "lin=md%7C3SA%7C%").failed);
   EXPECT_EQ(session.library.BoardCount, 1);
-  EXPECT_EQ(LoadLinData(session).Lin.size(), 1U) << "the results of the board that stays";
+  EXPECT_EQ(LoadLinData(session).Lin.size(), 2U);
 
   host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
   host.ExpectTell("No hands have been saved to the library - Club");
