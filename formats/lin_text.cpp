@@ -27,9 +27,10 @@ std::string DecodePercent(std::string_view text) {
       decoded += text[i];
       continue;
     }
-    const auto high = i + 2 < text.size() ? HexDigit(text[i + 1]) : std::nullopt;
-    const auto low = high ? HexDigit(text[i + 2]) : std::nullopt;
-    if (!low) throw Fault(FaultNumber::TypeMismatch, "A percent escape is not complete");
+    const std::string_view digits = text.substr(i + 1, 2);
+    const auto high = digits.size() == 2 ? HexDigit(digits[0]) : std::nullopt;
+    const auto low = digits.size() == 2 ? HexDigit(digits[1]) : std::nullopt;
+    if (!high || !low) throw Fault(FaultNumber::TypeMismatch, "A percent escape is not complete");
     decoded += static_cast<char>((*high << 4U) | *low);
     i += 2;
   }
