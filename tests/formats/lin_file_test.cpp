@@ -38,7 +38,9 @@ TEST(LinFile, TeamScoringMethodIsSpelledInTwoWays) {
       << text;
   data.TeamEvent->TeamScoringMethod.clear();
   EXPECT_EQ(ParseLinFile(text), data) << "the written spelling is not the one that is looked for";
-  EXPECT_EQ(ParseLinFile("[TeamsScoringMethod]\nVP\n").TeamEvent.value().TeamScoringMethod, "VP");
+  EXPECT_EQ(
+      ParseLinFile("[TeamsScoringMethod]\nVP\n").TeamEvent.value_or(LinTeams()).TeamScoringMethod,
+      "VP");
 }
 
 TEST(LinFile, ReadsWhatOthersWrite) {

@@ -154,7 +154,8 @@ TEST(Usebio, NamesOfPairsAndTeams) {
                                              "</TEAM><TEAM><TEAM_NAME>Spades</TEAM_NAME></TEAM>"));
   const LinFile data = Read(UsebioText(teams, "TEAMS")).data;
   EXPECT_EQ(data.Names, names);
-  EXPECT_EQ(data.TeamEvent.value().Teams, (std::vector<std::string>{"4 Hearts", "Spades"}));
+  EXPECT_EQ(data.TeamEvent.value_or(LinTeams()).Teams,
+            (std::vector<std::string>{"4 Hearts", "Spades"}));
   const std::string nested = Element("PARTICIPANTS", Element("PARTICIPANTS", pairs));
   EXPECT_EQ(Read(UsebioText(nested)).data.Names, names) << "each pair once";
 }
