@@ -13,14 +13,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The file is marked read-only. Asked of its permissions, not by trying to open it: an
-/// administrator may open anything, and the mark is the owner's wish all the same.
-bool IsReadOnly(const fs::path& path) {
-  std::error_code failure;
-  const fs::file_status status = fs::status(path, failure);
-  return !failure && (status.permissions() & fs::perms::owner_write) == fs::perms::none;
-}
-
 /// Asks before a changed board replaces `path`; false when it must not.
 bool MayReplace(Session& session, const fs::path& path, Buttons style) {
   const std::string question =

@@ -24,8 +24,9 @@ namespace fs = std::filesystem;
 
 #ifdef _WIN32
 using StatRecord = struct _stat64;
-int OpenToRead(const fs::path& path) {
-  return _wopen(path.c_str(), _O_RDONLY | _O_BINARY);
+constexpr int kNotThroughLinks = 0;
+int OpenToRead(const fs::path& path, int more = 0) {
+  return _wopen(path.c_str(), _O_RDONLY | _O_BINARY | more);
 }
 int OpenToWrite(const fs::path& path) {
   return _wopen(path.c_str(), _O_WRONLY | _O_BINARY | _O_CREAT | _O_TRUNC, _S_IREAD | _S_IWRITE);
@@ -50,9 +51,10 @@ int ProcessId() {
 }
 #else
 using StatRecord = struct stat;
-int OpenToRead(const fs::path& path) {
+constexpr int kNotThroughLinks = O_NOFOLLOW;
+int OpenToRead(const fs::path& path, int more = 0) {
   // Without O_NONBLOCK, opening a pipe that someone named like a board would wait for ever.
-  return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | more);
 }
 int OpenToWrite(const fs::path& path) {
   constexpr mode_t kMode = 0666;  // less the user's mask
@@ -80,6 +82,8 @@ int ProcessId() {
 
 /// The largest piece that every platform's calls take.
 constexpr std::size_t kLargestPiece = std::size_t{1} << 30U;
+/// The piece in which files are copied: small enough to cancel between two of them.
+constexpr std::size_t kCopyPiece = std::size_t{1} << 20U;
 
 std::error_code LastError() {
   return {errno, std::generic_category()};
@@ -114,55 +118,105 @@ void WriteAll(int file, std::string_view data, const fs::path& path) {
   }
 }
 
-}  // namespace
+/// Some bytes; 0 at the end of the file.
+std::size_t ReadPiece(int file, char* to, std::size_t size, const fs::path& path) {
+  for (;;) {
+    const long long got = ReadSome(file, to, size);
+    if (got >= 0) return static_cast<std::size_t>(got);
+    if (errno != EINTR) throw Fault::OfFile(LastError(), PathText(path));
+  }
+}
 
-std::string ReadWholeFile(const fs::path& path, std::size_t maxBytes) {
-  const FileHandle file(OpenToRead(path));
-  if (file.Get() < 0) throw Fault::OfFile(LastError(), PathText(path));
+/// What is known of an open file; throws when it is no regular file.
+StatRecord RegularFile(int file, const fs::path& path) {
+  if (file < 0) throw Fault::OfFile(LastError(), PathText(path));
   StatRecord record{};
-  if (StatOf(file.Get(), record) != 0) throw Fault::OfFile(LastError(), PathText(path));
+  if (StatOf(file, record) != 0) throw Fault::OfFile(LastError(), PathText(path));
   if (!IsRegular(record)) {
     throw Fault(FaultNumber::PathFileAccess, "Not a file: " + PathText(path));
   }
-  const auto size = static_cast<std::size_t>(record.st_size);
-  if (size > maxBytes) {
-    throw Fault(FaultNumber::DeviceError, "The file is too large: " + PathText(path));
-  }
-  std::string data(size, '\0');
-  std::size_t have = 0;
-  while (have < size) {
-    const long long got = ReadSome(file.Get(), data.data() + have, size - have);
-    if (got < 0 && errno == EINTR) continue;
-    if (got < 0) throw Fault::OfFile(LastError(), PathText(path));
-    if (got == 0) break;  // it has shrunk since
-    have += static_cast<std::size_t>(got);
-  }
-  data.resize(have);
-  return data;
+  return record;
 }
 
-void ReplaceWholeFile(const fs::path& path, std::string_view data) {
+/// Lets `write` fill a new file beside `path` and puts it in its place; unless `write` says no or
+/// throws, and then nothing has changed.
+bool ReplaceBy(const fs::path& path, const std::function<bool(int)>& write) {
   fs::path beside = path;
   beside += "." + std::to_string(ProcessId()) + ".new";
   std::error_code ignored;
   FileHandle file(OpenToWrite(beside));
   if (file.Get() < 0) throw Fault::OfFile(LastError(), PathText(path));
   try {
-    WriteAll(file.Get(), data, path);
+    const bool written = write(file.Get());
     if (!file.CloseNow()) throw Fault::OfFile(LastError(), PathText(path));
     std::error_code failure;
-    fs::rename(beside, path, failure);
+    if (written) {
+      fs::rename(beside, path, failure);
+    } else {
+      fs::remove(beside, ignored);
+    }
     if (failure) throw Fault::OfFile(failure, PathText(path));
+    return written;
   } catch (...) {
     fs::remove(beside, ignored);
     throw;
   }
 }
 
+}  // namespace
+
+std::string ReadWholeFile(const fs::path& path, std::size_t maxBytes) {
+  const FileHandle file(OpenToRead(path));
+  const auto size = static_cast<std::size_t>(RegularFile(file.Get(), path).st_size);
+  if (size > maxBytes) {
+    throw Fault(FaultNumber::DeviceError, "The file is too large: " + PathText(path));
+  }
+  std::string data(size, '\0');
+  std::size_t have = 0;
+  while (have < size) {
+    const std::size_t got = ReadPiece(file.Get(), data.data() + have, size - have, path);
+    if (got == 0) break;  // it has shrunk since
+    have += got;
+  }
+  data.resize(have);
+  return data;
+}
+
+void ReplaceWholeFile(const fs::path& path, std::string_view data) {
+  ReplaceBy(path, [&](int file) {
+    WriteAll(file, data, path);
+    return true;
+  });
+}
+
+bool CopyWholeFile(const fs::path& from, const fs::path& to, const std::function<bool()>& goOn) {
+  const FileHandle source(OpenToRead(from, kNotThroughLinks));
+  RegularFile(source.Get(), from);
+  const bool copied = ReplaceBy(to, [&](int file) {
+    std::string piece(kCopyPiece, '\0');
+    for (;;) {
+      const std::size_t got = ReadPiece(source.Get(), piece.data(), piece.size(), from);
+      if (got == 0) return true;
+      WriteAll(file, std::string_view(piece).substr(0, got), to);
+      if (!goOn()) return false;
+    }
+  });
+  std::error_code ignored;
+  const auto changed = fs::last_write_time(from, ignored);
+  if (copied && !ignored) fs::last_write_time(to, changed, ignored);
+  return copied;
+}
+
 bool FileExists(const fs::path& path) {
   std::error_code ignored;
   const fs::file_status status = fs::status(path, ignored);
   return fs::exists(status) && !fs::is_directory(status);
+}
+
+bool IsReadOnly(const fs::path& path) {
+  std::error_code failure;
+  const fs::file_status status = fs::status(path, failure);
+  return !failure && (status.permissions() & fs::perms::owner_write) == fs::perms::none;
 }
 
 }  // namespace tricklet

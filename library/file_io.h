@@ -1,8 +1,9 @@
-// Whole files in and out: one read or one write call each.
+// Whole files in, out and from place to place.
 #pragma once
 
 #include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -16,7 +17,17 @@ std::string ReadWholeFile(const std::filesystem::path& path, std::size_t maxByte
 /// then renamed. Throws `Fault`, and then the old file is as it was.
 void ReplaceWholeFile(const std::filesystem::path& path, std::string_view data);
 
+/// Copies the regular file `from` to the place of `to`, whole or not at all, with its time of
+/// change. `goOn` is asked between pieces; when it says no, nothing was copied and false comes
+/// back. Throws `Fault`, also when `from` is a link or no regular file; `to` is then as it was.
+bool CopyWholeFile(const std::filesystem::path& from, const std::filesystem::path& to,
+                   const std::function<bool()>& goOn);
+
 /// A file (not a folder) of this path exists.
 bool FileExists(const std::filesystem::path& path);
+
+/// The file is marked read-only. Asked of its permissions, not by trying to open it: an
+/// administrator may open anything, and the mark is the owner's wish all the same.
+bool IsReadOnly(const std::filesystem::path& path);
 
 }  // namespace tricklet

@@ -65,23 +65,9 @@ std::string_view TrimmedName(std::string_view name) {
   return Trim(name);
 }
 
-bool NameIsTaken(const Session& session, std::string_view name) {
-  return std::any_of(session.LibraryNames.begin(), session.LibraryNames.end(),
+bool IsListed(const std::vector<std::string>& names, std::string_view name) {
+  return std::any_of(names.begin(), names.end(),
                      [name](const std::string& taken) { return EqualNoCase(taken, name); });
-}
-
-/// A beep for a name that could not have been typed, the system's message for one that is taken.
-bool AcceptNewName(Session& session, std::string_view name) {
-  if (!HasAllowedCharacters(name)) {
-    session.host.Beep();
-    return false;
-  }
-  if (NameIsTaken(session, name) ||
-      fs::exists(session.FileLocation() / PathFromText(std::string(name)))) {
-    session.host.Tell(std::string(name) + " already exists\nPlease choose a different name");
-    return false;
-  }
-  return true;
 }
 
 }  // namespace
@@ -237,7 +223,29 @@ bool HasAllowedCharacters(std::string_view name) {
 
 bool IsNewLibraryName(const Session& session, std::string_view name) {
   const std::string_view trimmed = TrimmedName(name);
-  return HasAllowedCharacters(trimmed) && !NameIsTaken(session, trimmed);
+  return HasAllowedCharacters(trimmed) && !IsListed(session.LibraryNames, trimmed);
+}
+
+bool IsTakenInRoot(const Session& session, std::string_view name) {
+  const fs::path root = session.FileLocation();
+  return IsListed(FoldersOf(root), name) ||
+         fs::exists(fs::symlink_status(root / PathFromText(name)));
+}
+
+bool AcceptNewName(Session& session, std::string_view name) {
+  if (!HasAllowedCharacters(name)) {
+    session.host.Beep();
+    return false;
+  }
+  if (!IsTakenInRoot(session, name)) return true;
+  session.host.Tell(std::string(name) + " already exists\nPlease choose a different name");
+  return false;
+}
+
+void RefreshLibraryNames(Session& session) {
+  session.LibraryNames = FoldersOf(session.FileLocation());
+  session.LibIndex = PositionOf(session.LibraryNames, session.LibraryName());
+  if (session.LibIndex < 0) GetLibraryNames(session);
 }
 
 bool CreateLibrary(Session& session, std::string_view name) {
@@ -262,8 +270,7 @@ bool RenameLibrary(Session& session, std::string_view name) {
   if (session.CopyLibrary == session.LibraryName()) session.CopyLibrary = trimmed;
   session.settings.library = trimmed;
   SaveSetting(session.settings, "library", session.store);
-  session.LibraryNames = FoldersOf(session.FileLocation());
-  session.LibIndex = PositionOf(session.LibraryNames, trimmed);
+  RefreshLibraryNames(session);
   return true;
 }
 

@@ -21,6 +21,9 @@ void GetLibraryNames(Session& session);
 /// Names of the libraries under `root`, in the order of the list.
 std::vector<std::string> FoldersOf(const std::filesystem::path& root);
 
+/// The library root has a folder of the name, whatever the letter case, or something else of it.
+bool IsTakenInRoot(const Session& session, std::string_view name);
+
 /// Scans a library's folder, once; `MaxBoard` is left at 0.
 LibraryState ScanLibrary(const std::filesystem::path& folder);
 
@@ -62,6 +65,14 @@ bool HasAllowedCharacters(std::string_view name);
 /// `name` can be given to a new library of this root: allowed characters, and not yet taken in any
 /// letter case.
 bool IsNewLibraryName(const Session& session, std::string_view name);
+
+/// The same for a name that is to be used now, of the folders that there are now; else a beep for a
+/// name that could not have been typed, or a message.
+bool AcceptNewName(Session& session, std::string_view name);
+
+/// Lists the libraries again and leaves the current library and its board alone; unless that
+/// library is gone, and then as `GetLibraryNames`.
+void RefreshLibraryNames(Session& session);
 
 /// Makes an empty library of the name and selects it, after `CheckSaveChanges`. False, with a beep
 /// or a message, when it could not.

@@ -23,4 +23,8 @@ std::string FolderText(const fs::path& path) {
   return PathText(path / "");
 }
 
+bool IsDriveRoot(const fs::path& path) {
+  return !path.has_filename() && path == path.root_path();
+}
+
 }  // namespace tricklet

@@ -80,4 +80,7 @@ class BatchScope {
 /// `path` as text that ends in the platform's separator, as the library root is stored.
 std::string FolderText(const std::filesystem::path& path);
 
+/// `path` names a drive (or the whole file system), not a folder of one.
+bool IsDriveRoot(const std::filesystem::path& path);
+
 }  // namespace tricklet

@@ -15,11 +15,6 @@ bool FolderExists(const fs::path& path) {
   return !path.empty() && fs::is_directory(path, ignored);
 }
 
-/// A path that ends in a separator names a drive (or the file system's root) as a whole.
-bool IsDriveRoot(const fs::path& path) {
-  return !path.has_filename() && path == path.root_path();
-}
-
 /// Asks until a folder that can be a library root is chosen; false when none is.
 bool ChooseLibraryRoot(Session& session) {
   session.settings.filelocation.clear();

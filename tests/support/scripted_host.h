@@ -56,8 +56,10 @@ class ScriptedHost : public Host {
     return expected.answer.value_or(cautious);
   }
   void Beep() override { ++beeps; }
-  std::optional<std::filesystem::path> ChooseFolder(
-      const std::string& /*title*/, const std::filesystem::path& /*start*/) override {
+  std::optional<std::filesystem::path> ChooseFolder(const std::string& title,
+                                                    const std::filesystem::path& start) override {
+    folderTitle = title;
+    folderStart = start;
     return NextChoice();
   }
   std::optional<std::filesystem::path> ChooseOpenFile(const FileChoice& /*choice*/) override {
@@ -69,6 +71,7 @@ class ScriptedHost : public Host {
   }
   /// Moves what is recycled out of the way, as a recycle bin does.
   bool Recycle(const std::filesystem::path& path) override {
+    if (!hasRecycleBin) return false;
     recycled.push_back(path.filename().string());
     std::error_code failure;
     std::filesystem::remove_all(path, failure);
@@ -80,6 +83,7 @@ class ScriptedHost : public Host {
   }
   bool Step(const std::string& text, int /*done*/, int /*total*/) override {
     steps.push_back(text);
+    if (onStep) onStep();
     return static_cast<int>(steps.size()) != cancelAtStep;
   }
   void BeginWork() override { ++working; }
@@ -89,11 +93,15 @@ class ScriptedHost : public Host {
   int beeps = 0;
   int working = 0;
   bool ended = false;
+  bool hasRecycleBin = true;
   int cancelAtStep = 0;  ///< the step (from 1) at which the person cancels
+  std::function<void()> onStep;
   std::vector<std::string> steps;
   std::vector<std::string> recycled;
   std::vector<std::string> opened;
   std::filesystem::path suggested;
+  std::string folderTitle;
+  std::filesystem::path folderStart;
 
  private:
   struct Expected {

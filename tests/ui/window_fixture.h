@@ -1,7 +1,6 @@
 // A main window on a library of its own.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string_view>
 
@@ -23,7 +22,6 @@ class WindowHost : public test::ScriptedHost {
  public:
   bool Step(const std::string& text, int done, int total) override {
     test::ScriptedHost::Step(text, done, total);
-    if (onStep) onStep();
     return progress->Step(ToQt(text), done, total);
   }
   void BeginWork() override {
@@ -36,7 +34,6 @@ class WindowHost : public test::ScriptedHost {
   }
 
   ProgressFrame* progress = nullptr;
-  std::function<void()> onStep;
 };
 
 /// Library Club with boards 1, 3, 22 and 24, and the empty library Teaching.

@@ -1,0 +1,71 @@
+// Whole folders copied: all of them, or none.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "core/host.h"
+
+namespace tricklet {
+
+/// Folders on their way into one folder. They are copied into a hidden folder there first, and
+/// put in their places when all is complete, so that nothing is ever left half.
+///
+/// Files and folders are copied. Links inside a folder and special files are not.
+class FolderCopy {
+ public:
+  /// `into` is an absolute path; it is made when it is missing.
+  FolderCopy(Host& host, std::filesystem::path into);
+
+  /// The folder `from` will be `name` in `into`. Where that exists, its files stay but for those of
+  /// the same names, which are replaced.
+  void Add(const std::filesystem::path& from, const std::string& name);
+
+  /// Copies. False when the person cancelled; throws `Fault` on a failure. In both cases what was
+  /// copied goes to the recycle bin and `into` is as it was.
+  bool Run();
+
+  /// Links and special files that were not copied.
+  int LeftOut() const { return leftOut_; }
+
+ private:
+  /// Paths are relative to the folder; a folder comes before what it holds.
+  struct Item {
+    std::filesystem::path from;
+    std::string name;
+    std::vector<std::filesystem::path> folders;
+    std::vector<std::filesystem::path> files;
+    bool exists = false;  ///< `into` already has a folder of the name
+  };
+
+  std::filesystem::path Target(const Item& item) const;
+  std::filesystem::path Staged(const Item& item) const;
+  bool Step(const Item& item);
+  bool List(Item& item);
+  bool ListFolder(Item& item, const std::filesystem::path& relative, int depth);
+  void CheckTarget(Item& item) const;
+  void MakeStaging();
+  bool Stage(const Item& item);
+  bool StageFile(const Item& item, const std::filesystem::path& relative);
+  void PutInPlace();
+  void Merge(const Item& item);
+  void Undo();
+
+  Host& host_;
+  std::filesystem::path into_;
+  std::filesystem::path staging_;                 // empty until it has been made
+  std::vector<std::filesystem::path> madeAbove_;  // `into` and what was missing above it
+  std::vector<Item> items_;
+  std::vector<const Item*> placed_;
+  int done_ = 0;
+  int total_ = 0;
+  int leftOut_ = 0;
+};
+
+/// `inner` is the folder `outer` or lies in it, by whatever path or link. It need not exist.
+bool FolderLiesIn(const std::filesystem::path& inner, const std::filesystem::path& outer);
+/// One of the folders is the other or lies in it.
+bool FoldersOverlap(const std::filesystem::path& a, const std::filesystem::path& b);
+
+}  // namespace tricklet

@@ -1,0 +1,202 @@
+// Copying libraries out and to another root, under another name, and deleting them.
+#include "library/library_transfer.h"
+
+#include <algorithm>
+
+#include "core/fault.h"
+#include "core/text.h"
+#include "library/folder_copy.h"
+#include "library/library_store.h"
+#include "library/transfer_steps.h"
+
+namespace tricklet {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool AskYes(Session& session, const std::string& text) {
+  return session.host.Ask(text, std::string(kProgramName), Buttons::YesNo) == Answer::Yes;
+}
+
+bool Exists(const fs::path& path) {
+  std::error_code ignored;
+  return fs::exists(fs::symlink_status(path, ignored));
+}
+
+bool SameFolder(const fs::path& a, const fs::path& b) {
+  std::error_code ignored;
+  return a == b || fs::equivalent(a, b, ignored);
+}
+
+/// A folder can be another root: no drive, and not the root that there is; else says so.
+bool AcceptRoot(Session& session, const fs::path& folder) {
+  if (IsDriveRoot(folder)) {
+    session.host.Tell("Please choose a sub-folder, not " + PathText(folder));
+    return false;
+  }
+  if (SameFolder(folder, FolderNamed(session.FileLocation()))) {
+    session.host.Tell("That is the same folder as the existing folder");
+    return false;
+  }
+  return true;
+}
+
+/// Lets the person choose until the folder can be another root, or he chooses none.
+std::optional<fs::path> BrowseRoot(Session& session) {
+  for (;;) {
+    const auto chosen = BrowseFolder(session, "Choose the macro library folder");
+    if (!chosen || AcceptRoot(session, *chosen)) return chosen;
+  }
+}
+
+bool AskToCopyAll(Session& session, const fs::path& folder) {
+  return AskYes(session, "Do you want to copy all your libraries from\n" +
+                             session.settings.filelocation + "\nto " + PathText(folder));
+}
+
+/// Libraries that are there already keep their boards unless the person agrees.
+bool MayOverwrite(Session& session, const std::vector<std::string>& names, const fs::path& folder) {
+  const auto there = std::count_if(names.begin(), names.end(), [&](const std::string& name) {
+    return Exists(folder / PathFromText(name));
+  });
+  if (there == 0) return true;
+  return AskYes(session, std::to_string(there) + (there == 1 ? " library is" : " libraries are") +
+                             " already in that folder\nDo you wish to overwrite any existing "
+                             "boards?");
+}
+
+/// Copies every library into another root-to-be.
+bool CopyAll(Session& session, const fs::path& folder) {
+  const fs::path root = FolderNamed(session.FileLocation());
+  if (FolderLiesIn(folder, root)) {
+    session.host.Tell("A folder cannot be copied into itself:\n" + PathText(root) + "\nto " +
+                      PathText(folder));
+    return false;
+  }
+  const std::vector<std::string> names = RequireLibraries(session);
+  return !names.empty() && MayOverwrite(session, names, folder) &&
+         CopyLibraries(session, root, names, folder);
+}
+
+bool ExportAll(Session& session, const fs::path& folder) {
+  return SettleChanges(session) && AskToCopyAll(session, folder) && CopyAll(session, folder);
+}
+
+/// Makes `folder` the library root, with the current library when it has that.
+bool SwitchRoot(Session& session, const fs::path& folder) {
+  std::error_code failure;
+  const std::string library =
+      fs::is_directory(folder / PathFromText(session.LibraryName()), failure)
+          ? session.LibraryName()
+          : "Default";
+  fs::create_directories(folder / PathFromText(library), failure);
+  if (failure) {
+    ErrorReport(session.host, Fault::OfFile(failure, PathText(folder)));
+    return false;
+  }
+  session.settings.filelocation = FolderText(folder);
+  SaveSetting(session.settings, "filelocation", session.store);
+  session.settings.library = library;
+  session.CopyLibrary.clear();  // the same name may be another library here
+  GetLibraryNames(session);
+  return true;
+}
+
+bool Move(Session& session, const fs::path& folder) {
+  if (!SettleChanges(session)) return false;
+  if (AskToCopyAll(session, folder) && !CopyAll(session, folder)) return false;
+  return SwitchRoot(session, folder);
+}
+
+}  // namespace
+
+bool ExportLibrary(Session& session) {
+  if (!AskToChoose(session, "Please choose the location\nto copy your library (" +
+                                session.LibraryName() + ") to")) {
+    return false;
+  }
+  const auto chosen = BrowseFolder(session, "Choose the library location");
+  return chosen && ExportLibraryTo(session, *chosen);
+}
+
+bool ExportLibraryTo(Session& session, const fs::path& folder) {
+  const fs::path into = FolderNamed(folder);
+  const fs::path to = into / PathFromText(session.LibraryName());
+  if (SameFolder(to, session.LibraryPath())) {
+    session.host.Tell("That is the same folder as the existing folder");
+    return false;
+  }
+  if (Exists(to) &&
+      !AskYes(session,
+              "That folder already exists\nDo you wish to overwrite any existing boards?")) {
+    return false;
+  }
+  return SettleChanges(session) &&
+         CopyLibraryFolder(session, session.LibraryPath(), into, session.LibraryName());
+}
+
+bool ExportLibraries(Session& session) {
+  if (!AskToChoose(session,
+                   "Please choose the folder (new or existing)\nto copy your libraries to")) {
+    return false;
+  }
+  const auto chosen = BrowseRoot(session);
+  return chosen && ExportAll(session, *chosen);
+}
+
+bool ExportLibrariesTo(Session& session, const fs::path& folder) {
+  const fs::path to = FolderNamed(folder);
+  return AcceptRoot(session, to) && ExportAll(session, to);
+}
+
+bool MoveLibraries(Session& session) {
+  if (!AskToChoose(session, "Your library of hands is currently stored in the folder:\n" +
+                                session.settings.filelocation +
+                                "\nPlease choose a different folder (new or existing)")) {
+    return false;
+  }
+  const auto chosen = BrowseRoot(session);
+  return chosen && Move(session, *chosen);
+}
+
+bool MoveLibrariesTo(Session& session, const fs::path& folder) {
+  const fs::path to = FolderNamed(folder);
+  return AcceptRoot(session, to) && Move(session, to);
+}
+
+bool CopyLibrary(Session& session, std::string_view name) {
+  const std::string trimmed(Trim(name));
+  if (!AcceptNewName(session, trimmed) || !SettleChanges(session)) return false;
+  if (!CopyLibraryFolder(session, session.LibraryPath(), FolderNamed(session.FileLocation()),
+                         trimmed)) {
+    return false;
+  }
+  RefreshLibraryNames(session);
+  return true;
+}
+
+std::vector<std::string> RequireLibraries(Session& session) {
+  std::vector<std::string> names = FoldersOf(session.FileLocation());
+  if (names.empty()) {
+    session.host.Tell("There are no libraries in " + session.settings.filelocation);
+  }
+  return names;
+}
+
+bool DeleteLibrary(Session& session, std::string_view name) {
+  const std::vector<std::string> names = FoldersOf(session.FileLocation());
+  const fs::path folder = session.FileLocation() / PathFromText(name);
+  if (SameFolder(folder, session.LibraryPath())) {
+    session.host.Tell("Cannot delete the library currently in use");
+    return false;
+  }
+  // Only what is listed can be named, so no name leads out of the root.
+  if (std::find(names.begin(), names.end(), name) == names.end() || !session.host.Recycle(folder)) {
+    session.host.Tell("Unable to delete the library " + std::string(name));
+    return false;
+  }
+  RefreshLibraryNames(session);
+  return true;
+}
+
+}  // namespace tricklet

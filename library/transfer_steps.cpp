@@ -1,0 +1,98 @@
+#include "library/transfer_steps.h"
+
+#include <utility>
+
+#include "core/fault.h"
+#include "core/text.h"
+#include "library/board_store.h"
+#include "library/folder_copy.h"
+#include "library/library_store.h"
+
+namespace tricklet {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// One folder and the folder that its copy will be.
+struct Pair {
+  fs::path from;
+  fs::path into;
+  std::string name;
+};
+
+bool MayCopy(Session& session, const Pair& pair) {
+  const fs::path to = pair.into / PathFromText(pair.name);
+  if (!FoldersOverlap(pair.from, to)) return true;
+  session.host.Tell("A folder cannot be copied into itself:\n" + PathText(pair.from) + "\nto " +
+                    PathText(to));
+  return false;
+}
+
+bool Copy(Session& session, const std::vector<Pair>& pairs, const fs::path& into) {
+  FolderCopy copy(session.host, into);
+  for (const Pair& pair : pairs) {
+    if (!MayCopy(session, pair)) return false;
+    copy.Add(pair.from, pair.name);
+  }
+  try {
+    if (!copy.Run()) {
+      session.host.Tell("Copying cancelled");
+      return false;
+    }
+  } catch (const std::exception& failure) {
+    ErrorReport(session.host, FaultFrom(failure));
+    return false;
+  }
+  if (copy.LeftOut() > 0) {
+    session.host.Tell("Links and special files are not copied: " + std::to_string(copy.LeftOut()) +
+                      " left out");
+  }
+  return true;
+}
+
+}  // namespace
+
+std::optional<fs::path> BrowseFolder(Session& session, const std::string& title) {
+  const fs::path root = FolderNamed(session.FileLocation());
+  const auto chosen = session.host.ChooseFolder(title, root.parent_path());
+  if (!chosen || chosen->empty()) return std::nullopt;
+  return FolderNamed(*chosen);
+}
+
+fs::path FolderNamed(const fs::path& folder) {
+  const fs::path whole = fs::absolute(folder).lexically_normal();
+  return whole.has_filename() || IsDriveRoot(whole) ? whole : whole.parent_path();
+}
+
+bool AskToChoose(Session& session, const std::string& text) {
+  return session.host.Ask(text, std::string(kProgramName), Buttons::OKCancel) == Answer::OK;
+}
+
+bool RequireFolder(Session& session, const fs::path& folder) {
+  std::error_code ignored;
+  if (fs::is_directory(folder, ignored)) return true;
+  session.host.Tell("There is no folder " + PathText(folder));
+  return false;
+}
+
+bool SettleChanges(Session& session) {
+  if (!session.board.HandChanged) return true;
+  if (CheckSaveChanges(session) == Answer::Cancel) return false;
+  LoadHand(session);
+  return true;
+}
+
+bool CopyLibraries(Session& session, const fs::path& from, const std::vector<std::string>& names,
+                   const fs::path& to) {
+  std::vector<Pair> pairs;
+  pairs.reserve(names.size());
+  for (const std::string& name : names) pairs.push_back({from / PathFromText(name), to, name});
+  return Copy(session, pairs, to);
+}
+
+bool CopyLibraryFolder(Session& session, const fs::path& from, const fs::path& to,
+                       const std::string& name) {
+  return Copy(session, {{from, to, name}}, to);
+}
+
+}  // namespace tricklet

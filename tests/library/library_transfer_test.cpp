@@ -1,0 +1,385 @@
+// Exporting, importing, moving, copying and deleting whole libraries.
+#include "library/library_transfer.h"
+
+#include <gtest/gtest.h>
+
+#include "core/fault.h"
+#include "library/board_store.h"
+#include "tests/support/library_fixture.h"
+
+namespace tricklet {
+namespace {
+
+namespace fs = std::filesystem;
+using test::ReadFile;
+using test::WriteFile;
+
+/// The libraries Club (current) and Teaching in the root; `Other()` is a folder beside it.
+class LibraryTransfer : public test::LibraryTest {
+ protected:
+  LibraryTransfer() {
+    fs::remove(session.LibraryPath());
+    session.settings.filelocation = FolderText(Root());
+    PutBoard(1);
+    PutBoard(3);
+    WriteFile(Root() / "Teaching" / "007.txt", "seven");
+    WriteFile(Root() / ".hidden" / "001.txt", "no library");
+    fs::create_directories(Other());
+    GetLibraryNames(session);
+  }
+
+  fs::path Root() const { return folder.Path() / "hands"; }
+  fs::path Other() const { return folder.Path() / "other \u00e9"; }
+  std::string RootText() const { return FolderText(Root()); }
+
+  void ExpectCopyQuestion(Answer answer) {
+    host.ExpectAsk(
+        "Do you want to copy all your libraries from\n" + RootText() + "\nto " + PathText(Other()),
+        "Tricklet", answer);
+  }
+  void ExpectFailure(const std::string& part) { host.ExpectAskWith(part, Answer::Yes); }
+  void ExpectUnsavedQuestion(Answer answer) {
+    session.board.HandChanged = true;
+    host.ExpectAskWith("Do you want to save changes to board 1 in library Club?", answer);
+  }
+  /// The root and the current library are what they were.
+  void ExpectNothingChanged() {
+    EXPECT_EQ(session.settings.filelocation, RootText());
+    EXPECT_EQ(session.LibraryName(), "Club");
+    EXPECT_EQ(FoldersOf(Root()), (std::vector<std::string>{"Club", "Teaching"}));
+    EXPECT_EQ(session.LibraryNames, FoldersOf(Root()));
+    EXPECT_TRUE(fs::is_empty(Other()));
+  }
+};
+
+const std::string kOverwrite =
+    "That folder already exists\nDo you wish to overwrite any existing boards?";
+
+TEST_F(LibraryTransfer, ExportsTheCurrentLibraryAndAsksBeforeItOverwrites) {
+  const std::string question = "Please choose the location\nto copy your library (Club) to";
+  host.ExpectAsk(question, "Tricklet", Answer::Cancel);
+  EXPECT_FALSE(ExportLibrary(session));
+  host.ExpectAsk(question, "Tricklet", Answer::OK);
+  host.Choose(std::nullopt);
+  EXPECT_FALSE(ExportLibrary(session));
+  ExpectNothingChanged();
+  EXPECT_EQ(host.folderTitle, "Choose the library location");
+  EXPECT_EQ(host.folderStart, folder.Path()) << "the parent folder of the root";
+
+  host.ExpectAsk(question, "Tricklet", Answer::OK);
+  host.Choose(Other());
+  EXPECT_TRUE(ExportLibrary(session));
+  EXPECT_EQ(ReadFile(Other() / "Club" / "003.txt"), test::OneSuitEachText());
+
+  WriteFile(Other() / "Club" / "001.txt", "theirs");
+  for (const Answer answer : {Answer::No, Answer::Yes}) {
+    host.ExpectAsk(kOverwrite, "Tricklet", answer);
+    EXPECT_EQ(ExportLibraryTo(session, Other() / ""), answer == Answer::Yes);
+    EXPECT_EQ(ReadFile(Other() / "Club" / "001.txt"),
+              answer == Answer::Yes ? test::OneSuitEachText() : "theirs");
+  }
+}
+
+TEST_F(LibraryTransfer, ExportsWhatIsStoredOnceChangesAreSettled) {
+  session.board.Hands = {};
+  ExpectUnsavedQuestion(Answer::Cancel);
+  EXPECT_FALSE(ExportLibraryTo(session, Other()));
+  ExpectNothingChanged();
+  EXPECT_TRUE(session.board.HandChanged);
+
+  ExpectUnsavedQuestion(Answer::No);
+  EXPECT_TRUE(ExportLibraryTo(session, Other()));
+  EXPECT_TRUE(HasCards(session.board.Hands)) << "the board is shown as it is stored";
+  EXPECT_EQ(ReadFile(Other() / "Club" / "001.txt"), test::OneSuitEachText());
+}
+
+TEST_F(LibraryTransfer, NothingIsCopiedIntoItself) {
+  fs::create_directory_symlink(Root(), folder.Path() / "link");
+  const std::string same = "That is the same folder as the existing folder";
+  for (const fs::path& folderOfRoot : {Root(), folder.Path() / "link"}) {
+    host.ExpectTell(same);
+    EXPECT_FALSE(ExportLibraryTo(session, folderOfRoot));
+    host.ExpectTell(same);
+    EXPECT_FALSE(ExportLibrariesTo(session, folderOfRoot));
+    host.ExpectTell(same);
+    EXPECT_FALSE(MoveLibrariesTo(session, folderOfRoot));
+  }
+  const std::string itself = "A folder cannot be copied into itself:\n";
+  const fs::path inside = Root() / "Club" / "new";
+  host.ExpectTell(itself + PathText(Root() / "Club") + "\nto " + PathText(inside / "Club"));
+  EXPECT_FALSE(ExportLibraryTo(session, inside));
+  for (const auto& command : {ExportLibrariesTo, MoveLibrariesTo}) {
+    host.ExpectAskWith("Do you want to copy all your libraries", Answer::Yes);
+    host.ExpectTell(itself + PathText(Root()) + "\nto " + PathText(Root() / "Backup"));
+    EXPECT_FALSE(command(session, Root() / "Backup"));
+  }
+  WriteFile(Root() / "001.txt", "a root with a board");
+  host.ExpectTell(itself + PathText(Root()) + "\nto " + PathText(Root() / "hands"));
+  EXPECT_FALSE(ImportLibraryFrom(session, Root()));
+
+  // A library of the root's own name would end up over the root.
+  WriteFile(Root() / "hands" / "001.txt", "x");
+  host.ExpectAskWith("Do you want to copy all your libraries", Answer::Yes);
+  host.ExpectAskWith("1 library is already in that folder", Answer::Yes);
+  host.ExpectTell(itself + PathText(Root() / "hands") + "\nto " + PathText(Root()));
+  EXPECT_FALSE(ExportLibrariesTo(session, folder.Path()));
+  EXPECT_TRUE(fs::is_empty(Other()));
+  EXPECT_FALSE(fs::exists(folder.Path() / "Club"));
+}
+
+TEST_F(LibraryTransfer, AFolderThatCannotBeTheRootIsChosenAgain) {
+  const struct {
+    const char* question;
+    bool (*command)(Session&);
+  } commands[] = {
+      {"Please choose the folder (new or existing)\nto copy your libraries to", ExportLibraries},
+      {"Your library of hands is currently stored in the folder:\n", MoveLibraries},
+  };
+  for (const auto& [question, command] : commands) {
+    host.ExpectAskWith(question, Answer::OK);
+    host.Choose(Root().root_path());
+    host.ExpectTell("Please choose a sub-folder, not " + PathText(Root().root_path()));
+    host.Choose(Root() / "");
+    host.ExpectTell("That is the same folder as the existing folder");
+    host.Choose(std::nullopt);
+    EXPECT_FALSE(command(session));
+    EXPECT_EQ(host.folderTitle, "Choose the macro library folder");
+    ExpectNothingChanged();
+    host.ExpectAskWith(question, Answer::Cancel);
+    EXPECT_FALSE(command(session));
+  }
+}
+
+TEST_F(LibraryTransfer, ExportsAllLibrariesOnlyAfterYes) {
+  for (int i = 0; i < 200; ++i) WriteFile(Root() / ("L " + std::to_string(i)) / "001.txt", "x");
+  ExpectCopyQuestion(Answer::No);
+  EXPECT_FALSE(ExportLibrariesTo(session, Other()));
+  EXPECT_TRUE(fs::is_empty(Other()));
+  ExpectCopyQuestion(Answer::Yes);
+  EXPECT_TRUE(ExportLibrariesTo(session, Other()));
+  EXPECT_EQ(FoldersOf(Other()), FoldersOf(Root()));
+  EXPECT_FALSE(fs::exists(Other() / ".hidden")) << "no library";
+
+  WriteFile(Other() / "Teaching" / "007.txt", "theirs");
+  ExpectCopyQuestion(Answer::Yes);
+  host.ExpectAsk(
+      "202 libraries are already in that folder\n"
+      "Do you wish to overwrite any existing boards?",
+      "Tricklet", Answer::No);
+  EXPECT_FALSE(ExportLibrariesTo(session, Other()));
+  EXPECT_EQ(ReadFile(Other() / "Teaching" / "007.txt"), "theirs");
+}
+
+TEST_F(LibraryTransfer, ACopyThatFailsOrIsCancelledLeavesNothing) {
+  host.cancelAtStep = 4;
+  ExpectCopyQuestion(Answer::Yes);
+  host.ExpectTell("Copying cancelled");
+  EXPECT_FALSE(ExportLibrariesTo(session, Other()));
+  ExpectNothingChanged();
+
+  host.cancelAtStep = 0;
+  host.steps = {};
+  host.onStep = [this] { fs::remove_all(Root() / "Teaching"); };  // another program's doing
+  ExpectCopyQuestion(Answer::Yes);
+  ExpectFailure("Error no. 76");
+  EXPECT_FALSE(MoveLibrariesTo(session, Other()));
+  EXPECT_EQ(session.settings.filelocation, RootText());
+  EXPECT_TRUE(fs::is_empty(Other()));
+  EXPECT_FALSE(store.Read("macro", "filelocation"));
+}
+
+TEST_F(LibraryTransfer, ImportsALibraryAndMakesItCurrent) {
+  const std::string name = "Caf\u00e9 2024.05 & co";
+  WriteFile(Other() / name / "002.txt", test::OneSuitEachText());
+  WriteFile(Other() / name / "LIN.txt", "results");
+  host.Choose(Other() / name);
+  EXPECT_TRUE(ImportLibrary(session));
+  EXPECT_EQ(host.folderTitle, "Choose the library to import");
+  EXPECT_EQ(session.LibraryName(), name);
+  EXPECT_EQ(store.Read("macro", "library"), name);
+  EXPECT_EQ(session.LibraryNames.at(static_cast<std::size_t>(session.LibIndex)), name);
+  EXPECT_EQ(session.library.LastBoard, 2);
+  EXPECT_EQ(session.board.BoardNumber, 1);
+  EXPECT_EQ(ReadFile(Root() / name / "LIN.txt"), "results");
+  EXPECT_TRUE(fs::exists(Other() / name / "002.txt"));
+}
+
+TEST_F(LibraryTransfer, RefusesToImportWhatIsNoNewLibrary) {
+  WriteFile(Other() / "CLUB" / "001.txt", "x");
+  WriteFile(Other() / "Texts" / "notes.txt", "x");
+  WriteFile(Other() / "Texts" / "01.txt", "x");
+  WriteFile(Other() / "Texts" / "1234.txt", "x");
+  fs::create_directories(Other() / "Texts" / "001.txt");
+  WriteFile(Other() / ".git" / "001.txt", "x");
+  const struct {
+    fs::path folder;
+    std::string message;
+  } cases[] = {
+      {Other() / "CLUB",
+       "You already have a library - CLUB\n"
+       "Please delete it before importing a library of the same name"},
+      {Root() / "Club" / "",
+       "You already have a library - Club\n"
+       "Please delete it before importing a library of the same name"},
+      {Other() / "Texts", "There are no boards in the library Texts"},
+      {Other() / ".git", "A library cannot be named .git"},
+      {Other() / "gone", "There is no folder " + PathText(Other() / "gone")},
+      {Root().root_path(), "Please choose a sub-folder, not " + PathText(Root().root_path())},
+  };
+  session.board.HandChanged = true;  // not asked about: the board is not left
+  for (const auto& [chosen, message] : cases) {
+    host.ExpectTell(message);
+    EXPECT_FALSE(ImportLibraryFrom(session, chosen));
+  }
+  EXPECT_EQ(session.LibraryName(), "Club");
+  EXPECT_EQ(FoldersOf(Root()).size(), 2U);
+
+  WriteFile(Other() / "Good" / "\u00e9b1.TXT", "three characters");
+  ExpectUnsavedQuestion(Answer::Cancel);
+  EXPECT_FALSE(ImportLibraryFrom(session, Other() / "Good"));
+  EXPECT_FALSE(fs::exists(Root() / "Good"));
+  ExpectUnsavedQuestion(Answer::Yes);
+  host.ExpectAskWith("Overwrite existing board 1?", Answer::Yes);
+  EXPECT_TRUE(ImportLibraryFrom(session, Other() / "Good"));
+}
+
+TEST_F(LibraryTransfer, ImportsAllNewLibrariesAndSaysSo) {
+  const std::string at = PathText(Other());
+  const struct {
+    const char* name;
+    int same;
+    int empty;
+    int fresh;
+    std::string message;  // the question, or what is told when there is nothing to ask
+    std::string report;
+  } cases[] = {
+      {"none", 0, 0, 0, "There are no libraries in the folder\n", ""},
+      {"nothing new", 1, 1, 0, "There are no other libraries in the folder\n", ""},
+      {"one", 0, 0, 1, "1 library will be copied from\n", "1 library has been copied"},
+      {"one of each", 1, 1, 1,
+       "1 of the libraries in\nDIR\nhas the same name as one of your existing libraries\n"
+       "and so will not be copied\n\n1 other library will be copied from\n",
+       "1 library contains no boards\nso has not been copied\n\n1 library has been copied"},
+      {"two of each", 2, 2, 2,
+       "2 of the libraries in\nDIR\nhave the same name as your existing libraries\n"
+       "and so will not be copied\n\n2 other libraries will be copied from\n",
+       "2 libraries contain no boards\nso have not been copied\n\n2 libraries have been copied"},
+  };
+  ExpectUnsavedQuestion(Answer::No);
+  ASSERT_EQ(CheckSaveChanges(session), Answer::OK);
+  for (const auto& c : cases) {
+    const fs::path from = Other() / c.name;
+    fs::create_directories(from);
+    for (int i = 0; i < c.same; ++i) {
+      WriteFile(from / (i == 0 ? "Club" : "teaching") / "001.txt", "theirs");
+    }
+    for (int i = 0; i < c.empty; ++i)
+      fs::create_directories(from / ("no boards" + std::to_string(i)));
+    for (int i = 0; i < c.fresh; ++i) {
+      WriteFile(from / (c.name + std::to_string(i)) / "001.txt", c.name);
+    }
+    std::string message = c.message + PathText(from);
+    if (const auto place = message.find("DIR"); place != std::string::npos) {
+      message.replace(place, 3, PathText(from));
+    }
+    const std::size_t before = FoldersOf(Root()).size();
+    session.board.HandChanged = true;  // the board is not left, and keeps its changes
+    if (c.fresh == 0) {
+      host.ExpectTell(message);
+      EXPECT_FALSE(ImportLibrariesFrom(session, from));
+    } else {
+      host.ExpectAsk(message, "Tricklet", Answer::Cancel);
+      EXPECT_FALSE(ImportLibrariesFrom(session, from));
+      host.ExpectAsk(message, "Tricklet", Answer::OK);
+      host.ExpectTell(c.report);
+      EXPECT_TRUE(ImportLibrariesFrom(session, from));
+    }
+    EXPECT_EQ(FoldersOf(Root()).size(), before + static_cast<std::size_t>(c.fresh)) << c.name;
+    EXPECT_EQ(session.LibraryNames, FoldersOf(Root()));
+    EXPECT_EQ(session.LibraryName(), "Club");
+    EXPECT_TRUE(session.board.HandChanged);
+  }
+  EXPECT_EQ(ReadFile(Root() / "Teaching" / "007.txt"), "seven");
+}
+
+TEST_F(LibraryTransfer, MovingIsACopyAndASwitchOfTheRoot) {
+  session.CopyLibrary = "Club";
+  host.ExpectAsk("Your library of hands is currently stored in the folder:\n" + RootText() +
+                     "\nPlease choose a different folder (new or existing)",
+                 "Tricklet", Answer::OK);
+  host.Choose(Other());
+  ExpectCopyQuestion(Answer::Yes);
+  EXPECT_TRUE(MoveLibraries(session));
+  EXPECT_EQ(session.settings.filelocation, FolderText(Other()));
+  EXPECT_EQ(store.Read("macro", "filelocation"), FolderText(Other()));
+  EXPECT_EQ(session.LibraryName(), "Club");
+  EXPECT_EQ(session.LibraryNames, (std::vector<std::string>{"Club", "Teaching"}));
+  EXPECT_EQ(session.library.BoardCount, 2);
+  EXPECT_EQ(session.CopyLibrary, "");
+  EXPECT_EQ(FoldersOf(Root()).size(), 2U) << "the old root stays";
+}
+
+TEST_F(LibraryTransfer, ARootWithoutTheCurrentLibraryGetsADefault) {
+  WriteFile(Other() / "Aaa" / "001.txt", "x");
+  ExpectCopyQuestion(Answer::No);
+  EXPECT_TRUE(MoveLibrariesTo(session, Other()));
+  EXPECT_EQ(session.LibraryName(), "Default");
+  EXPECT_EQ(store.Read("macro", "library"), "Default");
+  EXPECT_EQ(session.LibraryNames, (std::vector<std::string>{"Aaa", "Default"}));
+
+  // A folder that cannot be made leaves everything as it is.
+  WriteFile(folder.Path() / "file", "x");
+  host.ExpectAskWith("Do you want to copy all your libraries", Answer::No);
+  ExpectFailure("Do you wish to try to continue?");
+  EXPECT_FALSE(MoveLibrariesTo(session, folder.Path() / "file" / "root"));
+  EXPECT_EQ(store.Read("macro", "filelocation"), FolderText(Other()));
+}
+
+TEST_F(LibraryTransfer, CopiesTheCurrentLibraryUnderANewName) {
+  for (const char* name : {"teaching", "Club "}) {
+    host.ExpectTell(std::string(Trim(name)) + " already exists\nPlease choose a different name");
+    EXPECT_FALSE(CopyLibrary(session, name));
+  }
+  for (const char* name : {"", "a.b", "../up"}) EXPECT_FALSE(CopyLibrary(session, name));
+  EXPECT_EQ(host.beeps, 3);
+  ExpectNothingChanged();
+  session.board.BoardNumber = 3;
+  EXPECT_TRUE(CopyLibrary(session, "Club \u00e9t\u00e9"));
+  EXPECT_EQ(ReadFile(Root() / "Club \u00e9t\u00e9" / "003.txt"), test::OneSuitEachText());
+  EXPECT_EQ(session.LibraryName(), "Club");
+  EXPECT_EQ(session.board.BoardNumber, 3) << "the board on the screen stays";
+  EXPECT_EQ(session.LibraryNames.size(), 3U);
+}
+
+TEST_F(LibraryTransfer, DeletesOnlyToTheRecycleBinAndNeverTheCurrentLibrary) {
+  EXPECT_EQ(RequireLibraries(session), (std::vector<std::string>{"Club", "Teaching"}));
+  fs::create_directory_symlink(Root() / "Club", Root() / "Alias");
+  for (const char* name : {"Club", "Alias", "./Club", ""}) {
+    host.ExpectTell(*name == '\0' ? "Unable to delete the library "
+                                  : "Cannot delete the library currently in use");
+    EXPECT_FALSE(DeleteLibrary(session, name));
+  }
+  for (const char* name : {"gone", "../other \u00e9", ".hidden"}) {
+    host.ExpectTell("Unable to delete the library " + std::string(name));
+    EXPECT_FALSE(DeleteLibrary(session, name));
+  }
+  host.hasRecycleBin = false;
+  host.ExpectTell("Unable to delete the library Teaching");
+  EXPECT_FALSE(DeleteLibrary(session, "Teaching"));
+  EXPECT_TRUE(fs::exists(Root() / "Teaching" / "007.txt"));
+
+  host.hasRecycleBin = true;
+  session.board.HandChanged = true;
+  EXPECT_TRUE(DeleteLibrary(session, "Teaching"));
+  EXPECT_EQ(host.recycled, std::vector<std::string>{"Teaching"});
+  EXPECT_EQ(session.LibraryNames, (std::vector<std::string>{"Alias", "Club"}));
+  EXPECT_EQ(session.LibIndex, 1);
+  EXPECT_TRUE(session.board.HandChanged) << "the board on the screen is not touched";
+
+  fs::remove_all(Root());
+  host.ExpectTell("There are no libraries in " + RootText());
+  EXPECT_TRUE(RequireLibraries(session).empty());
+}
+
+}  // namespace
+}  // namespace tricklet
