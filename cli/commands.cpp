@@ -15,16 +15,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool RootExists(const Context& context) {
-  std::error_code ignored;
-  const fs::path root = context.session.FileLocation();
-  if (!root.empty() && fs::is_directory(root, ignored)) return true;
-  context.session.host.Tell(root.empty()
-                                ? "There is no library root yet: name one with --root"
-                                : "There is no folder " + context.session.settings.filelocation);
-  return false;
-}
-
 bool MakeLibrary(const Context& context) {
   Session& session = context.session;
   if (session.settings.filelocation.empty()) return RootExists(context);
@@ -56,6 +46,16 @@ ExitCode WriteSetting(const Context& context, const SettingEntry& entry, std::st
 }
 
 }  // namespace
+
+bool RootExists(const Context& context) {
+  std::error_code ignored;
+  const fs::path root = context.session.FileLocation();
+  if (!root.empty() && fs::is_directory(root, ignored)) return true;
+  context.session.host.Tell(root.empty()
+                                ? "There is no library root yet: name one with --root"
+                                : "There is no folder " + context.session.settings.filelocation);
+  return false;
+}
 
 bool OpenLibrary(const Context& context, bool create) {
   Session& session = context.session;

@@ -24,6 +24,9 @@ using Importer = ImportOutcome (*)(Session&, const std::filesystem::path&);
 
 enum class ExitCode : int { Done = 0, Refused = 1, Usage = 2 };
 
+/// The library root must be there; else says so and is false.
+bool RootExists(const Context& context);
+
 /// The current library must be there; else says so and is false. `create` makes it instead.
 bool OpenLibrary(const Context& context, bool create);
 

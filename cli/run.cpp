@@ -4,6 +4,7 @@
 
 #include "cli/command.h"
 #include "cli/edit_commands.h"
+#include "cli/folder_commands.h"
 #include "cli/generate_commands.h"
 #include "core/fault.h"
 #include "core/text.h"
@@ -78,6 +79,7 @@ int Run(const std::vector<std::string>& arguments, SettingsStore& store, const C
   AddPlayCommands(app, command);
   AddAnalysisCommands(app, command);
   AddEditCommands(app, command);
+  AddFolderCommands(app, command);
   AddGenerateCommands(app, command);
   try {
     std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());

@@ -58,6 +58,13 @@ class Commands : public QObject {
   void CreateLibrary(const QString& name);
   void RenameLibrary();
   void RefreshLibraries();
+  void ExportLibrary();
+  void ExportLibraries();
+  void ImportLibrary();
+  void ImportLibraries();
+  void MoveLibraries();
+  void CopyLibrary();
+  void DeleteLibrary();
 
   void SelectBoard(int boardNumber);
   void StepBoard(bool backward);
@@ -115,6 +122,8 @@ class Commands : public QObject {
 
  signals:
   void TableAsked();
+  /// Work that begins from now on copies whole libraries; or no longer does.
+  void Waiting(bool waiting);
   void Done();
   /// Before the auction dialog appears.
   void AuctionOpened(frmBidding* dialog);
@@ -130,6 +139,7 @@ class Commands : public QObject {
  private:
   bool Attempt(const std::function<void()>& procedure);
   void Run(const std::function<void()>& procedure);
+  void RunCopy(bool (*procedure)(Session&));
   void EnterAuction();
   void OpenDocument(const QString& fileName);
 

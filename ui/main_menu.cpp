@@ -83,11 +83,27 @@ void MainMenu::BuildLibrary() {
   QAction* newLibrary = Add(menu, "mnuNewLibrary", tr("&New library..."), {QKeySequence::New});
   connect(newLibrary, &QAction::triggered, this, &MainMenu::NewLibraryAsked);
   leaveBoard_ << newLibrary;
+  Add(menu, "mnuCopyLibrary", tr("&Copy library..."), {QKeySequence(tr("Shift+F2"))},
+      &Commands::CopyLibrary);
+  Add(menu, "mnuDeleteLibrary", tr("&Delete library..."), {QKeySequence(tr("Ctrl+F2"))},
+      &Commands::DeleteLibrary);
   menu->addSeparator();
   Add(menu, "mnuGenerate", tr("&Generate deals..."), {QKeySequence(tr("Ctrl+Shift+G"))},
       &Commands::Generate);
   menu->addSeparator();
   Add(menu, "mnuRefresh", tr("Re&fresh"), {QKeySequence(tr("F5"))}, &Commands::RefreshLibraries);
+  menu->addSeparator();
+  leaveBoard_ << Add(menu, "mnuImportLibrary", tr("&Import library..."), {QKeySequence(tr("F7"))},
+                     &Commands::ImportLibrary);
+  Add(menu, "mnuImportLibraries", tr("I&mport all libraries..."), {QKeySequence(tr("Shift+F7"))},
+      &Commands::ImportLibraries);
+  Add(menu, "mnuExportLibrary", tr("&Export library..."), {QKeySequence(tr("F8"))},
+      &Commands::ExportLibrary);
+  Add(menu, "mnuExportLibraries", tr("Export &all libraries..."), {QKeySequence(tr("Shift+F8"))},
+      &Commands::ExportLibraries);
+  menu->addSeparator();
+  leaveBoard_ << Add(menu, "mnuMoveLibraries", tr("Mo&ve libraries..."),
+                     {QKeySequence(tr("Shift+F6"))}, &Commands::MoveLibraries);
 }
 
 void MainMenu::BuildBoard() {

@@ -7,6 +7,8 @@
 #include <QPushButton>
 #include <QShortcut>
 
+#include "ui/section.h"
+
 namespace tricklet::ui {
 namespace {
 
@@ -17,14 +19,17 @@ constexpr int kMillisecondsBetweenDrawings = 33;
 
 ProgressFrame::ProgressFrame(QWidget* parent)
     : QFrame(parent),
-      lblProgress(new QLabel(this)),
+      lblWait(new QLabel(tr("Please wait"), this)),
+      lblProgress(new ElidedLabel(this)),
       bar_(new QProgressBar(this)),
       cmdCancelImport(new QPushButton(tr("Cancel"), this)) {
   setObjectName(QStringLiteral("fraProgress"));
   setAccessibleName(tr("Progress"));
+  lblWait->setObjectName(QStringLiteral("lblWait"));
+  lblWait->hide();
   lblProgress->setObjectName(QStringLiteral("lblProgress"));
-  lblProgress->setTextFormat(Qt::PlainText);
   lblProgress->setMinimumWidth(fontMetrics().horizontalAdvance(tr("Generating board 999")));
+  lblProgress->setMaximumWidth(2 * lblProgress->minimumWidth());  // names of libraries can be long
   bar_->setObjectName(QStringLiteral("barProgress"));
   bar_->setAccessibleName(tr("Boards done"));
   bar_->setTextVisible(false);
@@ -36,6 +41,7 @@ ProgressFrame::ProgressFrame(QWidget* parent)
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(16);
+  row->addWidget(lblWait);
   row->addWidget(lblProgress);
   row->addWidget(bar_, 1);
   row->addWidget(cmdCancelImport);
@@ -69,6 +75,10 @@ bool ProgressFrame::Step(const QString& text, int done, int total) {
   }
   QCoreApplication::processEvents();
   return !cancelled_;
+}
+
+void ProgressFrame::SetWaiting(bool waiting) {
+  lblWait->setVisible(waiting);
 }
 
 void ProgressFrame::Cancel() {

@@ -26,6 +26,9 @@ class ProgressFrame : public QFrame {
   /// False when the person has cancelled since `Begin`.
   bool Step(const QString& text, int done, int total);
 
+  /// Shows `lblWait` with the work that begins from now on, or no longer does.
+  void SetWaiting(bool waiting);
+
   /// What `cmdCancelImport` does.
   void Cancel();
 
@@ -34,6 +37,7 @@ class ProgressFrame : public QFrame {
   void Ended();
 
  private:
+  QLabel* lblWait;
   QLabel* lblProgress;
   QProgressBar* bar_;
   QPushButton* cmdCancelImport;

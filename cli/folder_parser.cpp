@@ -1,0 +1,65 @@
+// The parser's side of the commands for whole libraries.
+#include <memory>
+
+#include <CLI/CLI.hpp>
+
+#include "cli/folder_commands.h"
+#include "core/text.h"
+
+namespace tricklet::cli {
+namespace {
+
+/// What the commands take: a folder or a name, and whether all libraries are meant.
+struct FolderArguments {
+  std::string target;
+  bool all = false;
+};
+
+using Action = ExitCode (*)(const Context&, const FolderArguments&);
+
+void AddAction(CLI::App& library, Command& command, const std::string& name,
+               const std::string& description, const std::string& argument, const std::string& all,
+               Action action) {
+  const auto asked = std::make_shared<FolderArguments>();
+  CLI::App& each = *library.add_subcommand(name, description);
+  each.add_option(argument, asked->target)->required();
+  if (!all.empty()) each.add_flag("--all", asked->all, all);
+  each.callback([&command, asked, action] {
+    command = [asked, action](const Context& context, const ConsoleHost&) {
+      // A board that is loaded along the way is not to be solved here.
+      context.session.GetSolver = {};
+      return action(context, *asked);
+    };
+  });
+}
+
+}  // namespace
+
+void AddFolderCommands(CLI::App& app, Command& command) {
+  CLI::App& library =
+      *app.add_subcommand("library", "Copy, export, import, move or delete libraries");
+  library.require_subcommand(1);
+  AddAction(library, command, "copy", "Copy the library under a new name", "NAME", "",
+            [](const Context& context, const FolderArguments& asked) {
+              return CopyLibraryAs(context, asked.target);
+            });
+  AddAction(library, command, "export", "Copy the library into a folder", "FOLDER",
+            "All libraries of the root", [](const Context& context, const FolderArguments& asked) {
+              return ExportFolder(context, PathFromText(asked.target), asked.all);
+            });
+  AddAction(library, command, "import", "Copy a folder of boards into the root as a library",
+            "FOLDER", "Every library that the folder holds",
+            [](const Context& context, const FolderArguments& asked) {
+              return ImportFolder(context, PathFromText(asked.target), asked.all);
+            });
+  AddAction(library, command, "move", "Make another folder the library root", "FOLDER", "",
+            [](const Context& context, const FolderArguments& asked) {
+              return MoveRoot(context, PathFromText(asked.target));
+            });
+  AddAction(library, command, "delete", "Send a library to the recycle bin", "NAME", "",
+            [](const Context& context, const FolderArguments& asked) {
+              return DeleteLibraryNamed(context, asked.target);
+            });
+}
+
+}  // namespace tricklet::cli
