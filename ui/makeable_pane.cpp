@@ -1,5 +1,6 @@
 #include "ui/makeable_pane.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -44,8 +45,7 @@ MakeablePane::MakeablePane(QWidget* parent)
   lvwMake->horizontalHeader()->setMinimumSectionSize(1);
   lvwMake->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   lvwMake->horizontalHeader()->setSectionsClickable(false);
-  lvwMake->horizontalHeader()->setStyleSheet(QStringLiteral(
-      "QHeaderView, QHeaderView::section { border: none; background: palette(base); }"));
+  StyleHeads();
   lvwMake->verticalHeader()->hide();
   lvwMake->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   lvwMake->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
@@ -62,6 +62,19 @@ MakeablePane::MakeablePane(QWidget* parent)
   lblPar->setWordWrap(true);
   Body()->addWidget(lblPar);
   cmdMake->setChecked(true);
+}
+
+/// A style sheet keeps the colours that it began with, so it names them and is set again with
+/// others.
+void MakeablePane::StyleHeads() {
+  lvwMake->horizontalHeader()->setStyleSheet(
+      QStringLiteral("QHeaderView, QHeaderView::section { border: none; background: %1; }")
+          .arg(lvwMake->palette().color(QPalette::Base).name()));
+}
+
+void MakeablePane::changeEvent(QEvent* event) {
+  Section::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) StyleHeads();
 }
 
 void MakeablePane::Expand(bool expanded) {

@@ -22,7 +22,11 @@ class MakeablePane : public Section {
   /// The controls in the order of the tab key.
   QList<QWidget*> TabOrder() const;
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
+  void StyleHeads();
   void ShowHeads(const Settings& settings);
   void Expand(bool expanded);
 

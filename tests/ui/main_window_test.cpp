@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDropEvent>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -215,6 +216,18 @@ TEST_F(MainWindowTest, OptionsTakeEffectOnlyWithOK) {
       expected.CardDesign = 3;
     }
     EXPECT_EQ(session.settings, expected) << "fonts and all else come out as they went in";
+  }
+}
+
+TEST_F(MainWindowTest, HeadsOfTablesFollowTheColours) {
+  session.board.MakeableValid = true;
+  Open();
+  const Qt::Key keys[] = {Qt::Key_3, Qt::Key_2, Qt::Key_3, Qt::Key_1};
+  for (const Qt::Key key : keys) {
+    Key(key, Qt::ControlModifier | Qt::AltModifier);
+    const auto* table = Find<QTableWidget>("lvwMake");
+    const QImage head = table->horizontalHeader()->grab().toImage();
+    EXPECT_EQ(head.pixelColor(2, 2), table->palette().color(QPalette::Base)) << key;
   }
 }
 
