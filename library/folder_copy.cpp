@@ -250,8 +250,8 @@ void FolderCopy::Undo() {
       host_.Tell("Unable to send the incomplete copy to the recycle bin:\n" + PathText(staging_));
     }
   }
-  for (auto folder = madeAbove_.rbegin(); folder != madeAbove_.rend(); ++folder) {
-    fs::remove(*folder, ignored);  // only when it is empty
+  for (; !madeAbove_.empty(); madeAbove_.pop_back()) {
+    fs::remove(madeAbove_.back(), ignored);  // only when it is empty
   }
 }
 

@@ -44,7 +44,7 @@ bool AcceptRoot(Session& session, const fs::path& folder) {
 /// Lets the person choose until the folder can be another root, or he chooses none.
 std::optional<fs::path> BrowseRoot(Session& session) {
   for (;;) {
-    const auto chosen = BrowseFolder(session, "Choose the macro library folder");
+    auto chosen = BrowseFolder(session, "Choose the macro library folder");
     if (!chosen || AcceptRoot(session, *chosen)) return chosen;
   }
 }
