@@ -51,9 +51,9 @@ int Execute(const Command& command, const Arguments& arguments, SettingsStore& s
   OverlayStore overlay(store);
   const bool named = !arguments.root.empty() || !arguments.library.empty();
   if (!arguments.root.empty()) {
-    overlay.Write("macro", "filelocation", FolderText(fs::absolute(PathFromText(arguments.root))));
+    overlay.Name("filelocation", FolderText(fs::absolute(PathFromText(arguments.root))));
   }
-  if (!arguments.library.empty()) overlay.Write("macro", "library", arguments.library);
+  if (!arguments.library.empty()) overlay.Name("library", arguments.library);
   ConsoleHost host(console.in, console.messages, OptionsFrom(arguments, console),
                    console.interrupted);
   Session session(host, named ? static_cast<SettingsStore&>(overlay) : store);

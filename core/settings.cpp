@@ -169,8 +169,13 @@ std::optional<std::string> OverlayStore::Read(std::string_view section,
   return below_.Read(section, key);
 }
 
+void OverlayStore::Name(std::string_view key, const std::string& value) {
+  over_.Write(kMacro, key, value);
+}
+
 void OverlayStore::Write(std::string_view section, std::string_view key, const std::string& value) {
-  if (section == kMacro) {
+  const bool storedRoot = key == "filelocation" && !over_.Read(section, key);
+  if (section == kMacro && !storedRoot) {
     over_.Write(section, key, value);
   } else {
     below_.Write(section, key, value);

@@ -91,10 +91,13 @@ class MemoryStore : public SettingsStore {
 };
 
 /// Another store, but for the section "macro" (root and library), which stays in memory. Used when
-/// a root or library is named for one call only.
+/// a root or library is named for one call only. A root that was not named is the stored one, and
+/// another root that is chosen instead reaches the store below.
 class OverlayStore : public SettingsStore {
  public:
   explicit OverlayStore(SettingsStore& below) : below_(below) {}
+  /// Names the root or the library.
+  void Name(std::string_view key, const std::string& value);
   std::optional<std::string> Read(std::string_view section, std::string_view key) const override;
   void Write(std::string_view section, std::string_view key, const std::string& value) override;
 

@@ -1,5 +1,7 @@
 #include "library/start_up.h"
 
+#include <algorithm>
+
 #include "core/fault.h"
 #include "core/text.h"
 #include "core/version.h"
@@ -62,6 +64,12 @@ void ShowNotice(Session& session) {
   if (again == Answer::Yes) return;
   session.settings.ShowMessage = VersionNumber();
   SaveSetting(session.settings, "ShowMessage", session.store);
+}
+
+std::string LibraryOfRoot(const fs::path& root, const std::string& stored) {
+  const std::vector<std::string> names = FoldersOf(root);
+  if (names.empty()) return "Default";
+  return std::find(names.begin(), names.end(), stored) != names.end() ? stored : names.front();
 }
 
 bool OpenLibraries(Session& session) {

@@ -1,6 +1,7 @@
 // From the program's entry to the first board.
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 #include "library/session.h"
@@ -19,6 +20,10 @@ std::string UpdateText(const Settings& settings);
 /// Shows the notice of new features when this version's has not been seen, and remembers when the
 /// person does not want it again.
 void ShowNotice(Session& session);
+
+/// The library to open in a root other than the stored one: of the stored name where the root has
+/// it, else its first; "Default" where it has none.
+std::string LibraryOfRoot(const std::filesystem::path& root, const std::string& stored);
 
 /// Makes sure that the library root and the current library exist (asking for a root when there is
 /// none), lists libraries and boards and loads board 1. False when no root was chosen: the program

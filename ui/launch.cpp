@@ -182,10 +182,11 @@ int Launch(QApplication& application, const LaunchOptions& options, SettingsStor
   OverlayStore overlay(store);
   const bool overlaid = !options.root.isEmpty() || !options.library.isEmpty();
   if (!options.root.isEmpty()) {
-    const QString root = QDir(options.root).absolutePath();
-    overlay.Write("macro", "filelocation", FolderText(PathFromQt(root)));
+    const std::filesystem::path root = PathFromQt(QDir(options.root).absolutePath());
+    overlay.Name("filelocation", FolderText(root));
+    overlay.Name("library", LibraryOfRoot(root, LoadSettings(store).library));
   }
-  if (!options.library.isEmpty()) overlay.Write("macro", "library", FromQt(options.library));
+  if (!options.library.isEmpty()) overlay.Name("library", FromQt(options.library));
 
   QtHost asking;
   SilentHost silent;

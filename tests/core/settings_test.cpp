@@ -75,6 +75,14 @@ TEST(OverlayStore, KeepsRootAndLibraryFromTheStoreBelow) {
   EXPECT_EQ(overlay.Read("macro", "library"), "Other");
   EXPECT_EQ(below.Read("macro", "library"), "Mine");
   EXPECT_EQ(below.Read("Tricklet", "CardDesign"), "2");
+
+  overlay.Write("macro", "filelocation", "/chosen/");
+  EXPECT_EQ(below.Read("macro", "filelocation"), "/chosen/") << "the stored root is in use";
+  OverlayStore named(below);
+  named.Name("filelocation", "/named/");
+  named.Write("macro", "filelocation", "/moved/");
+  EXPECT_EQ(named.Read("macro", "filelocation"), "/moved/");
+  EXPECT_EQ(below.Read("macro", "filelocation"), "/chosen/");
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QImage>
 
+#include "library/start_up.h"
 #include "tests/support/library_fixture.h"
 #include "ui/text.h"
 
@@ -34,6 +35,24 @@ TEST(LaunchTest, RefusesWhatMakesNoSense) {
        {"--board 0", "--board 1000", "--board x", "--size 12", "--size 0x9", "--size 1024x700x3",
         "--size 99999x800", "--seed", "--seed x", "--seed -1", "--nonsense", "--board"}) {
     EXPECT_FALSE(Parse(QString::fromLatin1(line)).error.isEmpty()) << line;
+  }
+}
+
+TEST(LaunchTest, AnotherRootOpensALibraryThatItHas) {
+  const test::TempFolder folder;
+  for (const char* name : {"Autumn", "Club"}) {
+    std::filesystem::create_directories(folder.Path() / "root" / name);
+  }
+  MemoryStore store;
+  LaunchOptions options;
+  options.root = PathToQt(folder.Path() / "root");
+  options.screenshot = PathToQt(folder.Path() / "window.png");
+  for (const auto& [stored, opened] : {std::pair("Spring", "Autumn"), std::pair("Club", "Club")}) {
+    store.Write("macro", "library", stored);
+    ASSERT_EQ(Launch(*qApp, options, store), 0);
+    EXPECT_EQ(FoldersOf(folder.Path() / "root"), (std::vector<std::string>{"Autumn", "Club"}));
+    EXPECT_EQ(store.Read("macro", "library"), stored);
+    EXPECT_EQ(LibraryOfRoot(folder.Path() / "root", stored), opened);
   }
 }
 
