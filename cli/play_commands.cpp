@@ -121,20 +121,6 @@ void ShowTable(const Context& context, const CardPlay& play) {
   if (play.Finished()) data << play.ScoreText() << '\n';
 }
 
-/// The contract of `text`, in the board's fields; false when it is none.
-bool ReadContract(const std::string& text, Board& board) {
-  const std::string upper = ToUpper(text);
-  const auto mark = upper.find_first_of("X*");
-  const auto bid = Call::FromText(upper.substr(0, mark));
-  if (!bid || !bid->IsBid()) return false;
-  const std::string doubling = mark == std::string::npos ? "" : upper.substr(mark);
-  if (doubling.size() > 2 || doubling.find_first_not_of("X*") != std::string::npos) return false;
-  board.ContractLevel = bid->Level();
-  board.Trumps = ToStrain(bid->Denomination());
-  board.Contract = bid->Text() + std::string(doubling.size(), 'x');
-  return true;
-}
-
 }  // namespace
 
 ExitCode Auction(const Context& context, int boardNumber, const std::vector<std::string>& calls) {
@@ -180,7 +166,7 @@ ExitCode Play(const Context& context, const PlayArguments& arguments) {
 ExitCode Score(const Context& context, const ScoreArguments& arguments) {
   Board board;
   const auto declarer = SeatFromText(arguments.declarer);
-  if (!ReadContract(arguments.contract, board)) {
+  if (!SetContract(board, arguments.contract)) {
     return Refuse(context, arguments.contract + " is no contract");
   }
   if (!declarer) return Refuse(context, arguments.declarer + " is no seat");

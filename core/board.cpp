@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/text.h"
+
 namespace tricklet {
 
 int SeatHolding(const HandTable& hands, Card card) {
@@ -63,6 +65,19 @@ void GetContract(Board& board) {
     board.Declarer = static_cast<Seat>(firstNamer[SideOf(bidder)][lastBid.Denomination()]);
     board.Trumps = ToStrain(lastBid.Denomination());
   }
+}
+
+bool SetContract(Board& board, std::string_view text) {
+  const std::string upper = ToUpper(text);
+  const auto mark = upper.find_first_of("X*");
+  const auto bid = Call::FromText(upper.substr(0, mark));
+  if (!bid || !bid->IsBid()) return false;
+  const std::string doubling = mark == std::string::npos ? "" : upper.substr(mark);
+  if (doubling.size() > 2 || doubling.find_first_not_of("X*") != std::string::npos) return false;
+  board.ContractLevel = bid->Level();
+  board.Trumps = ToStrain(bid->Denomination());
+  board.Contract = bid->Text() + std::string(doubling.size(), 'x');
+  return true;
 }
 
 std::string ContractLabel(const Board& board) {

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "core/call.h"
 #include "core/holding.h"
@@ -58,6 +59,10 @@ bool HasCards(const HandTable& hands);
 /// declarer is the first of the last bidder's side to have named the strain. The calls need not be
 /// a legal auction.
 void GetContract(Board& board);
+
+/// Sets `Contract`, `ContractLevel` and `Trumps` from a text: "4S", "3NTx", "5nXX", "1C**". False,
+/// and nothing changed, when it is no contract. The calls are not asked.
+bool SetContract(Board& board, std::string_view text);
 
 /// "4Sx by South", "All Pass", or empty when there is no contract.
 std::string ContractLabel(const Board& board);

@@ -1,0 +1,19 @@
+// What a play record tells of one table.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "core/board.h"
+#include "core/holding.h"
+
+namespace tricklet {
+
+struct RecordedPlay {
+  tricklet::Board Board;    ///< deal, calls and contract; not the board that is in hand
+  std::vector<Card> Cards;  ///< in the order in which they were played; not necessarily legal
+  /// Of the declarer, 0..13; known beside the cards, since a claim ends their record.
+  std::optional<int> Tricks;
+};
+
+}  // namespace tricklet

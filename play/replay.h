@@ -1,0 +1,60 @@
+// A recorded play, stepped through card by card.
+#pragma once
+
+#include <string>
+
+#include "core/host.h"
+#include "core/recorded_play.h"
+#include "play/card_play.h"
+
+namespace tricklet {
+
+/// Goes through a record by the rules of play. Of a record that breaks them, the cards up to the
+/// first illegal one can be seen.
+class Replay {
+ public:
+  /// Begins before the opening lead.
+  Replay(RecordedPlay record, Host& host);
+  Replay(const Replay&) = delete;
+  Replay& operator=(const Replay&) = delete;
+
+  const RecordedPlay& Record() const { return record_; }
+  /// The play up to here; its `PlayMode` is off where the record lacks what a play needs.
+  const CardPlay& Play() const { return play_; }
+
+  bool ForwardEnabled() const { return Shown() < playable_; }
+  bool BackEnabled() const { return Shown() > 0; }
+  /// One card on, or back.
+  void Forward();
+  void Back();
+  /// To the end of the trick, or of the next one.
+  void NextTrick();
+  /// To the beginning of the trick, or of the one before.
+  void PreviousTrick();
+  /// Goes on by `card`; false, and nothing happens, when another one was played.
+  bool Follow(Card card);
+
+  /// Cards seen so far.
+  int Shown() const { return play_.UndoTop(); }
+  /// "Card 5 of 52", and what there is to say at the record's end: a claim, an illegal card, or why
+  /// there is nothing to be seen.
+  std::string PlaceText() const;
+  /// The result line at the end of the record; empty before, and where the result is not known.
+  std::string ScoreText() const;
+
+ private:
+  class NoTimer : public TrickTimer {
+   public:
+    void Start(std::chrono::milliseconds /*delay*/) override {}
+    void Stop() override {}
+  };
+
+  std::string EndText() const;
+
+  RecordedPlay record_;
+  NoTimer timer_;
+  CardPlay play_;
+  int playable_ = 0;  // cards up to the first illegal one
+};
+
+}  // namespace tricklet
