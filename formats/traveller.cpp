@@ -1,0 +1,271 @@
+#include "formats/traveller.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <system_error>
+#include <utility>
+
+#include "core/comparison.h"
+#include "core/scoring.h"
+#include "core/text.h"
+#include "formats/lin_record.h"
+#include "formats/pair_names.h"
+
+namespace tricklet {
+namespace {
+
+constexpr int kBook = 6;
+constexpr int kMostTricks = kCardsInHand;
+
+const std::string& Result(const LinRecord& record, LinResultTag tag) {
+  return record.results[tag];
+}
+
+/// The number that is all of `text`; nothing for anything else.
+template <class Number>
+std::optional<Number> NumberOf(std::string_view text) {
+  if (text.starts_with('+')) text.remove_prefix(1);
+  Number number{};
+  const char* const end = text.data() + text.size();
+  const auto [rest, failure] = std::from_chars(text.data(), end, number);
+  if (failure != std::errc() || rest != end) return std::nullopt;
+  return number;
+}
+
+std::optional<float> PointsOf(std::string_view text) {
+  const auto points = NumberOf<float>(text);
+  return points && std::isfinite(*points) ? points : std::nullopt;
+}
+
+std::optional<int> TricksOf(std::string_view text) {
+  const auto tricks = NumberOf<int>(text);
+  return tricks && *tricks >= 0 && *tricks <= kMostTricks ? tricks : std::nullopt;
+}
+
+std::optional<Seat> SeatOf(std::string_view text) {
+  for (const Seat seat : kAllSeats) {
+    if (!text.empty() && ToUpper(text[0]) == SeatName[seat][0]) return seat;
+  }
+  return std::nullopt;
+}
+
+/// A card with its suit before or behind its rank; the ten is "T" or "10".
+std::optional<Card> CardOf(std::string_view text) {
+  std::string card = ToUpper(Trim(text));
+  if (const auto ten = card.find("10"); ten != std::string::npos) card.replace(ten, 2, "T");
+  if (card.size() != 2) return std::nullopt;
+  if (std::string_view("SHDC").find(card[0]) == std::string_view::npos) std::swap(card[0], card[1]);
+  const auto suit = std::string_view("SHDC").find(card[0]);
+  const auto rank = std::string_view("AKQJT98765432").find(card[1]);
+  if (suit == std::string_view::npos || rank == std::string_view::npos) return std::nullopt;
+  return Card{static_cast<Suit>(suit), static_cast<Rank>(rank)};
+}
+
+/// The deal, the calls as far as a board holds them, and the contract; that of the scorer where the
+/// record has no auction.
+Board BoardOf(const LinRecord& record, int boardNumber) {
+  Board board;
+  board.BoardNumber = boardNumber;
+  board.Hands = record.hands;
+  for (const Call call : record.calls) {
+    if (!board.Calls.Full()) board.Calls.Add(call);
+  }
+  GetContract(board);
+  const std::string& contract = Result(record, LinResultTag::Qenc);
+  const auto declarer = SeatOf(Result(record, LinResultTag::Qend));
+  const bool otherDealer = record.dealer && *record.dealer != board.Dealer();
+  if (declarer && board.Contract.empty()) SetContract(board, contract);
+  if (declarer && board.ContractLevel > 0 && (board.Calls.Empty() || otherDealer)) {
+    board.Declarer = *declarer;
+  }
+  return board;
+}
+
+bool SaysPassedOut(std::string_view contract) {
+  constexpr std::array<std::string_view, 4> kWords{"PASS", "ALL PASS", "P", "AP"};
+  return std::any_of(kWords.begin(), kWords.end(),
+                     [&](std::string_view word) { return EqualNoCase(word, contract); });
+}
+
+/// Contract and declarer, the scorer's before the auction's. Returns what `ScoreContract` needs.
+Board ReadContractOf(const LinRecord& record, TravellerRow& row) {
+  Board scored;
+  scored.BoardNumber = row.Record.Board.BoardNumber;
+  const std::string& contract = Result(record, LinResultTag::Qenc);
+  if (SaysPassedOut(contract)) {
+    scored.Contract = kAllPass;
+  } else if (SetContract(scored, contract)) {
+    const auto declarer = SeatOf(Result(record, LinResultTag::Qend));
+    row.Declarer = declarer ? declarer : row.Record.Board.Declarer;
+  } else if (contract.empty()) {
+    scored = row.Record.Board;
+    if (scored.ContractLevel > 0) row.Declarer = scored.Declarer;
+  }
+  if (row.Declarer) scored.Declarer = *row.Declarer;
+  row.Contract = scored.Contract;
+  return scored;
+}
+
+/// Of a contract: the scorer's tricks before those of the record.
+void ReadTricks(const LinRecord& record, TravellerRow& row) {
+  if (!row.Declarer) return;
+  row.Tricks = TricksOf(Result(record, LinResultTag::Qent));
+  if (!row.Tricks && record.claim && *record.claim >= 0 && *record.claim <= kMostTricks) {
+    row.Tricks = record.claim;
+  }
+}
+
+void ReadScore(const LinRecord& record, const Board& scored, TravellerRow& row) {
+  const std::string& text = Result(record, LinResultTag::Qens);
+  row.Score = NumberOf<int>(text);
+  if (row.Score) return;
+  row.Adjusted = text;
+  if (!text.empty()) return;
+  if (row.Contract == kAllPass) row.Score = 0;
+  if (scored.ContractLevel > 0 && row.Tricks) {
+    row.Score = ScoreContract(scored.Vulnerability(), scored.ContractLevel, scored.Trumps,
+                              DoublingOf(scored.Contract),
+                              *row.Tricks - scored.ContractLevel - kBook, scored.Declarer);
+  }
+}
+
+void ReadPoints(const LinRecord& record, bool matchPoints, TravellerRow& row) {
+  if (matchPoints) {
+    row.Points[Side::NorthSouth] = PointsOf(Result(record, LinResultTag::Qenns));
+    row.Points[Side::EastWest] = PointsOf(Result(record, LinResultTag::Qenew));
+  } else if (const auto imps = PointsOf(Result(record, LinResultTag::Qeni))) {
+    row.Points[Side::NorthSouth] = *imps;
+    row.Points[Side::EastWest] = *imps == 0 ? 0 : -*imps;
+  }
+}
+
+/// North before South and East before West, as pairs are written.
+void ReadNames(const LinRecord& record, const PairNames& pairs, TravellerRow& row) {
+  for (const Side side : {Side::NorthSouth, Side::EastWest}) {
+    const auto first = static_cast<Seat>(IndexOf(side));
+    const PairPlayers players{PlayerName(record.players[first]),
+                              PlayerName(record.players[PartnerOf(first)])};
+    row.Names[side] = JoinPlayers(players);
+    row.Pair[side] = pairs.NumberOf(players, side);
+  }
+}
+
+TravellerRow MakeRow(const LinRecord& record, const PairNames& pairs, bool matchPoints) {
+  TravellerRow row;
+  row.Record.Board = BoardOf(record, record.boardNumber);
+  row.Record.Cards = record.play;
+  const Board scored = ReadContractOf(record, row);
+  ReadTricks(record, row);
+  row.Record.Tricks = row.Tricks;
+  row.Lead = CardOf(Result(record, LinResultTag::Qenl));
+  if (!row.Lead && !record.play.empty()) row.Lead = record.play.front();
+  ReadScore(record, scored, row);
+  ReadPoints(record, matchPoints, row);
+  ReadNames(record, pairs, row);
+  return row;
+}
+
+bool HasPoints(const TravellerRow& row) {
+  return std::any_of(row.Points.begin(), row.Points.end(),
+                     [](const auto& points) { return points && *points != 0; });
+}
+
+void ComputePoints(Traveller& traveller, bool matchPoints, bool teams) {
+  std::vector<std::optional<int>> scores;
+  for (const TravellerRow& row : traveller.Rows) scores.push_back(row.Score);
+  const auto played = std::count_if(scores.begin(), scores.end(),
+                                    [](const auto& score) { return score.has_value(); });
+  const auto points = MatchPoints(scores);
+  const auto imps = CrossImps(scores);
+  traveller.Computed = true;
+  for (std::size_t table = 0; table < scores.size(); ++table) {
+    auto& own = traveller.Rows[table].Points;
+    own.fill(std::nullopt);
+    if (!scores[table]) continue;
+    if (matchPoints) {
+      for (const Side side : {Side::NorthSouth, Side::EastWest}) {
+        own[side] = static_cast<float>((*points[table])[side]);
+      }
+    } else if (!teams || played == 2) {
+      own[Side::NorthSouth] = static_cast<float>(*imps[table]);
+      own[Side::EastWest] = static_cast<float>(-*imps[table]);
+    }
+  }
+}
+
+/// "+1", "-2", "=".
+std::string Signed(int number) {
+  return ResultText(number);
+}
+
+}  // namespace
+
+std::optional<int> TravellerRow::Result() const {
+  Board contract;
+  if (!Tricks || !SetContract(contract, Contract)) return std::nullopt;
+  return *Tricks - contract.ContractLevel - kBook;
+}
+
+std::string TravellerRow::NamesText() const {
+  return Names[Side::NorthSouth] + " v " + Names[Side::EastWest];
+}
+
+Traveller MakeTraveller(const LinFile& file, int boardNumber) {
+  const bool matchPoints = file.BoardScoringMethod == "MATCH_POINTS";
+  const bool teams = file.TeamEvent.has_value() || file.BoardScoringMethod == "IMPS";
+  Traveller traveller;
+  traveller.BoardNumber = boardNumber;
+  // Whatever else the file names, these are the points that its records hold.
+  traveller.Scoring = matchPoints ? "MP" : teams ? "IMP" : "XIMP";
+  const PairNames pairs(file.Names);
+  for (const std::string& line : file.Lin) {
+    const LinRecord record = ParseLinRecord(line);
+    if (record.boardNumber != boardNumber) continue;
+    traveller.Rows.push_back(MakeRow(record, pairs, matchPoints));
+  }
+  if (std::none_of(traveller.Rows.begin(), traveller.Rows.end(), HasPoints)) {
+    ComputePoints(traveller, matchPoints, teams);
+  }
+  return traveller;
+}
+
+std::string ReadLinBidding(const TravellerRow& row) {
+  const std::string names = " " + row.NamesText();
+  if (row.Contract == kAllPass) return row.Contract + names;
+  if (!row.Score) return (row.Adjusted.empty() ? "Not played" : row.Adjusted) + names;
+  std::string text = row.Contract;
+  if (row.Declarer) text += " by " + std::string(SeatName[*row.Declarer]);
+  if (const auto result = row.Result()) text += " " + Signed(*result);
+  return text + (text.empty() ? "" : " ") + Signed(*row.Score) + names;
+}
+
+std::vector<std::string> AddLinNames(const Traveller& traveller) {
+  std::vector<std::string> names;
+  names.reserve(traveller.Rows.size());
+  for (const TravellerRow& row : traveller.Rows) names.push_back(row.NamesText());
+  return names;
+}
+
+int FindLinName(const std::vector<std::string>& entries, std::string_view namesText,
+                int preferred) {
+  const std::string_view part = Trim(namesText.substr(0, namesText.find('&')));
+  const auto holds = [part](const std::string& entry) {
+    return entry.find(part) != std::string::npos;
+  };
+  if (preferred >= 0 && preferred < static_cast<int>(entries.size()) &&
+      holds(entries[static_cast<std::size_t>(preferred)])) {
+    return preferred;
+  }
+  const auto found = std::find_if(entries.begin(), entries.end(), holds);
+  return found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
+}
+
+std::string PointsText(float points) {
+  std::array<char, 32> text{};
+  const auto [end, failure] = std::to_chars(text.data(), text.data() + text.size(), points);
+  return failure == std::errc() ? std::string(text.data(), end) : "";
+}
+
+}  // namespace tricklet

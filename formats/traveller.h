@@ -1,0 +1,63 @@
+// The traveller of a board: what happened at each table, from the records of "LIN.txt".
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/notation.h"
+#include "core/recorded_play.h"
+#include "formats/lin_file.h"
+
+namespace tricklet {
+
+/// One table. What the file does not give is worked out from its record where that tells it.
+struct TravellerRow {
+  PerSide<std::string> Pair;     ///< numbers as in the file; empty where the players have none
+  std::string Contract;          ///< "4Sx", "All Pass"; empty where there is none
+  std::optional<Seat> Declarer;  ///< of a contract
+  std::optional<Card> Lead;
+  std::optional<int> Tricks;  ///< of the declarer, 0..13
+  std::optional<int> Score;   ///< from North-South's point of view
+  std::string Adjusted;       ///< the score's text where it is no number: "A5050"
+  /// Match points or IMPs, after the traveller's `Scoring`.
+  PerSide<std::optional<float>> Points;
+  PerSide<std::string> Names;  ///< "Ann & Bob": North and South, East and West
+  RecordedPlay Record;
+
+  /// The declarer's tricks over or under the contract.
+  std::optional<int> Result() const;
+  /// "Ann & Bob v Cy & Di".
+  std::string NamesText() const;
+};
+
+struct Traveller {
+  int BoardNumber = 0;
+  std::string Scoring;             ///< heading of the points: "MP", "IMP", "XIMP"
+  bool Computed = false;           ///< the file gives no points, and they follow from the scores
+  std::vector<TravellerRow> Rows;  ///< in the order of the file
+};
+
+/// The traveller of `boardNumber`; without rows where the file has no record of the board.
+///
+/// Where all points of the board are 0 or missing they are computed: match points, or IMPs against
+/// every other table. In a match of teams only two tables can be compared, as the file does not say
+/// which of more belong together.
+Traveller MakeTraveller(const LinFile& file, int boardNumber);
+
+/// One table in a line: "4S by South +1 +650 Ann & Bob v Cy & Di", a score of 0 as "="; "All Pass"
+/// and the names for a board that was passed out, "Not played" for one without a result.
+std::string ReadLinBidding(const TravellerRow& row);
+
+/// The entries of the list of play records: the names of each row, in the order of the rows.
+std::vector<std::string> AddLinNames(const Traveller& traveller);
+
+/// The entry that holds the part of `namesText` before its first "&"; of several, the one at
+/// `preferred`, else the first. -1 when none does.
+int FindLinName(const std::vector<std::string>& entries, std::string_view namesText, int preferred);
+
+/// "7", "7.5", "-12": the shortest form of single precision.
+std::string PointsText(float points);
+
+}  // namespace tricklet
