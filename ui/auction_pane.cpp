@@ -115,10 +115,12 @@ QList<QWidget*> AuctionPane::TabOrder() const {
   return {cmdBid, flexBids};
 }
 
-void AuctionPane::Show(const Session& session, const AuctionEntry* entry) {
+void AuctionPane::Show(const Session& session, const AuctionEntry* entry, const Board* recorded) {
+  const Board& board = recorded != nullptr ? *recorded : session.board;
+  SetTitle(recorded != nullptr ? tr("Recorded auction") : tr("Auction"));
   flexBids->setVisible(entry != nullptr || cmdBid->isChecked());
   ShowHeads(session.board);
-  ShowCalls(session, entry != nullptr ? entry->Calls() : session.board.Calls);
+  ShowCalls(session, entry != nullptr ? entry->Calls() : board.Calls);
 }
 
 void AuctionPane::ShowHeads(const Board& board) {

@@ -25,13 +25,13 @@ QLabel* MakeLabel(const QString& name, double size, QWidget* parent) {
 }
 
 /// A text that begins with the contract, the strain as its symbol.
-void SetContractText(QLabel* label, const std::string& text, const Session& session) {
+void SetContractText(QLabel* label, const std::string& text, const Board& board,
+                     const Settings& settings) {
   QString shown = ToQt(text).toHtmlEscaped();
-  const Board& board = session.board;
   if (board.ContractLevel > 0 && board.Trumps != Strain::NoTrump) {
     // The level and the strain's letter come first.
     shown = shown.left(1) +
-            ColouredSymbol(ToSuit(board.Trumps), session.settings.SuitColour, label->palette()) +
+            ColouredSymbol(ToSuit(board.Trumps), settings.SuitColour, label->palette()) +
             shown.mid(2);
   }
   label->setText(shown);
@@ -89,18 +89,33 @@ void ContractPane::Show(const Session& session, const CardPlay& play, bool enter
   const Board& board = session.board;
   KeepRoom(this, board.NumCalls() > 0);
   setVisible(!entering && board.NumCalls() > 0);
-  SetContractText(lblContract, ContractLabel(board), session);
-  SetContractText(lblScore, play.PlayMode() ? play.ScoreText() : PassedOutText(board), session);
+  SetContractText(lblContract, ContractLabel(board), board, session.settings);
+  SetContractText(lblScore, play.PlayMode() ? play.ScoreText() : PassedOutText(board), board,
+                  session.settings);
   ShowPlay(play);
 }
 
-void ContractPane::ShowPlay(const CardPlay& play) {
+void ContractPane::ShowRecord(const Replay& record, const Settings& settings) {
+  const Board& board = record.Record().Board;
+  KeepRoom(this, true);
+  setVisible(true);
+  SetContractText(lblContract, ContractLabel(board), board, settings);
+  SetContractText(lblScore, record.ScoreText(), board, settings);
+  ShowTricks(record.Play());
+  fraPlay_->setVisible(false);
+}
+
+void ContractPane::ShowTricks(const CardPlay& play) {
   const bool on = play.PlayMode();
-  fraPlay_->setVisible(on);
   for (const Side side : {Side::NorthSouth, Side::EastWest}) {
     lblTricks[side]->setVisible(on);
     lblTricks[side]->setText(on ? ToQt(play.TricksText(side)) : QString());
   }
+}
+
+void ContractPane::ShowPlay(const CardPlay& play) {
+  ShowTricks(play);
+  fraPlay_->setVisible(play.PlayMode());
   cmdUndo->setEnabled(play.UndoEnabled());
   cmdClaim->setEnabled(play.ClaimEnabled());
   cmdClaim->setText(ToQt(play.ClaimCaption()));

@@ -6,6 +6,7 @@
 #include "core/notation.h"
 #include "library/session.h"
 #include "play/card_play.h"
+#include "play/replay.h"
 
 class QLabel;
 class QPushButton;
@@ -25,10 +26,14 @@ class ContractPane : public QWidget {
   /// the contract is not known then.
   void Show(const Session& session, const CardPlay& play, bool entering);
 
+  /// Shows the contract of a play record that is looked at, its tricks so far and its result.
+  void ShowRecord(const Replay& record, const Settings& settings);
+
   /// The controls in the order of the tab key.
   QList<QWidget*> TabOrder() const;
 
  private:
+  void ShowTricks(const CardPlay& play);
   void ShowPlay(const CardPlay& play);
 
   QLabel* lblContract;

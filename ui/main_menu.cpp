@@ -16,14 +16,15 @@
 
 namespace tricklet::ui {
 
-MainMenu::MainMenu(QMainWindow& window, Commands& commands)
-    : QObject(&window), window_(window), commands_(commands) {
+MainMenu::MainMenu(QMainWindow& window, Commands& commands, Results& results)
+    : QObject(&window), window_(window), commands_(commands), results_(results) {
   BuildFile();
   BuildLibrary();
   BuildBoard();
   BuildHands();
   BuildPlay();
   BuildAnalysis();
+  BuildResults();
   BuildView();
   BuildOptionsAndHelp();
   window_.addActions(actions_);
@@ -221,6 +222,7 @@ void MainMenu::Show(const Session& session, const PlayControl& play, const EditC
   for (QAction* action : leaveBoard_) action->setEnabled(enabled_ && !edit.Editing());
   ShowPlay(play);
   ShowEdit(play, edit);
+  ShowResults();
   statistics_->setChecked(session.settings.ShowStats);
   makeable_->setChecked(session.settings.ShowMakeable);
   bestCards_->setChecked(session.settings.ShowBestCards);

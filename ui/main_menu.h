@@ -17,13 +17,14 @@ namespace tricklet::ui {
 class Commands;
 class EditControl;
 class PlayControl;
+class Results;
 
 /// Builds the menu bar. Its keys work while the menu bar is hidden too.
 class MainMenu : public QObject {
   Q_OBJECT
 
  public:
-  MainMenu(QMainWindow& window, Commands& commands);
+  MainMenu(QMainWindow& window, Commands& commands, Results& results);
 
   /// Sets what is enabled and checked.
   void Show(const Session& session, const PlayControl& play, const EditControl& edit);
@@ -33,6 +34,7 @@ class MainMenu : public QObject {
 
  signals:
   void NewLibraryAsked();
+  void TravellerAsked();
   void PresentationAsked();
 
  private:
@@ -50,14 +52,17 @@ class MainMenu : public QObject {
   void BuildHands();
   void BuildPlay();
   void BuildAnalysis();
+  void BuildResults();
   void BuildView();
   void BuildColours(QMenu* view);
   void BuildOptionsAndHelp();
   void ShowPlay(const PlayControl& play);
   void ShowEdit(const PlayControl& play, const EditControl& edit);
+  void ShowResults();
 
   QMainWindow& window_;
   Commands& commands_;
+  Results& results_;
   QList<QAction*> actions_;
   bool enabled_ = true;
 
@@ -76,6 +81,12 @@ class MainMenu : public QObject {
   QAction* undoCard_ = nullptr;
   QAction* claim_ = nullptr;
   QAction* gatherTrick_ = nullptr;
+  QAction* traveller_ = nullptr;
+  QAction* linForward_ = nullptr;
+  QAction* linBack_ = nullptr;
+  QAction* linNextTrick_ = nullptr;
+  QAction* linPreviousTrick_ = nullptr;
+  QAction* linLeave_ = nullptr;
   QAction* statistics_ = nullptr;
   QAction* makeable_ = nullptr;
   QAction* bestCards_ = nullptr;

@@ -31,11 +31,13 @@
 #include "ui/makeable_pane.h"
 #include "ui/play_control.h"
 #include "ui/progress_frame.h"
+#include "ui/results.h"
 #include "ui/section.h"
 #include "ui/side_column.h"
 #include "ui/statistics_pane.h"
 #include "ui/table_view.h"
 #include "ui/text.h"
+#include "ui/traveller_pane.h"
 
 namespace tricklet::ui {
 namespace {
@@ -60,8 +62,9 @@ MainWindow::MainWindow(Session& session)
       edit_(std::make_unique<EditControl>(session, *play_)),
       tables_(new BackgroundTables(session, this)),
       best_(new BestCardsFinder(session, play_->Play(), this)),
+      results_(new Results(session, this)),
       commands_(new Commands(session, *play_, *edit_, this)),
-      menu_(new MainMenu(*this, *commands_)),
+      menu_(new MainMenu(*this, *commands_, *results_)),
       library_(new LibraryPane(session)),
       editPane_(new EditPane(*commands_)),
       board_(new BoardPane(*commands_)),
@@ -70,6 +73,7 @@ MainWindow::MainWindow(Session& session)
       auction_(new AuctionPane),
       contract_(new ContractPane(*commands_)),
       makeable_(new MakeablePane),
+      traveller_(new TravellerPane(*results_)),
       progress_(new ProgressFrame) {
   setObjectName(QStringLiteral("frmMain"));
   setAcceptDrops(true);
@@ -88,8 +92,8 @@ MainWindow::~MainWindow() {
 void MainWindow::LayOut() {
   left_ = new SideColumn(QStringLiteral("colLeft"), {library_, editPane_, board_, statistics_},
                          kLeftWidth);
-  right_ =
-      new SideColumn(QStringLiteral("colRight"), {auction_, contract_, makeable_}, kRightWidth);
+  right_ = new SideColumn(QStringLiteral("colRight"), {auction_, contract_, makeable_, traveller_},
+                          kRightWidth);
   table_->setObjectName(QStringLiteral("picTable"));
   table_->setAccessibleName(tr("Table"));
   table_->setFocusPolicy(Qt::StrongFocus);
@@ -143,6 +147,7 @@ void MainWindow::Connect() {
   addAction(leavePresentation_);
   ConnectPlay();
   ConnectEdit();
+  ConnectResults();
 }
 
 void MainWindow::ConnectEdit() {
@@ -159,21 +164,33 @@ void MainWindow::ConnectPlay() {
   connect(commands_, &Commands::PlayStarted, table_, qOverload<>(&QWidget::setFocus));
   connect(play_, &PlayControl::Changed, this, &MainWindow::DisplayPlay);
   connect(best_, &BestCardsFinder::Changed, this, &MainWindow::DisplayPlay);
-  connect(table_, &TableView::CardAsked, commands_, &Commands::PlayCard);
-  connect(table_, &TableView::OnlyCardAsked, commands_, &Commands::PlayOnlyCard);
   connect(table_, &TableView::TrickAsked, commands_, &Commands::QuitTrick);
+}
+
+/// While a play record is looked at, cards that are clicked or typed are meant for it.
+void MainWindow::ConnectResults() {
+  connect(results_, &Results::Changed, this, &MainWindow::DisplayAuction);
+  connect(menu_, &MainMenu::TravellerAsked, traveller_, &TravellerPane::Toggle);
+  connect(table_, &TableView::CardAsked, this, [this](Card card) {
+    results_->Record() != nullptr ? results_->PlayCard(card) : commands_->PlayCard(card);
+  });
+  connect(table_, &TableView::OnlyCardAsked, this, [this] {
+    results_->Record() != nullptr ? results_->Forward() : commands_->PlayOnlyCard();
+  });
 }
 
 void MainWindow::SetTabOrder() {
   const QList<QWidget*> order = library_->TabOrder() + editPane_->TabOrder() + board_->TabOrder() +
                                 QList<QWidget*>{table_} + auction_->TabOrder() +
-                                contract_->TabOrder() + makeable_->TabOrder();
+                                contract_->TabOrder() + makeable_->TabOrder() +
+                                traveller_->TabOrder();
   for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order.at(i - 1), order.at(i));
 }
 
 void MainWindow::Display() {
   play_->Follow();
   edit_->Follow();
+  results_->Look();
   library_->Show(session_);
   editPane_->Show(session_, *edit_);
   board_->Show(session_.board);
@@ -191,7 +208,10 @@ void MainWindow::Display() {
 }
 
 void MainWindow::DisplayAuction() {
-  auction_->Show(session_, commands_->Auction());
+  results_->Follow(commands_->Auction() != nullptr || edit_->Editing());
+  const Replay* record = results_->Record();
+  auction_->Show(session_, commands_->Auction(),
+                 record != nullptr ? &record->Record().Board : nullptr);
   ShowColumns();
   DisplayPlay();
 }
@@ -199,25 +219,37 @@ void MainWindow::DisplayAuction() {
 /// What a card more or less on the table changes.
 void MainWindow::DisplayPlay() {
   if (progress_->IsWorking()) return;
-  const AuctionEntry* entry = commands_->Auction();
   menu_->Show(session_, *play_, *edit_);
   board_->ShowPlay(*play_, *edit_);
   library_->OfferNext(play_->Play().Finished());
-  contract_->Show(session_, play_->Play(), entry != nullptr);
+  traveller_->Show(session_.settings);
   DisplayTable();
 }
 
+/// The board, its play or its auction; or the play record that is looked at.
 void MainWindow::DisplayTable() {
+  if (const Replay* record = results_->Record()) {
+    DisplayRecord(*record);
+    return;
+  }
+  const AuctionEntry* entry = commands_->Auction();
+  contract_->Show(session_, play_->Play(), entry != nullptr);
   if (edit_->Editing()) {
     table_->ShowEdit(session_.board, session_.settings);
     return;
   }
-  const AuctionEntry* entry = commands_->Auction();
   const bool playing = entry == nullptr && session_.board.PlayMode;
   table_->Show(session_.board, session_.settings, playing ? &play_->Play() : nullptr,
                entry != nullptr && !entry->Over() ? std::optional(entry->ToCall()) : std::nullopt);
   best_->Look();
   table_->ShowBestCards(best_->Tricks());
+}
+
+void MainWindow::DisplayRecord(const Replay& record) {
+  const CardPlay& play = record.Play();
+  contract_->ShowRecord(record, session_.settings);
+  table_->Show(record.Record().Board, session_.settings, play.PlayMode() ? &play : nullptr);
+  table_->ShowBestCards({});
 }
 
 void MainWindow::BeginEditing() {

@@ -11,6 +11,10 @@
 
 class QLabel;
 
+namespace tricklet {
+class Replay;
+}
+
 namespace tricklet::ui {
 
 class AuctionPane;
@@ -26,9 +30,11 @@ class MainMenu;
 class MakeablePane;
 class PlayControl;
 class ProgressFrame;
+class Results;
 class SideColumn;
 class StatisticsPane;
 class TableView;
+class TravellerPane;
 
 /// Everything that it shows is derived from the session by `Display`.
 class MainWindow : public QMainWindow {
@@ -64,9 +70,11 @@ class MainWindow : public QMainWindow {
   void Connect();
   void ConnectPlay();
   void ConnectEdit();
+  void ConnectResults();
   void DisplayAuction();
   void DisplayPlay();
   void DisplayTable();
+  void DisplayRecord(const Replay& record);
   void BeginEditing();
   void PlaceBesideAuction(QWidget* dialog);
   void PlaceBesideHands(QWidget* dialog);
@@ -81,6 +89,7 @@ class MainWindow : public QMainWindow {
   std::unique_ptr<EditControl> edit_;
   BackgroundTables* tables_;
   BestCardsFinder* best_;
+  Results* results_;
   Commands* commands_;
   MainMenu* menu_;
   LibraryPane* library_;
@@ -91,6 +100,7 @@ class MainWindow : public QMainWindow {
   AuctionPane* auction_;
   ContractPane* contract_;
   MakeablePane* makeable_;
+  TravellerPane* traveller_;
   ProgressFrame* progress_;
   SideColumn* left_ = nullptr;
   SideColumn* right_ = nullptr;

@@ -1,0 +1,281 @@
+#include "ui/traveller_pane.h"
+
+#include <algorithm>
+
+#include <QComboBox>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QSignalBlocker>
+#include <QTableWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "ui/symbols.h"
+#include "ui/text.h"
+#include "ui/theme.h"
+#include "ui/traveller_cells.h"
+
+namespace tricklet::ui {
+namespace {
+
+constexpr int kLeastRows = 4;  // that the grid has room for before the column scrolls
+constexpr int kRowPadding = 6;
+constexpr int kCellPadding = 8;     // both sides of a text
+constexpr double kFontSize = 0.88;  // of the window's, so that the numbers fit beside each other
+/// So that the pane takes the room that the column has left.
+constexpr int kStretch = 100;
+
+}  // namespace
+
+TravellerPane::TravellerPane(Results& results, QWidget* parent)
+    : Section(QStringLiteral("secTraveller"), parent),
+      results_(results),
+      cmdTraveller(new QToolButton(this)),
+      fraTraveller(new QWidget(this)),
+      flexTraveller(new QTableWidget(0, kTravellerColumns, fraTraveller)),
+      cmbLinNames(new QComboBox(fraTraveller)),
+      lblLinPlace_(new ElidedLabel(fraTraveller)) {
+  cmdTraveller->setObjectName(QStringLiteral("cmdTraveller"));
+  cmdTraveller->setAccessibleName(tr("Show the traveller"));
+  cmdTraveller->setAutoRaise(true);
+  cmdTraveller->setCheckable(true);
+  cmdTraveller->setFocusPolicy(Qt::StrongFocus);
+  connect(cmdTraveller, &QToolButton::toggled, this, &TravellerPane::Expand);
+  TitleRow()->addWidget(cmdTraveller);
+
+  fraTraveller->setObjectName(QStringLiteral("fraTraveller"));
+  auto* column = new QVBoxLayout(fraTraveller);
+  column->setContentsMargins(0, 0, 0, 0);
+  BuildGrid();
+  column->addWidget(flexTraveller, 1);
+  cmbLinNames->setObjectName(QStringLiteral("cmbLinNames"));
+  cmbLinNames->setAccessibleName(tr("Play records"));
+  cmbLinNames->setToolTip(tr("The table whose auction and play are shown"));
+  cmbLinNames->setPlaceholderText(tr("Choose a play record"));
+  cmbLinNames->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  connect(cmbLinNames, &QComboBox::activated, &results_, &Results::ShowRecord);
+  column->addWidget(cmbLinNames);
+  BuildSteps(column);
+  Body()->addWidget(fraTraveller, 1);
+  cmdTraveller->setChecked(true);
+}
+
+void TravellerPane::BuildGrid() {
+  flexTraveller->setObjectName(QStringLiteral("flexTraveller"));
+  flexTraveller->setAccessibleName(tr("Traveller"));
+  QFont small = font();
+  small.setPointSizeF(small.pointSizeF() * kFontSize);
+  flexTraveller->setFont(small);
+  flexTraveller->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  flexTraveller->setSelectionBehavior(QAbstractItemView::SelectRows);
+  flexTraveller->setSelectionMode(QAbstractItemView::SingleSelection);
+  flexTraveller->setShowGrid(false);
+  flexTraveller->setTabKeyNavigation(false);
+  flexTraveller->setWordWrap(false);
+  flexTraveller->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  flexTraveller->verticalHeader()->hide();
+  flexTraveller->verticalHeader()->setMinimumSectionSize(1);
+  flexTraveller->verticalHeader()->setDefaultSectionSize(QFontMetrics(small).height() +
+                                                         kRowPadding);
+  QHeaderView* heads = flexTraveller->horizontalHeader();
+  heads->setFont(small);
+  heads->setMinimumSectionSize(1);
+  heads->setSectionResizeMode(QHeaderView::Fixed);
+  heads->setHighlightSections(false);
+  heads->setSortIndicatorClearable(true);
+  flexTraveller->setSortingEnabled(true);
+  heads->setSortIndicator(-1, Qt::AscendingOrder);
+  const int row = flexTraveller->verticalHeader()->defaultSectionSize();
+  flexTraveller->setMinimumHeight((kLeastRows + 2) * row + 2 * flexTraveller->frameWidth());
+  connect(flexTraveller, &QTableWidget::itemSelectionChanged, this, [this] {
+    const auto rows = flexTraveller->selectionModel()->selectedRows();
+    if (!rows.isEmpty()) ChooseRow(rows.first().row());
+  });
+}
+
+QToolButton* TravellerPane::AddStep(Step step, const char* name, const QString& text,
+                                    const QString& tip, void (Results::*procedure)()) {
+  auto* button = new QToolButton(fraTraveller);
+  button->setObjectName(QString::fromLatin1(name));
+  button->setText(text);
+  button->setToolTip(tip);
+  button->setAccessibleName(tip.section(QLatin1Char('('), 0, 0).trimmed());
+  button->setFocusPolicy(Qt::StrongFocus);
+  connect(button, &QToolButton::clicked, &results_, [this, procedure] { (results_.*procedure)(); });
+  steps_.at(step) = button;
+  return button;
+}
+
+void TravellerPane::BuildSteps(QVBoxLayout* column) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(4);
+  row->addWidget(AddStep(PreviousTrick, "cmdLinPreviousTrick", tr("<<"),
+                         tr("Back to the beginning of the trick (Alt+Shift+Left)"),
+                         &Results::PreviousTrick));
+  row->addWidget(
+      AddStep(Back, "cmdLinBack", tr("<"), tr("One card back (Alt+Left)"), &Results::Back));
+  row->addWidget(
+      AddStep(Forward, "cmdLinForward", tr(">"), tr("One card on (Alt+Right)"), &Results::Forward));
+  row->addWidget(AddStep(NextTrick, "cmdLinNextTrick", tr(">>"),
+                         tr("On to the end of the trick (Alt+Shift+Right)"), &Results::NextTrick));
+  lblLinPlace_->setObjectName(QStringLiteral("lblLinPlace"));
+  MakeQuiet(lblLinPlace_);
+  row->addWidget(lblLinPlace_, 1);
+  row->addWidget(AddStep(Leave, "cmdLinLeave", tr("x"),
+                         tr("Put the play record away (Ctrl+Shift+J)"), &Results::Leave));
+  column->addLayout(row);
+}
+
+QList<QWidget*> TravellerPane::TabOrder() const {
+  QList<QWidget*> order{cmdTraveller, flexTraveller, cmbLinNames};
+  for (QToolButton* step : steps_) order += step;
+  return order;
+}
+
+void TravellerPane::Toggle() {
+  cmdTraveller->toggle();
+}
+
+void TravellerPane::Expand(bool expanded) {
+  cmdTraveller->setText(expanded ? QStringLiteral("v") : QStringLiteral("^"));
+  cmdTraveller->setToolTip(expanded ? tr("Hide the traveller (Ctrl+J)")
+                                    : tr("Show the traveller (Ctrl+J)"));
+  fraTraveller->setVisible(expanded);
+  QSizePolicy policy = sizePolicy();
+  policy.setVerticalStretch(expanded ? kStretch : 0);
+  setSizePolicy(policy);
+}
+
+void TravellerPane::SetLinVisible(bool visible) {
+  setVisible(visible);
+}
+
+void TravellerPane::Show(const Settings& settings) {
+  SetLinVisible(results_.HasLinData());
+  if (isHidden()) return;
+  if (shownEdition_ != results_.Edition() || fourColours_ != settings.SuitColour) {
+    shownEdition_ = results_.Edition();
+    fourColours_ = settings.SuitColour;
+    FillGrid(settings);
+    FillNames();
+  }
+  MarkRecord();
+  ShowSteps();
+}
+
+void TravellerPane::FillGrid(const Settings& settings) {
+  const QSignalBlocker blocker(flexTraveller);
+  const Traveller& traveller = results_.OfBoard();
+  SetTitle(traveller.Rows.empty() ? tr("No traveller for this board") : tr("Traveller"));
+  flexTraveller->setSortingEnabled(false);
+  flexTraveller->clearSelection();
+  flexTraveller->setRowCount(0);
+  flexTraveller->setRowCount(static_cast<int>(traveller.Rows.size()));
+  for (int column = 0; column < kTravellerColumns; ++column) {
+    flexTraveller->setHorizontalHeaderItem(
+        column, MakeTravellerHead(static_cast<TravellerColumn>(column), traveller));
+  }
+  for (int row = 0; row < flexTraveller->rowCount(); ++row) {
+    FillRow(row, traveller.Rows.at(static_cast<std::size_t>(row)), settings);
+  }
+  flexTraveller->setSortingEnabled(true);
+  TravellerResize();
+}
+
+void TravellerPane::FillRow(int place, const TravellerRow& row, const Settings& settings) {
+  const QString line = ToQt(ReadLinBidding(row));
+  for (int column = 0; column < kTravellerColumns; ++column) {
+    QTableWidgetItem* cell =
+        MakeTravellerCell(static_cast<TravellerColumn>(column), row, settings, palette());
+    cell->setData(kTravellerRowRole, place);
+    cell->setToolTip(line);
+    flexTraveller->setItem(place, column, cell);
+  }
+}
+
+void TravellerPane::FillNames() {
+  const QSignalBlocker blocker(cmbLinNames);
+  cmbLinNames->clear();
+  for (const std::string& names : AddLinNames(results_.OfBoard())) {
+    cmbLinNames->addItem(ToQt(names));
+  }
+  cmbLinNames->setCurrentIndex(-1);
+}
+
+int TravellerPane::RowAt(int place) const {
+  return flexTraveller->item(place, 0)->data(kTravellerRowRole).toInt();
+}
+
+void TravellerPane::ChooseRow(int place) {
+  const int row = RowAt(place);
+  const Traveller& traveller = results_.OfBoard();
+  if (row >= static_cast<int>(traveller.Rows.size())) return;
+  const std::string names = traveller.Rows.at(static_cast<std::size_t>(row)).NamesText();
+  results_.ShowRecord(FindLinName(AddLinNames(traveller), names, row));
+}
+
+/// Marks the row of the record that is being looked at, by weight as well as by colour.
+void TravellerPane::MarkRecord() {
+  const QSignalBlocker grid(flexTraveller);
+  const QSignalBlocker names(cmbLinNames);
+  cmbLinNames->setCurrentIndex(results_.Row());
+  if (results_.Row() < 0) {
+    flexTraveller->clearSelection();
+    flexTraveller->setCurrentCell(-1, -1);
+  }
+  for (int place = 0; place < flexTraveller->rowCount(); ++place) {
+    const bool marked = RowAt(place) == results_.Row();
+    if (marked && flexTraveller->currentRow() != place) flexTraveller->selectRow(place);
+    for (int column = 0; column < kTravellerColumns; ++column) {
+      QTableWidgetItem* cell = flexTraveller->item(place, column);
+      QFont font = flexTraveller->font();
+      font.setBold(marked);
+      if (cell->font().bold() != marked) cell->setFont(font);
+    }
+  }
+}
+
+void TravellerPane::ShowSteps() {
+  const Replay* record = results_.Record();
+  const bool back = record != nullptr && record->BackEnabled();
+  const bool forward = record != nullptr && record->ForwardEnabled();
+  for (const Step step : {PreviousTrick, Back}) steps_.at(step)->setEnabled(back);
+  for (const Step step : {Forward, NextTrick}) steps_.at(step)->setEnabled(forward);
+  steps_.at(Leave)->setEnabled(record != nullptr);
+  lblLinPlace_->setText(record == nullptr ? QString() : ToQt(record->PlaceText()));
+  lblLinPlace_->setAccessibleName(lblLinPlace_->text());
+}
+
+/// Columns as wide as what stands in them; the names take what the grid has left.
+void TravellerPane::TravellerResize() {
+  QFont bold = flexTraveller->font();
+  bold.setBold(true);
+  const QFontMetrics metrics(bold);
+  int used = 0;
+  for (int column = 0; column < kTravellerColumns; ++column) {
+    int width = metrics.horizontalAdvance(flexTraveller->horizontalHeaderItem(column)->text());
+    for (int row = 0; row < flexTraveller->rowCount(); ++row) {
+      width = std::max(width, metrics.horizontalAdvance(flexTraveller->item(row, column)->text()));
+    }
+    width += kCellPadding;
+    if (column == static_cast<int>(TravellerColumn::Names)) {
+      width = std::max(width, flexTraveller->viewport()->width() - used);
+    }
+    flexTraveller->setColumnWidth(column, width);
+    used += width;
+  }
+}
+
+void TravellerPane::resizeEvent(QResizeEvent* event) {
+  Section::resizeEvent(event);
+  if (shownEdition_ > 0) TravellerResize();
+}
+
+/// Another colour scheme: the cells have colours of the old one.
+void TravellerPane::changeEvent(QEvent* event) {
+  Section::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) shownEdition_ = 0;
+}
+
+}  // namespace tricklet::ui
