@@ -4,6 +4,7 @@
 
 #include "analysis/makeable_view.h"
 #include "analysis/par.h"
+#include "cli/columns.h"
 #include "core/statistics.h"
 
 namespace tricklet::cli {
@@ -12,29 +13,6 @@ namespace {
 constexpr std::size_t kColumn = 26;  // of the diagram: West, North and South, East
 constexpr std::size_t kCallWidth = 7;
 constexpr std::size_t kNumberWidth = 4;
-
-/// Characters, not bytes: suit symbols take three bytes each.
-std::size_t Width(const std::string& text) {
-  std::size_t width = 0;
-  for (const char c : text) width += (static_cast<unsigned char>(c) & 0xC0U) != 0x80U ? 1 : 0;
-  return width;
-}
-
-std::string PadRight(std::string text, std::size_t width) {
-  const std::size_t have = Width(text);
-  if (have < width) text.append(width - have, ' ');
-  return text;
-}
-
-std::string PadLeft(const std::string& text, std::size_t width) {
-  const std::size_t have = Width(text);
-  return have < width ? std::string(width - have, ' ') + text : text;
-}
-
-void AppendLine(std::string& text, std::string line) {
-  line.erase(line.find_last_not_of(' ') + 1);
-  text += line + "\n";
-}
 
 std::string SuitLine(const Board& board, Seat seat, Suit suit) {
   const Holding holding = board.Hands[seat][suit];

@@ -23,6 +23,9 @@ void AddLibraryCommands(CLI::App& app, Command& command);
 /// auction, play, score.
 void AddPlayCommands(CLI::App& app, Command& command);
 
+/// traveller.
+void AddResultCommands(CLI::App& app, Command& command);
+
 /// analyse, link.
 void AddAnalysisCommands(CLI::App& app, Command& command);
 

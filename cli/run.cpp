@@ -77,6 +77,7 @@ int Run(const std::vector<std::string>& arguments, SettingsStore& store, const C
   DescribeOptions(app, parsed);
   AddLibraryCommands(app, command);
   AddPlayCommands(app, command);
+  AddResultCommands(app, command);
   AddAnalysisCommands(app, command);
   AddEditCommands(app, command);
   AddFolderCommands(app, command);

@@ -31,7 +31,7 @@ bool SamePlayers(const PairPlayers& a, const PairPlayers& b) {
 
 std::string PlayerName(std::string_view name) {
   const std::string_view trimmed = Trim(name);
-  return std::string(EqualNoCase(trimmed, "advanced bbo") ? "Robot" : trimmed);
+  return EqualNoCase(trimmed, "advanced bbo") ? "Robot" : Showable(trimmed);
 }
 
 std::string JoinPlayers(const PairPlayers& players) {
@@ -43,7 +43,7 @@ PairNames::PairNames(const std::vector<std::string>& lines) {
   for (const std::string& line : lines) {
     std::string_view rest = line;
     Pair pair;
-    pair.number = TakeWord(rest);
+    pair.number = Showable(TakeWord(rest));
     std::string_view names = rest;
     if (const std::string_view word = TakeWord(names); IsDirection(word)) {
       pair.direction = ToUpper(word);

@@ -13,7 +13,8 @@ namespace tricklet {
 /// The players of a pair, in either order.
 using PairPlayers = std::pair<std::string, std::string>;
 
-/// The name under which a player is shown: the robot of an online table as "Robot".
+/// The name under which a player is shown: the robot of an online table as "Robot", and any other
+/// made fit to be shown.
 std::string PlayerName(std::string_view name);
 
 /// "Ann & Bob"; a name alone where the other is not known.

@@ -121,7 +121,7 @@ void ReadScore(const LinRecord& record, const Board& scored, TravellerRow& row) 
   const std::string& text = Result(record, LinResultTag::Qens);
   row.Score = NumberOf<int>(text);
   if (row.Score) return;
-  row.Adjusted = text;
+  row.Adjusted = Showable(text);
   if (!text.empty()) return;
   if (row.Contract == kAllPass) row.Score = 0;
   if (scored.ContractLevel > 0 && row.Tricks) {
@@ -179,7 +179,6 @@ void ComputePoints(Traveller& traveller, bool matchPoints, bool teams) {
                                     [](const auto& score) { return score.has_value(); });
   const auto points = MatchPoints(scores);
   const auto imps = CrossImps(scores);
-  traveller.Computed = true;
   for (std::size_t table = 0; table < scores.size(); ++table) {
     auto& own = traveller.Rows[table].Points;
     own.fill(std::nullopt);
@@ -193,6 +192,16 @@ void ComputePoints(Traveller& traveller, bool matchPoints, bool teams) {
       own[Side::EastWest] = static_cast<float>(-*imps[table]);
     }
   }
+}
+
+/// What the points are: the file's word for its own, and for computed ones what was computed.
+std::string ScoringOf(const LinFile& file, bool matchPoints, bool teams, bool computed) {
+  constexpr std::size_t kLongest = 8;
+  if (matchPoints) return "MP";
+  if (!computed && !file.BoardScoringAbb.empty()) {
+    return Showable(file.BoardScoringAbb, kLongest);
+  }
+  return teams ? "IMP" : "XIMP";
 }
 
 /// "+1", "-2", "=".
@@ -217,17 +226,15 @@ Traveller MakeTraveller(const LinFile& file, int boardNumber) {
   const bool teams = file.TeamEvent.has_value() || file.BoardScoringMethod == "IMPS";
   Traveller traveller;
   traveller.BoardNumber = boardNumber;
-  // Whatever else the file names, these are the points that its records hold.
-  traveller.Scoring = matchPoints ? "MP" : teams ? "IMP" : "XIMP";
   const PairNames pairs(file.Names);
   for (const std::string& line : file.Lin) {
     const LinRecord record = ParseLinRecord(line);
     if (record.boardNumber != boardNumber) continue;
     traveller.Rows.push_back(MakeRow(record, pairs, matchPoints));
   }
-  if (std::none_of(traveller.Rows.begin(), traveller.Rows.end(), HasPoints)) {
-    ComputePoints(traveller, matchPoints, teams);
-  }
+  traveller.Computed = std::none_of(traveller.Rows.begin(), traveller.Rows.end(), HasPoints);
+  if (traveller.Computed) ComputePoints(traveller, matchPoints, teams);
+  traveller.Scoring = ScoringOf(file, matchPoints, teams, traveller.Computed);
   return traveller;
 }
 

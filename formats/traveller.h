@@ -34,7 +34,7 @@ struct TravellerRow {
 
 struct Traveller {
   int BoardNumber = 0;
-  std::string Scoring;             ///< heading of the points: "MP", "IMP", "XIMP"
+  std::string Scoring;             ///< heading of the points: "MP", "IMP", "XIMP", "BIMP"
   bool Computed = false;           ///< the file gives no points, and they follow from the scores
   std::vector<TravellerRow> Rows;  ///< in the order of the file
 };

@@ -44,7 +44,7 @@ namespace {
 
 /// Widths of the side columns in heights of the window's font.
 constexpr double kLeftWidth = 15;
-constexpr double kRightWidth = 19;
+constexpr double kRightWidth = 20;
 /// Round the panes, and between them.
 constexpr int kMargin = 10;
 

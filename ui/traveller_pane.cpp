@@ -19,7 +19,7 @@
 namespace tricklet::ui {
 namespace {
 
-constexpr int kLeastRows = 4;  // that the grid has room for before the column scrolls
+constexpr int kLeastRows = 3;  // that the grid has room for before the column scrolls
 constexpr int kRowPadding = 6;
 constexpr int kCellPadding = 8;     // both sides of a text
 constexpr double kFontSize = 0.88;  // of the window's, so that the numbers fit beside each other
@@ -47,8 +47,6 @@ TravellerPane::TravellerPane(Results& results, QWidget* parent)
   fraTraveller->setObjectName(QStringLiteral("fraTraveller"));
   auto* column = new QVBoxLayout(fraTraveller);
   column->setContentsMargins(0, 0, 0, 0);
-  BuildGrid();
-  column->addWidget(flexTraveller, 1);
   cmbLinNames->setObjectName(QStringLiteral("cmbLinNames"));
   cmbLinNames->setAccessibleName(tr("Play records"));
   cmbLinNames->setToolTip(tr("The table whose auction and play are shown"));
@@ -57,6 +55,8 @@ TravellerPane::TravellerPane(Results& results, QWidget* parent)
   connect(cmbLinNames, &QComboBox::activated, &results_, &Results::ShowRecord);
   column->addWidget(cmbLinNames);
   BuildSteps(column);
+  BuildGrid();
+  column->addWidget(flexTraveller, 1);  // below the rest, as it is what gives way
   Body()->addWidget(fraTraveller, 1);
   cmdTraveller->setChecked(true);
 }
@@ -128,9 +128,9 @@ void TravellerPane::BuildSteps(QVBoxLayout* column) {
 }
 
 QList<QWidget*> TravellerPane::TabOrder() const {
-  QList<QWidget*> order{cmdTraveller, flexTraveller, cmbLinNames};
+  QList<QWidget*> order{cmdTraveller, cmbLinNames};
   for (QToolButton* step : steps_) order += step;
-  return order;
+  return order + QList<QWidget*>{flexTraveller};
 }
 
 void TravellerPane::Toggle() {
@@ -184,7 +184,9 @@ void TravellerPane::FillGrid(const Settings& settings) {
 }
 
 void TravellerPane::FillRow(int place, const TravellerRow& row, const Settings& settings) {
-  const QString line = ToQt(ReadLinBidding(row));
+  // Marked up, or names could be taken for mark-up themselves.
+  const QString line =
+      QStringLiteral("<span>%1</span>").arg(ToQt(ReadLinBidding(row)).toHtmlEscaped());
   for (int column = 0; column < kTravellerColumns; ++column) {
     QTableWidgetItem* cell =
         MakeTravellerCell(static_cast<TravellerColumn>(column), row, settings, palette());

@@ -192,6 +192,17 @@ TEST(Traveller, PointsAreComputedWhereTheFileHasNone) {
   }
 }
 
+TEST(Traveller, HeadingOfThePointsTellsWhatTheyAre) {
+  const auto heading = [](const char* imps) {
+    LinFile file = FileOf("BUTLER_IMPS", {Record("", Tags("", "420", "", "", "", "", "", imps)),
+                                          Record("", Tags("", "50", "", "", "", "", "", "0"))});
+    file.BoardScoringAbb = "BIMP";
+    return MakeTraveller(file, 1).Scoring;
+  };
+  EXPECT_EQ(heading("4"), "BIMP");
+  EXPECT_EQ(heading("0"), "XIMP") << "computed against the other table, not against a datum";
+}
+
 TEST(Traveller, AScorersContractStandsInForAMissingAuction) {
   const auto of = [](const std::string& tags) {
     return MakeTraveller(FileOf("IMPS", {Record("", tags)}), 1).Rows.at(0).Record.Board;

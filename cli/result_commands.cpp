@@ -1,0 +1,82 @@
+#include "cli/result_commands.h"
+
+#include <algorithm>
+#include <array>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "cli/columns.h"
+#include "formats/traveller.h"
+
+namespace tricklet::cli {
+namespace {
+
+constexpr std::size_t kColumns = 11;
+using Line = std::array<std::string, kColumns>;
+
+/// Words stand at the left of their column, numbers at the right.
+constexpr std::array<bool, kColumns> kLeft{false, false, true,  true,  true, false,
+                                           false, false, false, false, true};
+
+std::string ContractText(const TravellerRow& row) {
+  if (!row.Contract.empty()) return row.Contract;
+  return row.Adjusted.empty() ? "Not played" : row.Adjusted;
+}
+
+Line LineOf(const TravellerRow& row) {
+  Line line;
+  line[0] = row.Pair[Side::NorthSouth];
+  line[1] = row.Pair[Side::EastWest];
+  line[2] = ContractText(row);
+  if (row.Declarer) line[3] = SeatName[*row.Declarer].substr(0, 1);
+  if (row.Lead) {
+    line[4] = std::string(SuitSymbol[row.Lead->suit]) + std::string(RankText[row.Lead->rank]);
+  }
+  if (row.Tricks) line[5] = std::to_string(*row.Tricks);
+  if (row.Score && *row.Score >= 0) line[6] = std::to_string(*row.Score);
+  if (row.Score && *row.Score < 0) line[7] = std::to_string(-*row.Score);
+  if (const auto points = row.Points[Side::NorthSouth]) line[8] = PointsText(*points);
+  if (const auto points = row.Points[Side::EastWest]) line[9] = PointsText(*points);
+  line[10] = row.NamesText();
+  return line;
+}
+
+std::string TravellerText(const Traveller& traveller) {
+  std::vector<Line> lines{{"NS", "EW", "Contract", "By", "Lead", "Tricks", "NS+", "EW+",
+                           traveller.Scoring, traveller.Scoring, "Names"}};
+  for (const TravellerRow& row : traveller.Rows) lines.push_back(LineOf(row));
+  std::array<std::size_t, kColumns> widths{};
+  for (const Line& line : lines) {
+    for (std::size_t i = 0; i < kColumns; ++i) widths[i] = std::max(widths[i], Width(line[i]));
+  }
+  std::string text;
+  for (const Line& line : lines) {
+    std::string aligned;
+    for (std::size_t i = 0; i < kColumns; ++i) {
+      aligned += (i == 0 ? "" : "  ") +
+                 (kLeft[i] ? PadRight(line[i], widths[i]) : PadLeft(line[i], widths[i]));
+    }
+    AppendLine(text, aligned);
+  }
+  return text;
+}
+
+}  // namespace
+
+ExitCode TravellerOf(const Context& context, int boardNumber) {
+  Session& session = context.session;
+  if (!OpenLibrary(context, false)) return ExitCode::Refused;
+  const LinFile file = LoadLinData(session);
+  const Traveller traveller = MakeTraveller(file, boardNumber);
+  if (traveller.Rows.empty()) {
+    session.host.Tell(file.Empty()
+                          ? "The library " + session.LibraryName() + " has no results"
+                          : "There are no results of board " + std::to_string(boardNumber));
+    return ExitCode::Refused;
+  }
+  context.data << TravellerText(traveller);
+  return ExitCode::Done;
+}
+
+}  // namespace tricklet::cli
