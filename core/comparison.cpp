@@ -16,13 +16,15 @@ int PointsAgainst(int own, int other) {
 template <class Compare>
 std::vector<std::optional<int>> SumAgainstOthers(BoardScores scores, Compare compare) {
   std::vector<std::optional<int>> sums(scores.size());
-  for (std::size_t own = 0; own < scores.size(); ++own) {
-    if (!scores[own]) continue;
+  for (std::size_t table = 0; table < scores.size(); ++table) {
+    const std::optional<int> own = scores[table];
+    if (!own) continue;
     int sum = 0;
-    for (std::size_t other = 0; other < scores.size(); ++other) {
-      if (other != own && scores[other]) sum += compare(*scores[own], *scores[other]);
+    for (std::size_t i = 0; i < scores.size(); ++i) {
+      const std::optional<int> other = scores[i];
+      if (i != table && other) sum += compare(*own, *other);
     }
-    sums[own] = sum;
+    sums[table] = sum;
   }
   return sums;
 }
