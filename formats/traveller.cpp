@@ -174,6 +174,7 @@ bool HasPoints(const TravellerRow& row) {
 
 void ComputePoints(Traveller& traveller, bool matchPoints, bool teams) {
   std::vector<std::optional<int>> scores;
+  scores.reserve(traveller.Rows.size());
   for (const TravellerRow& row : traveller.Rows) scores.push_back(row.Score);
   const auto played = std::count_if(scores.begin(), scores.end(),
                                     [](const auto& score) { return score.has_value(); });

@@ -65,21 +65,21 @@ TEST(Comparison, SumsAndOrderOfRandomTravellers) {
   std::uniform_int_distribution<int> tables(1, 16);
   std::uniform_int_distribution<int> tens(-30, 30);
   for (int round = 0; round < 200; ++round) {
-    Scores scores(static_cast<std::size_t>(tables(random)));
-    std::vector<int> sorted;
-    for (auto& score : scores) sorted.push_back(*(score = 10 * tens(random)));
+    std::vector<int> sorted(static_cast<std::size_t>(tables(random)));
+    for (int& score : sorted) score = 10 * tens(random);
+    const Scores scores(sorted.begin(), sorted.end());
+    const int others = static_cast<int>(sorted.size()) - 1;
     std::sort(sorted.begin(), sorted.end());
     const auto points = MatchPoints(scores);
-    const auto imps = CrossImps(scores);
     int impSum = 0;
-    for (std::size_t table = 0; table < scores.size(); ++table) {
-      const auto [below, above] = std::equal_range(sorted.begin(), sorted.end(), *scores[table]);
-      const auto rank = (below - sorted.begin()) + (above - sorted.begin()) - 1;
-      EXPECT_EQ((*points[table])[Side::NorthSouth], rank);
-      EXPECT_EQ((*points[table])[Side::EastWest], 2 * static_cast<int>(sorted.size() - 1) - rank);
-      impSum += *imps[table];
-    }
+    for (const auto& imps : CrossImps(scores)) impSum += imps.value_or(1000);
     EXPECT_EQ(impSum, 0);
+    for (std::size_t table = 0; table < scores.size(); ++table) {
+      const auto [below, above] =
+          std::equal_range(sorted.begin(), sorted.end(), scores[table].value_or(0));
+      const auto rank = static_cast<int>((below - sorted.begin()) + (above - sorted.begin())) - 1;
+      EXPECT_EQ(points[table], (PerSide<int>{{rank, 2 * others - rank}}));
+    }
   }
 }
 
