@@ -10,6 +10,7 @@
 #include "core/comparison.h"
 #include "core/scoring.h"
 #include "core/text.h"
+#include "formats/lin_cards.h"
 #include "formats/lin_record.h"
 #include "formats/pair_names.h"
 
@@ -63,21 +64,20 @@ std::optional<Card> CardOf(std::string_view text) {
   return Card{static_cast<Suit>(suit), static_cast<Rank>(rank)};
 }
 
-/// The deal, the calls as far as a board holds them, and the contract; that of the scorer where the
-/// record has no auction.
+/// The deal, the calls as far as a board holds them, and the contract. Where the record has no
+/// auction, or one that another than the board's dealer began, the scorer's contract stands in.
 Board BoardOf(const LinRecord& record, int boardNumber) {
   Board board;
   board.BoardNumber = boardNumber;
   board.Hands = record.hands;
+  const bool foreign = record.dealer && *record.dealer != board.Dealer();
   for (const Call call : record.calls) {
-    if (!board.Calls.Full()) board.Calls.Add(call);
+    if (!foreign && !board.Calls.Full()) board.Calls.Add(call);
   }
   GetContract(board);
-  const std::string& contract = Result(record, LinResultTag::Qenc);
   const auto declarer = SeatOf(Result(record, LinResultTag::Qend));
-  const bool otherDealer = record.dealer && *record.dealer != board.Dealer();
-  if (declarer && board.Contract.empty()) SetContract(board, contract);
-  if (declarer && board.ContractLevel > 0 && (board.Calls.Empty() || otherDealer)) {
+  if (board.Contract.empty() && declarer &&
+      SetContract(board, Result(record, LinResultTag::Qenc))) {
     board.Declarer = *declarer;
   }
   return board;
@@ -152,9 +152,10 @@ void ReadNames(const LinRecord& record, const PairNames& pairs, TravellerRow& ro
   }
 }
 
-TravellerRow MakeRow(const LinRecord& record, const PairNames& pairs, bool matchPoints) {
+TravellerRow MakeRow(const LinRecord& record, int boardNumber, const PairNames& pairs,
+                     bool matchPoints) {
   TravellerRow row;
-  row.Record.Board = BoardOf(record, record.boardNumber);
+  row.Record.Board = BoardOf(record, boardNumber);
   row.Record.Cards = record.play;
   const Board scored = ReadContractOf(record, row);
   ReadTricks(record, row);
@@ -229,9 +230,8 @@ Traveller MakeTraveller(const LinFile& file, int boardNumber) {
   traveller.BoardNumber = boardNumber;
   const PairNames pairs(file.Names);
   for (const std::string& line : file.Lin) {
-    const LinRecord record = ParseLinRecord(line);
-    if (record.boardNumber != boardNumber) continue;
-    traveller.Rows.push_back(MakeRow(record, pairs, matchPoints));
+    if (BoardNumberOfLin(line) != boardNumber) continue;
+    traveller.Rows.push_back(MakeRow(ParseLinRecord(line), boardNumber, pairs, matchPoints));
   }
   traveller.Computed = std::none_of(traveller.Rows.begin(), traveller.Rows.end(), HasPoints);
   if (traveller.Computed) ComputePoints(traveller, matchPoints, teams);

@@ -215,6 +215,16 @@ TEST(Traveller, AScorersContractStandsInForAMissingAuction) {
   EXPECT_EQ(bid.Declarer, Seat::North);
 }
 
+TEST(Traveller, AnAuctionOfAnotherDealerIsNotShown) {
+  const std::string record = "qx||md|4SAK,HAK,DAK|ah|Board 1|mb|1H|mb|p|mb|p|mb|p|";
+  const auto of = [&](const std::string& tags) {
+    return MakeTraveller(FileOf("IMPS", {record + tags}), 1).Rows.at(0).Record.Board;
+  };
+  EXPECT_EQ(of(Tags("7", "80", "", "", "1H", "E", "", "")).Contract, "1H");
+  EXPECT_EQ(of(Tags("7", "80", "", "", "1H", "E", "", "")).Declarer, Seat::East);
+  EXPECT_TRUE(of("").Calls.Empty());
+}
+
 TEST(Traveller, MoreCallsThanABoardHolds) {
   std::string calls;
   for (int call = 0; call < 150; ++call) calls += "mb|p|";
