@@ -86,6 +86,9 @@ void TravellerPane::BuildGrid() {
   heads->setSortIndicatorClearable(true);
   flexTraveller->setSortingEnabled(true);
   heads->setSortIndicator(-1, Qt::AscendingOrder);
+  // What the column has left, and no less than some rows: a height of its own would make the column
+  // scroll.
+  flexTraveller->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
   const int row = flexTraveller->verticalHeader()->defaultSectionSize();
   flexTraveller->setMinimumHeight((kLeastRows + 2) * row + 2 * flexTraveller->frameWidth());
   connect(flexTraveller, &QTableWidget::itemSelectionChanged, this, [this] {
