@@ -180,10 +180,9 @@ void MainWindow::ConnectResults() {
 }
 
 void MainWindow::SetTabOrder() {
-  const QList<QWidget*> order = library_->TabOrder() + editPane_->TabOrder() + board_->TabOrder() +
-                                QList<QWidget*>{table_} + auction_->TabOrder() +
-                                contract_->TabOrder() + makeable_->TabOrder() +
-                                traveller_->TabOrder();
+  const QList<QWidget*> order =
+      library_->TabOrder() + editPane_->TabOrder() + board_->TabOrder() + QList<QWidget*>{table_} +
+      auction_->TabOrder() + contract_->TabOrder() + makeable_->TabOrder() + traveller_->TabOrder();
   for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order.at(i - 1), order.at(i));
 }
 

@@ -102,7 +102,7 @@ TEST_F(TravellerWindowTest, ShowsAndHidesTheTraveller) {
   Click("cmdTraveller");
   EXPECT_FALSE(frame->isVisible());
   EXPECT_EQ(button->text(), QStringLiteral("^"));
-  Key(Qt::Key_R, Qt::ControlModifier);
+  Key(Qt::Key_J, Qt::ControlModifier);
   EXPECT_TRUE(frame->isVisible());
   EXPECT_EQ(Pairs(), "1357");
   EXPECT_EQ(Cell(0, "EW"), QStringLiteral("12"));
@@ -174,7 +174,7 @@ TEST_F(TravellerWindowTest, StepsThroughARecord) {
   Click("cmdLinPreviousTrick");
   Key(Qt::Key_Left, Qt::AltModifier);
   EXPECT_EQ(Place(), QStringLiteral("Card 3 of 7"));
-  Key(Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier);
+  Key(Qt::Key_J, Qt::ControlModifier | Qt::ShiftModifier);
   ExpectNothingLeftOfTheRecord("putting it away");
   EXPECT_EQ(Calls(), QStringLiteral(u"Pass 2\u2665 Pass Pass Pass"));
   EXPECT_EQ(Label("lblContract"), QStringLiteral("2H by East"));
