@@ -9,6 +9,7 @@
 #include "bench/measure.h"
 #include "bench/quiet_host.h"
 #include "bench/random_board.h"
+#include "bench/temporary_root.h"
 #include "core/text.h"
 #include "formats/export.h"
 #include "formats/import.h"
@@ -35,9 +36,9 @@ Board FullBoard(int number, std::mt19937& random) {
 }
 
 /// A root with the library "Full" of 999 boards, an empty one, and the PBN file of those boards.
-class Fixture {
+class Fixture : public TemporaryRoot {
  public:
-  Fixture() : root(fs::temp_directory_path() / ("tricklet-bench-" + std::to_string(Seed()))) {
+  Fixture() {
     std::mt19937 random(1);
     std::string pbn = "% PBN 2.1\r\n";
     fs::create_directories(root / "Full");
@@ -49,25 +50,8 @@ class Fixture {
     }
     ReplaceWholeFile(root / "boards.pbn", pbn);
   }
-  ~Fixture() {
-    std::error_code ignored;
-    fs::remove_all(root, ignored);
-  }
-  Fixture(const Fixture&) = delete;
-  Fixture& operator=(const Fixture&) = delete;
 
-  /// The empty library, made anew.
-  fs::path Emptied() const {
-    fs::remove_all(root / "Empty");
-    fs::create_directories(root / "Empty");
-    return root / "Empty";
-  }
-
-  fs::path root;
   std::vector<std::string> texts;
-
- private:
-  static unsigned Seed() { return std::random_device()(); }
 };
 
 const Fixture& Boards() {
@@ -82,21 +66,11 @@ Session MakeSession(Host& host, SettingsStore& store, const std::string& library
   return session;
 }
 
-/// What std::ofstream and rename make of it: the peer knows nothing of our own file calls.
 void WriteFilesFloor(benchmark::State& state) {
   fs::path folder;
   Measure(
-      state, [&folder] { folder = Boards().Emptied(); },
-      [&folder] {
-        for (int number = 1; number <= kBoards; ++number) {
-          const fs::path path = folder / BoardFileName(number);
-          fs::path beside = path;
-          beside += ".new";
-          std::ofstream(beside, std::ios::binary)
-              << Boards().texts.at(static_cast<std::size_t>(number - 1));
-          fs::rename(beside, path);
-        }
-      });
+      state, [&folder] { folder = Boards().Emptied("Empty"); },
+      [&folder] { WriteByStream(folder, Boards().texts); });
 }
 
 void ImportBoards(benchmark::State& state) {
@@ -105,7 +79,7 @@ void ImportBoards(benchmark::State& state) {
   Session session = MakeSession(host, store, "Empty");
   int saved = 0;
   Measure(
-      state, [] { Boards().Emptied(); },
+      state, [] { Boards().Emptied("Empty"); },
       [&] { saved = ImportFile(session, Boards().root / "boards.pbn").boardsSaved; });
   if (saved != kBoards) state.SkipWithError("not all boards came in");
 }

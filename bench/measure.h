@@ -21,12 +21,14 @@ void Measure(benchmark::State& state, Prepare prepare, Work work) {
   }
 }
 
-#define TRICKLET_BENCH(function)  \
-  BENCHMARK(function)             \
-      ->UseManualTime()           \
-      ->Iterations(1)             \
-      ->Repetitions(kRepetitions) \
-      ->ReportAggregatesOnly()    \
+#define TRICKLET_BENCH_TIMES(function, repetitions) \
+  BENCHMARK(function)                               \
+      ->UseManualTime()                             \
+      ->Iterations(1)                               \
+      ->Repetitions(repetitions)                    \
+      ->ReportAggregatesOnly()                      \
       ->Unit(benchmark::kMillisecond)
+
+#define TRICKLET_BENCH(function) TRICKLET_BENCH_TIMES(function, kRepetitions)
 
 }  // namespace tricklet::bench

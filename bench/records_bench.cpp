@@ -1,12 +1,11 @@
 // DLM and LIN files of 99 boards: importing them, beside reading the file and writing the boards.
 #include <filesystem>
-#include <fstream>
-#include <random>
 #include <string>
 #include <vector>
 
 #include "bench/measure.h"
 #include "bench/quiet_host.h"
+#include "bench/temporary_root.h"
 #include "core/text.h"
 #include "formats/dlm_writer.h"
 #include "formats/import_lin.h"
@@ -23,13 +22,12 @@ namespace fs = std::filesystem;
 constexpr int kBoards = kLastDLMBoard;
 
 /// A root with an empty library, and the same 99 boards as a DLM and as a LIN file.
-class Fixture {
+class Fixture : public TemporaryRoot {
  public:
-  Fixture() : root(fs::temp_directory_path() / ("tricklet-records-" + std::to_string(Seed()))) {
+  Fixture() {
     RandomSource random{1};
     std::string dlm = DLMHeader(kFirstBoardNumber, kBoards);
     std::string lin;
-    fs::create_directories(root);
     for (int number = kFirstBoardNumber; number <= kBoards; ++number) {
       Board board;
       board.BoardNumber = number;
@@ -41,25 +39,8 @@ class Fixture {
     ReplaceWholeFile(root / "boards.dlm", dlm + DLMFooter());
     ReplaceWholeFile(root / "boards.lin", lin);
   }
-  ~Fixture() {
-    std::error_code ignored;
-    fs::remove_all(root, ignored);
-  }
-  Fixture(const Fixture&) = delete;
-  Fixture& operator=(const Fixture&) = delete;
 
-  /// The library, made anew.
-  fs::path Emptied() const {
-    fs::remove_all(root / "Empty");
-    fs::create_directories(root / "Empty");
-    return root / "Empty";
-  }
-
-  fs::path root;
   std::vector<std::string> texts;
-
- private:
-  static unsigned Seed() { return std::random_device()(); }
 };
 
 const Fixture& Records() {
@@ -71,20 +52,10 @@ void Floor(benchmark::State& state, const char* name) {
   fs::path folder;
   std::size_t bytes = 0;
   Measure(
-      state, [&folder] { folder = Records().Emptied(); },
+      state, [&folder] { folder = Records().Emptied("Empty"); },
       [&] {
-        std::ifstream file(Records().root / name, std::ios::binary);
-        std::string text(fs::file_size(Records().root / name), '\0');
-        file.read(text.data(), static_cast<std::streamsize>(text.size()));
-        bytes += text.size();
-        for (int number = kFirstBoardNumber; number <= kBoards; ++number) {
-          const fs::path path = folder / BoardFileName(number);
-          fs::path beside = path;
-          beside += ".new";
-          std::ofstream(beside, std::ios::binary)
-              << Records().texts.at(static_cast<std::size_t>(number - 1));
-          fs::rename(beside, path);
-        }
+        bytes += ReadByStream(Records().root / name);
+        WriteByStream(folder, Records().texts);
       });
   benchmark::DoNotOptimize(bytes);
 }
@@ -97,7 +68,7 @@ void Import(benchmark::State& state, const char* name) {
   session.settings.library = "Empty";
   int saved = 0;
   Measure(
-      state, [] { Records().Emptied(); },
+      state, [] { Records().Emptied("Empty"); },
       [&] { saved = ImportAnyFile(session, Records().root / name).boardsSaved; });
   if (saved != kBoards) state.SkipWithError("not all boards came in");
 }

@@ -2,21 +2,19 @@
 // call, in its own largest batches, over the same deals in memory.
 #include <algorithm>
 #include <array>
-#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
-#include <random>
 #include <string>
 #include <vector>
-
-#include <benchmark/benchmark.h>
 
 #include "analysis/dds_types.h"
 #include "analysis/deal_text.h"
 #include "analysis/shared_library.h"
 #include "analysis/solver_library.h"
+#include "bench/measure.h"
 #include "bench/quiet_host.h"
+#include "bench/temporary_root.h"
 #include "generate/generate.h"
 #include "library/board_file.h"
 #include "library/file_io.h"
@@ -29,7 +27,8 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kBoards = 100;
-constexpr int kRepetitions = 5;
+/// Each takes some ten seconds.
+constexpr int kFewRepetitions = 3;
 
 /// With five strains each.
 constexpr std::size_t kLargestBatch = 40;
@@ -50,12 +49,9 @@ CalcAllTables* BatchCall() {
 }
 
 /// A library of 100 random deals, and the solver.
-class Fixture {
+class Fixture : public TemporaryRoot {
  public:
-  Fixture()
-      : root(fs::temp_directory_path() / ("tricklet-tables-" + std::to_string(Seed()))),
-        session(host, store),
-        solver(LoadSolver({})) {
+  Fixture() : session(host, store), solver(LoadSolver({})) {
     session.settings.filelocation = FolderText(root);
     session.settings.library = "Full";
     session.settings.AutoMakeable = false;
@@ -73,12 +69,6 @@ class Fixture {
       deals.push_back(SolverDealText(board.Hands));
     }
   }
-  ~Fixture() {
-    std::error_code ignored;
-    fs::remove_all(root, ignored);
-  }
-  Fixture(const Fixture&) = delete;
-  Fixture& operator=(const Fixture&) = delete;
 
   /// Puts the boards back as they were: without tables.
   void Restore() {
@@ -98,33 +88,17 @@ class Fixture {
     return count;
   }
 
-  fs::path root;
   QuietHost host;
   MemoryStore store;
   Session session;
   std::unique_ptr<Solver> solver;
   std::vector<std::string> texts;  ///< of the board files without tables
   std::vector<std::string> deals;  ///< as the solver takes them
-
- private:
-  static unsigned Seed() { return std::random_device()(); }
 };
 
 Fixture& Boards() {
   static Fixture fixture;
   return fixture;
-}
-
-/// Times `work` alone, after `prepare`.
-template <class Prepare, class Work>
-void Measure(benchmark::State& state, Prepare prepare, Work work) {
-  for ([[maybe_unused]] auto _ : state) {
-    prepare();
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
-    state.SetIterationTime(taken.count());
-  }
 }
 
 /// False when the library refuses.
@@ -174,16 +148,8 @@ void AnalyseBoards(benchmark::State& state) {
   if (boards.Tables() != kBoards) state.SkipWithError("not all boards have tables");
 }
 
-#define TRICKLET_BENCH(function)  \
-  BENCHMARK(function)             \
-      ->UseManualTime()           \
-      ->Iterations(1)             \
-      ->Repetitions(kRepetitions) \
-      ->ReportAggregatesOnly()    \
-      ->Unit(benchmark::kMillisecond)
-
-TRICKLET_BENCH(SolverAloneFloor);
-TRICKLET_BENCH(AnalyseBoards);
+TRICKLET_BENCH_TIMES(SolverAloneFloor, kFewRepetitions);
+TRICKLET_BENCH_TIMES(AnalyseBoards, kFewRepetitions);
 
 }  // namespace
 }  // namespace tricklet::bench

@@ -3,10 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
-#include <fstream>
 #include <iterator>
 #include <numeric>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -14,6 +12,7 @@
 
 #include "bench/measure.h"
 #include "bench/quiet_host.h"
+#include "bench/temporary_root.h"
 #include "core/text.h"
 #include "formats/import.h"
 #include "formats/lin_file.h"
@@ -50,7 +49,7 @@ std::string LinData(int board, const std::vector<int>& pack, std::mt19937& rando
   const std::string number = std::to_string(board);
   std::string text = "qx|o" + number + "|pn|Ann%20Other%2312%2CBob%20Other%2CCy%20Other%2CDi|md|3";
   for (int hand = 0; hand < kSeats - 1; ++hand) {
-    const auto begin = pack.begin() + hand * kCardsInHand;
+    const auto begin = pack.begin() + std::ptrdiff_t{hand} * kCardsInHand;
     std::vector<int> cards(begin, begin + kCardsInHand);
     std::sort(cards.begin(), cards.end());
     for (const int card : cards) text += CardText(card);
@@ -80,9 +79,11 @@ std::string SessionText() {
   for (int pair = 1; pair <= 2 * kTables; ++pair) {
     const std::string player =
         Element("PLAYER", Element("PLAYER_NAME", "Player " + std::to_string(pair)));
-    pairs +=
-        Element("PAIR", Element("PAIR_NUMBER", std::to_string(pair)) +
-                            Element("DIRECTION", pair % 2 == 0 ? "EW" : "NS") + player + player);
+    std::string text = Element("PAIR_NUMBER", std::to_string(pair));
+    text += Element("DIRECTION", pair % 2 == 0 ? "EW" : "NS");
+    text += player;
+    text += player;
+    pairs += Element("PAIR", text);
   }
   std::string boards;
   for (int board = 1; board <= kBoards; ++board) {
@@ -99,32 +100,11 @@ std::string SessionText() {
 }
 
 /// A root with the file of a session; the library "Results" is made anew for each run.
-class Fixture {
+class Fixture : public TemporaryRoot {
  public:
-  Fixture()
-      : root(fs::temp_directory_path() / ("tricklet-bench-" + std::to_string(Seed()))),
-        file(root / "session.xml") {
-    fs::create_directories(root);
-    ReplaceWholeFile(file, SessionText());
-  }
-  ~Fixture() {
-    std::error_code ignored;
-    fs::remove_all(root, ignored);
-  }
-  Fixture(const Fixture&) = delete;
-  Fixture& operator=(const Fixture&) = delete;
+  Fixture() : file(root / "session.xml") { ReplaceWholeFile(file, SessionText()); }
 
-  fs::path Emptied() const {
-    fs::remove_all(root / "Results");
-    fs::create_directories(root / "Results");
-    return root / "Results";
-  }
-
-  fs::path root;
   fs::path file;
-
- private:
-  static unsigned Seed() { return std::random_device()(); }
 };
 
 const Fixture& Results() {
@@ -134,23 +114,14 @@ const Fixture& Results() {
 
 /// Reading the file and writing as many board files.
 void UsebioFloor(benchmark::State& state) {
-  const std::string board = WriteBoardText(Board());
+  const std::vector<std::string> boards(kBoards, WriteBoardText(Board()));
   fs::path folder;
   std::size_t bytes = 0;
   Measure(
-      state, [&folder] { folder = Results().Emptied(); },
+      state, [&folder] { folder = Results().Emptied("Results"); },
       [&] {
-        std::ifstream input(Results().file, std::ios::binary);
-        std::string text(fs::file_size(Results().file), '\0');
-        input.read(text.data(), static_cast<std::streamsize>(text.size()));
-        bytes += static_cast<std::size_t>(input.gcount());
-        for (int number = 1; number <= kBoards; ++number) {
-          const fs::path path = folder / BoardFileName(number);
-          fs::path beside = path;
-          beside += ".new";
-          std::ofstream(beside, std::ios::binary) << board;
-          fs::rename(beside, path);
-        }
+        bytes += ReadByStream(Results().file);
+        WriteByStream(folder, boards);
       });
   benchmark::DoNotOptimize(bytes);
 }
@@ -163,7 +134,7 @@ void ImportUsebio(benchmark::State& state) {
   session.settings.library = "Results";
   int saved = 0;
   Measure(
-      state, [] { Results().Emptied(); },
+      state, [] { Results().Emptied("Results"); },
       [&] { saved = ImportFile(session, Results().file).boardsSaved; });
   if (saved != kBoards || LoadLinData(session).Lin.size() != std::size_t{kBoards} * kTables) {
     state.SkipWithError("not all boards or results came in");

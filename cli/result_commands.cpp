@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "cli/columns.h"
+#include "core/text.h"
 #include "formats/traveller.h"
 
 namespace tricklet::cli {
@@ -36,8 +37,8 @@ Line LineOf(const TravellerRow& row) {
   if (row.Tricks) line[5] = std::to_string(*row.Tricks);
   if (row.Score && *row.Score >= 0) line[6] = std::to_string(*row.Score);
   if (row.Score && *row.Score < 0) line[7] = std::to_string(-*row.Score);
-  if (const auto points = row.Points[Side::NorthSouth]) line[8] = PointsText(*points);
-  if (const auto points = row.Points[Side::EastWest]) line[9] = PointsText(*points);
+  if (const auto points = row.Points[Side::NorthSouth]) line[8] = ShortestText(*points);
+  if (const auto points = row.Points[Side::EastWest]) line[9] = ShortestText(*points);
   line[10] = row.NamesText();
   return line;
 }

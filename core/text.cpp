@@ -1,6 +1,8 @@
 #include "core/text.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <limits>
 
 namespace tricklet {
@@ -89,6 +91,14 @@ std::string ZeroPadded(int number, std::size_t digits) {
   std::string text = std::to_string(number);
   if (text.size() < digits) text.insert(0, digits - text.size(), '0');
   return text;
+}
+
+std::string ShortestText(float number) {
+  constexpr std::size_t kLongest = 64;  // the digits of the largest or smallest, point and sign
+  std::array<char, kLongest> digits{};
+  const auto written =
+      std::to_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed);
+  return {digits.data(), written.ptr};
 }
 
 std::string_view TakeLine(std::string_view& rest) {

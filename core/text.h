@@ -28,6 +28,10 @@ int LeadingNumber(std::string_view text);
 /// A number that is not negative in at least so many digits: 7 as "007".
 std::string ZeroPadded(int number, std::size_t digits);
 
+/// The shortest text that stands for the number in single precision, without an exponent: "7",
+/// "7.5", "-0.1". `number` is finite.
+std::string ShortestText(float number);
+
 /// Takes the line at the front of `rest`, without its end (CR LF, CR or LF). `rest` must not be
 /// empty.
 std::string_view TakeLine(std::string_view& rest);

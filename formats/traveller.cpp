@@ -270,10 +270,4 @@ int FindLinName(const std::vector<std::string>& entries, std::string_view namesT
   return found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
 }
 
-std::string PointsText(float points) {
-  std::array<char, 32> text{};
-  const auto [end, failure] = std::to_chars(text.data(), text.data() + text.size(), points);
-  return failure == std::errc() ? std::string(text.data(), end) : "";
-}
-
 }  // namespace tricklet

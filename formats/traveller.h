@@ -57,7 +57,4 @@ std::vector<std::string> AddLinNames(const Traveller& traveller);
 /// `preferred`, else the first. -1 when none does.
 int FindLinName(const std::vector<std::string>& entries, std::string_view namesText, int preferred);
 
-/// "7", "7.5", "-12": the shortest form of single precision.
-std::string PointsText(float points);
-
 }  // namespace tricklet

@@ -14,6 +14,7 @@
 #include "core/text.h"
 #include "formats/lin_cards.h"
 #include "formats/lin_text.h"
+#include "formats/pair_names.h"
 
 namespace tricklet {
 namespace {
@@ -60,11 +61,7 @@ std::string SingleNumber(std::string_view text) {
   float value = 0;
   const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
   if (read.ec != std::errc() || !std::isfinite(value) || value == 0) value = 0;
-  constexpr std::size_t kLongest = 64;  // of a single in fixed notation: 47 digits, point and sign
-  std::array<char, kLongest> digits{};
-  const auto written =
-      std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed);
-  return {digits.data(), written.ptr};
+  return ShortestText(value);
 }
 
 void Keep(std::vector<std::string>& lines, std::string line) {
@@ -109,19 +106,13 @@ std::string LinLine(const pugi::xml_node& line, int boardNumber) {
          "||qeni|" + ImpField(line) + "|";
 }
 
-std::string PlayerName(const pugi::xml_node& player) {
-  constexpr std::string_view kRobot = "advanced bbo";
-  std::string name = ChildText(player, "PLAYER_NAME");
-  return EqualNoCase(name, kRobot) ? "Robot" : name;
-}
-
 /// "3 NS Ann & Bob".
 std::string NamesLine(const pugi::xml_node& pair) {
   std::string line = ChildText(pair, "PAIR_NUMBER") + " " + ChildText(pair, "DIRECTION");
   std::string_view joint = " ";
   for (const pugi::xml_node& player : pair.children("PLAYER")) {
     line += joint;
-    line += PlayerName(player);
+    line += PlayerName(ChildText(player, "PLAYER_NAME"));
     joint = " & ";
   }
   return line;

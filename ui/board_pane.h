@@ -26,9 +26,6 @@ class BoardPane : public Section {
   QList<QWidget*> TabOrder() const;
 
  private:
-  QPushButton* Add(QGridLayout* grid, const char* name, const QString& text, const QString& tip,
-                   void (Commands::*command)());
-
   Commands& commands_;
   QPushButton* cmdBidding;
   QPushButton* cmdPlay;

@@ -11,6 +11,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "ui/command_grid.h"
 #include "ui/commands.h"
 #include "ui/edit_control.h"
 #include "ui/table_edit.h"
@@ -19,7 +20,6 @@
 namespace tricklet::ui {
 namespace {
 
-constexpr int kColumns = 2;
 /// More than any hand takes, blanks included.
 constexpr int kMostCharacters = 60;
 /// After a line has been left.
@@ -110,33 +110,23 @@ QWidget* EditPane::BuildLines() {
 }
 
 void EditPane::BuildButtons() {
-  auto* grid = new QGridLayout;
-  for (int column = 0; column < kColumns; ++column) grid->setColumnStretch(column, 1);
-  cmdRandom = Add(grid, "cmdRandom", tr("Random fill"),
-                  tr("Deal the pack at random to the hands that lack cards (Ctrl+Shift+R)"),
-                  &Commands::RandomFill);
-  cmdFillFourth_ =
-      Add(grid, "cmdFillFourth", tr("Fourth hand"),
-          tr("Give the pack to the last hand that lacks cards (Ctrl+4)"), &Commands::FillFourth);
-  cmdUndoFill = Add(grid, "cmdUndoFill", tr("Undo fill"),
-                    tr("The cards as before the last fill (Ctrl+Shift+Z)"), &Commands::UndoFill);
-  cmdClear = Add(grid, "cmdClear", tr("Clear"),
-                 tr("Take all cards and the auction away (Ctrl+Shift+Del)"), &Commands::ClearHands);
-  cmdUndoClear =
-      Add(grid, "cmdUndoClear", tr("Undo clear"),
-          tr("Cards and auction as before they were cleared (Ctrl+Shift+U)"), &Commands::UndoClear);
+  auto* grid = new CommandGrid(commands_);
+  cmdRandom = grid->Add("cmdRandom", tr("Random fill"),
+                        tr("Deal the pack at random to the hands that lack cards (Ctrl+Shift+R)"),
+                        &Commands::RandomFill);
+  cmdFillFourth_ = grid->Add("cmdFillFourth", tr("Fourth hand"),
+                             tr("Give the pack to the last hand that lacks cards (Ctrl+4)"),
+                             &Commands::FillFourth);
+  cmdUndoFill =
+      grid->Add("cmdUndoFill", tr("Undo fill"),
+                tr("The cards as before the last fill (Ctrl+Shift+Z)"), &Commands::UndoFill);
+  cmdClear =
+      grid->Add("cmdClear", tr("Clear"), tr("Take all cards and the auction away (Ctrl+Shift+Del)"),
+                &Commands::ClearHands);
+  cmdUndoClear = grid->Add("cmdUndoClear", tr("Undo clear"),
+                           tr("Cards and auction as before they were cleared (Ctrl+Shift+U)"),
+                           &Commands::UndoClear);
   Body()->addLayout(grid);
-}
-
-QPushButton* EditPane::Add(QGridLayout* grid, const char* name, const QString& text,
-                           const QString& tip, void (Commands::*command)()) {
-  auto* button = new QPushButton(text, this);
-  button->setObjectName(QString::fromLatin1(name));
-  button->setToolTip(tip);
-  connect(button, &QPushButton::clicked, &commands_, [this, command] { (commands_.*command)(); });
-  const int place = grid->count();
-  grid->addWidget(button, place / kColumns, place % kColumns);
-  return button;
 }
 
 QList<QWidget*> EditPane::TabOrder() const {

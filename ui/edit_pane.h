@@ -39,8 +39,6 @@ class EditPane : public Section {
   void BuildMethod();
   QWidget* BuildLines();
   void BuildButtons();
-  QPushButton* Add(QGridLayout* grid, const char* name, const QString& text, const QString& tip,
-                   void (Commands::*command)());
   void ShowMethod(const Settings& settings);
   void ShowLines(const Board& board);
   bool FinishLine(Seat seat);

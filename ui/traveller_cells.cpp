@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 
 #include "core/board.h"
+#include "core/text.h"
 #include "ui/symbols.h"
 #include "ui/text.h"
 #include "ui/theme.h"
@@ -89,7 +90,7 @@ Cell* ScoreCell(const TravellerRow& row, Side side) {
 Cell* PointsCell(const TravellerRow& row, Side side) {
   const auto points = row.Points[side];
   if (!points) return NumberCell(std::nullopt, QString());
-  return NumberCell(*points, ToQt(PointsText(*points)));
+  return NumberCell(*points, ToQt(ShortestText(*points)));
 }
 
 }  // namespace

@@ -241,12 +241,6 @@ TEST(Traveller, NamesAreLookedUpByTheirFirstPart) {
   EXPECT_EQ(FindLinName(entries, "Zoe & Ann", 1), -1);
 }
 
-TEST(Traveller, PointsAreWrittenShort) {
-  EXPECT_EQ(PointsText(7), "7");
-  EXPECT_EQ(PointsText(-0.1F), "-0.1");
-  EXPECT_EQ(PointsText(12.25F), "12.25");
-}
-
 TEST_F(LibraryTest, LinDataIsReadAgainWhenItIsAnotherFile) {
   const auto put = [&](std::vector<std::string> records) {
     LinFile file = FileOf("IMPS", std::move(records));

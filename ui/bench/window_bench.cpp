@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <random>
 #include <vector>
 
@@ -15,6 +16,7 @@
 #include "analysis/solver_library.h"
 #include "bench/quiet_host.h"
 #include "bench/random_board.h"
+#include "bench/temporary_root.h"
 #include "library/board_file.h"
 #include "library/file_io.h"
 #include "library/library_store.h"
@@ -31,18 +33,15 @@ constexpr int kBoards = 100;
 constexpr double kFrame = 16;  // ms
 
 /// A window on a library of boards without tables, in front of the real solver.
-class Bench {
+class Bench : public TemporaryRoot {
  public:
-  Bench()
-      : root_(fs::temp_directory_path() /
-              ("tricklet-window-" + std::to_string(std::random_device()()))) {
-    fs::create_directories(root_ / "Boards");
+  Bench() {
+    const fs::path folder = Emptied("Boards");
     std::mt19937 random(3);
     for (int number = 1; number <= kBoards; ++number) {
-      ReplaceWholeFile(root_ / "Boards" / BoardFileName(number),
-                       WriteBoardText(RandomBoard(number, random)));
+      ReplaceWholeFile(folder / BoardFileName(number), WriteBoardText(RandomBoard(number, random)));
     }
-    session.settings.filelocation = FolderText(root_);
+    session.settings.filelocation = FolderText(root);
     session.settings.library = "Boards";
     session.GetSolver = SolverOnDemand({});
     session.TablesInBackground = true;
@@ -53,13 +52,6 @@ class Bench {
     window->show();
     QCoreApplication::processEvents();
   }
-  ~Bench() {
-    window.reset();
-    std::error_code ignored;
-    fs::remove_all(root_, ignored);
-  }
-  Bench(const Bench&) = delete;
-  Bench& operator=(const Bench&) = delete;
 
   QAction* Action(const char* name) const {
     return window->findChild<QAction*>(QString::fromLatin1(name));
@@ -69,9 +61,6 @@ class Bench {
   MemoryStore store;
   Session session{host, store};
   std::unique_ptr<ui::MainWindow> window;
-
- private:
-  fs::path root_;
 };
 
 /// Until nothing is left to be drawn.
