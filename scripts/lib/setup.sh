@@ -12,7 +12,7 @@ build_packages=(
   fonts-dejavu-core  # has the four suit symbols
 )
 test_packages=(libgtest-dev libgmock-dev)
-bench_packages=(libbenchmark-dev)
+bench_packages=(libbenchmark-dev dealer)
 # The first clang that has std::source_location with this system's C++ library.
 clang_version=16
 lint_packages=(
