@@ -11,7 +11,7 @@ std::optional<SolverPosition> PositionOf(const PlayState& state, Strain trumps) 
       static_cast<Seat>((IndexOf(*state.OnPlay) - state.CardsInTrick + kSeats) % kSeats);
   Seat seat = position.leader;
   for (int i = 0; i < state.CardsInTrick; ++i, seat = SeatAfter(seat)) {
-    position.trick.push_back(*state.TrickCards[seat]);
+    if (const auto& card = state.TrickCards[seat]) position.trick.push_back(*card);
   }
   return position;
 }

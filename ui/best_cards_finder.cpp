@@ -21,17 +21,17 @@ void BestCardsFinder::Look() {
   position_ = std::move(position);
   tricks_.clear();
   ++*wanted_;
-  if (position_) Post();
+  const PlayState& now = play_.Now();
+  if (position_ && now.OnPlay) Post(*position_, now.TricksWon[SideOf(*now.OnPlay)]);
 }
 
-void BestCardsFinder::Post() {
+void BestCardsFinder::Post(const SolverPosition& position, int tricksWon) {
   if (!worker_) worker_ = std::make_unique<Worker>();
   const auto found = std::make_shared<std::vector<CardScore>>();
   const int question = *wanted_;
-  const int won = play_.Now().TricksWon[SideOf(*play_.Now().OnPlay)];
   worker_->Post(
-      [found, question, won, wanted = wanted_, position = *position_, solver = session_.GetSolver] {
-        if (*wanted == question) *found = BestCards(solver(), position, won);
+      [found, question, tricksWon, wanted = wanted_, position, solver = session_.GetSolver] {
+        if (*wanted == question) *found = BestCards(solver(), position, tricksWon);
       },
       [this, found, question] {
         if (*wanted_ != question) return;

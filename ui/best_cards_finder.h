@@ -35,7 +35,7 @@ class BestCardsFinder : public QObject {
   void Changed();
 
  private:
-  void Post();
+  void Post(const SolverPosition& position, int tricksWon);
 
   Session& session_;
   const CardPlay& play_;

@@ -18,7 +18,8 @@ class CountingSolver : public test::FakeSolver {
  public:
   std::vector<CardScore> SolveCards(const SolverPosition& position) override {
     ++asked;
-    const auto seat = static_cast<Seat>((IndexOf(position.leader) + position.trick.size()) % 4);
+    const auto seat = static_cast<Seat>(
+        (static_cast<std::size_t>(position.leader) + position.trick.size()) % kSeats);
     std::vector<CardScore> scores;
     int left = 0;
     for (const Suit suit : kAllSuits) left += position.cardsLeft[seat][suit].Count();
