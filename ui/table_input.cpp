@@ -25,7 +25,7 @@ bool TableView::event(QEvent* event) {
 }
 
 void TableView::keyPressEvent(QKeyEvent* event) {
-  if (edit_ && !event->isAutoRepeat() && EditKey(*event)) return;
+  if (edit_ && !event->isAutoRepeat() && EditKey(*edit_, *event)) return;
   if (!play_ || !IsOurKey(*event)) {
     QWidget::keyPressEvent(event);
     return;
@@ -91,20 +91,20 @@ void TableView::Ask(const std::optional<CardMove>& move) {
   if (move) emit MoveAsked(move->card, SeatOf(move->to));
 }
 
-bool TableView::EditKey(const QKeyEvent& event) {
-  const TableEdit::KeyAnswer answer = edit_->Key(event.key(), event.modifiers());
+bool TableView::EditKey(TableEdit& edit, const QKeyEvent& event) {
+  const TableEdit::KeyAnswer answer = edit.Key(event.key(), event.modifiers());
   if (answer.ours) Ask(answer.move);
   return answer.ours;
 }
 
-void TableView::ShowEditCursor(QPointF mouse) {
+void TableView::ShowEditCursor(const TableEdit& edit, QPointF mouse) {
   const bool card = EditedCardAt(LayOutEdit(size(), board_.Hands), board_.Hands, mouse).has_value();
   const EditBy method = EditMethodOf(settings_);
-  if (edit_->Held()) {
+  if (edit.Held()) {
     setCursor(Qt::ClosedHandCursor);
   } else if (card && method == EditBy::Dragging) {
     setCursor(Qt::OpenHandCursor);
-  } else if (method == EditBy::Clicking && (card || edit_->Chosen())) {
+  } else if (method == EditBy::Clicking && (card || edit.Chosen())) {
     setCursor(Qt::PointingHandCursor);
   } else {
     unsetCursor();
@@ -113,7 +113,7 @@ void TableView::ShowEditCursor(QPointF mouse) {
 
 void TableView::ShowCursor(QPointF mouse) {
   if (edit_) {
-    ShowEditCursor(mouse);
+    ShowEditCursor(*edit_, mouse);
     return;
   }
   bool legal = false;

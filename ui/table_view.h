@@ -76,9 +76,9 @@ class TableView : public QWidget {
   void DrawEditing(QPainter& painter, const TableEdit& edit, const TableColours& colours);
   void Describe();
   void ShowCursor(QPointF mouse);
-  void ShowEditCursor(QPointF mouse);
+  void ShowEditCursor(const TableEdit& edit, QPointF mouse);
   void Ask(const std::optional<CardMove>& move);
-  bool EditKey(const QKeyEvent& event);
+  bool EditKey(TableEdit& edit, const QKeyEvent& event);
   bool IsOurKey(const QKeyEvent& event) const;
 
   Board board_;
