@@ -20,7 +20,7 @@ QPushButton* CommandGrid::Add(const char* name, const QString& text, const QStri
   auto* button = new QPushButton(text);
   button->setObjectName(QString::fromLatin1(name));
   button->setToolTip(tip);
-  connect(button, &QPushButton::clicked, &commands_, [this, command] { (commands_.*command)(); });
+  connect(button, &QPushButton::clicked, &commands_, command);
   const int place = count();
   addWidget(button, place / kColumns, place % kColumns);
   return button;

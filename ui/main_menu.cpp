@@ -47,7 +47,7 @@ QAction* MainMenu::Add(QMenu* menu, const char* name, const QString& text,
 QAction* MainMenu::Add(QMenu* menu, const char* name, const QString& text,
                        const QList<QKeySequence>& keys, Command command) {
   QAction* action = Add(menu, name, text, keys);
-  connect(action, &QAction::triggered, &commands_, [this, command] { (commands_.*command)(); });
+  connect(action, &QAction::triggered, &commands_, command);
   return action;
 }
 

@@ -16,7 +16,7 @@ void MainMenu::BuildResults() {
   const auto add = [&](const char* name, const QString& text, const QString& key,
                        void (Results::*procedure)()) {
     QAction* action = Add(menu, name, text, {QKeySequence(key)});
-    connect(action, &QAction::triggered, &results_, [this, procedure] { (results_.*procedure)(); });
+    connect(action, &QAction::triggered, &results_, procedure);
     return action;
   };
   linForward_ = add("mnuLinForward", tr("&Next card"), tr("Alt+Right"), &Results::Forward);

@@ -105,7 +105,7 @@ QToolButton* TravellerPane::AddStep(Step step, const char* name, const QString& 
   button->setToolTip(tip);
   button->setAccessibleName(tip.section(QLatin1Char('('), 0, 0).trimmed());
   button->setFocusPolicy(Qt::StrongFocus);
-  connect(button, &QToolButton::clicked, &results_, [this, procedure] { (results_.*procedure)(); });
+  connect(button, &QToolButton::clicked, &results_, procedure);
   steps_.at(step) = button;
   return button;
 }
