@@ -103,7 +103,9 @@ std::string ShortestText(float number) {
 
 std::string_view TakeLine(std::string_view& rest) {
   constexpr std::string_view kPair = "\r\n";
-  const std::string_view line = rest.substr(0, rest.find_first_of(kPair));
+  const auto end =
+      std::find_if(rest.begin(), rest.end(), [](char c) { return c == '\n' || c == '\r'; });
+  const std::string_view line = rest.substr(0, static_cast<std::size_t>(end - rest.begin()));
   rest.remove_prefix(line.size());
   rest.remove_prefix(rest.starts_with(kPair) ? kPair.size()
                                              : std::min<std::size_t>(rest.size(), 1));
@@ -111,6 +113,8 @@ std::string_view TakeLine(std::string_view& rest) {
 }
 
 bool IsValidUtf8(std::string_view bytes) {
+  const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+  if (std::all_of(bytes.begin(), bytes.end(), isAscii)) return true;
   while (!bytes.empty()) {
     const std::size_t length = SequenceLength(bytes);
     if (length == 0) return false;

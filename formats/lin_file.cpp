@@ -16,6 +16,10 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// `value` as one line that is no header.
 std::string LineOf(std::string_view value) {
+  const auto isPlain = [](char c) { return static_cast<unsigned char>(c) >= 0x20 && c != 0x7F; };
+  if (!value.starts_with('[') && std::all_of(value.begin(), value.end(), isPlain)) {
+    return std::string(value);
+  }
   std::string line;
   line.reserve(value.size());
   bool inLineEnd = false;

@@ -22,17 +22,17 @@ std::optional<unsigned> HexDigit(char c) {
 std::string DecodePercent(std::string_view text) {
   std::string decoded;
   decoded.reserve(text.size());
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] != '%') {
-      decoded += text[i];
-      continue;
-    }
-    const std::string_view digits = text.substr(i + 1, 2);
+  while (!text.empty()) {
+    const std::string_view plain = text.substr(0, text.find('%'));
+    decoded += plain;
+    text.remove_prefix(plain.size());
+    if (text.empty()) break;
+    const std::string_view digits = text.substr(1, 2);
     const auto high = digits.size() == 2 ? HexDigit(digits[0]) : std::nullopt;
     const auto low = digits.size() == 2 ? HexDigit(digits[1]) : std::nullopt;
     if (!high || !low) throw Fault(FaultNumber::TypeMismatch, "A percent escape is not complete");
     decoded += static_cast<char>((*high << 4U) | *low);
-    i += 2;
+    text.remove_prefix(1 + digits.size());
   }
   return decoded;
 }

@@ -32,7 +32,8 @@ bool NameFilter::eventFilter(QObject* watched, QEvent* event) {
   } else if (event->type() == QEvent::InputMethod) {
     typed = static_cast<QInputMethodEvent*>(event)->commitString();
   }
-  if (Allows(typed)) return QObject::eventFilter(watched, event);
+  // While the text box goes, events still come that have no text.
+  if (typed.isEmpty() || Allows(typed)) return QObject::eventFilter(watched, event);
   host_.Beep();
   return true;
 }
