@@ -1,5 +1,6 @@
 #include "formats/lin_file.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/fault.h"
