@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstdint>
+#include <cstring>
 #include <limits>
 
 namespace tricklet {
@@ -39,6 +41,18 @@ std::size_t SequenceLength(std::string_view bytes) {
   return length;
 }
 
+/// Length of the ASCII text that `bytes` begins with, in whole words: what is left of the last word
+/// is not counted.
+std::size_t AsciiLength(std::string_view bytes) {
+  constexpr std::uint64_t kHighBits = 0x8080808080808080;
+  std::size_t length = 0;
+  for (std::uint64_t word = 0; length + sizeof word <= bytes.size(); length += sizeof word) {
+    std::memcpy(&word, bytes.data() + length, sizeof word);
+    if ((word & kHighBits) != 0) break;
+  }
+  return length;
+}
+
 }  // namespace
 
 std::string_view Trim(std::string_view text) {
@@ -48,10 +62,10 @@ std::string_view Trim(std::string_view text) {
 }
 
 std::string_view TrimLines(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t\r\n";
-  const auto first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+  const auto isBlank = [](char c) { return IsBlank(c) || c == '\r' || c == '\n'; };
+  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+  return text;
 }
 
 char ToUpper(char c) {
@@ -113,9 +127,8 @@ std::string_view TakeLine(std::string_view& rest) {
 }
 
 bool IsValidUtf8(std::string_view bytes) {
-  const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
-  if (std::all_of(bytes.begin(), bytes.end(), isAscii)) return true;
-  while (!bytes.empty()) {
+  for (bytes.remove_prefix(AsciiLength(bytes)); !bytes.empty();
+       bytes.remove_prefix(AsciiLength(bytes))) {
     const std::size_t length = SequenceLength(bytes);
     if (length == 0) return false;
     bytes.remove_prefix(length);
@@ -123,8 +136,9 @@ bool IsValidUtf8(std::string_view bytes) {
   return true;
 }
 
-std::string MendUtf8(std::string_view bytes) {
-  if (IsValidUtf8(bytes)) return std::string(bytes);
+std::string MendUtf8(std::string mixed) {
+  if (IsValidUtf8(mixed)) return mixed;
+  std::string_view bytes = mixed;
   std::string text;
   text.reserve(bytes.size());
   while (!bytes.empty()) {

@@ -38,7 +38,7 @@ std::string_view TakeLine(std::string_view& rest);
 
 bool IsValidUtf8(std::string_view bytes);
 /// Makes text valid UTF-8: every byte that belongs to no well-formed sequence is taken as Latin-1.
-std::string MendUtf8(std::string_view bytes);
+std::string MendUtf8(std::string mixed);
 std::string Latin1ToUtf8(std::string_view bytes);
 /// Characters outside Latin-1 become "?".
 std::string Utf8ToLatin1(std::string_view text);

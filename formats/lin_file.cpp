@@ -1,6 +1,7 @@
 #include "formats/lin_file.h"
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 #include "core/fault.h"
@@ -15,19 +16,25 @@ namespace fs = std::filesystem;
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
+bool IsControl(char c) {
+  return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
+}
+
+/// Looks at every byte: that goes by vectors, stopping at the first would not.
+bool HasControl(std::string_view value) {
+  unsigned char found = 0;
+  for (const char c : value) found |= static_cast<unsigned char>(IsControl(c));
+  return found != 0;
+}
+
 /// `value` as one line that is no header.
-std::string LineOf(std::string_view value) {
-  const auto isPlain = [](char c) { return static_cast<unsigned char>(c) >= 0x20 && c != 0x7F; };
-  if (!value.starts_with('[') && std::all_of(value.begin(), value.end(), isPlain)) {
-    return std::string(value);
-  }
+std::string Cleaned(std::string_view value) {
   std::string line;
   line.reserve(value.size());
   bool inLineEnd = false;
   for (const char c : value) {
     const bool lineEnd = c == '\r' || c == '\n';
-    const bool control = static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
-    if (!lineEnd || !inLineEnd) line += control ? ' ' : c;
+    if (!lineEnd || !inLineEnd) line += IsControl(c) ? ' ' : c;
     inLineEnd = lineEnd;
   }
   if (line.starts_with('[')) line.insert(line.begin(), ' ');
@@ -39,17 +46,33 @@ void AppendLine(std::string& text, std::string_view line) {
   text += kLineEnd;
 }
 
+/// A value as a line that reads back as a value.
+void AppendValueLine(std::string& text, std::string_view value) {
+  if (!HasControl(value) && !value.starts_with('[')) {
+    AppendLine(text, value);
+  } else {
+    AppendLine(text, Cleaned(value));
+  }
+}
+
 void AppendLines(std::string& text, std::string_view header,
                  const std::vector<std::string>& values) {
   AppendLine(text, header);
   for (const std::string& value : values) {
-    if (!value.empty()) AppendLine(text, LineOf(value));
+    if (!value.empty()) AppendValueLine(text, value);
   }
+}
+
+std::size_t LinesLength(const std::vector<std::string>& values) {
+  return std::accumulate(values.begin(), values.end(), std::size_t{0},
+                         [](std::size_t length, const std::string& value) {
+                           return length + value.size() + kLineEnd.size();
+                         });
 }
 
 void AppendValue(std::string& text, std::string_view header, std::string_view value) {
   AppendLine(text, header);
-  AppendLine(text, LineOf(value));
+  AppendValueLine(text, value);
 }
 
 bool IsHeader(std::string_view line) {
@@ -105,7 +128,9 @@ class LinFileParser {
 }  // namespace
 
 std::string LinFileText(const LinFile& data) {
+  constexpr std::size_t kHeaders = 1024;
   std::string text;
+  text.reserve(kHeaders + LinesLength(data.Names) + LinesLength(data.Lin));
   AppendValue(text, "[BoardScoringMethod]", data.BoardScoringMethod);
   AppendValue(text, "[BoardScoringAbb]", data.BoardScoringAbb);
   if (data.TeamEvent) {
