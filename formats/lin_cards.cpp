@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 #include <utility>
 
 #include "core/fault.h"
@@ -16,13 +17,14 @@ namespace {
 /// deal at all.
 std::map<int, LinRecord> RecordsOf(const LinFile& data, int firstBoard, int lastBoard) {
   std::map<int, LinRecord> records;
+  std::set<int> complete;  // boards that need no other record
   for (const std::string& text : data.Lin) {
     const int number = BoardNumberOfLin(text);
     if (!IsStorable(number) || number < firstBoard || number > lastBoard) continue;
-    const auto kept = records.find(number);
-    if (kept != records.end() && CanBeDealt(kept->second)) continue;
+    if (complete.contains(number)) continue;
     LinRecord record = ParseLinRecord(text);
     record.boardNumber = number;
+    if (CanBeDealt(record)) complete.insert(number);
     if (record.hasDeal) records.insert_or_assign(number, std::move(record));
   }
   return records;

@@ -9,8 +9,22 @@
 namespace tricklet {
 namespace {
 
-constexpr std::string_view kSuitLetters = "SHDC";
-constexpr std::string_view kRankLetters = "AKQJT98765432";
+constexpr std::size_t kByteValues = 256;
+
+/// For each byte its place among `letters`, whatever its case, else -1.
+constexpr std::array<int, kByteValues> PlacesOf(std::string_view letters) {
+  std::array<int, kByteValues> places{};
+  places.fill(-1);
+  for (std::size_t i = 0; i < letters.size(); ++i) {
+    const auto letter = static_cast<unsigned char>(letters[i]);
+    places.at(letter) = static_cast<int>(i);
+    if (letter >= 'A') places.at(letter + ('a' - 'A')) = static_cast<int>(i);
+  }
+  return places;
+}
+
+constexpr auto kSuitPlaces = PlacesOf("SHDC");
+constexpr auto kRankPlaces = PlacesOf("AKQJT98765432");
 
 /// The seats in the order of a record's hands and players.
 constexpr std::array kLinSeats{Seat::South, Seat::West, Seat::North, Seat::East};
@@ -20,19 +34,17 @@ class CardText {
  public:
   /// The card that `c` completes; nothing when it is a suit letter or none of both.
   std::optional<Card> Next(char c) {
-    const char letter = ToUpper(c);
-    if (const auto suit = kSuitLetters.find(letter); suit != std::string_view::npos) {
-      suit_ = static_cast<Suit>(suit);
-      return std::nullopt;
-    }
-    const auto rank = kRankLetters.find(letter);
-    if (!suit_ || rank == std::string_view::npos) return std::nullopt;
-    return Card{*suit_, static_cast<Rank>(rank)};
+    const auto letter = static_cast<unsigned char>(c);
+    if (const int suit = kSuitPlaces.at(letter); suit >= 0) suit_ = suit;
+    const int rank = kRankPlaces.at(letter);
+    if (suit_ < 0 || rank < 0) return std::nullopt;
+    return Card{static_cast<Suit>(suit_), static_cast<Rank>(rank)};
   }
-  void NewHand() { suit_.reset(); }
+  void NewHand() { suit_ = kNone; }
 
  private:
-  std::optional<Suit> suit_;
+  static constexpr int kNone = -1;
+  int suit_ = kNone;
 };
 
 void GiveCard(LinRecord& record, Card card, Seat seat) {
