@@ -1,5 +1,8 @@
 #include "formats/import.h"
 
+#include <string>
+#include <utility>
+
 #include "formats/dlm_reader.h"
 #include "formats/file_type.h"
 #include "formats/import_run.h"
@@ -13,8 +16,8 @@ namespace {
 namespace fs = std::filesystem;
 
 TextReader XmlReaderOf(Session& session, const fs::path& path) {
-  return [&session, &path](std::string_view bytes, BoardSink& sink) {
-    return ReadXML(session, path, bytes, sink);
+  return [&session, &path](std::string bytes, BoardSink& sink) {
+    return ReadXML(session, path, std::move(bytes), sink);
   };
 }
 

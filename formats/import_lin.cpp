@@ -75,7 +75,7 @@ ImportOutcome ImportLinText(Session& session, std::string_view text) {
     return {.refused = true};
   }
   if (!MayImport(session)) return {.refused = true};
-  return StoreText(session, text, "Cannot read the LIN records", ReaderInto(session));
+  return StoreText(session, std::string(text), "Cannot read the LIN records", ReaderInto(session));
 }
 
 ImportOutcome ImportAnyFile(Session& session, const fs::path& path) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 #include "core/fault.h"
 #include "core/text.h"
@@ -61,12 +62,12 @@ bool MayOverwriteLibrary(Session& session) {
 }
 
 /// Reads and stores; false when an unexpected failure ended it.
-bool RunReader(Session& session, std::string_view text, const TextReader& reader, LibrarySink& sink,
+bool RunReader(Session& session, std::string text, const TextReader& reader, LibrarySink& sink,
                ReadResult& result) {
   try {
     const WorkScope work(session.host);
     const BatchScope batch(session);
-    result = reader(text, sink);
+    result = reader(std::move(text), sink);
     return true;
   } catch (const std::exception& failure) {
     ErrorReport(session.host, FaultFrom(failure));
@@ -102,13 +103,13 @@ bool MayImport(Session& session) {
   return false;
 }
 
-ImportOutcome StoreText(Session& session, std::string_view text, const std::string& unreadable,
+ImportOutcome StoreText(Session& session, std::string text, const std::string& unreadable,
                         const TextReader& reader) {
   const int boardBefore = session.board.BoardNumber;
   ReadResult result;
   LibrarySink sink(session);
   session.board.HandChanged = false;
-  if (!RunReader(session, text, reader, sink, result)) {
+  if (!RunReader(session, std::move(text), reader, sink, result)) {
     return TellUnreadable(session, unreadable, boardBefore);
   }
   if (result.badLine) session.host.Tell("Can't read this line:\n" + Showable(*result.badLine));
@@ -127,7 +128,7 @@ ImportOutcome StoreFile(Session& session, const fs::path& path, const TextReader
   } catch (const Fault&) {
     return TellUnreadable(session, unreadable, session.board.BoardNumber);
   }
-  return StoreText(session, text, unreadable, reader);
+  return StoreText(session, std::move(text), unreadable, reader);
 }
 
 }  // namespace tricklet

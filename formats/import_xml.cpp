@@ -42,14 +42,14 @@ void StoreAll(Session& session, UsebioResults& read, const std::string& rewritte
   if (failure) std::rethrow_exception(failure);
 }
 
-void StoreFile(Session& session, const fs::path& path, std::string_view bytes, BoardSink& sink,
+void StoreFile(Session& session, const fs::path& path, std::string bytes, BoardSink& sink,
                ReadResult& result) {
   result.failed = true;
   if (bytes.size() > kMaxXmlBytes) {
     session.host.Tell(kXmlLoadFailed);
     return;
   }
-  XmlText xml = DecodeXml(bytes);
+  XmlText xml = DecodeXml(std::move(bytes));
   if (!CheckXMLfile(session.host, path, xml)) return;
   const std::string rewritten = RewriteDocumentType(xml.text) ? EncodeXml(xml) : std::string();
   auto read = ReadUsebio(std::move(xml.text));
@@ -70,11 +70,10 @@ bool CheckXMLfile(Host& host, const fs::path& path, const XmlText& xml) {
   return false;
 }
 
-ReadResult ReadXML(Session& session, const fs::path& path, std::string_view bytes,
-                   BoardSink& sink) {
+ReadResult ReadXML(Session& session, const fs::path& path, std::string bytes, BoardSink& sink) {
   ReadResult result;
   try {
-    StoreFile(session, path, bytes, sink, result);
+    StoreFile(session, path, std::move(bytes), sink, result);
   } catch (const std::exception& failure) {
     const Fault fault = FaultFrom(failure);
     result.failed = true;

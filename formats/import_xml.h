@@ -23,7 +23,7 @@ bool CheckXMLfile(Host& host, const std::filesystem::path& path, const XmlText& 
 /// results of the boards that were stored when the storing has ended early. A file whose document
 /// type lies on a web host is then left in the library as "QENXML.xml", with the extended document
 /// type. Messages say what went wrong; nothing is thrown.
-ReadResult ReadXML(Session& session, const std::filesystem::path& path, std::string_view bytes,
+ReadResult ReadXML(Session& session, const std::filesystem::path& path, std::string bytes,
                    BoardSink& sink);
 
 }  // namespace tricklet

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <utility>
 
 #include "core/text.h"
 
@@ -136,8 +137,9 @@ std::optional<std::size_t> EndOfDeclaration(std::string_view text, std::size_t b
 
 }  // namespace
 
-XmlText DecodeXml(std::string_view bytes) {
-  if (bytes.starts_with(kUtf8Mark)) bytes.remove_prefix(kUtf8Mark.size());
+XmlText DecodeXml(std::string file) {
+  if (file.starts_with(kUtf8Mark)) file.erase(0, kUtf8Mark.size());
+  const std::string_view bytes = file;
   using namespace std::string_view_literals;
   for (const bool big : {false, true}) {
     const bool marked = bytes.starts_with(big ? kBigMark : kLittleMark);
@@ -148,7 +150,7 @@ XmlText DecodeXml(std::string_view bytes) {
   if (DeclaresLatin1(bytes) || !IsValidUtf8(bytes)) {
     return {Latin1ToUtf8(bytes), XmlEncoding::Latin1};
   }
-  return {std::string(bytes), XmlEncoding::Utf8};
+  return {std::move(file), XmlEncoding::Utf8};
 }
 
 std::string EncodeXml(const XmlText& xml) {
@@ -164,7 +166,9 @@ std::string EncodeXml(const XmlText& xml) {
 }
 
 bool RewriteDocumentType(std::string& text) {
-  const auto begin = text.find("<!DOCTYPE USEBIO");
+  // A document type stands before the outermost element.
+  const auto begin =
+      std::string_view(text).substr(0, text.find("<USEBIO")).find("<!DOCTYPE USEBIO");
   if (begin == std::string::npos) return false;
   const auto end = EndOfDeclaration(text, begin);
   if (!end) return false;

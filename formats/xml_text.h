@@ -17,7 +17,7 @@ struct XmlText {
 /// Decodes a whole file: by its byte order mark, else by the zero bytes of UTF-16, else by the
 /// encoding of its declaration. What is neither declared nor valid UTF-8 is taken as Latin-1;
 /// Windows-1252 is taken as Latin-1 too. Broken UTF-16 becomes U+FFFD.
-XmlText DecodeXml(std::string_view bytes);
+XmlText DecodeXml(std::string file);
 
 /// The bytes of a file in the encoding that it was read in; UTF-16 with a byte order mark.
 std::string EncodeXml(const XmlText& xml);

@@ -39,7 +39,7 @@ void CheckResults(const UsebioResults& results) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  XmlText xml = DecodeXml({reinterpret_cast<const char*>(data), size});
+  XmlText xml = DecodeXml(std::string(reinterpret_cast<const char*>(data), size));
   if (!IsValidUtf8(xml.text)) std::abort();
   RewriteDocumentType(xml.text);
   if (DecodeXml(EncodeXml(xml)).text.size() > xml.text.size()) std::abort();
