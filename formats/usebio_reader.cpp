@@ -23,26 +23,41 @@ constexpr const char* kUnexpectedFormat = "Unexpected XML format";
 constexpr const char* kOneSession = "Only Single Session Imports supported";
 constexpr const char* kOneSection = "Only Single Section Imports supported";
 
-/// Measures how deep the elements lie in one another.
-class DepthGauge : public pugi::xml_tree_walker {
+/// Goes through a document once, which must not be too deep, and finds what may lie anywhere in it.
+class Outline : public pugi::xml_tree_walker {
  public:
-  bool for_each(pugi::xml_node& /*node*/) override { return depth() < kMaxXmlDepth; }
+  bool for_each(pugi::xml_node& node) override {
+    const std::string_view name = node.name();
+    if (name == "BOARD") boards.push_back(node);
+    if (name == "SECTION") ++sections;
+    if (name == "SESSION" && std::string_view(node.parent().name()) == "EVENT") ++sessions;
+    return depth() < kMaxXmlDepth;
+  }
+
+  std::vector<pugi::xml_node> boards;
+  int sessions = 0;  ///< right inside an event
+  int sections = 0;
 };
 
 /// `text` as a value to keep; longer ones are in no results file.
-std::string Kept(std::string_view text) {
+std::string Kept(std::string text) {
   const std::string_view value = TrimLines(text);
   if (value.size() > kMaxUsebioText) throw UsebioRefusal{kUnexpectedFormat};
-  return std::string(value);
+  if (value.size() < text.size()) return std::string(value);
+  return text;
 }
 
-/// All text of an element; comments may divide it.
+/// All text of an element, which comments may divide: its first part is the element's own value.
 std::string TextOf(const pugi::xml_node& element) {
-  std::string text;
-  for (const pugi::xml_node& part : element.children()) {
+  std::string text = element.value();
+  for (auto part = element.first_child(); part; part = part.next_sibling()) {
     if (part.type() == pugi::node_pcdata || part.type() == pugi::node_cdata) text += part.value();
   }
-  return Kept(text);
+  return Kept(std::move(text));
+}
+
+bool IsEmpty(const pugi::xml_node& element) {
+  return !element.first_child() && *element.value() == '\0';
 }
 
 std::string ChildText(const pugi::xml_node& element, const char* name) {
@@ -64,31 +79,67 @@ std::string SingleNumber(std::string_view text) {
   return ShortestText(value);
 }
 
-void Keep(std::vector<std::string>& lines, std::string line) {
+/// Keeps a copy of its exact length: a line that was put together piece by piece may hold twice the
+/// memory that it needs.
+void Keep(std::vector<std::string>& lines, std::string_view line) {
   if (lines.size() == kMaxUsebioLines) throw UsebioRefusal{kUnexpectedFormat};
-  lines.push_back(std::move(line));
+  lines.emplace_back(line);
 }
 
-/// A text for a private tag; a bar would end its field.
-std::string FieldText(const pugi::xml_node& line, const char* name) {
-  std::string text = ChildText(line, name);
-  std::replace(text.begin(), text.end(), '|', ' ');
-  return text;
-}
+/// What is read of a traveller line. One pass finds all of it: a club's evening has hundreds of
+/// these lines, and looking for each element by its name would go through a line once per name.
+class TravellerLine {
+ public:
+  enum Element {
+    LinData,
+    Tricks,
+    Score,
+    Contract,
+    PlayedBy,
+    Lead,
+    NsMatchPoints,
+    EwMatchPoints,
+    NsCrossImps,
+    NsButler,
+  };
 
-std::string NumberField(const pugi::xml_node& line, const char* name) {
-  return SingleNumber(ChildText(line, name));
-}
+  explicit TravellerLine(const pugi::xml_node& line) {
+    for (auto child = line.first_child(); child; child = child.next_sibling()) {
+      const auto* const name = std::find(kNames.begin(), kNames.end(), child.name());
+      if (name == kNames.end()) continue;
+      pugi::xml_node& element = elements_.at(static_cast<std::size_t>(name - kNames.begin()));
+      if (!element) element = child;
+    }
+  }
+
+  bool Has(Element element) const { return !elements_.at(element).empty(); }
+  std::string Text(Element element) const { return TextOf(elements_.at(element)); }
+  /// A text for a private tag; a bar would end its field.
+  std::string Field(Element element) const {
+    std::string text = Text(element);
+    std::replace(text.begin(), text.end(), '|', ' ');
+    return text;
+  }
+  std::string Number(Element element) const { return SingleNumber(Text(element)); }
+
+ private:
+  static constexpr std::array<std::string_view, NsButler + 1> kNames{
+      "LIN_DATA",        "TRICKS",          "SCORE",
+      "CONTRACT",        "PLAYED_BY",       "LEAD",
+      "NS_MATCH_POINTS", "EW_MATCH_POINTS", "NS_CROSS_IMP_POINTS",
+      "NS_BUTLER_POINTS"};
+  std::array<pugi::xml_node, kNames.size()> elements_;
+};
 
 /// Cross-IMPs of North-South; Butler events give theirs under another name.
-std::string ImpField(const pugi::xml_node& line) {
-  const bool cross = line.child("NS_CROSS_IMP_POINTS");
-  return NumberField(line, cross ? "NS_CROSS_IMP_POINTS" : "NS_BUTLER_POINTS");
+std::string Imps(const TravellerLine& line) {
+  return line.Number(line.Has(TravellerLine::NsCrossImps) ? TravellerLine::NsCrossImps
+                                                          : TravellerLine::NsButler);
 }
 
 /// The LIN record of a traveller line, decoded. It ends in a bar and names its board.
-std::string RecordOf(const pugi::xml_node& line, int boardNumber) {
-  std::string record = MendUtf8(ReadLinData(ChildText(line, "LIN_DATA")));
+std::string RecordOf(const TravellerLine& line, int boardNumber) {
+  std::string record = MendUtf8(ReadLinData(line.Text(TravellerLine::LinData)));
   if (!record.empty() && !record.ends_with('|')) record += '|';
   if (BoardNumberOfLin(record) == 0) {
     record.insert(0, "rh||ah|Board " + std::to_string(boardNumber) + "|");
@@ -98,12 +149,14 @@ std::string RecordOf(const pugi::xml_node& line, int boardNumber) {
 
 /// The bars between values and tags are doubled from the second value on: readers of this layout
 /// have always met it so.
-std::string LinLine(const pugi::xml_node& line, int boardNumber) {
-  return RecordOf(line, boardNumber) + "qent|" + FieldText(line, "TRICKS") + "|qens|" +
-         FieldText(line, "SCORE") + "||qenns|" + NumberField(line, "NS_MATCH_POINTS") + "||qenew|" +
-         NumberField(line, "EW_MATCH_POINTS") + "||qenc|" + FieldText(line, "CONTRACT") +
-         "||qend|" + FieldText(line, "PLAYED_BY") + "||qenl|" + FieldText(line, "LEAD") +
-         "||qeni|" + ImpField(line) + "|";
+std::string LinLine(const TravellerLine& line, int boardNumber) {
+  using Line = TravellerLine;
+  std::string text = RecordOf(line, boardNumber);
+  text += "qent|" + line.Field(Line::Tricks) + "|qens|" + line.Field(Line::Score);
+  text += "||qenns|" + line.Number(Line::NsMatchPoints) + "||qenew|";
+  text += line.Number(Line::EwMatchPoints) + "||qenc|" + line.Field(Line::Contract);
+  text += "||qend|" + line.Field(Line::PlayedBy) + "||qenl|" + line.Field(Line::Lead);
+  return text + "||qeni|" + Imps(line) + "|";
 }
 
 /// "3 NS Ann & Bob".
@@ -143,12 +196,13 @@ bool MoreThanOne(const pugi::xml_node& event, std::initializer_list<const char*>
 /// Reads a document that has been parsed.
 class UsebioReader {
  public:
-  explicit UsebioReader(const pugi::xml_document& document) : document_(document) {}
+  UsebioReader(const pugi::xml_document& document, const Outline& outline)
+      : document_(document), outline_(outline) {}
 
   UsebioResults Read() {
     const pugi::xml_node club = document_.select_node("//CLUB").node();
     const pugi::xml_node event = document_.select_node("//EVENT").node();
-    if (!club.first_child() || !event.first_child()) throw UsebioRefusal{kUnexpectedFormat};
+    if (IsEmpty(club) || IsEmpty(event)) throw UsebioRefusal{kUnexpectedFormat};
     RefuseSeveral(event);
     ReadScoring(event);
     // Only the outermost list: the pairs of lists in lists would come more than once.
@@ -156,17 +210,16 @@ class UsebioReader {
          document_.select_nodes("//PARTICIPANTS[not(ancestor::PARTICIPANTS)]//PAIR")) {
       Keep(results_.data.Names, NamesLine(pair.node()));
     }
-    for (const auto& board : document_.select_nodes("//BOARD")) ReadBoard(board.node());
+    for (const pugi::xml_node& board : outline_.boards) ReadBoard(board);
     return std::move(results_);
   }
 
  private:
   void RefuseSeveral(const pugi::xml_node& event) const {
-    if (MoreThanOne(event, {"SESSION_CONT", "SESSION_COUNT"}) ||
-        document_.select_nodes("//EVENT/SESSION").size() > 1) {
+    if (MoreThanOne(event, {"SESSION_CONT", "SESSION_COUNT"}) || outline_.sessions > 1) {
       throw UsebioRefusal{kOneSession};
     }
-    if (MoreThanOne(event, {"SECTION_COUNT"}) || document_.select_nodes("//SECTION").size() > 1) {
+    if (MoreThanOne(event, {"SECTION_COUNT"}) || outline_.sections > 1) {
       throw UsebioRefusal{kOneSection};
     }
   }
@@ -202,11 +255,12 @@ class UsebioReader {
     results_.lastBoard = any_ ? std::max(results_.lastBoard, number) : number;
     any_ = true;
     for (const pugi::xml_node& line : board.children("TRAVELLER_LINE")) {
-      Keep(results_.data.Lin, LinLine(line, number));
+      Keep(results_.data.Lin, LinLine(TravellerLine(line), number));
     }
   }
 
   const pugi::xml_document& document_;
+  const Outline& outline_;
   UsebioResults results_;
   bool any_ = false;
 };
@@ -214,15 +268,16 @@ class UsebioReader {
 }  // namespace
 
 std::variant<UsebioResults, UsebioRefusal> ReadUsebio(std::string text) {
+  // Text as the value of its element: half the nodes of a file whose elements hold one text each.
+  constexpr unsigned kParsing = pugi::parse_default | pugi::parse_embed_pcdata;
   pugi::xml_document document;
-  if (!document.load_buffer_inplace(text.data(), text.size(), pugi::parse_default,
-                                    pugi::encoding_utf8)) {
+  if (!document.load_buffer_inplace(text.data(), text.size(), kParsing, pugi::encoding_utf8)) {
     return UsebioRefusal{kXmlLoadFailed};
   }
-  DepthGauge gauge;
-  if (!document.traverse(gauge)) return UsebioRefusal{kXmlLoadFailed};
+  Outline outline;
+  if (!document.traverse(outline)) return UsebioRefusal{kXmlLoadFailed};
   try {
-    return UsebioReader(document).Read();
+    return UsebioReader(document, outline).Read();
   } catch (const UsebioRefusal& refusal) {
     return refusal;
   }

@@ -87,6 +87,8 @@ TEST(Usebio, NumbersAreInShortestSingleForm) {
 TEST(Usebio, TextMayBeDividedAndEscaped) {
   EXPECT_TRUE(LinLineOf(TravellerLine("\n <![CDATA[qx|o7|nt|a<b|]]><!-- x -->pg||\n"))
                   .starts_with("qx|o7|nt|a<b|pg||qent|"));
+  EXPECT_TRUE(LinLineOf(TravellerLine("qx|o7|<!-- -->nt|a<![CDATA[<]]>b|<!-- -->pg||"))
+                  .starts_with("qx|o7|nt|a<b|pg||qent|"));
   EXPECT_TRUE(LinLineOf(TravellerLine("qx|o7|nt|&amp;%26&#233;\u00e9%E9%C3%A9|"))
                   .starts_with("qx|o7|nt|&&\u00e9\u00e9\u00e9\u00e9|qent|"))
       << "escaped bytes are UTF-8 where they can be, else Latin-1";
