@@ -70,8 +70,22 @@ std::string NamedText(const pugi::xml_node& element, const char* name) {
   return attribute ? Kept(attribute.value()) : ChildText(element, name);
 }
 
+/// Nearly every number of a results file: digits and perhaps a fraction, without zeros that could
+/// go. Single precision keeps any six digits apart (FLT_DIG), so none is shorter.
+bool IsShortestNumber(std::string_view text) {
+  constexpr auto kMostCharacters = std::size_t{std::numeric_limits<float>::digits10};
+  const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+  const auto fraction = std::find_if_not(text.begin(), text.end(), isDigit);
+  if (text.size() > kMostCharacters || fraction == text.begin()) return false;
+  if (text.front() == '0' && fraction != text.begin() + 1) return false;
+  if (fraction == text.end()) return true;
+  return *fraction == '.' && isDigit(text.back()) && text.back() != '0' &&
+         std::all_of(fraction + 1, text.end(), isDigit);
+}
+
 /// The number that `text` begins with, 0 when it begins with none, in shortest form.
 std::string SingleNumber(std::string_view text) {
+  if (IsShortestNumber(text)) return std::string(text);
   if (text.starts_with('+')) text.remove_prefix(1);
   float value = 0;
   const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
@@ -152,11 +166,15 @@ std::string RecordOf(const TravellerLine& line, int boardNumber) {
 std::string LinLine(const TravellerLine& line, int boardNumber) {
   using Line = TravellerLine;
   std::string text = RecordOf(line, boardNumber);
-  text += "qent|" + line.Field(Line::Tricks) + "|qens|" + line.Field(Line::Score);
-  text += "||qenns|" + line.Number(Line::NsMatchPoints) + "||qenew|";
-  text += line.Number(Line::EwMatchPoints) + "||qenc|" + line.Field(Line::Contract);
-  text += "||qend|" + line.Field(Line::PlayedBy) + "||qenl|" + line.Field(Line::Lead);
-  return text + "||qeni|" + Imps(line) + "|";
+  text.append("qent|").append(line.Field(Line::Tricks));
+  text.append("|qens|").append(line.Field(Line::Score));
+  text.append("||qenns|").append(line.Number(Line::NsMatchPoints));
+  text.append("||qenew|").append(line.Number(Line::EwMatchPoints));
+  text.append("||qenc|").append(line.Field(Line::Contract));
+  text.append("||qend|").append(line.Field(Line::PlayedBy));
+  text.append("||qenl|").append(line.Field(Line::Lead));
+  text.append("||qeni|").append(Imps(line));
+  return text + "|";
 }
 
 /// "3 NS Ann & Bob".

@@ -62,8 +62,16 @@ TEST(Usebio, ALineAlwaysNamesItsBoardAndNoValueLeavesItsField) {
 }
 
 TEST(Usebio, NumbersAreInShortestSingleForm) {
-  constexpr std::array<std::pair<const char*, const char*>, 12> kCases{{
+  constexpr std::array<std::pair<const char*, const char*>, 20> kCases{{
       {"62.50", "62.5"},
+      {"62.5", "62.5"},
+      {"0", "0"},
+      {"007", "7"},
+      {"01.5", "1.5"},
+      {"12.", "12"},
+      {".5", "0.5"},
+      {"1.0.5", "1"},
+      {"-7", "-7"},
       {"0.1", "0.1"},
       {"16777217", "16777216"},
       {"1000000", "1000000"},
