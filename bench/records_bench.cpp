@@ -3,12 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "bench/measure.h"
-#include "bench/quiet_host.h"
-#include "bench/temporary_root.h"
-#include "core/text.h"
+#include "bench/import_measure.h"
 #include "formats/dlm_writer.h"
-#include "formats/import_lin.h"
 #include "formats/lin_writer.h"
 #include "generate/deal.h"
 #include "library/board_file.h"
@@ -49,28 +45,11 @@ const Fixture& Records() {
 }
 
 void Floor(benchmark::State& state, const char* name) {
-  fs::path folder;
-  std::size_t bytes = 0;
-  Measure(
-      state, [&folder] { folder = Records().Emptied("Empty"); },
-      [&] {
-        bytes += ReadByStream(Records().root / name);
-        WriteByStream(folder, Records().texts);
-      });
-  benchmark::DoNotOptimize(bytes);
+  MeasureImportFloor(state, Records(), Records().root / name, Records().texts);
 }
 
 void Import(benchmark::State& state, const char* name) {
-  QuietHost host;
-  MemoryStore store;
-  Session session(host, store);
-  session.settings.filelocation = FolderText(Records().root);
-  session.settings.library = "Empty";
-  int saved = 0;
-  Measure(
-      state, [] { Records().Emptied("Empty"); },
-      [&] { saved = ImportAnyFile(session, Records().root / name).boardsSaved; });
-  if (saved != kBoards) state.SkipWithError("not all boards came in");
+  MeasureImport(state, Records(), Records().root / name, Records().texts.size());
 }
 
 void ReadDlmFloor(benchmark::State& state) {

@@ -5,20 +5,17 @@
 #include <filesystem>
 #include <iterator>
 #include <numeric>
+#include <random>
 #include <string>
+#include <variant>
 #include <vector>
 
-#include <benchmark/benchmark.h>
-
-#include "bench/measure.h"
-#include "bench/quiet_host.h"
-#include "bench/temporary_root.h"
-#include "core/text.h"
-#include "formats/import.h"
+#include "bench/import_measure.h"
+#include "formats/lin_cards.h"
 #include "formats/lin_file.h"
+#include "formats/usebio_reader.h"
 #include "library/board_file.h"
 #include "library/file_io.h"
-#include "library/session.h"
 
 namespace tricklet::bench {
 namespace {
@@ -99,12 +96,20 @@ std::string SessionText() {
          Element("PARTICIPANTS", pairs) + boards + "</EVENT></USEBIO>\n";
 }
 
-/// A root with the file of a session; the library "Results" is made anew for each run.
+/// A root with the file of a session, and the texts of its boards' files.
 class Fixture : public TemporaryRoot {
  public:
-  Fixture() : file(root / "session.xml") { ReplaceWholeFile(file, SessionText()); }
+  Fixture() : file(root / "session.xml") {
+    const std::string text = SessionText();
+    ReplaceWholeFile(file, text);
+    const auto read = std::get<UsebioResults>(ReadUsebio(text));
+    for (const Board& board : BoardsOfLinData(read.data, kFirstBoardNumber, kBoards)) {
+      boardTexts.push_back(WriteBoardText(board));
+    }
+  }
 
   fs::path file;
+  std::vector<std::string> boardTexts;
 };
 
 const Fixture& Results() {
@@ -112,32 +117,15 @@ const Fixture& Results() {
   return fixture;
 }
 
-/// Reading the file and writing as many board files.
 void UsebioFloor(benchmark::State& state) {
-  const std::vector<std::string> boards(kBoards, WriteBoardText(Board()));
-  fs::path folder;
-  std::size_t bytes = 0;
-  Measure(
-      state, [&folder] { folder = Results().Emptied("Results"); },
-      [&] {
-        bytes += ReadByStream(Results().file);
-        WriteByStream(folder, boards);
-      });
-  benchmark::DoNotOptimize(bytes);
+  MeasureImportFloor(state, Results(), Results().file, Results().boardTexts);
 }
-
 void ImportUsebio(benchmark::State& state) {
-  QuietHost host;
-  MemoryStore store;
-  Session session(host, store);
-  session.settings.filelocation = FolderText(Results().root);
-  session.settings.library = "Results";
-  int saved = 0;
-  Measure(
-      state, [] { Results().Emptied("Results"); },
-      [&] { saved = ImportFile(session, Results().file).boardsSaved; });
-  if (saved != kBoards || LoadLinData(session).Lin.size() != std::size_t{kBoards} * kTables) {
-    state.SkipWithError("not all boards or results came in");
+  MeasureImport(state, Results(), Results().file, kBoards);
+  const fs::path results = Results().root / kImportLibrary / "LIN.txt";
+  if (ParseLinFile(ReadWholeFile(results, kMaxLinFileBytes)).Lin.size() !=
+      std::size_t{kBoards} * kTables) {
+    state.SkipWithError("not all results came in");
   }
 }
 

@@ -3,37 +3,18 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "core/fault.h"
 #include "formats/lin_reader.h"
 #include "formats/lin_record.h"
-#include "library/board_file.h"
-
-namespace {
-
-class CheckingSink : public tricklet::BoardSink {
- public:
-  void Store(const tricklet::Board& board) override {
-    if (!tricklet::IsStorable(board.BoardNumber)) std::abort();
-    tricklet::Board read;
-    read.BoardNumber = board.BoardNumber;
-    const std::string text = tricklet::WriteBoardText(board);
-    if (!tricklet::ReadBoardText(text, read, tricklet::TableReading::Always)) std::abort();
-    if (!(read.Hands == board.Hands) || !(read.Calls == board.Calls)) std::abort();
-  }
-  bool Begin(int /*boardNumber*/, int done, int total) override {
-    if (done < 0 || done > total) std::abort();
-    return true;
-  }
-};
-
-}  // namespace
+#include "tests/fuzz/checks.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view text(reinterpret_cast<const char*>(data), size);
-  CheckingSink sink;
+  tricklet::fuzz::CheckingSink sink;
   std::vector<std::string> records;
   try {
     tricklet::ReadLIN(text, sink, records);

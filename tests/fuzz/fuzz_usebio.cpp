@@ -11,7 +11,7 @@
 #include "formats/lin_cards.h"
 #include "formats/usebio_reader.h"
 #include "formats/xml_text.h"
-#include "library/board_file.h"
+#include "tests/fuzz/checks.h"
 
 namespace {
 
@@ -19,11 +19,7 @@ using namespace tricklet;
 
 void CheckBoards(const UsebioResults& results) {
   for (const Board& board : BoardsOfLinData(results.data, results.firstBoard, results.lastBoard)) {
-    if (!IsStorable(board.BoardNumber)) std::abort();
-    Board read;
-    read.BoardNumber = board.BoardNumber;
-    if (!ReadBoardText(WriteBoardText(board), read, TableReading::Always)) std::abort();
-    if (!(read.Calls == board.Calls) || read.Contract != board.Contract) std::abort();
+    fuzz::CheckBoard(board);
   }
 }
 

@@ -1,0 +1,31 @@
+// What must hold of every board that a reader hands over, whatever it has read.
+#pragma once
+
+#include <cstdlib>
+
+#include "formats/board_sink.h"
+#include "library/board_file.h"
+
+namespace tricklet::fuzz {
+
+/// The board can be stored, and its file gives it back.
+inline void CheckBoard(const Board& board) {
+  if (!IsStorable(board.BoardNumber)) std::abort();
+  Board read;
+  read.BoardNumber = board.BoardNumber;
+  if (!ReadBoardText(WriteBoardText(board), read, TableReading::Always)) std::abort();
+  if (!(read.Hands == board.Hands) || !(read.Calls == board.Calls)) std::abort();
+  if (read.Contract != board.Contract) std::abort();
+}
+
+/// Takes boards and checks them.
+class CheckingSink : public BoardSink {
+ public:
+  void Store(const Board& board) override { CheckBoard(board); }
+  bool Begin(int /*boardNumber*/, int done, int total) override {
+    if (done < 0 || done > total) std::abort();
+    return true;
+  }
+};
+
+}  // namespace tricklet::fuzz
