@@ -93,9 +93,12 @@ class AnalysisRun {
     return true;
   }
 
+  /// The first is small, so that the time left is soon known.
   Batch NextBatch() {
+    constexpr std::size_t kFirstBatch = 4;
+    const std::size_t size = next_ == 0 ? kFirstBatch : Solver::kBatch;
     Batch batch;
-    for (; next_ < numbers_.size() && batch.numbers.size() < Solver::kBatch; ++next_) {
+    for (; next_ < numbers_.size() && batch.numbers.size() < size; ++next_) {
       batch.numbers.push_back(numbers_[next_]);
       batch.deals.push_back(deals_[next_]);
     }

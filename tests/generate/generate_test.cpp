@@ -119,7 +119,7 @@ TEST_F(GenerateRun, TablesAreComputedInBatchesOnceAllBoardsAreStored) {
   test::FakeSolver solver;
   session.GetSolver = [&solver]() -> Solver& { return solver; };
   EXPECT_EQ(Run(3, 42, {.analyse = true}).tables.computed, 40);
-  EXPECT_EQ(solver.batches, (std::vector<std::size_t>{32, 8}));
+  EXPECT_EQ(solver.batches, (std::vector<std::size_t>{4, 32, 4}));
   for (const int number : {3, 42}) {
     const Board board = Stored(number);
     EXPECT_TRUE(board.MakeableValid);

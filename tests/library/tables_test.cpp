@@ -54,7 +54,7 @@ TEST_F(TablesTest, EveryBoardGetsItsOwnTableInBatches) {
   const AnalysisOutcome outcome = AnalyseBoards(session, solver, 1, 999, false);
   EXPECT_EQ(outcome.computed, 100);
   EXPECT_EQ(outcome.incomplete, 1);
-  EXPECT_EQ(solver.batches, (std::vector<std::size_t>{32, 32, 32, 4}));
+  EXPECT_EQ(solver.batches, (std::vector<std::size_t>{4, 32, 32, 32}));
   for (int number = 1; number <= 100; ++number) ExpectOwnTable(number);
   EXPECT_TRUE(session.board.MakeableValid) << "the board in hand has it too";
   EXPECT_EQ(host.working, 0);
@@ -70,8 +70,8 @@ TEST_F(TablesTest, CancelKeepsWhatIsSolved) {
   host.cancelAtStep = 1;
   const AnalysisOutcome outcome = AnalyseBoards(session, solver, 1, 999, false);
   EXPECT_TRUE(outcome.cancelled);
-  EXPECT_EQ(outcome.computed, 32) << "the batch that was under way";
-  EXPECT_EQ(AnalysisText(outcome), "32 tables have been computed\nAnalysis cancelled");
+  EXPECT_EQ(outcome.computed, 4) << "the batch that was under way";
+  EXPECT_EQ(AnalysisText(outcome), "4 tables have been computed\nAnalysis cancelled");
 }
 
 TEST_F(TablesTest, FailuresAreTold) {
