@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QTableWidget>
 #include <QToolButton>
@@ -91,6 +92,8 @@ void TravellerPane::BuildGrid() {
   flexTraveller->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
   const int row = flexTraveller->verticalHeader()->defaultSectionSize();
   flexTraveller->setMinimumHeight((kLeastRows + 2) * row + 2 * flexTraveller->frameWidth());
+  auto* sort = new QShortcut(Qt::Key_Space, flexTraveller, nullptr, nullptr, Qt::WidgetShortcut);
+  connect(sort, &QShortcut::activated, this, &TravellerPane::SortByCurrentColumn);
   connect(flexTraveller, &QTableWidget::itemSelectionChanged, this, [this] {
     const auto rows = flexTraveller->selectionModel()->selectedRows();
     if (!rows.isEmpty()) ChooseRow(rows.first().row());
@@ -210,6 +213,20 @@ void TravellerPane::FillNames() {
 
 int TravellerPane::RowAt(int place) const {
   return flexTraveller->item(place, 0)->data(kTravellerRowRole).toInt();
+}
+
+/// What clicks on the heading of the current cell's column do: up, down, and as it was.
+void TravellerPane::SortByCurrentColumn() {
+  QHeaderView* heads = flexTraveller->horizontalHeader();
+  const int column = flexTraveller->currentColumn();
+  if (column < 0) return;
+  if (heads->sortIndicatorSection() != column) {
+    heads->setSortIndicator(column, Qt::AscendingOrder);
+  } else if (heads->sortIndicatorOrder() == Qt::AscendingOrder) {
+    heads->setSortIndicator(column, Qt::DescendingOrder);
+  } else {
+    heads->setSortIndicator(-1, Qt::AscendingOrder);
+  }
 }
 
 void TravellerPane::ChooseRow(int place) {

@@ -47,6 +47,7 @@ class TravellerPane : public Section {
   void MarkRecord();
   void ShowSteps();
   void TravellerResize();
+  void SortByCurrentColumn();
   void ChooseRow(int place);
   int RowAt(int place) const;
 

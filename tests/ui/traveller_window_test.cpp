@@ -140,6 +140,13 @@ TEST_F(TravellerWindowTest, IsSortedByEveryColumn) {
     EXPECT_EQ(Pairs(), std::string(example.pairs.rbegin(), example.pairs.rend())) << example.column;
   }
   ClickRow(0);  // that of pair 1, the best score
+  EXPECT_EQ(Grid()->currentColumn(), 0);
+  Grid()->setFocus();
+  FocusKey(Qt::Key_Right);
+  for (const char* pairs : {"3571", "1753"}) {
+    FocusKey(Qt::Key_Space);
+    EXPECT_EQ(Pairs(), pairs);
+  }
   EXPECT_EQ(Find<QComboBox>("cmbLinNames")->currentText(), QStringLiteral("Ann & Bob v Cy & Di"));
 }
 
