@@ -6,7 +6,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "core/fault.h"
 #include "library/library_transfer.h"
 #include "ui/text.h"
 
@@ -55,12 +54,7 @@ void frmDeleteLib::ShowChoice() {
 }
 
 void frmDeleteLib::Delete() {
-  const std::string name = FromQt(cmbLibs->currentText());
-  try {
-    if (DeleteLibrary(session_, name)) accept();
-  } catch (const std::exception& failure) {
-    ErrorReport(session_.host, FaultFrom(failure));
-  }
+  if (DeleteLibrary(session_, FromQt(cmbLibs->currentText()))) accept();
 }
 
 }  // namespace tricklet::ui

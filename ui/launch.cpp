@@ -2,13 +2,13 @@
 
 #include <cstdio>
 
-#include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
 
 #include "analysis/solver_library.h"
 #include "library/library_store.h"
 #include "library/start_up.h"
+#include "ui/application.h"
 #include "ui/frmStart.h"
 #include "ui/later.h"
 #include "ui/main_window.h"
@@ -101,7 +101,7 @@ bool WriteScreenshot(MainWindow& window, const LaunchOptions& options) {
   return window.grab().save(options.screenshot, "PNG");
 }
 
-int RunWindow(QApplication& application, MainWindow& window, const LaunchOptions& options) {
+int RunWindow(Application& application, MainWindow& window, const LaunchOptions& options) {
   window.RestorePlace();
   window.show();
   window.Display();
@@ -113,7 +113,7 @@ int RunWindow(QApplication& application, MainWindow& window, const LaunchOptions
   return exitCode;
 }
 
-int RunSession(QApplication& application, const LaunchOptions& options, Session& session,
+int RunSession(Application& application, const LaunchOptions& options, Session& session,
                QtHost& host) {
   const bool pictureOnly = !options.screenshot.isEmpty();
   ApplyColourScheme(application, session.settings.ColourScheme);
@@ -146,6 +146,12 @@ LaunchOptions ParseLaunch(const QStringList& arguments) {
   options.root = known.parser.value(known.root);
   options.library = known.parser.value(known.library);
   options.screenshot = known.parser.value(known.screenshot);
+  for (const QCommandLineOption& option : {known.root, known.library}) {
+    if (known.parser.isSet(option) && known.parser.value(option).isEmpty()) {
+      options.error = QCoreApplication::translate("Launch", "Nothing is named: --%1")
+                          .arg(option.names().constFirst());
+    }
+  }
   if (known.parser.isSet(known.board)) {
     const QString text = known.parser.value(known.board);
     options.board = text.toInt();
@@ -178,7 +184,7 @@ QString HelpText() {
   return Parser().parser.helpText();
 }
 
-int Launch(QApplication& application, const LaunchOptions& options, SettingsStore& store) {
+int Launch(Application& application, const LaunchOptions& options, SettingsStore& store) {
   OverlayStore overlay(store);
   const bool overlaid = !options.root.isEmpty() || !options.library.isEmpty();
   if (!options.root.isEmpty()) {
@@ -197,7 +203,10 @@ int Launch(QApplication& application, const LaunchOptions& options, SettingsStor
     session.TablesInBackground = true;
   }
   if (options.seed) session.random = RandomSource(*options.seed);
-  return RunSession(application, options, session, host);
+  application.host = &host;
+  const int exitCode = RunSession(application, options, session, host);
+  application.host = nullptr;
+  return exitCode;
 }
 
 }  // namespace tricklet::ui

@@ -12,9 +12,9 @@
 
 #include "core/settings.h"
 
-class QApplication;
-
 namespace tricklet::ui {
+
+class Application;
 
 /// What the program's command line asks for.
 struct LaunchOptions {
@@ -38,6 +38,6 @@ LaunchOptions ParseLaunch(const QStringList& arguments);
 QString HelpText();
 
 /// Runs the program on `store` and returns its exit code.
-int Launch(QApplication& application, const LaunchOptions& options, SettingsStore& store);
+int Launch(Application& application, const LaunchOptions& options, SettingsStore& store);
 
 }  // namespace tricklet::ui

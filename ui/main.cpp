@@ -4,11 +4,13 @@
 #include <string>
 #include <string_view>
 
-#include <QApplication>
+#include <QCoreApplication>
+#include <QGuiApplication>
 
 #include "library/start_up.h"
 #include "platform/settings_store.h"
 #include "platform/signals.h"
+#include "ui/application.h"
 #include "ui/launch.h"
 #include "ui/text.h"
 
@@ -42,7 +44,7 @@ int main(int argc, char** argv) {
   QGuiApplication::setDesktopFileName(QStringLiteral("org.tricklet.Tricklet"));
   if (AsksForTextOnly(argc, argv)) return ShowText(argc, argv);
 
-  QApplication application(argc, argv);
+  tricklet::ui::Application application(argc, argv);
   const LaunchOptions options = tricklet::ui::ParseLaunch(QCoreApplication::arguments());
   if (!options.error.isEmpty()) {
     std::fprintf(stderr, "%s\n", tricklet::ui::FromQt(options.error).c_str());

@@ -1,15 +1,19 @@
 // The command line of the program with a window, and its picture mode.
 #include "ui/launch.h"
 
-#include <QApplication>
 #include <QImage>
 
 #include "library/start_up.h"
 #include "tests/support/library_fixture.h"
+#include "ui/application.h"
 #include "ui/text.h"
 
 namespace tricklet::ui {
 namespace {
+
+Application& TheApplication() {
+  return static_cast<Application&>(*qApp);
+}
 
 LaunchOptions Parse(const QString& line) {
   return ParseLaunch(QStringList{QStringLiteral("tricklet")} +
@@ -31,9 +35,9 @@ TEST(LaunchTest, ReadsTheCommandLine) {
 }
 
 TEST(LaunchTest, RefusesWhatMakesNoSense) {
-  for (const char* line :
-       {"--board 0", "--board 1000", "--board x", "--size 12", "--size 0x9", "--size 1024x700x3",
-        "--size 99999x800", "--seed", "--seed x", "--seed -1", "--nonsense", "--board"}) {
+  for (const char* line : {"--board 0", "--board 1000", "--board x", "--size 12", "--size 0x9",
+                           "--size 1024x700x3", "--size 99999x800", "--seed", "--seed x",
+                           "--seed -1", "--nonsense", "--board", "--root=", "--library="}) {
     EXPECT_FALSE(Parse(QString::fromLatin1(line)).error.isEmpty()) << line;
   }
 }
@@ -49,7 +53,7 @@ TEST(LaunchTest, AnotherRootOpensALibraryThatItHas) {
   options.screenshot = PathToQt(folder.Path() / "window.png");
   for (const auto& [stored, opened] : {std::pair("Spring", "Autumn"), std::pair("Club", "Club")}) {
     store.Write("macro", "library", stored);
-    ASSERT_EQ(Launch(*qApp, options, store), 0);
+    ASSERT_EQ(Launch(TheApplication(), options, store), 0);
     EXPECT_EQ(FoldersOf(folder.Path() / "root"), (std::vector<std::string>{"Autumn", "Club"}));
     EXPECT_EQ(store.Read("macro", "library"), stored);
     EXPECT_EQ(LibraryOfRoot(folder.Path() / "root", stored), opened);
@@ -57,7 +61,6 @@ TEST(LaunchTest, AnotherRootOpensALibraryThatItHas) {
 }
 
 TEST(LaunchTest, DrawsTheWindowAndLeavesTheStoredLibraryAlone) {
-  QApplication& application = *qApp;
   const test::TempFolder folder;
   std::filesystem::create_directories(folder.Path() / "Club");
   LaunchOptions options;
@@ -66,14 +69,27 @@ TEST(LaunchTest, DrawsTheWindowAndLeavesTheStoredLibraryAlone) {
   options.screenshot = PathToQt(folder.Path() / "window.png");
   options.size = QSize(1024, 700);
   MemoryStore store;
-  EXPECT_EQ(Launch(application, options, store), 0);
+  EXPECT_EQ(Launch(TheApplication(), options, store), 0);
   const QImage image(options.screenshot);
   EXPECT_EQ(image.deviceIndependentSize().toSize(), options.size);
   EXPECT_FALSE(store.Read("macro", "library").has_value());
   EXPECT_FALSE(store.Read("macro", "filelocation").has_value());
 
   options.screenshot = PathToQt(folder.Path() / "no such folder" / "window.png");
-  EXPECT_EQ(Launch(application, options, store), 1);
+  EXPECT_EQ(Launch(TheApplication(), options, store), 1);
+}
+
+TEST(LaunchTest, WhatAnEventThrowsIsReported) {
+  class Thrower : public QObject {
+    bool event(QEvent* /*event*/) override { throw std::runtime_error("broken"); }
+  };
+  test::ScriptedHost host;
+  host.ExpectAskWith("broken\nError no. 51", Answer::Yes);
+  TheApplication().host = &host;
+  Thrower thrower;
+  QEvent event(QEvent::User);
+  EXPECT_TRUE(QCoreApplication::sendEvent(&thrower, &event));
+  TheApplication().host = nullptr;
 }
 
 }  // namespace
