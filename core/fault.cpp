@@ -41,12 +41,12 @@ void ErrorReport(Host& host, const Fault& fault) {
   if (host.Ask(text, std::string(kProgramName), Buttons::YesNo) == Answer::No) host.EndProgram();
 }
 
-Fault FaultFrom(const std::exception& failure) {
+Fault FaultFrom(const std::exception& failure, std::source_location where) {
   if (const auto* fault = dynamic_cast<const Fault*>(&failure)) return *fault;
   if (const auto* file = dynamic_cast<const std::filesystem::filesystem_error*>(&failure)) {
-    return Fault::OfFile(file->code(), PathText(file->path1()));
+    return Fault::OfFile(file->code(), PathText(file->path1()), where);
   }
-  return {FaultNumber::Unexpected, failure.what()};
+  return {FaultNumber::Unexpected, failure.what(), where};
 }
 
 }  // namespace tricklet

@@ -49,7 +49,8 @@ class Fault : public std::exception {
 /// program is ended through `host`; either way the caller returns to its own clean-up.
 void ErrorReport(Host& host, const Fault& fault);
 
-/// The fault that stands for any other exception.
-Fault FaultFrom(const std::exception& failure);
+/// The fault that stands for any other exception, which does not know its line: that of the caller.
+Fault FaultFrom(const std::exception& failure,
+                std::source_location where = std::source_location::current());
 
 }  // namespace tricklet
