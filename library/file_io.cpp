@@ -1,6 +1,7 @@
 #include "library/file_io.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <fcntl.h>
 #include <string>
@@ -28,8 +29,8 @@ constexpr int kNotThroughLinks = 0;
 int OpenToRead(const fs::path& path, int more = 0) {
   return _wopen(path.c_str(), _O_RDONLY | _O_BINARY | more);
 }
-int OpenToWrite(const fs::path& path) {
-  return _wopen(path.c_str(), _O_WRONLY | _O_BINARY | _O_CREAT | _O_TRUNC, _S_IREAD | _S_IWRITE);
+int OpenNew(const fs::path& path) {
+  return _wopen(path.c_str(), _O_WRONLY | _O_BINARY | _O_CREAT | _O_EXCL, _S_IREAD | _S_IWRITE);
 }
 int StatOf(int file, StatRecord& record) {
   return _fstat64(file, &record);
@@ -56,9 +57,9 @@ int OpenToRead(const fs::path& path, int more = 0) {
   // Without O_NONBLOCK, opening a pipe that someone named like a board would wait for ever.
   return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | more);
 }
-int OpenToWrite(const fs::path& path) {
+int OpenNew(const fs::path& path) {
   constexpr mode_t kMode = 0666;  // less the user's mask
-  return ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, kMode);
+  return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kMode);
 }
 int StatOf(int file, StatRecord& record) {
   return ::fstat(file, &record);
@@ -138,13 +139,25 @@ StatRecord RegularFile(int file, const fs::path& path) {
   return record;
 }
 
+/// A file beside `path` that did not exist, and its name in `beside`. The name does not grow with
+/// that of `path`, which may be as long as the disk allows.
+int OpenBeside(const fs::path& path, fs::path& beside) {
+  static std::atomic<unsigned> next{0};
+  for (;;) {
+    beside = path;
+    beside.replace_filename(".tricklet-" + std::to_string(ProcessId()) + "-" +
+                            std::to_string(next++) + ".new");
+    const int file = OpenNew(beside);
+    if (file >= 0 || errno != EEXIST) return file;
+  }
+}
+
 /// Lets `write` fill a new file beside `path` and puts it in its place; unless `write` says no or
 /// throws, and then nothing has changed.
 bool ReplaceBy(const fs::path& path, const std::function<bool(int)>& write) {
-  fs::path beside = path;
-  beside += "." + std::to_string(ProcessId()) + ".new";
+  fs::path beside;
   std::error_code ignored;
-  FileHandle file(OpenToWrite(beside));
+  FileHandle file(OpenBeside(path, beside));
   if (file.Get() < 0) throw Fault::OfFile(LastError(), PathText(path));
   try {
     const bool written = write(file.Get());
@@ -205,6 +218,11 @@ bool CopyWholeFile(const fs::path& from, const fs::path& to, const std::function
   const auto changed = fs::last_write_time(from, ignored);
   if (copied && !ignored) fs::last_write_time(to, changed, ignored);
   return copied;
+}
+
+bool IsTaken(const fs::path& path) {
+  std::error_code ignored;
+  return fs::exists(fs::symlink_status(path, ignored));
 }
 
 bool FileExists(const fs::path& path) {

@@ -26,6 +26,10 @@ bool CopyWholeFile(const std::filesystem::path& from, const std::filesystem::pat
 /// A file (not a folder) of this path exists.
 bool FileExists(const std::filesystem::path& path);
 
+/// Something of this path is there, if only a link to nothing. What cannot be told counts as not
+/// there.
+bool IsTaken(const std::filesystem::path& path);
+
 /// The file is marked read-only. Asked of its permissions, not by trying to open it: an
 /// administrator may open anything, and the mark is the owner's wish all the same.
 bool IsReadOnly(const std::filesystem::path& path);

@@ -1,6 +1,7 @@
 #include "library/folder_copy.h"
 
 #include <algorithm>
+#include <source_location>
 #include <utility>
 
 #include "core/fault.h"
@@ -14,9 +15,12 @@ namespace fs = std::filesystem;
 
 /// Libraries hold their boards themselves; deeper than this is no library but a mistake.
 constexpr int kDeepestFolder = 32;
+/// The staging folder's own folder for files that are replaced; no library's name begins so.
+constexpr const char* kReplaced = ".replaced";
 
-void ThrowIf(std::error_code failure, const fs::path& path) {
-  if (failure) throw Fault::OfFile(failure, PathText(path));
+void ThrowIf(std::error_code failure, const fs::path& path,
+             std::source_location where = std::source_location::current()) {
+  if (failure) throw Fault::OfFile(failure, PathText(path), where);
 }
 
 bool IsFolder(const fs::path& path) {
@@ -24,10 +28,11 @@ bool IsFolder(const fs::path& path) {
   return fs::is_directory(path, ignored);
 }
 
-/// Something of this name is there, if only a link to nothing.
-bool IsTaken(const fs::path& path) {
+/// A failure does not matter: the disk may know no such mark.
+void MarkReadOnly(const fs::path& file) {
+  constexpr auto kWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
   std::error_code ignored;
-  return fs::exists(fs::symlink_status(path, ignored));
+  fs::permissions(file, kWrite, fs::perm_options::remove, ignored);
 }
 
 /// From one place to another, whole, also where that is another disk.
@@ -197,6 +202,7 @@ bool FolderCopy::StageFile(const Item& item, const fs::path& relative) {
   const fs::path from = item.from / relative;
   try {
     if (!CopyWholeFile(from, Staged(item) / relative, [&] { return Step(item); })) return false;
+    if (IsReadOnly(from)) MarkReadOnly(Staged(item) / relative);
   } catch (const Fault&) {
     // A file that another program has removed meanwhile is no failure; a whole folder is.
     if (IsTaken(from) || !IsFolder(from.parent_path())) throw;
@@ -208,44 +214,73 @@ bool FolderCopy::StageFile(const Item& item, const fs::path& relative) {
 void FolderCopy::PutInPlace() {
   for (const Item& item : items_) {
     if (item.exists) continue;
-    std::error_code failure;
-    if (IsTaken(Target(item))) {
-      failure = std::make_error_code(std::errc::file_exists);
-    } else {
-      fs::rename(Staged(item), Target(item), failure);
-    }
-    ThrowIf(failure, Target(item));
-    placed_.push_back(&item);
+    ThrowIf(
+        IsTaken(Target(item)) ? std::make_error_code(std::errc::file_exists) : std::error_code(),
+        Target(item));
+    Put(Staged(item), Target(item));
   }
   for (const Item& item : items_) {
     if (item.exists) Merge(item);
   }
+  // All that is left in it is empty folders and what was replaced.
   std::error_code ignored;
-  fs::remove(staging_, ignored);
+  fs::remove_all(staging_, ignored);
 }
 
 void FolderCopy::Merge(const Item& item) {
   for (const fs::path& folder : item.folders) {
     if (folder.empty()) continue;
     std::error_code failure;
-    fs::create_directory(Target(item) / folder, failure);
-    ThrowIf(failure, Target(item) / folder);
+    const fs::path made = Target(item) / folder;
+    if (fs::create_directory(made, failure)) madeInside_.push_back(made);
+    ThrowIf(failure, made);
   }
   for (const fs::path& file : item.files) {
-    if (IsTaken(Staged(item) / file)) MoveFile(Staged(item) / file, Target(item) / file);
+    const fs::path target = Target(item) / file;
+    if (!IsTaken(Staged(item) / file)) continue;  // it had vanished
+    if (IsTaken(target)) KeepReplaced(target);
+    Put(Staged(item) / file, target);
+  }
+}
+
+/// Keeps a file until the copy is complete. By a second link, where the disk has links: the file is
+/// then never missing from its place.
+void FolderCopy::KeepReplaced(const fs::path& file) {
+  std::error_code failure;
+  fs::create_directory(staging_ / kReplaced, failure);
+  ThrowIf(failure, staging_ / kReplaced);
+  const fs::path kept = staging_ / kReplaced / std::to_string(replaced_++);
+  fs::create_hard_link(file, kept, failure);
+  if (failure) CopyWholeFile(file, kept, [] { return true; });
+  placed_.push_back({kept, file});
+}
+
+void FolderCopy::Put(const fs::path& from, const fs::path& to) {
+  MoveFile(from, to);
+  placed_.push_back({to, from});
+}
+
+/// Takes back what has been put in place, the last first.
+void FolderCopy::PutBack() {
+  for (; !placed_.empty(); placed_.pop_back()) {
+    try {
+      MoveFile(placed_.back().at, placed_.back().back);
+    } catch (const Fault& fault) {
+      host_.Tell("Unable to undo the copy: " + fault.Description());
+    }
   }
   std::error_code ignored;
-  for (auto folder = item.folders.rbegin(); folder != item.folders.rend(); ++folder) {
-    fs::remove(folder->empty() ? Staged(item) : Staged(item) / *folder, ignored);
+  for (; !madeInside_.empty(); madeInside_.pop_back()) {
+    fs::remove(madeInside_.back(), ignored);  // only when it is empty
   }
 }
 
 void FolderCopy::Undo() {
+  PutBack();
   std::error_code ignored;
-  for (const Item* item : placed_) fs::rename(Target(*item), Staged(*item), ignored);
-  placed_.clear();
   if (!staging_.empty()) {
-    fs::remove(staging_, ignored);  // only when it is empty
+    fs::remove(staging_ / kReplaced, ignored);  // only when it is empty
+    fs::remove(staging_, ignored);              // likewise
     if (IsTaken(staging_) && !host_.Recycle(staging_)) {
       host_.Tell("Unable to send the incomplete copy to the recycle bin:\n" + PathText(staging_));
     }

@@ -12,7 +12,8 @@ namespace tricklet {
 /// Folders on their way into one folder. They are copied into a hidden folder there first, and
 /// put in their places when all is complete, so that nothing is ever left half.
 ///
-/// Files and folders are copied. Links inside a folder and special files are not.
+/// Files and folders are copied, with their times of change and read-only marks. Links inside a
+/// folder and special files are not.
 class FolderCopy {
  public:
   /// `into` is an absolute path; it is made when it is missing.
@@ -38,6 +39,11 @@ class FolderCopy {
     std::vector<std::filesystem::path> files;
     bool exists = false;  ///< `into` already has a folder of the name
   };
+  /// What was put somewhere, and where it goes when the copy is undone.
+  struct Placed {
+    std::filesystem::path at;
+    std::filesystem::path back;
+  };
 
   std::filesystem::path Target(const Item& item) const;
   std::filesystem::path Staged(const Item& item) const;
@@ -50,14 +56,19 @@ class FolderCopy {
   bool StageFile(const Item& item, const std::filesystem::path& relative);
   void PutInPlace();
   void Merge(const Item& item);
+  void KeepReplaced(const std::filesystem::path& file);
+  void Put(const std::filesystem::path& from, const std::filesystem::path& to);
   void Undo();
+  void PutBack();
 
   Host& host_;
   std::filesystem::path into_;
   std::filesystem::path staging_;                 // empty until it has been made
   std::vector<std::filesystem::path> madeAbove_;  // `into` and what was missing above it
   std::vector<Item> items_;
-  std::vector<const Item*> placed_;
+  std::vector<Placed> placed_;
+  std::vector<std::filesystem::path> madeInside_;  // folders in folders that were there
+  int replaced_ = 0;
   int done_ = 0;
   int total_ = 0;
   int leftOut_ = 0;

@@ -13,6 +13,7 @@
 #endif
 
 #include "core/fault.h"
+#include "library/file_io.h"
 #include "tests/support/library_fixture.h"
 
 namespace tricklet {
@@ -72,6 +73,8 @@ class FolderCopyTest : public testing::Test {
 TEST_F(FolderCopyTest, CopiesNewFoldersWholeAndAddsToOldOnes) {
   const auto old = fs::file_time_type::clock::now() - std::chrono::hours(48);
   fs::last_write_time(From() / "001.txt", old);
+  WriteFile(From() / (std::string(250, 'n') + ".txt"), "as long as a name can be");
+  fs::permissions(From() / "002.txt", fs::perms::owner_read);
   FolderCopy copy(host, To());
   copy.Add(From(), "New");
   copy.Add(From(), "Old");
@@ -82,6 +85,8 @@ TEST_F(FolderCopyTest, CopiesNewFoldersWholeAndAddsToOldOnes) {
   EXPECT_EQ(Contents(To() / "Old"), expected);
   EXPECT_EQ(std::distance(fs::directory_iterator(To()), {}), 2) << "nothing else is left there";
   EXPECT_EQ(fs::last_write_time(To() / "New" / "001.txt"), old);
+  EXPECT_TRUE(IsReadOnly(To() / "New" / "002.txt"));
+  EXPECT_FALSE(IsReadOnly(To() / "New" / "001.txt"));
   EXPECT_EQ(host.recycled, std::vector<std::string>{});
   EXPECT_EQ(host.steps.back(), "Copying library Old");
 }
@@ -149,6 +154,24 @@ TEST_F(FolderCopyTest, AFolderThatAppearsMeanwhileIsNotTouched) {
   EXPECT_EQ(ReadFile(To() / "New" / "001.txt"), "another program's");
   EXPECT_FALSE(fs::exists(To() / "Aaa")) << "what was in its place already is undone too";
   EXPECT_EQ(std::distance(fs::directory_iterator(To()), {}), 2);
+}
+
+TEST_F(FolderCopyTest, BoardsThatWereReplacedComeBackWhenALaterLibraryFails) {
+  WriteFile(To() / "Old" / "notes \u00e9" / "kept", "kept");
+  WriteFile(To() / "Older" / "001.txt", "older one");
+  const auto before = Contents(To());
+  FolderCopy copy(host, To());
+  copy.Add(From(), "Old");
+  copy.Add(From(), "Older");
+  host.onStep = [this] {  // while the last files are copied, after what is in the way was found
+    if (fs::exists(To() / ".tricklet-copy-1" / "Older")) {
+      fs::create_directories(To() / "Older" / "notes \u00e9" / "deep" / "readme");
+    }
+  };
+  EXPECT_THROW(copy.Run(), Fault);
+  fs::remove_all(To() / "Older" / "notes \u00e9");
+  EXPECT_EQ(Contents(To()), before);
+  EXPECT_EQ(host.recycled, std::vector<std::string>{".tricklet-copy-1"});
 }
 
 TEST_F(FolderCopyTest, AFileThatVanishesIsNotCopiedAndAFolderThatVanishesFails) {
