@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "cli/commands.h"
 #include "cli/console_host.h"
@@ -14,6 +15,10 @@ namespace tricklet::cli {
 
 /// What the parser leaves behind: the command that was named, with its arguments.
 using Command = std::function<ExitCode(const Context&, const ConsoleHost&)>;
+
+/// For the checks of options that are names or folders: a script's empty variable must not mean
+/// another library. The complaint, empty when there is none.
+std::string NotEmpty(const std::string& text);
 
 /// Adds the argument N, a board number 1..999.
 void AddBoardArgument(CLI::App& command, int& board);

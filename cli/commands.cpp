@@ -15,19 +15,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool MakeLibrary(const Context& context) {
-  Session& session = context.session;
-  if (session.settings.filelocation.empty()) return RootExists(context);
-  if (!HasAllowedCharacters(session.LibraryName())) {
-    session.host.Tell("A library cannot be named " + session.LibraryName());
-    return false;
-  }
-  std::error_code failure;
-  fs::create_directories(session.LibraryPath(), failure);
-  if (failure) ErrorReport(session.host, Fault::OfFile(failure, PathText(session.LibraryPath())));
-  return !failure;
-}
-
 /// The name by which a setting is listed: with its section only where the key alone is not enough.
 std::string ListedName(const SettingEntry& entry) {
   const bool alone = FindSetting(entry.key) == &entry;
@@ -59,11 +46,13 @@ bool RootExists(const Context& context) {
 
 bool OpenLibrary(const Context& context, bool create) {
   Session& session = context.session;
-  std::error_code ignored;
-  if (!fs::is_directory(session.LibraryPath(), ignored) || session.LibraryName().empty()) {
-    if (create) {
-      if (!MakeLibrary(context)) return false;
-    } else {
+  if (session.settings.filelocation.empty()) return RootExists(context);
+  if (create) {
+    if (!RequireLibraryFolder(session)) return false;
+  } else {
+    if (!AcceptLibraryName(session.host, session.LibraryName())) return false;
+    std::error_code ignored;
+    if (!fs::is_directory(session.LibraryPath(), ignored)) {
       if (!RootExists(context)) return false;
       session.host.Tell("There is no library " + session.LibraryName() + " in " +
                         session.settings.filelocation);

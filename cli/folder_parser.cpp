@@ -22,7 +22,7 @@ void AddAction(CLI::App& library, Command& command, const std::string& name,
                Action action) {
   const auto asked = std::make_shared<FolderArguments>();
   CLI::App& each = *library.add_subcommand(name, description);
-  each.add_option(argument, asked->target)->required();
+  each.add_option(argument, asked->target)->required()->check(NotEmpty);
   if (!all.empty()) each.add_flag("--all", asked->all, all);
   each.callback([&command, asked, action] {
     command = [asked, action](const Context& context, const ConsoleHost&) {

@@ -94,6 +94,10 @@ void AddBoardArgument(CLI::App& command, int& board) {
       ->check(CLI::Range(kFirstBoardNumber, kLastBoardNumber));
 }
 
+std::string NotEmpty(const std::string& text) {
+  return text.empty() ? "it is empty" : "";
+}
+
 void AddLibraryCommands(CLI::App& app, Command& command) {
   AddListings(app, command);
   AddImporter(app, command, "import", "Store the boards of hand-record files (pbn, dlm, xml)",

@@ -30,8 +30,11 @@ void DescribeOptions(CLI::App& app, Arguments& arguments) {
                                         std::to_string(kVersionMinor) + "." +
                                         std::to_string(kVersionRevision));
   app.add_option("--root", arguments.root, "Folder of all libraries, for this call only")
-      ->type_name("DIR");
-  app.add_option("--library", arguments.library, "Library, for this call only")->type_name("NAME");
+      ->type_name("DIR")
+      ->check(NotEmpty);
+  app.add_option("--library", arguments.library, "Library, for this call only")
+      ->type_name("NAME")
+      ->check(NotEmpty);
   auto* yes = app.add_flag("--yes", arguments.yes, "Answer every question with yes");
   app.add_flag("--no", arguments.no, "Answer every question with no")->excludes(yes);
   app.add_flag("--quiet", arguments.quiet, "Show no progress");

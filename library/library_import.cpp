@@ -100,10 +100,7 @@ bool AcceptImport(Session& session, const fs::path& folder) {
     session.host.Tell("Please choose a sub-folder, not " + PathText(folder));
     return false;
   }
-  if (name.starts_with('.')) {
-    session.host.Tell("A library cannot be named " + name);
-    return false;
-  }
+  if (!AcceptLibraryName(session.host, name)) return false;
   if (IsTakenInRoot(session, name)) {
     session.host.Tell("You already have a library - " + name +
                       "\nPlease delete it before importing a library of the same name");
@@ -126,7 +123,7 @@ bool ImportLibrary(Session& session) {
 bool ImportLibraryFrom(Session& session, const fs::path& folder) {
   const fs::path from = FolderNamed(folder);
   const std::string name = PathText(from.filename());
-  if (!RequireFolder(session, from) || !AcceptImport(session, from) || !SettleChanges(session) ||
+  if (!RequireFolder(session, from) || !AcceptImport(session, from) ||
       !CopyLibraryFolder(session, from, FolderNamed(session.FileLocation()), name)) {
     return false;
   }
@@ -152,7 +149,8 @@ bool ImportLibrariesFrom(Session& session, const fs::path& folder) {
     return false;
   }
   if (!AskToChoose(session, QuestionText(groups, from)) ||
-      !CopyLibraries(session, from, groups.toCopy, FolderNamed(session.FileLocation()))) {
+      !CopyLibraries(session, from, groups.toCopy, FolderNamed(session.FileLocation()),
+                     Unsaved::Stay)) {
     return false;
   }
   session.host.Tell(ReportText(groups));

@@ -61,6 +61,11 @@ void RecycleBoardsAbove(Session& session, int highest) {
   }
 }
 
+void TellNotAName(Host& host, std::string_view name) {
+  host.Tell(name.empty() ? "A library needs a name"
+                         : "A library cannot be named " + Showable(name));
+}
+
 std::string_view TrimmedName(std::string_view name) {
   return Trim(name);
 }
@@ -79,7 +84,7 @@ std::vector<std::string> FoldersOf(const fs::path& root) {
        entry.increment(failure)) {
     std::string name = PathText(entry->path().filename());
     std::error_code ignored;
-    if (name.starts_with('.') || !entry->is_directory(ignored)) continue;
+    if (!IsLibraryName(name) || !entry->is_directory(ignored)) continue;
     names.push_back(std::move(name));
   }
   std::sort(names.begin(), names.end(), NameBefore);
@@ -204,6 +209,27 @@ bool SetMaxBoard(Session& session, int highest) {
   return true;
 }
 
+bool IsLibraryName(std::string_view name) {
+  const fs::path path = PathFromText(name);
+  return !name.empty() && !name.starts_with('.') && IsValidUtf8(name) && path == path.filename();
+}
+
+bool AcceptLibraryName(Host& host, std::string_view name) {
+  if (IsLibraryName(name)) return true;
+  TellNotAName(host, name);
+  return false;
+}
+
+bool RequireLibraryFolder(Session& session) {
+  const std::string& name = session.LibraryName();
+  if (!AcceptLibraryName(session.host, name)) return false;
+  std::error_code ignored;
+  if (fs::is_directory(session.LibraryPath(), ignored)) return true;
+  if (HasAllowedCharacters(name)) return MakeFolder(session, session.LibraryPath());
+  TellNotAName(session.host, name);
+  return false;
+}
+
 bool AllowedInLibraryName(char32_t character, bool first) {
   constexpr std::u32string_view kRefused = U"/:*?\"<>|.\\";  // "\" would make a folder in a folder
   if (character < 0x20 || character == 0x7F) return false;
@@ -228,13 +254,13 @@ bool IsNewLibraryName(const Session& session, std::string_view name) {
 
 bool IsTakenInRoot(const Session& session, std::string_view name) {
   const fs::path root = session.FileLocation();
-  return IsListed(FoldersOf(root), name) ||
-         fs::exists(fs::symlink_status(root / PathFromText(name)));
+  return IsListed(FoldersOf(root), name) || IsTaken(root / PathFromText(name));
 }
 
 bool AcceptNewName(Session& session, std::string_view name) {
   if (!HasAllowedCharacters(name)) {
     session.host.Beep();
+    TellNotAName(session.host, name);
     return false;
   }
   if (!IsTakenInRoot(session, name)) return true;

@@ -62,12 +62,20 @@ bool SetMaxBoard(Session& session, int highest);
 bool AllowedInLibraryName(char32_t character, bool first);
 /// All characters of `name` are allowed, and there is one.
 bool HasAllowedCharacters(std::string_view name);
+/// A folder of this name, made by whatever program, is a library: the name is a single element of a
+/// path, valid UTF-8, and does not begin with a full stop.
+bool IsLibraryName(std::string_view name);
+/// The same; else a message.
+bool AcceptLibraryName(Host& host, std::string_view name);
+/// The folder of the current library is there, or is made when its name is fit for a new one; else
+/// a message.
+bool RequireLibraryFolder(Session& session);
 /// `name` can be given to a new library of this root: allowed characters, and not yet taken in any
 /// letter case.
 bool IsNewLibraryName(const Session& session, std::string_view name);
 
-/// The same for a name that is to be used now, of the folders that there are now; else a beep for a
-/// name that could not have been typed, or a message.
+/// The same for a name that is to be used now, of the folders that there are now; else a message,
+/// and a beep for a name that could not have been typed.
 bool AcceptNewName(Session& session, std::string_view name);
 
 /// Lists the libraries again and leaves the current library and its board alone; unless that

@@ -5,6 +5,7 @@
 
 #include "core/fault.h"
 #include "core/text.h"
+#include "library/file_io.h"
 #include "library/folder_copy.h"
 #include "library/library_store.h"
 #include "library/transfer_steps.h"
@@ -16,11 +17,6 @@ namespace fs = std::filesystem;
 
 bool AskYes(Session& session, const std::string& text) {
   return session.host.Ask(text, std::string(kProgramName), Buttons::YesNo) == Answer::Yes;
-}
-
-bool Exists(const fs::path& path) {
-  std::error_code ignored;
-  return fs::exists(fs::symlink_status(path, ignored));
 }
 
 bool SameFolder(const fs::path& a, const fs::path& b) {
@@ -57,7 +53,7 @@ bool AskToCopyAll(Session& session, const fs::path& folder) {
 /// Libraries that are there already keep their boards unless the person agrees.
 bool MayOverwrite(Session& session, const std::vector<std::string>& names, const fs::path& folder) {
   const auto there = std::count_if(names.begin(), names.end(), [&](const std::string& name) {
-    return Exists(folder / PathFromText(name));
+    return IsTaken(folder / PathFromText(name));
   });
   if (there == 0) return true;
   return AskYes(session, std::to_string(there) + (there == 1 ? " library is" : " libraries are") +
@@ -65,21 +61,22 @@ bool MayOverwrite(Session& session, const std::vector<std::string>& names, const
                              "boards?");
 }
 
-/// Copies every library into another root-to-be.
-bool CopyAll(Session& session, const fs::path& folder) {
+/// Copies these libraries of the root into another root-to-be.
+bool CopyAll(Session& session, const std::vector<std::string>& names, const fs::path& folder) {
   const fs::path root = FolderNamed(session.FileLocation());
   if (FolderLiesIn(folder, root)) {
     session.host.Tell("A folder cannot be copied into itself:\n" + PathText(root) + "\nto " +
                       PathText(folder));
     return false;
   }
-  const std::vector<std::string> names = RequireLibraries(session);
-  return !names.empty() && MayOverwrite(session, names, folder) &&
-         CopyLibraries(session, root, names, folder);
+  return MayOverwrite(session, names, folder) &&
+         CopyLibraries(session, root, names, folder, Unsaved::Settled);
 }
 
 bool ExportAll(Session& session, const fs::path& folder) {
-  return SettleChanges(session) && AskToCopyAll(session, folder) && CopyAll(session, folder);
+  if (!AskToCopyAll(session, folder)) return false;
+  const std::vector<std::string> names = RequireLibraries(session);
+  return !names.empty() && CopyAll(session, names, folder);
 }
 
 /// Makes `folder` the library root, with the current library when it has that.
@@ -103,9 +100,10 @@ bool SwitchRoot(Session& session, const fs::path& folder) {
 }
 
 bool Move(Session& session, const fs::path& folder) {
-  if (!SettleChanges(session)) return false;
-  if (AskToCopyAll(session, folder) && !CopyAll(session, folder)) return false;
-  return SwitchRoot(session, folder);
+  const bool ready = AskToCopyAll(session, folder)
+                         ? CopyAll(session, FoldersOf(session.FileLocation()), folder)
+                         : SettleChanges(session);
+  return ready && SwitchRoot(session, folder);
 }
 
 }  // namespace
@@ -126,13 +124,12 @@ bool ExportLibraryTo(Session& session, const fs::path& folder) {
     session.host.Tell("That is the same folder as the existing folder");
     return false;
   }
-  if (Exists(to) &&
+  if (IsTaken(to) &&
       !AskYes(session,
               "That folder already exists\nDo you wish to overwrite any existing boards?")) {
     return false;
   }
-  return SettleChanges(session) &&
-         CopyLibraryFolder(session, session.LibraryPath(), into, session.LibraryName());
+  return CopyLibraryFolder(session, session.LibraryPath(), into, session.LibraryName());
 }
 
 bool ExportLibraries(Session& session) {
@@ -166,7 +163,7 @@ bool MoveLibrariesTo(Session& session, const fs::path& folder) {
 
 bool CopyLibrary(Session& session, std::string_view name) {
   const std::string trimmed(Trim(name));
-  if (!AcceptNewName(session, trimmed) || !SettleChanges(session)) return false;
+  if (!AcceptNewName(session, trimmed)) return false;
   if (!CopyLibraryFolder(session, session.LibraryPath(), FolderNamed(session.FileLocation()),
                          trimmed)) {
     return false;

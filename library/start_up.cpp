@@ -74,11 +74,7 @@ std::string LibraryOfRoot(const fs::path& root, const std::string& stored) {
 
 bool OpenLibraries(Session& session) {
   if (!FolderExists(session.FileLocation()) && !ChooseLibraryRoot(session)) return false;
-  std::error_code failure;
-  fs::create_directories(session.LibraryPath(), failure);
-  if (failure) {
-    ErrorReport(session.host, Fault::OfFile(failure, PathText(session.LibraryPath())));
-  }
+  RequireLibraryFolder(session);  // else the first of the root becomes the current library
   GetLibraryNames(session);
   return true;
 }

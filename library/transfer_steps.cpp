@@ -28,12 +28,13 @@ bool MayCopy(Session& session, const Pair& pair) {
   return false;
 }
 
-bool Copy(Session& session, const std::vector<Pair>& pairs, const fs::path& into) {
+bool Copy(Session& session, const std::vector<Pair>& pairs, const fs::path& into, Unsaved unsaved) {
   FolderCopy copy(session.host, into);
   for (const Pair& pair : pairs) {
     if (!MayCopy(session, pair)) return false;
     copy.Add(pair.from, pair.name);
   }
+  if (unsaved == Unsaved::Settled && !SettleChanges(session)) return false;
   try {
     if (!copy.Run()) {
       session.host.Tell("Copying cancelled");
@@ -60,6 +61,7 @@ std::optional<fs::path> BrowseFolder(Session& session, const std::string& title)
 }
 
 fs::path FolderNamed(const fs::path& folder) {
+  if (folder.empty()) throw Fault(FaultNumber::PathNotFound, "No folder was named");
   const fs::path whole = fs::absolute(folder).lexically_normal();
   return whole.has_filename() || IsDriveRoot(whole) ? whole : whole.parent_path();
 }
@@ -83,16 +85,16 @@ bool SettleChanges(Session& session) {
 }
 
 bool CopyLibraries(Session& session, const fs::path& from, const std::vector<std::string>& names,
-                   const fs::path& to) {
+                   const fs::path& to, Unsaved unsaved) {
   std::vector<Pair> pairs;
   pairs.reserve(names.size());
   for (const std::string& name : names) pairs.push_back({from / PathFromText(name), to, name});
-  return Copy(session, pairs, to);
+  return Copy(session, pairs, to, unsaved);
 }
 
 bool CopyLibraryFolder(Session& session, const fs::path& from, const fs::path& to,
                        const std::string& name) {
-  return Copy(session, {{from, to, name}}, to);
+  return Copy(session, {{from, to, name}}, to, Unsaved::Settled);
 }
 
 }  // namespace tricklet

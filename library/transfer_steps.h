@@ -1,6 +1,7 @@
 // Steps that the procedures for whole libraries share.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -13,7 +14,8 @@ namespace tricklet {
 /// The folder browser, at the parent folder of the library root.
 std::optional<std::filesystem::path> BrowseFolder(Session& session, const std::string& title);
 
-/// `folder` as an absolute path without a separator at its end (but for a drive's).
+/// `folder` as an absolute path without a separator at its end (but for a drive's). Throws `Fault`
+/// when it is empty.
 std::filesystem::path FolderNamed(const std::filesystem::path& folder);
 
 /// OK to a text that announces the folder browser.
@@ -22,15 +24,22 @@ bool AskToChoose(Session& session, const std::string& text);
 /// The folder exists; else says so.
 bool RequireFolder(Session& session, const std::filesystem::path& folder);
 
-/// Settles unsaved changes, because what is copied is what is stored. False when the person wants
-/// to stay. A board whose changes he gave up is shown as it is stored.
+/// Settles unsaved changes. False when the person wants to stay. A board whose changes he gave up
+/// is shown as it is stored.
 bool SettleChanges(Session& session);
 
-/// Copies the folders `names` of `from` into `to`; false, reported, when that failed or was
-/// cancelled and has been undone.
+/// What becomes of unsaved changes before a copy, once nothing speaks against it any more.
+enum class Unsaved : std::uint8_t {
+  Stay,     ///< what is copied does not hold them
+  Settled,  ///< what is copied is what is stored
+};
+
+/// Copies the folders `names` of `from` into `to`; false, reported, when that is refused, failed or
+/// was cancelled and has been undone.
 bool CopyLibraries(Session& session, const std::filesystem::path& from,
-                   const std::vector<std::string>& names, const std::filesystem::path& to);
-/// The same for one folder, under another name.
+                   const std::vector<std::string>& names, const std::filesystem::path& to,
+                   Unsaved unsaved);
+/// The same for one folder, under another name; unsaved changes are settled.
 bool CopyLibraryFolder(Session& session, const std::filesystem::path& from,
                        const std::filesystem::path& to, const std::string& name);
 

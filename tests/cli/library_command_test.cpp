@@ -95,7 +95,7 @@ TEST_F(LibraryCommand, RefusesWithOneAndWrongUsageIsTwo) {
     std::string message;
   } refused[] = {
       {{"copy", "club"}, "club already exists\nPlease choose a different name\n"},
-      {{"copy", "a.b"}, ""},
+      {{"copy", "a.b"}, "A library cannot be named a.b\n"},
       {{"delete", "Club"}, "Cannot delete the library currently in use\n"},
       {{"delete", "nowhere"}, "Unable to delete the library nowhere\n"},
       {{"import", Text("gone")}, "There is no folder " + Text("gone") + "\n"},
@@ -110,9 +110,27 @@ TEST_F(LibraryCommand, RefusesWithOneAndWrongUsageIsTwo) {
   EXPECT_EQ(Run({"copy", "Other"}), 1);
   EXPECT_EQ(err, "Copying cancelled\n");
   EXPECT_EQ(std::distance(fs::directory_iterator(Root()), {}), 2);
-  const std::vector<std::vector<std::string>> wrong{
-      {"copy"}, {"fetch", "x"}, {"export", "a", "b"}, {"delete", "--all", "x"}};
+  const std::vector<std::vector<std::string>> wrong{{"copy"},
+                                                    {"copy", ""},
+                                                    {"fetch", "x"},
+                                                    {"export", ""},
+                                                    {"export", "a", "b"},
+                                                    {"delete", "--all", "x"},
+                                                    {"--root=", "move", "x"},
+                                                    {"--library=", "copy", "x"}};
   for (const auto& arguments : wrong) EXPECT_EQ(Run(arguments), 2);
+}
+
+TEST_F(LibraryCommand, NoNameLeadsOutOfTheRoot) {
+  WriteFile(folder.Path() / "secret" / "001.txt", "x");
+  for (const std::string& name : {std::string("../secret"), Text("secret"), std::string("Club/."),
+                                  std::string(".."), std::string(".hidden")}) {
+    for (const char* command : {"copy", "export"}) {
+      EXPECT_EQ(Run({"--library=" + name, command, Text("to")}), 1);
+      EXPECT_EQ(err, "A library cannot be named " + name + "\n");
+    }
+  }
+  EXPECT_FALSE(fs::exists(folder.Path() / "to"));
 }
 
 #ifdef __linux__

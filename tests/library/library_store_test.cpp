@@ -165,8 +165,13 @@ TEST_F(LibraryStore, CreatesAndRenames) {
 
   host.ExpectTell("club already exists\nPlease choose a different name");
   EXPECT_FALSE(CreateLibrary(session, "club"));
+  host.ExpectTell("A library cannot be named ../up");
   EXPECT_FALSE(CreateLibrary(session, "../up"));
   EXPECT_EQ(host.beeps, 1);
+  // Longer than a folder's name can be: nothing of the kind is there, and it cannot be made.
+  host.ExpectAskWith("File name too long", Answer::Yes);
+  EXPECT_FALSE(CreateLibrary(session, std::string(300, 'n')));
+  EXPECT_EQ(session.LibraryName(), "Tuesday");
 
   ASSERT_TRUE(SelectLibrary(session, "Club"));
   CopyHand(session);

@@ -319,6 +319,34 @@ TEST_F(LibraryTransfer, MovingIsACopyAndASwitchOfTheRoot) {
   EXPECT_EQ(FoldersOf(Root()).size(), 2U) << "the old root stays";
 }
 
+TEST_F(LibraryTransfer, ChangesAreSettledOnlyOnceTheCopyIsCertain) {
+  session.board.HandChanged = true;
+  for (const bool move : {false, true}) {
+    fs::create_directories(Other() / "Teaching");
+    ExpectCopyQuestion(Answer::Yes);
+    host.ExpectAskWith("1 library is already in that folder", Answer::No);
+    EXPECT_FALSE(move ? MoveLibrariesTo(session, Other()) : ExportLibrariesTo(session, Other()));
+    EXPECT_TRUE(session.board.HandChanged);
+    fs::remove(Other() / "Teaching");
+    ExpectCopyQuestion(Answer::Yes);
+    ExpectUnsavedQuestion(Answer::Cancel);
+    EXPECT_FALSE(move ? MoveLibrariesTo(session, Other()) : ExportLibrariesTo(session, Other()));
+    ExpectNothingChanged();
+  }
+}
+
+TEST_F(LibraryTransfer, ARootWithoutLibrariesCanBeLeft) {
+  fs::remove_all(Root() / "Club");
+  fs::remove_all(Root() / "Teaching");
+  ExpectCopyQuestion(Answer::Yes);
+  host.ExpectTell("There are no libraries in " + RootText());
+  EXPECT_FALSE(ExportLibrariesTo(session, Other()));
+  ExpectCopyQuestion(Answer::Yes);
+  EXPECT_TRUE(MoveLibrariesTo(session, Other()));
+  EXPECT_EQ(session.settings.filelocation, FolderText(Other()));
+  EXPECT_EQ(session.LibraryNames, std::vector<std::string>{"Default"});
+}
+
 TEST_F(LibraryTransfer, ARootWithoutTheCurrentLibraryGetsADefault) {
   WriteFile(Other() / "Aaa" / "001.txt", "x");
   ExpectCopyQuestion(Answer::No);
@@ -340,7 +368,10 @@ TEST_F(LibraryTransfer, CopiesTheCurrentLibraryUnderANewName) {
     host.ExpectTell(std::string(Trim(name)) + " already exists\nPlease choose a different name");
     EXPECT_FALSE(CopyLibrary(session, name));
   }
-  for (const char* name : {"", "a.b", "../up"}) EXPECT_FALSE(CopyLibrary(session, name));
+  for (const std::string name : {"", "a.b", "../up"}) {
+    host.ExpectTell(name.empty() ? "A library needs a name" : "A library cannot be named " + name);
+    EXPECT_FALSE(CopyLibrary(session, name));
+  }
   EXPECT_EQ(host.beeps, 3);
   ExpectNothingChanged();
   session.board.BoardNumber = 3;
