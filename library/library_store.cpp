@@ -61,9 +61,11 @@ void RecycleBoardsAbove(Session& session, int highest) {
   }
 }
 
+constexpr std::size_t kShownOfName = 60;
+
 void TellNotAName(Host& host, std::string_view name) {
   host.Tell(name.empty() ? "A library needs a name"
-                         : "A library cannot be named " + Showable(name));
+                         : "A library cannot be named " + Showable(name, kShownOfName));
 }
 
 std::string_view TrimmedName(std::string_view name) {
@@ -244,7 +246,7 @@ bool HasAllowedCharacters(std::string_view name) {
     if (!AllowedInLibraryName(static_cast<unsigned char>(c), first)) return false;
     first = false;
   }
-  return !name.empty();
+  return !name.empty() && name.size() <= kLongestLibraryName;
 }
 
 bool IsNewLibraryName(const Session& session, std::string_view name) {

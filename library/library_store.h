@@ -60,7 +60,9 @@ bool SetMaxBoard(Session& session, int highest);
 
 /// `character` may be typed into a library's name at this place.
 bool AllowedInLibraryName(char32_t character, bool first);
-/// All characters of `name` are allowed, and there is one.
+/// What file systems take for a name, in bytes.
+inline constexpr std::size_t kLongestLibraryName = 255;
+/// All characters of `name` are allowed, and there is one, and not too many.
 bool HasAllowedCharacters(std::string_view name);
 /// A folder of this name, made by whatever program, is a library: the name is a single element of a
 /// path, valid UTF-8, and does not begin with a full stop.
