@@ -11,12 +11,6 @@
 namespace tricklet::bench {
 namespace {
 
-class NoTimer : public TrickTimer {
- public:
-  void Start(std::chrono::milliseconds /*delay*/) override {}
-  void Stop() override {}
-};
-
 /// A random deal in 3NT.
 struct Table {
   Table() {

@@ -14,13 +14,6 @@
 namespace tricklet::cli {
 namespace {
 
-/// A console shows a finished trick until the next card: nothing waits.
-class NoTimer : public TrickTimer {
- public:
-  void Start(std::chrono::milliseconds /*delay*/) override {}
-  void Stop() override {}
-};
-
 ExitCode Refuse(const Context& context, const std::string& text) {
   context.session.host.Tell(text);
   return ExitCode::Refused;

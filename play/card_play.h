@@ -23,6 +23,13 @@ class TrickTimer {
   virtual void Stop() = 0;
 };
 
+/// For who does not wait: a finished trick stays until the next card.
+class NoTimer : public TrickTimer {
+ public:
+  void Start(std::chrono::milliseconds /*delay*/) override {}
+  void Stop() override {}
+};
+
 /// How long a finished trick lies on the table.
 inline constexpr std::chrono::milliseconds kTrickDelay{2000};
 

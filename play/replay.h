@@ -43,12 +43,6 @@ class Replay {
   std::string ScoreText() const;
 
  private:
-  class NoTimer : public TrickTimer {
-   public:
-    void Start(std::chrono::milliseconds /*delay*/) override {}
-    void Stop() override {}
-  };
-
   std::string EndText() const;
 
   RecordedPlay record_;

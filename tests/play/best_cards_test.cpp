@@ -13,12 +13,6 @@
 namespace tricklet {
 namespace {
 
-class NoTimer : public TrickTimer {
- public:
-  void Start(std::chrono::milliseconds /*delay*/) override {}
-  void Stop() override {}
-};
-
 std::vector<Card> Legal(const CardPlay& play) {
   std::vector<Card> cards;
   for (int index = 0; index < kCardsInPack; ++index) {

@@ -14,12 +14,6 @@
 namespace tricklet {
 namespace {
 
-class StillTimer : public TrickTimer {
- public:
-  void Start(std::chrono::milliseconds /*delay*/) override {}
-  void Stop() override {}
-};
-
 /// Board 3, dealt at random and played at random by the rules; `states` are those after each card.
 struct Played {
   RecordedPlay record;
@@ -39,7 +33,7 @@ Played PlayAtRandom(unsigned seed) {
   }
   test::SetAuction(board, "P 1H X 2H P P P");
   test::ScriptedHost host;
-  StillTimer timer;
+  NoTimer timer;
   Board copy = board;
   CardPlay play(copy, host, timer);
   EXPECT_TRUE(play.Start());

@@ -17,12 +17,6 @@
 namespace tricklet::ui {
 namespace {
 
-class StillTimer : public TrickTimer {
- public:
-  void Start(std::chrono::milliseconds /*delay*/) override {}
-  void Stop() override {}
-};
-
 /// Four spades by South: West leads.
 Board Playable() {
   Board board;
@@ -84,7 +78,7 @@ class TablePlayTest : public testing::Test {
   Board board_ = Playable();
   Settings settings_;
   test::ScriptedHost host_;
-  StillTimer timer_;
+  NoTimer timer_;
   CardPlay play_{board_, host_, timer_};
   TableView view_;
   std::optional<Card> asked_;
