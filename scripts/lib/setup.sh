@@ -1,6 +1,6 @@
 # shellcheck shell=bash disable=SC2034
 # What the scripts share: where the checkout is, the packages that each job needs, and how they are
-# installed. To be sourced. Nothing outside the checkout is written but Debian packages.
+# installed. To be sourced. Nothing outside the checkout is written but Debian packages and caches.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 
@@ -23,8 +23,10 @@ lint_packages=(
 fuzz_packages=("clang-$clang_version" "libclang-rt-$clang_version-dev")
 smoke_packages=(xvfb xauth x11-utils)
 
-# Compilation caches, settings and runtime files of the tests stay inside the checkout.
-export CCACHE_DIR=${CCACHE_DIR:-$root/build/ccache}
+# Caches are where the user's are, so that a fresh checkout does not begin anew. Settings and runtime
+# files of the tests stay inside the checkout.
+export TRICKLET_CACHE=${TRICKLET_CACHE:-${XDG_CACHE_HOME:-${HOME:-$root/build}/.cache}}
+export CCACHE_DIR=${CCACHE_DIR:-$TRICKLET_CACHE/ccache} CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1
 
 say() { printf '==> %s\n' "$*"; }
 
