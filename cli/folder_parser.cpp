@@ -9,6 +9,12 @@
 namespace tricklet::cli {
 namespace {
 
+/// The argument of a command, as its help shows it.
+struct Target {
+  std::string name;
+  std::string description;
+};
+
 /// What the commands take: a folder or a name, and whether all libraries are meant.
 struct FolderArguments {
   std::string target;
@@ -18,11 +24,13 @@ struct FolderArguments {
 using Action = ExitCode (*)(const Context&, const FolderArguments&);
 
 void AddAction(CLI::App& library, Command& command, const std::string& name,
-               const std::string& description, const std::string& argument, const std::string& all,
+               const std::string& description, const Target& target, const std::string& all,
                Action action) {
   const auto asked = std::make_shared<FolderArguments>();
   CLI::App& each = *library.add_subcommand(name, description);
-  each.add_option(argument, asked->target)->required()->check(NotEmpty);
+  each.add_option(target.name, asked->target, target.description)
+      ->required()
+      ->check(NotEmpty);
   if (!all.empty()) each.add_flag("--all", asked->all, all);
   each.callback([&command, asked, action] {
     command = [asked, action](const Context& context, const ConsoleHost&) {
@@ -39,24 +47,29 @@ void AddFolderCommands(CLI::App& app, Command& command) {
   CLI::App& library =
       *app.add_subcommand("library", "Copy, export, import, move or delete libraries");
   library.require_subcommand(1);
-  AddAction(library, command, "copy", "Copy the library under a new name", "NAME", "",
+  AddAction(library, command, "copy", "Copy the library under a new name",
+            {"NAME", "The name of the copy"}, "",
             [](const Context& context, const FolderArguments& asked) {
               return CopyLibraryAs(context, asked.target);
             });
-  AddAction(library, command, "export", "Copy the library into a folder", "FOLDER",
-            "All libraries of the root", [](const Context& context, const FolderArguments& asked) {
+  AddAction(library, command, "export", "Copy the library into a folder",
+            {"FOLDER", "Where the copy goes; made when it is missing"}, "All libraries of the root",
+            [](const Context& context, const FolderArguments& asked) {
               return ExportFolder(context, PathFromText(asked.target), asked.all);
             });
   AddAction(library, command, "import", "Copy a folder of boards into the root as a library",
-            "FOLDER", "Every library that the folder holds",
+            {"FOLDER", "The folder of boards, or of libraries with --all"},
+            "Every library that the folder holds",
             [](const Context& context, const FolderArguments& asked) {
               return ImportFolder(context, PathFromText(asked.target), asked.all);
             });
-  AddAction(library, command, "move", "Make another folder the library root", "FOLDER", "",
+  AddAction(library, command, "move", "Make another folder the library root",
+            {"FOLDER", "The new root"}, "",
             [](const Context& context, const FolderArguments& asked) {
               return MoveRoot(context, PathFromText(asked.target));
             });
-  AddAction(library, command, "delete", "Send a library to the recycle bin", "NAME", "",
+  AddAction(library, command, "delete", "Send a library to the recycle bin",
+            {"NAME", "A library other than the current one"}, "",
             [](const Context& context, const FolderArguments& asked) {
               return DeleteLibraryNamed(context, asked.target);
             });
