@@ -23,7 +23,7 @@ std::string NotEmpty(const std::string& text);
 /// Adds the argument N, a board number 1..999.
 void AddBoardArgument(CLI::App& command, int& board);
 
-/// libraries, boards, show, import, export, settings.
+/// libraries, boards, show, import, import-lin, export, settings.
 void AddLibraryCommands(CLI::App& app, Command& command);
 /// auction, play, score.
 void AddPlayCommands(CLI::App& app, Command& command);
