@@ -10,22 +10,13 @@
 #include "formats/pbn_writer.h"
 #include "library/board_file.h"
 #include "tests/support/fake_solver.h"
+#include "tests/support/hands.h"
 #include "tests/support/scripted_host.h"
 
 namespace tricklet {
 namespace {
 
-HandTable Deal(std::string_view text) {
-  HandTable hands;
-  std::string tens;
-  for (const char c : text.substr(2)) tens += c == 'T' ? std::string("10") : std::string(1, c);
-  std::string_view rest = tens;
-  const auto first = std::string_view("NESW").find(text[0]);
-  for (int step = 0; step < kSeats; ++step) {
-    GetHand(rest, hands, SeatAfter(static_cast<Seat>(first), step));
-  }
-  return hands;
-}
+using test::HandsOf;
 
 constexpr const char* kDeal =
     "N:AKQ..JT9876.5432 J32.AKQJ.5.AKQJT T9876.T98.AKQ.98 54.765432.432.76";
@@ -43,7 +34,7 @@ TEST(GetDDS, BringsTheRecordIntoTableOrder) {
 
 TEST(GetDDS, WarnsOfAWrongNumberOfCardsAndKeepsTheTable) {
   Board board;
-  board.Hands = Deal("N:AKQ..JT987.5432 J32.AKQJ.5.AKQJT T9876.T98.AKQ.98 54.765432.432.76");
+  board.Hands = HandsOf("N:AKQ..JT987.5432 J32.AKQJ.5.AKQJT T9876.T98.AKQ.98 54.765432.432.76");
   board.MakeableValid = true;
   board.Makeable[TableSeat::North][TableStrain::Clubs] = 7;
   test::FakeSolver solver;
@@ -58,7 +49,7 @@ TEST(GetDDS, WarnsOfAWrongNumberOfCardsAndKeepsTheTable) {
 
 TEST(GetDDS, ReportsTheSolversOwnWords) {
   Board board;
-  board.Hands = Deal(kDeal);
+  board.Hands = HandsOf(kDeal);
   test::FakeSolver solver;
   test::ScriptedHost host;
   solver.failure = "Too many tables";
@@ -88,7 +79,7 @@ TEST(SolverLibrary, AgreesWithPublishedTables) {
   std::vector<MakeableTable> expected;
   for (std::string line; std::getline(file, line);) {
     if (line.empty() || line[0] == '#') continue;
-    deals.push_back(Deal(line.substr(0, line.find(';'))));
+    deals.push_back(HandsOf(line.substr(0, line.find(';'))));
     std::istringstream numbers(line.substr(line.find(';') + 1));
     MakeableTable table;
     for (const Strain strain :

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/hands.h"
+
 namespace tricklet {
 namespace {
 
@@ -16,9 +18,8 @@ TEST(Statistics, LosersOfASuit) {
 }
 
 TEST(Statistics, CountsPointsLengthsAndMissingCards) {
-  HandTable hands;
-  std::string_view deal = "AKQ2.AJ105..K43 J3.K2.A98765.Q108 1098.Q87.KQJ.AJ75 7654.9643.10432.9";
-  for (const Seat seat : kAllSeats) GetHand(deal, hands, seat);
+  HandTable hands =
+      test::HandsOf("N:AKQ2.AJT5..K43 J3.K2.A98765.QT8 T98.Q87.KQJ.AJ75 7654.9643.T432.9");
   const Statistics statistics = GetStats(hands);
   EXPECT_EQ(statistics.SeatHCP[Seat::North], 17);
   EXPECT_EQ(statistics.SeatLTC[Seat::North], 3);  // 0 spades, 1 hearts (A J 10), 2 clubs

@@ -3,51 +3,38 @@
 
 #include <array>
 #include <string>
-#include <string_view>
 #include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "tests/support/hands.h"
 #include "ui/table_words.h"
 
 namespace tricklet::ui {
 namespace {
 
-using Deal = std::array<std::string_view, kSeats>;
+using test::HandsOf;
 
-HandTable ToHands(const Deal& deal) {
-  HandTable hands;
-  for (const Seat seat : kAllSeats) {
-    std::string_view text = deal.at(static_cast<std::size_t>(seat));
-    GetHand(text, hands, seat);
-  }
-  return hands;
-}
+const std::string kOrdinary =
+    "N:AQ975.K86.KT2.J4 84.T732.AQ3.T652 KJT3.A4.9654.AK7 62.QJ95.J87.Q983";
+const std::string kWholePack = "N:AKQJT98765432.AKQJT98765432.AKQJT98765432.AKQJT98765432 - - -";
 
-constexpr std::string_view kSuit = "AKQJ1098765432";
-const std::string kPack = std::string(kSuit) + "." + std::string(kSuit) + "." + std::string(kSuit) +
-                          "." + std::string(kSuit);
-
-constexpr Deal kOrdinary{"AQ975.K86.K102.J4", "84.10732.AQ3.10652", "KJ103.A4.9654.AK7",
-                         "62.QJ95.J87.Q983"};
-
-const std::array<Deal, 6> kDeals{{
+const std::array kDeals{
     kOrdinary,
-    {"AQ975.K8652.K102.", "84.A73.AQ3.AJ652", "KJ103.QJ1094..K1087", ".J98765.Q943.962"},
-    {"K2..KQJ2.AKQJ987", "AQJ109876543.2.A.", "..10987654.6543210", "..5.AKQJ1098765432"},
-    {"A", "-", "-.2", "-.-.-.10"},
-    {kPack, "-", "-", "-"},
-    {"-", "-", "-", kPack},
-}};
+    std::string("N:AQ975.K8652.KT2. 84.A73.AQ3.AJ652 KJT3.QJT94..KT87 .J98765.Q943.962"),
+    std::string("N:K2..KQJ2.AKQJ987 AQJT9876543.2.A. ..T987654.6543210 ..5.AKQJT98765432"),
+    std::string("N:A - -.2 -.-.-.T"),
+    kWholePack,
+    "W" + kWholePack.substr(1)};
 
 // Down to the view's minimum size, square, wide, tall, and up to 4K.
 const std::array kSizes{QSizeF(380, 340),  QSizeF(520, 480),   QSizeF(760, 680),  QSizeF(520, 900),
                         QSizeF(1600, 600), QSizeF(1600, 1000), QSizeF(3840, 2160)};
 
-class TableGeometry : public testing::TestWithParam<std::tuple<QSizeF, Deal>> {
+class TableGeometry : public testing::TestWithParam<std::tuple<QSizeF, std::string>> {
  protected:
-  HandTable hands_ = ToHands(std::get<1>(GetParam()));
+  HandTable hands_ = HandsOf(std::get<1>(GetParam()));
   TableLayout layout_ = LayOutTable(std::get<0>(GetParam()), hands_, HandDisplay::Cards);
 };
 
@@ -100,7 +87,7 @@ std::vector<PlacedCard> CardsOfSeat(const TableLayout& layout, Seat seat) {
 }
 
 TEST(TableLayoutTest, FansNorthInOneRowBySuitsOfAlternatingColour) {
-  const TableLayout layout = LayOutTable({760, 680}, ToHands(kOrdinary), HandDisplay::Cards);
+  const TableLayout layout = LayOutTable({760, 680}, HandsOf(kOrdinary), HandDisplay::Cards);
   std::string suits;
   double right = 0;
   for (const PlacedCard& placed : CardsOfSeat(layout, Seat::North)) {
@@ -113,9 +100,9 @@ TEST(TableLayoutTest, FansNorthInOneRowBySuitsOfAlternatingColour) {
 }
 
 TEST(TableLayoutTest, GivesEastARowForEachSuitHeldAndBreaksALongOne) {
-  const auto rows = [](std::string_view east) {
+  const auto rows = [](const std::string& east) {
     const TableLayout layout =
-        LayOutTable({520, 480}, ToHands({"-", east, "-", "-"}), HandDisplay::Cards);
+        LayOutTable({520, 480}, HandsOf("E:" + east + " - - -"), HandDisplay::Cards);
     std::string text;
     double y = -1;
     for (const PlacedCard& placed : CardsOfSeat(layout, Seat::East)) {
@@ -134,17 +121,17 @@ TEST(TableLayoutTest, GrowsCardsWithTheTableButNotWithTheDeal) {
   double last = 0;
   for (const double scale : {1.0, 1.5, 2.0, 4.0}) {
     const QSizeF size = QSizeF(520, 480) * scale;
-    const double width = LayOutTable(size, ToHands(kOrdinary), HandDisplay::Cards).cardSize.width();
+    const double width = LayOutTable(size, HandsOf(kOrdinary), HandDisplay::Cards).cardSize.width();
     EXPECT_GT(width, last * 1.2);
-    EXPECT_EQ(width, LayOutTable(size, ToHands(kDeals[4]), HandDisplay::Cards).cardSize.width());
+    EXPECT_EQ(width, LayOutTable(size, HandsOf(kWholePack), HandDisplay::Cards).cardSize.width());
     last = width;
   }
 }
 
 TEST(TableLayoutTest, SurvivesATableWithoutRoom) {
   for (const QSizeF size : {QSizeF(0, 0), QSizeF(1, 1), QSizeF(60, 900), QSizeF(900, 20)}) {
-    for (const Deal& deal : kDeals) {
-      const TableLayout layout = LayOutTable(size, ToHands(deal), HandDisplay::Cards);
+    for (const std::string& deal : kDeals) {
+      const TableLayout layout = LayOutTable(size, HandsOf(deal), HandDisplay::Cards);
       EXPECT_GE(layout.cardSize.width(), 1);
     }
   }
@@ -153,7 +140,7 @@ TEST(TableLayoutTest, SurvivesATableWithoutRoom) {
 Board OrdinaryBoard() {
   Board board;
   board.BoardNumber = 7;
-  board.Hands = ToHands(kOrdinary);
+  board.Hands = HandsOf(kOrdinary);
   return board;
 }
 

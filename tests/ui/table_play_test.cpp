@@ -1,13 +1,13 @@
 // Playing a board on the table: what can be clicked and typed, and what is shown.
 #include <algorithm>
 #include <optional>
-#include <string_view>
 #include <vector>
 
 #include <QImage>
 #include <QtTest>
 #include <gtest/gtest.h>
 
+#include "tests/support/hands.h"
 #include "tests/support/scripted_host.h"
 #include "ui/table_centre.h"
 #include "ui/table_trick.h"
@@ -21,12 +21,8 @@ namespace {
 Board Playable() {
   Board board;
   board.BoardNumber = 7;
-  const EnumArray<Seat, std::string_view, kSeats> texts{
-      {"AQ975.K86.K102.J4", "84.10732.AQ3.10652", "KJ103.A4.9654.AK7", "62.QJ95.J87.Q983"}};
-  for (const Seat seat : kAllSeats) {
-    std::string_view text = texts[seat];
-    GetHand(text, board.Hands, seat);
-  }
+  board.Hands =
+      test::HandsOf("N:AQ975.K86.KT2.J4 84.T732.AQ3.T652 KJT3.A4.9654.AK7 62.QJ95.J87.Q983");
   board.Contract = "4S";
   board.ContractLevel = 4;
   board.Declarer = Seat::South;

@@ -1,13 +1,13 @@
 // What the table paints, and the colours that it takes from the settings.
 #include "ui/table_view.h"
 
-#include <string_view>
 #include <vector>
 
 #include <QApplication>
 #include <QImage>
 #include <gtest/gtest.h>
 
+#include "tests/support/hands.h"
 #include "ui/table_text.h"
 #include "ui/theme.h"
 
@@ -21,12 +21,8 @@ class TableViewTest : public testing::Test {
   static Board LongSuits() {
     Board board;
     board.BoardNumber = 2;
-    const EnumArray<Seat, std::string_view, kSeats> texts{
-        {"AQ975.K8652.K102.", "84.A73.AQ3.AJ652", "KJ103.QJ1094..K1087", "62..AKQJ109876543."}};
-    for (const Seat seat : kAllSeats) {
-      std::string_view text = texts[seat];
-      GetHand(text, board.Hands, seat);
-    }
+    board.Hands =
+        test::HandsOf("N:AQ975.K8652.KT2. 84.A73.AQ3.AJ652 KJT3.QJT94..KT87 62..AKQJT9876543.");
     return board;
   }
 
