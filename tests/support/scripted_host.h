@@ -15,8 +15,8 @@
 
 namespace tricklet::test {
 
-/// Fails the test on a message or question that the script does not hold, and when it is destroyed
-/// with some of the script left over.
+/// Fails the test on a message or question that the script does not hold, on an answer that the
+/// question does not offer, and when it is destroyed with some of the script left over.
 class ScriptedHost : public Host {
  public:
   ~ScriptedHost() override {
@@ -51,9 +51,11 @@ class ScriptedHost : public Host {
     if (!expected.title.empty()) {
       EXPECT_EQ(title, expected.title);
     }
-    EXPECT_TRUE(expected.answer) << "a question where a message was expected: " << text;
     const Answer cautious = buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
-    return expected.answer.value_or(cautious);
+    const Answer answer = expected.answer.value_or(cautious);
+    EXPECT_TRUE(expected.answer) << "a question where a message was expected: " << text;
+    EXPECT_TRUE(Offers(buttons, answer)) << "no button for the scripted answer: " << text;
+    return answer;
   }
   void Beep() override { ++beeps; }
   std::optional<std::filesystem::path> ChooseFolder(const std::string& title,
@@ -111,6 +113,11 @@ class ScriptedHost : public Host {
     bool part = false;
   };
 
+  static bool Offers(Buttons buttons, Answer answer) {
+    if (answer == Answer::OK) return buttons == Buttons::OKCancel;
+    if (answer == Answer::Cancel) return buttons != Buttons::YesNo;
+    return buttons != Buttons::OKCancel;
+  }
   Expected Next(const std::string& shown) {
     if (script_.empty()) {
       ADD_FAILURE() << "not expected: " << shown;
