@@ -36,6 +36,8 @@ class ScriptedHost : public Host {
   void ExpectAskWith(std::string part, Answer answer) {
     script_.push_back({std::move(part), {}, answer, true});
   }
+  /// All that was expected has been shown.
+  bool Done() const { return script_.empty(); }
   /// The next chooser's result.
   void Choose(std::optional<std::filesystem::path> path) { choices_.push_back(std::move(path)); }
 
