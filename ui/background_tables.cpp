@@ -5,6 +5,7 @@
 #include "core/text.h"
 #include "library/board_store.h"
 #include "library/tables.h"
+#include "ui/text.h"
 
 namespace tricklet::ui {
 
@@ -32,7 +33,7 @@ void BackgroundTables::Ask() {
   if (const std::string warning = DealWarning(session_.board.Hands); !warning.empty()) {
     session_.host.Tell(warning);
   } else if (!session_.GetSolver) {
-    session_.host.Tell("There is no double-dummy solver");
+    session_.host.Tell(FromQt(tr("There is no double-dummy solver")));
   } else {
     Post(true);
   }

@@ -233,7 +233,7 @@ void Commands::OpenDocument(const QString& fileName) {
   Run([&] {
     const QFileInfo document(QDir(QCoreApplication::applicationDirPath()), fileName);
     if (!document.exists()) {
-      session_.host.Tell("The help file has not been installed");
+      session_.host.Tell(FromQt(tr("The help file has not been installed")));
       return;
     }
     session_.host.OpenUrl(FromQt(QUrl::fromLocalFile(document.absoluteFilePath()).toString()));

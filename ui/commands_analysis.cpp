@@ -34,7 +34,7 @@ void Commands::AnalyseLibrary() {
     if (session_.GetSolver) {
       tricklet::AnalyseLibrary(session_, session_.GetSolver());
     } else {
-      session_.host.Tell("There is no double-dummy solver");
+      session_.host.Tell(FromQt(tr("There is no double-dummy solver")));
     }
   });
 }
