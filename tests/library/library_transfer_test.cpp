@@ -265,8 +265,6 @@ TEST_F(LibraryTransfer, ImportsAllNewLibrariesAndSaysSo) {
        "and so will not be copied\n\n2 other libraries will be copied from\n",
        "2 libraries contain no boards\nso have not been copied\n\n2 libraries have been copied"},
   };
-  ExpectUnsavedQuestion(Answer::No);
-  ASSERT_EQ(CheckSaveChanges(session), Answer::OK);
   for (const auto& c : cases) {
     const fs::path from = Other() / c.name;
     fs::create_directories(from);
