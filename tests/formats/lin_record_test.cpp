@@ -1,11 +1,15 @@
 #include "formats/lin_record.h"
 
 #include <string>
+#include <tuple>
+#include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "core/fault.h"
 #include "core/statistics.h"
+#include "tests/support/hands.h"
 
 namespace tricklet {
 namespace {
@@ -16,15 +20,8 @@ std::string CallsOf(const LinRecord& record) {
   return text;
 }
 
-int CardsOf(const LinRecord& record, Seat seat) {
-  return GetStats(record.hands).SeatCardCount[seat];
-}
-
 TEST(ReadLinData, DecodesEachEscapeOnce) {
-  const struct {
-    const char* text;
-    const char* decoded;
-  } kCases[] = {
+  const std::pair<const char*, const char*> kCases[] = {
       {"a%2Cb", "a,b"},
       {"a%2cb%2c", "a,b,"},
       {"100%25", "100%"},
@@ -34,7 +31,7 @@ TEST(ReadLinData, DecodesEachEscapeOnce) {
       {"%C3%A9 %E9", "\xC3\xA9 \xE9"},
       {"ah|Board%201|", "ah|Board 1|"},
   };
-  for (const auto& c : kCases) EXPECT_EQ(ReadLinData(c.text), c.decoded) << c.text;
+  for (const auto& [text, decoded] : kCases) EXPECT_EQ(ReadLinData(text), decoded) << text;
 }
 
 TEST(ReadLinData, ABrokenEscapeIsAFault) {
@@ -44,10 +41,7 @@ TEST(ReadLinData, ABrokenEscapeIsAFault) {
 }
 
 TEST(ReadLinData, CleansThePlayerNames) {
-  const struct {
-    const char* text;
-    const char* cleaned;
-  } kCases[] = {
+  const std::pair<const char*, const char*> kCases[] = {
       {"qx||pn|Ann#12,Bob#7,Cy,Di#3|st|#|", "qx||pn|Ann,Bob,Cy,Di|st|#|"},
       {"|pn|Ann%2312%2CBob%237|", "|pn|Ann,Bob|"},
       {"|pn|A#1#2,B|", "|pn|A,B|"},
@@ -57,14 +51,11 @@ TEST(ReadLinData, CleansThePlayerNames) {
       {"|pn", "|pn"},
       {"nt|#1|", "nt|#1|"},
   };
-  for (const auto& c : kCases) EXPECT_EQ(ReadLinData(c.text), c.cleaned) << c.text;
+  for (const auto& [text, cleaned] : kCases) EXPECT_EQ(ReadLinData(text), cleaned) << text;
 }
 
 TEST(LinFields, AreFoundThroughDoubledBarsLineEndsAndStrayText) {
-  const struct {
-    const char* text;
-    const char* fields;
-  } kCases[] = {
+  const std::pair<const char*, const char*> kCases[] = {
       {"md|1,,|pg||mb|p|", "md=1,, pg= mb=p "},
       {"pg||qent|A & B|qens|C||qenns|1.5||qend|||qenl|x",
        "pg= qent=A & B qens=C qenns=1.5 qend= qenl=x "},
@@ -75,13 +66,13 @@ TEST(LinFields, AreFoundThroughDoubledBarsLineEndsAndStrayText) {
       {"text without a bar", ""},
       {"md", "md= "},
   };
-  for (const auto& c : kCases) {
+  for (const auto& [text, fields] : kCases) {
     std::string found;
-    std::string_view rest = c.text;
+    std::string_view rest = text;
     for (LinField field; NextLinField(rest, field);) {
       found += std::string(field.tag) + "=" + std::string(field.value) + " ";
     }
-    EXPECT_EQ(found, c.fields) << c.text;
+    EXPECT_EQ(found, fields) << text;
   }
 }
 
@@ -93,19 +84,13 @@ TEST(ParseLinRecord, ReadsAWholeRecord) {
   EXPECT_EQ(record.boardNumber, 12);
   EXPECT_FALSE(record.closedRoom);
   EXPECT_EQ(record.dealer, Seat::South);
-  EXPECT_EQ(record.players[Seat::South], "Sue");
-  EXPECT_EQ(record.players[Seat::West], "Wes");
-  EXPECT_EQ(record.players[Seat::North], "Nan");
-  EXPECT_EQ(record.players[Seat::East], "Eve");
-  EXPECT_EQ(HoldingText(record.hands[Seat::South][Suit::Spades]), " A J 7 6");
-  EXPECT_EQ(HoldingText(record.hands[Seat::West][Suit::Diamonds]), " A 10");
-  EXPECT_EQ(HoldingText(record.hands[Seat::North][Suit::Clubs]), " 10 8 2");
-  EXPECT_EQ(HoldingText(record.hands[Seat::East][Suit::Hearts]), " 4 2");
-  EXPECT_TRUE(GetStats(record.hands).AllHandsComplete);
+  EXPECT_EQ(record.players, (PerSeat<std::string>{{"Nan", "Eve", "Sue", "Wes"}}));
+  EXPECT_EQ(record.hands, test::HandsOf("N:852.Q85.K875.T82 Q943.42.Q96.Q763 "
+                                        "AJ76.KJT6.J432.A KT.A973.AT.KJ954"));
   EXPECT_TRUE(record.hasAuction);
   EXPECT_EQ(CallsOf(record), "2D 2NT Dbl Rdbl Pass");
-  ASSERT_EQ(record.play.size(), 2U);
-  EXPECT_EQ(record.play[1], (Card{Suit::Hearts, Rank::Two}));
+  EXPECT_EQ(record.play,
+            (std::vector<Card>{{Suit::Hearts, Rank::Five}, {Suit::Hearts, Rank::Two}}));
   EXPECT_EQ(record.claim, 9);
   EXPECT_EQ(record.results[LinResultTag::Qent], "Sue & Nan");
   EXPECT_EQ(record.results[LinResultTag::Qenns], "-1.5");
@@ -114,12 +99,7 @@ TEST(ParseLinRecord, ReadsAWholeRecord) {
 
 TEST(ParseLinRecord, ReadsDealsLeniently) {
   constexpr int kRest = kCardsInPack - 3;
-  const struct {
-    const char* deal;
-    bool hasDeal;
-    PerSeat<int> cards;  // North, East, South, West
-    bool repeats;
-  } kCases[] = {
+  const std::tuple<const char*, bool, PerSeat<int>, bool> kCases[] = {
       {"3SA,SK,SQ,", true, {{1, kRest, 1, 1}}, false},
       {"3SA,SK,SQ", true, {{1, kRest, 1, 1}}, false},
       {"3,SA,SK,SQ", true, {{1, 1, kRest, 1}}, false},
@@ -133,21 +113,16 @@ TEST(ParseLinRecord, ReadsDealsLeniently) {
       {"3", false, {}, false},
       {"3,,,", false, {}, false},
   };
-  for (const auto& c : kCases) {
-    const LinRecord record = ParseLinRecord("qx|o1|md|" + std::string(c.deal) + "|");
-    EXPECT_EQ(record.hasDeal, c.hasDeal) << c.deal;
-    EXPECT_EQ(record.repeatsCard, c.repeats) << c.deal;
-    for (const Seat seat : kAllSeats) EXPECT_EQ(CardsOf(record, seat), c.cards[seat]) << c.deal;
+  for (const auto& [deal, hasDeal, cards, repeats] : kCases) {
+    const LinRecord record = ParseLinRecord("qx|o1|md|" + std::string(deal) + "|");
+    EXPECT_EQ(record.hasDeal, hasDeal) << deal;
+    EXPECT_EQ(record.repeatsCard, repeats) << deal;
+    EXPECT_EQ(GetStats(record.hands).SeatCardCount, cards) << deal;
   }
 }
 
 TEST(ParseLinRecord, FindsTheBoardAndTheRoom) {
-  const struct {
-    const char* text;
-    int board;
-    bool closed;
-    const char* south;
-  } kCases[] = {
+  const std::tuple<const char*, int, bool, const char*> kCases[] = {
       {"qx|o46|", 46, false, ""},
       {"qx|c46|pn|a,b,c,d,e,f,g,h|", 46, true, "e"},
       {"pn|a,b,c,d,e,f,g,h|qx|o46|", 46, false, "a"},
@@ -160,27 +135,24 @@ TEST(ParseLinRecord, FindsTheBoardAndTheRoom) {
       {"qx||", 0, false, ""},
       {"ah|Board 99999999999|", 32767, false, ""},
   };
-  for (const auto& c : kCases) {
-    const LinRecord record = ParseLinRecord(c.text);
-    EXPECT_EQ(record.boardNumber, c.board) << c.text;
-    EXPECT_EQ(record.closedRoom, c.closed) << c.text;
-    EXPECT_EQ(record.players[Seat::South], c.south) << c.text;
+  for (const auto& [text, board, closed, south] : kCases) {
+    const LinRecord record = ParseLinRecord(text);
+    EXPECT_EQ(record.boardNumber, board) << text;
+    EXPECT_EQ(record.closedRoom, closed) << text;
+    EXPECT_EQ(record.players[Seat::South], south) << text;
   }
 }
 
 TEST(ParseLinRecord, ReadsCalls) {
-  const struct {
-    const char* value;
-    const char* calls;
-  } kCases[] = {
+  const std::pair<const char*, const char*> kCases[] = {
       {"1N", "1NT"}, {"1nt", "1NT"},
       {"P", "Pass"}, {"d", "Dbl"},
       {"R", "Rdbl"}, {"3C!", "3C"},
       {"!3C", "3C"}, {"8C", ""},
       {"?", ""},     {"1Cp1H!p2ndrppp", "1C Pass 1H Pass 2NT Dbl Rdbl Pass Pass Pass"},
   };
-  for (const auto& c : kCases) {
-    EXPECT_EQ(CallsOf(ParseLinRecord("mb|" + std::string(c.value) + "|")), c.calls) << c.value;
+  for (const auto& [value, calls] : kCases) {
+    EXPECT_EQ(CallsOf(ParseLinRecord("mb|" + std::string(value) + "|")), calls) << value;
   }
   EXPECT_FALSE(ParseLinRecord("md|3SA,,,|").hasAuction);
 }
