@@ -19,6 +19,9 @@ namespace {
 const std::string kOverwrite =
     "You will overwrite existing boards in the library - Club\nDo you wish to do that?";
 
+/// Names of controls, each with the text that is typed there; nullptr: it is clicked.
+using Choices = std::vector<std::pair<const char*, const char*>>;
+
 /// A dialog in the hands of a test.
 struct Driven {
   QDialog& dialog;
@@ -35,6 +38,9 @@ struct Driven {
     edit->setFocus();
     edit->selectAll();
     QTest::keyClicks(edit, QString::fromLatin1(text));
+  }
+  void Choose(const Choices& choices) const {
+    for (const auto& [name, text] : choices) text != nullptr ? Type(name, text) : Click(name);
   }
   void Press(Qt::Key key) const { QTest::keyClick(dialog.focusWidget(), key); }
   QString Text(const char* name) const { return Find<QComboBox>(name)->currentText(); }
@@ -92,17 +98,10 @@ TEST_F(GenerateWindowTest, TheBoardsAreStoredAsChosen) {
   Open();
   Generate([](const Driven& form) {
     EXPECT_EQ(form.Focus(), "cmbBoards_0");
-    form.Type("cmbBoards_0", "30");
-    form.Type("cmbBoards_1", "37");
-    form.Click("optSpecify_1");
-    form.Click("optSuit1_2");
-    form.Type("cmbMinPoints_0", "15");
-    form.Type("cmbMaxPoints_0", "17");
-    form.Click("optType1_1");
-    form.Click("optHandType1_1");
-    form.Click("optSuit2_0");
-    form.Type("cmbMinCards_4", "5");
-    form.Type("cmbMaxCards_7", "3");
+    form.Choose({{"cmbBoards_0", "30"}, {"cmbBoards_1", "37"}, {"optSpecify_1", nullptr}});
+    form.Choose({{"optSuit1_2", nullptr}, {"cmbMinPoints_0", "15"}, {"cmbMaxPoints_0", "17"}});
+    form.Choose({{"optType1_1", nullptr}, {"optHandType1_1", nullptr}, {"optSuit2_0", nullptr}});
+    form.Choose({{"cmbMinCards_4", "5"}, {"cmbMaxCards_7", "3"}});
     form.Press(Qt::Key_Return);
   });
   for (int number = 30; number <= 37; ++number) {
@@ -126,39 +125,29 @@ TEST_F(GenerateWindowTest, TheBoardsAreStoredAsChosen) {
 
 TEST_F(GenerateWindowTest, TheDialogRemembersWhatWasGeneratedLast) {
   Open();
-  const auto expectLast = [](const Driven& form) {
-    EXPECT_EQ(form.Text("cmbBoards_0"), QStringLiteral("41"));
-    EXPECT_EQ(form.Text("cmbBoards_1"), QStringLiteral("42"));
-    EXPECT_TRUE(form.Checked("optnGen_0"));
-    EXPECT_TRUE(form.Checked("optSpecify_1"));
-    EXPECT_TRUE(form.Checked("optSuit1_3"));
-    EXPECT_EQ(form.Text("cmbMinPoints_0"), QStringLiteral("6"));
-    EXPECT_EQ(form.Text("cmbMaxCards_2"), QStringLiteral("5"));
-    EXPECT_TRUE(form.Checked("optType1_1"));
+  const Choices chosen{
+      {"cmbBoards_1", "42"},     {"cmbBoards_0", "41"},   {"optnGen_0", nullptr},
+      {"optSpecify_1", nullptr}, {"optSuit1_3", nullptr}, {"cmbMinPoints_0", "6"},
+      {"cmbMaxCards_2", "5"},    {"optType1_1", nullptr}, {"optHandType1_1", nullptr}};
+  const auto expectLast = [&](const Driven& form) {
+    for (const auto& [name, text] : chosen) {
+      EXPECT_TRUE(text != nullptr ? FromQt(form.Text(name)) == text : form.Checked(name)) << name;
+    }
     EXPECT_EQ(form.Text("cmbHandType_0"), QStringLiteral("Weak 2"));
-    EXPECT_TRUE(form.Checked("optHandType1_1"));
     EXPECT_FALSE(form.Checked("chkPreview"));
   };
-  Generate([](const Driven& form) {
-    form.Type("cmbBoards_1", "42");
-    form.Type("cmbBoards_0", "41");
-    form.Click("optnGen_0");
-    form.Click("optSpecify_1");
-    form.Click("optSuit1_3");
-    form.Type("cmbMinPoints_0", "6");
-    form.Type("cmbMaxCards_2", "5");
-    form.Click("optType1_1");
+  Generate([&](const Driven& form) {
     form.Find<QComboBox>("cmbHandType_0")->setCurrentIndex(1);
-    form.Click("optHandType1_1");
+    form.Choose(chosen);
     form.Click("cmdGo");
   });
-  Generate([&expectLast](const Driven& form) {
+  Generate([&](const Driven& form) {
     expectLast(form);
     form.Type("cmbMinPoints_0", "9");
     form.Click("chkPreview");
     form.Press(Qt::Key_Escape);
   });
-  Generate([&expectLast](const Driven& form) {
+  Generate([&](const Driven& form) {
     expectLast(form);
     form.Click("cmdCancel");
   });
@@ -182,10 +171,7 @@ TEST_F(GenerateWindowTest, WhatDoesNotApplyIsClosed) {
     form.Click("optnGen_0");
     EXPECT_FALSE(enabled("cmbMinPoints_1") || enabled("optSuit2_0") || enabled("cmbMinCards_4"));
 
-    const struct {
-      int type;
-      const char* option;  // nullptr: the type has none
-    } kTypes[] = {
+    const std::pair<int, const char*> kTypes[] = {
         {0, "Allow a 5-card major"}, {1, "Exclude 5-card majors"}, {2, nullptr}, {3, nullptr}};
     for (const auto& [type, option] : kTypes) {
       form.Find<QComboBox>("cmbHandType_0")->setCurrentIndex(type);
@@ -240,9 +226,7 @@ TEST_F(GenerateWindowTest, NumbersOutsideTheRangeCannotBeTyped) {
     form.Type("cmbMaxPoints_0", "7");
     form.Press(Qt::Key_Tab);
     EXPECT_EQ(form.Text("cmbMinPoints_0"), QStringLiteral("7"));
-    QLineEdit* edit = form.Find<QComboBox>("cmbMinPoints_0")->lineEdit();
-    edit->setFocus();
-    edit->selectAll();
+    form.Type("cmbMinPoints_0", "");
     form.Press(Qt::Key_Delete);
     form.Press(Qt::Key_Tab);
     EXPECT_EQ(form.Text("cmbMinPoints_0"), QStringLiteral("7")) << "an empty text is none";
@@ -252,57 +236,39 @@ TEST_F(GenerateWindowTest, NumbersOutsideTheRangeCannotBeTyped) {
 
 TEST_F(GenerateWindowTest, AContradictionIsToldAndLeadsToWhereItIs) {
   Open();
-  using Work = std::function<void(const Driven&)>;
-  const struct {
-    Work work;
-    const char* message;
-    const char* focus;
-  } kCases[] = {
-      {[](const Driven& form) {
-         form.Type("cmbMinCards_1", "8");
-         form.Type("cmbMinCards_3", "6");
-       },
-       "Suit minima add up to more than 13 in hand 1", "cmbMinCards_1"},
-      {[](const Driven& form) {
-         for (const char* name : {"cmbMaxCards_4", "cmbMaxCards_5", "cmbMaxCards_6"}) {
-           form.Type(name, "2");
-         }
-         form.Type("cmbMaxCards_7", "1");
-       },
-       "Suit maxima add up to less than 13 in hand 2", "cmbMaxCards_7"},
-      {[](const Driven& form) {
-         for (const char* name : {"cmbMaxCards_0", "cmbMaxCards_1"}) form.Type(name, "0");
-         form.Type("cmbMinPoints_0", "21");
-       },
-       "Cannot have 21 points with the distribution for hand 1", "cmbMinPoints_0"},
-      {[](const Driven& form) {
-         form.Type("cmbMinPoints_0", "20");
-         form.Type("cmbMinPoints_1", "21");
-       },
-       "Too many minimum points between the 2 hands", "cmbMinPoints_1"},
-      {[](const Driven& form) {
-         form.Type("cmbMinCards_2", "7");
-         form.Type("cmbMinCards_6", "7");
-       },
-       "Too many Diamonds between the 2 hands", "cmbMinCards_6"},
-      {[](const Driven& form) { form.Click("optSuit2_0"); },
-       "Hand 2 is the same direction as hand 1", "optSuit2_0"},
+  const std::tuple<Choices, const char*, const char*> kCases[] = {
+      {{{"cmbMinCards_1", "8"}, {"cmbMinCards_3", "6"}},
+       "Suit minima add up to more than 13 in hand 1",
+       "cmbMinCards_1"},
+      {{{"cmbMaxCards_4", "2"},
+        {"cmbMaxCards_5", "2"},
+        {"cmbMaxCards_6", "2"},
+        {"cmbMaxCards_7", "1"}},
+       "Suit maxima add up to less than 13 in hand 2",
+       "cmbMaxCards_7"},
+      {{{"cmbMaxCards_0", "0"}, {"cmbMaxCards_1", "0"}, {"cmbMinPoints_0", "21"}},
+       "Cannot have 21 points with the distribution for hand 1",
+       "cmbMinPoints_0"},
+      {{{"cmbMinPoints_0", "20"}, {"cmbMinPoints_1", "21"}},
+       "Too many minimum points between the 2 hands",
+       "cmbMinPoints_1"},
+      {{{"cmbMinCards_2", "7"}, {"cmbMinCards_6", "7"}},
+       "Too many Diamonds between the 2 hands",
+       "cmbMinCards_6"},
+      {{{"optSuit2_0", nullptr}}, "Hand 2 is the same direction as hand 1", "optSuit2_0"},
       // the lengths are closed: what opens them has the focus
-      {[](const Driven& form) {
-         form.Type("cmbMinCards_0", "8");
-         form.Type("cmbMinCards_1", "8");
-         form.Click("optType1_1");
-         form.Find<QWidget>("chkPreview")->setFocus();
-       },
-       "Suit minima add up to more than 13 in hand 1", "optType1_1"},
+      {{{"cmbMinCards_0", "8"}, {"cmbMinCards_1", "8"}, {"optType1_1", nullptr}},
+       "Suit minima add up to more than 13 in hand 1",
+       "optType1_1"},
   };
-  for (const auto& c : kCases) {
+  for (const auto& [choices, message, focus] : kCases) {
     Generate([&](const Driven& form) {
-      c.work(form);
-      host.ExpectTell(c.message);
+      form.Choose(choices);
+      form.Find<QWidget>("chkPreview")->setFocus();
+      host.ExpectTell(message);
       form.Click("cmdGo");
-      EXPECT_TRUE(form.dialog.isVisible()) << c.message;
-      EXPECT_EQ(form.Focus(), c.focus) << c.message;
+      EXPECT_TRUE(form.dialog.isVisible()) << message;
+      EXPECT_EQ(form.Focus(), focus) << message;
       form.Click("cmdCancel");
     });
   }
@@ -330,8 +296,7 @@ TEST_F(GenerateWindowTest, ThePreviewTakesADealDealsAgainOrEnds) {
     });
   };
   Generate([&](const Driven& form) {
-    form.Type("cmbBoards_1", "36");
-    form.Type("cmbBoards_0", "31");
+    form.Choose({{"cmbBoards_1", "36"}, {"cmbBoards_0", "31"}});
     form.Click("chkPreview");
     form.Click("cmdGo");
     expectPreview();
@@ -369,8 +334,7 @@ TEST_F(GenerateWindowTest, CancelEndsTheRunAfterTheBoardInHand) {
     if (host.steps.back() == "Generating board 504") Click("cmdCancelImport");
   };
   Generate([](const Driven& form) {
-    form.Type("cmbBoards_1", "999");
-    form.Type("cmbBoards_0", "500");
+    form.Choose({{"cmbBoards_1", "999"}, {"cmbBoards_0", "500"}});
     form.Click("cmdGo");
   });
   EXPECT_EQ(session.library.LastBoard, 503);
@@ -386,11 +350,8 @@ TEST_F(GenerateWindowTest, TablesAreComputedWhereTheSettingsWantThem) {
   for (const bool wanted : {false, true}) {
     session.settings.AutoMakeable = wanted;
     const std::size_t solvedBefore = solver.dealsSolved;
-    const char* first = wanted ? "60" : "50";
-    const char* last = wanted ? "69" : "59";
     Generate([&](const Driven& form) {
-      form.Type("cmbBoards_1", last);
-      form.Type("cmbBoards_0", first);
+      form.Choose({{"cmbBoards_1", wanted ? "69" : "59"}, {"cmbBoards_0", wanted ? "60" : "50"}});
       form.Click("cmdGo");
     });
     EXPECT_EQ(solver.dealsSolved - solvedBefore, wanted ? 10U : 0U);
