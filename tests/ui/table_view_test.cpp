@@ -1,6 +1,7 @@
 // What the table paints, and the colours that it takes from the settings.
 #include "ui/table_view.h"
 
+#include <tuple>
 #include <vector>
 
 #include <QApplication>
@@ -28,6 +29,9 @@ class TableViewTest : public testing::Test {
 
   static QImage Picture(const Board& board, const Settings& settings, QSize size) {
     TableView view;
+    return Picture(view, board, settings, size);
+  }
+  static QImage Picture(TableView& view, const Board& board, const Settings& settings, QSize size) {
     view.resize(size);
     view.Show(board, settings);
     QImage picture(size, QImage::Format_RGB32);
@@ -56,24 +60,15 @@ TEST_F(TableViewTest, PaintsEachDesignColouringAndDisplayItsOwnWay) {
 }
 
 TEST_F(TableViewTest, ForgetsThePicturesOfCardsWhenSettingsOrSizeChange) {
-  struct Step {
-    int design;
-    bool fourColours;
-    QSize size;
-  };
+  const std::tuple<int, bool, QSize> kSteps[] = {
+      {1, true, {560, 560}}, {2, true, {560, 560}}, {2, false, {560, 560}}, {2, false, {760, 680}}};
   TableView view;
-  for (const auto& [design, fourColours, size] :
-       {Step{1, true, {560, 560}}, Step{2, true, {560, 560}}, Step{2, false, {560, 560}},
-        Step{2, false, {760, 680}}}) {
+  for (const auto& [design, fourColours, size] : kSteps) {
     Settings settings;
     settings.CardDesign = design;
     settings.SuitColour = fourColours;
-    view.resize(size);
-    view.Show(LongSuits(), settings);
-    QImage again(size, QImage::Format_RGB32);
-    again.fill(view.palette().color(QPalette::Window));
-    view.render(&again);
-    EXPECT_EQ(again, Picture(LongSuits(), settings, size)) << "design " << design;
+    EXPECT_EQ(Picture(view, LongSuits(), settings, size), Picture(LongSuits(), settings, size))
+        << "design " << design;
   }
 }
 
