@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "cli/commands.h"
+#include "cli/context.h"
 
 namespace tricklet::cli {
 

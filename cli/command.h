@@ -4,8 +4,8 @@
 #include <functional>
 #include <string>
 
-#include "cli/commands.h"
 #include "cli/console_host.h"
+#include "cli/context.h"
 
 namespace CLI {
 class App;
@@ -24,14 +24,18 @@ std::string NotEmpty(const std::string& text);
 void AddBoardArgument(CLI::App& command, int& board);
 
 /// libraries, boards, show, import, import-lin, export, settings.
+void AddBoardCommands(CLI::App& app, Command& command);
+/// library.
 void AddLibraryCommands(CLI::App& app, Command& command);
 /// auction, play, score.
 void AddPlayCommands(CLI::App& app, Command& command);
-
 /// traveller.
 void AddResultCommands(CLI::App& app, Command& command);
-
 /// analyse, link.
 void AddAnalysisCommands(CLI::App& app, Command& command);
+/// edit.
+void AddEditCommands(CLI::App& app, Command& command);
+/// generate.
+void AddGenerateCommands(CLI::App& app, Command& command);
 
 }  // namespace tricklet::cli

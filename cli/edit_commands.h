@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/command.h"
+#include "cli/context.h"
 
 namespace tricklet::cli {
 
@@ -26,8 +26,5 @@ struct EditArguments {
 /// Edits the stored board, saves it and shows its hands; or refuses with the reason, and the file
 /// is as it was.
 ExitCode EditBoard(const Context& context, const EditArguments& arguments);
-
-/// edit.
-void AddEditCommands(CLI::App& app, Command& command);
 
 }  // namespace tricklet::cli

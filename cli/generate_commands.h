@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "cli/command.h"
+#include "cli/context.h"
 #include "generate/constraints.h"
 
 namespace tricklet::cli {
@@ -37,8 +37,5 @@ Constraints ReadConstraints(const GenerateArguments& arguments,
 /// Fills boards with random deals. Arguments that cannot be read are wrong usage; constraints that
 /// contradict each other are refused.
 ExitCode GenerateBoards(const Context& context, const GenerateArguments& arguments);
-
-/// generate.
-void AddGenerateCommands(CLI::App& app, Command& command);
 
 }  // namespace tricklet::cli

@@ -1,111 +1,77 @@
-// The parser's side of the commands for libraries, boards, files and settings.
+// The parser's side of the commands for whole libraries.
 #include <memory>
 
 #include <CLI/CLI.hpp>
 
 #include "cli/command.h"
+#include "cli/library_commands.h"
 #include "core/text.h"
-#include "formats/import_lin.h"
 
 namespace tricklet::cli {
 namespace {
 
-namespace fs = std::filesystem;
+/// The argument of a command, as its help shows it.
+struct Target {
+  std::string name;
+  std::string description;
+};
 
-std::vector<fs::path> Paths(const std::vector<std::string>& texts) {
-  std::vector<fs::path> paths;
-  paths.reserve(texts.size());
-  for (const std::string& text : texts) paths.push_back(PathFromText(text));
-  return paths;
-}
+/// What the commands take: a folder or a name, and whether all libraries are meant.
+struct FolderArguments {
+  std::string target;
+  bool all = false;
+};
 
-void AddListings(CLI::App& app, Command& command) {
-  app.add_subcommand("libraries", "Each library and its number of boards")->callback([&command] {
-    command = [](const Context& context, const ConsoleHost&) { return Libraries(context); };
-  });
-  const auto longForm = std::make_shared<bool>(false);
-  auto* boards = app.add_subcommand("boards", "The numbers of the boards present");
-  boards->add_flag("--long", *longForm,
-                   "Add dealer, vulnerability, contract and whether there is a table");
-  boards->callback([&command, longForm] {
-    command = [longForm](const Context& context, const ConsoleHost&) {
-      return Boards(context, *longForm);
-    };
-  });
-  const auto board = std::make_shared<int>(0);
-  auto* show = app.add_subcommand("show", "One board with auction, statistics and table");
-  AddBoardArgument(*show, *board);
-  show->callback([&command, board] {
-    command = [board](const Context& context, const ConsoleHost&) { return Show(context, *board); };
-  });
-}
+using Action = ExitCode (*)(const Context&, const FolderArguments&);
 
-void AddImporter(CLI::App& app, Command& command, const char* name, const char* description,
-                 Importer import) {
-  const auto files = std::make_shared<std::vector<std::string>>();
-  auto* reader = app.add_subcommand(name, description);
-  reader->add_option("FILE", *files, "Files, told apart by their ending")->required();
-  reader->callback([&command, files, import] {
-    command = [files, import](const Context& context, const ConsoleHost& host) {
-      return ImportFiles(context, import, Paths(*files), [&host] { return host.Ended(); });
-    };
-  });
-}
-
-void AddExport(CLI::App& app, Command& command) {
-  struct Range {
-    std::string first;
-    std::string last;
-    std::string file;
-  };
-  const auto range = std::make_shared<Range>();
-  auto* writer = app.add_subcommand("export", "Write boards to a hand-record file (pbn, dlm, lin)");
-  writer->add_option("FIRST", range->first, "First board")->required();
-  writer->add_option("LAST", range->last, "Last board")->required();
-  writer->add_option("FILE", range->file, "File; its ending selects the format")->required();
-  writer->callback([&command, range] {
-    command = [range](const Context& context, const ConsoleHost&) {
-      return ExportBoards(context, range->first, range->last, PathFromText(range->file));
-    };
-  });
-}
-
-void AddSettings(CLI::App& app, Command& command) {
-  struct Setting {
-    std::string key;
-    std::optional<std::string> value;
-  };
-  const auto setting = std::make_shared<Setting>();
-  auto* settings = app.add_subcommand("settings", "List, read or write settings");
-  settings->add_option("KEY", setting->key, "Name of a setting");
-  settings->add_option("VALUE", setting->value, "New value");
-  settings->callback([&command, setting] {
-    command = [setting](const Context& context, const ConsoleHost&) {
-      return SettingsCommand(context, setting->key, setting->value);
+void AddAction(CLI::App& library, Command& command, const std::string& name,
+               const std::string& description, const Target& target, const std::string& all,
+               Action action) {
+  const auto asked = std::make_shared<FolderArguments>();
+  CLI::App& each = *library.add_subcommand(name, description);
+  each.add_option(target.name, asked->target, target.description)->required()->check(NotEmpty);
+  if (!all.empty()) each.add_flag("--all", asked->all, all);
+  each.callback([&command, asked, action] {
+    command = [asked, action](const Context& context, const ConsoleHost&) {
+      // A board that is loaded along the way is not to be solved here.
+      context.session.GetSolver = {};
+      return action(context, *asked);
     };
   });
 }
 
 }  // namespace
 
-void AddBoardArgument(CLI::App& command, int& board) {
-  command.add_option("N", board, "Board number")
-      ->required()
-      ->check(CLI::Range(kFirstBoardNumber, kLastBoardNumber));
-}
-
-std::string NotEmpty(const std::string& text) {
-  return text.empty() ? "it is empty" : "";
-}
-
 void AddLibraryCommands(CLI::App& app, Command& command) {
-  AddListings(app, command);
-  AddImporter(app, command, "import", "Store the boards of hand-record files (pbn, dlm, xml)",
-              ImportFile);
-  AddImporter(app, command, "import-lin", "Store the boards and records of LIN files",
-              ImportLinFile);
-  AddExport(app, command);
-  AddSettings(app, command);
+  CLI::App& library =
+      *app.add_subcommand("library", "Copy, export, import, move or delete libraries");
+  library.require_subcommand(1);
+  AddAction(library, command, "copy", "Copy the library under a new name",
+            {"NAME", "The name of the copy"}, "",
+            [](const Context& context, const FolderArguments& asked) {
+              return CopyLibraryAs(context, asked.target);
+            });
+  AddAction(library, command, "export", "Copy the library into a folder",
+            {"FOLDER", "Where the copy goes; made when it is missing"}, "All libraries of the root",
+            [](const Context& context, const FolderArguments& asked) {
+              return ExportFolder(context, PathFromText(asked.target), asked.all);
+            });
+  AddAction(library, command, "import", "Copy a folder of boards into the root as a library",
+            {"FOLDER", "The folder of boards, or of libraries with --all"},
+            "Every library that the folder holds",
+            [](const Context& context, const FolderArguments& asked) {
+              return ImportFolder(context, PathFromText(asked.target), asked.all);
+            });
+  AddAction(library, command, "move", "Make another folder the library root",
+            {"FOLDER", "The new root"}, "",
+            [](const Context& context, const FolderArguments& asked) {
+              return MoveRoot(context, PathFromText(asked.target));
+            });
+  AddAction(library, command, "delete", "Send a library to the recycle bin",
+            {"NAME", "A library other than the current one"}, "",
+            [](const Context& context, const FolderArguments& asked) {
+              return DeleteLibraryNamed(context, asked.target);
+            });
 }
 
 }  // namespace tricklet::cli

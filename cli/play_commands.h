@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/commands.h"
+#include "cli/context.h"
 
 namespace tricklet::cli {
 

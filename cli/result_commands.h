@@ -1,7 +1,7 @@
 // The commands for the results that a library keeps.
 #pragma once
 
-#include "cli/commands.h"
+#include "cli/context.h"
 
 namespace tricklet::cli {
 

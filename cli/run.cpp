@@ -3,9 +3,6 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/command.h"
-#include "cli/edit_commands.h"
-#include "cli/folder_commands.h"
-#include "cli/generate_commands.h"
 #include "core/fault.h"
 #include "core/text.h"
 #include "core/version.h"
@@ -78,12 +75,12 @@ int Run(const std::vector<std::string>& arguments, SettingsStore& store, const C
   CLI::App app;
   app.name("tricklet-cli");
   DescribeOptions(app, parsed);
+  AddBoardCommands(app, command);
   AddLibraryCommands(app, command);
   AddPlayCommands(app, command);
   AddResultCommands(app, command);
   AddAnalysisCommands(app, command);
   AddEditCommands(app, command);
-  AddFolderCommands(app, command);
   AddGenerateCommands(app, command);
   try {
     std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());

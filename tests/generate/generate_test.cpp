@@ -9,6 +9,7 @@
 #include "analysis/deal_text.h"
 #include "analysis/get_dds.h"
 #include "cli/board_text.h"
+#include "cli/command.h"
 #include "cli/edit_commands.h"
 #include "cli/generate_commands.h"
 #include "core/statistics.h"

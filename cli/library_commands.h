@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <string>
 
-#include "cli/command.h"
+#include "cli/context.h"
 
 namespace tricklet::cli {
 
@@ -18,8 +18,5 @@ ExitCode ImportFolder(const Context& context, const std::filesystem::path& folde
 ExitCode MoveRoot(const Context& context, const std::filesystem::path& folder);
 /// library delete: to the recycle bin.
 ExitCode DeleteLibraryNamed(const Context& context, const std::string& name);
-
-/// library.
-void AddFolderCommands(CLI::App& app, Command& command);
 
 }  // namespace tricklet::cli

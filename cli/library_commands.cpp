@@ -1,4 +1,4 @@
-#include "cli/folder_commands.h"
+#include "cli/library_commands.h"
 
 #include "library/library_transfer.h"
 

@@ -1,0 +1,52 @@
+#include "cli/context.h"
+
+#include "library/board_store.h"
+#include "library/file_io.h"
+#include "library/library_store.h"
+
+namespace tricklet::cli {
+
+namespace fs = std::filesystem;
+
+bool RootExists(const Context& context) {
+  std::error_code ignored;
+  const fs::path root = context.session.FileLocation();
+  if (!root.empty() && fs::is_directory(root, ignored)) return true;
+  context.session.host.Tell(root.empty()
+                                ? "There is no library root yet: name one with --root"
+                                : "There is no folder " + context.session.settings.filelocation);
+  return false;
+}
+
+bool OpenLibrary(const Context& context, bool create) {
+  Session& session = context.session;
+  if (session.settings.filelocation.empty()) return RootExists(context);
+  if (create) {
+    if (!RequireLibraryFolder(session)) return false;
+  } else {
+    if (!AcceptLibraryName(session.host, session.LibraryName())) return false;
+    std::error_code ignored;
+    if (!fs::is_directory(session.LibraryPath(), ignored)) {
+      if (!RootExists(context)) return false;
+      session.host.Tell("There is no library " + session.LibraryName() + " in " +
+                        session.settings.filelocation);
+      return false;
+    }
+  }
+  FindFiles(session);
+  return true;
+}
+
+bool LoadBoard(const Context& context, int boardNumber) {
+  Session& session = context.session;
+  if (!OpenLibrary(context, false)) return false;
+  if (!FileExists(session.BoardPath(boardNumber))) {
+    session.host.Tell("There is no board " + std::to_string(boardNumber) + " in library " +
+                      session.LibraryName());
+    return false;
+  }
+  session.board.BoardNumber = boardNumber;
+  return LoadHand(session);
+}
+
+}  // namespace tricklet::cli

@@ -1,0 +1,29 @@
+// What the commands of the command line share: the program's state, their exit codes, and opening
+// what they work on.
+#pragma once
+
+#include <iosfwd>
+
+#include "library/session.h"
+
+namespace tricklet::cli {
+
+/// What every command has: the program's state and where data goes.
+struct Context {
+  Session& session;
+  std::ostream& data;
+};
+
+enum class ExitCode : int { Done = 0, Refused = 1, Usage = 2 };
+
+/// The library root must be there; else says so and is false.
+bool RootExists(const Context& context);
+
+/// The current library must be there; else says so and is false. `create` makes it instead.
+bool OpenLibrary(const Context& context, bool create);
+
+/// Opens the library and loads the board; false, with a message, when there is none or it cannot be
+/// read.
+bool LoadBoard(const Context& context, int boardNumber);
+
+}  // namespace tricklet::cli
