@@ -34,10 +34,7 @@ ExitCode Analyse(const Context& context, const AnalyseArguments& arguments) {
     session.host.Tell("Please enter a valid range");
     return ExitCode::Refused;
   }
-  if (!session.GetSolver) {
-    session.host.Tell("There is no double-dummy solver");
-    return ExitCode::Refused;
-  }
+  if (!RequireSolver(session)) return ExitCode::Refused;
   const AnalysisOutcome outcome =
       AnalyseBoards(session, session.GetSolver(), first, last, arguments.again);
   session.host.Tell(AnalysisText(outcome));

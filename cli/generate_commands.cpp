@@ -8,6 +8,7 @@
 #include "cli/notation_text.h"
 #include "core/text.h"
 #include "generate/generate.h"
+#include "library/tables.h"
 
 namespace tricklet::cli {
 namespace {
@@ -149,10 +150,7 @@ ExitCode GenerateBoards(const Context& context, const GenerateArguments& argumen
     session.host.Tell(contradiction->text);
     return ExitCode::Refused;
   }
-  if (arguments.analyse && !session.GetSolver) {
-    session.host.Tell("There is no double-dummy solver");
-    return ExitCode::Refused;
-  }
+  if (arguments.analyse && !RequireSolver(session)) return ExitCode::Refused;
   if (!OpenLibrary(context, true)) return ExitCode::Refused;
   if (arguments.seed) session.random = RandomSource(*arguments.seed);
   const GenerateOutcome outcome =

@@ -170,6 +170,11 @@ bool StoreTable(const fs::path& path, const HandTable& hands, const MakeableTabl
   }
 }
 
+bool RequireSolver(const Session& session) {
+  if (!session.GetSolver) session.host.Tell("There is no double-dummy solver");
+  return session.GetSolver != nullptr;
+}
+
 AnalysisOutcome AnalyseBoards(Session& session, Solver& solver, int first, int last, bool again) {
   AnalysisOutcome outcome;
   outcome.failure = solver.Missing();

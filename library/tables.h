@@ -13,6 +13,9 @@ namespace tricklet {
 bool StoreTable(const std::filesystem::path& path, const HandTable& hands,
                 const MakeableTable& table);
 
+/// The program has been given a solver; else says that there is none.
+bool RequireSolver(const Session& session);
+
 struct AnalysisOutcome {
   int computed = 0;    ///< tables stored
   int incomplete = 0;  ///< boards that are no complete deal, or cannot be read

@@ -5,7 +5,6 @@
 #include "core/text.h"
 #include "library/board_store.h"
 #include "library/tables.h"
-#include "ui/text.h"
 
 namespace tricklet::ui {
 
@@ -32,9 +31,7 @@ void BackgroundTables::Look() {
 void BackgroundTables::Ask() {
   if (const std::string warning = DealWarning(session_.board.Hands); !warning.empty()) {
     session_.host.Tell(warning);
-  } else if (!session_.GetSolver) {
-    session_.host.Tell(FromQt(tr("There is no double-dummy solver")));
-  } else {
+  } else if (RequireSolver(session_)) {
     Post(true);
   }
 }

@@ -31,11 +31,7 @@ void Commands::AnalyseBoard() {
 
 void Commands::AnalyseLibrary() {
   Run([this] {
-    if (session_.GetSolver) {
-      tricklet::AnalyseLibrary(session_, session_.GetSolver());
-    } else {
-      session_.host.Tell(FromQt(tr("There is no double-dummy solver")));
-    }
+    if (RequireSolver(session_)) tricklet::AnalyseLibrary(session_, session_.GetSolver());
   });
 }
 
