@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/hands.h"
+#include "tests/ui/print.h"
 #include "ui/table_words.h"
 
 namespace tricklet::ui {

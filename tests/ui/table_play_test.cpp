@@ -9,6 +9,7 @@
 
 #include "tests/support/hands.h"
 #include "tests/support/scripted_host.h"
+#include "tests/ui/print.h"
 #include "ui/table_centre.h"
 #include "ui/table_trick.h"
 #include "ui/table_view.h"
