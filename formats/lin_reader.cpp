@@ -42,6 +42,13 @@ bool IsKept(std::string_view tag) {
   return std::find(kKept.begin(), kKept.end(), tag) != kKept.end();
 }
 
+/// What may come before a deal. Behind the page that ends a record it belongs to the next one,
+/// whose deal would otherwise get the number of the board after it.
+bool StandsBeforeDeal(std::string_view tag) {
+  constexpr std::array<std::string_view, 5> kBefore{"pn", "st", "rh", "ah", "sv"};
+  return std::find(kBefore.begin(), kBefore.end(), tag) != kBefore.end();
+}
+
 /// A record as it is collected, field by field.
 struct Collected {
   std::string_view room;    // of "qx"
@@ -77,7 +84,7 @@ class LinReader {
 
   ReadResult Read() {
     for (LinField field; !stopped_ && NextLinField(rest_, field);) {
-      if (BeginsRecord(field.tag)) EndRecord();
+      if (BeginsRecord(field)) EndRecord();
       if (!stopped_) Take(field);
     }
     if (!stopped_) EndRecord();
@@ -85,10 +92,20 @@ class LinReader {
   }
 
  private:
-  bool BeginsRecord(std::string_view tag) const {
-    if (tag == "md") return record_.hasDeal;
+  bool BeginsRecord(const LinField& field) const {
+    const std::string_view tag = field.tag;
     if (tag == "qx") return record_.hasDeal || record_.hasRoom;
-    return tag == "pn" && record_.hasDeal && (record_.hasPlayers || record_.pageEnded);
+    if (!record_.hasDeal) return false;
+    if (tag == "md") return true;
+    if (tag == "pn" && record_.hasPlayers) return true;
+    if (tag == "ah" && NamesAnotherBoard(field.value)) return true;
+    return record_.pageEnded && StandsBeforeDeal(tag);
+  }
+
+  bool NamesAnotherBoard(std::string_view header) const {
+    const int number = BoardNumberOfHeader(header);
+    const int before = BoardNumberOfHeader(record_.header);
+    return number != 0 && before != 0 && number != before;
   }
 
   void Take(const LinField& field) {

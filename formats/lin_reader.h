@@ -13,8 +13,8 @@ namespace tricklet {
 bool LooksLikeLin(std::string_view text);
 
 /// Reads all records of `text`, however they lie on lines; bytes that are no UTF-8 are taken as
-/// Latin-1. A record ends where the next one's board or deal begins. Names stay until others are
-/// given.
+/// Latin-1. A record ends where the next one's board or deal begins: behind a page mark that is any
+/// field that may stand before a deal. Names stay until others are given.
 ///
 /// The first record of a board gives its deal and auction; a further one of the same deal (the
 /// closed room, another table) is no board of its own. An auction whose dealer is not the board's

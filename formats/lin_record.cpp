@@ -138,10 +138,7 @@ void ReadRoom(std::string_view value, LinRecord& record, int& number) {
 }
 
 void ReadHeader(std::string_view value, LinRecord& record) {
-  constexpr std::string_view kBoard = "Board ";
-  if (EqualNoCase(value.substr(0, kBoard.size()), kBoard)) {
-    record.boardNumber = std::max(LeadingNumber(value.substr(kBoard.size())), 0);
-  }
+  if (const int number = BoardNumberOfHeader(value); number > 0) record.boardNumber = number;
 }
 
 void ReadResult(const LinField& field, LinRecord& record) {
@@ -151,6 +148,12 @@ void ReadResult(const LinField& field, LinRecord& record) {
 }
 
 }  // namespace
+
+int BoardNumberOfHeader(std::string_view header) {
+  constexpr std::string_view kBoard = "Board ";
+  if (!EqualNoCase(header.substr(0, kBoard.size()), kBoard)) return 0;
+  return std::max(LeadingNumber(header.substr(kBoard.size())), 0);
+}
 
 LinRecord ParseLinRecord(std::string_view text) {
   LinRecord record;

@@ -34,6 +34,9 @@ struct LinRecord {
   EnumArray<LinResultTag, std::string, kLinResultTags> results;  ///< empty where not given
 };
 
+/// N of the value "Board N" of an "ah" field; 0 when it names no board.
+int BoardNumberOfHeader(std::string_view header);
+
 /// Reads a record that is already decoded (`ReadLinData`). Nothing is an error: what cannot be read
 /// is passed over. When three hands are given and one is empty, that one receives every card that
 /// no other hand holds.

@@ -48,6 +48,17 @@ TEST(ReadLIN, FindsTheRecordsHoweverTheyLie) {
       {"one a line", "qx|o1|" + Deal() + "pg||\nqx|o2|" + Deal('4') + "pg||\n", "1 2 "},
       {"without line ends and page marks", "qx|o1|" + Deal() + "qx|o2|" + four, "1 2 "},
       {"by the deal alone", Deal() + "ah|Board 5|" + Deal('4') + "ah|Board 6|", "5 6 "},
+      {"the header before the deal, and a page mark at the end",
+       "rh||ah|Board 5|st||" + Deal() + "mb|p|pg||\nrh||ah|Board 6|st||" + Deal() +
+           "mb|p|pg||\nah|Board 7|" + Deal() + "pg||",
+       "5 6 7 "},
+      {"another header without a page mark",
+       "ah|Board 5|" + Deal() + "ah|Board 6|" + Deal() + "ah|Board 6|ah|Board 8|" + Deal(),
+       "5 6 8 "},
+      {"header and vulnerability behind pages of their own record",
+       "st||" + Deal() + "rh||ah|Board 5|sv|o|mb|p|pg||pc|CA|pg||st||" + Deal() +
+           "rh||ah|Board 6|sv|o|pg||",
+       "5 6 "},
       {"names first",
        "pn|a,b,c,d|" + Deal() + "ah|Board 1|pg||\r\npn|a,b,c,d|" + Deal() + "ah|Board 2|", "1 2 "},
       {"over several lines, with page marks",
