@@ -15,16 +15,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TextReader XmlReaderOf(Session& session, const fs::path& path) {
-  return [&session, &path](std::string bytes, BoardSink& sink) {
+ResultsReader XmlReaderOf(Session& session, const fs::path& path) {
+  return {[&session, &path](std::string bytes, BoardSink& sink) {
     return ReadXML(session, path, std::move(bytes), sink);
-  };
+  }};
 }
 
 ImportOutcome ImportChosen(Session& session, const fs::path& path) {
   const std::string type = FileTypeOf(path);
-  if (type == "pbn") return StoreFile(session, path, ReadPBN);
-  if (type == "dlm") return StoreFile(session, path, ReadDLM);
+  if (type == "pbn") return StoreFile(session, path, DealReader{ReadPBN});
+  if (type == "dlm") return StoreFile(session, path, DealReader{ReadDLM});
   if (type == "xml") return StoreFile(session, path, XmlReaderOf(session, path));
   session.host.Tell("The file must be of type pbn, dlm or xml");
   // A board whose changes the person gave up is shown as it is stored.

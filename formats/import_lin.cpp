@@ -32,8 +32,8 @@ void KeepRecords(const Session& session, LinFile& results) {
   StoreLinData(session, results);
 }
 
-TextReader ReaderInto(const Session& session) {
-  return [&session](std::string_view text, BoardSink& sink) {
+ResultsReader ReaderInto(const Session& session) {
+  return {[&session](std::string_view text, BoardSink& sink) {
     LinFile results;
     ReadResult result;
     try {
@@ -44,7 +44,7 @@ TextReader ReaderInto(const Session& session) {
     }
     KeepRecords(session, results);
     return result;
-  };
+  }};
 }
 
 ImportOutcome ImportChosen(Session& session, const fs::path& path) {

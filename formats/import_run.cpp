@@ -22,16 +22,16 @@ constexpr std::size_t kMaxHandRecordBytes = std::size_t{256} * 1024 * 1024;
 /// Stores each board in the current library and shows how far the reading has come.
 class LibrarySink : public BoardSink {
  public:
-  explicit LibrarySink(Session& session) : session_(session) {}
+  /// `recyclesResults`: they are of the boards that are replaced, and go with them.
+  LibrarySink(Session& session, bool recyclesResults)
+      : session_(session), recyclesResults_(recyclesResults) {}
 
   void Store(const Board& board) override {
     session_.board = board;
     StoreBoard(session_);
-    if (firstStored_ == 0) {
-      // The results of the boards that are replaced go with them. The import does not depend on it.
-      RecycleLinData(session_);
-      firstStored_ = board.BoardNumber;
-    }
+    if (firstStored_ != 0) return;
+    firstStored_ = board.BoardNumber;
+    if (recyclesResults_) RecycleLinData(session_);  // the import does not depend on it
   }
   bool Begin(int boardNumber, int done, int total) override {
     return session_.host.Step("Importing board " + std::to_string(boardNumber), done, total);
@@ -40,6 +40,7 @@ class LibrarySink : public BoardSink {
 
  private:
   Session& session_;
+  const bool recyclesResults_;
   int firstStored_ = 0;
 };
 
@@ -62,12 +63,14 @@ bool MayOverwriteLibrary(Session& session) {
 }
 
 /// Reads and stores; false when an unexpected failure ended it.
-bool RunReader(Session& session, std::string text, const TextReader& reader, LibrarySink& sink,
+bool RunReader(Session& session, std::string text, const RecordReader& reader, LibrarySink& sink,
                ReadResult& result) {
   try {
     const WorkScope work(session.host);
     const BatchScope batch(session);
-    result = reader(std::move(text), sink);
+    const TextReader& read =
+        std::visit([](const auto& kind) -> const TextReader& { return kind.Read; }, reader);
+    result = read(std::move(text), sink);
     return true;
   } catch (const std::exception& failure) {
     ErrorReport(session.host, FaultFrom(failure));
@@ -104,10 +107,10 @@ bool MayImport(Session& session) {
 }
 
 ImportOutcome StoreText(Session& session, std::string text, const std::string& unreadable,
-                        const TextReader& reader) {
+                        const RecordReader& reader) {
   const int boardBefore = session.board.BoardNumber;
   ReadResult result;
-  LibrarySink sink(session);
+  LibrarySink sink(session, std::holds_alternative<DealReader>(reader));
   session.board.HandChanged = false;
   if (!RunReader(session, std::move(text), reader, sink, result)) {
     return TellUnreadable(session, unreadable, boardBefore);
@@ -120,7 +123,7 @@ ImportOutcome StoreText(Session& session, std::string text, const std::string& u
           .failed = result.failed || result.badLine};
 }
 
-ImportOutcome StoreFile(Session& session, const fs::path& path, const TextReader& reader) {
+ImportOutcome StoreFile(Session& session, const fs::path& path, const RecordReader& reader) {
   const std::string unreadable = "Cannot read the file " + PathText(path);
   std::string text;
   try {
