@@ -1,6 +1,8 @@
 #include "formats/import_lin.h"
 
 #include <algorithm>
+#include <iterator>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -8,6 +10,7 @@
 #include "core/fault.h"
 #include "formats/file_type.h"
 #include "formats/import_run.h"
+#include "formats/lin_cards.h"
 #include "formats/lin_file.h"
 #include "formats/lin_reader.h"
 #include "library/board_store.h"
@@ -25,24 +28,39 @@ void SetScoring(LinFile& results) {
   results.BoardScoringAbb = match ? "IMP" : "MP";
 }
 
-/// Keeps the records of the boards stored where those of club results are kept.
-void KeepRecords(const Session& session, LinFile& results) {
-  if (results.Lin.empty()) return;
-  SetScoring(results);
+/// Without the records of the boards that `stored` has records of.
+void LeaveOutStored(LinFile& results, const std::vector<std::string>& stored) {
+  std::set<int> boards;
+  for (const std::string& record : stored) boards.insert(BoardNumberOfLin(record));
+  std::erase_if(results.Lin, [&boards](const std::string& record) {
+    return boards.contains(BoardNumberOfLin(record));
+  });
+}
+
+/// Keeps the records of the boards stored where those of club results are kept. Those of other
+/// boards that are kept there stay, with their names and their scoring.
+void KeepRecords(const Session& session, std::vector<std::string> records) {
+  if (records.empty()) return;
+  LinFile results = LoadLinData(session);
+  LeaveOutStored(results, records);
+  if (results.Empty()) results = LinFile();
+  results.Lin.insert(results.Lin.end(), std::move_iterator(records.begin()),
+                     std::move_iterator(records.end()));
+  if (results.BoardScoringMethod.empty()) SetScoring(results);
   StoreLinData(session, results);
 }
 
 ResultsReader ReaderInto(const Session& session) {
   return {[&session](std::string_view text, BoardSink& sink) {
-    LinFile results;
+    std::vector<std::string> records;
     ReadResult result;
     try {
-      result = ReadLIN(text, sink, results.Lin);
+      result = ReadLIN(text, sink, records);
     } catch (const Fault&) {
-      KeepRecords(session, results);  // the boards before the one that failed are stored
+      KeepRecords(session, std::move(records));  // the boards before the one that failed are stored
       throw;
     }
-    KeepRecords(session, results);
+    KeepRecords(session, std::move(records));
     return result;
   }};
 }

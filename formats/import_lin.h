@@ -9,7 +9,8 @@
 namespace tricklet {
 
 /// `mnuImportLin`: asks about unsaved changes and about overwriting, lets the person choose a LIN
-/// file and stores its boards in the current library, with the records themselves in "LIN.txt".
+/// file and stores its boards in the current library, with the records themselves in "LIN.txt". The
+/// records of boards that are not stored now stay there, and then so do the names and the scoring.
 ImportOutcome ImportLin(Session& session);
 
 /// The same for a file already named; told so when its name does not end in "lin".

@@ -39,8 +39,36 @@ TEST_F(ImportLinTest, StoresBoardsAndTheirRecords) {
   EXPECT_EQ(host.steps.front(), "Importing board 5");
   EXPECT_TRUE(host.recycled.empty()) << "replaced in its place";
   const LinFile results = LoadLinData(session);
-  EXPECT_EQ(results.Lin.size(), 3U);
+  EXPECT_EQ(results.Lin.size(), 4U) << "board 1 keeps its own";
   EXPECT_EQ(results.BoardScoringAbb, "IMP") << "two rooms";
+}
+
+TEST_F(ImportLinTest, ResultsOfOtherBoardsStay) {
+  LinFile session1;
+  session1.BoardScoringMethod = "CROSS_IMPS";
+  session1.BoardScoringAbb = "XIMP";
+  session1.TeamEvent.emplace();
+  session1.TeamEvent->Teams = {"1 Hearts"};
+  session1.Names = {"1 NS Ann & Bob"};
+  session1.Lin = {"qx|o1|first|", "ah|Board 2|qent|9|", "x|y|ah|Board 1|second|", "qx|o3|third|"};
+  StoreLinData(session, session1);
+  host.ExpectTell("2 hands (1-4) have been saved to the library - Club");
+  ImportLinFile(session, File(Record("o1") + Record("o4")));
+  LinFile results = LoadLinData(session);
+  ASSERT_EQ(results.Lin.size(), 4U);
+  EXPECT_EQ(results.Lin[0], session1.Lin[1]);
+  EXPECT_EQ(results.Lin[1], session1.Lin[3]);
+  EXPECT_TRUE(results.Lin[2].starts_with("qx|o1|pn|,,,|"));
+  results.Lin = session1.Lin;
+  EXPECT_EQ(results, session1) << "names and scoring";
+
+  host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
+  host.ExpectTell("4 hands (1-4) have been saved to the library - Club");
+  ImportLinFile(session, File(Record("o1") + Record("o2") + Record("o3") + Record("o4")));
+  results = LoadLinData(session);
+  EXPECT_EQ(results.Lin.size(), 4U);
+  EXPECT_EQ(results.BoardScoringAbb, "MP") << "nothing of the session is left";
+  EXPECT_TRUE(results.Names.empty());
 }
 
 TEST_F(ImportLinTest, TakesAChosenFileAndAText) {
