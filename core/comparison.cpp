@@ -1,30 +1,64 @@
 #include "core/comparison.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
+#include <map>
 
 namespace tricklet {
 namespace {
 
-/// 2 for a better score, 1 for an equal one.
-int PointsAgainst(int own, int other) {
-  if (own == other) return 1;
-  return own > other ? 2 : 0;
+/// The scores of the tables that have one, in order. A board may have thousands of them; so what a
+/// table gets comes from counting, not from going through all others.
+class SortedScores {
+ public:
+  explicit SortedScores(BoardScores scores) {
+    for (const std::optional<int> score : scores) {
+      if (score) sorted_.push_back(*score);
+    }
+    std::sort(sorted_.begin(), sorted_.end());
+  }
+
+  int Count() const { return static_cast<int>(sorted_.size()); }
+  /// Scores of at most, and of less than, `score`.
+  int UpTo(std::int64_t score) const {
+    return static_cast<int>(std::upper_bound(sorted_.begin(), sorted_.end(), score) -
+                            sorted_.begin());
+  }
+  int Below(std::int64_t score) const { return UpTo(score - 1); }
+
+ private:
+  std::vector<std::int64_t> sorted_;
+};
+
+/// Two for each score beaten and one for each equal one but the score itself.
+int PointsOf(int score, const SortedScores& scores) {
+  return scores.Below(score) + scores.UpTo(score) - 1;
 }
 
-/// For each score the sum of `compare(own, other)` over the other tables that have one.
-template <class Compare>
-std::vector<std::optional<int>> SumAgainstOthers(BoardScores scores, Compare compare) {
+/// A difference counts one IMP for each line of the scale that it reaches.
+int ImpsOf(int score, const SortedScores& scores) {
+  int imps = 0;
+  for (const int line : kImpScale) {
+    imps += scores.UpTo(std::int64_t{score} - line);
+    imps -= scores.Count() - scores.Below(std::int64_t{score} + line);
+  }
+  return imps;
+}
+
+/// `sumOf` for each score, worked out once for each that occurs: a board has far fewer different
+/// scores than tables.
+template <class Sum>
+std::vector<std::optional<int>> SumAgainstOthers(BoardScores scores, Sum sumOf) {
+  const SortedScores sorted(scores);
+  std::map<int, int> known;
   std::vector<std::optional<int>> sums(scores.size());
   for (std::size_t table = 0; table < scores.size(); ++table) {
     const std::optional<int> own = scores[table];
     if (!own) continue;
-    int sum = 0;
-    for (std::size_t i = 0; i < scores.size(); ++i) {
-      const std::optional<int> other = scores[i];
-      if (i != table && other) sum += compare(*own, *other);
-    }
-    sums[table] = sum;
+    const auto [sum, isNew] = known.try_emplace(*own);
+    if (isNew) sum->second = sumOf(*own, sorted);
+    sums[table] = sum->second;
   }
   return sums;
 }
@@ -36,7 +70,7 @@ std::vector<std::optional<PerSide<int>>> MatchPoints(BoardScores scores) {
                                     [](const auto& score) { return score.has_value(); });
   const int top = 2 * (static_cast<int>(played) - 1);
   std::vector<std::optional<PerSide<int>>> points(scores.size());
-  const auto northSouth = SumAgainstOthers(scores, PointsAgainst);
+  const auto northSouth = SumAgainstOthers(scores, PointsOf);
   for (std::size_t table = 0; table < scores.size(); ++table) {
     if (const auto own = northSouth[table]) points[table] = PerSide<int>{{*own, top - *own}};
   }
@@ -51,7 +85,7 @@ int ToImps(int difference) {
 }
 
 std::vector<std::optional<int>> CrossImps(BoardScores scores) {
-  return SumAgainstOthers(scores, [](int own, int other) { return ToImps(own - other); });
+  return SumAgainstOthers(scores, ImpsOf);
 }
 
 }  // namespace tricklet

@@ -19,12 +19,15 @@ bool IsDirection(std::string_view word) {
   return EqualNoCase(word, "NS") || EqualNoCase(word, "EW");
 }
 
-bool SamePlayers(const PairPlayers& a, const PairPlayers& b) {
-  const auto same = [](const std::string& one, const std::string& other) {
-    return EqualNoCase(one, other);
-  };
-  return (same(a.first, b.first) && same(a.second, b.second)) ||
-         (same(a.first, b.second) && same(a.second, b.first));
+std::string_view DirectionOf(Side side) {
+  return side == Side::NorthSouth ? "NS" : "EW";
+}
+
+/// The players in one order and one letter case.
+PairPlayers KeyOf(const PairPlayers& players) {
+  PairPlayers key{ToUpper(players.first), ToUpper(players.second)};
+  if (key.second < key.first) std::swap(key.first, key.second);
+  return key;
 }
 
 }  // namespace
@@ -42,30 +45,29 @@ std::string JoinPlayers(const PairPlayers& players) {
 PairNames::PairNames(const std::vector<std::string>& lines) {
   for (const std::string& line : lines) {
     std::string_view rest = line;
-    Pair pair;
-    pair.number = Showable(TakeWord(rest));
+    const std::string number = Showable(TakeWord(rest));
+    std::string direction;
     std::string_view names = rest;
     if (const std::string_view word = TakeWord(names); IsDirection(word)) {
-      pair.direction = ToUpper(word);
+      direction = ToUpper(word);
       rest = names;
     }
     const auto joint = rest.find(" & ");
     if (joint == std::string_view::npos) continue;
-    pair.players = {PlayerName(rest.substr(0, joint)), PlayerName(rest.substr(joint + 3))};
-    pairs_.push_back(std::move(pair));
+    auto& numbers =
+        numbers_[KeyOf({PlayerName(rest.substr(0, joint)), PlayerName(rest.substr(joint + 3))})];
+    for (const Side side : {Side::NorthSouth, Side::EastWest}) {
+      if (!direction.empty() && direction != DirectionOf(side)) continue;
+      Number& own = numbers[side];
+      own.text = own.known ? "" : number;
+      own.known = true;
+    }
   }
 }
 
 std::string PairNames::NumberOf(const PairPlayers& players, Side side) const {
-  const std::string_view direction = side == Side::NorthSouth ? "NS" : "EW";
-  const Pair* found = nullptr;
-  for (const Pair& pair : pairs_) {
-    const bool elsewhere = !pair.direction.empty() && pair.direction != direction;
-    if (elsewhere || !SamePlayers(pair.players, players)) continue;
-    if (found != nullptr) return "";
-    found = &pair;
-  }
-  return found == nullptr ? "" : found->number;
+  const auto found = numbers_.find(KeyOf(players));
+  return found == numbers_.end() ? "" : found->second[side].text;
 }
 
 }  // namespace tricklet

@@ -1,6 +1,7 @@
 // The pairs of a session by their players, from the names in "LIN.txt".
 #pragma once
 
+#include <map>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -31,13 +32,13 @@ class PairNames {
   std::string NumberOf(const PairPlayers& players, Side side) const;
 
  private:
-  struct Pair {
-    std::string number;
-    std::string direction;  // "NS", "EW"; in a movement in which pairs change sides, neither
-    PairPlayers players;
+  /// Of the pair of these players on one side.
+  struct Number {
+    std::string text;  // empty when several pairs have these names
+    bool known = false;
   };
 
-  std::vector<Pair> pairs_;
+  std::map<PairPlayers, PerSide<Number>> numbers_;  // by the players in one order and letter case
 };
 
 }  // namespace tricklet

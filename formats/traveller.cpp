@@ -173,26 +173,38 @@ bool HasPoints(const TravellerRow& row) {
                      [](const auto& points) { return points && *points != 0; });
 }
 
+void GiveMatchPoints(BoardScores scores, Traveller& traveller) {
+  const auto points = MatchPoints(scores);
+  for (std::size_t table = 0; table < points.size(); ++table) {
+    if (!points[table]) continue;
+    for (const Side side : {Side::NorthSouth, Side::EastWest}) {
+      traveller.Rows[table].Points[side] = static_cast<float>((*points[table])[side]);
+    }
+  }
+}
+
+void GiveImps(BoardScores scores, Traveller& traveller) {
+  const auto imps = CrossImps(scores);
+  for (std::size_t table = 0; table < imps.size(); ++table) {
+    if (!imps[table]) continue;
+    traveller.Rows[table].Points[Side::NorthSouth] = static_cast<float>(*imps[table]);
+    traveller.Rows[table].Points[Side::EastWest] = static_cast<float>(-*imps[table]);
+  }
+}
+
 void ComputePoints(Traveller& traveller, bool matchPoints, bool teams) {
   std::vector<std::optional<int>> scores;
   scores.reserve(traveller.Rows.size());
-  for (const TravellerRow& row : traveller.Rows) scores.push_back(row.Score);
+  for (TravellerRow& row : traveller.Rows) {
+    scores.push_back(row.Score);
+    row.Points.fill(std::nullopt);
+  }
   const auto played = std::count_if(scores.begin(), scores.end(),
                                     [](const auto& score) { return score.has_value(); });
-  const auto points = MatchPoints(scores);
-  const auto imps = CrossImps(scores);
-  for (std::size_t table = 0; table < scores.size(); ++table) {
-    auto& own = traveller.Rows[table].Points;
-    own.fill(std::nullopt);
-    if (!scores[table]) continue;
-    if (matchPoints) {
-      for (const Side side : {Side::NorthSouth, Side::EastWest}) {
-        own[side] = static_cast<float>((*points[table])[side]);
-      }
-    } else if (!teams || played == 2) {
-      own[Side::NorthSouth] = static_cast<float>(*imps[table]);
-      own[Side::EastWest] = static_cast<float>(-*imps[table]);
-    }
+  if (matchPoints) {
+    GiveMatchPoints(scores, traveller);
+  } else if (!teams || played == 2) {
+    GiveImps(scores, traveller);
   }
 }
 
@@ -230,6 +242,7 @@ Traveller MakeTraveller(const LinFile& file, int boardNumber) {
   traveller.BoardNumber = boardNumber;
   const PairNames pairs(file.Names);
   for (const std::string& line : file.Lin) {
+    if (traveller.Rows.size() == kMaxTravellerRows) break;
     if (BoardNumberOfLin(line) != boardNumber) continue;
     traveller.Rows.push_back(MakeRow(ParseLinRecord(line), boardNumber, pairs, matchPoints));
   }

@@ -1,6 +1,7 @@
 // The traveller of a board: what happened at each table, from the records of "LIN.txt".
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -38,6 +39,10 @@ struct Traveller {
   bool Computed = false;           ///< the file gives no points, and they follow from the scores
   std::vector<TravellerRow> Rows;  ///< in the order of the file
 };
+
+/// Most rows of a traveller; further records of the board are left out. The largest simultaneous
+/// events have some thousand tables, and a grid of more could not be looked through.
+inline constexpr std::size_t kMaxTravellerRows = 10'000;
 
 /// The traveller of `boardNumber`; without rows where the file has no record of the board.
 ///

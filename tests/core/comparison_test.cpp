@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <limits>
 #include <random>
 
 #include <gtest/gtest.h>
@@ -56,10 +57,13 @@ TEST(Comparison, CrossImpsOfATraveller) {
   // 620 against 600, -100 and 170: 1 + 12 + 10, and so on by the law's table.
   const Scores scores{{620}, {600}, std::nullopt, {-100}, {170}};
   EXPECT_EQ(CrossImps(scores), (Scores{{23}, {21}, std::nullopt, {-12 - 12 - 7}, {-10 - 10 + 7}}));
+  constexpr int kMost = std::numeric_limits<int>::max();
+  EXPECT_EQ(CrossImps(Scores{{kMost}, {-kMost - 1}}), (Scores{{24}, {-24}}))
+      << "far from any score";
 }
 
-/// By ranks: the match points of a score are twice the scores below it and once its equals, and all
-/// tables together share tables * (tables - 1) of them on either side.
+/// IMPs table by table, and by ranks: the match points of a score are twice the scores below it and
+/// once its equals, and all tables together share tables * (tables - 1) of them on either side.
 TEST(Comparison, SumsAndOrderOfRandomTravellers) {
   std::mt19937 random(20251121);  // NOLINT: the same travellers each time
   std::uniform_int_distribution<int> tables(1, 16);
@@ -71,10 +75,11 @@ TEST(Comparison, SumsAndOrderOfRandomTravellers) {
     const int others = static_cast<int>(sorted.size()) - 1;
     std::sort(sorted.begin(), sorted.end());
     const auto points = MatchPoints(scores);
-    int impSum = 0;
-    for (const auto& imps : CrossImps(scores)) impSum += imps.value_or(1000);
-    EXPECT_EQ(impSum, 0);
+    const auto imps = CrossImps(scores);
     for (std::size_t table = 0; table < scores.size(); ++table) {
+      int sum = 0;
+      for (const int other : sorted) sum += ToImps(scores[table].value_or(0) - other);
+      EXPECT_EQ(imps[table], sum);
       const auto [below, above] =
           std::equal_range(sorted.begin(), sorted.end(), scores[table].value_or(0));
       const auto rank = static_cast<int>((below - sorted.begin()) + (above - sorted.begin())) - 1;

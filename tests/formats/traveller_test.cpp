@@ -232,6 +232,16 @@ TEST(Traveller, MoreCallsThanABoardHolds) {
   EXPECT_EQ(traveller.Rows.at(0).Record.Board.NumCalls(), CallList::kCapacity);
 }
 
+TEST(Traveller, HasAsManyRowsAsCanBeLookedThrough) {
+  std::vector<std::string> records;
+  for (std::size_t table = 0; table < 2 * kMaxTravellerRows; ++table) {
+    records.push_back("|Board 1|qens|" + std::to_string(10 * table) + "|");
+  }
+  const Traveller traveller = MakeTraveller(FileOf("MATCH_POINTS", records), 1);
+  ASSERT_EQ(traveller.Rows.size(), kMaxTravellerRows);
+  EXPECT_EQ(traveller.Rows.back().Points[kNS], 2.F * (kMaxTravellerRows - 1));
+}
+
 TEST(Traveller, NamesAreLookedUpByTheirFirstPart) {
   const std::vector<std::string> entries{"Ann & Bob v Cy & Di", "Robot & Eve v Cy & Di",
                                          "Robot & Gus v Hal & Ida"};
