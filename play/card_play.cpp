@@ -42,15 +42,8 @@ bool CardPlay::EndForEditing() {
 }
 
 PerSuit<Holding> CardPlay::LegalCards() const {
-  PerSuit<Holding> legal;
-  if (!PlayMode() || !state_.OnPlay) return legal;
-  legal = state_.CardsLeft[*state_.OnPlay];
-  if (state_.CardsInTrick > 0 && !legal[state_.LedSuit].Empty()) {
-    const Holding follow = legal[state_.LedSuit];
-    legal.fill(Holding());
-    legal[state_.LedSuit] = follow;
-  }
-  return legal;
+  if (!PlayMode() || !state_.OnPlay) return {};
+  return state_.LegalCards(state_.CardsLeft[*state_.OnPlay]);
 }
 
 bool CardPlay::IsLegal(Card card) const {
@@ -82,33 +75,14 @@ bool CardPlay::Play(Card card) {
 }
 
 void CardPlay::PutOnTable(Card card, Seat seat) {
-  if (state_.CardsInTrick == 0) {
-    state_.LedSuit = card.suit;
-    state_.BestRank.reset();
-    state_.BestTrump.reset();
-  }
   state_.TrickGathered = false;
   state_.TrickCards[seat] = card;
   state_.CardsLeft[seat][card.suit].Remove(card.rank);
-  ++state_.CardsInTrick;
-  DecideWinner(card, seat);
+  state_.Add(card, seat, board_.Trumps);
   if (state_.CardsInTrick == kSeats) {
     FinishTrick();
   } else {
     state_.OnPlay = SeatAfter(seat);
-  }
-}
-
-void CardPlay::DecideWinner(Card card, Seat seat) {
-  const bool trump = ToStrain(card.suit) == board_.Trumps;
-  if (card.suit == state_.LedSuit) {
-    // Once a plain suit has been ruffed, its own cards cannot win any more.
-    if (state_.BestTrump || (state_.BestRank && *state_.BestRank < card.rank)) return;
-    state_.BestRank = card.rank;
-    state_.TrickWinner = seat;
-  } else if (trump && (!state_.BestTrump || card.rank < *state_.BestTrump)) {
-    state_.BestTrump = card.rank;
-    state_.TrickWinner = seat;
   }
 }
 

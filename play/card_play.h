@@ -8,6 +8,7 @@
 
 #include "core/board.h"
 #include "core/host.h"
+#include "core/trick.h"
 
 namespace tricklet {
 
@@ -36,13 +37,8 @@ inline constexpr std::chrono::milliseconds kTrickDelay{2000};
 inline constexpr int kTricks = 13;
 
 /// The state of the play: a value, so that an undo record is a copy of it.
-struct PlayState {
-  std::optional<Seat> OnPlay;      ///< nobody after a claim and after the last trick
-  int CardsInTrick = 0;            ///< 0..4
-  Suit LedSuit = Suit::Spades;     ///< of the current trick's first card
-  std::optional<Rank> BestRank;    ///< best so far in the suit led
-  std::optional<Rank> BestTrump;   ///< best trump so far on a plain-suit lead
-  Seat TrickWinner = Seat::North;  ///< who is winning the trick
+struct PlayState : Trick {
+  std::optional<Seat> OnPlay;  ///< nobody after a claim and after the last trick
   Side LastTrickSide = Side::NorthSouth;
   int TricksPlayed = 0;                     ///< 0..13
   PerSeat<std::optional<Card>> TrickCards;  ///< on the table
@@ -117,7 +113,6 @@ class CardPlay {
 
  private:
   void PutOnTable(Card card, Seat seat);
-  void DecideWinner(Card card, Seat seat);
   void FinishTrick();
   void WinTrick(Side side);
 
