@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "core/board.h"
@@ -15,5 +16,9 @@ struct RecordedPlay {
   /// Of the declarer, 0..13; known beside the cards, since a claim ends their record.
   std::optional<int> Tricks;
 };
+
+/// The tricks of the declaring side, 0..13, when `cards` play `board` to its end: all 52 in an
+/// order that is legal. Nothing otherwise.
+std::optional<int> DeclarerTricks(const Board& board, std::span<const Card> cards);
 
 }  // namespace tricklet

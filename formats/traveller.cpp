@@ -89,6 +89,12 @@ bool SaysPassedOut(std::string_view contract) {
                      [&](std::string_view word) { return EqualNoCase(word, contract); });
 }
 
+/// The score is a ruling: "A6040". What was bid and played did not decide it.
+bool IsAdjusted(const LinRecord& record) {
+  const std::string& score = Result(record, LinResultTag::Qens);
+  return !score.empty() && !NumberOf<int>(score);
+}
+
 /// Contract and declarer, the scorer's before the auction's. Returns what `ScoreContract` needs.
 Board ReadContractOf(const LinRecord& record, TravellerRow& row) {
   Board scored;
@@ -99,7 +105,7 @@ Board ReadContractOf(const LinRecord& record, TravellerRow& row) {
   } else if (SetContract(scored, contract)) {
     const auto declarer = SeatOf(Result(record, LinResultTag::Qend));
     row.Declarer = declarer ? declarer : row.Record.Board.Declarer;
-  } else if (contract.empty()) {
+  } else if (contract.empty() && !IsAdjusted(record)) {
     scored = row.Record.Board;
     if (scored.ContractLevel > 0) row.Declarer = scored.Declarer;
   }
@@ -108,13 +114,18 @@ Board ReadContractOf(const LinRecord& record, TravellerRow& row) {
   return scored;
 }
 
-/// Of a contract: the scorer's tricks before those of the record.
-void ReadTricks(const LinRecord& record, TravellerRow& row) {
+/// Of a contract: the scorer's tricks before those of the record, which ends with a claim or with
+/// the last card.
+void ReadTricks(const LinRecord& record, Board scored, TravellerRow& row) {
   if (!row.Declarer) return;
   row.Tricks = TricksOf(Result(record, LinResultTag::Qent));
-  if (!row.Tricks && record.claim && *record.claim >= 0 && *record.claim <= kMostTricks) {
-    row.Tricks = record.claim;
+  if (row.Tricks || IsAdjusted(record)) return;
+  if (record.claim) {
+    if (*record.claim >= 0 && *record.claim <= kMostTricks) row.Tricks = record.claim;
+    return;
   }
+  scored.Hands = record.hands;
+  row.Tricks = DeclarerTricks(scored, record.play);
 }
 
 void ReadScore(const LinRecord& record, const Board& scored, TravellerRow& row) {
@@ -158,7 +169,7 @@ TravellerRow MakeRow(const LinRecord& record, int boardNumber, const PairNames& 
   row.Record.Board = BoardOf(record, boardNumber);
   row.Record.Cards = record.play;
   const Board scored = ReadContractOf(record, row);
-  ReadTricks(record, row);
+  ReadTricks(record, scored, row);
   row.Record.Tricks = row.Tricks;
   row.Lead = CardOf(Result(record, LinResultTag::Qenl));
   if (!row.Lead && !record.play.empty()) row.Lead = record.play.front();

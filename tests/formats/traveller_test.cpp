@@ -72,6 +72,11 @@ TEST(Traveller, RowsInOneLine) {
     const char* line;
   };
   const std::string auction = "mb|1N|mb|p|mb|p|mb|p|";
+  // East leads hearts, and all the others throw away their own suits.
+  std::string play;
+  for (const char rank : std::string("AKQJT98765432")) {
+    for (const char suit : std::string("HDCS")) play += std::string("pc|") + suit + rank + "|";
+  }
   const std::string passes = "mb|p|mb|p|mb|p|mb|p|";
   const std::vector<Case> cases{
       {"made exactly", Tags("7", "90", "", "", "1N", "N", "HA", ""), "1NT by North = +90"},
@@ -84,6 +89,10 @@ TEST(Traveller, RowsInOneLine) {
       {"an auction without a result", auction, "Not played"},
       {"the record's contract and claim", auction + "mc|9|", "1NT by North +2 +150"},
       {"tricks that cannot be", Tags("14", "90", "", "", "1N", "N", "", ""), "1NT by North +90"},
+      {"played to the end without a claim", auction + play, "1NT by North -7 -350"},
+      {"a claim before the end", auction + play + "mc|2|", "1NT by North -5 -250"},
+      {"played as the scorer's contract does not allow",
+       play + Tags("", "", "", "", "1N", "E", "", ""), "Not played"},
       {"a contract that is none", Tags("8", "0", "", "", "42", "N", "", ""), "="},
   };
   for (const Case& example : cases) {
