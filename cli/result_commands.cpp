@@ -20,21 +20,17 @@ using Line = std::array<std::string, kColumns>;
 constexpr std::array<bool, kColumns> kLeft{false, false, true,  true,  true, false,
                                            false, false, false, false, true};
 
-std::string ContractText(const TravellerRow& row) {
-  if (!row.Contract.empty()) return row.Contract;
-  return row.Adjusted.empty() ? "Not played" : row.Adjusted;
-}
-
 Line LineOf(const TravellerRow& row) {
   Line line;
   line[0] = row.Pair[Side::NorthSouth];
   line[1] = row.Pair[Side::EastWest];
-  line[2] = ContractText(row);
+  line[2] = row.ContractText();
   if (row.Declarer) line[3] = SeatName[*row.Declarer].substr(0, 1);
   if (row.Lead) {
     line[4] = std::string(SuitSymbol[row.Lead->suit]) + std::string(RankText[row.Lead->rank]);
   }
   if (row.Tricks) line[5] = std::to_string(*row.Tricks);
+  line[6] = row.Adjusted;
   if (row.Score && *row.Score >= 0) line[6] = std::to_string(*row.Score);
   if (row.Score && *row.Score < 0) line[7] = std::to_string(-*row.Score);
   if (const auto points = row.Points[Side::NorthSouth]) line[8] = ShortestText(*points);

@@ -132,7 +132,8 @@ void ReadScore(const LinRecord& record, const Board& scored, TravellerRow& row) 
   const std::string& text = Result(record, LinResultTag::Qens);
   row.Score = NumberOf<int>(text);
   if (row.Score) return;
-  row.Adjusted = Showable(text);
+  constexpr std::size_t kLongest = 12;  // longer ones are no rulings, and would fill the line
+  row.Adjusted = Showable(text, kLongest);
   if (!text.empty()) return;
   if (row.Contract == kAllPass) row.Score = 0;
   if (scored.ContractLevel > 0 && row.Tricks) {
@@ -242,6 +243,10 @@ std::optional<int> TravellerRow::Result() const {
   return *Tricks - contract.ContractLevel - kBook;
 }
 
+std::string TravellerRow::ContractText() const {
+  return Contract.empty() && !HasResult() ? kNotPlayed : Contract;
+}
+
 std::string TravellerRow::NamesText() const {
   return Names[Side::NorthSouth] + " v " + Names[Side::EastWest];
 }
@@ -265,12 +270,12 @@ Traveller MakeTraveller(const LinFile& file, int boardNumber) {
 
 std::string ReadLinBidding(const TravellerRow& row) {
   const std::string names = " " + row.NamesText();
-  if (row.Contract == kAllPass) return row.Contract + names;
-  if (!row.Score) return (row.Adjusted.empty() ? "Not played" : row.Adjusted) + names;
+  if (row.Contract == kAllPass && row.Adjusted.empty()) return row.Contract + names;
+  if (!row.HasResult()) return kNotPlayed + names;
   std::string text = row.Contract;
   if (row.Declarer) text += " by " + std::string(SeatName[*row.Declarer]);
   if (const auto result = row.Result()) text += " " + Signed(*result);
-  return text + (text.empty() ? "" : " ") + Signed(*row.Score) + names;
+  return text + (text.empty() ? "" : " ") + (row.Score ? Signed(*row.Score) : row.Adjusted) + names;
 }
 
 std::vector<std::string> AddLinNames(const Traveller& traveller) {

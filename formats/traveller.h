@@ -13,7 +13,10 @@
 
 namespace tricklet {
 
-/// One table. What the file does not give is worked out from its record where that tells it.
+inline constexpr const char* kNotPlayed = "Not played";
+
+/// One table. What the file does not give is worked out from its record where that tells it; a
+/// ruling is not decided by the contract and the tricks of the record, so these are not.
 struct TravellerRow {
   PerSide<std::string> Pair;     ///< numbers as in the file; empty where the players have none
   std::string Contract;          ///< "4Sx", "All Pass"; empty where there is none
@@ -21,12 +24,17 @@ struct TravellerRow {
   std::optional<Card> Lead;
   std::optional<int> Tricks;  ///< of the declarer, 0..13
   std::optional<int> Score;   ///< from North-South's point of view
-  std::string Adjusted;       ///< the score's text where it is no number: "A5050"
+  std::string Adjusted;       ///< the score's text where it is a ruling: "A5050"
   /// Match points or IMPs, after the traveller's `Scoring`.
   PerSide<std::optional<float>> Points;
   PerSide<std::string> Names;  ///< "Ann & Bob": North and South, East and West
   RecordedPlay Record;
 
+  /// There is a score or a ruling.
+  bool HasResult() const { return Score || !Adjusted.empty(); }
+  /// What stands in the place of the contract: `kNotPlayed` where there is no result either,
+  /// nothing where there is one.
+  std::string ContractText() const;
   /// The declarer's tricks over or under the contract.
   std::optional<int> Result() const;
   /// "Ann & Bob v Cy & Di".
@@ -52,7 +60,8 @@ inline constexpr std::size_t kMaxTravellerRows = 10'000;
 Traveller MakeTraveller(const LinFile& file, int boardNumber);
 
 /// One table in a line: "4S by South +1 +650 Ann & Bob v Cy & Di", a score of 0 as "="; "All Pass"
-/// and the names for a board that was passed out, "Not played" for one without a result.
+/// and the names for a board that was passed out, "Not played" for one without a result. A ruling
+/// stands in the place of the score.
 std::string ReadLinBidding(const TravellerRow& row);
 
 /// The entries of the list of play records: the names of each row, in the order of the rows.

@@ -56,7 +56,8 @@ Cell* ContractCell(const TravellerRow& row, const Settings& settings, const QPal
   Board contract;
   if (!SetContract(contract, row.Contract)) {
     if (row.Contract == kAllPass) return new Cell(Text("Pass"), -1);
-    return new Cell(row.Adjusted.empty() ? Text("Not played") : ToQt(row.Adjusted), kLast);
+    const std::string text = row.ContractText();
+    return new Cell(text == kNotPlayed ? Text("Not played") : ToQt(text), kLast);
   }
   const int rank = contract.ContractLevel * kStrains + IndexOf(ToBidStrain(contract.Trumps));
   auto* cell = new Cell(ToQt(row.Contract), rank);
@@ -79,9 +80,11 @@ Cell* LeadCell(const TravellerRow& row, const Settings& settings, const QPalette
   return cell;
 }
 
-/// A score stands on the side that has won it.
+/// A score stands on the side that has won it, a ruling on North-South's.
 Cell* ScoreCell(const TravellerRow& row, Side side) {
-  if (!row.Score) return NumberCell(std::nullopt, QString());
+  if (!row.Score) {
+    return NumberCell(std::nullopt, side == Side::NorthSouth ? ToQt(row.Adjusted) : QString());
+  }
   const int own = side == Side::NorthSouth ? *row.Score : -*row.Score;
   const bool shown = own > 0 || (own == 0 && side == Side::NorthSouth);
   return NumberCell(own, shown ? QString::number(own) : QString());

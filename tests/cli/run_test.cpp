@@ -88,14 +88,18 @@ TEST_F(CommandLine, ShowsTheTravellerOfABoard) {
             "[Names]\n1 NS J\u00fcrg & Bo\n12 EW Cy & D\x1Bi\n[LIN]\n"
             "pn|Bo,D\x1Bi,J\u00fcrg,Cy|ah|Board 7|qent|10||qens|620||qenc|4S||qend|S||qenl|HT|\n"
             "pn|E,F,G,H|ah|Board 7|qent|5||qens|-800||qenc|3NTx||qend|N||qenl|C2|\n"
-            "pn|I,J,K,L|ah|Board 7|\n");
+            "pn|I,J,K,L|ah|Board 7|\n"
+            "pn|M,N,O,P|ah|Board 7|qens|-50||qenc|42|\n"
+            "pn|Q,R,S,T|ah|Board 7|qens|A6040||qenc|4S||qend|S|\n");
   EXPECT_EQ(Run({"traveller", "7"}), 0);
   EXPECT_EQ(
       out,
-      "NS  EW  Contract    By  Lead  Tricks  NS+  EW+  MP  MP  Names\n"
-      " 1  12  4S          S   \u266510       10  620        2   0  J\u00fcrg & Bo v Cy & D i\n"
-      "        3NTx        N   \u26632         5       800   0   2  G & E v H & F\n"
-      "        Not played                                      K & I v L & J\n");
+      "NS  EW  Contract    By  Lead  Tricks    NS+  EW+  MP  MP  Names\n"
+      " 1  12  4S          S   \u266510       10    620        4   0  J\u00fcrg & Bo v Cy & D i\n"
+      "        3NTx        N   \u26632         5         800   0   4  G & E v H & F\n"
+      "        Not played                                        K & I v L & J\n"
+      "                                              50   2   2  O & M v P & N\n"
+      "        4S          S                 A6040               S & Q v T & R\n");
   EXPECT_EQ(Run({"traveller", "8"}), 1);
   EXPECT_EQ(err, "There are no results of board 8\n");
   EXPECT_EQ(Run({"traveller", "0"}), 2);
