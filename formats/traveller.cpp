@@ -213,6 +213,7 @@ void ComputePoints(Traveller& traveller, bool matchPoints, bool teams) {
   }
   const auto played = std::count_if(scores.begin(), scores.end(),
                                     [](const auto& score) { return score.has_value(); });
+  if (played < 2) return;  // a score beside nobody's is neither good nor bad
   if (matchPoints) {
     GiveMatchPoints(scores, traveller);
   } else if (!teams || played == 2) {

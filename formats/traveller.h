@@ -54,9 +54,9 @@ inline constexpr std::size_t kMaxTravellerRows = 10'000;
 
 /// The traveller of `boardNumber`; without rows where the file has no record of the board.
 ///
-/// Where all points of the board are 0 or missing they are computed: match points, or IMPs against
-/// every other table. In a match of teams only two tables can be compared, as the file does not say
-/// which of more belong together.
+/// Where all points of the board are 0 or missing they are computed from two scores on: match
+/// points, or IMPs against every other table. In a match of teams only two tables can be compared,
+/// as the file does not say which of more belong together.
 Traveller MakeTraveller(const LinFile& file, int boardNumber);
 
 /// One table in a line: "4S by South +1 +650 Ann & Bob v Cy & Di", a score of 0 as "="; "All Pass"
