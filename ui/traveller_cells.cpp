@@ -142,6 +142,8 @@ QTableWidgetItem* MakeTravellerHead(TravellerColumn column, const Traveller& tra
        QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Contract")},
       {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "By"),
        QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Declarer")},
+      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Ld"),
+       QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Lead")},
       {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Tr"),
        QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Tricks of the declarer")},
       {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "NS+"),
@@ -150,8 +152,6 @@ QTableWidgetItem* MakeTravellerHead(TravellerColumn column, const Traveller& tra
        QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Score of East-West")},
       {"%1", QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "%1 of North-South")},
       {"%1", QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "%1 of East-West")},
-      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Ld"),
-       QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Lead")},
       {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Names"),
        QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Players")},
   }};

@@ -9,18 +9,18 @@
 
 namespace tricklet::ui {
 
-/// What is looked for first comes first: not all of them fit beside each other.
+/// As on the travellers of a club.
 enum class TravellerColumn {
   PairNS,
   PairEW,
   Contract,
   By,
+  Lead,
   Tricks,
   ScoreNS,
   ScoreEW,
   PointsNS,
   PointsEW,
-  Lead,
   Names
 };
 inline constexpr int kTravellerColumns = 11;

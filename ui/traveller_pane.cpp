@@ -22,7 +22,7 @@ namespace {
 
 constexpr int kLeastRows = 3;  // that the grid has room for before the column scrolls
 constexpr int kRowPadding = 6;
-constexpr int kCellPadding = 8;     // both sides of a text
+constexpr int kCellPadding = 6;     // both sides of a text
 constexpr double kFontSize = 0.88;  // of the window's, so that the numbers fit beside each other
 /// So that the pane takes the room that the column has left.
 constexpr int kStretch = 100;
@@ -273,10 +273,11 @@ void TravellerPane::ShowSteps() {
 void TravellerPane::TravellerResize() {
   QFont bold = flexTraveller->font();
   bold.setBold(true);
-  const QFontMetrics metrics(bold);
+  const QFontMetrics metrics(bold);  // the marked row's
+  const QFontMetrics heads(flexTraveller->horizontalHeader()->font());
   int used = 0;
   for (int column = 0; column < kTravellerColumns; ++column) {
-    int width = metrics.horizontalAdvance(flexTraveller->horizontalHeaderItem(column)->text());
+    int width = heads.horizontalAdvance(flexTraveller->horizontalHeaderItem(column)->text());
     for (int row = 0; row < flexTraveller->rowCount(); ++row) {
       width = std::max(width, metrics.horizontalAdvance(flexTraveller->item(row, column)->text()));
     }

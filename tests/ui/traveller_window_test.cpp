@@ -125,14 +125,20 @@ TEST_F(TravellerWindowTest, ShowsAndHidesTheTraveller) {
 TEST_F(TravellerWindowTest, IsSortedByEveryColumn) {
   Open();
   Grid()->horizontalScrollBar()->setValue(0);
+  QStringList heads;
+  for (int column = 0; column < Grid()->columnCount(); ++column) {
+    heads += Grid()->horizontalHeaderItem(column)->text();
+  }
+  EXPECT_EQ(heads.join(QLatin1Char(' ')),
+            QStringLiteral("NS EW Cont By Ld Tr NS+ EW+ MP MP Names"));
   struct Case {
     int column;
     std::string pairs;
   };
   const std::vector<Case> cases{{0, "1357"},  // numbers, and no texts
                                 {1, "3571"},
-                                {2, "5173"},  // Pass, 1S, 1NT, 7H
-                                {5, "3751"}};
+                                {2, "5173"},   // Pass, 1S, 1NT, 7H
+                                {6, "3751"}};  // the score of North-South
   for (const Case& example : cases) {
     ClickHead(example.column);
     EXPECT_EQ(Pairs(), example.pairs) << example.column;
