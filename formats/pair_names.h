@@ -28,17 +28,32 @@ class PairNames {
   explicit PairNames(const std::vector<std::string>& lines);
 
   /// The number of the pair of these players on `side`; empty when it is not known, or when several
-  /// pairs have these names.
+  /// pairs have these names. Commas and bars in names, which a LIN record cannot hold, do not
+  /// matter.
   std::string NumberOf(const PairPlayers& players, Side side) const;
 
+  /// The players of the pair that sits on `side` under `number`, in the order of its line; nobody
+  /// when it is not known. Where both directions have numbers of their own that is the side's pair,
+  /// else the one of that number, which may have changed sides. "9NS" is pair 9 of North-South.
+  PairPlayers PlayersOf(std::string_view number, Side side) const;
+
  private:
+  void Add(const std::string& number, std::string direction, const PairPlayers& players);
+
   /// Of the pair of these players on one side.
   struct Number {
     std::string text;  // empty when several pairs have these names
     bool known = false;
   };
 
+  /// The pairs of one number.
+  struct Seated {
+    PerSide<PairPlayers> onSide;
+    PairPlayers anywhere;
+  };
+
   std::map<PairPlayers, PerSide<Number>> numbers_;  // by the players in one order and letter case
+  std::map<std::string, Seated> seated_;            // by the number without a direction in it
 };
 
 }  // namespace tricklet

@@ -115,6 +115,8 @@ class TravellerLine {
     EwMatchPoints,
     NsCrossImps,
     NsButler,
+    NsPair,
+    EwPair,
   };
 
   explicit TravellerLine(const pugi::xml_node& line) {
@@ -137,11 +139,11 @@ class TravellerLine {
   std::string Number(Element element) const { return SingleNumber(Text(element)); }
 
  private:
-  static constexpr std::array<std::string_view, NsButler + 1> kNames{
-      "LIN_DATA",        "TRICKS",          "SCORE",
-      "CONTRACT",        "PLAYED_BY",       "LEAD",
-      "NS_MATCH_POINTS", "EW_MATCH_POINTS", "NS_CROSS_IMP_POINTS",
-      "NS_BUTLER_POINTS"};
+  static constexpr std::array<std::string_view, EwPair + 1> kNames{
+      "LIN_DATA",         "TRICKS",          "SCORE",
+      "CONTRACT",         "PLAYED_BY",       "LEAD",
+      "NS_MATCH_POINTS",  "EW_MATCH_POINTS", "NS_CROSS_IMP_POINTS",
+      "NS_BUTLER_POINTS", "NS_PAIR_NUMBER",  "EW_PAIR_NUMBER"};
   std::array<pugi::xml_node, kNames.size()> elements_;
 };
 
@@ -151,11 +153,38 @@ std::string Imps(const TravellerLine& line) {
                                                           : TravellerLine::NsButler);
 }
 
-/// The LIN record of a traveller line, decoded. It ends in a bar and names its board.
-std::string RecordOf(const TravellerLine& line, int boardNumber) {
+/// A "pn" field of the record names somebody.
+bool NamesPlayers(std::string_view record) {
+  for (LinField field; NextLinField(record, field);) {
+    if (field.tag == "pn") return field.value.find_first_not_of(" ,") != std::string_view::npos;
+  }
+  return false;
+}
+
+/// The players by the numbers of their pairs: "pn|South,West,North,East|". Empty when neither pair
+/// is known.
+std::string PlayersField(const TravellerLine& line, const PairNames& pairs) {
+  PairPlayers ns = pairs.PlayersOf(line.Text(TravellerLine::NsPair), Side::NorthSouth);
+  PairPlayers ew = pairs.PlayersOf(line.Text(TravellerLine::EwPair), Side::EastWest);
+  const std::array inOrder{&ns.second, &ew.second, &ns.first, &ew.first};
+  std::string names;
+  bool known = false;
+  for (std::string* name : inOrder) {
+    std::erase_if(*name, [](char c) { return c == ',' || c == '|'; });
+    known = known || !name->empty();
+    names += *name + (name == inOrder.back() ? "|" : ",");
+  }
+  return known ? "pn|" + names : "";
+}
+
+/// The LIN record of a traveller line, decoded. It ends in a bar, and the first board that it names
+/// is the one whose line it is. Where it has no players they are those of the line's pairs.
+std::string RecordOf(const TravellerLine& line, int boardNumber, const PairNames& pairs) {
   std::string record = MendUtf8(ReadLinData(line.Text(TravellerLine::LinData)));
   if (!record.empty() && !record.ends_with('|')) record += '|';
-  if (BoardNumberOfLin(record) == 0) {
+  if (!NamesPlayers(record)) record += PlayersField(line, pairs);
+  const int named = BoardNumberOfLin(record);
+  if (named == 0 || named != boardNumber) {
     record.insert(0, "rh||ah|Board " + std::to_string(boardNumber) + "|");
   }
   return record;
@@ -163,9 +192,9 @@ std::string RecordOf(const TravellerLine& line, int boardNumber) {
 
 /// The bars between values and tags are doubled from the second value on: readers of this layout
 /// have always met it so.
-std::string LinLine(const TravellerLine& line, int boardNumber) {
+std::string LinLine(const TravellerLine& line, int boardNumber, const PairNames& pairs) {
   using Line = TravellerLine;
-  std::string text = RecordOf(line, boardNumber);
+  std::string text = RecordOf(line, boardNumber, pairs);
   text.append("qent|").append(line.Field(Line::Tricks));
   text.append("|qens|").append(line.Field(Line::Score));
   text.append("||qenns|").append(line.Number(Line::NsMatchPoints));
@@ -228,7 +257,8 @@ class UsebioReader {
          document_.select_nodes("//PARTICIPANTS[not(ancestor::PARTICIPANTS)]//PAIR")) {
       Keep(results_.data.Names, NamesLine(pair.node()));
     }
-    for (const pugi::xml_node& board : outline_.boards) ReadBoard(board);
+    const PairNames pairs(results_.data.Names);
+    for (const pugi::xml_node& board : outline_.boards) ReadBoard(board, pairs);
     return std::move(results_);
   }
 
@@ -262,7 +292,7 @@ class UsebioReader {
     }
   }
 
-  void ReadBoard(const pugi::xml_node& board) {
+  void ReadBoard(const pugi::xml_node& board, const PairNames& pairs) {
     const std::string text = ChildText(board, "BOARD_NUMBER");
     int number = 0;
     const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -273,7 +303,7 @@ class UsebioReader {
     results_.lastBoard = any_ ? std::max(results_.lastBoard, number) : number;
     any_ = true;
     for (const pugi::xml_node& line : board.children("TRAVELLER_LINE")) {
-      Keep(results_.data.Lin, LinLine(TravellerLine(line), number));
+      Keep(results_.data.Lin, LinLine(TravellerLine(line), number, pairs));
     }
   }
 

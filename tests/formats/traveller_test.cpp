@@ -31,8 +31,9 @@ std::string Tags(const char* tricks, const char* score, const char* ns, const ch
 LinFile FileOf(const char* method, std::vector<std::string> records) {
   LinFile file;
   file.BoardScoringMethod = method;
-  file.Names = {"1 NS Ann & Bob", "2 EW Cy & Di",       "3 NS Eve & Robot",
-                "4 EW Gus & Hal", "5 EW Robot & Robot", "6 EW Robot & Robot"};
+  file.Names = {"1 NS Ann & Bob",          "2 EW Cy & Di",       "3 NS Eve & Robot",
+                "4 EW Gus & Hal",          "5 EW Robot & Robot", "6 EW Robot & Robot",
+                "7 NS Jim & Ono, Zo\u00eb"};
   file.Lin = std::move(records);
   return file;
 }
@@ -123,6 +124,7 @@ TEST(Traveller, PairsByTheirPlayers) {
       {"Ann,Robot,Bob,Robot", "1", "", "Bob & Ann v Robot & Robot"},
       {"Cy,Ann,Di,Bob", "", "", "Di & Cy v Bob & Ann"},
       {"Ann,,Bob,Zoe", "1", "", "Bob & Ann v Zoe"},
+      {"Ono Zo\u00eb,,Jim,", "7", "", "Jim & Ono Zo\u00eb v "},
       {"", "", "", " v "},
   };
   for (const Case& example : kCases) {

@@ -57,6 +57,9 @@ TEST(Usebio, TravellerLineBecomesARecordWithPrivateTags) {
 TEST(Usebio, ALineAlwaysNamesItsBoardAndNoValueLeavesItsField) {
   EXPECT_TRUE(LinLineOf("<TRAVELLER_LINE/>").starts_with("rh||ah|Board 7|qent||"));
   EXPECT_TRUE(LinLineOf(TravellerLine("pn|a,b,c,d")).starts_with("rh||ah|Board 7|pn|a,b,c,d|qent"));
+  EXPECT_TRUE(LinLineOf(TravellerLine("qx|o7|ah|Board 12|pg||"))
+                  .starts_with("rh||ah|Board 7|qx|o7|ah|Board 12|pg||qent"))
+      << "the file's board counts, not the record's";
   const std::string line = LinLineOf(TravellerLine("qx|o7|", Element("CONTRACT", "1N|qens|9")));
   EXPECT_NE(line.find("|qenc|1N qens 9||qend|"), std::string::npos) << line;
 }
@@ -168,6 +171,38 @@ TEST(Usebio, NamesOfPairsAndTeams) {
             (std::vector<std::string>{"4 Hearts", "Spades"}));
   const std::string nested = Element("PARTICIPANTS", Element("PARTICIPANTS", pairs));
   EXPECT_EQ(Read(UsebioText(nested)).data.Names, names) << "each pair once";
+}
+
+TEST(Usebio, ALineWithoutPlayersHasThoseOfItsPairs) {
+  const std::string separate = Pair("1", "NS", "Ann", "Bob") + Pair("1", "EW", "Cy", "Di") +
+                               Pair("2", "EW", "Smith, Eve", "Robot");
+  const std::string together = Pair("1", "", "Ann", "Bob") + Pair("2", "NS", "Cy", "Di");
+  const std::string ending = Pair("9NS", "", "Ann", "Bob") + Pair("9", "EW", "Cy", "Di");
+  const struct {
+    std::string pairs;
+    const char* ns;
+    const char* ew;
+    std::string linData;
+    const char* record;
+  } kCases[] = {
+      {separate, "1", "1", "", "rh||ah|Board 7|pn|Bob,Di,Ann,Cy|qent|"},
+      {separate, "1", "2", "qx|o7|pn|,,,|pg||",
+       "qx|o7|pn|,,,|pg||pn|Bob,Robot,Ann,Smith Eve|qent|"},
+      {separate, "3", "2", "", "rh||ah|Board 7|pn|,Robot,,Smith Eve|qent|"},
+      {separate, "3", "4", "", "rh||ah|Board 7|qent|"},
+      {separate, "1", "1", "qx|o7|pn|,,Zoe|pg||", "qx|o7|pn|,,Zoe|pg||qent|"},
+      {together, "2", "1", "", "rh||ah|Board 7|pn|Di,Bob,Cy,Ann|qent|"},
+      {together, "1", "2", "", "rh||ah|Board 7|pn|Bob,Di,Ann,Cy|qent|"},
+      {ending, "9NS", "9EW", "", "rh||ah|Board 7|pn|Bob,Di,Ann,Cy|qent|"},
+  };
+  for (const auto& c : kCases) {
+    const std::string line =
+        TravellerLine(c.linData, Element("NS_PAIR_NUMBER", c.ns) + Element("EW_PAIR_NUMBER", c.ew));
+    const LinFile data =
+        Read(UsebioText(BoardElement("7", line) + Element("PARTICIPANTS", c.pairs))).data;
+    ASSERT_EQ(data.Lin.size(), 1U);
+    EXPECT_EQ(data.Lin[0].substr(0, std::string(c.record).size()), c.record) << data.Lin[0];
+  }
 }
 
 TEST(Usebio, BoardsOfTheSectionGiveTheRange) {
