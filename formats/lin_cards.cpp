@@ -1,11 +1,12 @@
 #include "formats/lin_cards.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <map>
-#include <set>
 #include <utility>
 
 #include "core/fault.h"
+#include "core/statistics.h"
 #include "core/text.h"
 #include "formats/lin_record.h"
 
@@ -13,19 +14,35 @@ namespace tricklet {
 
 namespace {
 
-/// Of each board of the range the first record with a deal that can be right, else one that has a
-/// deal at all.
-std::map<int, LinRecord> RecordsOf(const LinFile& data, int firstBoard, int lastBoard) {
-  std::map<int, LinRecord> records;
-  std::set<int> complete;  // boards that need no other record
+/// How much a record tells of the deal, the most last.
+enum class DealRank : std::uint8_t { None, Any, Possible, Complete };
+
+DealRank RankOf(const LinRecord& record) {
+  if (!record.hasDeal) return DealRank::None;
+  if (!CanBeDealt(record)) return DealRank::Any;
+  return GetStats(record.hands).AllHandsComplete ? DealRank::Complete : DealRank::Possible;
+}
+
+/// A record, and what there is of the deal in it.
+struct RankedRecord {
+  DealRank rank = DealRank::None;
+  LinRecord record;
+};
+
+/// Of each board of the range the first record with the most of a deal: of all four hands, else one
+/// that can be right, else one at all.
+std::map<int, RankedRecord> RecordsOf(const LinFile& data, int firstBoard, int lastBoard) {
+  std::map<int, RankedRecord> records;
   for (const std::string& text : data.Lin) {
     const int number = BoardNumberOfLin(text);
     if (!IsStorable(number) || number < firstBoard || number > lastBoard) continue;
-    if (complete.contains(number)) continue;
+    const auto known = records.find(number);
+    if (known != records.end() && known->second.rank == DealRank::Complete) continue;
     LinRecord record = ParseLinRecord(text);
     record.boardNumber = number;
-    if (CanBeDealt(record)) complete.insert(number);
-    if (record.hasDeal) records.insert_or_assign(number, std::move(record));
+    const DealRank rank = RankOf(record);
+    const DealRank before = known == records.end() ? DealRank::None : known->second.rank;
+    if (rank > before) records.insert_or_assign(number, RankedRecord{rank, std::move(record)});
   }
   return records;
 }
@@ -42,8 +59,9 @@ int BoardNumberOfLin(std::string_view record) {
 std::vector<Board> BoardsOfLinData(const LinFile& data, int firstBoard, int lastBoard) {
   std::vector<Board> boards;
   bool auctions = false;
-  for (auto& [number, record] : RecordsOf(data, firstBoard, lastBoard)) {
-    if (!CanBeDealt(record)) {
+  for (auto& [number, ranked] : RecordsOf(data, firstBoard, lastBoard)) {
+    LinRecord& record = ranked.record;
+    if (ranked.rank < DealRank::Possible) {
       throw Fault(
           FaultNumber::TypeMismatch,
           "Board " + std::to_string(number) + " has a card twice or more than 13 cards in a hand");

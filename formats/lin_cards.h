@@ -13,7 +13,8 @@ namespace tricklet {
 int BoardNumberOfLin(std::string_view record);
 
 /// The boards numbered `firstBoard` to `lastBoard` of which `data` has a deal, in ascending order:
-/// of each, deal and auction of its first record with a deal that can be right. The first board's
+/// of each, deal and auction of its first record with a deal of all four hands, or else with one
+/// that can be right. The first board's
 /// record decides whether auctions are read; one that begins at another dealer than the board's is
 /// left out. Numbers that cannot be stored are passed over. Throws `Fault` for an auction of more
 /// than 100 calls, and for a board of which no deal can be right.

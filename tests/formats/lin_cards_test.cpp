@@ -52,8 +52,13 @@ TEST(LinCards, ADealThatCannotBeRightGivesWayToAnotherTables) {
   const std::string twice = "qx|o1|md|3SA,SA,DA,CA|rh||ah|Board 1|pg||";
   const std::string fourteen = "qx|o1|md|3SAKQJT98765432HA,HK,DA,CA|rh||ah|Board 1|pg||";
   LinFile data;
-  data.Lin = {twice, fourteen, Record(1, "K")};
+  data.Lin = {twice, fourteen, Record(1, "K"), Record(1, "Q"), twice};
   EXPECT_TRUE(BoardsOfLinData(data, 1, 1).at(0).Hands[Seat::South][Suit::Spades].Has(Rank::King));
+  const std::string whole = "AKQJT98765432";
+  data.Lin.push_back("md|3S" + whole + ",H" + whole + ",D" + whole + ",|ah|Board 1|");
+  data.Lin.push_back("md|3H" + whole + ",S" + whole + ",D" + whole + ",|ah|Board 1|");
+  EXPECT_EQ(BoardsOfLinData(data, 1, 1).at(0).Hands[Seat::South][Suit::Spades].Count(), 13)
+      << "the first complete one";
   for (const std::string& wrong : {twice, fourteen}) {
     data.Lin = {wrong};
     EXPECT_THROW(BoardsOfLinData(data, 1, 1), Fault);
