@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/board.h"
 
@@ -36,6 +37,10 @@ struct ReadResult {
   bool cancelled = false;
   bool failed = false;                 ///< a message has said why the reading ended
   std::optional<std::string> badLine;  ///< the line that could not be read and ended the reading
+  /// The number of each deal that is not stored, as another of that number came before it.
+  std::vector<int> repeatedBoards;
+  /// The boards stored without their auction, as the dealer in the record is not the board's.
+  std::vector<int> foreignAuctions;
 };
 
 }  // namespace tricklet

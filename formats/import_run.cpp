@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <exception>
 #include <utility>
+#include <vector>
 
 #include "core/fault.h"
 #include "core/text.h"
@@ -53,6 +54,36 @@ std::string ResultText(const Session& session, const ReadResult& result) {
            "-" + std::to_string(result.lastBoard) + ") have";
   }
   return text + " been saved to the library - " + session.LibraryName();
+}
+
+/// "2, 5, 7": each number once, and of more than ten the first ten.
+std::string NumbersText(std::vector<int> numbers) {
+  constexpr std::size_t kMost = 10;
+  std::sort(numbers.begin(), numbers.end());
+  numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+  std::string text;
+  for (std::size_t i = 0; i < std::min(numbers.size(), kMost); ++i) {
+    text += (i == 0 ? "" : ", ") + std::to_string(numbers[i]);
+  }
+  return text + (numbers.size() > kMost ? " ..." : "");
+}
+
+/// What the file holds and the library does not; empty when there is nothing to tell.
+std::string LeftOutText(const ReadResult& result) {
+  std::string text;
+  if (const auto& deals = result.repeatedBoards; !deals.empty()) {
+    const bool one = deals.size() == 1;
+    text += one ? "1 deal was" : std::to_string(deals.size()) + " deals were";
+    text += " left out because a board of the same number came before ";
+    text += one ? "it" : "them";
+    text += " in the file: " + NumbersText(deals);
+  }
+  if (const auto& boards = result.foreignAuctions; !boards.empty()) {
+    text += text.empty() ? "" : "\n";
+    text += boards.size() == 1 ? "1 auction was" : std::to_string(boards.size()) + " auctions were";
+    text += " left out because the dealer of the record is not the board's: " + NumbersText(boards);
+  }
+  return text;
 }
 
 bool MayOverwriteLibrary(Session& session) {
@@ -117,6 +148,7 @@ ImportOutcome StoreText(Session& session, std::string text, const std::string& u
   }
   if (result.badLine) session.host.Tell("Can't read this line:\n" + Showable(*result.badLine));
   session.host.Tell(ResultText(session, result));
+  if (const std::string leftOut = LeftOutText(result); !leftOut.empty()) session.host.Tell(leftOut);
   ShowLibrary(session, result.boardsSaved > 0 ? BoardToShow(result, sink) : boardBefore);
   return {.boardsSaved = result.boardsSaved,
           .cancelled = result.cancelled,

@@ -47,6 +47,30 @@ std::map<int, RankedRecord> RecordsOf(const LinFile& data, int firstBoard, int l
   return records;
 }
 
+struct LinBoard {
+  Board board;
+  bool foreignAuction = false;  // left out
+};
+
+std::vector<LinBoard> ReadBoards(const LinFile& data, int firstBoard, int lastBoard) {
+  std::vector<LinBoard> boards;
+  bool auctions = false;
+  for (auto& [number, ranked] : RecordsOf(data, firstBoard, lastBoard)) {
+    LinRecord& record = ranked.record;
+    if (ranked.rank < DealRank::Possible) {
+      throw Fault(
+          FaultNumber::TypeMismatch,
+          "Board " + std::to_string(number) + " has a card twice or more than 13 cards in a hand");
+    }
+    if (boards.empty()) auctions = record.hasAuction;
+    if (!auctions) record.calls.clear();
+    const bool foreign = HasForeignDealer(record) && !record.calls.empty();
+    if (foreign) record.calls.clear();
+    boards.push_back({BoardOfLinRecord(record), foreign});
+  }
+  return boards;
+}
+
 }  // namespace
 
 int BoardNumberOfLin(std::string_view record) {
@@ -58,33 +82,26 @@ int BoardNumberOfLin(std::string_view record) {
 
 std::vector<Board> BoardsOfLinData(const LinFile& data, int firstBoard, int lastBoard) {
   std::vector<Board> boards;
-  bool auctions = false;
-  for (auto& [number, ranked] : RecordsOf(data, firstBoard, lastBoard)) {
-    LinRecord& record = ranked.record;
-    if (ranked.rank < DealRank::Possible) {
-      throw Fault(
-          FaultNumber::TypeMismatch,
-          "Board " + std::to_string(number) + " has a card twice or more than 13 cards in a hand");
-    }
-    if (boards.empty()) auctions = record.hasAuction;
-    if (!auctions || HasForeignDealer(record)) record.calls.clear();
-    boards.push_back(BoardOfLinRecord(record));
+  for (LinBoard& read : ReadBoards(data, firstBoard, lastBoard)) {
+    boards.push_back(std::move(read.board));
   }
   return boards;
 }
 
 void ReadLinCards(const LinFile& data, int firstBoard, int lastBoard, BoardSink& sink,
                   ReadResult& result) {
-  const std::vector<Board> boards = BoardsOfLinData(data, firstBoard, lastBoard);
+  const std::vector<LinBoard> boards = ReadBoards(data, firstBoard, lastBoard);
   const int total = static_cast<int>(boards.size());
-  for (const Board& board : boards) {
-    if (!sink.Begin(board.BoardNumber, result.boardsSaved * kWholeText / total, kWholeText)) {
+  for (const LinBoard& read : boards) {
+    const int number = read.board.BoardNumber;
+    if (!sink.Begin(number, result.boardsSaved * kWholeText / total, kWholeText)) {
       result.cancelled = true;
       return;
     }
-    sink.Store(board);
-    if (++result.boardsSaved == 1) result.firstBoard = board.BoardNumber;
-    result.lastBoard = board.BoardNumber;
+    sink.Store(read.board);
+    if (++result.boardsSaved == 1) result.firstBoard = number;
+    result.lastBoard = number;
+    if (read.foreignAuction) result.foreignAuctions.push_back(number);
   }
 }
 

@@ -167,9 +167,15 @@ class LinReader {
   /// Stores the first record of a board; false for a further one that is of another deal.
   bool IsTheBoardStored(LinRecord& record) {
     const auto [stored, first] = stored_.try_emplace(record.boardNumber, record.hands);
-    if (!first) return stored->second == record.hands;
-    if (HasForeignDealer(record)) record.calls.clear();
+    if (!first) {
+      const bool same = stored->second == record.hands;
+      if (!same) result_.repeatedBoards.push_back(record.boardNumber);
+      return same;
+    }
+    const bool foreign = HasForeignDealer(record) && !record.calls.empty();
+    if (foreign) record.calls.clear();
     sink_.Store(BoardOfLinRecord(record));
+    if (foreign) result_.foreignAuctions.push_back(record.boardNumber);
     ++result_.boardsSaved;
     return true;
   }

@@ -17,8 +17,9 @@ bool LooksLikeLin(std::string_view text);
 /// field that may stand before a deal. Names stay until others are given.
 ///
 /// The first record of a board gives its deal and auction; a further one of the same deal (the
-/// closed room, another table) is no board of its own. An auction whose dealer is not the board's
-/// is left out, as its calls would be other seats'. A record without a number takes the next that
+/// closed room, another table) is no board of its own, and one of another deal is left out. An
+/// auction whose dealer is not the board's is left out, as its calls would be other seats'. The
+/// result tells of both. A record without a number takes the next that
 /// its dealer deals.
 ///
 /// `records` takes each record of the boards stored as a line for "LIN.txt", with the names and

@@ -126,6 +126,29 @@ TEST_F(ImportLinTest, BadInputIsToldAndStoresNothingOfIt) {
   EXPECT_EQ(ImportLinFile(session, File("no records")).boardsSaved, 0);
 }
 
+TEST_F(ImportLinTest, TellsWhatIsLeftOut) {
+  const auto other = [](int board, const std::string& dealer, const std::string& calls) {
+    return "qx|o" + std::to_string(board) + "|md|" + dealer +
+           "HAKQJT98765432,SAKQJT98765432,DAKQJT98765432,|" + calls + "pg||";
+  };
+  host.ExpectTell("Hand 1 has been saved to the library - Club");
+  host.ExpectTell(
+      "2 deals were left out because a board of the same number came before them in the file: 1");
+  ImportLinFile(session, File(Record("o1") + other(1, "0", "") + other(1, "0", "") + Record("c1")));
+
+  std::string file;
+  for (int board = 1; board <= 12; ++board) {
+    file += other(board, board == 4 ? "1" : "0", "mb|1C|") + Record("o" + std::to_string(board));
+  }
+  host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
+  host.ExpectTell("12 hands (1-12) have been saved to the library - Club");
+  host.ExpectTell(
+      "12 deals were left out because a board of the same number came before them in the file: "
+      "1, 2, 3, 4, 5, 6, 7, 8, 9, 10 ...\n"
+      "1 auction was left out because the dealer of the record is not the board's: 4");
+  ImportLinFile(session, File(file));
+}
+
 TEST_F(ImportLinTest, CancelKeepsBoardsAndTheirRecords) {
   host.cancelAtStep = 3;
   host.ExpectTell("2 hands (1-2) have been saved to the library - Club");

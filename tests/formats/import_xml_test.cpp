@@ -191,6 +191,16 @@ TEST_F(ImportXmlTest, OnlyNumbersOfALibraryAreStored) {
   EXPECT_EQ(session.library.BoardCount, 2);
 }
 
+TEST_F(ImportXmlTest, TellsOfAuctionsThatAreLeftOut) {
+  const auto line = [](int board) { return TravellerLine(LinData(board)); };
+  host.ExpectTell("4 hands (1-4) have been saved to the library - Club");
+  host.ExpectTell(
+      "2 auctions were left out because the dealer of the record is not the board's: 1, 3");
+  ImportText(UsebioText(BoardElement("1", line(2)) + BoardElement("2", line(2)) +
+                        BoardElement("3", line(4)) + BoardElement("4", line(8))));
+  EXPECT_EQ(session.board.NumCalls(), 0);
+}
+
 TEST_F(ImportXmlTest, WithoutAStoredBoardNothingIsReplaced) {
   PutResults();
   host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
