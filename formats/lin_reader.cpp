@@ -11,12 +11,11 @@
 namespace tricklet {
 namespace {
 
-constexpr std::string_view kEncodedBar = "%7C";
+constexpr std::string_view kParameter = "lin=";
 
 /// The records of a text copied from a site's address, which has them percent-encoded behind
 /// "lin=", blanks as "+".
 std::string DecodeAddress(std::string_view text) {
-  constexpr std::string_view kParameter = "lin=";
   const auto parameter = text.find(kParameter);
   if (parameter != std::string_view::npos) text.remove_prefix(parameter + kParameter.size());
   std::string encoded(text);
@@ -24,15 +23,37 @@ std::string DecodeAddress(std::string_view text) {
   return ReadLinData(encoded);
 }
 
+/// Before the first bar there is what leads to the records of an address, or there is no bar but an
+/// encoded one.
 bool IsAddress(std::string_view text) {
-  return text.find('|') == std::string_view::npos &&
-         ToUpper(text).find(kEncodedBar) != std::string::npos;
+  constexpr std::string_view kEncodedBar = "%7C";
+  const auto bar = text.find('|');
+  if (text.substr(0, bar).find(kParameter) != std::string_view::npos) return true;
+  return bar == std::string_view::npos && ToUpper(text).find(kEncodedBar) != std::string::npos;
+}
+
+/// Its bars stand as they are, but what separates the hands of a deal is encoded.
+bool HasEncodedDeal(std::string_view text) {
+  constexpr std::string_view kDeal = "md|";
+  constexpr std::string_view kEncodedComma = "%2C";
+  for (auto deal = text.find(kDeal); deal != std::string_view::npos; deal = text.find(kDeal)) {
+    text.remove_prefix(deal + kDeal.size());
+    if (ToUpper(text.substr(0, text.find('|'))).find(kEncodedComma) != std::string::npos) {
+      return true;
+    }
+  }
+  return false;
+}
+
+std::string Decoded(std::string_view text) {
+  if (IsAddress(text)) return DecodeAddress(text);
+  return HasEncodedDeal(text) ? ReadLinData(text) : std::string(text);
 }
 
 std::string PlainText(std::string_view text) {
   constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
   if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
-  std::string plain = IsAddress(text) ? DecodeAddress(text) : std::string(text);
+  std::string plain = Decoded(text);
   return IsValidUtf8(plain) ? plain : Latin1ToUtf8(plain);
 }
 

@@ -12,7 +12,8 @@ namespace tricklet {
 /// The text holds a LIN deal, as it stands or percent-encoded in an address.
 bool LooksLikeLin(std::string_view text);
 
-/// Reads all records of `text`, however they lie on lines; bytes that are no UTF-8 are taken as
+/// Reads all records of `text`, however they lie on lines, percent-encoded with their bars, without
+/// them, or not at all; bytes that are no UTF-8 are taken as
 /// Latin-1. A record ends where the next one's board or deal begins: behind a page mark that is any
 /// field that may stand before a deal. Names stay until others are given.
 ///
@@ -24,8 +25,8 @@ bool LooksLikeLin(std::string_view text);
 ///
 /// `records` takes each record of the boards stored as a line for "LIN.txt", with the names and
 /// "|Board N|" in it. Ends at a deal that cannot be: without cards, with a card twice, or with more
-/// than 13 cards in a hand. Throws `Fault` for an auction of more than 100 calls and for an address
-/// with a broken escape, and what `sink` throws.
+/// than 13 cards in a hand. Throws `Fault` for an auction of more than 100 calls and for encoded
+/// text with a broken escape, and what `sink` throws.
 ReadResult ReadLIN(std::string_view text, BoardSink& sink, std::vector<std::string>& records);
 
 }  // namespace tricklet

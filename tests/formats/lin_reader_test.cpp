@@ -120,14 +120,34 @@ TEST(ReadLIN, KeepsRecordsAsLinesWithNamesAndBoard) {
   EXPECT_EQ(ParseLinRecord(read.records[2]).players[Seat::East], "d");
 }
 
-TEST(ReadLIN, ReadsTheTextOfAnAddress) {
-  const Read read("https://example.org/view?a=1&lin=pn%7CAnn%2CBob%2CCy%2CDi%7Cmd%7C3" + kThree +
-                  "%7cah%7CBoard+5%7Cmb%7C1C%7C");
-  EXPECT_EQ(read.Boards(), "5 ");
-  ASSERT_EQ(read.records.size(), 1U);
-  EXPECT_EQ(ParseLinRecord(read.records[0]).players[Seat::South], "Ann");
+TEST(ReadLIN, ReadsPercentEncodedText) {
+  const std::string deal = "3" + kThree;
+  std::string encodedDeal = deal;
+  for (auto comma = encodedDeal.find(','); comma != std::string::npos;) {
+    encodedDeal.replace(comma, 1, "%2c");
+    comma = encodedDeal.find(',');
+  }
+  const std::string site = "https://example.org/view?a=1&lin=";
+  const std::string kTexts[] = {
+      site + "pn%7CAnn%2CBob%2CCy%2CDi%7Cmd%7C" + deal + "%7cah%7CBoard+5%7Cmb%7C1C%7C",
+      site + "pn|Ann,Bob,Cy,Di|md|" + deal + "|ah|Board%205|mb|1C|",
+      "lin=pn|Ann%2CBob,Cy,Di|md|" + encodedDeal + "|ah|Board+5|mb|1C|",
+      "pn|Ann%2CBob%2CCy%2CDi|md|" + encodedDeal + "|ah|Board%205|mb|1C|an|1%2b|",
+  };
+  for (const std::string& text : kTexts) {
+    EXPECT_TRUE(LooksLikeLin(text)) << text;
+    const Read read(text);
+    EXPECT_EQ(read.Boards(), "5 ") << text;
+    ASSERT_EQ(read.records.size(), 1U) << text;
+    EXPECT_EQ(ParseLinRecord(read.records[0]).players[Seat::South], "Ann") << text;
+    EXPECT_EQ(ParseLinRecord(read.records[0]).players[Seat::East], "Di") << text;
+  }
+  Collector sink;
+  std::vector<std::string> records;
+  EXPECT_THROW(ReadLIN("lin=md%7C3" + kThree + "%7Cnt%7C100%", sink, records), Fault);
+  EXPECT_TRUE(sink.boards.empty());
   // A percent sign is one where the bars are bars.
-  EXPECT_EQ(Read("nt|100% sure|qx|o1|" + Deal()).Boards(), "1 ");
+  EXPECT_EQ(Read("nt|100% sure|qx|o1|" + Deal() + "nt|?lin=50%|").Boards(), "1 ");
 }
 
 TEST(ReadLIN, TextIsUtf8OrLatin1) {
