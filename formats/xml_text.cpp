@@ -100,19 +100,67 @@ std::string Utf8ToUtf16(std::string_view text, bool big) {
   return bytes;
 }
 
-/// The declaration at the front of the file says so.
-bool DeclaresLatin1(std::string_view bytes) {
-  if (!bytes.starts_with("<?xml")) return false;
+/// What the bytes 0x80 to 0x9F are in Windows-1252, by the index of the WHATWG Encoding Standard,
+/// which is Unicode's mapping with the five unused bytes standing for their control characters. The
+/// other bytes are Latin-1.
+constexpr std::size_t kFirstOwn = 0x80;
+constexpr std::array<char32_t, 32> kWindows1252{
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+std::string Windows1252ToUtf8(std::string_view bytes) {
+  std::string text;
+  text.reserve(bytes.size());
+  for (const char c : bytes) {
+    const auto byte = static_cast<unsigned char>(c);
+    const bool own = byte >= kFirstOwn && byte < kFirstOwn + kWindows1252.size();
+    AppendUtf8(text, own ? kWindows1252.at(byte - kFirstOwn) : byte);
+  }
+  return text;
+}
+
+std::string Utf8ToWindows1252(std::string_view text) {
+  constexpr char32_t kLatin1 = 0xA0;
+  constexpr char32_t kLatin1End = 0x100;
+  std::string bytes;
+  bytes.reserve(text.size());
+  while (!text.empty()) {
+    const char32_t code = TakeCode(text);
+    if (code < kFirstOwn || (code >= kLatin1 && code < kLatin1End)) {
+      bytes += static_cast<char>(code);
+      continue;
+    }
+    const auto* const own = std::find(kWindows1252.begin(), kWindows1252.end(), code);
+    if (own != kWindows1252.end()) {
+      bytes += static_cast<char>(kFirstOwn + static_cast<std::size_t>(own - kWindows1252.begin()));
+    } else {
+      bytes += '?';
+    }
+  }
+  return bytes;
+}
+
+/// The encoding of one byte a character that the declaration at the front of the file names.
+std::optional<XmlEncoding> DeclaredEncoding(std::string_view bytes) {
+  if (!bytes.starts_with("<?xml")) return std::nullopt;
   const std::string declaration = ToUpper(bytes.substr(0, bytes.find("?>")));
   constexpr std::string_view kAttribute = "ENCODING";
   const auto attribute = declaration.find(kAttribute);
-  if (attribute == std::string::npos) return false;
+  if (attribute == std::string::npos) return std::nullopt;
   const std::string_view value = std::string_view(declaration).substr(attribute);
-  constexpr std::array<std::string_view, 5> kNames{"ISO-8859-1\"", "ISO-8859-1'", "LATIN1",
-                                                   "LATIN-1", "WINDOWS-1252"};
-  return std::any_of(kNames.begin(), kNames.end(), [value](std::string_view name) {
-    return value.find(name) != std::string_view::npos;
-  });
+  constexpr std::array<std::pair<std::string_view, XmlEncoding>, 6> kNames{{
+      {"ISO-8859-1\"", XmlEncoding::Latin1},
+      {"ISO-8859-1'", XmlEncoding::Latin1},
+      {"LATIN1", XmlEncoding::Latin1},
+      {"LATIN-1", XmlEncoding::Latin1},
+      {"WINDOWS-1252", XmlEncoding::Windows1252},
+      {"CP1252", XmlEncoding::Windows1252},
+  }};
+  for (const auto& [name, encoding] : kNames) {
+    if (value.find(name) != std::string_view::npos) return encoding;
+  }
+  return std::nullopt;
 }
 
 /// The position behind the ">" that ends the declaration at `begin`: not one in quotes or in its
@@ -138,7 +186,8 @@ std::optional<std::size_t> EndOfDeclaration(std::string_view text, std::size_t b
 }  // namespace
 
 XmlText DecodeXml(std::string file) {
-  if (file.starts_with(kUtf8Mark)) file.erase(0, kUtf8Mark.size());
+  const bool marked8 = file.starts_with(kUtf8Mark);
+  if (marked8) file.erase(0, kUtf8Mark.size());
   const std::string_view bytes = file;
   using namespace std::string_view_literals;
   for (const bool big : {false, true}) {
@@ -147,16 +196,22 @@ XmlText DecodeXml(std::string file) {
     return {Utf16ToUtf8(bytes.substr(marked ? kLittleMark.size() : 0), big),
             big ? XmlEncoding::Utf16Big : XmlEncoding::Utf16Little};
   }
-  if (DeclaresLatin1(bytes) || !IsValidUtf8(bytes)) {
-    return {Latin1ToUtf8(bytes), XmlEncoding::Latin1};
-  }
-  return {std::move(file), XmlEncoding::Utf8};
+  const bool utf8 = IsValidUtf8(bytes);
+  if (marked8 && utf8) return {std::move(file), XmlEncoding::Utf8Marked};
+  const auto declared = DeclaredEncoding(bytes);
+  if (!declared && utf8) return {std::move(file), XmlEncoding::Utf8};
+  if (declared == XmlEncoding::Latin1) return {Latin1ToUtf8(bytes), XmlEncoding::Latin1};
+  return {Windows1252ToUtf8(bytes), XmlEncoding::Windows1252};
 }
 
 std::string EncodeXml(const XmlText& xml) {
   switch (xml.encoding) {
+    case XmlEncoding::Utf8Marked:
+      return std::string(kUtf8Mark) + xml.text;
     case XmlEncoding::Latin1:
       return Utf8ToLatin1(xml.text);
+    case XmlEncoding::Windows1252:
+      return Utf8ToWindows1252(xml.text);
     case XmlEncoding::Utf16Little:
     case XmlEncoding::Utf16Big:
       return Utf8ToUtf16(xml.text, xml.encoding == XmlEncoding::Utf16Big);

@@ -7,7 +7,14 @@
 
 namespace tricklet {
 
-enum class XmlEncoding : std::uint8_t { Utf8, Latin1, Utf16Little, Utf16Big };
+enum class XmlEncoding : std::uint8_t {
+  Utf8,
+  Utf8Marked,  ///< with a byte order mark
+  Latin1,
+  Windows1252,
+  Utf16Little,
+  Utf16Big
+};
 
 struct XmlText {
   std::string text;  ///< UTF-8, without a byte order mark
@@ -15,11 +22,12 @@ struct XmlText {
 };
 
 /// Decodes a whole file: by its byte order mark, else by the zero bytes of UTF-16, else by the
-/// encoding of its declaration. What is neither declared nor valid UTF-8 is taken as Latin-1;
-/// Windows-1252 is taken as Latin-1 too. Broken UTF-16 becomes U+FFFD.
+/// encoding of its declaration. What is declared as neither Latin-1 nor Windows-1252 and is no
+/// valid UTF-8 is taken as Windows-1252. Broken UTF-16 becomes U+FFFD.
 XmlText DecodeXml(std::string file);
 
 /// The bytes of a file in the encoding that it was read in; UTF-16 with a byte order mark.
+/// Characters that the encoding lacks become "?".
 std::string EncodeXml(const XmlText& xml);
 
 /// Where the online document type lives; none is given, so the declaration names the path alone.

@@ -19,12 +19,21 @@ struct EncodingCase {
 
 TEST(XmlText, DecodesEveryEncodingAndBack) {
   const std::string latin1 = "<?xml version='1.0' encoding='iso-8859-1'?><a>Zo";
-  const std::array<EncodingCase, 6> cases{{
+  const std::string windows = "<?xml version='1.0' encoding='Windows-1252'?><a>";
+  const std::array<EncodingCase, 9> cases{{
       {"UTF-8", "<a>Zo\u00eb \u0141</a>", "<a>Zo\u00eb \u0141</a>", XmlEncoding::Utf8},
       {"declared Latin-1", latin1 + "\xEB</a>", latin1 + "\u00eb</a>", XmlEncoding::Latin1},
       {"declared Latin-1 that could be UTF-8", latin1 + "\xC3\xAB</a>", latin1 + "\u00c3\u00ab</a>",
        XmlEncoding::Latin1},
-      {"undeclared Latin-1", "<a>Zo\xEB</a>", "<a>Zo\u00eb</a>", XmlEncoding::Latin1},
+      {"declared Latin-1 behind the mark of UTF-8", "\xEF\xBB\xBF" + latin1 + "\xC3\xAB</a>",
+       latin1 + "\u00eb</a>", XmlEncoding::Utf8Marked},
+      {"declared Latin-1 with control characters", latin1 + "\x92\x80</a>",
+       latin1 + "\u0092\u0080</a>", XmlEncoding::Latin1},
+      {"declared Windows-1252", windows + "O\x92Neil \x8Aimon \x80\x81\x9F\xA0\xFF</a>",
+       windows + "O\u2019Neil \u0160imon \u20ac\u0081\u0178\u00a0\u00ff</a>",
+       XmlEncoding::Windows1252},
+      {"neither declared nor UTF-8", "<a>Zo\xEB O\x92Neil</a>", "<a>Zo\u00eb O\u2019Neil</a>",
+       XmlEncoding::Windows1252},
       {"UTF-16, low byte first", "\xFF\xFE<\0\xEB\0\x41\x01\x3D\xD8\x00\xDE>\0"s,
        "<\u00eb\u0141\U0001F600>", XmlEncoding::Utf16Little},
       {"UTF-16, high byte first", "\xFE\xFF\0<\0\xEB\x01\x41\xD8\x3D\xDE\x00\0>"s,
@@ -39,7 +48,8 @@ TEST(XmlText, DecodesEveryEncodingAndBack) {
 }
 
 TEST(XmlText, DecodesWithoutAMarkAndWhatIsBroken) {
-  EXPECT_EQ(DecodeXml("\xEF\xBB\xBF<a>\u00eb</a>").text, "<a>\u00eb</a>");
+  EXPECT_EQ(DecodeXml("\xEF\xBB\xBF<a>\xEB</a>").text, "<a>\u00eb</a>") << "a mark of other bytes";
+  EXPECT_EQ(EncodeXml({"\u0141\u2019", XmlEncoding::Windows1252}), "?\x92");
   EXPECT_EQ(DecodeXml("<\0a\0>\0"s).text, "<a>");
   EXPECT_EQ(DecodeXml("\0<\0a\0>"s).text, "<a>");
   EXPECT_EQ(DecodeXml("\xFF\xFE<\0\x00\xDC\x3D\xD8<\0\x3D\xD8\x41"s).text, "<\uFFFD\uFFFD<\uFFFD")
