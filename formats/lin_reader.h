@@ -12,10 +12,10 @@ namespace tricklet {
 /// The text holds a LIN deal, as it stands or percent-encoded in an address.
 bool LooksLikeLin(std::string_view text);
 
-/// Reads all records of `text`, however they lie on lines, percent-encoded with their bars, without
-/// them, or not at all; bytes that are no UTF-8 are taken as
-/// Latin-1. A record ends where the next one's board or deal begins: behind a page mark that is any
-/// field that may stand before a deal. Names stay until others are given.
+/// Reads all records of `text`, however they lie on lines; bytes that are no UTF-8 are taken as
+/// Latin-1. They may be percent-encoded, with or without their bars, behind "lin=" in an address or
+/// as they are. A record ends where the next one's board or deal begins: behind a page mark that is
+/// any field that may stand before a deal. Names stay until others are given.
 ///
 /// The first record of a board gives its deal and auction; a further one of the same deal (the
 /// closed room, another table) is no board of its own, and one of another deal is left out. An
