@@ -3,7 +3,6 @@
 namespace tricklet {
 
 MakeableView MakeMakeableView(const MakeableTable& table, bool contracts) {
-  constexpr int kBook = 6;  // tricks that do not count towards a contract
   constexpr std::array kColumns{Strain::Spades, Strain::Hearts, Strain::Diamonds, Strain::Clubs,
                                 Strain::NoTrump};
   MakeableView view;

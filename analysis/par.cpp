@@ -9,7 +9,6 @@
 namespace tricklet {
 namespace {
 
-constexpr int kBook = 6;
 constexpr std::size_t kBids = Call::kBids;
 
 struct Outcome {

@@ -55,6 +55,7 @@ inline constexpr int kStrains = 5;
 inline constexpr int kRanks = 13;
 inline constexpr int kCardsInHand = 13;
 inline constexpr int kCardsInPack = 52;
+inline constexpr int kBook = 6;  ///< tricks that do not count towards a contract
 
 /// An array that takes one kind of index only, so that two orders cannot be mixed up.
 template <class Index, class Value, std::size_t kSize>

@@ -5,7 +5,6 @@
 namespace tricklet {
 namespace {
 
-constexpr int kBook = 6;
 constexpr int kGame = 100;  // contract points that make a game
 constexpr int kSmallSlam = 6;
 

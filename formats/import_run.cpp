@@ -109,17 +109,9 @@ bool RunReader(Session& session, std::string text, const RecordReader& reader, L
   }
 }
 
-/// Makes board `number` the current one and lists the library again.
-void ShowLibrary(Session& session, int number) {
-  session.board.BoardNumber = number;
-  FindFiles(session);
-  session.board.BoardNumber = std::clamp(number, kFirstBoardNumber, session.library.MaxBoard);
-  LoadHand(session);
-}
-
 ImportOutcome TellUnreadable(Session& session, const std::string& unreadable, int boardBefore) {
   session.host.Tell(unreadable);
-  ShowLibrary(session, boardBefore);
+  ListAndShow(session, boardBefore);
   return {.failed = true};
 }
 
@@ -149,7 +141,7 @@ ImportOutcome StoreText(Session& session, std::string text, const std::string& u
   if (result.badLine) session.host.Tell("Can't read this line:\n" + Showable(*result.badLine));
   session.host.Tell(ResultText(session, result));
   if (const std::string leftOut = LeftOutText(result); !leftOut.empty()) session.host.Tell(leftOut);
-  ShowLibrary(session, result.boardsSaved > 0 ? BoardToShow(result, sink) : boardBefore);
+  ListAndShow(session, result.boardsSaved > 0 ? BoardToShow(result, sink) : boardBefore);
   return {.boardsSaved = result.boardsSaved,
           .cancelled = result.cancelled,
           .failed = result.failed || result.badLine};

@@ -17,7 +17,6 @@
 namespace tricklet {
 namespace {
 
-constexpr int kBook = 6;
 constexpr int kMostTricks = kCardsInHand;
 
 const std::string& Result(const LinRecord& record, LinResultTag tag) {

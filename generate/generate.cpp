@@ -61,14 +61,6 @@ void DealAndAnalyse(Session& session, const Constraints& constraints,
   outcome.tables = AnalyseBoards(session, session.GetSolver(), first, last, false);
 }
 
-/// Lists the library again and loads board `number`.
-void ShowBoard(Session& session, int number) {
-  session.board.BoardNumber = number;
-  FindFiles(session);
-  session.board.BoardNumber = std::clamp(number, kFirstBoardNumber, session.library.MaxBoard);
-  LoadHand(session);
-}
-
 }  // namespace
 
 GenerateOutcome Generate(Session& session, const Constraints& constraints,
@@ -89,7 +81,7 @@ GenerateOutcome Generate(Session& session, const Constraints& constraints,
     outcome.failed = true;
     ErrorReport(session.host, FaultFrom(failure));
   }
-  ShowBoard(session, outcome.boardsStored > 0 ? constraints.GenBoards.front() : before);
+  ListAndShow(session, outcome.boardsStored > 0 ? constraints.GenBoards.front() : before);
   return outcome;
 }
 

@@ -134,6 +134,13 @@ void FindFiles(Session& session) {
   library.MaxBoard = library.BoardCount == 0 ? kBoardsOfEmptyLibrary : library.LastBoard;
 }
 
+void ListAndShow(Session& session, int number) {
+  session.board.BoardNumber = number;
+  FindFiles(session);
+  session.board.BoardNumber = std::clamp(number, kFirstBoardNumber, session.library.MaxBoard);
+  LoadHand(session);
+}
+
 std::string LibraryCaption(const Session& session) {
   return "Library - " + session.LibraryName();
 }

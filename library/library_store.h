@@ -33,6 +33,9 @@ void CountHands(Session& session);
 /// Scans the current library and sets the number of boards offered.
 void FindFiles(Session& session);
 
+/// The same, and loads board `number`, or the highest that is offered.
+void ListAndShow(Session& session, int number);
+
 /// "Library - NAME" and "N boards in library".
 std::string LibraryCaption(const Session& session);
 std::string LibraryCountText(const Session& session);
