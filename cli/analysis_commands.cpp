@@ -5,6 +5,7 @@
 
 #include "analysis/online_link.h"
 #include "cli/board_text.h"
+#include "formats/traveller.h"
 #include "library/board_store.h"
 #include "library/tables.h"
 
@@ -49,11 +50,15 @@ ExitCode Link(const Context& context, int boardNumber) {
     session.host.Tell("Name the page's host first: settings SolverHost HOST");
     return ExitCode::Refused;
   }
-  if (const std::string error = SolverAddressError(session.board); !error.empty()) {
+  const std::string record =
+      LinPlayRecord(MakeTraveller(LoadLinData(session), boardNumber), session.board);
+  const std::string error = SolverAddressError(session.board);
+  if (record.empty() && !error.empty()) {
     session.host.Tell(error);
     return ExitCode::Refused;
   }
-  context.data << SolverAddress(session.board, session.LibraryName(), session.settings.SolverHost)
+  context.data << SolverAddress(session.board, session.LibraryName(), session.settings.SolverHost,
+                                record)
                << '\n';
   return ExitCode::Done;
 }

@@ -17,6 +17,7 @@
 namespace tricklet {
 namespace {
 
+constexpr std::string_view kOwnTags = "qent|";  // the first of the scorer's own
 constexpr int kMostTricks = kCardsInHand;
 
 const std::string& Result(const LinRecord& record, LinResultTag tag) {
@@ -261,11 +262,21 @@ Traveller MakeTraveller(const LinFile& file, int boardNumber) {
     if (traveller.Rows.size() == kMaxTravellerRows) break;
     if (BoardNumberOfLin(line) != boardNumber) continue;
     traveller.Rows.push_back(MakeRow(ParseLinRecord(line), boardNumber, pairs, matchPoints));
+    traveller.Rows.back().Lin = line.substr(0, line.find(kOwnTags));
   }
   traveller.Computed = std::none_of(traveller.Rows.begin(), traveller.Rows.end(), HasPoints);
   if (traveller.Computed) ComputePoints(traveller, matchPoints, teams);
   traveller.Scoring = ScoringOf(file, matchPoints, teams, traveller.Computed);
   return traveller;
+}
+
+std::string LinPlayRecord(const Traveller& traveller, const Board& board, int row) {
+  for (std::size_t at = 0; at < traveller.Rows.size(); ++at) {
+    const TravellerRow& table = traveller.Rows[at];
+    const bool wanted = row < 0 ? !table.Record.Cards.empty() : static_cast<int>(at) == row;
+    if (wanted && table.Record.Board.Hands == board.Hands) return table.Lin;
+  }
+  return {};
 }
 
 std::string ReadLinBidding(const TravellerRow& row) {

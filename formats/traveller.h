@@ -29,6 +29,7 @@ struct TravellerRow {
   PerSide<std::optional<float>> Points;
   PerSide<std::string> Names;  ///< "Ann & Bob": North and South, East and West
   RecordedPlay Record;
+  std::string Lin;  ///< the LIN record itself, without the scorer's own tags
 
   /// There is a score or a ruling.
   bool HasResult() const { return Score || !Adjusted.empty(); }
@@ -58,6 +59,10 @@ inline constexpr std::size_t kMaxTravellerRows = 10'000;
 /// points, or IMPs against every other table. In a match of teams only two tables can be compared,
 /// as the file does not say which of more belong together.
 Traveller MakeTraveller(const LinFile& file, int boardNumber);
+
+/// The LIN record of a row, of the first with a play where `row` is -1; empty where there is none,
+/// or it is of another deal than `board`.
+std::string LinPlayRecord(const Traveller& traveller, const Board& board, int row = -1);
 
 /// One table in a line: "4S by South +1 +650 Ann & Bob v Cy & Di", a score of 0 as "="; "All Pass"
 /// and the names for a board that was passed out, "Not played" for one without a result. A ruling

@@ -40,6 +40,8 @@ class Commands : public QObject {
   /// `finish` takes over what is still being typed, before each command; false when that was
   /// refused, and then the command is not carried out.
   void SetFinishTyping(std::function<bool()> finish) { finishTyping_ = std::move(finish); }
+  /// Where the LIN record of the board in hand comes from; empty when it has none.
+  void SetLinRecord(std::function<std::string()> record) { linRecord_ = std::move(record); }
 
   /// The auction that is being entered; nullptr while the auction dialog is closed.
   const AuctionEntry* Auction() const { return auction_; }
@@ -147,6 +149,7 @@ class Commands : public QObject {
   PlayControl& play_;
   EditControl& edit_;
   std::function<bool()> finishTyping_;
+  std::function<std::string()> linRecord_;
   const AuctionEntry* auction_ = nullptr;
   QPointer<QWidget> window_;
   std::filesystem::path exportPath_;  // of the last export, where the next one begins

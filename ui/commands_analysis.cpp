@@ -37,13 +37,15 @@ void Commands::AnalyseLibrary() {
 
 void Commands::OnlineSolver() {
   Run([this] {
-    if (const std::string error = SolverAddressError(session_.board); !error.empty()) {
+    const std::string record = linRecord_ ? linRecord_() : std::string();
+    const std::string error = SolverAddressError(session_.board);
+    if (record.empty() && !error.empty()) {
       session_.host.Tell(error);
       return;
     }
     if (!HaveSolverHost(session_, window_)) return;
-    session_.host.OpenUrl(
-        SolverAddress(session_.board, session_.LibraryName(), session_.settings.SolverHost));
+    session_.host.OpenUrl(SolverAddress(session_.board, session_.LibraryName(),
+                                        session_.settings.SolverHost, record));
   });
 }
 

@@ -152,6 +152,8 @@ void MainWindow::Connect() {
 
 void MainWindow::ConnectEdit() {
   commands_->SetFinishTyping([this] { return editPane_->FinishTyping(); });
+  commands_->SetLinRecord(
+      [this] { return LinPlayRecord(results_->OfBoard(), session_.board, results_->Row()); });
   connect(commands_, &Commands::EditStarted, this, &MainWindow::BeginEditing);
   connect(commands_, &Commands::SwapOpened, this, &MainWindow::PlaceBesideHands);
   connect(commands_, &Commands::HandsChanged, this, &MainWindow::Display);

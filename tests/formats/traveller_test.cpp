@@ -267,6 +267,20 @@ TEST(Traveller, HasAsManyRowsAsCanBeLookedThrough) {
   EXPECT_EQ(traveller.Rows.back().Points[kNS], 2.F * (kMaxTravellerRows - 1));
 }
 
+TEST(Traveller, TheBoardsRecordIsTheOneLookedAtElseTheFirstWithAPlay) {
+  const std::string played = Record("a,b,c,d", "mb|1S|mb|p|mb|p|mb|p|pc|HA|");
+  const Traveller traveller = MakeTraveller(
+      FileOf("IMPS", {Record("e,f,g,h", ""), played + Tags("", "", "", "", "", "", "", ""),
+                      Record("i,j,k,l", "pc|HA|")}),
+      1);
+  Board board = traveller.Rows.at(0).Record.Board;
+  EXPECT_EQ(LinPlayRecord(traveller, board), played);
+  EXPECT_EQ(LinPlayRecord(traveller, board, 0), Record("e,f,g,h", ""));
+  EXPECT_EQ(LinPlayRecord(Traveller(), board), "");
+  board.Hands[Seat::East][Suit::Hearts].Remove(Rank::Two);
+  EXPECT_EQ(LinPlayRecord(traveller, board), "") << "it is another deal by now";
+}
+
 TEST(Traveller, NamesAreLookedUpByTheirFirstPart) {
   const std::vector<std::string> entries{"Ann & Bob v Cy & Di", "Robot & Eve v Cy & Di",
                                          "Robot & Gus v Hal & Ida"};
