@@ -144,7 +144,7 @@ std::string Utf8ToWindows1252(std::string_view text) {
 /// The encoding of one byte a character that the declaration at the front of the file names.
 std::optional<XmlEncoding> DeclaredEncoding(std::string_view bytes) {
   if (!bytes.starts_with("<?xml")) return std::nullopt;
-  const std::string declaration = ToUpper(bytes.substr(0, bytes.find("?>")));
+  const std::string declaration = ToUpper(bytes.substr(0, bytes.find_first_of("<>", 1)));
   constexpr std::string_view kAttribute = "ENCODING";
   const auto attribute = declaration.find(kAttribute);
   if (attribute == std::string::npos) return std::nullopt;

@@ -20,7 +20,7 @@ struct EncodingCase {
 TEST(XmlText, DecodesEveryEncodingAndBack) {
   const std::string latin1 = "<?xml version='1.0' encoding='iso-8859-1'?><a>Zo";
   const std::string windows = "<?xml version='1.0' encoding='Windows-1252'?><a>";
-  const std::array<EncodingCase, 9> cases{{
+  const std::array<EncodingCase, 10> cases{{
       {"UTF-8", "<a>Zo\u00eb \u0141</a>", "<a>Zo\u00eb \u0141</a>", XmlEncoding::Utf8},
       {"declared Latin-1", latin1 + "\xEB</a>", latin1 + "\u00eb</a>", XmlEncoding::Latin1},
       {"declared Latin-1 that could be UTF-8", latin1 + "\xC3\xAB</a>", latin1 + "\u00c3\u00ab</a>",
@@ -32,6 +32,8 @@ TEST(XmlText, DecodesEveryEncodingAndBack) {
       {"declared Windows-1252", windows + "O\x92Neil \x8Aimon \x80\x81\x9F\xA0\xFF</a>",
        windows + "O\u2019Neil \u0160imon \u20ac\u0081\u0178\u00a0\u00ff</a>",
        XmlEncoding::Windows1252},
+      {"an encoding that no declaration names", "<?xml <a encoding='latin1'?>\x92",
+       "<?xml <a encoding='latin1'?>\u2019", XmlEncoding::Windows1252},
       {"neither declared nor UTF-8", "<a>Zo\xEB O\x92Neil</a>", "<a>Zo\u00eb O\u2019Neil</a>",
        XmlEncoding::Windows1252},
       {"UTF-16, low byte first", "\xFF\xFE<\0\xEB\0\x41\x01\x3D\xD8\x00\xDE>\0"s,
