@@ -47,7 +47,7 @@ bool IsKnown(const PairPlayers& players) {
 std::string TakeDirection(std::string& number) {
   constexpr std::size_t kLength = 2;
   if (number.size() <= kLength) return "";
-  const std::string direction = ToUpper(std::string_view(number).substr(number.size() - kLength));
+  std::string direction = ToUpper(std::string_view(number).substr(number.size() - kLength));
   if (!IsDirection(direction)) return "";
   number.resize(number.size() - kLength);
   return direction;

@@ -198,9 +198,10 @@ void GiveMatchPoints(BoardScores scores, Traveller& traveller) {
 void GiveImps(BoardScores scores, Traveller& traveller) {
   const auto imps = CrossImps(scores);
   for (std::size_t table = 0; table < imps.size(); ++table) {
-    if (!imps[table]) continue;
-    traveller.Rows[table].Points[Side::NorthSouth] = static_cast<float>(*imps[table]);
-    traveller.Rows[table].Points[Side::EastWest] = static_cast<float>(-*imps[table]);
+    const std::optional<int> own = imps[table];
+    if (!own) continue;
+    traveller.Rows[table].Points[Side::NorthSouth] = static_cast<float>(*own);
+    traveller.Rows[table].Points[Side::EastWest] = static_cast<float>(-*own);
   }
 }
 
