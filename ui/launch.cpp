@@ -72,6 +72,35 @@ QSize SizeFromText(const QString& text) {
   return fits(size.width()) && fits(size.height()) ? size : QSize();
 }
 
+/// A name that is given must be one: a script's empty variable must not mean the stored library.
+void ReadName(const QCommandLineParser& parser, const QCommandLineOption& option, QString& name,
+              QString& error) {
+  name = parser.value(option);
+  if (name.isEmpty() && parser.isSet(option)) {
+    error = QCoreApplication::translate("Launch", "Nothing is named: --%1")
+                .arg(option.names().constFirst());
+  }
+}
+
+void ReadBoard(const QString& text, LaunchOptions& options) {
+  options.board = text.toInt();
+  if (IsStorable(options.board)) return;
+  options.error = QCoreApplication::translate("Launch", "Not a board number: %1").arg(text);
+}
+
+void ReadSeed(const QString& text, LaunchOptions& options) {
+  bool isNumber = false;
+  options.seed = text.toULongLong(&isNumber);
+  if (isNumber) return;
+  options.error = QCoreApplication::translate("Launch", "Not a number: %1").arg(text);
+}
+
+void ReadSize(const QString& text, LaunchOptions& options) {
+  options.size = SizeFromText(text);
+  if (options.size.isValid()) return;
+  options.error = QCoreApplication::translate("Launch", "Not a size: %1").arg(text);
+}
+
 /// Asks nobody: every question has its cautious answer, and messages go to the error output.
 class SilentHost : public QtHost {
  public:
@@ -143,37 +172,12 @@ LaunchOptions ParseLaunch(const QStringList& arguments) {
   }
   options.help = known.parser.isSet(known.help);
   options.version = known.parser.isSet(known.version);
-  options.root = known.parser.value(known.root);
-  options.library = known.parser.value(known.library);
   options.screenshot = known.parser.value(known.screenshot);
-  for (const QCommandLineOption& option : {known.root, known.library}) {
-    if (known.parser.isSet(option) && known.parser.value(option).isEmpty()) {
-      options.error = QCoreApplication::translate("Launch", "Nothing is named: --%1")
-                          .arg(option.names().constFirst());
-    }
-  }
-  if (known.parser.isSet(known.board)) {
-    const QString text = known.parser.value(known.board);
-    options.board = text.toInt();
-    if (!IsStorable(options.board)) {
-      options.error = QCoreApplication::translate("Launch", "Not a board number: %1").arg(text);
-    }
-  }
-  if (known.parser.isSet(known.seed)) {
-    const QString text = known.parser.value(known.seed);
-    bool isNumber = false;
-    options.seed = text.toULongLong(&isNumber);
-    if (!isNumber) {
-      options.error = QCoreApplication::translate("Launch", "Not a number: %1").arg(text);
-    }
-  }
-  if (known.parser.isSet(known.size)) {
-    const QString text = known.parser.value(known.size);
-    options.size = SizeFromText(text);
-    if (!options.size.isValid()) {
-      options.error = QCoreApplication::translate("Launch", "Not a size: %1").arg(text);
-    }
-  }
+  ReadName(known.parser, known.root, options.root, options.error);
+  ReadName(known.parser, known.library, options.library, options.error);
+  if (known.parser.isSet(known.board)) ReadBoard(known.parser.value(known.board), options);
+  if (known.parser.isSet(known.seed)) ReadSeed(known.parser.value(known.seed), options);
+  if (known.parser.isSet(known.size)) ReadSize(known.parser.value(known.size), options);
   for (const QString& file : known.parser.positionalArguments()) {
     options.files.push_back(PathFromQt(file));
   }
