@@ -63,7 +63,7 @@ TEST(Call, TextRoundTripsAndShortFormsAreTaken) {
   EXPECT_EQ(Call::FromText("p"), Call::Pass());
   EXPECT_EQ(Call::FromText("xx"), Call::Redouble());
   EXPECT_EQ(Call::FromText("D"), Call::Double());
-  for (const char* none : {"", "8C", "0C", "1", "1X", "1NX", "1CT", "Passs", "XXX", "1NTT"}) {
+  for (const char* none : {"", "8C", "0C", "1", "1X", "1NX", "1CT", "Passs", "XxX", "1NTT"}) {
     EXPECT_FALSE(Call::FromText(none)) << none;
   }
 }
