@@ -74,7 +74,12 @@ std::string LibraryOfRoot(const fs::path& root, const std::string& stored) {
 
 bool OpenLibraries(Session& session) {
   if (!FolderExists(session.FileLocation()) && !ChooseLibraryRoot(session)) return false;
-  RequireLibraryFolder(session);  // else the first of the root becomes the current library
+  // A library that is gone is made again. Where it cannot be, the first of the root takes its
+  // place: without a word, unless the name is none that a library can have had.
+  const std::string& name = session.LibraryName();
+  if (HasAllowedCharacters(name) || (!name.empty() && !IsLibraryName(name))) {
+    RequireLibraryFolder(session);
+  }
   GetLibraryNames(session);
   return true;
 }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/version.h"
+#include "library/library_store.h"
 #include "tests/support/library_fixture.h"
 
 namespace tricklet {
@@ -46,6 +47,18 @@ TEST_F(StartUp, AStoredLibraryThatIsGoneIsMadeAgain) {
   EXPECT_EQ(session.LibraryName(), "Last year");
   EXPECT_TRUE(fs::is_directory(session.LibraryPath()));
   EXPECT_EQ(session.LibraryNames, (std::vector<std::string>{"Club", "Last year"}));
+}
+
+TEST_F(StartUp, WhereAStoredLibraryCannotBeMadeAgainTheFirstIsOpened) {
+  for (const char* name : {"", "St. Ives", "../up"}) {  // the second as a file manager named it
+    if (!IsLibraryName(name) && *name != '\0') {
+      host.ExpectTell("A library cannot be named " + std::string(name));
+    }
+    session.settings.library = name;
+    EXPECT_TRUE(OpenLibraries(session));
+    EXPECT_EQ(session.LibraryName(), "Club") << name;
+    EXPECT_EQ(session.LibraryNames, std::vector<std::string>{"Club"});
+  }
 }
 
 TEST_F(StartUp, TheNoticeComesUntilItIsNotWantedAnyMore) {
