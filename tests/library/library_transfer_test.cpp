@@ -1,56 +1,19 @@
-// Exporting, importing, moving, copying and deleting whole libraries.
+// Exporting, moving, copying and deleting whole libraries.
 #include "library/library_transfer.h"
 
 #include <gtest/gtest.h>
 
 #include "core/fault.h"
 #include "library/board_store.h"
-#include "tests/support/library_fixture.h"
+#include "tests/library/transfer_fixture.h"
 
 namespace tricklet {
 namespace {
 
 namespace fs = std::filesystem;
+using test::LibraryTransfer;
 using test::ReadFile;
 using test::WriteFile;
-
-/// The libraries Club (current) and Teaching in the root; `Other()` is a folder beside it.
-class LibraryTransfer : public test::LibraryTest {
- protected:
-  LibraryTransfer() {
-    fs::remove(session.LibraryPath());
-    session.settings.filelocation = FolderText(Root());
-    PutBoard(1);
-    PutBoard(3);
-    WriteFile(Root() / "Teaching" / "007.txt", "seven");
-    WriteFile(Root() / ".hidden" / "001.txt", "no library");
-    fs::create_directories(Other());
-    GetLibraryNames(session);
-  }
-
-  fs::path Root() const { return folder.Path() / "hands"; }
-  fs::path Other() const { return folder.Path() / "other \u00e9"; }
-  std::string RootText() const { return FolderText(Root()); }
-
-  void ExpectCopyQuestion(Answer answer) {
-    host.ExpectAsk(
-        "Do you want to copy all your libraries from\n" + RootText() + "\nto " + PathText(Other()),
-        "Tricklet", answer);
-  }
-  void ExpectFailure(const std::string& part) { host.ExpectAskWith(part, Answer::Yes); }
-  void ExpectUnsavedQuestion(Answer answer) {
-    session.board.HandChanged = true;
-    host.ExpectAskWith("Do you want to save changes to board 1 in library Club?", answer);
-  }
-  /// The root and the current library are what they were.
-  void ExpectNothingChanged() {
-    EXPECT_EQ(session.settings.filelocation, RootText());
-    EXPECT_EQ(session.LibraryName(), "Club");
-    EXPECT_EQ(FoldersOf(Root()), (std::vector<std::string>{"Club", "Teaching"}));
-    EXPECT_EQ(session.LibraryNames, FoldersOf(Root()));
-    EXPECT_TRUE(fs::is_empty(Other()));
-  }
-};
 
 const std::string kOverwrite =
     "That folder already exists\nDo you wish to overwrite any existing boards?";
@@ -186,118 +149,6 @@ TEST_F(LibraryTransfer, ACopyThatFailsOrIsCancelledLeavesNothing) {
   EXPECT_EQ(session.settings.filelocation, RootText());
   EXPECT_TRUE(fs::is_empty(Other()));
   EXPECT_FALSE(store.Read("macro", "filelocation"));
-}
-
-TEST_F(LibraryTransfer, ImportsALibraryAndMakesItCurrent) {
-  const std::string name = "Caf\u00e9 2024.05 & co";
-  WriteFile(Other() / name / "002.txt", test::OneSuitEachText());
-  WriteFile(Other() / name / "LIN.txt", "results");
-  host.Choose(Other() / name);
-  EXPECT_TRUE(ImportLibrary(session));
-  EXPECT_EQ(host.folderTitle, "Choose the library to import");
-  EXPECT_EQ(session.LibraryName(), name);
-  EXPECT_EQ(store.Read("macro", "library"), name);
-  EXPECT_EQ(session.LibraryNames.at(static_cast<std::size_t>(session.LibIndex)), name);
-  EXPECT_EQ(session.library.LastBoard, 2);
-  EXPECT_EQ(session.board.BoardNumber, 1);
-  EXPECT_EQ(ReadFile(Root() / name / "LIN.txt"), "results");
-  EXPECT_TRUE(fs::exists(Other() / name / "002.txt"));
-}
-
-TEST_F(LibraryTransfer, RefusesToImportWhatIsNoNewLibrary) {
-  WriteFile(Other() / "CLUB" / "001.txt", "x");
-  WriteFile(Other() / "Texts" / "notes.txt", "x");
-  WriteFile(Other() / "Texts" / "01.txt", "x");
-  WriteFile(Other() / "Texts" / "1234.txt", "x");
-  fs::create_directories(Other() / "Texts" / "001.txt");
-  WriteFile(Other() / ".git" / "001.txt", "x");
-  const struct {
-    fs::path folder;
-    std::string message;
-  } cases[] = {
-      {Other() / "CLUB",
-       "You already have a library - CLUB\n"
-       "Please delete it before importing a library of the same name"},
-      {Root() / "Club" / "",
-       "You already have a library - Club\n"
-       "Please delete it before importing a library of the same name"},
-      {Other() / "Texts", "There are no boards in the library Texts"},
-      {Other() / ".git", "A library cannot be named .git"},
-      {Other() / "gone", "There is no folder " + PathText(Other() / "gone")},
-      {Root().root_path(), "Please choose a sub-folder, not " + PathText(Root().root_path())},
-  };
-  session.board.HandChanged = true;  // not asked about: the board is not left
-  for (const auto& [chosen, message] : cases) {
-    host.ExpectTell(message);
-    EXPECT_FALSE(ImportLibraryFrom(session, chosen));
-  }
-  EXPECT_EQ(session.LibraryName(), "Club");
-  EXPECT_EQ(FoldersOf(Root()).size(), 2U);
-
-  WriteFile(Other() / "Good" / "\u00e9b1.TXT", "three characters");
-  ExpectUnsavedQuestion(Answer::Cancel);
-  EXPECT_FALSE(ImportLibraryFrom(session, Other() / "Good"));
-  EXPECT_FALSE(fs::exists(Root() / "Good"));
-  ExpectUnsavedQuestion(Answer::Yes);
-  host.ExpectAskWith("Overwrite existing board 1?", Answer::Yes);
-  EXPECT_TRUE(ImportLibraryFrom(session, Other() / "Good"));
-}
-
-TEST_F(LibraryTransfer, ImportsAllNewLibrariesAndSaysSo) {
-  const std::string at = PathText(Other());
-  const struct {
-    const char* name;
-    int same;
-    int empty;
-    int fresh;
-    std::string message;  // the question, or what is told when there is nothing to ask
-    std::string report;
-  } cases[] = {
-      {"none", 0, 0, 0, "There are no libraries in the folder\n", ""},
-      {"nothing new", 1, 1, 0, "There are no other libraries in the folder\n", ""},
-      {"one", 0, 0, 1, "1 library will be copied from\n", "1 library has been copied"},
-      {"one of each", 1, 1, 1,
-       "1 of the libraries in\nDIR\nhas the same name as one of your existing libraries\n"
-       "and so will not be copied\n\n1 other library will be copied from\n",
-       "1 library contains no boards\nso has not been copied\n\n1 library has been copied"},
-      {"two of each", 2, 2, 2,
-       "2 of the libraries in\nDIR\nhave the same name as your existing libraries\n"
-       "and so will not be copied\n\n2 other libraries will be copied from\n",
-       "2 libraries contain no boards\nso have not been copied\n\n2 libraries have been copied"},
-  };
-  for (const auto& c : cases) {
-    const fs::path from = Other() / c.name;
-    fs::create_directories(from);
-    for (int i = 0; i < c.same; ++i) {
-      WriteFile(from / (i == 0 ? "Club" : "teaching") / "001.txt", "theirs");
-    }
-    for (int i = 0; i < c.empty; ++i)
-      fs::create_directories(from / ("no boards" + std::to_string(i)));
-    for (int i = 0; i < c.fresh; ++i) {
-      WriteFile(from / (c.name + std::to_string(i)) / "001.txt", c.name);
-    }
-    std::string message = c.message + PathText(from);
-    if (const auto place = message.find("DIR"); place != std::string::npos) {
-      message.replace(place, 3, PathText(from));
-    }
-    const std::size_t before = FoldersOf(Root()).size();
-    session.board.HandChanged = true;  // the board is not left, and keeps its changes
-    if (c.fresh == 0) {
-      host.ExpectTell(message);
-      EXPECT_FALSE(ImportLibrariesFrom(session, from));
-    } else {
-      host.ExpectAsk(message, "Tricklet", Answer::Cancel);
-      EXPECT_FALSE(ImportLibrariesFrom(session, from));
-      host.ExpectAsk(message, "Tricklet", Answer::OK);
-      host.ExpectTell(c.report);
-      EXPECT_TRUE(ImportLibrariesFrom(session, from));
-    }
-    EXPECT_EQ(FoldersOf(Root()).size(), before + static_cast<std::size_t>(c.fresh)) << c.name;
-    EXPECT_EQ(session.LibraryNames, FoldersOf(Root()));
-    EXPECT_EQ(session.LibraryName(), "Club");
-    EXPECT_TRUE(session.board.HandChanged);
-  }
-  EXPECT_EQ(ReadFile(Root() / "Teaching" / "007.txt"), "seven");
 }
 
 TEST_F(LibraryTransfer, MovingIsACopyAndASwitchOfTheRoot) {

@@ -1,0 +1,48 @@
+// Libraries to copy, and what is asked and told while they are.
+#pragma once
+
+#include "library/library_store.h"
+#include "library/library_transfer.h"
+#include "tests/support/library_fixture.h"
+
+namespace tricklet::test {
+
+/// The libraries Club (current) and Teaching in the root; `Other()` is a folder beside it.
+class LibraryTransfer : public LibraryTest {
+ protected:
+  LibraryTransfer() {
+    std::filesystem::remove(session.LibraryPath());
+    session.settings.filelocation = FolderText(Root());
+    PutBoard(1);
+    PutBoard(3);
+    WriteFile(Root() / "Teaching" / "007.txt", "seven");
+    WriteFile(Root() / ".hidden" / "001.txt", "no library");
+    std::filesystem::create_directories(Other());
+    GetLibraryNames(session);
+  }
+
+  std::filesystem::path Root() const { return folder.Path() / "hands"; }
+  std::filesystem::path Other() const { return folder.Path() / "other \u00e9"; }
+  std::string RootText() const { return FolderText(Root()); }
+
+  void ExpectCopyQuestion(Answer answer) {
+    host.ExpectAsk(
+        "Do you want to copy all your libraries from\n" + RootText() + "\nto " + PathText(Other()),
+        "Tricklet", answer);
+  }
+  void ExpectFailure(const std::string& part) { host.ExpectAskWith(part, Answer::Yes); }
+  void ExpectUnsavedQuestion(Answer answer) {
+    session.board.HandChanged = true;
+    host.ExpectAskWith("Do you want to save changes to board 1 in library Club?", answer);
+  }
+  /// The root and the current library are what they were.
+  void ExpectNothingChanged() {
+    EXPECT_EQ(session.settings.filelocation, RootText());
+    EXPECT_EQ(session.LibraryName(), "Club");
+    EXPECT_EQ(FoldersOf(Root()), (std::vector<std::string>{"Club", "Teaching"}));
+    EXPECT_EQ(session.LibraryNames, FoldersOf(Root()));
+    EXPECT_TRUE(std::filesystem::is_empty(Other()));
+  }
+};
+
+}  // namespace tricklet::test
