@@ -155,6 +155,12 @@ int BoardNumberOfHeader(std::string_view header) {
   return std::max(LeadingNumber(header.substr(kBoard.size())), 0);
 }
 
+std::optional<Card> CardOfLetters(char suit, char rank) {
+  CardText card;
+  card.Next(suit);
+  return card.Next(rank);
+}
+
 LinRecord ParseLinRecord(std::string_view text) {
   LinRecord record;
   int roomNumber = 0;

@@ -37,6 +37,9 @@ struct LinRecord {
 /// N of the value "Board N" of an "ah" field; 0 when it names no board.
 int BoardNumberOfHeader(std::string_view header);
 
+/// The card of a suit letter and a rank letter, whatever their case; the ten is "T".
+std::optional<Card> CardOfLetters(char suit, char rank);
+
 /// Reads a record that is already decoded (`ReadLinData`). Nothing is an error: what cannot be read
 /// is passed over. When three hands are given and one is empty, that one receives every card that
 /// no other hand holds.

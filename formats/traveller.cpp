@@ -54,14 +54,11 @@ std::optional<Seat> SeatOf(std::string_view text) {
 
 /// A card with its suit before or behind its rank; the ten is "T" or "10".
 std::optional<Card> CardOf(std::string_view text) {
-  std::string card = ToUpper(Trim(text));
+  std::string card(Trim(text));
   if (const auto ten = card.find("10"); ten != std::string::npos) card.replace(ten, 2, "T");
   if (card.size() != 2) return std::nullopt;
-  if (std::string_view("SHDC").find(card[0]) == std::string_view::npos) std::swap(card[0], card[1]);
-  const auto suit = std::string_view("SHDC").find(card[0]);
-  const auto rank = std::string_view("AKQJT98765432").find(card[1]);
-  if (suit == std::string_view::npos || rank == std::string_view::npos) return std::nullopt;
-  return Card{static_cast<Suit>(suit), static_cast<Rank>(rank)};
+  const auto suitFirst = CardOfLetters(card[0], card[1]);
+  return suitFirst ? suitFirst : CardOfLetters(card[1], card[0]);
 }
 
 /// The deal, the calls as far as a board holds them, and the contract. Where the record has no
