@@ -26,6 +26,9 @@ struct UsebioRefusal {
 inline constexpr const char* kXmlLoadFailed =
     "XML File Load failed - a website might not be available or the file is in the wrong format";
 
+/// The message for a file that does not hold what a results file has to.
+inline constexpr const char* kUnexpectedFormat = "Unexpected XML format";
+
 /// Elements inside one another that are read; a results file has some ten.
 inline constexpr int kMaxXmlDepth = 64;
 /// Longest name, word or record that is read, in bytes.

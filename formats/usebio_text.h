@@ -1,0 +1,23 @@
+// The texts of a results file's elements.
+#pragma once
+
+#include <string>
+
+#include <pugixml.hpp>
+
+namespace tricklet {
+
+// All of these throw `UsebioRefusal` for a text that is longer than any in a results file, and give
+// an empty text for an element that is not there.
+
+/// All text of an element, without blanks at both ends.
+std::string TextOf(const pugi::xml_node& element);
+/// That of the first child of this name.
+std::string ChildText(const pugi::xml_node& element, const char* name);
+/// The value of the attribute, else of the child element of that name.
+std::string NamedText(const pugi::xml_node& element, const char* name);
+
+/// The element is not there, or holds nothing.
+bool IsEmpty(const pugi::xml_node& element);
+
+}  // namespace tricklet
