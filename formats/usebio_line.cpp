@@ -29,67 +29,33 @@ bool IsShortestNumber(std::string_view text) {
          std::all_of(fraction + 1, text.end(), isDigit);
 }
 
-/// The number that `text` begins with, 0 when it begins with none, in shortest form.
-std::string SingleNumber(std::string_view text) {
-  if (IsShortestNumber(text)) return std::string(text);
+/// Appends the number that the element begins with, 0 when it begins with none, in shortest form.
+void AppendNumber(std::string& record, const pugi::xml_node& element) {
+  const ElementText whole(element);
+  std::string_view text = whole.View();
+  if (IsShortestNumber(text)) {
+    record += text;
+    return;
+  }
   if (text.starts_with('+')) text.remove_prefix(1);
   float value = 0;
   const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
   if (read.ec != std::errc() || !std::isfinite(value) || value == 0) value = 0;
-  return ShortestText(value);
+  record += ShortestText(value);
 }
 
-/// What is read of a traveller line. One pass finds all of it: a club's evening has hundreds of
-/// these lines, and looking for each element by its name would go through a line once per name.
-class TravellerLine {
- public:
-  enum Element {
-    LinData,
-    Tricks,
-    Score,
-    Contract,
-    PlayedBy,
-    Lead,
-    NsMatchPoints,
-    EwMatchPoints,
-    NsCrossImps,
-    NsButler,
-    NsPair,
-    EwPair,
-  };
-
-  explicit TravellerLine(const pugi::xml_node& line) {
-    for (auto child = line.first_child(); child; child = child.next_sibling()) {
-      const auto* const name = std::find(kNames.begin(), kNames.end(), child.name());
-      if (name == kNames.end()) continue;
-      pugi::xml_node& element = elements_.at(static_cast<std::size_t>(name - kNames.begin()));
-      if (!element) element = child;
-    }
-  }
-
-  bool Has(Element element) const { return !elements_.at(element).empty(); }
-  std::string Text(Element element) const { return TextOf(elements_.at(element)); }
-  /// A text for a private tag; a bar would end its field.
-  std::string Field(Element element) const {
-    std::string text = Text(element);
-    std::replace(text.begin(), text.end(), '|', ' ');
-    return text;
-  }
-  std::string Number(Element element) const { return SingleNumber(Text(element)); }
-
- private:
-  static constexpr std::array<std::string_view, EwPair + 1> kNames{
-      "LIN_DATA",         "TRICKS",          "SCORE",
-      "CONTRACT",         "PLAYED_BY",       "LEAD",
-      "NS_MATCH_POINTS",  "EW_MATCH_POINTS", "NS_CROSS_IMP_POINTS",
-      "NS_BUTLER_POINTS", "NS_PAIR_NUMBER",  "EW_PAIR_NUMBER"};
-  std::array<pugi::xml_node, kNames.size()> elements_;
-};
+/// Appends the element's text; a bar would end its field.
+void AppendField(std::string& record, const pugi::xml_node& element) {
+  const ElementText text(element);
+  const std::size_t begin = record.size();
+  record += text.View();
+  std::replace(record.begin() + static_cast<std::ptrdiff_t>(begin), record.end(), '|', ' ');
+}
 
 /// Cross-IMPs of North-South; Butler events give theirs under another name.
-std::string Imps(const TravellerLine& line) {
-  return line.Number(line.Has(TravellerLine::NsCrossImps) ? TravellerLine::NsCrossImps
-                                                          : TravellerLine::NsButler);
+const pugi::xml_node& Imps(const TravellerLine& line) {
+  const pugi::xml_node& imps = line.At(TravellerLine::NsCrossImps);
+  return imps ? imps : line.At(TravellerLine::NsButler);
 }
 
 /// A "pn" field of the record names somebody.
@@ -103,8 +69,8 @@ bool NamesPlayers(std::string_view record) {
 /// The players by the numbers of their pairs: "pn|South,West,North,East|". Empty when neither pair
 /// is known.
 std::string PlayersField(const TravellerLine& line, const PairNames& pairs) {
-  PairPlayers ns = pairs.PlayersOf(line.Text(TravellerLine::NsPair), Side::NorthSouth);
-  PairPlayers ew = pairs.PlayersOf(line.Text(TravellerLine::EwPair), Side::EastWest);
+  PairPlayers ns = pairs.PlayersOf(TextOf(line.At(TravellerLine::NsPair)), Side::NorthSouth);
+  PairPlayers ew = pairs.PlayersOf(TextOf(line.At(TravellerLine::EwPair)), Side::EastWest);
   const std::array inOrder{&ns.second, &ew.second, &ns.first, &ew.first};
   std::string names;
   bool known = false;
@@ -119,7 +85,8 @@ std::string PlayersField(const TravellerLine& line, const PairNames& pairs) {
 /// The LIN record of a traveller line, decoded. It ends in a bar, and the first board that it names
 /// is the one whose line it is. Where it has no players they are those of the line's pairs.
 std::string RecordOf(const TravellerLine& line, int boardNumber, const PairNames& pairs) {
-  std::string record = MendUtf8(ReadLinData(line.Text(TravellerLine::LinData)));
+  const ElementText data(line.At(TravellerLine::LinData));
+  std::string record = MendUtf8(ReadLinData(data.View()));
   if (!record.empty() && !record.ends_with('|')) record += '|';
   if (!NamesPlayers(record)) record += PlayersField(line, pairs);
   const int named = BoardNumberOfLin(record);
@@ -131,21 +98,34 @@ std::string RecordOf(const TravellerLine& line, int boardNumber, const PairNames
 
 }  // namespace
 
-std::string LinLine(const pugi::xml_node& travellerLine, int boardNumber, const PairNames& pairs) {
+bool TravellerLine::Take(std::string_view name, pugi::xml_node child) {
+  constexpr std::array<std::string_view, EwPair + 1> kNames{
+      "LIN_DATA",         "TRICKS",          "SCORE",
+      "CONTRACT",         "PLAYED_BY",       "LEAD",
+      "NS_MATCH_POINTS",  "EW_MATCH_POINTS", "NS_CROSS_IMP_POINTS",
+      "NS_BUTLER_POINTS", "NS_PAIR_NUMBER",  "EW_PAIR_NUMBER"};
+  const auto* const known = std::find(kNames.begin(), kNames.end(), name);
+  if (known == kNames.end()) return false;
+  pugi::xml_node& element = elements_.at(static_cast<std::size_t>(known - kNames.begin()));
+  if (!element) element = child;
+  return true;
+}
+
+std::string LinLine(const TravellerLine& line, int boardNumber, const PairNames& pairs) {
   using Line = TravellerLine;
-  const Line line(travellerLine);
+  std::string text = RecordOf(line, boardNumber, pairs);
   // The bars between values and tags are doubled from the second value on: readers of this layout
   // have always met it so.
-  std::string text = RecordOf(line, boardNumber, pairs);
-  text.append("qent|").append(line.Field(Line::Tricks));
-  text.append("|qens|").append(line.Field(Line::Score));
-  text.append("||qenns|").append(line.Number(Line::NsMatchPoints));
-  text.append("||qenew|").append(line.Number(Line::EwMatchPoints));
-  text.append("||qenc|").append(line.Field(Line::Contract));
-  text.append("||qend|").append(line.Field(Line::PlayedBy));
-  text.append("||qenl|").append(line.Field(Line::Lead));
-  text.append("||qeni|").append(Imps(line));
-  return text + "|";
+  AppendField(text += "qent|", line.At(Line::Tricks));
+  AppendField(text += "|qens|", line.At(Line::Score));
+  AppendNumber(text += "||qenns|", line.At(Line::NsMatchPoints));
+  AppendNumber(text += "||qenew|", line.At(Line::EwMatchPoints));
+  AppendField(text += "||qenc|", line.At(Line::Contract));
+  AppendField(text += "||qend|", line.At(Line::PlayedBy));
+  AppendField(text += "||qenl|", line.At(Line::Lead));
+  AppendNumber(text += "||qeni|", Imps(line));
+  text += '|';
+  return text;
 }
 
 }  // namespace tricklet

@@ -11,6 +11,7 @@
 #include "core/text.h"
 #include "formats/pair_names.h"
 #include "formats/usebio_line.h"
+#include "formats/usebio_outline.h"
 #include "formats/usebio_text.h"
 
 namespace tricklet {
@@ -18,22 +19,6 @@ namespace {
 
 constexpr const char* kOneSession = "Only Single Session Imports supported";
 constexpr const char* kOneSection = "Only Single Section Imports supported";
-
-/// Goes through a document once, which must not be too deep, and finds what may lie anywhere in it.
-class Outline : public pugi::xml_tree_walker {
- public:
-  bool for_each(pugi::xml_node& node) override {
-    const std::string_view name = node.name();
-    if (name == "BOARD") boards.push_back(node);
-    if (name == "SECTION") ++sections;
-    if (name == "SESSION" && std::string_view(node.parent().name()) == "EVENT") ++sessions;
-    return depth() < kMaxXmlDepth;
-  }
-
-  std::vector<pugi::xml_node> boards;
-  int sessions = 0;  ///< right inside an event
-  int sections = 0;
-};
 
 /// Keeps a copy of its exact length: a line that was put together piece by piece may hold twice the
 /// memory that it needs.
@@ -79,7 +64,7 @@ bool MoreThanOne(const pugi::xml_node& event, std::initializer_list<const char*>
 /// Reads a document that has been parsed.
 class UsebioReader {
  public:
-  UsebioReader(const pugi::xml_document& document, const Outline& outline)
+  UsebioReader(const pugi::xml_document& document, const UsebioOutline& outline)
       : document_(document), outline_(outline) {}
 
   UsebioResults Read() {
@@ -88,13 +73,13 @@ class UsebioReader {
     if (IsEmpty(club) || IsEmpty(event)) throw UsebioRefusal{kUnexpectedFormat};
     RefuseSeveral(event);
     ReadScoring(event);
-    // Only the outermost list: the pairs of lists in lists would come more than once.
-    for (const auto& pair :
-         document_.select_nodes("//PARTICIPANTS[not(ancestor::PARTICIPANTS)]//PAIR")) {
-      Keep(results_.data.Names, NamesLine(pair.node()));
+    for (const pugi::xml_node& list : outline_.participants) {
+      for (const auto& pair : list.select_nodes(".//PAIR")) {
+        Keep(results_.data.Names, NamesLine(pair.node()));
+      }
     }
     const PairNames pairs(results_.data.Names);
-    for (const pugi::xml_node& board : outline_.boards) ReadBoard(board, pairs);
+    for (const UsebioBoard& board : outline_.boards) ReadBoard(board, pairs);
     return std::move(results_);
   }
 
@@ -122,14 +107,15 @@ class UsebioReader {
     data.TeamEvent.emplace();
     data.TeamEvent->TeamScoringMethod = general.empty() ? usual : general;
     data.TeamEvent->TeamScoringAbb = GetAbbreviations(data.TeamEvent->TeamScoringMethod);
-    for (const auto& team :
-         document_.select_nodes("//PARTICIPANTS[not(ancestor::PARTICIPANTS)]//TEAM")) {
-      Keep(data.TeamEvent->Teams, TeamLine(team.node()));
+    for (const pugi::xml_node& list : outline_.participants) {
+      for (const auto& team : list.select_nodes(".//TEAM")) {
+        Keep(data.TeamEvent->Teams, TeamLine(team.node()));
+      }
     }
   }
 
-  void ReadBoard(const pugi::xml_node& board, const PairNames& pairs) {
-    const std::string text = ChildText(board, "BOARD_NUMBER");
+  void ReadBoard(const UsebioBoard& board, const PairNames& pairs) {
+    const std::string text = ChildText(board.element, "BOARD_NUMBER");
     int number = 0;
     const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
     if (read.ec != std::errc() || read.ptr != text.data() + text.size()) {
@@ -138,13 +124,13 @@ class UsebioReader {
     results_.firstBoard = any_ ? std::min(results_.firstBoard, number) : number;
     results_.lastBoard = any_ ? std::max(results_.lastBoard, number) : number;
     any_ = true;
-    for (const pugi::xml_node& line : board.children("TRAVELLER_LINE")) {
+    for (const TravellerLine& line : board.lines) {
       Keep(results_.data.Lin, LinLine(line, number, pairs));
     }
   }
 
   const pugi::xml_document& document_;
-  const Outline& outline_;
+  const UsebioOutline& outline_;
   UsebioResults results_;
   bool any_ = false;
 };
@@ -158,9 +144,8 @@ std::variant<UsebioResults, UsebioRefusal> ReadUsebio(std::string text) {
   if (!document.load_buffer_inplace(text.data(), text.size(), kParsing, pugi::encoding_utf8)) {
     return UsebioRefusal{kXmlLoadFailed};
   }
-  Outline outline;
-  if (!document.traverse(outline)) return UsebioRefusal{kXmlLoadFailed};
   try {
+    const UsebioOutline outline = OutlineOf(document);
     return UsebioReader(document, outline).Read();
   } catch (const UsebioRefusal& refusal) {
     return refusal;

@@ -1,7 +1,5 @@
 #include "formats/usebio_text.h"
 
-#include <utility>
-
 #include "core/text.h"
 #include "formats/usebio_reader.h"
 
@@ -9,22 +7,26 @@ namespace tricklet {
 namespace {
 
 /// `text` as a value to keep; longer ones are in no results file.
-std::string Kept(std::string text) {
+std::string_view Kept(std::string_view text) {
   const std::string_view value = TrimLines(text);
   if (value.size() > kMaxUsebioText) throw UsebioRefusal{kUnexpectedFormat};
-  if (value.size() < text.size()) return std::string(value);
-  return text;
+  return value;
 }
 
 }  // namespace
 
-std::string TextOf(const pugi::xml_node& element) {
-  // Comments may divide it: its first part is the element's own value, by the parsing option.
-  std::string text = element.value();
-  for (auto part = element.first_child(); part; part = part.next_sibling()) {
-    if (part.type() == pugi::node_pcdata || part.type() == pugi::node_cdata) text += part.value();
+ElementText::ElementText(const pugi::xml_node& element) : view_(element.value()) {
+  // The first piece is the element's own value, by the parsing option.
+  for (auto piece = element.first_child(); piece; piece = piece.next_sibling()) {
+    if (piece.type() != pugi::node_pcdata && piece.type() != pugi::node_cdata) continue;
+    if (joined_.empty()) joined_ = view_;
+    view_ = joined_ += piece.value();
   }
-  return Kept(std::move(text));
+  view_ = Kept(view_);
+}
+
+std::string TextOf(const pugi::xml_node& element) {
+  return std::string(ElementText(element).View());
 }
 
 bool IsEmpty(const pugi::xml_node& element) {
@@ -37,7 +39,7 @@ std::string ChildText(const pugi::xml_node& element, const char* name) {
 
 std::string NamedText(const pugi::xml_node& element, const char* name) {
   const pugi::xml_attribute attribute = element.attribute(name);
-  return attribute ? Kept(attribute.value()) : ChildText(element, name);
+  return attribute ? std::string(Kept(attribute.value())) : ChildText(element, name);
 }
 
 }  // namespace tricklet
