@@ -19,9 +19,9 @@ std::optional<unsigned> HexDigit(char c) {
 }
 
 /// One pass: what an escape stood for is never taken for the beginning of another.
-std::string DecodePercent(std::string_view text) {
+std::string DecodePercent(std::string_view text, std::size_t room) {
   std::string decoded;
-  decoded.reserve(text.size());
+  decoded.reserve(text.size() + room);
   while (!text.empty()) {
     const std::string_view plain = text.substr(0, text.find('%'));
     decoded += plain;
@@ -55,8 +55,8 @@ bool IsTag(std::string_view text) {
 
 }  // namespace
 
-std::string ReadLinData(std::string_view text) {
-  std::string decoded = DecodePercent(text);
+std::string ReadLinData(std::string_view text, std::size_t room) {
+  std::string decoded = DecodePercent(text, room);
   CleanLinNames(decoded);
   return decoded;
 }

@@ -5,6 +5,7 @@
 // as the bytes that it came in.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -12,8 +13,9 @@ namespace tricklet {
 
 /// Puts the character itself in the place of each percent escape ("%2C" becomes ","; "%25" becomes
 /// "%" and is not decoded again), and takes from each name behind "|pn" the part from its "#" on.
-/// Throws `Fault` kTypeMismatch for a "%" without two hexadecimal digits behind it.
-std::string ReadLinData(std::string_view text);
+/// Throws `Fault` kTypeMismatch for a "%" without two hexadecimal digits behind it. `room`: bytes
+/// that will be appended, and need not be copied for then.
+std::string ReadLinData(std::string_view text, std::size_t room = 0);
 
 /// Takes from each of the first four names behind "|pn|" the part from its "#" on:
 /// "|pn|Ann#12,Bob#7,Cy,Di#3|" becomes "|pn|Ann,Bob,Cy,Di|". A field without an end reaches to the

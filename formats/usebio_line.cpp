@@ -86,7 +86,8 @@ std::string PlayersField(const TravellerLine& line, const PairNames& pairs) {
 /// is the one whose line it is. Where it has no players they are those of the line's pairs.
 std::string RecordOf(const TravellerLine& line, int boardNumber, const PairNames& pairs) {
   const ElementText data(line.At(TravellerLine::LinData));
-  std::string record = MendUtf8(ReadLinData(data.View()));
+  constexpr std::size_t kTags = 96;  // what the scorer's own tags take
+  std::string record = MendUtf8(ReadLinData(data.View(), kTags));
   if (!record.empty() && !record.ends_with('|')) record += '|';
   if (!NamesPlayers(record)) record += PlayersField(line, pairs);
   const int named = BoardNumberOfLin(record);

@@ -1,7 +1,7 @@
 #include "formats/usebio_outline.h"
 
 #include <cstddef>
-#include <cstdint>
+#include <limits>
 #include <string_view>
 #include <utility>
 
@@ -10,72 +10,69 @@
 namespace tricklet {
 namespace {
 
-class Walk {
+class Walker : public pugi::xml_tree_walker {
  public:
-  UsebioOutline Through(const pugi::xml_document& document) {
-    VisitChildren(document, {});
-    return std::move(outline_);
+  bool for_each(pugi::xml_node& node) override {
+    const int level = depth();
+    if (level >= kMaxXmlDepth) throw UsebioRefusal{kXmlLoadFailed};
+    Leave(level);
+    const std::string_view name = node.name();
+    if (level != line_ + 1 || !LastLine().Take(name, node)) Enter(node, name, level);
+    return true;
   }
+
+  UsebioOutline outline;
 
  private:
-  enum class Kind : std::uint8_t { Other, Event, Board, Line };
-  /// The element whose children are visited.
-  struct Parent {
-    Kind kind = Kind::Other;
-    int level = 0;          // of its children
-    std::size_t board = 0;  // its index, for `Board` and `Line`
-    bool isListed = false;  // among the participants
+  static constexpr int kNowhere = std::numeric_limits<int>::max() - 1;
+  struct OpenBoard {
+    std::size_t index;
+    int level;
   };
 
-  // No deeper than `kMaxXmlDepth`.
-  void VisitChildren(const pugi::xml_node& element, const Parent& parent) {
-    for (auto child = element.first_child(); child; child = child.next_sibling()) {
-      if (parent.level == kMaxXmlDepth) throw UsebioRefusal{kXmlLoadFailed};
-      const Parent inside = Visit(child, parent);
-      if (child.first_child()) VisitChildren(child, inside);
-    }
+  /// What begins on this level ends all that began there or deeper.
+  void Leave(int level) {
+    if (level <= line_) line_ = kNowhere;
+    if (level <= list_) list_ = kNowhere;
+    while (!open_.empty() && level <= open_.back().level) open_.pop_back();
   }
 
-  /// Notes the child; what it is to its own children.
-  Parent Visit(const pugi::xml_node& child, const Parent& parent) {
-    const std::string_view name = child.name();
-    Parent inside{Kind::Other, parent.level + 1, parent.board, parent.isListed};
-    if (parent.kind == Kind::Line && LastLine(parent.board).Take(name, child)) return inside;
-    if (name == "TRAVELLER_LINE" && parent.kind == Kind::Board) {
-      AddLine(parent.board);
-      inside.kind = Kind::Line;
+  void Enter(const pugi::xml_node& node, std::string_view name, int level) {
+    if (name == "TRAVELLER_LINE") {
+      if (!open_.empty() && level == open_.back().level + 1) AddLine(level);
     } else if (name == "BOARD") {
-      inside.kind = Kind::Board;
-      inside.board = outline_.boards.size();
-      outline_.boards.push_back({child, {}});
-    } else if (name == "PARTICIPANTS") {
-      if (!parent.isListed) outline_.participants.push_back(child);
-      inside.isListed = true;
-    } else if (name == "EVENT") {
-      inside.kind = Kind::Event;
-    } else if (name == "SESSION" && parent.kind == Kind::Event) {
-      ++outline_.sessions;
+      open_.push_back({outline.boards.size(), level});
+      outline.boards.push_back({node, {}});
+    } else if (name == "PARTICIPANTS" && list_ == kNowhere) {
+      list_ = level;
+      outline.participants.push_back(node);
     } else if (name == "SECTION") {
-      ++outline_.sections;
+      ++outline.sections;
+    } else if (name == "SESSION" && std::string_view(node.parent().name()) == "EVENT") {
+      ++outline.sessions;
     }
-    return inside;
   }
 
-  void AddLine(std::size_t board) {
+  void AddLine(int level) {
     if (++lines_ > kMaxUsebioLines) throw UsebioRefusal{kUnexpectedFormat};
-    outline_.boards[board].lines.emplace_back();
+    outline.boards[open_.back().index].lines.emplace_back();
+    line_ = level;
   }
+  TravellerLine& LastLine() { return outline.boards[open_.back().index].lines.back(); }
 
-  TravellerLine& LastLine(std::size_t board) { return outline_.boards[board].lines.back(); }
-
-  UsebioOutline outline_;
+  std::vector<OpenBoard> open_;  // the boards that the walk is in, the innermost last
+  // The levels of the line and of the list of participants that the walk is in.
+  int line_ = kNowhere;
+  int list_ = kNowhere;
   std::size_t lines_ = 0;
 };
 
 }  // namespace
 
-UsebioOutline OutlineOf(const pugi::xml_document& document) {
-  return Walk().Through(document);
+UsebioOutline OutlineOf(pugi::xml_document& document) {
+  Walker walker;
+  document.traverse(walker);
+  return std::move(walker.outline);
 }
 
 }  // namespace tricklet

@@ -27,6 +27,6 @@ struct UsebioOutline {
 /// Goes through the document once: a club's evening has hundreds of lines of a dozen elements each,
 /// and looking for each element by its name would go through all of them once per name. Throws
 /// `UsebioRefusal` where it is deeper than `kMaxXmlDepth` or has more than `kMaxUsebioLines` lines.
-UsebioOutline OutlineOf(const pugi::xml_document& document);
+UsebioOutline OutlineOf(pugi::xml_document& document);
 
 }  // namespace tricklet

@@ -20,11 +20,9 @@ namespace {
 constexpr const char* kOneSession = "Only Single Session Imports supported";
 constexpr const char* kOneSection = "Only Single Section Imports supported";
 
-/// Keeps a copy of its exact length: a line that was put together piece by piece may hold twice the
-/// memory that it needs.
-void Keep(std::vector<std::string>& lines, std::string_view line) {
+void Keep(std::vector<std::string>& lines, std::string line) {
   if (lines.size() == kMaxUsebioLines) throw UsebioRefusal{kUnexpectedFormat};
-  lines.emplace_back(line);
+  lines.push_back(std::move(line));
 }
 
 /// "3 NS Ann & Bob".
