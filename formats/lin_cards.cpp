@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <utility>
 
 #include "core/fault.h"
@@ -71,13 +72,23 @@ std::vector<LinBoard> ReadBoards(const LinFile& data, int firstBoard, int lastBo
   return boards;
 }
 
+/// What stands behind the first "|Board ". Looks for the word, as a record has a bar every few
+/// bytes.
+std::optional<std::string_view> BehindHeader(std::string_view record) {
+  constexpr std::string_view kWord = "Board ";
+  for (auto at = record.find(kWord); at != std::string_view::npos;
+       at = record.find(kWord, at + 1)) {
+    if (at > 0 && record[at - 1] == '|') return record.substr(at + kWord.size());
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 int BoardNumberOfLin(std::string_view record) {
-  constexpr std::string_view kBoard = "|Board ";
-  const auto at = record.find(kBoard);
-  if (at == std::string_view::npos) return ParseLinRecord(record).boardNumber;
-  return std::max(LeadingNumber(record.substr(at + kBoard.size())), 0);
+  const auto number = BehindHeader(record);
+  if (!number) return ParseLinRecord(record).boardNumber;
+  return std::max(LeadingNumber(*number), 0);
 }
 
 std::vector<Board> BoardsOfLinData(const LinFile& data, int firstBoard, int lastBoard) {

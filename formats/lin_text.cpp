@@ -67,10 +67,11 @@ void CleanLinNames(std::string& text) {
   if (tag == std::string::npos) return;
   const std::size_t begin = std::min(tag + kTag.size(), text.size());
   for (int name = 0; name < kSeats; ++name) {
-    const std::size_t end = std::min(text.find('|', begin), text.size());
-    const std::size_t mark = text.find('#', begin);
-    if (mark >= end) return;
-    text.erase(mark, std::min(text.find(',', mark), end) - mark);
+    const std::string_view names =
+        std::string_view(text).substr(begin, text.find('|', begin) - begin);
+    const auto mark = names.find('#');
+    if (mark == std::string_view::npos) return;
+    text.erase(begin + mark, std::min(names.find(',', mark), names.size()) - mark);
   }
 }
 
