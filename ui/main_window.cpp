@@ -6,12 +6,10 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
-#include <QVBoxLayout>
 
 #include "library/library_store.h"
 #include "ui/auction_pane.h"
@@ -38,15 +36,10 @@
 #include "ui/table_view.h"
 #include "ui/text.h"
 #include "ui/traveller_pane.h"
+#include "ui/work_area.h"
 
 namespace tricklet::ui {
 namespace {
-
-/// Widths of the side columns in heights of the window's font.
-constexpr double kLeftWidth = 15;
-constexpr double kRightWidth = 20;
-/// Round the panes, and between them.
-constexpr int kMargin = 10;
 
 /// About as high as the title bar of a dialog.
 constexpr int kFrameHeight = 40;
@@ -90,27 +83,13 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::LayOut() {
-  left_ = new SideColumn(QStringLiteral("colLeft"), {library_, editPane_, board_, statistics_},
-                         kLeftWidth);
-  right_ = new SideColumn(QStringLiteral("colRight"), {auction_, contract_, makeable_, traveller_},
-                          kRightWidth);
+  left_ = new SideColumn(QStringLiteral("colLeft"), {library_, editPane_, board_, statistics_});
+  right_ = new SideColumn(QStringLiteral("colRight"), {auction_, contract_, makeable_, traveller_});
   table_->setObjectName(QStringLiteral("picTable"));
   table_->setAccessibleName(tr("Table"));
   table_->setFocusPolicy(Qt::StrongFocus);
-  table_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-
-  auto* row = new QHBoxLayout;
-  row->setSpacing(kMargin);
-  row->addWidget(left_);
-  row->addWidget(table_, 1);
-  row->addWidget(right_);
-  auto* centre = new QWidget(this);
-  auto* column = new QVBoxLayout(centre);
-  column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  column->setSpacing(kMargin);
-  column->addLayout(row, 1);
-  column->addWidget(progress_);
-  setCentralWidget(centre);
+  area_ = new WorkArea(left_, table_, right_, progress_, this);
+  setCentralWidget(area_);
 }
 
 void MainWindow::BuildStatusLine() {
@@ -262,13 +241,13 @@ void MainWindow::BeginEditing() {
 /// The lower left corner: there it covers neither the auction nor the middle of the table.
 void MainWindow::PlaceBesideAuction(QWidget* dialog) {
   dialog->adjustSize();
-  PlaceAt(dialog, kMargin);
+  PlaceAt(dialog, WorkArea::kMargin);
 }
 
 /// The lower right corner: there it covers no hand.
 void MainWindow::PlaceBesideHands(QWidget* dialog) {
   dialog->adjustSize();
-  PlaceAt(dialog, width() - dialog->width() - kMargin);
+  PlaceAt(dialog, width() - dialog->width() - WorkArea::kMargin);
 }
 
 /// At the lower edge of the window, `left` from its own left.
@@ -309,8 +288,7 @@ void MainWindow::SetPresentation(bool on) {
   if (presentation_ == on) return;
   presentation_ = on;
   leavePresentation_->setEnabled(on);
-  const int margin = on ? 0 : kMargin;
-  centralWidget()->layout()->setContentsMargins(margin, margin, margin, margin);
+  area_->ShowMargin(!on);
   menuBar()->setVisible(!on);
   statusBar()->setVisible(!on);
   ShowColumns();

@@ -35,6 +35,7 @@ class SideColumn;
 class StatisticsPane;
 class TableView;
 class TravellerPane;
+class WorkArea;
 
 /// Everything that it shows is derived from the session by `Display`.
 class MainWindow : public QMainWindow {
@@ -104,6 +105,7 @@ class MainWindow : public QMainWindow {
   ProgressFrame* progress_;
   SideColumn* left_ = nullptr;
   SideColumn* right_ = nullptr;
+  WorkArea* area_ = nullptr;
   QLabel* status_ = nullptr;
   QAction* leavePresentation_ = nullptr;
   bool presentation_ = false;

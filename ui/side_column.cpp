@@ -10,8 +10,7 @@ constexpr int kInset = 2;  // for the focus frames of the controls at the edge
 
 }  // namespace
 
-SideColumn::SideColumn(const QString& name, const QList<QWidget*>& panes, double width,
-                       QWidget* parent)
+SideColumn::SideColumn(const QString& name, const QList<QWidget*>& panes, QWidget* parent)
     : QScrollArea(parent) {
   auto* content = new QWidget;
   auto* column = new QVBoxLayout(content);
@@ -24,9 +23,12 @@ SideColumn::SideColumn(const QString& name, const QList<QWidget*>& panes, double
   setWidgetResizable(true);
   setFocusPolicy(Qt::NoFocus);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  setFixedWidth(static_cast<int>(fontMetrics().height() * width));
   setWidget(content);
   KeepRoom(this, true);
+}
+
+int SideColumn::WidthFor(double heights) const {
+  return static_cast<int>(fontMetrics().height() * heights);
 }
 
 void KeepRoom(QWidget* widget, bool keep) {

@@ -10,9 +10,10 @@ class SideColumn : public QScrollArea {
   Q_OBJECT
 
  public:
-  /// `width` in heights of the font.
-  SideColumn(const QString& name, const QList<QWidget*>& panes, double width,
-             QWidget* parent = nullptr);
+  SideColumn(const QString& name, const QList<QWidget*>& panes, QWidget* parent = nullptr);
+
+  /// Pixels for so many heights of the window's font.
+  int WidthFor(double heights) const;
 };
 
 /// Whether the room of a widget is kept while it is hidden, so that nothing else moves.

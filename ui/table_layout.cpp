@@ -24,7 +24,8 @@ constexpr double kMostAspect = 1.7;
 
 /// The lengths that all parts share.
 struct Measures {
-  QRectF room;  // the felt without its margin
+  double margin;  // of the felt
+  QRectF room;    // the felt without it
   double gap;
   double captionHeight;
   double cardWidth;
@@ -34,12 +35,12 @@ struct Measures {
 Measures Measure(QSizeF size) {
   const double width = std::max(1.0, size.width());
   const double height = std::max(1.0, size.height());
-  const double margin = std::clamp(0.018 * std::min(width, height), 4.0, 28.0);
   Measures m{};
-  m.gap = std::round(0.7 * margin);
+  m.margin = std::clamp(0.018 * std::min(width, height), 4.0, 28.0);
+  m.gap = std::round(0.7 * m.margin);
   m.captionHeight = std::round(std::clamp(0.042 * std::min(width, height), 14.0, 96.0));
-  const double across = std::min(width, height * kMostAspect) - 2 * margin;
-  m.room = QRectF((width - across) / 2, margin, across, height - 2 * margin);
+  const double across = std::min(width, height * kMostAspect) - 2 * m.margin;
+  m.room = QRectF((width - across) / 2, m.margin, across, height - 2 * m.margin);
   const double high = m.room.height() - 3 * m.captionHeight - 5 * m.gap;
   const double wide = m.room.width() - 2 * m.gap;
   m.cardWidth = std::floor(
@@ -187,6 +188,11 @@ TableLayout LayOutTable(QSizeF size, const HandTable& hands, HandDisplay display
     fan ? PlaceFan(layout, hands[seat], seat) : PlaceRows(layout, hands[seat], seat);
   }
   return layout;
+}
+
+double WidthOfTable(double height) {
+  const Measures m = Measure({height * kMostAspect, height});  // the height alone bounds the cards
+  return (2 * kWishedSide + kLeastCentre) * m.cardWidth + 2 * (m.gap + m.margin);
 }
 
 std::optional<PlacedCard> CardAt(const TableLayout& layout, QPointF point) {

@@ -50,6 +50,9 @@ struct TableLayout {
 /// could not be told apart.
 TableLayout LayOutTable(QSizeF size, const HandTable& hands, HandDisplay display);
 
+/// The width with which a table of this height shows its largest cards without closing them up.
+double WidthOfTable(double height);
+
 /// The uppermost card at `point`.
 std::optional<PlacedCard> CardAt(const TableLayout& layout, QPointF point);
 

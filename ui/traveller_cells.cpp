@@ -164,6 +164,7 @@ QTableWidgetItem* MakeTravellerHead(TravellerColumn column, const Traveller& tra
     if (traveller.Computed) tip += Text(", computed from the scores");
   }
   auto* item = new QTableWidgetItem(text);
+  if (column == TravellerColumn::Names) item->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   item->setToolTip(tip);
   item->setData(Qt::AccessibleTextRole, tip);
   return item;

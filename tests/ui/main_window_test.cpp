@@ -17,6 +17,7 @@
 #include "formats/import.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/later.h"
+#include "ui/table_layout.h"
 
 namespace tricklet::ui {
 namespace {
@@ -245,6 +246,25 @@ TEST_F(MainWindowTest, PresentationShowsTheTableAloneAndItsKeysStillWork) {
   Key(Qt::Key_Escape);
   EXPECT_FALSE(window->isFullScreen());
   EXPECT_TRUE(Find<QWidget>("cmbLibs")->isVisible());
+}
+
+TEST_F(MainWindowTest, TheRightColumnTakesOnlyRoomThatTheTableCannotUse) {
+  Open();
+  int before = 0;
+  for (const QSize size : {QSize(1024, 700), QSize(1280, 800), QSize(1600, 900), QSize(1920, 1080),
+                           QSize(3440, 1440)}) {
+    window->resize(size);
+    QCoreApplication::processEvents();
+    const int right = Find<QWidget>("colRight")->width();
+    const QSizeF table = Find<QWidget>("picTable")->size();
+    const auto cards = [this](QSizeF felt) {
+      return LayOutTable(felt, session.board.Hands, HandDisplay::Cards).cardSize;
+    };
+    if (before == 0) before = right;
+    EXPECT_GE(right, before);
+    EXPECT_EQ(cards(table), cards(table + QSizeF(right - before, 0))) << size.width();
+    EXPECT_EQ(right > before, size.width() >= 1600) << size.width();
+  }
 }
 
 TEST_F(MainWindowTest, TheAuctionBeginsUnderTheDealerAndNamesTheContract) {
