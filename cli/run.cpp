@@ -46,6 +46,17 @@ ConsoleOptions OptionsFrom(const Arguments& arguments, const Console& console) {
   return options;
 }
 
+/// Tells what is wrong with the words of a call. A word that is none goes before a command or file
+/// that is missing: it is most likely that one, misspelt.
+int Tell(const CLI::App& app, const CLI::ParseError& error, const Console& console) {
+  const std::vector<std::string> unknown = app.remaining(true);
+  if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError) &&
+      !unknown.empty()) {
+    return app.exit(CLI::ExtrasError(unknown), console.data, console.messages);
+  }
+  return app.exit(error, console.data, console.messages);
+}
+
 int Execute(const Command& command, const Arguments& arguments, SettingsStore& store,
             const Console& console) {
   OverlayStore overlay(store);
@@ -86,7 +97,7 @@ int Run(const std::vector<std::string>& arguments, SettingsStore& store, const C
     std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
     app.parse(reversed);
   } catch (const CLI::ParseError& error) {
-    const bool asked = app.exit(error, console.data, console.messages) == 0;
+    const bool asked = Tell(app, error, console) == 0;
     return static_cast<int>(asked ? ExitCode::Done : ExitCode::Usage);
   }
   return Execute(command, parsed, store, console);

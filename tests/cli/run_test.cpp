@@ -139,18 +139,25 @@ TEST_F(CommandLine, RefusesWithAMessageAndOne) {
 }
 
 TEST_F(CommandLine, WrongUsageIsTwo) {
-  const std::vector<std::vector<std::string>> kWrong{{},
-                                                     {"unknown"},
-                                                     {"show"},
-                                                     {"show", "0"},
-                                                     {"show", "1000"},
-                                                     {"show", "x"},
-                                                     {"import"},
-                                                     {"--yes", "--no", "boards"},
-                                                     {"export", "1", "2"}};
-  for (const auto& arguments : kWrong) {
-    EXPECT_EQ(Run(arguments), 2);
-    EXPECT_NE(err, "");
+  struct Case {
+    std::vector<std::string> arguments;
+    const char* told;
+  };
+  const std::vector<Case> kWrong{{{}, "A subcommand is required"},
+                                 {{"unknown"}, "unknown"},
+                                 {{"--unknown"}, "--unknown"},
+                                 {{"library", "unknown"}, "unknown"},
+                                 {{"import", "--unknown"}, "--unknown"},
+                                 {{"show"}, "N is required"},
+                                 {{"show", "0"}, "1 to 999"},
+                                 {{"show", "1000"}, "1 to 999"},
+                                 {{"show", "x"}, "1 to 999"},
+                                 {{"import"}, "FILE is required"},
+                                 {{"--yes", "--no", "boards"}, "excludes"},
+                                 {{"export", "1", "2"}, "FILE is required"}};
+  for (const auto& [arguments, told] : kWrong) {
+    EXPECT_EQ(Run(arguments), 2) << told;
+    EXPECT_NE(err.find(told), std::string::npos) << err;
   }
   EXPECT_EQ(RunBare({"--help"}), 0);
   EXPECT_NE(out, "");
