@@ -63,11 +63,19 @@ TEST(GetDDS, ReportsTheSolversOwnWords) {
   EXPECT_EQ(board.Makeable, ToMakeable(test::FakeSolver::RecordOf(kDeal)));
 }
 
+void SetEnvironment(const char* name, const char* value) {
+#ifdef _WIN32
+  _putenv_s(name, value);
+#else
+  setenv(name, value, 1);
+#endif
+}
+
 TEST(SolverLibrary, SaysWhatWasTried) {
-  ASSERT_EQ(setenv("TRICKLET_SOLVER", "/nowhere/libsolver.so", 1), 0);
+  SetEnvironment("TRICKLET_SOLVER", "/nowhere/libsolver.so");
   // Something that can be loaded, but is no solver, must not be taken for one.
   const auto solver = LoadSolver("/nowhere/program");
-  unsetenv("TRICKLET_SOLVER");
+  SetEnvironment("TRICKLET_SOLVER", "");
   EXPECT_EQ(solver->Missing(), "") << "the system's library is found behind the others";
 }
 

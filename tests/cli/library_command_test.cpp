@@ -90,6 +90,7 @@ TEST_F(LibraryCommand, ARootOfOneCallStaysOfOneCall) {
 }
 
 TEST_F(LibraryCommand, RefusesWithOneAndWrongUsageIsTwo) {
+  const std::string top = PathText(folder.Path().root_path());
   const struct {
     std::vector<std::string> arguments;
     std::string message;
@@ -99,7 +100,7 @@ TEST_F(LibraryCommand, RefusesWithOneAndWrongUsageIsTwo) {
       {{"delete", "Club"}, "Cannot delete the library currently in use\n"},
       {{"delete", "nowhere"}, "Unable to delete the library nowhere\n"},
       {{"import", Text("gone")}, "There is no folder " + Text("gone") + "\n"},
-      {{"move", "/"}, "Please choose a sub-folder, not /\n"},
+      {{"move", top}, "Please choose a sub-folder, not " + top + "\n"},
       {{"export", "--all", Text("root")}, "That is the same folder as the existing folder\n"},
   };
   for (const auto& [arguments, message] : refused) {

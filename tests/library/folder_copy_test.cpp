@@ -40,7 +40,7 @@ class FolderCopyTest : public testing::Test {
   FolderCopyTest() {
     WriteFile(From() / "001.txt", "one");
     WriteFile(From() / "002.txt", std::string(1'100'000, 'b'));
-    WriteFile(From() / "notes \u00e9" / "deep" / "readme", "deep down");
+    WriteFile(From() / u8"notes \u00e9" / "deep" / "readme", "deep down");
     fs::create_directories(From() / "empty");
     fs::create_directories(To());
     WriteFile(To() / "Old" / "001.txt", "old one");
@@ -157,7 +157,7 @@ TEST_F(FolderCopyTest, AFolderThatAppearsMeanwhileIsNotTouched) {
 }
 
 TEST_F(FolderCopyTest, BoardsThatWereReplacedComeBackWhenALaterLibraryFails) {
-  WriteFile(To() / "Old" / "notes \u00e9" / "kept", "kept");
+  WriteFile(To() / "Old" / u8"notes \u00e9" / "kept", "kept");
   WriteFile(To() / "Older" / "001.txt", "older one");
   const auto before = Contents(To());
   FolderCopy copy(host, To());
@@ -165,11 +165,11 @@ TEST_F(FolderCopyTest, BoardsThatWereReplacedComeBackWhenALaterLibraryFails) {
   copy.Add(From(), "Older");
   host.onStep = [this] {  // while the last files are copied, after what is in the way was found
     if (fs::exists(To() / ".tricklet-copy-1" / "Older")) {
-      fs::create_directories(To() / "Older" / "notes \u00e9" / "deep" / "readme");
+      fs::create_directories(To() / "Older" / u8"notes \u00e9" / "deep" / "readme");
     }
   };
   EXPECT_THROW(copy.Run(), Fault);
-  fs::remove_all(To() / "Older" / "notes \u00e9");
+  fs::remove_all(To() / "Older" / u8"notes \u00e9");
   EXPECT_EQ(Contents(To()), before);
   EXPECT_EQ(host.recycled, std::vector<std::string>{".tricklet-copy-1"});
 }

@@ -14,9 +14,10 @@ class LibraryImport : public test::LibraryTransfer {};
 
 TEST_F(LibraryImport, ImportsALibraryAndMakesItCurrent) {
   const std::string name = "Caf\u00e9 2024.05 & co";
-  WriteFile(Other() / name / "002.txt", test::OneSuitEachText());
-  WriteFile(Other() / name / "LIN.txt", "results");
-  host.Choose(Other() / name);
+  const fs::path place = PathFromText(name);
+  WriteFile(Other() / place / "002.txt", test::OneSuitEachText());
+  WriteFile(Other() / place / "LIN.txt", "results");
+  host.Choose(Other() / place);
   EXPECT_TRUE(ImportLibrary(session));
   EXPECT_EQ(host.folderTitle, "Choose the library to import");
   EXPECT_EQ(session.LibraryName(), name);
@@ -24,8 +25,8 @@ TEST_F(LibraryImport, ImportsALibraryAndMakesItCurrent) {
   EXPECT_EQ(session.LibraryNames.at(static_cast<std::size_t>(session.LibIndex)), name);
   EXPECT_EQ(session.library.LastBoard, 2);
   EXPECT_EQ(session.board.BoardNumber, 1);
-  EXPECT_EQ(ReadFile(Root() / name / "LIN.txt"), "results");
-  EXPECT_TRUE(fs::exists(Other() / name / "002.txt"));
+  EXPECT_EQ(ReadFile(Root() / place / "LIN.txt"), "results");
+  EXPECT_TRUE(fs::exists(Other() / place / "002.txt"));
 }
 
 TEST_F(LibraryImport, RefusesToImportWhatIsNoNewLibrary) {
@@ -58,7 +59,7 @@ TEST_F(LibraryImport, RefusesToImportWhatIsNoNewLibrary) {
   EXPECT_EQ(session.LibraryName(), "Club");
   EXPECT_EQ(FoldersOf(Root()).size(), 2U);
 
-  WriteFile(Other() / "Good" / "\u00e9b1.TXT", "three characters");
+  WriteFile(Other() / "Good" / u8"\u00e9b1.TXT", "three characters");
   ExpectUnsavedQuestion(Answer::Cancel);
   EXPECT_FALSE(ImportLibraryFrom(session, Other() / "Good"));
   EXPECT_FALSE(fs::exists(Root() / "Good"));

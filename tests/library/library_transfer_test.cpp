@@ -225,7 +225,7 @@ TEST_F(LibraryTransfer, CopiesTheCurrentLibraryUnderANewName) {
   ExpectNothingChanged();
   session.board.BoardNumber = 3;
   EXPECT_TRUE(CopyLibrary(session, "Club \u00e9t\u00e9"));
-  EXPECT_EQ(ReadFile(Root() / "Club \u00e9t\u00e9" / "003.txt"), test::OneSuitEachText());
+  EXPECT_EQ(ReadFile(Root() / u8"Club \u00e9t\u00e9" / "003.txt"), test::OneSuitEachText());
   EXPECT_EQ(session.LibraryName(), "Club");
   EXPECT_EQ(session.board.BoardNumber, 3) << "the board on the screen stays";
   EXPECT_EQ(session.LibraryNames.size(), 3U);

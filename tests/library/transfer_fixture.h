@@ -22,7 +22,7 @@ class LibraryTransfer : public LibraryTest {
   }
 
   std::filesystem::path Root() const { return folder.Path() / "hands"; }
-  std::filesystem::path Other() const { return folder.Path() / "other \u00e9"; }
+  std::filesystem::path Other() const { return folder.Path() / u8"other \u00e9"; }
   std::string RootText() const { return FolderText(Root()); }
 
   void ExpectCopyQuestion(Answer answer) {
