@@ -15,8 +15,10 @@ test_packages=(libgtest-dev libgmock-dev)
 bench_packages=(libbenchmark-dev dealer)
 # The first clang that has std::source_location with this system's C++ library.
 clang_version=16
+windows_compiler=x86_64-w64-mingw32-g++-posix
 lint_packages=(
   clang-format "clang-tidy-$clang_version" shellcheck
+  g++-mingw-w64-x86-64-posix
   man-db mandoc
   desktop-file-utils appstream shared-mime-info
 )
