@@ -209,7 +209,7 @@ bool Export(Session& session, const ExportRange& range, fs::path& path) {
 
 bool ExportFile(Session& session, const ExportRange& range, const fs::path& path) {
   // What is written is what is stored, so changes to the board in hand are settled first.
-  if (CheckSaveChanges(session) == Answer::Cancel) return false;
+  if (!SettleChanges(session)) return false;
   if (const Collector collect = CollectorOf(FileTypeOf(path))) {
     return WriteRange(session, range, path, collect);
   }

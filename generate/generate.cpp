@@ -65,15 +65,9 @@ void DealAndAnalyse(Session& session, const Constraints& constraints,
 
 GenerateOutcome Generate(Session& session, const Constraints& constraints,
                          const GenerateOptions& options) {
-  const bool unsaved = session.board.HandChanged;
-  if (CheckSaveChanges(session) == Answer::Cancel) return {.refused = true};
+  if (!SettleChanges(session)) return {.refused = true};
   const int before = session.board.BoardNumber;
-  if (!MayOverwrite(session, constraints)) {
-    // A board whose changes the person gave up is shown as it is stored; any other stays as it is,
-    // and so does a play of it.
-    if (unsaved) LoadHand(session);
-    return {.refused = true};
-  }
+  if (!MayOverwrite(session, constraints)) return {.refused = true};
   GenerateOutcome outcome;
   try {
     DealAndAnalyse(session, constraints, options, outcome);

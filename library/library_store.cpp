@@ -166,6 +166,13 @@ Answer CheckSaveChanges(Session& session) {
   }
 }
 
+bool SettleChanges(Session& session) {
+  if (session.BatchRunning || !session.board.HandChanged) return true;
+  if (CheckSaveChanges(session) == Answer::Cancel) return false;
+  LoadHand(session);
+  return true;
+}
+
 bool SelectLibrary(Session& session, int index) {
   if (index < 0 || index >= static_cast<int>(session.LibraryNames.size())) return false;
   if (CheckSaveChanges(session) == Answer::Cancel) return false;
@@ -286,7 +293,7 @@ void RefreshLibraryNames(Session& session) {
 bool CreateLibrary(Session& session, std::string_view name) {
   const std::string trimmed(TrimmedName(name));
   if (!AcceptNewName(session, trimmed)) return false;
-  if (CheckSaveChanges(session) == Answer::Cancel) return false;
+  if (!SettleChanges(session)) return false;
   if (!MakeFolder(session, session.FileLocation() / PathFromText(trimmed))) return false;
   session.settings.library = trimmed;
   GetLibraryNames(session);

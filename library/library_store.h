@@ -44,6 +44,10 @@ std::string LibraryCountText(const Session& session);
 /// (or wanted to save and the board could not be saved).
 Answer CheckSaveChanges(Session& session);
 
+/// The same before a command that works on what is stored and leaves the board on the screen: where
+/// changes were given up it is shown as it is stored. False when the person wants to stay.
+bool SettleChanges(Session& session);
+
 /// Selects the library at `index` of `LibraryNames` and loads its board 1, after
 /// `CheckSaveChanges`. False when the person stayed.
 bool SelectLibrary(Session& session, int index);

@@ -196,7 +196,7 @@ std::string AnalysisText(const AnalysisOutcome& outcome) {
 }
 
 void AnalyseLibrary(Session& session, Solver& solver, bool again) {
-  if (CheckSaveChanges(session) == Answer::Cancel) return;
+  if (!SettleChanges(session)) return;
   session.host.Tell(
       AnalysisText(AnalyseBoards(session, solver, kFirstBoardNumber, kLastBoardNumber, again)));
 }

@@ -4,7 +4,6 @@
 
 #include "core/fault.h"
 #include "core/text.h"
-#include "library/board_store.h"
 #include "library/folder_copy.h"
 #include "library/library_store.h"
 
@@ -75,13 +74,6 @@ bool RequireFolder(Session& session, const fs::path& folder) {
   if (fs::is_directory(folder, ignored)) return true;
   session.host.Tell("There is no folder " + PathText(folder));
   return false;
-}
-
-bool SettleChanges(Session& session) {
-  if (!session.board.HandChanged) return true;
-  if (CheckSaveChanges(session) == Answer::Cancel) return false;
-  LoadHand(session);
-  return true;
 }
 
 bool CopyLibraries(Session& session, const fs::path& from, const std::vector<std::string>& names,

@@ -24,10 +24,6 @@ bool AskToChoose(Session& session, const std::string& text);
 /// The folder exists; else says so.
 bool RequireFolder(Session& session, const std::filesystem::path& folder);
 
-/// Settles unsaved changes. False when the person wants to stay. A board whose changes he gave up
-/// is shown as it is stored.
-bool SettleChanges(Session& session);
-
 /// What becomes of unsaved changes before a copy, once nothing speaks against it any more.
 enum class Unsaved : std::uint8_t {
   Stay,     ///< what is copied does not hold them

@@ -72,8 +72,7 @@ void Commands::ImportFiles(const std::vector<std::filesystem::path>& files) {
 
 void Commands::Export() {
   Run([this] {
-    if (!HasHandsToExport(session_)) return;
-    CountHands(session_);
+    if (!SettleChanges(session_) || !HasHandsToExport(session_)) return;
     frmExport dialog(session_, window_);
     if (dialog.exec() == QDialog::Accepted) {
       tricklet::Export(session_, dialog.Range(), exportPath_);

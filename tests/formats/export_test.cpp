@@ -140,6 +140,19 @@ TEST_F(ExportTest, CancelLeavesTheBoardsWrittenSoFar) {
   EXPECT_EQ(ReadFile(path), Head(1, "N", "None") + "\r\n\r\n");
 }
 
+TEST_F(ExportTest, ChangesThatAreGivenUpAreOffTheScreen) {
+  PutBoard(1);
+  session.board.BoardNumber = 1;
+  ClearAll(session.board);
+  session.board.HandChanged = true;
+  host.ExpectAskWith("Do you want to save changes to board 1", Answer::No);
+  ExpectCreated();
+  EXPECT_TRUE(ExportFile(session, {1, 1, "pbn"}, path));
+  EXPECT_FALSE(session.board.HandChanged);
+  EXPECT_EQ(PbnRecord(session.board, "Club", {}),
+            ReadFile(path).substr(0, ReadFile(path).size() - 4));
+}
+
 TEST_F(ExportTest, AFailedExportKeepsTheOldFile) {
   PutBoard(1);
   fs::create_directories(path / "in the way");
