@@ -21,15 +21,36 @@ std::string ListedName(const SettingEntry& entry) {
   return (alone ? "" : std::string(entry.section) + "/") + std::string(entry.key);
 }
 
+/// A root as it is stored, which must be none of a drive; nothing, with a message, when it is.
+std::optional<std::string> RootText(Host& host, const std::string& value) {
+  const fs::path root = fs::absolute(PathFromText(value)).lexically_normal();
+  if (!value.empty() && !IsDriveRoot(root)) return FolderText(root);
+  host.Tell("Please choose a folder, not " + value);
+  return std::nullopt;
+}
+
 ExitCode WriteSetting(const Context& context, const SettingEntry& entry, std::string value) {
   Session& session = context.session;
-  if (entry.key == "filelocation") value = FolderText(PathFromText(value));
+  if (entry.key == "filelocation") {
+    const auto root = RootText(session.host, value);
+    if (!root) return ExitCode::Refused;
+    value = *root;
+  }
+  if (entry.key == "library" && !AcceptLibraryName(session.host, value)) return ExitCode::Refused;
   if (!SetFromText(session.settings, entry, value)) {
     session.host.Tell(value + " is no value of " + ListedName(entry));
     return ExitCode::Refused;
   }
   SaveSetting(session.settings, entry, session.store);
-  return ExitCode::Done;
+  if (session.store.Sync()) return ExitCode::Done;
+  session.host.Tell(kSettingsNotStored);
+  return ExitCode::Refused;
+}
+
+/// An empty library that this call has made for boards that then did not come.
+void RemoveIfEmpty(const Session& session) {
+  std::error_code ignored;
+  fs::remove(session.LibraryPath(), ignored);  // only an empty folder goes
 }
 
 }  // namespace
@@ -71,13 +92,18 @@ ExitCode Show(const Context& context, int boardNumber) {
 
 ExitCode ImportFiles(const Context& context, Importer import, const std::vector<fs::path>& files,
                      const std::function<bool()>& ended) {
+  const bool existed = IsTaken(context.session.LibraryPath());
   if (!OpenLibrary(context, true)) return ExitCode::Refused;
   bool allDone = true;
   for (const fs::path& file : files) {
     const ImportOutcome outcome = import(context.session, file);
     allDone = allDone && outcome.boardsSaved > 0 && !outcome.failed && !outcome.cancelled;
-    if (outcome.cancelled || ended()) return ExitCode::Refused;
+    if (outcome.cancelled || ended()) {
+      allDone = false;
+      break;
+    }
   }
+  if (!existed) RemoveIfEmpty(context.session);
   return allDone ? ExitCode::Done : ExitCode::Refused;
 }
 

@@ -78,6 +78,8 @@ class SettingsStore {
   /// Nothing when the key has never been written.
   virtual std::optional<std::string> Read(std::string_view section, std::string_view key) const = 0;
   virtual void Write(std::string_view section, std::string_view key, const std::string& value) = 0;
+  /// Makes what was written last beyond this program's end. False when it could not be.
+  virtual bool Sync() { return true; }
 };
 
 /// A store in memory: for tests, and laid over another store to keep some keys from reaching it.
@@ -100,6 +102,7 @@ class OverlayStore : public SettingsStore {
   void Name(std::string_view key, const std::string& value);
   std::optional<std::string> Read(std::string_view section, std::string_view key) const override;
   void Write(std::string_view section, std::string_view key, const std::string& value) override;
+  bool Sync() override { return below_.Sync(); }
 
  private:
   SettingsStore& below_;
@@ -127,6 +130,9 @@ std::span<const SettingEntry> SettingTable();
 const SettingEntry* FindSetting(std::string_view name);
 
 std::string SettingText(const Settings& settings, const SettingEntry& entry);
+
+/// The message when `SettingsStore::Sync` has failed.
+inline constexpr const char* kSettingsNotStored = "The settings could not be stored";
 
 /// Sets the field from `text`; false, and nothing changed, when `text` is no value of its type or
 /// outside its limits.

@@ -17,10 +17,16 @@ class QtSettingsStore : public SettingsStore {
   std::optional<std::string> Read(std::string_view section, std::string_view key) const override {
     const QVariant value = settings_.value(Name(section, key));
     if (!value.isValid()) return std::nullopt;
-    return value.toString().toStdString();
+    // A text with a comma that was written by hand comes back as a list.
+    const QStringList parts = value.toStringList();
+    return (parts.size() > 1 ? parts.join(QStringLiteral(", ")) : value.toString()).toStdString();
   }
   void Write(std::string_view section, std::string_view key, const std::string& value) override {
     settings_.setValue(Name(section, key), ToQt(value));
+  }
+  bool Sync() override {
+    settings_.sync();
+    return settings_.status() == QSettings::NoError;
   }
 
  private:

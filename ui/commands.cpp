@@ -224,6 +224,7 @@ void Commands::Options() {
     if (dialog.exec() != QDialog::Accepted) return;
     session_.settings = dialog.Chosen();
     SaveSettings(session_.settings, session_.store);
+    if (!session_.store.Sync()) session_.host.Tell(kSettingsNotStored);
     ApplyColourScheme(*qApp, session_.settings.ColourScheme);
   });
 }
