@@ -9,25 +9,21 @@ namespace tricklet::cli {
 namespace fs = std::filesystem;
 
 bool RootExists(const Context& context) {
-  std::error_code ignored;
-  const fs::path root = context.session.FileLocation();
-  if (!root.empty() && fs::is_directory(root, ignored)) return true;
-  context.session.host.Tell(root.empty()
-                                ? "There is no library root yet: name one with --root"
-                                : "There is no folder " + context.session.settings.filelocation);
+  if (!context.session.settings.filelocation.empty()) return RequireRoot(context.session);
+  context.session.host.Tell("There is no library root yet: name one with --root");
   return false;
 }
 
 bool OpenLibrary(const Context& context, bool create) {
   Session& session = context.session;
-  if (session.settings.filelocation.empty()) return RootExists(context);
+  std::error_code ignored;
+  if (create && context.rootNamed) fs::create_directory(session.FileLocation(), ignored);
+  if (!RootExists(context)) return false;
   if (create) {
     if (!RequireLibraryFolder(session)) return false;
   } else {
     if (!AcceptLibraryName(session.host, session.LibraryName())) return false;
-    std::error_code ignored;
     if (!fs::is_directory(session.LibraryPath(), ignored)) {
-      if (!RootExists(context)) return false;
       session.host.Tell("There is no library " + session.LibraryName() + " in " +
                         session.settings.filelocation);
       return false;

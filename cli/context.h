@@ -12,6 +12,7 @@ namespace tricklet::cli {
 struct Context {
   Session& session;
   std::ostream& data;
+  bool rootNamed = false;  ///< for this call: it may be a new one
 };
 
 enum class ExitCode : int { Done = 0, Refused = 1, Usage = 2 };
@@ -19,7 +20,8 @@ enum class ExitCode : int { Done = 0, Refused = 1, Usage = 2 };
 /// The library root must be there; else says so and is false.
 bool RootExists(const Context& context);
 
-/// The current library must be there; else says so and is false. `create` makes it instead.
+/// The current library must be there; else says so and is false. `create` makes it instead, and a
+/// root that was named for this call.
 bool OpenLibrary(const Context& context, bool create);
 
 /// Opens the library and loads the board; false, with a message, when there is none or it cannot be

@@ -70,7 +70,7 @@ int Execute(const Command& command, const Arguments& arguments, SettingsStore& s
   Session session(host, named ? static_cast<SettingsStore&>(overlay) : store);
   session.GetSolver = console.solver;
   try {
-    const ExitCode code = command({session, console.data}, host);
+    const ExitCode code = command({session, console.data, !arguments.root.empty()}, host);
     return static_cast<int>(host.Ended() ? ExitCode::Refused : code);
   } catch (const std::exception& failure) {
     ErrorReport(host, FaultFrom(failure));

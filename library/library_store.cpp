@@ -35,10 +35,11 @@ void EnterLibrary(Session& session, int index) {
   LoadHand(session);
 }
 
-/// Creates the folder; a failure is reported.
+/// Creates the folder in the root, which must be there: a drive that is gone is not to be made anew
+/// out of folders. A failure is reported.
 bool MakeFolder(Session& session, const fs::path& path) {
   std::error_code failure;
-  fs::create_directories(path, failure);
+  fs::create_directory(path, failure);
   if (failure) ErrorReport(session.host, Fault::OfFile(failure, PathText(path)));
   return !failure;
 }
@@ -93,8 +94,15 @@ std::vector<std::string> FoldersOf(const fs::path& root) {
   return names;
 }
 
+bool RequireRoot(Session& session) {
+  std::error_code ignored;
+  if (fs::is_directory(session.FileLocation(), ignored)) return true;
+  session.host.Tell("There is no folder " + session.settings.filelocation);
+  return false;
+}
+
 void GetLibraryNames(Session& session) {
-  if (CheckSaveChanges(session) == Answer::Cancel) return;
+  if (!RequireRoot(session) || CheckSaveChanges(session) == Answer::Cancel) return;
   session.LibraryNames = FoldersOf(session.FileLocation());
   if (session.LibraryNames.empty()) {
     if (!MakeFolder(session, session.FileLocation() / "Default")) {
@@ -246,6 +254,7 @@ bool RequireLibraryFolder(Session& session) {
   return false;
 }
 
+
 bool AllowedInLibraryName(char32_t character, bool first) {
   constexpr std::u32string_view kRefused = U"/:*?\"<>|.\\";  // "\" would make a folder in a folder
   if (character < 0x20 || character == 0x7F) return false;
@@ -285,6 +294,7 @@ bool AcceptNewName(Session& session, std::string_view name) {
 }
 
 void RefreshLibraryNames(Session& session) {
+  if (!RequireRoot(session)) return;
   session.LibraryNames = FoldersOf(session.FileLocation());
   session.LibIndex = PositionOf(session.LibraryNames, session.LibraryName());
   if (session.LibIndex < 0) GetLibraryNames(session);

@@ -13,6 +13,9 @@ namespace tricklet {
 /// Boards that an empty library offers.
 inline constexpr int kBoardsOfEmptyLibrary = 24;
 
+/// The root is there; else says so.
+bool RequireRoot(Session& session);
+
 /// Lists the libraries of the root (sub-folders whose name does not begin with ".") and selects the
 /// current one, or the first when it is gone. An empty root is given the library "Default".
 /// Selecting loads board 1, after `CheckSaveChanges`; on Cancel nothing happens.

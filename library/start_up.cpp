@@ -32,10 +32,27 @@ bool ChooseLibraryRoot(Session& session) {
       session.host.Tell("Please choose a folder, not " + PathText(*chosen));
       continue;
     }
+    std::error_code failure;
+    fs::create_directories(*chosen, failure);
+    if (failure) {
+      session.host.Tell(Fault::OfFile(failure, PathText(*chosen)).Description());
+      continue;
+    }
     session.settings.filelocation = FolderText(*chosen);
     SaveSetting(session.settings, "filelocation", session.store);
+    if (!session.store.Sync()) session.host.Tell(kSettingsNotStored);
     return true;
   }
+}
+
+/// A library that is gone is made again. Where it cannot be, the first of the root will take its
+/// place: without a word, unless the name is none that a library can have had.
+void MakeStoredLibraryAgain(Session& session) {
+  std::string name = session.LibraryName();
+  if (name.empty() || !AcceptLibraryName(session.host, name)) return;
+  std::erase(name, '.');  // another program may have named it so
+  std::error_code ignored;
+  if (HasAllowedCharacters(name)) fs::create_directory(session.LibraryPath(), ignored);
 }
 
 }  // namespace
@@ -74,12 +91,7 @@ std::string LibraryOfRoot(const fs::path& root, const std::string& stored) {
 
 bool OpenLibraries(Session& session) {
   if (!FolderExists(session.FileLocation()) && !ChooseLibraryRoot(session)) return false;
-  // A library that is gone is made again. Where it cannot be, the first of the root takes its
-  // place: without a word, unless the name is none that a library can have had.
-  const std::string& name = session.LibraryName();
-  if (HasAllowedCharacters(name) || (!name.empty() && !IsLibraryName(name))) {
-    RequireLibraryFolder(session);
-  }
+  MakeStoredLibraryAgain(session);
   GetLibraryNames(session);
   return true;
 }

@@ -138,6 +138,17 @@ TEST_F(CommandLine, RefusesWithAMessageAndOne) {
   EXPECT_EQ(RunBare({"boards"}), 1) << "no root at all";
 }
 
+TEST_F(CommandLine, MakesARootThatIsNamedButNoOther) {
+  const std::string gone = FolderText(folder.Path() / "gone");
+  store.Write("macro", "filelocation", gone);
+  EXPECT_EQ(RunBare({"import", File("in.pbn")}), 1);
+  EXPECT_EQ(err, "There is no folder " + gone + "\n");
+  EXPECT_EQ(RunBare({"--root", gone + "deep", "import", File("in.pbn")}), 1);
+  EXPECT_EQ(err, "There is no folder " + gone + FolderText("deep") + "\n");
+  EXPECT_FALSE(fs::exists(folder.Path() / "gone"));
+  EXPECT_EQ(RunBare({"--root", gone, "import", File("in.pbn")}), 0);
+}
+
 TEST_F(CommandLine, WrongUsageIsTwo) {
   struct Case {
     std::vector<std::string> arguments;
@@ -243,6 +254,21 @@ TEST_F(CommandLine, SettingsAreListedReadAndWritten) {
   EXPECT_EQ(out, "2\n");
   EXPECT_EQ(RunBare({"settings", "filelocation", PathText(folder.Path())}), 0);
   EXPECT_EQ(store.Read("macro", "filelocation"), FolderText(folder.Path()));
+  EXPECT_EQ(RunBare({"settings", "filelocation", "hands"}), 0);
+  EXPECT_EQ(store.Read("macro", "filelocation"), FolderText(fs::current_path() / "hands"));
+  const std::string top = PathText(folder.Path().root_path());
+  EXPECT_EQ(RunBare({"settings", "filelocation", top}), 1);
+  EXPECT_EQ(err, "Please choose a folder, not " + top + "\n");
+  EXPECT_EQ(RunBare({"settings", "library", "../up"}), 1);
+  EXPECT_EQ(err, "A library cannot be named ../up\n");
+}
+
+TEST_F(CommandLine, AnImportThatFailsLeavesNoLibraryBehind) {
+  EXPECT_EQ(Run({"--library", "New", "import", File("gone.pbn")}), 1);
+  EXPECT_FALSE(fs::exists(folder.Path() / "root" / "New"));
+  EXPECT_EQ(Run({"--library", "New", "import", File("gone.pbn"), File("in.pbn")}), 1);
+  EXPECT_EQ(Run({"--library", "New", "boards"}), 0);
+  EXPECT_EQ(out, "7\n");
 }
 
 }  // namespace

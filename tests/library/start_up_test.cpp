@@ -24,6 +24,9 @@ TEST_F(StartUp, TheFirstStartAsksForARootAndMakesTheDefaultLibrary) {
   ExpectRootMessage();
   host.Choose(folder.Path().root_path());
   host.ExpectTell("Please choose a folder, not " + PathText(folder.Path().root_path()));
+  test::WriteFile(folder.Path() / "file", "in the way");
+  host.Choose(folder.Path() / "file" / "hands");
+  host.ExpectTellWith(PathText(folder.Path() / "file"));
   host.Choose(folder.Path() / "hands");
   EXPECT_TRUE(OpenLibraries(session));
   EXPECT_EQ(store.Read("macro", "filelocation"), FolderText(folder.Path() / "hands"));
@@ -42,15 +45,17 @@ TEST_F(StartUp, WithoutARootTheProgramEnds) {
 }
 
 TEST_F(StartUp, AStoredLibraryThatIsGoneIsMadeAgain) {
-  session.settings.library = "Last year";
-  EXPECT_TRUE(OpenLibraries(session));
-  EXPECT_EQ(session.LibraryName(), "Last year");
-  EXPECT_TRUE(fs::is_directory(session.LibraryPath()));
-  EXPECT_EQ(session.LibraryNames, (std::vector<std::string>{"Club", "Last year"}));
+  for (const char* name : {"Last year", "St. Ives"}) {  // the second as a file manager named it
+    session.settings.library = name;
+    EXPECT_TRUE(OpenLibraries(session));
+    EXPECT_EQ(session.LibraryName(), name);
+    EXPECT_TRUE(fs::is_directory(session.LibraryPath()));
+  }
+  EXPECT_EQ(session.LibraryNames, (std::vector<std::string>{"Club", "Last year", "St. Ives"}));
 }
 
 TEST_F(StartUp, WhereAStoredLibraryCannotBeMadeAgainTheFirstIsOpened) {
-  for (const char* name : {"", "St. Ives", "../up"}) {  // the second as a file manager named it
+  for (const char* name : {"", "a:b", "../up"}) {
     if (!IsLibraryName(name) && *name != '\0') {
       host.ExpectTell("A library cannot be named " + std::string(name));
     }
@@ -59,6 +64,15 @@ TEST_F(StartUp, WhereAStoredLibraryCannotBeMadeAgainTheFirstIsOpened) {
     EXPECT_EQ(session.LibraryName(), "Club") << name;
     EXPECT_EQ(session.LibraryNames, std::vector<std::string>{"Club"});
   }
+}
+
+TEST_F(StartUp, ARootThatGoesLaterIsNotMadeAnew) {
+  EXPECT_TRUE(OpenLibraries(session));
+  fs::remove_all(session.FileLocation());
+  host.ExpectTell("There is no folder " + session.settings.filelocation);
+  GetLibraryNames(session);
+  EXPECT_FALSE(fs::exists(session.FileLocation()));
+  EXPECT_EQ(session.LibraryNames, std::vector<std::string>{"Club"});
 }
 
 TEST_F(StartUp, TheNoticeComesUntilItIsNotWantedAnyMore) {
