@@ -152,6 +152,22 @@ int OpenBeside(const fs::path& path, fs::path& beside) {
   }
 }
 
+/// Puts `beside` in the place of `path`, which may be marked read-only: who may use a file is its
+/// owner's wish, and the new one keeps to it.
+std::error_code PutInPlace(const fs::path& beside, const fs::path& path) {
+  std::error_code failure;
+  std::error_code ignored;
+  const fs::file_status old = fs::status(path, ignored);
+  if (fs::exists(old)) fs::permissions(beside, old.permissions() & fs::perms::all, ignored);
+  fs::rename(beside, path, failure);
+  if (!failure || !IsReadOnly(path)) return failure;
+  // Here the mark protects the name as well.
+  fs::permissions(path, fs::perms::owner_write, fs::perm_options::add, ignored);
+  fs::rename(beside, path, failure);
+  if (failure) fs::permissions(path, fs::perms::owner_write, fs::perm_options::remove, ignored);
+  return failure;
+}
+
 /// Lets `write` fill a new file beside `path` and puts it in its place; unless `write` says no or
 /// throws, and then nothing has changed.
 bool ReplaceBy(const fs::path& path, const std::function<bool(int)>& write) {
@@ -162,14 +178,12 @@ bool ReplaceBy(const fs::path& path, const std::function<bool(int)>& write) {
   try {
     const bool written = write(file.Get());
     if (!file.CloseNow()) throw Fault::OfFile(LastError(), PathText(path));
-    std::error_code failure;
-    if (written) {
-      fs::rename(beside, path, failure);
-    } else {
+    if (!written) {
       fs::remove(beside, ignored);
+      return false;
     }
-    if (failure) throw Fault::OfFile(failure, PathText(path));
-    return written;
+    if (const auto failure = PutInPlace(beside, path)) throw Fault::OfFile(failure, PathText(path));
+    return true;
   } catch (...) {
     fs::remove(beside, ignored);
     throw;

@@ -14,7 +14,8 @@ namespace tricklet {
 std::string ReadWholeFile(const std::filesystem::path& path, std::size_t maxBytes);
 
 /// Puts `data` in the place of the file `path`, whole or not at all: it is written beside it and
-/// then renamed. Throws `Fault`, and then the old file is as it was.
+/// then renamed. The permissions stay those of the old file, which may be marked read-only. Throws
+/// `Fault`, and then the old file is as it was.
 void ReplaceWholeFile(const std::filesystem::path& path, std::string_view data);
 
 /// Copies the regular file `from` to the place of `to`, whole or not at all, with its time of

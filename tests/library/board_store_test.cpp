@@ -64,6 +64,16 @@ TEST_F(BoardStore, LeavesAReadOnlyFileAlone) {
   EXPECT_TRUE(session.board.HandChanged);
 }
 
+TEST_F(BoardStore, AMarkedFileThatIsReplacedUnaskedKeepsItsMark) {
+  WriteFile(path, "old");
+  fs::permissions(path, fs::perms::owner_read);
+  session.board.HandChanged = false;
+  EXPECT_TRUE(SaveHand(session));
+  EXPECT_NE(ReadFile(path), "old");
+  EXPECT_TRUE(IsReadOnly(path));
+  EXPECT_EQ(std::distance(fs::directory_iterator(session.LibraryPath()), {}), 1);
+}
+
 TEST_F(BoardStore, AFailedSaveIsReportedAndLosesNothing) {
   fs::create_directories(path / "in the way");  // a folder where the file should be
   session.board.HandChanged = true;
