@@ -17,6 +17,13 @@ void AddCard(HandTable& hands, Card card, Seat seat) {
   hands[seat][card.suit].Add(card.rank);
 }
 
+bool IsPossible(const MakeableTable& table) {
+  return std::all_of(table.begin(), table.end(), [](const auto& row) {
+    return std::all_of(row.begin(), row.end(),
+                       [](int tricks) { return tricks >= 0 && tricks <= kCardsInHand; });
+  });
+}
+
 void GetHand(std::string_view& text, HandTable& hands, Seat seat) {
   const auto blank = text.find(' ');
   std::string_view hand = text.substr(0, blank);

@@ -14,9 +14,10 @@ namespace tricklet {
 /// The holdings of all four seats: `hands[seat][suit]`.
 using HandTable = PerSeat<PerSuit<Holding>>;
 
-/// Double-dummy tricks, 0..13, of each declarer in each strain. Values of a foreign file are kept
-/// as they are.
+/// Double-dummy tricks of each declarer in each strain. What a foreign file has is kept as it is,
+/// but a table of other than 0..13 tricks is none (`Board::MakeableValid`).
 using MakeableTable = EnumArray<TableSeat, EnumArray<TableStrain, std::int16_t, kStrains>, kSeats>;
+bool IsPossible(const MakeableTable& table);
 
 /// The current board. A value: copying it copies the board.
 struct Board {

@@ -52,6 +52,7 @@ void ReadDeal(std::string_view line, HandTable& hands) {
 
 /// One row of an optimum-result table: declarer letter, denomination letter(s), tricks.
 std::int16_t ReadTableRow(std::string_view row, MakeableTable& table) {
+  row.remove_suffix(row.size() - (row.find_last_not_of(" \t") + 1));  // behind the tricks
   if (row.empty()) throw BadLine{};
   const auto declarer = static_cast<TableSeat>(PositionIn("NSEW", ToUpper(row[0])));
   const std::string_view rest = Trim(row.substr(1));
@@ -70,7 +71,7 @@ void ReadOptimumResultTable(PbnLines& lines, Board& board) {
     lastTricks = ReadTableRow(lines.Line(), board.Makeable);
   }
   // Writers that have no table write twenty zeros or question marks.
-  board.MakeableValid = lastTricks != 0;
+  board.MakeableValid = lastTricks != 0 && IsPossible(board.Makeable);
 }
 
 void ReadDoubleDummyTricks(std::string_view line, Board& board) {

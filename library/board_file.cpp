@@ -98,7 +98,7 @@ bool ReadTable(LineReader& lines, Board& board) {
     }
   }
   board.Makeable = table;
-  board.MakeableValid = true;
+  board.MakeableValid = IsPossible(table);
   return true;
 }
 

@@ -121,6 +121,11 @@ TEST(ReadPBN, ReadsOptimumResultTables) {
   // the last row alone decides whether there is a table
   EXPECT_FALSE(ReadOne(OptimumTable("W C 0")).MakeableValid);
   EXPECT_FALSE(ReadOne(OptimumTable("W C ?")).MakeableValid);
+  // unless there are tricks that nobody can take
+  EXPECT_FALSE(ReadOne(OptimumTable("W C 14")).MakeableValid);
+  const Board blanks = ReadOne(OptimumTable("W C 11 \t"));
+  EXPECT_TRUE(blanks.MakeableValid);
+  EXPECT_EQ(blanks.Makeable[TableSeat::West][TableStrain::Clubs], 11);
 }
 
 TEST(ReadPBN, StopsAtALineThatCannotBeRead) {
