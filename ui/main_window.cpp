@@ -312,9 +312,11 @@ void MainWindow::SavePlace() {
   session_.store.Write(kPlaceSection, kPlaceKey, saveGeometry().toBase64().toStdString());
 }
 
+/// The panes derive colours from their palettes, which follow the window's after this event.
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange && table_ != nullptr && status_ != nullptr) Display();
+  if (event->type() != QEvent::PaletteChange || status_ == nullptr) return;
+  Later(this, [this] { Display(); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

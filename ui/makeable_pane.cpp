@@ -1,6 +1,7 @@
 #include "ui/makeable_pane.h"
 
 #include <QEvent>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -65,11 +66,11 @@ MakeablePane::MakeablePane(QWidget* parent)
 }
 
 /// A style sheet keeps the colours that it began with, so it names them and is set again with
-/// others.
+/// others: the program's, as the table's own come later.
 void MakeablePane::StyleHeads() {
   lvwMake->horizontalHeader()->setStyleSheet(
       QStringLiteral("QHeaderView, QHeaderView::section { border: none; background: %1; }")
-          .arg(lvwMake->palette().color(QPalette::Base).name()));
+          .arg(QGuiApplication::palette().color(QPalette::Base).name()));
 }
 
 void MakeablePane::changeEvent(QEvent* event) {

@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QShortcut>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QTableWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -87,6 +88,10 @@ void TravellerPane::BuildGrid() {
   heads->setSortIndicatorClearable(true);
   flexTraveller->setSortingEnabled(true);
   heads->setSortIndicator(-1, Qt::AscendingOrder);
+  connect(heads, &QHeaderView::sortIndicatorChanged, this, [this](int column) {
+    if (column < 0) RestoreOrder();
+    TravellerResize();
+  });
   // What the column has left, and no less than some rows: a height of its own would make the column
   // scroll.
   flexTraveller->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
@@ -229,6 +234,27 @@ void TravellerPane::SortByCurrentColumn() {
   }
 }
 
+/// The rows as the traveller has them: without a column to sort by the grid leaves them as they
+/// are.
+void TravellerPane::RestoreOrder() {
+  const QSignalBlocker blocker(flexTraveller);
+  std::vector<std::array<QTableWidgetItem*, kTravellerColumns>> rows(
+      static_cast<std::size_t>(flexTraveller->rowCount()));
+  for (int place = 0; place < flexTraveller->rowCount(); ++place) {
+    auto& row = rows.at(static_cast<std::size_t>(RowAt(place)));
+    for (int column = kTravellerColumns - 1; column >= 0; --column) {
+      row.at(static_cast<std::size_t>(column)) = flexTraveller->takeItem(place, column);
+    }
+  }
+  for (int row = 0; row < flexTraveller->rowCount(); ++row) {
+    for (int column = 0; column < kTravellerColumns; ++column) {
+      flexTraveller->setItem(
+          row, column, rows.at(static_cast<std::size_t>(row)).at(static_cast<std::size_t>(column)));
+    }
+  }
+  MarkRecord();
+}
+
 void TravellerPane::ChooseRow(int place) {
   const int row = RowAt(place);
   const Traveller& traveller = results_.OfBoard();
@@ -274,10 +300,13 @@ void TravellerPane::TravellerResize() {
   QFont bold = flexTraveller->font();
   bold.setBold(true);
   const QFontMetrics metrics(bold);  // the marked row's
-  const QFontMetrics heads(flexTraveller->horizontalHeader()->font());
+  const QHeaderView* head = flexTraveller->horizontalHeader();
+  const QFontMetrics heads(head->font());
+  const int arrow = head->style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, head);
   int used = 0;
   for (int column = 0; column < kTravellerColumns; ++column) {
     int width = heads.horizontalAdvance(flexTraveller->horizontalHeaderItem(column)->text());
+    if (column == head->sortIndicatorSection()) width += arrow;
     for (int row = 0; row < flexTraveller->rowCount(); ++row) {
       width = std::max(width, metrics.horizontalAdvance(flexTraveller->item(row, column)->text()));
     }

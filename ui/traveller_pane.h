@@ -48,6 +48,7 @@ class TravellerPane : public Section {
   void ShowSteps();
   void TravellerResize();
   void SortByCurrentColumn();
+  void RestoreOrder();
   void ChooseRow(int place);
   int RowAt(int place) const;
 

@@ -15,6 +15,7 @@
 #include <QUrl>
 
 #include "formats/import.h"
+#include "tests/support/calls.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/later.h"
 #include "ui/table_layout.h"
@@ -220,15 +221,21 @@ TEST_F(MainWindowTest, OptionsTakeEffectOnlyWithOK) {
   }
 }
 
-TEST_F(MainWindowTest, HeadsOfTablesFollowTheColours) {
+TEST_F(MainWindowTest, TablesFollowTheColours) {
   session.board.MakeableValid = true;
   Open();
+  test::SetAuction(session.board, "1NT Pass Pass Pass");
   const Qt::Key keys[] = {Qt::Key_3, Qt::Key_2, Qt::Key_3, Qt::Key_1};
   for (const Qt::Key key : keys) {
     Key(key, Qt::ControlModifier | Qt::AltModifier);
+    QCoreApplication::processEvents();
     const auto* table = Find<QTableWidget>("lvwMake");
     const QImage head = table->horizontalHeader()->grab().toImage();
     EXPECT_EQ(head.pixelColor(2, 2), table->palette().color(QPalette::Base)) << key;
+    const auto* grid = Find<QTableWidget>("flexBids");
+    const QTableWidgetItem* pass = grid->item(1, 0);
+    ASSERT_NE(pass, nullptr);
+    EXPECT_EQ(pass->foreground(), grid->palette().brush(QPalette::PlaceholderText)) << key;
   }
 }
 

@@ -144,6 +144,8 @@ TEST_F(TravellerWindowTest, IsSortedByEveryColumn) {
     EXPECT_EQ(Pairs(), example.pairs) << example.column;
     ClickHead(example.column);
     EXPECT_EQ(Pairs(), std::string(example.pairs.rbegin(), example.pairs.rend())) << example.column;
+    ClickHead(example.column);
+    EXPECT_EQ(Pairs(), "1357") << "as it was";
   }
   ClickRow(0);  // that of pair 1, the best score
   EXPECT_EQ(Grid()->currentColumn(), 0);
