@@ -19,6 +19,16 @@ int MostPoints(const PerSuit<Limits>& suits) {
   return points;
 }
 
+/// Most points of a hand of each type: the honours of its suits, the long one's four before those
+/// of the shorter ones. A pre-empt has six cards beside seven, which is best 2-2-2; a weak two
+/// seven beside six, 3-2-2.
+constexpr EnumArray<HandType, int, kHandTypes> kMostPointsOfType{{37, 33, 34, 31}};
+
+int MostPoints(const Constraints& constraints, GenHand hand) {
+  return constraints.UseSuitLengths[hand] ? MostPoints(constraints.SuitLimits[hand])
+                                          : kMostPointsOfType[constraints.HandTypeIndex[hand]];
+}
+
 Suit SuitOfHighestMinimum(const PerSuit<Limits>& suits) {
   return *std::max_element(kAllSuits.begin(), kAllSuits.end(), [&suits](Suit a, Suit b) {
     return suits[a].minimum < suits[b].minimum;
@@ -34,7 +44,7 @@ Suit SuitOfLowestMaximum(const PerSuit<Limits>& suits) {
 std::optional<Contradiction> CheckHand(const Constraints& constraints, GenHand hand) {
   using enum ConstraintPart;
   const std::string number = std::to_string(IndexOf(hand) + 1);
-  const PerSuit<Limits>& suits = constraints.SuitLimits[hand];
+  const PerSuit<Limits> suits = AskedLengths(constraints, hand);
   int minima = 0;
   int maxima = 0;
   for (const Limits& suit : suits) {
@@ -50,7 +60,7 @@ std::optional<Contradiction> CheckHand(const Constraints& constraints, GenHand h
                          SuitOfLowestMaximum(suits)};
   }
   const int points = constraints.PointLimits[hand].minimum;
-  if (points > MostPoints(suits)) {
+  if (points > MostPoints(constraints, hand)) {
     return Contradiction{"Cannot have " + std::to_string(points) +
                              " points with the distribution for hand " + number,
                          hand, Points};
@@ -65,9 +75,10 @@ std::optional<Contradiction> CheckBothHands(const Constraints& constraints) {
   if (points[GenHand::First].minimum + points[kSecond].minimum > kPointsInPack) {
     return Contradiction{"Too many minimum points between the 2 hands", kSecond, Points};
   }
-  const auto& suits = constraints.SuitLimits;
+  const PerSuit<Limits> first = AskedLengths(constraints, GenHand::First);
+  const PerSuit<Limits> second = AskedLengths(constraints, kSecond);
   for (const Suit suit : kAllSuits) {
-    if (suits[GenHand::First][suit].minimum + suits[kSecond][suit].minimum > kRanks) {
+    if (first[suit].minimum + second[suit].minimum > kRanks) {
       return Contradiction{"Too many " + std::string(SuitName[suit]) + " between the 2 hands",
                            kSecond, SuitMinima, suit};
     }
@@ -79,6 +90,13 @@ std::optional<Contradiction> CheckBothHands(const Constraints& constraints) {
 }
 
 }  // namespace
+
+PerSuit<Limits> AskedLengths(const Constraints& constraints, GenHand hand) {
+  if (constraints.UseSuitLengths[hand]) return constraints.SuitLimits[hand];
+  PerSuit<Limits> any;
+  any.fill({0, kCardsInHand});
+  return any;
+}
 
 std::optional<Contradiction> CheckConstraints(const Constraints& constraints) {
   for (const GenHand hand : kGenHands) {

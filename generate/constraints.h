@@ -68,6 +68,9 @@ struct Constraints {
   std::array<int, 2> GenBoards{1, 24};  ///< first and last board
 };
 
+/// The lengths that are asked of a hand: any where it goes by a hand type, whatever its limits are.
+PerSuit<Limits> AskedLengths(const Constraints& constraints, GenHand hand);
+
 enum class ConstraintPart : std::uint8_t { SuitMinima, SuitMaxima, Points, Direction };
 
 /// Constraints that no deal can meet.

@@ -130,7 +130,9 @@ PerSuit<int> ChooseLengths(const PerSuit<Limits>& limits, RandomSource& random) 
 class HandBuilder {
  public:
   HandBuilder(const Constraints& constraints, RandomSource& random)
-      : constraints_(constraints), random_(random) {}
+      : constraints_(constraints),
+        secondAsked_(AskedLengths(constraints, GenHand::Second)),
+        random_(random) {}
 
   /// The first hand that meets the constraints, or the last attempt. Only its cards count as
   /// placed: those of failed attempts are free again.
@@ -159,7 +161,7 @@ class HandBuilder {
     const bool roomForSecond = which == GenHand::First && constraints_.NumGenHands == 2;
     for (const Suit suit : kAllSuits) {
       int taken = firstLengths_[suit];
-      if (roomForSecond) taken = constraints_.SuitLimits[GenHand::Second][suit].minimum;
+      if (roomForSecond) taken = secondAsked_[suit].minimum;
       limits[suit].maximum = std::min(limits[suit].maximum, kRanks - taken);
     }
     return limits;
@@ -212,6 +214,7 @@ class HandBuilder {
   }
 
   const Constraints& constraints_;
+  const PerSuit<Limits> secondAsked_;
   RandomSource& random_;
   CardSet placed_ = 0;         // cards of the hands already built
   PerSuit<int> firstLengths_;  // lengths chosen for the hand already built

@@ -232,10 +232,6 @@ void GenerateHand::FocusOn(ConstraintPart part, Suit suit) {
       optSuit->checkedButton()->setFocus();
       return;
   }
-  if (!number->isEnabled()) {
-    optType->checkedButton()->setFocus();
-    return;
-  }
   number->setFocus();
   number->lineEdit()->selectAll();
 }

@@ -101,6 +101,25 @@ TEST(CheckConstraints, TellsTheFirstContradiction) {
          c.SuitLimits[kOne].values_ = {{{0, 10}, {0, 3}, {0, 0}, {0, 0}}};
          c.PointLimits[kOne].minimum = 20;
        }},
+      // what is greyed asks for nothing
+      {"",
+       [](Constraints& c) {
+         c.SuitLimits[kOne] = AllSuits({4, 4});
+         c.SuitLimits[kTwo] = AllSuits({0, 3});
+         c.UseSuitLengths.fill(false);
+       }},
+      {"",
+       [](Constraints& c) {
+         c.UseSuitLengths[kOne] = false;
+         c.HandTypeIndex[kOne] = HandType::FourFourFourOne;
+         c.PointLimits[kOne].minimum = 34;
+       }},
+      {"Cannot have 35 points with the distribution for hand 1",
+       [](Constraints& c) {
+         c.UseSuitLengths[kOne] = false;
+         c.HandTypeIndex[kOne] = HandType::FourFourFourOne;
+         c.PointLimits[kOne].minimum = 35;
+       }},
       // 4 + 7 + 0 + 10
       {"Cannot have 22 points with the distribution for hand 2",
        [](Constraints& c) {

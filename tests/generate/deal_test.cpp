@@ -263,6 +263,19 @@ TEST(GenerateDeal, MeetsTheConstraintsAndDealsTheRest) {
   }
 }
 
+TEST(GenerateDeal, LengthsOfAHandThatGoesByTypeLeaveTheOtherAlone) {
+  Constraints constraints = OfType(HandType::Balanced);
+  constraints.UseSuitLengths[kOne] = true;
+  constraints.SuitLimits[kTwo][Suit::Spades].minimum = 8;
+  RandomSource random(14);
+  int long6 = 0;
+  for (int i = 0; i < 1000; ++i) {
+    const Statistics statistics = GetStats(GenerateDeal(constraints, Seat::North, random));
+    long6 += statistics.SuitLength[Seat::South][Suit::Spades] >= 6 ? 1 : 0;
+  }
+  EXPECT_GT(long6, 20);  // some 5 % by chance
+}
+
 TEST(GenerateDeal, DirectionsCountFromNorthOrTheDealer) {
   Constraints constraints = Asking({20, 37}, {0, 4});
   constraints.HandDirection.values_ = {{0, 3}};

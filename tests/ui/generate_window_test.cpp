@@ -256,10 +256,13 @@ TEST_F(GenerateWindowTest, AContradictionIsToldAndLeadsToWhereItIs) {
        "Too many Diamonds between the 2 hands",
        "cmbMinCards_6"},
       {{{"optSuit2_0", nullptr}}, "Hand 2 is the same direction as hand 1", "optSuit2_0"},
-      // the lengths are closed: what opens them has the focus
-      {{{"cmbMinCards_0", "8"}, {"cmbMinCards_1", "8"}, {"optType1_1", nullptr}},
-       "Suit minima add up to more than 13 in hand 1",
-       "optType1_1"},
+      // lengths that are closed ask for nothing
+      {{{"cmbMinCards_0", "8"},
+        {"cmbMinCards_1", "8"},
+        {"optType1_1", nullptr},
+        {"optSuit2_0", nullptr}},
+       "Hand 2 is the same direction as hand 1",
+       "optSuit2_0"},
   };
   for (const auto& [choices, message, focus] : kCases) {
     Generate([&](const Driven& form) {
