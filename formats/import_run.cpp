@@ -123,10 +123,7 @@ int BoardToShow(const ReadResult& result, const LibrarySink& sink) {
 }  // namespace
 
 bool MayImport(Session& session) {
-  if (CheckSaveChanges(session) == Answer::Cancel) return false;
-  if (MayOverwriteLibrary(session)) return true;
-  LoadHand(session);
-  return false;
+  return SettleChanges(session) && MayOverwriteLibrary(session);
 }
 
 ImportOutcome StoreText(Session& session, std::string text, const std::string& unreadable,

@@ -86,6 +86,7 @@ bool UndoClear(Board& board, EditHistory& history) {
   board = *kept;
   board.HandChanged = true;
   board.PlayMode = false;
+  history.CardFrame.reset();  // a fill since the clear is gone with it
   return true;
 }
 

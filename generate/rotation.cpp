@@ -35,6 +35,8 @@ bool MoveCalls(CallList& calls, int steps) {
   const int passes = static_cast<int>(opening - calls.begin());
   if (calls.Empty() || (passes == kSeats && calls.Count() == kSeats)) return true;
   if (passes >= kSeats) return false;
+  // Nobody has opened: passes led round to the dealer would end the auction.
+  if (opening == calls.end() && passes + steps >= kSeats) return false;
   const int added = passes + steps < kSeats ? steps : steps - kSeats;
   if (calls.Count() + added > CallList::kCapacity) return false;
   CallList moved;

@@ -130,6 +130,7 @@ TEST(Rotate, TakesTheAuctionAlongWhereItCan) {
       {Rotation::HalfTurn, "P P P P", "P P P P", "All Pass"},
       {Rotation::Clockwise, "", "", ""},
       {Rotation::Clockwise, "P P", "P P P", ""},
+      {Rotation::Clockwise, "P P P", nullptr, ""},                  // the next pass would end it
       {Rotation::Clockwise, "P P P P 1S", nullptr, "1S by North"},  // no legal auction before
   };
   for (const auto& c : kCases) {
@@ -290,6 +291,12 @@ TEST(EditHistory, UndoesClearAndFill) {
   EXPECT_EQ(board.Hands, full);
   EXPECT_TRUE(board.MakeableValid);
   EXPECT_TRUE(board.HandChanged);
+
+  Clear(board, history);
+  ASSERT_TRUE(Fill(board, history, random));
+  ASSERT_TRUE(UndoClear(board, history));
+  EXPECT_FALSE(UndoFill(board, history)) << "that fill is gone";
+  EXPECT_EQ(board.Hands, full);
   AddCard(board.Hands, SeatHolding(full, {}) == 0 ? Card{Suit::Clubs, Rank::Two} : Card{},
           Seat::North);
   board.Hands[Seat::East].fill(Holding());
