@@ -34,10 +34,6 @@ std::optional<Card> CardFromText(std::string_view text) {
   return std::nullopt;
 }
 
-std::string CardText(Card card) {
-  return std::string(SuitSymbol[card.suit]) + std::string(RankText[card.rank]);
-}
-
 /// Why `call` cannot be made now.
 std::string WhyNot(const AuctionEntry& entry, Call call) {
   const std::string by = call.Text() + " by " + std::string(SeatName[entry.ToCall()]) + ": ";

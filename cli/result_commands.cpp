@@ -27,7 +27,7 @@ Line LineOf(const TravellerRow& row) {
   line[2] = row.ContractText();
   if (row.Declarer) line[3] = SeatName[*row.Declarer].substr(0, 1);
   if (row.Lead) {
-    line[4] = std::string(SuitSymbol[row.Lead->suit]) + std::string(RankText[row.Lead->rank]);
+    line[4] = CardText(*row.Lead);
   }
   if (row.Tricks) line[5] = std::to_string(*row.Tricks);
   line[6] = row.Adjusted;

@@ -45,4 +45,8 @@ std::string PBNFormat(Holding holding, int& cardCount) {
   return text;
 }
 
+std::string CardText(Card card) {
+  return std::string(SuitSymbol[card.suit]) + std::string(RankText[card.rank]);
+}
+
 }  // namespace tricklet

@@ -70,4 +70,7 @@ struct Card {
   friend constexpr bool operator==(Card, Card) = default;
 };
 
+/// Suit symbol and rank.
+std::string CardText(Card card);
+
 }  // namespace tricklet

@@ -30,7 +30,7 @@ constexpr auto kRankPlaces = PlacesOf("AKQJT98765432");
 constexpr std::array kLinSeats{Seat::South, Seat::West, Seat::North, Seat::East};
 
 /// Cards of a text of suit and rank letters: one suit letter, then its ranks.
-class CardText {
+class CardLetters {
  public:
   /// The card that `c` completes; nothing when it is a suit letter or none of both.
   std::optional<Card> Next(char c) {
@@ -76,7 +76,7 @@ void ReadDeal(std::string_view value, LinRecord& record) {
   const int digit = value[0] - '1';
   if (digit >= 0 && digit < kSeats) record.dealer = kLinSeats.at(static_cast<std::size_t>(digit));
   std::size_t hand = 0;
-  CardText cards;
+  CardLetters cards;
   for (const char c : value.substr(1)) {
     if (c == ',') {
       if (++hand == kLinSeats.size()) break;
@@ -122,7 +122,7 @@ void ReadPlayers(std::string_view value, LinRecord& record) {
 }
 
 void ReadPlay(std::string_view value, std::vector<Card>& play) {
-  CardText cards;
+  CardLetters cards;
   for (const char c : value) {
     if (const auto card = cards.Next(c)) play.push_back(*card);
   }
@@ -156,7 +156,7 @@ int BoardNumberOfHeader(std::string_view header) {
 }
 
 std::optional<Card> CardOfLetters(char suit, char rank) {
-  CardText card;
+  CardLetters card;
   card.Next(suit);
   return card.Next(rank);
 }

@@ -57,8 +57,4 @@ Card FirstCard(Suit suit, Holding holding) {
   return {suit, static_cast<Rank>(std::countr_zero(holding.Bits()))};
 }
 
-std::string CardText(Card card) {
-  return std::string(SuitSymbol[card.suit]) + std::string(RankText[card.rank]);
-}
-
 }  // namespace tricklet

@@ -19,7 +19,4 @@ namespace tricklet {
 /// The highest card of a holding that is not empty.
 Card FirstCard(Suit suit, Holding holding);
 
-/// Suit symbol and rank.
-std::string CardText(Card card);
-
 }  // namespace tricklet

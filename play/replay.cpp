@@ -13,10 +13,6 @@ bool CanBePlayed(const RecordedPlay& record) {
          GetStats(record.Board.Hands).AllHandsComplete;
 }
 
-std::string CardText(Card card) {
-  return std::string(SuitSymbol[card.suit]) + std::string(RankText[card.rank]);
-}
-
 }  // namespace
 
 Replay::Replay(RecordedPlay record, Host& host)

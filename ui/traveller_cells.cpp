@@ -72,8 +72,7 @@ Cell* ContractCell(const TravellerRow& row, const Settings& settings, const QPal
 Cell* LeadCell(const TravellerRow& row, const Settings& settings, const QPalette& palette) {
   if (!row.Lead) return new Cell(QString(), kLast);
   const Card card = *row.Lead;
-  auto* cell = new Cell(ToQt(SuitSymbol[card.suit]) + ToQt(RankText[card.rank]),
-                        kCardsInPack - card.Index());
+  auto* cell = new Cell(ToQt(CardText(card)), kCardsInPack - card.Index());
   cell->setForeground(SuitColourOnWindow(card.suit, settings.SuitColour, palette));
   cell->setData(Qt::AccessibleTextRole,
                 ToQt(SuitName[card.suit]) + QLatin1Char(' ') + ToQt(RankText[card.rank]));
