@@ -39,6 +39,9 @@ std::string WhyNot(const AuctionEntry& entry, Call call) {
   const std::string by = call.Text() + " by " + std::string(SeatName[entry.ToCall()]) + ": ";
   if (entry.Over()) return by + "the auction is over";
   if (call.IsBid()) return by + "the bid is not sufficient";
+  if (call.IsDouble() && (entry.Now().Doubled || entry.Now().Redoubled)) {
+    return by + "the bid is doubled already";
+  }
   if (call.IsDouble()) return by + "there is no bid of the opponents to double";
   return by + "there is no double of the opponents to redouble";
 }
@@ -56,7 +59,7 @@ bool MakeCalls(const Context& context, AuctionEntry& entry, const std::vector<st
       return false;
     }
     if (!entry.Make(*call)) {
-      context.session.host.Tell(WhyNot(entry, *call));
+      if (!entry.AtLimit()) context.session.host.Tell(WhyNot(entry, *call));
       return false;
     }
   }

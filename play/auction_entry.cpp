@@ -34,6 +34,7 @@ void AuctionEntry::Replay(const CallList& stored) {
   for (const Call call : stored) {
     ++number;
     if (Make(call)) continue;
+    if (AtLimit()) return;  // which has been told
     host_.Tell("The auction of this board breaks the rules at call " + std::to_string(number) +
                " (" + call.Text() + " by " + std::string(SeatName[ToCall()]) +
                ").\nOnly the calls before it are shown.");
@@ -45,8 +46,12 @@ bool AuctionEntry::OKEnabled() const {
   return state_.OKEnabled || (calls_.Empty() && !board_.Calls.Empty());
 }
 
+bool AuctionEntry::AtLimit() const {
+  return state_.CallIndex == kCallIndexLimit || calls_.Full();
+}
+
 bool AuctionEntry::CheckLimit() {
-  if (state_.CallIndex != kCallIndexLimit && !calls_.Full()) return false;
+  if (!AtLimit()) return false;
   host_.Tell("Bid limit has been reached");
   return true;
 }

@@ -76,12 +76,14 @@ class AuctionEntry {
   /// The player to call (`BidColour` marks it).
   Seat ToCall() const { return static_cast<Seat>(static_cast<unsigned>(state_.CallIndex) & 3U); }
   bool Over() const { return !state_.PassEnabled; }
+  /// No further call can be held; who tries is told.
+  bool AtLimit() const;
 
  private:
   void EnableBids(int index);
   void AddCall(Call call);
   void Remember();
-  /// True, after a message, when no further call can be held.
+  /// `AtLimit`, with its message.
   bool CheckLimit();
   void Replay(const CallList& stored);
   void CommitContract();

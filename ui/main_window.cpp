@@ -218,11 +218,24 @@ void MainWindow::DisplayTable() {
     table_->ShowEdit(session_.board, session_.settings);
     return;
   }
-  const bool playing = entry == nullptr && session_.board.PlayMode;
-  table_->Show(session_.board, session_.settings, playing ? &play_->Play() : nullptr,
-               entry != nullptr && !entry->Over() ? std::optional(entry->ToCall()) : std::nullopt);
+  if (entry != nullptr) {
+    DisplayBidding(*entry);
+    return;
+  }
+  table_->Show(session_.board, session_.settings,
+               session_.board.PlayMode ? &play_->Play() : nullptr);
   best_->Look();
   table_->ShowBestCards(best_->Tricks());
+}
+
+/// Nobody is declarer until the auction has been taken over.
+void MainWindow::DisplayBidding(const AuctionEntry& entry) {
+  Board undecided = session_.board;
+  undecided.Contract.clear();
+  undecided.ContractLevel = 0;
+  table_->Show(undecided, session_.settings, nullptr,
+               entry.Over() ? std::nullopt : std::optional(entry.ToCall()));
+  table_->ShowBestCards({});
 }
 
 void MainWindow::DisplayRecord(const Replay& record) {

@@ -12,6 +12,7 @@
 class QLabel;
 
 namespace tricklet {
+class AuctionEntry;
 class Replay;
 }
 
@@ -75,6 +76,7 @@ class MainWindow : public QMainWindow {
   void DisplayAuction();
   void DisplayPlay();
   void DisplayTable();
+  void DisplayBidding(const AuctionEntry& entry);
   void DisplayRecord(const Replay& record);
   void BeginEditing();
   void PlaceBesideAuction(QWidget* dialog);

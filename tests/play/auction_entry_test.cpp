@@ -169,6 +169,13 @@ TEST(AuctionEntry, TheLimitIsToldAndKept) {
     host.ExpectTell("Bid limit has been reached");
     entry.AllPass();
     EXPECT_EQ(entry.Calls().Count(), c.calls);
+    if (c.calls < CallList::kCapacity) {
+      Board longer = board;
+      longer.Calls = entry.Calls();
+      longer.Calls.Add(Call::Pass());
+      host.ExpectTell("Bid limit has been reached");  // and nothing of rules
+      EXPECT_EQ(AuctionEntry(longer, host).Calls().Count(), c.calls);
+    }
     entry.UnCall();
     EXPECT_TRUE(entry.PassEnabled());
   }
