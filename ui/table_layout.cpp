@@ -10,7 +10,7 @@ namespace {
 constexpr double kCardAspect = 1.4;  // height to width
 // Lengths in cards' widths.
 constexpr double kRowStepAcross = 0.5;  // West and East, where there is room
-constexpr double kLeastStep = 0.27;     // the index still shows
+constexpr double kLeastStep = 0.33;     // the index still shows, that of a ten too
 constexpr double kLeastSide = 2.7;      // West and East
 constexpr double kWishedSide = 3.2;
 constexpr double kLeastCentre = 2.4;
@@ -154,21 +154,23 @@ void PlaceRows(TableLayout& layout, const PerSuit<Holding>& hand, Seat seat) {
   const double width = layout.cardSize.width();
   const double fit = std::floor(std::max(0.0, area.width() - width) / (kLeastStep * width));
   const auto rows = RowsOf(hand, static_cast<std::size_t>(fit) + 1);
-  std::size_t longest = 0;
-  for (const auto& row : rows) longest = std::max(longest, row.size());
-  if (longest == 0) return;
-  const double across = StepFor(longest, area.width(), width, kRowStepAcross * width);
+  const auto across = [&](const std::vector<Card>& row) {
+    return StepFor(row.size(), area.width(), width, kRowStepAcross * width);
+  };
+  double block = 0;
+  for (const auto& row : rows) {
+    block = std::max(block, width + across(row) * static_cast<double>(row.size() - 1));
+  }
   const double down = StepFor(std::max<std::size_t>(rows.size(), kSuits), area.height(),
                               layout.cardSize.height(), kMostRowStep * layout.cardSize.height());
   // Each hand keeps to its own edge of the table.
-  const double block = width + across * static_cast<double>(longest - 1);
   const double left = seat == Seat::West ? area.left() : area.right() - block;
   double y = area.top();
   for (const auto& row : rows) {
     double x = left;
     for (const Card card : row) {
       layout.cards.push_back({seat, card, QRectF({x, y}, layout.cardSize)});
-      x += across;
+      x += across(row);
     }
     y += down;
   }

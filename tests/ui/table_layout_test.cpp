@@ -115,6 +115,7 @@ TEST(TableLayoutTest, GivesEastARowForEachSuitHeldAndBreaksALongOne) {
   };
   EXPECT_EQ(rows("84.10732.AQ3.10652"), "SS HHHH CCCC DDD");
   EXPECT_EQ(rows("84732..AQ3.10652"), "SSSSS CCCC DDD");
+  EXPECT_EQ(rows("AQJ10987.2.A.65"), "SSS SSSS H CC D");
   EXPECT_EQ(rows("AQJ109876543.2.A."), "SSSSS SSSSSS H D");
 }
 
