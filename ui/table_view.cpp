@@ -83,10 +83,11 @@ TableLayout TableView::Layout() const {
 
 /// Every card keeps the place that it had in the full hand: nothing moves under the mouse, and a
 /// card that is taken back returns to where it was.
-void TableView::PlaceCardsLeft(TableLayout& layout, const TablePlay& play) {
+void TableView::PlaceCardsLeft(TableLayout& layout, const TablePlay& play) const {
   std::erase_if(layout.cards, [&](const PlacedCard& placed) {
     return !play.now.CardsLeft[placed.seat][placed.card.suit].Has(placed.card.rank);
   });
+  if (settings_.ShowBestCards) return;  // the labels stand in that room, on legal cards only
   const double raise = RaiseOf(layout);
   for (PlacedCard& placed : layout.cards) {
     if (play.IsLegal(placed.card)) placed.rect.translate(0, -raise);

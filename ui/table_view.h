@@ -67,7 +67,7 @@ class TableView : public QWidget {
 
  private:
   PerSeat<Caption> Captions() const;
-  static void PlaceCardsLeft(TableLayout& layout, const TablePlay& play);
+  void PlaceCardsLeft(TableLayout& layout, const TablePlay& play) const;
   void PlaceRanksLeft(TableLayout& layout, const TablePlay& play) const;
   void DrawFelt(QPainter& painter, const TableLayout& layout, const TableColours& colours) const;
   void DrawMiddle(QPainter& painter, const TableLayout& layout, const TableColours& colours);
