@@ -183,6 +183,10 @@ void MainMenu::BuildView() {
   menu->addSeparator();
   connect(Add(menu, "mnuPresentation", tr("&Presentation"), {QKeySequence(tr("F11"))}),
           &QAction::triggered, this, &MainMenu::PresentationAsked);
+  QAction* panes = Add(menu, "mnuPresentationPanes", tr("&Auction and panes in a presentation"),
+                       {QKeySequence(tr("Shift+F11"))});
+  panes->setCheckable(true);
+  connect(panes, &QAction::toggled, this, &MainMenu::PresentationPanesAsked);
 }
 
 void MainMenu::BuildColours(QMenu* view) {

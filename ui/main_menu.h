@@ -36,6 +36,7 @@ class MainMenu : public QObject {
   void NewLibraryAsked();
   void TravellerAsked();
   void PresentationAsked();
+  void PresentationPanesAsked(bool shown);
 
  private:
   using Command = void (Commands::*)();

@@ -114,6 +114,10 @@ void MainWindow::Connect() {
   connect(library_, &LibraryPane::StepAsked, commands_, &Commands::StepBoard);
   connect(menu_, &MainMenu::NewLibraryAsked, library_, &LibraryPane::BeginNewLibrary);
   connect(menu_, &MainMenu::PresentationAsked, this, [this] { SetPresentation(!presentation_); });
+  connect(menu_, &MainMenu::PresentationPanesAsked, this, [this](bool shown) {
+    presentationPanes_ = shown;
+    Display();
+  });
   connect(commands_, &Commands::TableAsked, tables_, &BackgroundTables::Ask);
   connect(tables_, &BackgroundTables::Changed, this, &MainWindow::Display);
   connect(progress_, &ProgressFrame::Begun, this, [this] { SetWorking(true); });
@@ -204,6 +208,14 @@ void MainWindow::DisplayPlay() {
   library_->OfferNext(play_->Play().Finished());
   traveller_->Show(session_.settings);
   DisplayTable();
+  HideAnswers();
+}
+
+/// What a class is not to see while it bids, unless it has been switched on.
+void MainWindow::HideAnswers() {
+  if (!presentation_ || presentationPanes_) return;
+  makeable_->hide();
+  traveller_->hide();
 }
 
 /// The board, its play or its auction; or the play record that is looked at.
@@ -251,10 +263,12 @@ void MainWindow::BeginEditing() {
   (line != nullptr ? line : table_)->setFocus();
 }
 
-/// The lower left corner: there it covers neither the auction nor the middle of the table.
+/// The lower left corner: there it covers neither the auction nor the middle of the table. Where
+/// there is nothing below the auction it covers no hand either.
 void MainWindow::PlaceBesideAuction(QWidget* dialog) {
   dialog->adjustSize();
-  PlaceAt(dialog, WorkArea::kMargin);
+  const bool roomBelow = presentation_ && !presentationPanes_;
+  PlaceAt(dialog, roomBelow ? width() - dialog->width() - WorkArea::kMargin : WorkArea::kMargin);
 }
 
 /// The lower right corner: there it covers no hand.
@@ -290,9 +304,11 @@ void MainWindow::ShowColumns() {
   KeepRoom(table_, true);
   KeepRoom(left_, !presentation_);
   KeepRoom(right_, !presentation_ && !editing);  // the pack needs its room
-  table_->setVisible(!working);
+  const bool panes = !presentation_ || presentationPanes_ || commands_->Auction() != nullptr;
+  table_->setVisible(!working || presentation_);  // a projector must not go blank
+  table_->setEnabled(!working);
   left_->setVisible(!presentation_);
-  right_->setVisible((!presentation_ || commands_->Auction() != nullptr) && !working && !editing);
+  right_->setVisible(panes && !working && !editing);
   library_->setVisible(!editing);
   if (editing) statistics_->hide();
 }
@@ -304,7 +320,7 @@ void MainWindow::SetPresentation(bool on) {
   area_->ShowMargin(!on);
   menuBar()->setVisible(!on);
   statusBar()->setVisible(!on);
-  ShowColumns();
+  Display();
   if (on) {
     stateBefore_ = windowState();
     setWindowState(stateBefore_ | Qt::WindowFullScreen);

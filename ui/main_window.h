@@ -52,7 +52,7 @@ class MainWindow : public QMainWindow {
   /// Imports the files one after another.
   void ImportFiles(const std::vector<std::filesystem::path>& files);
 
-  /// Full screen with nothing but the table.
+  /// Full screen with nothing but the table and what has been switched on beside it.
   void SetPresentation(bool on);
 
   /// The window's place and size, from one run to the next.
@@ -86,6 +86,7 @@ class MainWindow : public QMainWindow {
   void BuildStatusLine();
   void SetWorking(bool working);
   void ShowColumns();
+  void HideAnswers();
 
   Session& session_;
   PlayControl* play_;
@@ -111,6 +112,7 @@ class MainWindow : public QMainWindow {
   QLabel* status_ = nullptr;
   QAction* leavePresentation_ = nullptr;
   bool presentation_ = false;
+  bool presentationPanes_ = false;  // the right column is part of it
   Qt::WindowStates stateBefore_;
 };
 

@@ -250,6 +250,11 @@ TEST_F(MainWindowTest, PresentationShowsTheTableAloneAndItsKeysStillWork) {
   EXPECT_TRUE(Find<QWidget>("picTable")->isVisible());
   Key(Qt::Key_PageDown);
   EXPECT_EQ(session.board.BoardNumber, 2);
+  Key(Qt::Key_F11, Qt::ShiftModifier);
+  EXPECT_TRUE(Find<QWidget>("flexBids")->isVisible());
+  EXPECT_FALSE(Find<QWidget>("cmbLibs")->isVisible());
+  Key(Qt::Key_F11, Qt::ShiftModifier);
+  EXPECT_FALSE(Find<QWidget>("flexBids")->isVisible());
   Key(Qt::Key_Escape);
   EXPECT_FALSE(window->isFullScreen());
   EXPECT_TRUE(Find<QWidget>("cmbLibs")->isVisible());
