@@ -1,5 +1,6 @@
 #include "library/tables.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <future>
@@ -32,12 +33,22 @@ struct SolvedBatch {
   std::string failure;
 };
 
+/// How far a run is.
+struct Progress {
+  int done = 0;
+  int total = 0;
+  Clock::duration taken{};  // for those that are done
+  Clock::duration since{};
+};
+
 /// "Analysing board 23, 40 s left".
-std::string ProgressText(int number, int done, int total, Clock::duration taken) {
+std::string ProgressText(int number, const Progress& progress) {
+  using Seconds = std::chrono::duration<double>;
   std::string text = "Analysing board " + std::to_string(number);
-  if (done == 0) return text;
-  const double seconds = std::chrono::duration<double>(taken).count();
-  const long left = std::lround(seconds / done * (total - done));
+  if (progress.done == 0) return text;
+  const double each = Seconds(progress.taken).count() / progress.done;
+  const double rest = each * (progress.total - progress.done) - Seconds(progress.since).count();
+  const long left = std::lround(std::max(rest, 1.0));
   return text + ", " +
          (left < 100 ? std::to_string(left) + " s" : std::to_string(left / 60) + " min") + " left";
 }
@@ -116,14 +127,17 @@ class AnalysisRun {
     constexpr auto kEvery = std::chrono::milliseconds(20);
     const auto total = static_cast<int>(numbers_.size());
     do {
-      const std::string text = ProgressText(number, solved_, total, Clock::now() - start_);
-      if (!session_.host.Step(text, solved_, total)) outcome_.cancelled = true;
+      const Progress progress{solved_, total, solvedAt_ - start_, Clock::now() - solvedAt_};
+      if (!session_.host.Step(ProgressText(number, progress), solved_, total)) {
+        outcome_.cancelled = true;
+      }
     } while (answer.wait_for(kEvery) != std::future_status::ready);
   }
 
   void Keep(SolvedBatch answer, Batch batch) {
     outcome_.failure = answer.failure;
     solved_ += static_cast<int>(answer.tables.size());
+    solvedAt_ = Clock::now();
     pending_ = std::move(batch);
     pendingTables_ = std::move(answer.tables);
   }
@@ -152,6 +166,7 @@ class AnalysisRun {
   Batch pending_;  // solved, not yet stored
   std::vector<MakeableTable> pendingTables_;
   Clock::time_point start_ = Clock::now();
+  Clock::time_point solvedAt_ = start_;
 };
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <QUrl>
 
 #include "core/fault.h"
+#include "core/text.h"
 #include "formats/export.h"
 #include "formats/import_lin.h"
 #include "library/board_store.h"
@@ -24,6 +25,11 @@
 #include "ui/theme.h"
 
 namespace tricklet::ui {
+namespace {
+
+constexpr int kNameWidth = 40;  // of the box for a library's new name, in characters
+
+}  // namespace
 
 Commands::Commands(Session& session, PlayControl& play, EditControl& edit, QWidget* window)
     : QObject(window), session_(session), play_(play), edit_(edit), window_(window) {}
@@ -104,9 +110,14 @@ void Commands::RenameLibrary() {
     dialog.setLabelText(tr("New name of the library"));
     dialog.setTextValue(ToQt(session_.LibraryName()));
     if (auto* edit = dialog.findChild<QLineEdit*>()) new NameFilter(edit, session_.host);
-    if (dialog.exec() != QDialog::Accepted) return;
-    const std::string name = FromQt(dialog.textValue());
-    if (name != session_.LibraryName()) tricklet::RenameLibrary(session_, name);
+    dialog.resize(dialog.fontMetrics().averageCharWidth() * kNameWidth, dialog.sizeHint().height());
+    while (dialog.exec() == QDialog::Accepted) {
+      const std::string name = FromQt(dialog.textValue());
+      if (name == session_.LibraryName()) return;
+      if (!AcceptNewName(session_, Trim(name))) continue;  // another, then
+      tricklet::RenameLibrary(session_, name);
+      return;
+    }
   });
 }
 

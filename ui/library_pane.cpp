@@ -191,6 +191,8 @@ void LibraryPane::ShowNames(const Session& session) {
   }
   cmbLibs->setCurrentIndex(session.LibIndex);
   cmbLibs->setEditText(ToQt(session.LibraryName()));
+  cmbLibs->lineEdit()->setCursorPosition(0);  // of a long name the beginning
+  cmbLibs->setToolTip(ToQt(session.LibraryName()));
   NameTyped(cmbLibs->currentText());
 }
 

@@ -68,7 +68,7 @@ void ProgressFrame::End() {
 bool ProgressFrame::Step(const QString& text, int done, int total) {
   const bool due = !sinceDrawn_.isValid() || sinceDrawn_.elapsed() >= kMillisecondsBetweenDrawings;
   if (due) {
-    lblProgress->setText(text);
+    if (!cancelled_) lblProgress->setText(text);
     bar_->setRange(0, total);
     bar_->setValue(done);
     sinceDrawn_.start();
@@ -83,6 +83,7 @@ void ProgressFrame::SetWaiting(bool waiting) {
 
 void ProgressFrame::Cancel() {
   cancelled_ = true;
+  lblProgress->setText(tr("Cancelling..."));
   cmdCancelImport->setEnabled(false);
 }
 

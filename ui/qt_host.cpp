@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -86,9 +87,10 @@ void QtHost::Beep() {
 
 std::optional<std::filesystem::path> QtHost::ChooseFolder(const std::string& title,
                                                           const std::filesystem::path& start) {
-  const QString home = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  const QString usual = QFileInfo(documents).isDir() ? documents : QDir::homePath();
   const QString folder = QFileDialog::getExistingDirectory(Parent(), ToQt(title),
-                                                           start.empty() ? home : PathToQt(start));
+                                                           start.empty() ? usual : PathToQt(start));
   if (folder.isEmpty()) return std::nullopt;
   return PathFromQt(folder);
 }
