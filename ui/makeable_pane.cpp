@@ -117,7 +117,10 @@ void MakeablePane::Show(const Session& session) {
     ++row;
   }
   const Board& board = session.board;
-  lblPar->setText(ToQt(ParText(ComputePar(board.Makeable, board.Dealer(), board.Vulnerability()))));
+  const QString par =
+      ToQt(ParText(ComputePar(board.Makeable, board.Dealer(), board.Vulnerability())));
+  lblPar->setText(WithSymbols(par));
+  lblPar->setAccessibleName(par);
   lvwMake->setFixedHeight(lvwMake->horizontalHeader()->sizeHint().height() +
                           lvwMake->verticalHeader()->length() + 2 * lvwMake->frameWidth());
 }

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "ui/card_glyphs.h"
+#include "ui/symbols.h"
 #include "ui/theme.h"
 
 namespace tricklet::ui {
@@ -117,7 +118,7 @@ void DrawTrick(QPainter& painter, const TrickLayout& layout, const TablePlay& pl
 void DrawScore(QPainter& painter, const QRectF& room, const QString& score,
                const TableColours& colours, const QFont& font) {
   // "4S+1 by South : NS +450" is broken at its words: the room is narrow, the letters are large.
-  QString text = score;
+  QString text = WithSymbols(score);
   text.replace(QStringLiteral(" : "), QStringLiteral("\n"));
   text.replace(QStringLiteral(" by "), QStringLiteral("\nby "));
   const QStringList lines = text.split(u'\n');
