@@ -127,6 +127,8 @@ class Commands : public QObject {
   /// Work that begins from now on copies whole libraries; or no longer does.
   void Waiting(bool waiting);
   void Done();
+  /// What the last command has done, where nothing else shows it.
+  void Said(const QString& text);
   /// Before the auction dialog appears.
   void AuctionOpened(frmBidding* dialog);
   /// `Auction` has other calls than before, or is over.
@@ -141,7 +143,7 @@ class Commands : public QObject {
  private:
   bool Attempt(const std::function<void()>& procedure);
   void Run(const std::function<void()>& procedure);
-  void RunCopy(bool (*procedure)(Session&));
+  void RunCopy(bool (*procedure)(Session&), const QString& said);
   void EnterAuction();
   void OpenDocument(const QString& fileName);
 

@@ -3,39 +3,45 @@
 #include "ui/commands.h"
 #include "ui/frmCopyLib.h"
 #include "ui/frmDeleteLib.h"
+#include "ui/text.h"
 
 namespace tricklet::ui {
 
-/// Runs a procedure that copies whole folders.
-void Commands::RunCopy(bool (*procedure)(Session&)) {
+/// Runs a procedure that copies whole folders, and says so when it has.
+void Commands::RunCopy(bool (*procedure)(Session&), const QString& said) {
+  bool copied = false;
   emit Waiting(true);
-  Run([&] { procedure(session_); });
+  Run([&] { copied = procedure(session_); });
   emit Waiting(false);
+  if (copied) emit Said(said);
 }
 
 void Commands::ExportLibrary() {
-  RunCopy(&tricklet::ExportLibrary);
+  RunCopy(&tricklet::ExportLibrary, tr("The library has been exported"));
 }
 void Commands::ExportLibraries() {
-  RunCopy(&tricklet::ExportLibraries);
+  RunCopy(&tricklet::ExportLibraries, tr("The libraries have been exported"));
 }
 void Commands::ImportLibrary() {
-  RunCopy(&tricklet::ImportLibrary);
+  RunCopy(&tricklet::ImportLibrary, tr("The library has been imported"));
 }
 void Commands::ImportLibraries() {
-  RunCopy(&tricklet::ImportLibraries);
+  RunCopy(&tricklet::ImportLibraries, tr("The libraries have been imported"));
 }
 void Commands::MoveLibraries() {
-  RunCopy(&tricklet::MoveLibraries);
+  RunCopy(&tricklet::MoveLibraries, tr("The libraries are in another folder now"));
 }
 
 void Commands::CopyLibrary() {
+  QString name;
   emit Waiting(true);
-  Run([this] {
+  Run([&] {
     frmCopyLib dialog(session_, window_);
-    if (dialog.exec() == QDialog::Accepted) tricklet::CopyLibrary(session_, dialog.Name());
+    if (dialog.exec() != QDialog::Accepted) return;
+    if (tricklet::CopyLibrary(session_, dialog.Name())) name = ToQt(dialog.Name());
   });
   emit Waiting(false);
+  if (!name.isEmpty()) emit Said(tr("The library has been copied to %1").arg(name));
 }
 
 void Commands::DeleteLibrary() {

@@ -106,6 +106,7 @@ void MainWindow::BuildStatusLine() {
 
 void MainWindow::Connect() {
   connect(commands_, &Commands::Done, this, &MainWindow::Display);
+  connect(commands_, &Commands::Said, status_, &QLabel::setText);
   connect(commands_, &Commands::Waiting, progress_, &ProgressFrame::SetWaiting);
   connect(library_, &LibraryPane::LibraryChosen, commands_, &Commands::SelectLibrary);
   connect(library_, &LibraryPane::LibraryNamed, commands_, &Commands::CreateLibrary);

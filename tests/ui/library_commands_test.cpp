@@ -92,6 +92,8 @@ TEST_F(LibraryCommands, CopiesUnderANameThatTheBoxLetsPass) {
   EXPECT_EQ(session.LibraryName(), "Club");
   EXPECT_EQ(Find<QComboBox>("cmbLibs")->count(), 3);
   EXPECT_TRUE(fs::exists(folder.Path() / "A & B" / "024.txt"));
+  EXPECT_EQ(Find<QLabel>("lblStatus")->text(),
+            QStringLiteral("The library has been copied to A & B"));
 
   WithDialog(Qt::Key_F2, Qt::ShiftModifier, [](QWidget* dialog) {
     QTest::keyClicks(In<QLineEdit>(dialog, "txtLibName"), QStringLiteral("Not made"));
@@ -150,6 +152,9 @@ TEST_F(LibraryCommands, CopyingShowsThatItIsWaitedForAndCanBeCancelled) {
     Key(Qt::Key_F8, Qt::ShiftModifier);
     EXPECT_FALSE(Find<QWidget>("fraProgress")->isVisible());
     EXPECT_EQ(fs::exists(Other() / "Club" / "024.txt"), !cancel);
+    EXPECT_EQ(
+        Find<QLabel>("lblStatus")->text(),
+        cancel ? QStringLiteral("Ready") : QStringLiteral("The libraries have been exported"));
   }
   host.onStep = [&] { EXPECT_FALSE(Find<QLabel>("lblWait")->isVisible()); };
   host.BeginWork();
