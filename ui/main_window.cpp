@@ -187,9 +187,16 @@ void MainWindow::Display() {
   setWindowTitle(tr("%1 - Board %2[*] - Tricklet")
                      .arg(ToQt(session_.LibraryName()), QString::number(board.BoardNumber)));
   setWindowModified(board.HandChanged);
-  status_->setText(board.HandChanged
-                       ? tr("Board %1 has changes that are not saved").arg(board.BoardNumber)
-                       : tr("Ready"));
+  status_->setText(StatusText());
+}
+
+QString MainWindow::StatusText() const {
+  const Board& board = session_.board;
+  if (board.HandChanged) {
+    return tr("Board %1 has changes that are not saved").arg(board.BoardNumber);
+  }
+  if (session_.library.BoardCount > 0) return tr("Ready");
+  return tr("The library is empty: drop hand records here, import them, or generate deals");
 }
 
 void MainWindow::DisplayAuction() {

@@ -73,6 +73,7 @@ class MainWindow : public QMainWindow {
   void ConnectPlay();
   void ConnectEdit();
   void ConnectResults();
+  QString StatusText() const;
   void DisplayAuction();
   void DisplayPlay();
   void DisplayTable();
