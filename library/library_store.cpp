@@ -254,7 +254,6 @@ bool RequireLibraryFolder(Session& session) {
   return false;
 }
 
-
 bool AllowedInLibraryName(char32_t character, bool first) {
   constexpr std::u32string_view kRefused = U"/:*?\"<>|.\\";  // "\" would make a folder in a folder
   if (character < 0x20 || character == 0x7F) return false;

@@ -11,6 +11,10 @@ foreach(program IN ITEMS tricklet tricklet-cli)
 endforeach()
 
 install(FILES LICENSE README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+get_property(documents GLOBAL PROPERTY TRICKLET_DOCUMENTS)
+if(documents)
+  install(FILES ${documents} DESTINATION ${TRICKLET_DOCUMENT_DIR})
+endif()
 
 if(UNIX AND NOT APPLE)
   set(id org.tricklet.Tricklet)

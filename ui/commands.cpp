@@ -242,12 +242,15 @@ void Commands::Options() {
 
 void Commands::OpenDocument(const QString& fileName) {
   Run([&] {
-    const QFileInfo document(QDir(QCoreApplication::applicationDirPath()), fileName);
-    if (!document.exists()) {
-      session_.host.Tell(FromQt(tr("The help file has not been installed")));
+    const QDir program(QCoreApplication::applicationDirPath());
+    for (const QDir& place :
+         {program, QDir(program.filePath(QStringLiteral(TRICKLET_DOCUMENT_DIR)))}) {
+      const QFileInfo document(place, fileName);
+      if (!document.exists()) continue;
+      session_.host.OpenUrl(FromQt(QUrl::fromLocalFile(document.canonicalFilePath()).toString()));
       return;
     }
-    session_.host.OpenUrl(FromQt(QUrl::fromLocalFile(document.absoluteFilePath()).toString()));
+    session_.host.Tell(FromQt(tr("The help file has not been installed")));
   });
 }
 

@@ -14,7 +14,7 @@ class QLabel;
 namespace tricklet {
 class AuctionEntry;
 class Replay;
-}
+}  // namespace tricklet
 
 namespace tricklet::ui {
 
