@@ -9,6 +9,7 @@
 #include "generate/editing.h"
 #include "generate/rotation.h"
 #include "library/board_store.h"
+#include "library/file_io.h"
 
 namespace tricklet::cli {
 namespace {
@@ -81,11 +82,24 @@ ExitCode Edit(const Context& context, const EditArguments& arguments) {
   return ExitCode::Done;
 }
 
+/// Cards can be given to a board that is not there yet; everything else needs one.
+bool LoadOrBegin(const Context& context, const EditArguments& arguments) {
+  Session& session = context.session;
+  const bool gives =
+      arguments.action == EditAction::SetHand || arguments.action == EditAction::Fill;
+  if (!gives) return LoadBoard(context, arguments.board);
+  if (!OpenLibrary(context, false)) return false;
+  if (FileExists(session.BoardPath(arguments.board))) return LoadBoard(context, arguments.board);
+  session.board = Board();
+  session.board.BoardNumber = arguments.board;
+  return true;
+}
+
 }  // namespace
 
 ExitCode EditBoard(const Context& context, const EditArguments& arguments) {
   Session& session = context.session;
-  if (!LoadBoard(context, arguments.board)) return ExitCode::Refused;
+  if (!LoadOrBegin(context, arguments)) return ExitCode::Refused;
   const ExitCode edited = Edit(context, arguments);
   if (edited != ExitCode::Done) return edited;
   if (!SaveHand(session)) return ExitCode::Refused;

@@ -149,6 +149,16 @@ TEST_F(CommandLine, MakesARootThatIsNamedButNoOther) {
   EXPECT_EQ(RunBare({"--root", gone, "import", File("in.pbn")}), 0);
 }
 
+TEST_F(CommandLine, CardsCanBeGivenToANewBoard) {
+  EXPECT_EQ(Run({"import", File("in.pbn")}), 0);
+  EXPECT_EQ(Run({"edit", "8", "swap", "N", "S"}), 1);
+  EXPECT_EQ(err, "There is no board 8 in library Default\n");
+  EXPECT_EQ(Run({"edit", "8", "hand", "N", "AKQJ.AKQ.AKQ.AKQ"}), 0);
+  EXPECT_EQ(Run({"edit", "9", "fill"}), 0);
+  EXPECT_EQ(Run({"boards"}), 0);
+  EXPECT_EQ(out, "7\n8\n9\n");
+}
+
 TEST_F(CommandLine, WrongUsageIsTwo) {
   struct Case {
     std::vector<std::string> arguments;
