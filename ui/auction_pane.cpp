@@ -17,7 +17,9 @@ namespace tricklet::ui {
 namespace {
 
 constexpr int kLeastRows = 3;  // so that the pane below does not jump from board to board
-constexpr int kMostRows = 8;   // a longer auction scrolls
+// A longer auction scrolls: beyond a third of the window's height, but not before so many rows.
+constexpr int kMostRows = 8;
+constexpr int kPartOfWindow = 3;
 
 /// Columns run West, North, East, South.
 constexpr int ColumnOf(Seat seat) {
@@ -159,7 +161,8 @@ void AuctionPane::ShowCalls(const Session& session, const CallList& calls) {
   flexBids->horizontalHeader()->setFont(headFont);
   const int headHeight = QFontMetrics(headFont).height() + 8;
   flexBids->horizontalHeader()->setFixedHeight(headHeight);
-  flexBids->setFixedHeight(headHeight + rowHeight * std::min(rows, kMostRows));
+  const int most = std::max(kMostRows, window()->height() / kPartOfWindow / rowHeight);
+  flexBids->setFixedHeight(headHeight + rowHeight * std::min(rows, most));
   flexBids->scrollToBottom();
 }
 
