@@ -16,17 +16,14 @@ void AddAnalysisCommands(CLI::App& app, Command& command) {
   analyse->add_option("LAST", asked->last, "Last board")->check(boards);
   analyse->add_flag("--again", asked->again, "Compute the tables that are there too");
   analyse->add_flag("--show", asked->show, "Print the tables");
-  analyse->callback([&command, asked] {
-    command = [asked](const Context& context, const ConsoleHost&) {
-      return Analyse(context, *asked);
-    };
+  WhenChosen(*analyse, command, [asked](const Context& context, const ConsoleHost&) {
+    return Analyse(context, *asked);
   });
   const auto board = std::make_shared<int>(0);
   auto* link = app.add_subcommand("link", "Print the address of the online double-dummy page");
   AddBoardArgument(*link, *board);
-  link->callback([&command, board] {
-    command = [board](const Context& context, const ConsoleHost&) { return Link(context, *board); };
-  });
+  WhenChosen(*link, command,
+             [board](const Context& context, const ConsoleHost&) { return Link(context, *board); });
 }
 
 }  // namespace tricklet::cli

@@ -1,5 +1,6 @@
 // The parser's side of the commands for libraries, boards, files and settings.
 #include <memory>
+#include <utility>
 
 #include <CLI/CLI.hpp>
 
@@ -21,24 +22,20 @@ std::vector<fs::path> Paths(const std::vector<std::string>& texts) {
 }
 
 void AddListings(CLI::App& app, Command& command) {
-  app.add_subcommand("libraries", "Each library and its number of boards")->callback([&command] {
-    command = [](const Context& context, const ConsoleHost&) { return Libraries(context); };
-  });
+  WhenChosen(*app.add_subcommand("libraries", "Each library and its number of boards"), command,
+             [](const Context& context, const ConsoleHost&) { return Libraries(context); });
   const auto longForm = std::make_shared<bool>(false);
   auto* boards = app.add_subcommand("boards", "The numbers of the boards present");
   boards->add_flag("--long", *longForm,
                    "Add dealer, vulnerability, contract and whether there is a table");
-  boards->callback([&command, longForm] {
-    command = [longForm](const Context& context, const ConsoleHost&) {
-      return Boards(context, *longForm);
-    };
+  WhenChosen(*boards, command, [longForm](const Context& context, const ConsoleHost&) {
+    return Boards(context, *longForm);
   });
   const auto board = std::make_shared<int>(0);
   auto* show = app.add_subcommand("show", "One board with auction, statistics and table");
   AddBoardArgument(*show, *board);
-  show->callback([&command, board] {
-    command = [board](const Context& context, const ConsoleHost&) { return Show(context, *board); };
-  });
+  WhenChosen(*show, command,
+             [board](const Context& context, const ConsoleHost&) { return Show(context, *board); });
 }
 
 void AddImporter(CLI::App& app, Command& command, const char* name, const char* description,
@@ -46,10 +43,8 @@ void AddImporter(CLI::App& app, Command& command, const char* name, const char* 
   const auto files = std::make_shared<std::vector<std::string>>();
   auto* reader = app.add_subcommand(name, description);
   reader->add_option("FILE", *files, "Files, told apart by their ending")->required();
-  reader->callback([&command, files, import] {
-    command = [files, import](const Context& context, const ConsoleHost& host) {
-      return ImportFiles(context, import, Paths(*files), [&host] { return host.Ended(); });
-    };
+  WhenChosen(*reader, command, [files, import](const Context& context, const ConsoleHost& host) {
+    return ImportFiles(context, import, Paths(*files), [&host] { return host.Ended(); });
   });
 }
 
@@ -64,10 +59,8 @@ void AddExport(CLI::App& app, Command& command) {
   writer->add_option("FIRST", range->first, "First board")->required();
   writer->add_option("LAST", range->last, "Last board")->required();
   writer->add_option("FILE", range->file, "File; its ending selects the format")->required();
-  writer->callback([&command, range] {
-    command = [range](const Context& context, const ConsoleHost&) {
-      return ExportBoards(context, range->first, range->last, PathFromText(range->file));
-    };
+  WhenChosen(*writer, command, [range](const Context& context, const ConsoleHost&) {
+    return ExportBoards(context, range->first, range->last, PathFromText(range->file));
   });
 }
 
@@ -80,10 +73,8 @@ void AddSettings(CLI::App& app, Command& command) {
   auto* settings = app.add_subcommand("settings", "List, read or write settings");
   settings->add_option("KEY", setting->key, "Name of a setting");
   settings->add_option("VALUE", setting->value, "New value");
-  settings->callback([&command, setting] {
-    command = [setting](const Context& context, const ConsoleHost&) {
-      return SettingsCommand(context, setting->key, setting->value);
-    };
+  WhenChosen(*settings, command, [setting](const Context& context, const ConsoleHost&) {
+    return SettingsCommand(context, setting->key, setting->value);
   });
 }
 
@@ -93,6 +84,10 @@ void AddBoardArgument(CLI::App& command, int& board) {
   command.add_option("N", board, "Board number")
       ->required()
       ->check(CLI::Range(kFirstBoardNumber, kLastBoardNumber));
+}
+
+void WhenChosen(CLI::App& app, Command& command, Command procedure) {
+  app.callback([&command, procedure = std::move(procedure)] { command = procedure; });
 }
 
 std::string NotEmpty(const std::string& text) {

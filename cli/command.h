@@ -16,6 +16,9 @@ namespace tricklet::cli {
 /// What the parser leaves behind: the command that was named, with its arguments.
 using Command = std::function<ExitCode(const Context&, const ConsoleHost&)>;
 
+/// What `app` carries out when it is chosen.
+void WhenChosen(CLI::App& app, Command& command, Command procedure);
+
 /// For the checks of options that are names or folders: a script's empty variable must not mean
 /// another library. The complaint, empty when there is none.
 std::string NotEmpty(const std::string& text);

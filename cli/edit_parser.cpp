@@ -38,10 +38,8 @@ void AddEditCommands(CLI::App& app, Command& command) {
   AddAction(*edit, "hand", "Give a seat its hand, voids left empty: N AKT2.QJ5..98",
             EditAction::SetHand, 2, "HAND", asked)
       .add_flag("--take", asked->takeCards, "Also cards that other seats hold");
-  edit->callback([&command, asked] {
-    command = [asked](const Context& context, const ConsoleHost&) {
-      return EditBoard(context, *asked);
-    };
+  WhenChosen(*edit, command, [asked](const Context& context, const ConsoleHost&) {
+    return EditBoard(context, *asked);
   });
 }
 

@@ -39,10 +39,8 @@ void AddGenerateCommands(CLI::App& app, Command& command) {
   generate->add_option("--seed", asked->seed, "The same number gives the same deals")
       ->type_name("N");
   generate->add_flag("--analyse", asked->analyse, "Compute double-dummy tables");
-  generate->callback([&command, asked] {
-    command = [asked](const Context& context, const ConsoleHost&) {
-      return GenerateBoards(context, *asked);
-    };
+  WhenChosen(*generate, command, [asked](const Context& context, const ConsoleHost&) {
+    return GenerateBoards(context, *asked);
   });
 }
 

@@ -31,12 +31,10 @@ void AddAction(CLI::App& library, Command& command, const std::string& name,
   CLI::App& each = *library.add_subcommand(name, description);
   each.add_option(target.name, asked->target, target.description)->required()->check(NotEmpty);
   if (!all.empty()) each.add_flag("--all", asked->all, all);
-  each.callback([&command, asked, action] {
-    command = [asked, action](const Context& context, const ConsoleHost&) {
-      // A board that is loaded along the way is not to be solved here.
-      context.session.GetSolver = {};
-      return action(context, *asked);
-    };
+  WhenChosen(each, command, [asked, action](const Context& context, const ConsoleHost&) {
+    // A board that is loaded along the way is not to be solved here.
+    context.session.GetSolver = {};
+    return action(context, *asked);
   });
 }
 

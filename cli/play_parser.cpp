@@ -19,10 +19,8 @@ void AddAuction(CLI::App& app, Command& command) {
   auto* auction = app.add_subcommand("auction", "Show the auction, or replace it and save");
   AddBoardArgument(*auction, entry->board);
   auction->add_option("CALL", entry->calls, "Calls from the dealer on: 1n 4s p x xx ap");
-  auction->callback([&command, entry] {
-    command = [entry](const Context& context, const ConsoleHost&) {
-      return Auction(context, entry->board, entry->calls);
-    };
+  WhenChosen(*auction, command, [entry](const Context& context, const ConsoleHost&) {
+    return Auction(context, entry->board, entry->calls);
   });
 }
 
@@ -35,9 +33,8 @@ void AddPlay(CLI::App& app, Command& command) {
       ->type_name("K")
       ->check(CLI::Range(0, kCardsInPack));
   play->add_option("--claim", asked->claim, "The seat on play takes the rest")->type_name("SEAT");
-  play->callback([&command, asked] {
-    command = [asked](const Context& context, const ConsoleHost&) { return Play(context, *asked); };
-  });
+  WhenChosen(*play, command,
+             [asked](const Context& context, const ConsoleHost&) { return Play(context, *asked); });
 }
 
 void AddScore(CLI::App& app, Command& command) {
@@ -54,10 +51,8 @@ void AddScore(CLI::App& app, Command& command) {
   score->add_option("--vul", asked->vulnerability, "Vulnerability")
       ->excludes(board)
       ->check(CLI::IsMember({"none", "ns", "ew", "all"}, CLI::ignore_case));
-  score->callback([&command, asked] {
-    command = [asked](const Context& context, const ConsoleHost&) {
-      return Score(context, *asked);
-    };
+  WhenChosen(*score, command, [asked](const Context& context, const ConsoleHost&) {
+    return Score(context, *asked);
   });
 }
 

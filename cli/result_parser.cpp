@@ -12,10 +12,8 @@ void AddResultCommands(CLI::App& app, Command& command) {
   const auto board = std::make_shared<int>(0);
   auto* traveller = app.add_subcommand("traveller", "The results of a board");
   AddBoardArgument(*traveller, *board);
-  traveller->callback([&command, board] {
-    command = [board](const Context& context, const ConsoleHost&) {
-      return TravellerOf(context, *board);
-    };
+  WhenChosen(*traveller, command, [board](const Context& context, const ConsoleHost&) {
+    return TravellerOf(context, *board);
   });
 }
 
