@@ -9,6 +9,7 @@
 #include "library/board_store.h"
 #include "library/file_io.h"
 #include "library/library_store.h"
+#include "library/transfer_steps.h"
 
 namespace tricklet::cli {
 namespace {
@@ -21,20 +22,12 @@ std::string ListedName(const SettingEntry& entry) {
   return (alone ? "" : std::string(entry.section) + "/") + std::string(entry.key);
 }
 
-/// A root as it is stored, which must be none of a drive; nothing, with a message, when it is.
-std::optional<std::string> RootText(Host& host, const std::string& value) {
-  const fs::path root = fs::absolute(PathFromText(value)).lexically_normal();
-  if (!value.empty() && !IsDriveRoot(root)) return FolderText(root);
-  host.Tell("Please choose a folder, not " + value);
-  return std::nullopt;
-}
-
 ExitCode WriteSetting(const Context& context, const SettingEntry& entry, std::string value) {
   Session& session = context.session;
   if (entry.key == "filelocation") {
-    const auto root = RootText(session.host, value);
-    if (!root) return ExitCode::Refused;
-    value = *root;
+    const fs::path root = FolderNamed(PathFromText(value));
+    if (!AcceptLibraryRoot(session.host, root)) return ExitCode::Refused;
+    value = FolderText(root);
   }
   if (entry.key == "library" && !AcceptLibraryName(session.host, value)) return ExitCode::Refused;
   if (!SetFromText(session.settings, entry, value)) {

@@ -9,8 +9,12 @@ namespace tricklet::cli {
 namespace fs = std::filesystem;
 
 bool RootExists(const Context& context) {
-  if (!context.session.settings.filelocation.empty()) return RequireRoot(context.session);
-  context.session.host.Tell("There is no library root yet: name one with --root");
+  Session& session = context.session;
+  if (!session.settings.filelocation.empty()) {
+    return AcceptLibraryRoot(session.host, session.FileLocation()) &&
+           RequireFolder(session, session.FileLocation());
+  }
+  session.host.Tell("There is no library root yet: name one with --root");
   return false;
 }
 

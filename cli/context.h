@@ -17,7 +17,7 @@ struct Context {
 
 enum class ExitCode : int { Done = 0, Refused = 1, Usage = 2 };
 
-/// The library root must be there; else says so and is false.
+/// The library root must be there, and be none of a drive; else says so and is false.
 bool RootExists(const Context& context);
 
 /// The current library must be there; else says so and is false. `create` makes it instead, and a

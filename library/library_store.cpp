@@ -94,15 +94,23 @@ std::vector<std::string> FoldersOf(const fs::path& root) {
   return names;
 }
 
-bool RequireRoot(Session& session) {
+bool RequireFolder(Session& session, const fs::path& folder) {
   std::error_code ignored;
-  if (fs::is_directory(session.FileLocation(), ignored)) return true;
-  session.host.Tell("There is no folder " + session.settings.filelocation);
+  if (fs::is_directory(folder, ignored)) return true;
+  session.host.Tell("There is no folder " + PathText(folder));
+  return false;
+}
+
+bool AcceptLibraryRoot(Host& host, const fs::path& folder) {
+  if (!IsDriveRoot(folder)) return true;
+  host.Tell("Please choose a folder, not " + PathText(folder));
   return false;
 }
 
 void GetLibraryNames(Session& session) {
-  if (!RequireRoot(session) || CheckSaveChanges(session) == Answer::Cancel) return;
+  if (!RequireFolder(session, session.FileLocation()) ||
+      CheckSaveChanges(session) == Answer::Cancel)
+    return;
   session.LibraryNames = FoldersOf(session.FileLocation());
   if (session.LibraryNames.empty()) {
     if (!MakeFolder(session, session.FileLocation() / "Default")) {
@@ -293,7 +301,7 @@ bool AcceptNewName(Session& session, std::string_view name) {
 }
 
 void RefreshLibraryNames(Session& session) {
-  if (!RequireRoot(session)) return;
+  if (!RequireFolder(session, session.FileLocation())) return;
   session.LibraryNames = FoldersOf(session.FileLocation());
   session.LibIndex = PositionOf(session.LibraryNames, session.LibraryName());
   if (session.LibIndex < 0) GetLibraryNames(session);

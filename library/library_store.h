@@ -13,8 +13,11 @@ namespace tricklet {
 /// Boards that an empty library offers.
 inline constexpr int kBoardsOfEmptyLibrary = 24;
 
-/// The root is there; else says so.
-bool RequireRoot(Session& session);
+/// The folder exists; else says so.
+bool RequireFolder(Session& session, const std::filesystem::path& folder);
+
+/// The folder can be the root of libraries: a drive cannot, and says so.
+bool AcceptLibraryRoot(Host& host, const std::filesystem::path& folder);
 
 /// Lists the libraries of the root (sub-folders whose name does not begin with ".") and selects the
 /// current one, or the first when it is gone. An empty root is given the library "Default".

@@ -28,10 +28,7 @@ bool ChooseLibraryRoot(Session& session) {
       session.host.Tell("You must choose a folder");
       return false;
     }
-    if (IsDriveRoot(*chosen)) {
-      session.host.Tell("Please choose a folder, not " + PathText(*chosen));
-      continue;
-    }
+    if (!AcceptLibraryRoot(session.host, *chosen)) continue;
     std::error_code failure;
     fs::create_directories(*chosen, failure);
     if (failure) {

@@ -69,13 +69,6 @@ bool AskToChoose(Session& session, const std::string& text) {
   return session.host.Ask(text, std::string(kProgramName), Buttons::OKCancel) == Answer::OK;
 }
 
-bool RequireFolder(Session& session, const fs::path& folder) {
-  std::error_code ignored;
-  if (fs::is_directory(folder, ignored)) return true;
-  session.host.Tell("There is no folder " + PathText(folder));
-  return false;
-}
-
 bool CopyLibraries(Session& session, const fs::path& from, const std::vector<std::string>& names,
                    const fs::path& to, Unsaved unsaved) {
   std::vector<Pair> pairs;

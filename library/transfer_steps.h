@@ -21,9 +21,6 @@ std::filesystem::path FolderNamed(const std::filesystem::path& folder);
 /// OK to a text that announces the folder browser.
 bool AskToChoose(Session& session, const std::string& text);
 
-/// The folder exists; else says so.
-bool RequireFolder(Session& session, const std::filesystem::path& folder);
-
 /// What becomes of unsaved changes before a copy, once nothing speaks against it any more.
 enum class Unsaved : std::uint8_t {
   Stay,     ///< what is copied does not hold them

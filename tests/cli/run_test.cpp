@@ -269,6 +269,8 @@ TEST_F(CommandLine, SettingsAreListedReadAndWritten) {
   const std::string top = PathText(folder.Path().root_path());
   EXPECT_EQ(RunBare({"settings", "filelocation", top}), 1);
   EXPECT_EQ(err, "Please choose a folder, not " + top + "\n");
+  EXPECT_EQ(RunBare({"--root", top, "--library", "New", "import", File("in.pbn")}), 1);
+  EXPECT_EQ(err, "Please choose a folder, not " + top + "\n");
   EXPECT_EQ(RunBare({"settings", "library", "../up"}), 1);
   EXPECT_EQ(err, "A library cannot be named ../up\n");
 }
