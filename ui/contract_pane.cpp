@@ -24,17 +24,11 @@ QLabel* MakeLabel(const QString& name, double size, QWidget* parent) {
   return label;
 }
 
-/// A text that begins with the contract, the strain as its symbol.
-void SetContractText(QLabel* label, const std::string& text, const Board& board,
-                     const Settings& settings) {
-  QString shown = ToQt(text).toHtmlEscaped();
-  if (board.ContractLevel > 0 && board.Trumps != Strain::NoTrump) {
-    // The level and the strain's letter come first.
-    shown = shown.left(1) +
-            ColouredSymbol(ToSuit(board.Trumps), settings.SuitColour, label->palette()) +
-            shown.mid(2);
-  }
-  label->setText(shown);
+/// A text with a contract, its suit as the symbol in its colour.
+void SetContractText(QLabel* label, const std::string& text, const Settings& settings) {
+  label->setText(WithSymbols(ToQt(text).toHtmlEscaped(), [&](Suit suit) {
+    return ColouredSymbol(suit, settings.SuitColour, label->palette());
+  }));
   label->setAccessibleName(ToQt(text));
   label->setVisible(!text.empty());
 }
@@ -89,8 +83,8 @@ void ContractPane::Show(const Session& session, const CardPlay& play, bool enter
   const Board& board = session.board;
   KeepRoom(this, board.NumCalls() > 0);
   setVisible(!entering && board.NumCalls() > 0);
-  SetContractText(lblContract, ContractLabel(board), board, session.settings);
-  SetContractText(lblScore, play.PlayMode() ? play.ScoreText() : PassedOutText(board), board,
+  SetContractText(lblContract, ContractLabel(board), session.settings);
+  SetContractText(lblScore, play.PlayMode() ? play.ScoreText() : PassedOutText(board),
                   session.settings);
   ShowPlay(play);
 }
@@ -99,8 +93,8 @@ void ContractPane::ShowRecord(const Replay& record, const Settings& settings) {
   const Board& board = record.Record().Board;
   KeepRoom(this, true);
   setVisible(true);
-  SetContractText(lblContract, ContractLabel(board), board, settings);
-  SetContractText(lblScore, record.ScoreText(), board, settings);
+  SetContractText(lblContract, ContractLabel(board), settings);
+  SetContractText(lblScore, record.ScoreText(), settings);
   ShowTricks(record.Play());
   fraPlay_->setVisible(false);
 }

@@ -1,8 +1,9 @@
 // Suit symbols in texts of the window.
 #pragma once
 
+#include <functional>
+
 #include <QPalette>
-#include <QRegularExpression>
 #include <QString>
 
 #include "core/notation.h"
@@ -18,15 +19,10 @@ inline QString ColouredSymbol(Suit suit, bool fourColours, const QPalette& palet
       .arg(colour.name(), ToQt(SuitSymbol[suit]));
 }
 
-/// A text with the strains of its contracts ("4Sx-1") as symbols.
-inline QString WithSymbols(QString text) {
-  static const QRegularExpression contract(QStringLiteral("(?<=\\b[1-7])[SHDC](?=x{0,2}[-+=])"));
-  for (auto match = contract.match(text); match.hasMatch(); match = contract.match(text)) {
-    const auto suit = static_cast<Suit>(QStringLiteral("SHDC").indexOf(match.captured()));
-    text.replace(match.capturedStart(), 1, ToQt(SuitSymbol[suit]));
-  }
-  return text;
-}
+/// A text with the suits of its contracts ("4S by South", "4Sx-1") as what `symbol` gives for them.
+QString WithSymbols(QString text, const std::function<QString(Suit)>& symbol);
+/// As plain symbols.
+QString WithSymbols(const QString& text);
 
 /// The suit that `strain` is; not for no-trump.
 constexpr Suit ToSuit(Strain strain) {

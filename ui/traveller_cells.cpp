@@ -63,7 +63,7 @@ Cell* ContractCell(const TravellerRow& row, const Settings& settings, const QPal
   auto* cell = new Cell(ToQt(row.Contract), rank);
   if (contract.Trumps == Strain::NoTrump) return cell;
   const Suit suit = ToSuit(contract.Trumps);
-  cell->setText(ToQt(row.Contract).replace(1, 1, ToQt(SuitSymbol[suit])));
+  cell->setText(WithSymbols(ToQt(row.Contract)));
   cell->setForeground(SuitColourOnWindow(suit, settings.SuitColour, palette));
   cell->setData(Qt::AccessibleTextRole, ToQt(row.Contract));
   return cell;

@@ -10,6 +10,7 @@
 
 #include "tests/support/hands.h"
 #include "tests/ui/print.h"
+#include "ui/symbols.h"
 #include "ui/table_words.h"
 
 namespace tricklet::ui {
@@ -161,6 +162,19 @@ TEST(TableWordsTest, TellsDeclarerAndDummyInTheCaptions) {
   EXPECT_EQ(TableCaptions(board, settings)[Seat::South], u"13 cards");
   ClearAll(board);
   EXPECT_EQ(TableCaptions(board, settings)[Seat::South], u"");
+}
+
+TEST(TableWordsTest, ShowsContractsWithTheirSuits) {
+  const std::pair<const char*, const char16_t*> kCases[] = {
+      {"4Sx-1 by South : EW +100", u"4\u2660x-1 by South : EW +100"},
+      {"Par 3H= or 3D+1 NS +140", u"Par 3\u2665= or 3\u2666+1 NS +140"},
+      {"7Cxx", u"7\u2663xx"},
+      {"3NT by East", u"3NT by East"},
+      {"All Pass", u"All Pass"},
+      {"40% 5Suits", u"40% 5Suits"}};
+  for (const auto& [text, shown] : kCases) {
+    EXPECT_EQ(WithSymbols(QString::fromLatin1(text)), QString::fromUtf16(shown)) << text;
+  }
 }
 
 TEST(TableWordsTest, ReadsTheBoardOut) {
