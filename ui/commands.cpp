@@ -5,11 +5,9 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QInputDialog>
-#include <QLineEdit>
 #include <QUrl>
 
 #include "core/fault.h"
-#include "core/text.h"
 #include "formats/export.h"
 #include "formats/import_lin.h"
 #include "library/board_store.h"
@@ -19,17 +17,12 @@
 #include "ui/frmBidding.h"
 #include "ui/frmExport.h"
 #include "ui/frmOptions.h"
-#include "ui/name_filter.h"
+#include "ui/library_name_dialog.h"
 #include "ui/play_control.h"
 #include "ui/text.h"
 #include "ui/theme.h"
 
 namespace tricklet::ui {
-namespace {
-
-constexpr int kNameWidth = 40;  // of the box for a library's new name, in characters
-
-}  // namespace
 
 Commands::Commands(Session& session, PlayControl& play, EditControl& edit, QWidget* window)
     : QObject(window), session_(session), play_(play), edit_(edit), window_(window) {}
@@ -104,20 +97,13 @@ void Commands::CreateLibrary(const QString& name) {
 
 void Commands::RenameLibrary() {
   Run([this] {
-    QInputDialog dialog(window_);
+    const QString before = ToQt(session_.LibraryName());
+    LibraryNameDialog dialog(session_, tr("New name of the library"), tr("New name"), before,
+                             window_);
     dialog.setObjectName(QStringLiteral("dlgRename"));
     dialog.setWindowTitle(tr("Rename library"));
-    dialog.setLabelText(tr("New name of the library"));
-    dialog.setTextValue(ToQt(session_.LibraryName()));
-    if (auto* edit = dialog.findChild<QLineEdit*>()) new NameFilter(edit, session_.host);
-    dialog.resize(dialog.fontMetrics().averageCharWidth() * kNameWidth, dialog.sizeHint().height());
-    while (dialog.exec() == QDialog::Accepted) {
-      const std::string name = FromQt(dialog.textValue());
-      if (name == session_.LibraryName()) return;
-      if (!AcceptNewName(session_, Trim(name))) continue;  // another, then
-      tricklet::RenameLibrary(session_, name);
-      return;
-    }
+    if (dialog.exec() != QDialog::Accepted || ToQt(dialog.Name()) == before) return;
+    tricklet::RenameLibrary(session_, dialog.Name());
   });
 }
 

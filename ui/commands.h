@@ -143,7 +143,8 @@ class Commands : public QObject {
  private:
   bool Attempt(const std::function<void()>& procedure);
   void Run(const std::function<void()>& procedure);
-  void RunCopy(bool (*procedure)(Session&), const QString& said);
+  void RunCopy(const std::function<QString()>& copy);
+  void RunCopy(bool (*copy)(Session&), const QString& said);
   void EnterAuction();
   void OpenDocument(const QString& fileName);
 

@@ -7,13 +7,17 @@
 
 namespace tricklet::ui {
 
-/// Runs a procedure that copies whole folders, and says so when it has.
-void Commands::RunCopy(bool (*procedure)(Session&), const QString& said) {
-  bool copied = false;
+/// Runs what copies whole folders, and says what it gives.
+void Commands::RunCopy(const std::function<QString()>& copy) {
+  QString said;
   emit Waiting(true);
-  Run([&] { copied = procedure(session_); });
+  Run([&] { said = copy(); });
   emit Waiting(false);
-  if (copied) emit Said(said);
+  if (!said.isEmpty()) emit Said(said);
+}
+
+void Commands::RunCopy(bool (*copy)(Session&), const QString& said) {
+  RunCopy([&] { return copy(session_) ? said : QString(); });
 }
 
 void Commands::ExportLibrary() {
@@ -33,15 +37,12 @@ void Commands::MoveLibraries() {
 }
 
 void Commands::CopyLibrary() {
-  QString name;
-  emit Waiting(true);
-  Run([&] {
+  RunCopy([this] {
     frmCopyLib dialog(session_, window_);
-    if (dialog.exec() != QDialog::Accepted) return;
-    if (tricklet::CopyLibrary(session_, dialog.Name())) name = ToQt(dialog.Name());
+    const bool copied =
+        dialog.exec() == QDialog::Accepted && tricklet::CopyLibrary(session_, dialog.Name());
+    return copied ? tr("The library has been copied to %1").arg(ToQt(dialog.Name())) : QString();
   });
-  emit Waiting(false);
-  if (!name.isEmpty()) emit Said(tr("The library has been copied to %1").arg(name));
 }
 
 void Commands::DeleteLibrary() {

@@ -136,6 +136,27 @@ TEST_F(LibraryCommands, RecyclesTheChosenLibraryButNotTheCurrentOne) {
   Key(Qt::Key_F2, Qt::ControlModifier);
 }
 
+TEST_F(LibraryCommands, RenamingStaysUntilANameIsTaken) {
+  Open();
+  WithDialog(Qt::Key_F2, Qt::NoModifier, [](QWidget* dialog) {
+    QTest::keyClick(dialog, Qt::Key_Return);  // the name as it is
+    EXPECT_FALSE(dialog->isVisible());
+  });
+  WithDialog(Qt::Key_F2, Qt::NoModifier, [this](QWidget* dialog) {
+    auto* name = In<QLineEdit>(dialog, "txtLibName");
+    EXPECT_EQ(name->text(), QStringLiteral("Club"));
+    name->setText(QStringLiteral("teaching"));
+    host.ExpectTell("teaching already exists\nPlease choose a different name");
+    QTest::keyClick(dialog, Qt::Key_Return);
+    EXPECT_TRUE(dialog->isVisible());
+    QTest::keyClicks(name, QStringLiteral("Tuesday"));
+    QTest::keyClick(dialog, Qt::Key_Return);
+    EXPECT_FALSE(dialog->isVisible());
+  });
+  EXPECT_EQ(session.LibraryName(), "Tuesday");
+  EXPECT_TRUE(fs::exists(folder.Path() / "Tuesday" / "024.txt"));
+}
+
 TEST_F(LibraryCommands, CopyingShowsThatItIsWaitedForAndCanBeCancelled) {
   Open();
   EXPECT_FALSE(Find<QLabel>("lblWait")->isVisible());

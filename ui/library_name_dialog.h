@@ -1,0 +1,40 @@
+// A dialog for the name of a library.
+#pragma once
+
+#include <QDialog>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace tricklet {
+struct Session;
+}
+
+namespace tricklet::ui {
+
+/// Stays open until the engine takes the name for a new one, or Cancel. A name that was there at
+/// the beginning may stay. What is done with it comes after it.
+class LibraryNameDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// `prompt` is the name of the text box for who cannot see it, and stands in it while it is
+  /// empty.
+  LibraryNameDialog(Session& session, const QString& label, const QString& prompt,
+                    const QString& name, QWidget* parent);
+
+  /// The name that was accepted.
+  std::string Name() const;
+
+ private:
+  void TakeName();
+
+  Session& session_;
+  const std::string before_;
+  QLabel* lblCopy;
+  QLineEdit* txtLibName;
+  QPushButton* cmdOK = nullptr;
+};
+
+}  // namespace tricklet::ui
