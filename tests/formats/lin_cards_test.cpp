@@ -29,6 +29,18 @@ TEST(LinCards, ABoardHasTheDealOfItsFirstRecordThatGivesOne) {
   EXPECT_TRUE(BoardsOfLinData({}, 1, 999).empty());
 }
 
+TEST(LinCards, ARecordIsOfTheBoardOfItsHeader) {
+  const struct {
+    const char* record;
+    int board;
+  } kCases[] = {{"pn|a,Board 4,c,d|qx|o5|rh||ah|Board 7|", 7},
+                {"qx|o5|nt|see Board 4|ah|Board 12 x|ah|Board 3|", 12},
+                {"nt|see Board 4|qx|o5|", 5},
+                {"Board 4|", 0},
+                {"", 0}};
+  for (const auto& c : kCases) EXPECT_EQ(BoardNumberOfLin(c.record), c.board) << c.record;
+}
+
 TEST(LinCards, TheFirstBoardDecidesAboutAuctions) {
   const std::string calls = "mb|1N!|mb|p|mb|p|mb|d|mb|r|mb|p|mb|p|mb|p|";
   LinFile data;

@@ -215,6 +215,18 @@ TEST(Usebio, BoardsOfTheSectionGiveTheRange) {
   EXPECT_EQ(results.data.Lin.size(), 2U);
 }
 
+TEST(Usebio, ALineIsOfTheBoardThatItIsRightInside) {
+  const std::string line = TravellerLine("nt|a note|");
+  const std::string within = BoardElement("2", line);
+  const std::vector<std::string> lines =
+      Read(UsebioText(line + BoardElement("1", line + Element("NOTE", line) + within + line)))
+          .data.Lin;
+  ASSERT_EQ(lines.size(), 3U) << "those of board 1, and that of board 2";
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    EXPECT_NE(lines[i].find(i < 2 ? "Board 1" : "Board 2"), std::string::npos) << lines[i];
+  }
+}
+
 TEST(Usebio, RefusesWhatItCannotRepresent) {
   const std::string session = "Only Single Session Imports supported";
   const std::string section = "Only Single Section Imports supported";

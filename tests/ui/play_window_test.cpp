@@ -207,6 +207,25 @@ TEST_F(PlayWindowTest, TheDialogCoversNeitherTheAuctionNorTheMiddleOfTheTable) {
   }
 }
 
+TEST_F(PlayWindowTest, BiddingInAPresentationShowsNoAnswers) {
+  session.board.MakeableValid = true;
+  Open();
+  session.board.MakeableValid = true;
+  Key(Qt::Key_F11);
+  const auto look = [this](bool answers) {
+    Expect([this, answers](frmBidding& dialog) {
+      EXPECT_TRUE(Shown("flexBids"));
+      EXPECT_EQ(Shown("lvwMake"), answers);
+      host.ExpectAskWith("Any bidding changes will be lost", Answer::OK);
+      Press(dialog, "cmdCancel");
+    });
+    Key(Qt::Key_B, Qt::ControlModifier);
+  };
+  look(false);
+  Key(Qt::Key_F11, Qt::ShiftModifier);  // unless they are switched on
+  look(true);
+}
+
 TEST_F(PlayWindowTest, PlayComesAfterTheAuctionThatItNeeds) {
   Open();
   const auto cancel = [this](frmBidding& dialog) {
