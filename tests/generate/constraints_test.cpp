@@ -108,18 +108,6 @@ TEST(CheckConstraints, TellsTheFirstContradiction) {
          c.SuitLimits[kTwo] = AllSuits({0, 3});
          c.UseSuitLengths.fill(false);
        }},
-      {"",
-       [](Constraints& c) {
-         c.UseSuitLengths[kOne] = false;
-         c.HandTypeIndex[kOne] = HandType::FourFourFourOne;
-         c.PointLimits[kOne].minimum = 34;
-       }},
-      {"Cannot have 35 points with the distribution for hand 1",
-       [](Constraints& c) {
-         c.UseSuitLengths[kOne] = false;
-         c.HandTypeIndex[kOne] = HandType::FourFourFourOne;
-         c.PointLimits[kOne].minimum = 35;
-       }},
       // 4 + 7 + 0 + 10
       {"Cannot have 22 points with the distribution for hand 2",
        [](Constraints& c) {
@@ -175,6 +163,37 @@ TEST(CheckConstraints, TellsTheFirstContradiction) {
     Constraints constraints;
     c.change(constraints);
     EXPECT_EQ(CheckConstraints(constraints).value_or(Contradiction{}).text, c.message);
+  }
+}
+
+/// The most points of any 13 cards within the limits, suit by suit.
+int MostPointsWithin(const PerSuit<Limits>& limits, int suit = 0, int cards = kCardsInHand) {
+  constexpr std::array kPoints{0, 4, 7, 9, 10};
+  if (suit == kSuits) return cards == 0 ? 0 : -100;
+  const auto [lowest, highest] = limits[static_cast<Suit>(suit)];
+  int most = -100;
+  for (int length = lowest; length <= std::min(highest, cards); ++length) {
+    const int here = kPoints.at(static_cast<std::size_t>(std::min(length, 4)));
+    most = std::max(most, here + MostPointsWithin(limits, suit + 1, cards - length));
+  }
+  return most;
+}
+
+TEST(CheckConstraints, KnowsTheMostPointsOfATypesShapes) {
+  RandomSource random(15);
+  for (const HandType type : kAllHandTypes) {
+    int most = 0;
+    for (int shape = 0; shape < 200; ++shape) {
+      most = std::max(most, MostPointsWithin(ChooseHandType(type, 0, {}, random)));
+    }
+    Constraints constraints;
+    constraints.NumGenHands = 1;
+    constraints.UseSuitLengths[GenHand::First] = false;
+    constraints.HandTypeIndex[GenHand::First] = type;
+    constraints.PointLimits[GenHand::First].minimum = most;
+    EXPECT_FALSE(CheckConstraints(constraints)) << HandTypes[type] << most;
+    constraints.PointLimits[GenHand::First].minimum = most + 1;
+    EXPECT_TRUE(CheckConstraints(constraints)) << HandTypes[type] << most;
   }
 }
 
