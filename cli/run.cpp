@@ -1,5 +1,7 @@
 #include "cli/run.h"
 
+#include <algorithm>
+
 #include <CLI/CLI.hpp>
 
 #include "cli/command.h"
@@ -49,9 +51,10 @@ ConsoleOptions OptionsFrom(const Arguments& arguments, const Console& console) {
 /// Tells what is wrong with the words of a call. A word that is none goes before a command or file
 /// that is missing: it is most likely that one, misspelt.
 int Tell(const CLI::App& app, const CLI::ParseError& error, const Console& console) {
-  const std::vector<std::string> unknown = app.remaining(true);
+  std::vector<std::string> unknown = app.remaining(true);
   if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError) &&
       !unknown.empty()) {
+    std::reverse(unknown.begin(), unknown.end());  // as the error takes them, the last word first
     return app.exit(CLI::ExtrasError(unknown), console.data, console.messages);
   }
   return app.exit(error, console.data, console.messages);

@@ -166,6 +166,7 @@ TEST_F(CommandLine, WrongUsageIsTwo) {
   };
   const std::vector<Case> kWrong{{{}, "A subcommand is required"},
                                  {{"unknown"}, "unknown"},
+                                 {{"autcion", "1"}, "autcion 1"},
                                  {{"--unknown"}, "--unknown"},
                                  {{"library", "unknown"}, "unknown"},
                                  {{"import", "--unknown"}, "--unknown"},
