@@ -9,8 +9,8 @@
 #include "bench/quiet_host.h"
 #include "bench/temporary_root.h"
 #include "core/text.h"
-#include "formats/import.h"
-#include "formats/import_lin.h"
+#include "formats/exchange/import.h"
+#include "formats/exchange/import_lin.h"
 #include "library/session.h"
 
 namespace tricklet::bench {

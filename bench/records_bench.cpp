@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "bench/import_measure.h"
-#include "formats/dlm_writer.h"
-#include "formats/lin_writer.h"
+#include "formats/dlm/dlm_writer.h"
+#include "formats/lin/lin_writer.h"
 #include "generate/deal.h"
 #include "library/board_file.h"
 #include "library/file_io.h"

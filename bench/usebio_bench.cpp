@@ -11,9 +11,9 @@
 #include <vector>
 
 #include "bench/import_measure.h"
-#include "formats/lin_cards.h"
-#include "formats/lin_file.h"
-#include "formats/usebio_reader.h"
+#include "formats/results/lin_boards.h"
+#include "formats/results/lin_file.h"
+#include "formats/usebio/usebio_reader.h"
 #include "library/board_file.h"
 #include "library/file_io.h"
 

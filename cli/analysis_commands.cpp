@@ -5,7 +5,7 @@
 
 #include "analysis/online_link.h"
 #include "cli/board_text.h"
-#include "formats/traveller.h"
+#include "formats/results/traveller.h"
 #include "library/board_store.h"
 #include "library/tables.h"
 

@@ -5,7 +5,7 @@
 #include "cli/board_text.h"
 #include "core/fault.h"
 #include "core/text.h"
-#include "formats/export.h"
+#include "formats/exchange/export.h"
 #include "library/board_store.h"
 #include "library/file_io.h"
 #include "library/library_store.h"

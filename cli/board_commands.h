@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "cli/context.h"
-#include "formats/import.h"
+#include "formats/exchange/import.h"
 
 namespace tricklet::cli {
 

@@ -8,7 +8,7 @@
 
 #include "cli/columns.h"
 #include "core/text.h"
-#include "formats/traveller.h"
+#include "formats/results/traveller.h"
 
 namespace tricklet::cli {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "analysis/deal_text.h"
 #include "analysis/solver_library.h"
-#include "formats/pbn_writer.h"
+#include "formats/pbn/pbn_writer.h"
 #include "library/board_file.h"
 #include "tests/support/fake_solver.h"
 #include "tests/support/hands.h"

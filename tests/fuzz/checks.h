@@ -3,7 +3,7 @@
 
 #include <cstdlib>
 
-#include "formats/board_sink.h"
+#include "formats/sink/board_sink.h"
 #include "library/board_file.h"
 
 namespace tricklet::fuzz {

@@ -7,8 +7,8 @@
 #include <string_view>
 
 #include "core/fault.h"
-#include "formats/dlm_deal.h"
-#include "formats/dlm_reader.h"
+#include "formats/dlm/dlm_deal.h"
+#include "formats/dlm/dlm_reader.h"
 #include "tests/fuzz/checks.h"
 
 namespace {

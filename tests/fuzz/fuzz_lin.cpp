@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "core/fault.h"
-#include "formats/lin_reader.h"
-#include "formats/lin_record.h"
+#include "formats/lin/lin_reader.h"
+#include "formats/lin/lin_record.h"
 #include "tests/fuzz/checks.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -7,8 +7,8 @@
 
 #include "core/fault.h"
 #include "core/text.h"
-#include "formats/lin_cards.h"
-#include "formats/lin_file.h"
+#include "formats/results/lin_boards.h"
+#include "formats/results/lin_file.h"
 #include "library/board_file.h"
 
 namespace {

@@ -6,8 +6,8 @@
 #include <string_view>
 
 #include "core/fault.h"
-#include "formats/pbn_reader.h"
-#include "formats/pbn_writer.h"
+#include "formats/pbn/pbn_reader.h"
+#include "formats/pbn/pbn_writer.h"
 #include "tests/fuzz/checks.h"
 
 namespace {

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "bench/quiet_host.h"
-#include "formats/traveller.h"
+#include "formats/results/traveller.h"
 #include "play/replay.h"
 
 namespace {

@@ -8,9 +8,9 @@
 
 #include "core/fault.h"
 #include "core/text.h"
-#include "formats/lin_cards.h"
-#include "formats/usebio_reader.h"
-#include "formats/xml_text.h"
+#include "formats/results/lin_boards.h"
+#include "formats/usebio/usebio_reader.h"
+#include "formats/usebio/xml_text.h"
 #include "tests/fuzz/checks.h"
 
 namespace {

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "formats/board_sink.h"
+#include "formats/sink/board_sink.h"
 
 namespace tricklet::test {
 

@@ -1,7 +1,7 @@
 // One application for all window tests, without a screen unless the environment names one.
 #include <gtest/gtest.h>
 
-#include "ui/application.h"
+#include "ui/app/application.h"
 
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -11,9 +11,9 @@
 #include <QTest>
 
 #include "tests/support/library_fixture.h"
-#include "ui/main_window.h"
-#include "ui/progress_frame.h"
-#include "ui/text.h"
+#include "ui/style/progress_frame.h"
+#include "ui/style/text.h"
+#include "ui/window/main_window.h"
 
 namespace tricklet::ui {
 

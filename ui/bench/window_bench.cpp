@@ -20,9 +20,9 @@
 #include "library/board_file.h"
 #include "library/file_io.h"
 #include "library/library_store.h"
-#include "ui/main_window.h"
-#include "ui/play_control.h"
-#include "ui/table_view.h"
+#include "ui/control/play_control.h"
+#include "ui/table/table_view.h"
+#include "ui/window/main_window.h"
 
 namespace tricklet::bench {
 namespace {

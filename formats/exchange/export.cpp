@@ -1,0 +1,220 @@
+#include "formats/exchange/export.h"
+
+#include <algorithm>
+#include <array>
+
+#include "core/fault.h"
+#include "core/text.h"
+#include "formats/dlm/dlm_writer.h"
+#include "formats/exchange/file_type.h"
+#include "formats/lin/lin_writer.h"
+#include "formats/pbn/pbn_writer.h"
+#include "library/board_file.h"
+#include "library/board_store.h"
+#include "library/file_io.h"
+#include "library/library_store.h"
+#include "library/tables.h"
+
+namespace tricklet {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kMissingListed = 20;     // fewer missing boards than this are listed
+constexpr int kIncompleteListed = 10;  // fewer incomplete boards than this are listed
+
+/// A whole text box as a board number; 0 when it is none.
+int BoardNumberFromText(std::string_view text) {
+  const std::string_view digits = Trim(text);
+  const bool number = !digits.empty() && digits.find_first_not_of("0123456789") == digits.npos;
+  return number ? LeadingNumber(digits) : 0;
+}
+
+/// Boards of a range on their way into one file.
+struct ExportRun {
+  std::string text;
+  std::vector<int> incomplete;
+  bool cancelled = false;
+};
+
+/// Loads board `number` of the range for writing; false when it is incomplete, which the run
+/// notes, or when the run was cancelled.
+bool LoadForExport(Session& session, const ExportRange& range, int number, ExportRun& run,
+                   Board& board) {
+  board.BoardNumber = number;
+  bool complete = false;
+  LoadHandBasic(session, board, complete);
+  if (!session.host.Step("Exporting board " + std::to_string(number), number - range.first,
+                         range.last - range.first + 1)) {
+    run.cancelled = true;
+    return false;
+  }
+  if (!complete) run.incomplete.push_back(number);
+  return complete;
+}
+
+void CollectPBN(Session& session, const ExportRange& range, ExportRun& run) {
+  const PbnOptions options{session.settings.PBNBids, session.settings.PBNShark};
+  Board board;
+  for (int number = range.first; number <= range.last; ++number) {
+    const bool complete = LoadForExport(session, range, number, run, board);
+    if (run.cancelled) break;
+    if (complete) run.text += PbnRecord(board, session.LibraryName(), options);
+    run.text += "\r\n";
+  }
+  run.text += "\r\n";
+}
+
+void CollectDLM(Session& session, const ExportRange& range, ExportRun& run) {
+  run.text = DLMHeader(range.first, range.last);
+  Board board;
+  for (int number = kFirstBoardNumber; number <= kLastDLMBoard; ++number) {
+    run.text += DLMBoardHead(number);
+    if (number < range.first || number > range.last) {
+      run.text += DLMPlaceholderLine(number);
+    } else if (LoadForExport(session, range, number, run, board)) {
+      run.text += DLMBoardLine(number, board.Hands);
+    }
+    if (run.cancelled) break;
+  }
+  run.text += DLMFooter();
+}
+
+void CollectLIN(Session& session, const ExportRange& range, ExportRun& run) {
+  Board board;
+  for (int number = range.first; number <= range.last && !run.cancelled; ++number) {
+    if (LoadForExport(session, range, number, run, board)) run.text += LinRecordLine(board);
+  }
+}
+
+std::string IncompleteText(const std::vector<int>& incomplete) {
+  const auto count = static_cast<int>(incomplete.size());
+  std::string text =
+      std::to_string(count) + (count == 1 ? " hand is" : " hands are") + " incomplete";
+  if (count < kIncompleteListed) {
+    text += ":-\n";
+    for (const int number : incomplete) text += std::to_string(number) + " ";
+  }
+  return text;
+}
+
+void ReportRun(Session& session, const ExportRun& run, const fs::path& path) {
+  if (!run.incomplete.empty()) session.host.Tell(IncompleteText(run.incomplete));
+  if (run.cancelled) {
+    session.host.Tell("Export cancelled");
+  } else if (run.incomplete.empty()) {
+    session.host.Tell("File " + PathText(path) + " created");
+  }
+}
+
+using Collector = void (*)(Session&, const ExportRange&, ExportRun&);
+
+/// Nothing when no file of the type is written.
+Collector CollectorOf(const std::string& type) {
+  if (type == "pbn") return CollectPBN;
+  if (type == "dlm") return CollectDLM;
+  return type == "lin" ? CollectLIN : nullptr;
+}
+
+/// All missing tables together take the solver's batches; one by one they would not. False when
+/// it was cancelled.
+bool AddMissingTables(Session& session, const ExportRange& range) {
+  if (!session.settings.AutoMakeable || !session.GetSolver) return true;
+  if (!AnalyseBoards(session, session.GetSolver(), range.first, range.last, false).cancelled) {
+    return true;
+  }
+  session.host.Tell("Export cancelled");
+  return false;
+}
+
+bool WriteRange(Session& session, const ExportRange& range, const fs::path& path,
+                Collector collect) {
+  if (!CheckExportRange(session, range) || !AddMissingTables(session, range)) return false;
+  ExportRun run;
+  {
+    const WorkScope work(session.host);
+    const BatchScope batch(session);
+    collect(session, range, run);
+  }
+  try {
+    ReplaceWholeFile(path, run.text);
+  } catch (const Fault& fault) {
+    ErrorReport(session.host, fault);
+    return false;
+  }
+  ReportRun(session, run, path);
+  return !run.cancelled && run.incomplete.empty();
+}
+
+}  // namespace
+
+const std::vector<std::string>& ExportTypes() {
+  static const std::vector<std::string> kTypes{"pbn", "dlm", "lin"};
+  return kTypes;
+}
+
+bool HasHandsToExport(Session& session) {
+  CountHands(session);
+  if (session.library.BoardCount > 0) return true;
+  session.host.Tell("There are no hands to export");
+  return false;
+}
+
+bool CheckRangeTexts(Session& session, std::string_view from, std::string_view to,
+                     ExportRange& range) {
+  const int first = BoardNumberFromText(from);
+  const int last = BoardNumberFromText(to);
+  if (!IsStorable(first) || !IsStorable(last) || last < first) {
+    session.host.Tell("Please enter a valid range");
+    return false;
+  }
+  range.first = first;
+  range.last = last;
+  return true;
+}
+
+bool CheckExportRange(Session& session, const ExportRange& range) {
+  CountHands(session);
+  int missing = 0;
+  std::string list;
+  for (int number = range.first; number <= range.last; ++number) {
+    if (session.library.BoardPresent.at(static_cast<std::size_t>(number))) continue;
+    ++missing;
+    if (!list.empty()) list += ", ";
+    list += std::to_string(number);
+  }
+  if (missing == 0) return true;
+  std::string text = std::to_string(missing) + " hands are missing in the specified range";
+  if (missing < kMissingListed) text += ":\nHands " + list;
+  session.host.Tell(text);
+  return false;
+}
+
+fs::path SuggestedExportPath(const fs::path& last, const std::string& type) {
+  constexpr std::size_t kTypeLength = 3;
+  std::string text = PathText(last);
+  if (text.size() > kTypeLength && FileTypeOf(last) != type) {
+    text.replace(text.size() - kTypeLength, kTypeLength, type);
+  }
+  return PathFromText(text);
+}
+
+bool Export(Session& session, const ExportRange& range, fs::path& path) {
+  if (!CheckExportRange(session, range)) return false;
+  const auto chosen = session.host.ChooseSaveFile(
+      {"Hand Records", {range.type}, SuggestedExportPath(path, range.type)});
+  path = chosen.value_or(fs::path());
+  return !path.empty() && ExportFile(session, range, path);
+}
+
+bool ExportFile(Session& session, const ExportRange& range, const fs::path& path) {
+  // What is written is what is stored, so changes to the board in hand are settled first.
+  if (!SettleChanges(session)) return false;
+  if (const Collector collect = CollectorOf(FileTypeOf(path))) {
+    return WriteRange(session, range, path, collect);
+  }
+  session.host.Tell("The file must be of type pbn, dlm or lin");
+  return false;
+}
+
+}  // namespace tricklet

@@ -1,0 +1,228 @@
+#include "formats/lin/lin_reader.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <utility>
+
+#include "core/text.h"
+#include "formats/lin/lin_record.h"
+
+namespace tricklet {
+namespace {
+
+constexpr std::string_view kParameter = "lin=";
+
+/// The records of a text copied from a site's address, which has them percent-encoded behind
+/// "lin=", blanks as "+".
+std::string DecodeAddress(std::string_view text) {
+  const auto parameter = text.find(kParameter);
+  if (parameter != std::string_view::npos) text.remove_prefix(parameter + kParameter.size());
+  std::string encoded(text);
+  std::replace(encoded.begin(), encoded.end(), '+', ' ');
+  return ReadLinData(encoded);
+}
+
+/// Before the first bar there is what leads to the records of an address, or there is no bar but an
+/// encoded one.
+bool IsAddress(std::string_view text) {
+  constexpr std::string_view kEncodedBar = "%7C";
+  const auto bar = text.find('|');
+  if (text.substr(0, bar).find(kParameter) != std::string_view::npos) return true;
+  return bar == std::string_view::npos && ToUpper(text).find(kEncodedBar) != std::string::npos;
+}
+
+/// Its bars stand as they are, but what separates the hands of a deal is encoded.
+bool HasEncodedDeal(std::string_view text) {
+  constexpr std::string_view kDeal = "md|";
+  constexpr std::string_view kEncodedComma = "%2C";
+  for (auto deal = text.find(kDeal); deal != std::string_view::npos; deal = text.find(kDeal)) {
+    text.remove_prefix(deal + kDeal.size());
+    if (ToUpper(text.substr(0, text.find('|'))).find(kEncodedComma) != std::string::npos) {
+      return true;
+    }
+  }
+  return false;
+}
+
+std::string Decoded(std::string_view text) {
+  if (IsAddress(text)) return DecodeAddress(text);
+  return HasEncodedDeal(text) ? ReadLinData(text) : std::string(text);
+}
+
+std::string PlainText(std::string_view text) {
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+  std::string plain = Decoded(text);
+  return IsValidUtf8(plain) ? plain : Latin1ToUtf8(plain);
+}
+
+/// What describes the board and how it was played; chat, scores of the match and page marks do not.
+bool IsKept(std::string_view tag) {
+  constexpr std::array<std::string_view, 8> kKept{"st", "md", "sv", "mb", "an", "pc", "mc", "zz"};
+  return std::find(kKept.begin(), kKept.end(), tag) != kKept.end();
+}
+
+/// What may come before a deal. Behind the page that ends a record it belongs to the next one,
+/// whose deal would otherwise get the number of the board after it.
+bool StandsBeforeDeal(std::string_view tag) {
+  constexpr std::array<std::string_view, 5> kBefore{"pn", "st", "rh", "ah", "sv"};
+  return std::find(kBefore.begin(), kBefore.end(), tag) != kBefore.end();
+}
+
+/// A record as it is collected, field by field.
+struct Collected {
+  std::string_view room;    // of "qx"
+  std::string_view header;  // of "ah"
+  std::string_view players;
+  std::string_view deal;
+  bool hasRoom = false;
+  bool hasPlayers = false;
+  bool hasDeal = false;
+  bool pageEnded = false;  // since the deal
+  std::string fields;      // those that are kept as they stand
+};
+
+/// The fields to be read of a record, with the names that hold for it.
+std::string LineOf(const Collected& record) {
+  return "qx|" + std::string(record.room) + "|pn|" + std::string(record.players) + "|ah|" +
+         std::string(record.header) + "|" + record.fields;
+}
+
+/// A record for "LIN.txt": the players of its own room, and its board by the number stored.
+std::string LineOf(const LinRecord& record, const Collected& collected) {
+  const PerSeat<std::string>& players = record.players;
+  return std::string("qx|") + (record.closedRoom ? "c" : "o") + std::to_string(record.boardNumber) +
+         "|pn|" + players[Seat::South] + "," + players[Seat::West] + "," + players[Seat::North] +
+         "," + players[Seat::East] + "|rh||ah|Board " + std::to_string(record.boardNumber) + "|" +
+         collected.fields + "pg||";
+}
+
+class LinReader {
+ public:
+  LinReader(std::string_view text, BoardSink& sink, std::vector<std::string>& records)
+      : text_(text), rest_(text), sink_(sink), records_(records) {}
+
+  ReadResult Read() {
+    for (LinField field; !stopped_ && NextLinField(rest_, field);) {
+      if (BeginsRecord(field)) EndRecord();
+      if (!stopped_) Take(field);
+    }
+    if (!stopped_) EndRecord();
+    return result_;
+  }
+
+ private:
+  bool BeginsRecord(const LinField& field) const {
+    const std::string_view tag = field.tag;
+    if (tag == "qx") return record_.hasDeal || record_.hasRoom;
+    if (!record_.hasDeal) return false;
+    if (tag == "md") return true;
+    if (tag == "pn" && record_.hasPlayers) return true;
+    if (tag == "ah" && NamesAnotherBoard(field.value)) return true;
+    return record_.pageEnded && StandsBeforeDeal(tag);
+  }
+
+  bool NamesAnotherBoard(std::string_view header) const {
+    const int number = BoardNumberOfHeader(header);
+    const int before = BoardNumberOfHeader(record_.header);
+    return number != 0 && before != 0 && number != before;
+  }
+
+  void Take(const LinField& field) {
+    if (field.tag == "qx") {
+      record_.room = field.value;
+      record_.hasRoom = true;
+    } else if (field.tag == "pn") {
+      record_.players = field.value;
+      record_.hasPlayers = true;
+    } else if (field.tag == "ah") {
+      record_.header = field.value;
+    } else if (field.tag == "md") {
+      record_.deal = field.value;
+      record_.hasDeal = true;
+    } else if (field.tag == "pg") {
+      record_.pageEnded = record_.hasDeal;
+    }
+    if (!IsKept(field.tag)) return;
+    record_.fields += field.tag;
+    record_.fields += '|';
+    record_.fields += field.value;
+    record_.fields += '|';
+  }
+
+  /// Deals with the record in hand; the next one begins with its names.
+  void EndRecord() {
+    const Collected record = std::exchange(record_, Collected());
+    record_.players = record.players;
+    // A page without a deal, or one that clears the table: "md|0|".
+    if (record.deal.find_first_not_of("0123456789,") == std::string_view::npos) return;
+    LinRecord parsed = ParseLinRecord(LineOf(record));
+    if (!CanBeDealt(parsed)) {
+      result_.badLine = "md|" + std::string(record.deal) + "|";
+      stopped_ = true;
+      return;
+    }
+    if (parsed.boardNumber == 0) parsed.boardNumber = NextNumberOf(parsed);
+    if (!Begin(parsed.boardNumber)) return;
+    if (!IsStorable(parsed.boardNumber)) return;
+    if (IsTheBoardStored(parsed)) records_.push_back(LineOf(parsed, record));
+  }
+
+  int NextNumberOf(const LinRecord& record) const {
+    int number = result_.lastBoard + 1;
+    while (record.dealer && DealerOfBoard(number) != *record.dealer) ++number;
+    return number;
+  }
+
+  bool Begin(int number) {
+    if (!sink_.Begin(number, ThousandthsRead(text_, rest_), kWholeText)) {
+      result_.cancelled = stopped_ = true;
+      return false;
+    }
+    if (result_.firstBoard == 0) result_.firstBoard = number;
+    result_.lastBoard = std::max(result_.lastBoard, number);
+    return true;
+  }
+
+  /// Stores the first record of a board; false for a further one that is of another deal.
+  bool IsTheBoardStored(LinRecord& record) {
+    const auto [stored, first] = stored_.try_emplace(record.boardNumber, record.hands);
+    if (!first) {
+      const bool same = stored->second == record.hands;
+      if (!same) result_.repeatedBoards.push_back(record.boardNumber);
+      return same;
+    }
+    const bool foreign = HasForeignDealer(record) && !record.calls.empty();
+    if (foreign) record.calls.clear();
+    sink_.Store(BoardOfLinRecord(record));
+    if (foreign) result_.foreignAuctions.push_back(record.boardNumber);
+    ++result_.boardsSaved;
+    return true;
+  }
+
+  std::string_view text_;
+  std::string_view rest_;
+  BoardSink& sink_;
+  std::vector<std::string>& records_;
+  Collected record_;
+  std::map<int, HandTable> stored_;
+  bool stopped_ = false;
+  ReadResult result_;
+};
+
+}  // namespace
+
+bool LooksLikeLin(std::string_view text) {
+  constexpr std::string_view kDeal = "md|";
+  constexpr std::string_view kEncodedDeal = "MD%7C";
+  if (text.find(kDeal) != std::string_view::npos) return true;
+  return IsAddress(text) && ToUpper(text).find(kEncodedDeal) != std::string::npos;
+}
+
+ReadResult ReadLIN(std::string_view text, BoardSink& sink, std::vector<std::string>& records) {
+  const std::string plain = PlainText(text);
+  return LinReader(plain, sink, records).Read();
+}
+
+}  // namespace tricklet

@@ -1,0 +1,168 @@
+#include "formats/pbn/pbn_reader.h"
+
+#include <algorithm>
+#include <array>
+
+#include "core/text.h"
+#include "formats/pbn/pbn_auction.h"
+#include "formats/pbn/pbn_lines.h"
+
+namespace tricklet {
+namespace {
+
+/// Thrown inside this file only: the line in hand cannot be read.
+struct BadLine {};
+
+constexpr int kTableRows = kSeats * kStrains;
+
+/// The position of `c` in `letters`; throws `BadLine` when it is not there.
+std::size_t PositionIn(std::string_view letters, char c) {
+  const auto position = letters.find(c);
+  if (position == std::string_view::npos) throw BadLine{};
+  return position;
+}
+
+/// The value of a tag line: what stands between the quotes, or after the blank when there are none.
+std::string_view TagValue(std::string_view line) {
+  const auto quote = line.find('"');
+  if (quote == std::string_view::npos) return line.substr(std::min(line.find(' '), line.size()));
+  const std::string_view value = line.substr(quote + 1);
+  return value.substr(0, value.find('"'));
+}
+
+void ReadDeal(std::string_view line, HandTable& hands) {
+  const std::string value = ToUpper(TagValue(line));
+  const auto colon = value.find(':');
+  if (colon == std::string::npos) throw BadLine{};
+  const std::string_view first = Trim(std::string_view(value).substr(0, colon));
+  if (first.size() != 1) throw BadLine{};
+  const auto firstSeat = static_cast<Seat>(PositionIn("NESW", first[0]));
+  std::string deal;
+  deal.reserve(value.size() + kSuits);
+  for (const char c : std::string_view(value).substr(colon + 1)) {
+    if (c == 'T') {
+      deal += "10";
+    } else {
+      deal += c;
+    }
+  }
+  std::string_view rest = deal;
+  for (int step = 0; step < kSeats; ++step) GetHand(rest, hands, SeatAfter(firstSeat, step));
+}
+
+/// One row of an optimum-result table: declarer letter, denomination letter(s), tricks.
+std::int16_t ReadTableRow(std::string_view row, MakeableTable& table) {
+  row.remove_suffix(row.size() - (row.find_last_not_of(" \t") + 1));  // behind the tricks
+  if (row.empty()) throw BadLine{};
+  const auto declarer = static_cast<TableSeat>(PositionIn("NSEW", ToUpper(row[0])));
+  const std::string_view rest = Trim(row.substr(1));
+  if (rest.empty()) throw BadLine{};
+  const auto strain = static_cast<TableStrain>(PositionIn("CDHSN", rest[0]));
+  const std::string_view lastTwo = row.substr(row.size() - std::min<std::size_t>(row.size(), 2));
+  const auto tricks = static_cast<std::int16_t>(LeadingNumber(lastTwo));
+  table[declarer][strain] = tricks;
+  return tricks;
+}
+
+void ReadOptimumResultTable(PbnLines& lines, Board& board) {
+  std::int16_t lastTricks = 0;
+  for (int row = 0; row < kTableRows; ++row) {
+    lines.ReadNextLine();
+    lastTricks = ReadTableRow(lines.Line(), board.Makeable);
+  }
+  // Writers that have no table write twenty zeros or question marks.
+  board.MakeableValid = lastTricks != 0 && IsPossible(board.Makeable);
+}
+
+void ReadDoubleDummyTricks(std::string_view line, Board& board) {
+  constexpr std::array kStrainOrder{TableStrain::NoTrump, TableStrain::Spades, TableStrain::Hearts,
+                                    TableStrain::Diamonds, TableStrain::Clubs};
+  const std::string digits = ToUpper(TagValue(line));
+  if (digits.size() < kTableRows) throw BadLine{};
+  MakeableTable table;
+  auto digit = digits.begin();
+  for (const TableSeat declarer : kAllTableSeats) {
+    for (const TableStrain strain : kStrainOrder) {
+      table[declarer][strain] = static_cast<std::int16_t>(PositionIn("0123456789ABCD", *digit++));
+    }
+  }
+  board.Makeable = table;
+  board.MakeableValid = true;
+}
+
+/// Reads one file. The board in hand has number 0 until the first Board tag, so nothing is stored
+/// before it.
+class PbnReader {
+ public:
+  PbnReader(std::string_view text, BoardSink& sink) : lines_(text), sink_(sink) {
+    board_.BoardNumber = 0;
+  }
+
+  ReadResult Read() {
+    if (!lines_.HasLines()) return result_;
+    try {
+      lines_.ReadNextLine();
+      while (!lines_.PastEnd() && !result_.cancelled) ReadItem();
+      // A cancelled run has stored its board in hand already, when the next one began.
+      if (!result_.cancelled) StoreBoardInHand();
+    } catch (const BadLine&) {
+      result_.badLine = std::string(lines_.Line());
+      if (result_.lastBoard > 0) --result_.lastBoard;
+    }
+    return result_;
+  }
+
+ private:
+  /// Deals with the line in hand and moves on behind what belongs to it.
+  void ReadItem() {
+    constexpr std::size_t kLongestTag = 24;
+    const std::string_view line = Trim(lines_.Line());
+    const std::string tag = ToUpper(line.substr(0, kLongestTag));
+    if (tag.starts_with("[BOARD ")) {
+      BeginBoard(LeadingNumber(TagValue(line)));
+    } else if (tag.starts_with("[DEAL ")) {
+      ReadDeal(line, board_.Hands);
+    } else if (tag.starts_with("[OPTIMUMRESULTTABLE ")) {
+      ReadOptimumResultTable(lines_, board_);
+    } else if (tag.starts_with("[DOUBLEDUMMYTRICKS ")) {
+      ReadDoubleDummyTricks(line, board_);
+    } else if (tag.starts_with("[AUCTION ")) {
+      ReadAuction(lines_, board_.Calls);
+      return;  // it has moved on to the line that ended it
+    }
+    lines_.ReadNextLine();
+  }
+
+  void BeginBoard(int number) {
+    StoreBoardInHand();
+    if (!sink_.Begin(number, lines_.Progress(), PbnLines::kWhole)) {
+      result_.cancelled = true;
+      return;
+    }
+    if (result_.firstBoard == 0) result_.firstBoard = number;
+    result_.lastBoard = std::max(result_.lastBoard, number);
+    board_.BoardNumber = number;
+    board_.Calls.Clear();
+    board_.MakeableValid = false;
+  }
+
+  void StoreBoardInHand() {
+    if (!IsStorable(board_.BoardNumber)) return;
+    GetContract(board_);
+    sink_.Store(board_);
+    ++result_.boardsSaved;
+  }
+
+  PbnLines lines_;
+  BoardSink& sink_;
+  Board board_;
+  ReadResult result_;
+};
+
+}  // namespace
+
+ReadResult ReadPBN(std::string_view text, BoardSink& sink) {
+  return PbnReader(text, sink).Read();
+}
+
+}  // namespace tricklet

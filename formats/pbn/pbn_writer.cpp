@@ -1,0 +1,90 @@
+#include "formats/pbn/pbn_writer.h"
+
+#include <array>
+
+#include "core/host.h"
+#include "core/text.h"
+#include "core/version.h"
+
+namespace tricklet {
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+
+void AppendTag(std::string& text, std::string_view name, std::string_view value) {
+  text += '[';
+  text += name;
+  text += " \"";
+  for (const char c : value) {
+    if (c == '"' || c == '\\') text += '\\';
+    text += c;
+  }
+  text += "\"]";
+  text += kLineEnd;
+}
+
+std::string DealText(const HandTable& hands) {
+  std::string text = "N:";
+  int cardCount = 0;
+  for (const Seat seat : kAllSeats) {
+    if (seat != Seat::North) text += ' ';
+    for (const Suit suit : kAllSuits) {
+      if (suit != Suit::Spades) text += '.';
+      text += PBNFormat(hands[seat][suit], cardCount);
+    }
+  }
+  return text;
+}
+
+std::string PbnCall(Call call) {
+  if (call.IsDouble()) return "X";
+  if (call.IsRedouble()) return "XX";
+  return call.Text();
+}
+
+/// Four calls to a line.
+void AppendAuction(std::string& text, const Board& board) {
+  AppendTag(text, "Auction", SeatName[board.Dealer()].substr(0, 1));
+  for (int i = 0; i < board.NumCalls(); ++i) {
+    text += PbnCall(board.Calls[i]);
+    text += ' ';
+    if (i % kSeats == kSeats - 1 || i == board.NumCalls() - 1) text += kLineEnd;
+  }
+}
+
+void AppendTable(std::string& text, const MakeableTable& table) {
+  constexpr EnumArray<TableSeat, char, kSeats> kDeclarer{{'N', 'S', 'E', 'W'}};
+  constexpr EnumArray<TableStrain, std::string_view, kStrains> kDenomination{
+      {"  C ", "  D ", "  H ", "  S ", " NT "}};
+  AppendTag(text, "OptimumResultTable", "Declarer;Denomination;Result");
+  for (const TableSeat declarer : kAllTableSeats) {
+    for (const TableStrain strain : kAllTableStrains) {
+      text += kDeclarer[declarer];
+      text += kDenomination[strain];
+      text += std::to_string(table[declarer][strain]);
+      text += kLineEnd;
+    }
+  }
+}
+
+}  // namespace
+
+std::string PbnRecord(const Board& board, std::string_view libraryName, PbnOptions options) {
+  std::string text;
+  AppendTag(text, "Description",
+            std::string(kProgramName) + " " + std::to_string(kVersionMajor) + "." +
+                std::to_string(kVersionMinor) + " - " + Utf8ToLatin1(libraryName));
+  AppendTag(text, "Board", std::to_string(board.BoardNumber));
+  AppendTag(text, "Dealer", SeatName[board.Dealer()].substr(0, 1));
+  AppendTag(text, "Vulnerable", PBNVul[board.Vulnerability()]);
+  AppendTag(text, "Deal", DealText(board.Hands));
+  if (options.bids && board.NumCalls() > 0) AppendAuction(text, board);
+  if (board.MakeableValid) AppendTable(text, board.Makeable);
+  if (options.shark) {
+    AppendTag(text, "Result", "0");
+    text += "{\r\nBoard " + std::to_string(board.BoardNumber) + "\r\n}\r\n";
+  }
+  return text;
+}
+
+}  // namespace tricklet

@@ -1,0 +1,119 @@
+#include "formats/results/lin_boards.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <utility>
+
+#include "core/fault.h"
+#include "core/statistics.h"
+#include "core/text.h"
+#include "formats/lin/lin_record.h"
+
+namespace tricklet {
+
+namespace {
+
+/// How much a record tells of the deal, the most last.
+enum class DealRank : std::uint8_t { None, Any, Possible, Complete };
+
+DealRank RankOf(const LinRecord& record) {
+  if (!record.hasDeal) return DealRank::None;
+  if (!CanBeDealt(record)) return DealRank::Any;
+  return GetStats(record.hands).AllHandsComplete ? DealRank::Complete : DealRank::Possible;
+}
+
+/// A record, and what there is of the deal in it.
+struct RankedRecord {
+  DealRank rank = DealRank::None;
+  LinRecord record;
+};
+
+/// Of each board of the range the first record with the most of a deal: of all four hands, else one
+/// that can be right, else one at all.
+std::map<int, RankedRecord> RecordsOf(const LinFile& data, int firstBoard, int lastBoard) {
+  std::map<int, RankedRecord> records;
+  for (const std::string& text : data.Lin) {
+    const int number = BoardNumberOfLin(text);
+    if (!IsStorable(number) || number < firstBoard || number > lastBoard) continue;
+    const auto known = records.find(number);
+    if (known != records.end() && known->second.rank == DealRank::Complete) continue;
+    LinRecord record = ParseLinRecord(text);
+    record.boardNumber = number;
+    const DealRank rank = RankOf(record);
+    const DealRank before = known == records.end() ? DealRank::None : known->second.rank;
+    if (rank > before) records.insert_or_assign(number, RankedRecord{rank, std::move(record)});
+  }
+  return records;
+}
+
+struct LinBoard {
+  Board board;
+  bool foreignAuction = false;  // left out
+};
+
+std::vector<LinBoard> ReadBoards(const LinFile& data, int firstBoard, int lastBoard) {
+  std::vector<LinBoard> boards;
+  bool auctions = false;
+  for (auto& [number, ranked] : RecordsOf(data, firstBoard, lastBoard)) {
+    LinRecord& record = ranked.record;
+    if (ranked.rank < DealRank::Possible) {
+      throw Fault(
+          FaultNumber::TypeMismatch,
+          "Board " + std::to_string(number) + " has a card twice or more than 13 cards in a hand");
+    }
+    if (boards.empty()) auctions = record.hasAuction;
+    if (!auctions) record.calls.clear();
+    const bool foreign = HasForeignDealer(record) && !record.calls.empty();
+    if (foreign) record.calls.clear();
+    boards.push_back({BoardOfLinRecord(record), foreign});
+  }
+  return boards;
+}
+
+/// What stands behind the first "|Board ". Looks for the word, as a record has a bar every few
+/// bytes.
+std::optional<std::string_view> BehindHeader(std::string_view record) {
+  constexpr std::string_view kWord = "Board ";
+  for (auto at = record.find(kWord); at != std::string_view::npos;
+       at = record.find(kWord, at + 1)) {
+    if (at > 0 && record[at - 1] == '|') return record.substr(at + kWord.size());
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+int BoardNumberOfLin(std::string_view record) {
+  const auto number = BehindHeader(record);
+  if (!number) return ParseLinRecord(record).boardNumber;
+  return std::max(LeadingNumber(*number), 0);
+}
+
+std::vector<Board> BoardsOfLinData(const LinFile& data, int firstBoard, int lastBoard) {
+  std::vector<Board> boards;
+  for (LinBoard& read : ReadBoards(data, firstBoard, lastBoard)) {
+    boards.push_back(std::move(read.board));
+  }
+  return boards;
+}
+
+void ReadLinCards(const LinFile& data, int firstBoard, int lastBoard, BoardSink& sink,
+                  ReadResult& result) {
+  const std::vector<LinBoard> boards = ReadBoards(data, firstBoard, lastBoard);
+  const int total = static_cast<int>(boards.size());
+  for (const LinBoard& read : boards) {
+    const int number = read.board.BoardNumber;
+    if (!sink.Begin(number, result.boardsSaved * kWholeText / total, kWholeText)) {
+      result.cancelled = true;
+      return;
+    }
+    sink.Store(read.board);
+    if (++result.boardsSaved == 1) result.firstBoard = number;
+    result.lastBoard = number;
+    if (read.foreignAuction) result.foreignAuctions.push_back(number);
+  }
+}
+
+}  // namespace tricklet

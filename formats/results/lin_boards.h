@@ -1,0 +1,28 @@
+// Boards of the LIN records that came with club results.
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "formats/results/lin_file.h"
+#include "formats/sink/board_sink.h"
+
+namespace tricklet {
+
+/// The board that a LIN record names by "|Board N", else by its room; 0 when it names none.
+int BoardNumberOfLin(std::string_view record);
+
+/// The boards numbered `firstBoard` to `lastBoard` of which `data` has a deal, in ascending order:
+/// of each, deal and auction of its first record with a deal of all four hands, or else with one
+/// that can be right. The first board's
+/// record decides whether auctions are read; one that begins at another dealer than the board's is
+/// left out. Numbers that cannot be stored are passed over. Throws `Fault` for an auction of more
+/// than 100 calls, and for a board of which no deal can be right.
+std::vector<Board> BoardsOfLinData(const LinFile& data, int firstBoard, int lastBoard);
+
+/// Stores those boards. `result` counts on while they are stored, so it is true when what `sink`
+/// throws ends the reading. All boards are read before the first is stored.
+void ReadLinCards(const LinFile& data, int firstBoard, int lastBoard, BoardSink& sink,
+                  ReadResult& result);
+
+}  // namespace tricklet

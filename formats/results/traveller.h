@@ -1,0 +1,79 @@
+// The traveller of a board: what happened at each table, from the records of "LIN.txt".
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/notation.h"
+#include "core/recorded_play.h"
+#include "formats/results/lin_file.h"
+
+namespace tricklet {
+
+inline constexpr const char* kNotPlayed = "Not played";
+
+/// One table. What the file does not give is worked out from its record where that tells it; a
+/// ruling is not decided by the contract and the tricks of the record, so these are not.
+struct TravellerRow {
+  PerSide<std::string> Pair;     ///< numbers as in the file; empty where the players have none
+  std::string Contract;          ///< "4Sx", "All Pass"; empty where there is none
+  std::optional<Seat> Declarer;  ///< of a contract
+  std::optional<Card> Lead;
+  std::optional<int> Tricks;  ///< of the declarer, 0..13
+  std::optional<int> Score;   ///< from North-South's point of view
+  std::string Adjusted;       ///< the score's text where it is a ruling: "A5050"
+  /// Match points or IMPs, after the traveller's `Scoring`.
+  PerSide<std::optional<float>> Points;
+  PerSide<std::string> Names;  ///< "Ann & Bob": North and South, East and West
+  RecordedPlay Record;
+  std::string Lin;  ///< the LIN record itself, without the scorer's own tags
+
+  /// There is a score or a ruling.
+  bool HasResult() const { return Score || !Adjusted.empty(); }
+  /// What stands in the place of the contract: `kNotPlayed` where there is no result either,
+  /// nothing where there is one.
+  std::string ContractText() const;
+  /// The declarer's tricks over or under the contract.
+  std::optional<int> Result() const;
+  /// "Ann & Bob v Cy & Di".
+  std::string NamesText() const;
+};
+
+struct Traveller {
+  int BoardNumber = 0;
+  std::string Scoring;             ///< heading of the points: "MP", "IMP", "XIMP", "BIMP"
+  bool Computed = false;           ///< the file gives no points, and they follow from the scores
+  std::vector<TravellerRow> Rows;  ///< in the order of the file
+};
+
+/// Most rows of a traveller; further records of the board are left out. The largest simultaneous
+/// events have some thousand tables, and a grid of more could not be looked through.
+inline constexpr std::size_t kMaxTravellerRows = 10'000;
+
+/// The traveller of `boardNumber`; without rows where the file has no record of the board.
+///
+/// Where all points of the board are 0 or missing they are computed from two scores on: match
+/// points, or IMPs against every other table. In a match of teams only two tables can be compared,
+/// as the file does not say which of more belong together.
+Traveller MakeTraveller(const LinFile& file, int boardNumber);
+
+/// The LIN record of a row, of the first with a play where `row` is -1; empty where there is none,
+/// or it is of another deal than `board`.
+std::string LinPlayRecord(const Traveller& traveller, const Board& board, int row = -1);
+
+/// One table in a line: "4S by South +1 +650 Ann & Bob v Cy & Di", a score of 0 as "="; "All Pass"
+/// and the names for a board that was passed out, "Not played" for one without a result. A ruling
+/// stands in the place of the score.
+std::string ReadLinBidding(const TravellerRow& row);
+
+/// The entries of the list of play records: the names of each row, in the order of the rows.
+std::vector<std::string> AddLinNames(const Traveller& traveller);
+
+/// The entry that holds the part of `namesText` before its first "&"; of several, the one at
+/// `preferred`, else the first. -1 when none does.
+int FindLinName(const std::vector<std::string>& entries, std::string_view namesText, int preferred);
+
+}  // namespace tricklet

@@ -1,0 +1,132 @@
+#include "formats/usebio/usebio_line.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <string_view>
+#include <system_error>
+
+#include "core/text.h"
+#include "formats/lin/lin_text.h"
+#include "formats/results/lin_boards.h"
+#include "formats/usebio/usebio_text.h"
+
+namespace tricklet {
+namespace {
+
+/// Nearly every number of a results file: digits and perhaps a fraction, without zeros that could
+/// go. Single precision keeps any six digits apart (FLT_DIG), so none is shorter.
+bool IsShortestNumber(std::string_view text) {
+  constexpr auto kMostCharacters = std::size_t{std::numeric_limits<float>::digits10};
+  const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+  const auto fraction = std::find_if_not(text.begin(), text.end(), isDigit);
+  if (text.size() > kMostCharacters || fraction == text.begin()) return false;
+  if (text.front() == '0' && fraction != text.begin() + 1) return false;
+  if (fraction == text.end()) return true;
+  return *fraction == '.' && isDigit(text.back()) && text.back() != '0' &&
+         std::all_of(fraction + 1, text.end(), isDigit);
+}
+
+/// Appends the number that the element begins with, 0 when it begins with none, in shortest form.
+void AppendNumber(std::string& record, const pugi::xml_node& element) {
+  const ElementText whole(element);
+  std::string_view text = whole.View();
+  if (IsShortestNumber(text)) {
+    record += text;
+    return;
+  }
+  if (text.starts_with('+')) text.remove_prefix(1);
+  float value = 0;
+  const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (read.ec != std::errc() || !std::isfinite(value) || value == 0) value = 0;
+  record += ShortestText(value);
+}
+
+/// Appends the element's text; a bar would end its field.
+void AppendField(std::string& record, const pugi::xml_node& element) {
+  const ElementText text(element);
+  const std::size_t begin = record.size();
+  record += text.View();
+  std::replace(record.begin() + static_cast<std::ptrdiff_t>(begin), record.end(), '|', ' ');
+}
+
+/// Cross-IMPs of North-South; Butler events give theirs under another name.
+const pugi::xml_node& Imps(const TravellerLine& line) {
+  const pugi::xml_node& imps = line.At(TravellerLine::NsCrossImps);
+  return imps ? imps : line.At(TravellerLine::NsButler);
+}
+
+/// A "pn" field of the record names somebody.
+bool NamesPlayers(std::string_view record) {
+  for (LinField field; NextLinField(record, field);) {
+    if (field.tag == "pn") return field.value.find_first_not_of(" ,") != std::string_view::npos;
+  }
+  return false;
+}
+
+/// The players by the numbers of their pairs: "pn|South,West,North,East|". Empty when neither pair
+/// is known.
+std::string PlayersField(const TravellerLine& line, const PairNames& pairs) {
+  PairPlayers ns = pairs.PlayersOf(TextOf(line.At(TravellerLine::NsPair)), Side::NorthSouth);
+  PairPlayers ew = pairs.PlayersOf(TextOf(line.At(TravellerLine::EwPair)), Side::EastWest);
+  const std::array inOrder{&ns.second, &ew.second, &ns.first, &ew.first};
+  std::string names;
+  bool known = false;
+  for (std::string* name : inOrder) {
+    std::erase_if(*name, [](char c) { return c == ',' || c == '|'; });
+    known = known || !name->empty();
+    names += *name + (name == inOrder.back() ? "|" : ",");
+  }
+  return known ? "pn|" + names : "";
+}
+
+/// The LIN record of a traveller line, decoded. It ends in a bar, and the first board that it names
+/// is the one whose line it is. Where it has no players they are those of the line's pairs.
+std::string RecordOf(const TravellerLine& line, int boardNumber, const PairNames& pairs) {
+  const ElementText data(line.At(TravellerLine::LinData));
+  constexpr std::size_t kTags = 96;  // what the scorer's own tags take
+  std::string record = MendUtf8(ReadLinData(data.View(), kTags));
+  if (!record.empty() && !record.ends_with('|')) record += '|';
+  if (!NamesPlayers(record)) record += PlayersField(line, pairs);
+  const int named = BoardNumberOfLin(record);
+  if (named == 0 || named != boardNumber) {
+    record.insert(0, "rh||ah|Board " + std::to_string(boardNumber) + "|");
+  }
+  return record;
+}
+
+}  // namespace
+
+bool TravellerLine::Take(std::string_view name, pugi::xml_node child) {
+  constexpr std::array<std::string_view, EwPair + 1> kNames{
+      "LIN_DATA",         "TRICKS",          "SCORE",
+      "CONTRACT",         "PLAYED_BY",       "LEAD",
+      "NS_MATCH_POINTS",  "EW_MATCH_POINTS", "NS_CROSS_IMP_POINTS",
+      "NS_BUTLER_POINTS", "NS_PAIR_NUMBER",  "EW_PAIR_NUMBER"};
+  const auto* const known = std::find(kNames.begin(), kNames.end(), name);
+  if (known == kNames.end()) return false;
+  pugi::xml_node& element = elements_.at(static_cast<std::size_t>(known - kNames.begin()));
+  if (!element) element = child;
+  return true;
+}
+
+std::string LinLine(const TravellerLine& line, int boardNumber, const PairNames& pairs) {
+  using Line = TravellerLine;
+  std::string text = RecordOf(line, boardNumber, pairs);
+  // The bars between values and tags are doubled from the second value on: readers of this layout
+  // have always met it so.
+  AppendField(text += "qent|", line.At(Line::Tricks));
+  AppendField(text += "|qens|", line.At(Line::Score));
+  AppendNumber(text += "||qenns|", line.At(Line::NsMatchPoints));
+  AppendNumber(text += "||qenew|", line.At(Line::EwMatchPoints));
+  AppendField(text += "||qenc|", line.At(Line::Contract));
+  AppendField(text += "||qend|", line.At(Line::PlayedBy));
+  AppendField(text += "||qenl|", line.At(Line::Lead));
+  AppendNumber(text += "||qeni|", Imps(line));
+  text += '|';
+  return text;
+}
+
+}  // namespace tricklet

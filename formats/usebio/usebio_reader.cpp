@@ -1,0 +1,178 @@
+#include "formats/usebio/usebio_reader.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <system_error>
+#include <utility>
+
+#include <pugixml.hpp>
+
+#include "core/text.h"
+#include "formats/results/pair_names.h"
+#include "formats/usebio/usebio_line.h"
+#include "formats/usebio/usebio_outline.h"
+#include "formats/usebio/usebio_text.h"
+
+namespace tricklet {
+namespace {
+
+constexpr const char* kOneSession = "Only Single Session Imports supported";
+constexpr const char* kOneSection = "Only Single Section Imports supported";
+
+void Keep(std::vector<std::string>& lines, std::string line) {
+  if (lines.size() == kMaxUsebioLines) throw UsebioRefusal{kUnexpectedFormat};
+  lines.push_back(std::move(line));
+}
+
+/// "3 NS Ann & Bob".
+std::string NamesLine(const pugi::xml_node& pair) {
+  std::string line = ChildText(pair, "PAIR_NUMBER") + " " + ChildText(pair, "DIRECTION");
+  std::string_view joint = " ";
+  for (const pugi::xml_node& player : pair.children("PLAYER")) {
+    line += joint;
+    line += PlayerName(ChildText(player, "PLAYER_NAME"));
+    joint = " & ";
+  }
+  return line;
+}
+
+/// "1 Hearts".
+std::string TeamLine(const pugi::xml_node& team) {
+  return std::string(Trim(NamedText(team, "TEAM_ID") + " " + NamedText(team, "TEAM_NAME")));
+}
+
+/// The first of these elements of the event, or of its session, that holds a word.
+std::string WordOf(const pugi::xml_node& event, std::initializer_list<const char*> names) {
+  for (const char* name : names) {
+    for (const pugi::xml_node& parent : {event, event.child("SESSION")}) {
+      std::string word = ChildText(parent, name);
+      if (!word.empty()) return word;
+    }
+  }
+  return {};
+}
+
+bool MoreThanOne(const pugi::xml_node& event, std::initializer_list<const char*> counts) {
+  return std::any_of(counts.begin(), counts.end(), [&event](const char* count) {
+    return LeadingNumber(WordOf(event, {count})) > 1;
+  });
+}
+
+/// Reads a document that has been parsed.
+class UsebioReader {
+ public:
+  UsebioReader(const pugi::xml_document& document, const UsebioOutline& outline)
+      : document_(document), outline_(outline) {}
+
+  UsebioResults Read() {
+    const pugi::xml_node club = document_.select_node("//CLUB").node();
+    const pugi::xml_node event = document_.select_node("//EVENT").node();
+    if (IsEmpty(club) || IsEmpty(event)) throw UsebioRefusal{kUnexpectedFormat};
+    RefuseSeveral(event);
+    ReadScoring(event);
+    for (const pugi::xml_node& list : outline_.participants) {
+      for (const auto& pair : list.select_nodes(".//PAIR")) {
+        Keep(results_.data.Names, NamesLine(pair.node()));
+      }
+    }
+    const PairNames pairs(results_.data.Names);
+    for (const UsebioBoard& board : outline_.boards) ReadBoard(board, pairs);
+    return std::move(results_);
+  }
+
+ private:
+  void RefuseSeveral(const pugi::xml_node& event) const {
+    if (MoreThanOne(event, {"SESSION_CONT", "SESSION_COUNT"}) || outline_.sessions > 1) {
+      throw UsebioRefusal{kOneSession};
+    }
+    if (MoreThanOne(event, {"SECTION_COUNT"}) || outline_.sections > 1) {
+      throw UsebioRefusal{kOneSection};
+    }
+  }
+
+  void ReadScoring(const pugi::xml_node& event) {
+    LinFile& data = results_.data;
+    const bool teams = std::string_view(event.attribute("EVENT_TYPE").value()) == "TEAMS";
+    const std::string usual = teams ? "IMPS" : "MATCH_POINTS";
+    // A team event's own word says how the match is scored, a pairs event's how the boards are.
+    std::string word = WordOf(event, {"BOARD_SCORING_METHOD", "PAIRWISE_SCORING_METHOD"});
+    const std::string general = WordOf(event, {"SCORING_METHOD"});
+    if (word.empty() && !teams) word = general;
+    data.BoardScoringMethod = word.empty() ? usual : word;
+    data.BoardScoringAbb = GetAbbreviations(data.BoardScoringMethod);
+    if (!teams) return;
+    data.TeamEvent.emplace();
+    data.TeamEvent->TeamScoringMethod = general.empty() ? usual : general;
+    data.TeamEvent->TeamScoringAbb = GetAbbreviations(data.TeamEvent->TeamScoringMethod);
+    for (const pugi::xml_node& list : outline_.participants) {
+      for (const auto& team : list.select_nodes(".//TEAM")) {
+        Keep(data.TeamEvent->Teams, TeamLine(team.node()));
+      }
+    }
+  }
+
+  void ReadBoard(const UsebioBoard& board, const PairNames& pairs) {
+    const std::string text = ChildText(board.element, "BOARD_NUMBER");
+    int number = 0;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (read.ec != std::errc() || read.ptr != text.data() + text.size()) {
+      throw UsebioRefusal{kUnexpectedFormat};
+    }
+    results_.firstBoard = any_ ? std::min(results_.firstBoard, number) : number;
+    results_.lastBoard = any_ ? std::max(results_.lastBoard, number) : number;
+    any_ = true;
+    for (const TravellerLine& line : board.lines) {
+      Keep(results_.data.Lin, LinLine(line, number, pairs));
+    }
+  }
+
+  const pugi::xml_document& document_;
+  const UsebioOutline& outline_;
+  UsebioResults results_;
+  bool any_ = false;
+};
+
+}  // namespace
+
+std::variant<UsebioResults, UsebioRefusal> ReadUsebio(std::string text) {
+  // Text as the value of its element: half the nodes of a file whose elements hold one text each.
+  constexpr unsigned kParsing = pugi::parse_default | pugi::parse_embed_pcdata;
+  pugi::xml_document document;
+  if (!document.load_buffer_inplace(text.data(), text.size(), kParsing, pugi::encoding_utf8)) {
+    return UsebioRefusal{kXmlLoadFailed};
+  }
+  try {
+    const UsebioOutline outline = OutlineOf(document);
+    return UsebioReader(document, outline).Read();
+  } catch (const UsebioRefusal& refusal) {
+    return refusal;
+  }
+}
+
+std::string GetAbbreviations(std::string_view scoring) {
+  constexpr std::array<std::pair<std::string_view, std::string_view>, 4> kWords{{
+      {"MATCH_POINTS", "MP"},
+      {"IMPS", "IMP"},
+      {"CROSS_IMPS", "XIMP"},
+      {"BUTLER_IMPS", "BIMP"},
+  }};
+  const auto* const word = std::find_if(kWords.begin(), kWords.end(), [scoring](const auto& entry) {
+    return entry.first == scoring;
+  });
+  return std::string(word == kWords.end() ? scoring : word->second);
+}
+
+std::string GetInitials(std::string_view name) {
+  std::string initials;
+  while (!(name = Trim(name)).empty()) {
+    // A letter is its first byte and the continuation bytes behind it.
+    const auto isLead = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; };
+    const auto* const next = std::find_if(name.begin() + 1, name.end(), isLead);
+    initials.append(name.begin(), next);
+    name.remove_prefix(std::min(name.find(' '), name.size()));
+  }
+  return initials;
+}
+
+}  // namespace tricklet

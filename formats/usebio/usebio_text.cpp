@@ -1,0 +1,45 @@
+#include "formats/usebio/usebio_text.h"
+
+#include "core/text.h"
+#include "formats/usebio/usebio_reader.h"
+
+namespace tricklet {
+namespace {
+
+/// `text` as a value to keep; longer ones are in no results file.
+std::string_view Kept(std::string_view text) {
+  const std::string_view value = TrimLines(text);
+  if (value.size() > kMaxUsebioText) throw UsebioRefusal{kUnexpectedFormat};
+  return value;
+}
+
+}  // namespace
+
+ElementText::ElementText(const pugi::xml_node& element) : view_(element.value()) {
+  // The first piece is the element's own value, by the parsing option.
+  for (auto piece = element.first_child(); piece; piece = piece.next_sibling()) {
+    if (piece.type() != pugi::node_pcdata && piece.type() != pugi::node_cdata) continue;
+    if (joined_.empty()) joined_ = view_;
+    view_ = joined_ += piece.value();
+  }
+  view_ = Kept(view_);
+}
+
+std::string TextOf(const pugi::xml_node& element) {
+  return std::string(ElementText(element).View());
+}
+
+bool IsEmpty(const pugi::xml_node& element) {
+  return !element.first_child() && *element.value() == '\0';
+}
+
+std::string ChildText(const pugi::xml_node& element, const char* name) {
+  return TextOf(element.child(name));
+}
+
+std::string NamedText(const pugi::xml_node& element, const char* name) {
+  const pugi::xml_attribute attribute = element.attribute(name);
+  return attribute ? std::string(Kept(attribute.value())) : ChildText(element, name);
+}
+
+}  // namespace tricklet

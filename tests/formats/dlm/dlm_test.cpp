@@ -1,0 +1,148 @@
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "core/fault.h"
+#include "core/text.h"
+#include "formats/dlm/dlm_deal.h"
+#include "formats/dlm/dlm_reader.h"
+#include "formats/dlm/dlm_writer.h"
+#include "tests/support/collector.h"
+
+namespace tricklet {
+namespace {
+
+using test::Collector;
+
+const std::string kPlaceholder(kDLMPlaceholderDeal);
+
+std::string BoardLine(const std::string& number, const std::string& deal = kPlaceholder) {
+  return "Board " + number + "=" + deal + "000\n";
+}
+
+TEST(DLMDeal, LettersAndCheckValues) {
+  // Worked out by hand: thirteen times "bl" (the pack dealt round one card at a time) comes to
+  // 98 ^ 108 = 14, thirteen times "fa" to 102 ^ 97 = 7, and the placeholder to 14.
+  const struct {
+    int board;
+    const char* deal;
+  } kCases[] = {
+      {1, "blblblblblblblblblblblblbl015"},  {14, "blblblblblblblblblblblblbl000"},
+      {99, "blblblblblblblblblblblblbl109"}, {8, "fafafafafafafafafafafafafa015"},
+      {3, "aaaaaabffffffkkkkkklpppppp013"},  {14, "aaaaaabffffffkkkkkklpppppp000"},
+  };
+  for (const auto& c : kCases) {
+    const HandTable hands = DecodeDLMDeal(std::string_view(c.deal).substr(0, kDLMDealLetters));
+    EXPECT_EQ(EncodeDLMDeal(c.board, hands), c.deal);
+  }
+}
+
+TEST(DLMDeal, LettersStandForTwoCardsEach) {
+  const HandTable hands = DecodeDLMDeal(kPlaceholder);
+  for (const Seat seat : kAllSeats) {
+    EXPECT_EQ(hands[seat][static_cast<Suit>(seat)].Count(), kRanks) << IndexOf(seat);
+  }
+  const HandTable dealtRound = DecodeDLMDeal("blblblblblblblblblblblblbl");
+  EXPECT_EQ(HoldingText(dealtRound[Seat::North][Suit::Spades]), " A 10 6 2");
+  EXPECT_EQ(HoldingText(dealtRound[Seat::West][Suit::Clubs]), " A 10 6 2");
+  EXPECT_EQ(EncodeDLMDeal(1, HandTable()).substr(0, kDLMDealLetters), std::string(26, 'a'));
+}
+
+TEST(DLMDeal, EveryLetterIsChecked) {
+  for (std::size_t place = 0; place < kDLMDealLetters; ++place) {
+    for (const char letter : {'q', 'z', '`', '0', '=', '\xE9'}) {
+      std::string deal = kPlaceholder;
+      deal.at(place) = letter;
+      EXPECT_THROW(DecodeDLMDeal(deal), Fault) << deal;
+      // The reader looks at the first letter itself.
+      Collector sink;
+      const std::string text = BoardLine("01") + BoardLine("02", deal);
+      if (place == 0) {
+        EXPECT_EQ(ReadDLM(text, sink).badLine, "board 02=" + deal + "000");
+      } else {
+        EXPECT_THROW(ReadDLM(text, sink), Fault) << deal;
+      }
+      EXPECT_EQ(sink.boards.size(), 1U) << deal;
+    }
+  }
+}
+
+TEST(ReadDLM, ReadsBoardLinesUpToTheLast) {
+  const struct {
+    const char* what;
+    std::string text;
+    int saved;
+    int first;
+    int last;
+  } kCases[] = {
+      {"any line end, any case, any section",
+       "[Document]\r\nFrom board=2\rBOARD 07=" + kPlaceholder + "\nboard5=" + kPlaceholder, 2, 5,
+       7},
+      {"stops above the last board",
+       "To board=10\n" + BoardLine("09") + BoardLine("10") + BoardLine("11") + BoardLine("04"), 2,
+       9, 10},
+      {"the lowest of several",
+       "To board=20\nTO BOARD=1\nTo board=9\n" + BoardLine("1") + BoardLine("2"), 1, 1, 1},
+      {"999 at the most", BoardLine("999") + BoardLine("1000"), 1, 999, 999},
+      {"a check value that is wrong or missing",
+       "Checksum=999\nBoard 03=" + kPlaceholder + "\nBoard 04=" + kPlaceholder + "999 and more", 2,
+       3, 4},
+      {"capital letters", "Board 1=AAAAAABFFFFFFKKKKKKLPPPPPP", 1, 1, 1},
+      {"the range does not begin the reading", "From board=5\n" + BoardLine("01"), 1, 1, 1},
+      {"other lines", "Duplicates 01=0\nProperty 01=1\nHeadline=Board 1\n Board 1=\n", 0, 0, 0},
+      {"no number is no board to stop at", "To board=x\n" + BoardLine("01"), 0, 0, 0},
+      {"nothing", "", 0, 0, 0},
+  };
+  for (const auto& c : kCases) {
+    Collector sink;
+    const ReadResult result = ReadDLM(c.text, sink);
+    EXPECT_EQ(result.badLine.value_or(""), "") << c.what;
+    EXPECT_EQ(result.boardsSaved, c.saved) << c.what;
+    EXPECT_EQ(static_cast<int>(sink.boards.size()), c.saved) << c.what;
+    EXPECT_EQ(result.firstBoard, c.first) << c.what;
+    EXPECT_EQ(result.lastBoard, c.last) << c.what;
+  }
+}
+
+TEST(ReadDLM, StopsAtALineThatCannotBeRead) {
+  const std::string cut = kPlaceholder.substr(1);
+  for (const std::string& line :
+       {"Board 05=" + cut, "Board 00=" + kPlaceholder, "Board -1=" + kPlaceholder,
+        "Board =" + kPlaceholder, "Board 05 " + kPlaceholder, std::string("Boards")}) {
+    Collector sink;
+    const ReadResult result = ReadDLM(BoardLine("04") + line + "\n" + BoardLine("06"), sink);
+    ASSERT_TRUE(result.badLine) << line;
+    EXPECT_EQ(ToUpper(*result.badLine), ToUpper(line));
+    EXPECT_EQ(result.boardsSaved, 0) << line;
+    EXPECT_EQ(sink.boards.size(), 1U) << line;
+  }
+}
+
+TEST(ReadDLM, CancelKeepsTheBoardsStoredSoFar) {
+  Collector sink;
+  sink.cancelAt = 2;
+  const ReadResult result = ReadDLM(BoardLine("01") + BoardLine("02"), sink);
+  EXPECT_TRUE(result.cancelled);
+  EXPECT_EQ(result.boardsSaved, 1);
+}
+
+TEST(ReadDLM, BoardsBringNoCallsAndNoTable) {
+  Collector sink;
+  ReadDLM(BoardLine("03"), sink);
+  ASSERT_EQ(sink.boards.size(), 1U);
+  EXPECT_EQ(sink.boards[0].NumCalls(), 0);
+  EXPECT_FALSE(sink.boards[0].MakeableValid);
+}
+
+TEST(DLMHeader, HoldsTheRangeAndItsCheckValue) {
+  EXPECT_EQ(
+      DLMHeader(5, 7),
+      "[DOCUMENT]\r\nHeadline=\r\nStatus=Show\r\nDuplicates=1\r\nFrom board=5\r\nTo board=7\r\n"
+      "Dealing method=1\r\nNext board to duplimate=0\r\nPrintOuts=0\r\nCrypto key=0\r\n"
+      "Checksum=002\r\n");
+  EXPECT_NE(DLMHeader(1, 1).find("Checksum=000\r\n"), std::string::npos);
+  EXPECT_NE(DLMHeader(95, 999).find("Checksum=952\r\n"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace tricklet

@@ -1,0 +1,89 @@
+// A thousand random boards out to every type of file and back in.
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "formats/exchange/export.h"
+#include "formats/exchange/import_lin.h"
+#include "generate/deal.h"
+#include "library/board_file.h"
+#include "tests/support/library_fixture.h"
+
+namespace tricklet {
+namespace {
+
+constexpr int kBatches = 11;  // of as many boards as a dealing machine takes
+constexpr int kBoards = 99;
+constexpr int kMostTricks = 13;
+
+/// Any deal, any table or none, and calls that need not be legal: they are only carried.
+Board RandomBoard(int number, RandomSource& random) {
+  constexpr int kLongestAuction = 12;
+  Board board;
+  board.BoardNumber = number;
+  EXPECT_TRUE(Random(board.Hands, random));
+  for (int i = RandomBetween(0, kLongestAuction, random); i > 0; --i) {
+    const int bid = RandomBetween(0, Call::kBids + 2, random);
+    const Call others[] = {Call::Pass(), Call::Double(), Call::Redouble()};
+    board.Calls.Add(bid < Call::kBids
+                        ? Call::Bid(bid / kStrains + 1, static_cast<BidStrain>(bid % kStrains))
+                        : others[bid - Call::kBids]);
+  }
+  board.MakeableValid = RandomBetween(0, 1, random) == 1;
+  for (auto& row : board.Makeable) {
+    for (auto& tricks : row) {
+      tricks = static_cast<std::int16_t>(RandomBetween(0, kMostTricks, random));
+    }
+  }
+  // The last row alone tells whether a table is there, and 0 tricks there say that it is not.
+  board.Makeable[TableSeat::West][TableStrain::NoTrump] = kMostTricks;
+  return board;
+}
+
+/// The deal alone.
+std::string DealText(Board board) {
+  board.Calls.Clear();
+  board.MakeableValid = false;
+  return WriteBoardText(board);
+}
+
+class RoundTrip : public test::LibraryTest {
+ protected:
+  /// The boards of library Club, written as a file of `type` and read into library `type`.
+  void Carry(const std::string& type) {
+    const auto path = folder.Path() / ("boards." + type);
+    session.settings.library = "Club";
+    host.ExpectTell("File " + PathText(path) + " created");
+    ASSERT_TRUE(ExportFile(session, {1, kBoards, type}, path));
+    session.settings.library = type;
+    std::filesystem::create_directories(session.LibraryPath());
+    CountHands(session);
+    if (session.library.BoardCount > 0) host.ExpectAskWith("Overwrite existing", Answer::Yes);
+    host.ExpectTell("99 hands (1-99) have been saved to the library - " + type);
+    ASSERT_EQ(ImportAnyFile(session, path).boardsSaved, kBoards);
+  }
+};
+
+TEST_F(RoundTrip, GivesIdenticalBoards) {
+  RandomSource random{20261121};
+  for (int batch = 0; batch < kBatches; ++batch) {
+    std::vector<Board> boards;
+    session.settings.library = "Club";
+    for (int number = 1; number <= kBoards; ++number) {
+      boards.push_back(RandomBoard(number, random));
+      test::WriteFile(session.BoardPath(number), WriteBoardText(boards.back()));
+    }
+    for (const char* type : {"pbn", "dlm", "lin"}) {
+      Carry(type);
+      const bool whole = std::string_view(type) == "pbn";
+      for (const Board& board : boards) {
+        ASSERT_EQ(test::ReadFile(session.BoardPath(board.BoardNumber)),
+                  whole ? WriteBoardText(board) : DealText(board))
+            << type << " " << board.BoardNumber;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tricklet

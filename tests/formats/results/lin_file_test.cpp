@@ -1,0 +1,97 @@
+#include "formats/results/lin_file.h"
+
+#include <gtest/gtest.h>
+
+#include "core/fault.h"
+#include "tests/support/library_fixture.h"
+
+namespace tricklet {
+namespace {
+
+namespace fs = std::filesystem;
+using test::ReadFile;
+using test::WriteFile;
+
+LinFile PairsEvent() {
+  return {.BoardScoringMethod = "MATCH_POINTS",
+          .BoardScoringAbb = "MP",
+          .TeamEvent = {},
+          .Names = {"1 NS Zo\u00eb & \u0141ukasz", "2 EW Cy & Di"},
+          .Lin = {"qx|o1|rh||ah|Board 1|pg||qent|9|qens|140|", "qx|c1|rh||ah|Board 1|pg||"}};
+}
+
+TEST(LinFile, PairsEventIsWrittenSectionBySection) {
+  EXPECT_EQ(LinFileText(PairsEvent()),
+            "[BoardScoringMethod]\r\nMATCH_POINTS\r\n[BoardScoringAbb]\r\nMP\r\n"
+            "[Names]\r\n1 NS Zo\u00eb & \u0141ukasz\r\n2 EW Cy & Di\r\n"
+            "[LIN]\r\nqx|o1|rh||ah|Board 1|pg||qent|9|qens|140|\r\nqx|c1|rh||ah|Board 1|pg||\r\n");
+  EXPECT_EQ(ParseLinFile(LinFileText(PairsEvent())), PairsEvent());
+}
+
+TEST(LinFile, TeamScoringMethodIsSpelledInTwoWays) {
+  LinFile data = PairsEvent();
+  data.TeamEvent = {{"1 Hearts", "2 Spades"}, "IMPS", "IMP"};
+  const std::string text = LinFileText(data);
+  EXPECT_NE(text.find("MP\r\n[Teams]\r\n1 Hearts\r\n2 Spades\r\n[TeamScoringMethod]\r\nIMPS\r\n"
+                      "[TeamScoringAbb]\r\nIMP\r\n[Names]\r\n"),
+            std::string::npos)
+      << text;
+  data.TeamEvent->TeamScoringMethod.clear();
+  EXPECT_EQ(ParseLinFile(text), data) << "the written spelling is not the one that is looked for";
+  EXPECT_EQ(
+      ParseLinFile("[TeamsScoringMethod]\nVP\n").TeamEvent.value_or(LinTeams()).TeamScoringMethod,
+      "VP");
+}
+
+TEST(LinFile, ReadsWhatOthersWrite) {
+  const LinFile expected = PairsEvent();
+  const std::string text = LinFileText(expected);
+  std::string lf;
+  std::string cr;
+  for (const char c : text) {
+    if (c != '\r') lf += c;
+    if (c != '\n') cr += c;
+  }
+  EXPECT_EQ(ParseLinFile(lf), expected);
+  EXPECT_EQ(ParseLinFile(cr), expected);
+  EXPECT_EQ(ParseLinFile("\xEF\xBB\xBF" + text), expected) << "with a byte order mark";
+  EXPECT_EQ(ParseLinFile("lost\n[unknown]\nlost\n\n" + text), expected);
+  EXPECT_EQ(ParseLinFile("[NAMES]\n1 NS Zo\xEB & Cy\n").Names,
+            std::vector<std::string>{"1 NS Zo\u00eb & Cy"});
+  EXPECT_EQ(ParseLinFile("[boardscoring]\nIMPS\n").BoardScoringMethod, "IMPS");
+  EXPECT_TRUE(ParseLinFile("").Empty());
+}
+
+TEST(LinFile, AValueCannotLeaveItsLine) {
+  LinFile data;
+  data.BoardScoringMethod = "[LIN]";
+  data.Names = {"1 NS Ann\r\n[LIN]\r\nqx|o9| & \tBob", ""};
+  data.Lin = {"qx|o1|\n\n[Names]\n", ""};
+  const LinFile read = ParseLinFile(LinFileText(data));
+  EXPECT_EQ(read.BoardScoringMethod, " [LIN]");
+  EXPECT_EQ(read.Names, std::vector<std::string>{"1 NS Ann [LIN] qx|o9| &  Bob"});
+  EXPECT_EQ(read.Lin, std::vector<std::string>{"qx|o1| [Names] "});
+}
+
+class LinDataTest : public test::LibraryTest {};
+
+TEST_F(LinDataTest, StaysInTheLibraryUntilRecycled) {
+  EXPECT_EQ(LoadLinData(session), LinFile());
+  StoreLinData(session, PairsEvent());
+  EXPECT_EQ(LoadLinData(session), PairsEvent());
+  EXPECT_TRUE(RecycleLinData(session));
+  EXPECT_EQ(host.recycled, std::vector<std::string>{"LIN.txt"});
+  EXPECT_TRUE(LoadLinData(session).Empty());
+  EXPECT_TRUE(RecycleLinData(session)) << "nothing is left to recycle";
+}
+
+TEST_F(LinDataTest, AFailureIsAFault) {
+  fs::remove_all(session.LibraryPath());
+  EXPECT_THROW(StoreLinData(session, PairsEvent()), Fault);
+  WriteFile(LinDataPath(session), "");
+  fs::resize_file(LinDataPath(session), kMaxLinFileBytes + 1);
+  EXPECT_THROW(LoadLinData(session), Fault);
+}
+
+}  // namespace
+}  // namespace tricklet

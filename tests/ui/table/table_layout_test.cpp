@@ -1,0 +1,193 @@
+// Geometry of the table over sizes and deals, and what it says in words.
+#include "ui/table/table_layout.h"
+
+#include <array>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/hands.h"
+#include "tests/ui/print.h"
+#include "ui/style/symbols.h"
+#include "ui/table/descriptions.h"
+
+namespace tricklet::ui {
+namespace {
+
+using test::HandsOf;
+
+const std::string kOrdinary =
+    "N:AQ975.K86.KT2.J4 84.T732.AQ3.T652 KJT3.A4.9654.AK7 62.QJ95.J87.Q983";
+const std::string kWholePack = "N:AKQJT98765432.AKQJT98765432.AKQJT98765432.AKQJT98765432 - - -";
+
+const std::array kDeals{
+    kOrdinary,
+    std::string("N:AQ975.K8652.KT2. 84.A73.AQ3.AJ652 KJT3.QJT94..KT87 .J98765.Q943.962"),
+    std::string("N:K2..KQJ2.AKQJ987 AQJT9876543.2.A. ..T987654.6543210 ..5.AKQJT98765432"),
+    std::string("N:A - -.2 -.-.-.T"),
+    kWholePack,
+    "W" + kWholePack.substr(1)};
+
+// Down to the view's minimum size, square, wide, tall, and up to 4K.
+const std::array kSizes{QSizeF(380, 340),  QSizeF(520, 480),   QSizeF(760, 680),  QSizeF(520, 900),
+                        QSizeF(1600, 600), QSizeF(1600, 1000), QSizeF(3840, 2160)};
+
+class TableGeometry : public testing::TestWithParam<std::tuple<QSizeF, std::string>> {
+ protected:
+  HandTable hands_ = HandsOf(std::get<1>(GetParam()));
+  TableLayout layout_ = LayOutTable(std::get<0>(GetParam()), hands_, HandDisplay::Cards);
+};
+
+TEST_P(TableGeometry, ShowsEveryCardInsideItsHandsArea) {
+  HandTable shown;
+  for (const PlacedCard& placed : layout_.cards) {
+    EXPECT_TRUE(layout_.hands[placed.seat].area.adjusted(-1, -1, 1, 1).contains(placed.rect))
+        << SeatName[placed.seat] << " card " << placed.card.Index();
+    EXPECT_GE(placed.rect.width(), 30);
+    shown[placed.seat][placed.card.suit].Add(placed.card.rank);
+  }
+  EXPECT_EQ(shown, hands_);
+}
+
+TEST_P(TableGeometry, KeepsHandsCaptionsAndCentreApartAndOnTheFelt) {
+  for (const HandDisplay display : {HandDisplay::Cards, HandDisplay::Text}) {
+    const TableLayout layout = LayOutTable(layout_.felt.size(), hands_, display);
+    std::vector<QRectF> parts{layout.centre};
+    for (const PlacedHand& hand : layout.hands) {
+      parts.push_back(hand.caption);
+      parts.push_back(hand.area);
+    }
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+      EXPECT_TRUE(layout.felt.contains(parts[i])) << "part " << i;
+      EXPECT_GT(parts[i].width(), 60) << "part " << i;
+      EXPECT_GE(parts[i].height(), 14) << "part " << i;
+      for (std::size_t j = 0; j < i; ++j) {
+        EXPECT_FALSE(parts[i].intersects(parts[j])) << "parts " << i << " and " << j;
+      }
+    }
+  }
+}
+
+TEST_P(TableGeometry, LeavesAPartOfEveryCardToBeHit) {
+  for (const PlacedCard& placed : layout_.cards) {
+    const auto hit = CardAt(layout_, placed.rect.topLeft() + QPointF(1.5, 1.5));
+    EXPECT_TRUE(hit && hit->seat == placed.seat && hit->card == placed.card) << placed.card.Index();
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(SizesAndDeals, TableGeometry,
+                         testing::Combine(testing::ValuesIn(kSizes), testing::ValuesIn(kDeals)));
+
+std::vector<PlacedCard> CardsOfSeat(const TableLayout& layout, Seat seat) {
+  std::vector<PlacedCard> cards;
+  for (const PlacedCard& placed : layout.cards) {
+    if (placed.seat == seat) cards.push_back(placed);
+  }
+  return cards;
+}
+
+TEST(TableLayoutTest, FansNorthInOneRowBySuitsOfAlternatingColour) {
+  const TableLayout layout = LayOutTable({760, 680}, HandsOf(kOrdinary), HandDisplay::Cards);
+  std::string suits;
+  double right = 0;
+  for (const PlacedCard& placed : CardsOfSeat(layout, Seat::North)) {
+    EXPECT_EQ(placed.rect.top(), layout.hands[Seat::North].area.top());
+    EXPECT_GT(placed.rect.left(), right);
+    right = placed.rect.left();
+    suits += StrainLetter[ToStrain(placed.card.suit)];
+  }
+  EXPECT_EQ(suits, "SSSSSHHHCCDDD");
+}
+
+TEST(TableLayoutTest, GivesEastARowForEachSuitHeldAndBreaksALongOne) {
+  const auto rows = [](const std::string& east) {
+    const TableLayout layout =
+        LayOutTable({520, 480}, HandsOf("E:" + east + " - - -"), HandDisplay::Cards);
+    std::string text;
+    double y = -1;
+    for (const PlacedCard& placed : CardsOfSeat(layout, Seat::East)) {
+      if (placed.rect.top() != y) text += text.empty() ? "" : " ";
+      y = placed.rect.top();
+      text += StrainLetter[ToStrain(placed.card.suit)];
+    }
+    return text;
+  };
+  EXPECT_EQ(rows("84.10732.AQ3.10652"), "SS HHHH CCCC DDD");
+  EXPECT_EQ(rows("84732..AQ3.10652"), "SSSSS CCCC DDD");
+  EXPECT_EQ(rows("AQJ10987.2.A.65"), "SSS SSSS H CC D");
+  EXPECT_EQ(rows("AQJ109876543.2.A."), "SSSSS SSSSSS H D");
+}
+
+TEST(TableLayoutTest, GrowsCardsWithTheTableButNotWithTheDeal) {
+  double last = 0;
+  for (const double scale : {1.0, 1.5, 2.0, 4.0}) {
+    const QSizeF size = QSizeF(520, 480) * scale;
+    const double width = LayOutTable(size, HandsOf(kOrdinary), HandDisplay::Cards).cardSize.width();
+    EXPECT_GT(width, last * 1.2);
+    EXPECT_EQ(width, LayOutTable(size, HandsOf(kWholePack), HandDisplay::Cards).cardSize.width());
+    last = width;
+  }
+}
+
+TEST(TableLayoutTest, SurvivesATableWithoutRoom) {
+  for (const QSizeF size : {QSizeF(0, 0), QSizeF(1, 1), QSizeF(60, 900), QSizeF(900, 20)}) {
+    for (const std::string& deal : kDeals) {
+      const TableLayout layout = LayOutTable(size, HandsOf(deal), HandDisplay::Cards);
+      EXPECT_GE(layout.cardSize.width(), 1);
+    }
+  }
+}
+
+Board OrdinaryBoard() {
+  Board board;
+  board.BoardNumber = 7;
+  board.Hands = HandsOf(kOrdinary);
+  return board;
+}
+
+TEST(TableWordsTest, TellsDeclarerAndDummyInTheCaptions) {
+  Board board = OrdinaryBoard();
+  Settings settings;
+  EXPECT_EQ(TableCaptions(board, settings)[Seat::South], u"13 cards : HCP=15 LTC=7");
+  board.Contract = "4S";
+  board.Declarer = Seat::South;
+  EXPECT_EQ(TableCaptions(board, settings)[Seat::South], u"13 cards : HCP=15 LTC=7 Declarer");
+  EXPECT_EQ(TableCaptions(board, settings)[Seat::North], u"13 cards : HCP=13 LTC=7 Dummy");
+  settings.CaptionHCP = settings.CaptionLTC = settings.CaptionDummy = false;
+  EXPECT_EQ(TableCaptions(board, settings)[Seat::South], u"13 cards Declarer");
+  EXPECT_EQ(TableCaptions(board, settings)[Seat::North], u"13 cards");
+  board.Contract = kAllPass;
+  EXPECT_EQ(TableCaptions(board, settings)[Seat::South], u"13 cards");
+  ClearAll(board);
+  EXPECT_EQ(TableCaptions(board, settings)[Seat::South], u"");
+}
+
+TEST(TableWordsTest, ShowsContractsWithTheirSuits) {
+  const std::pair<const char*, const char16_t*> kCases[] = {
+      {"4Sx-1 by South : EW +100", u"4\u2660x-1 by South : EW +100"},
+      {"Par 3H= or 3D+1 NS +140", u"Par 3\u2665= or 3\u2666+1 NS +140"},
+      {"7Cxx", u"7\u2663xx"},
+      {"3NT by East", u"3NT by East"},
+      {"All Pass", u"All Pass"},
+      {"40% 5Suits", u"40% 5Suits"}};
+  for (const auto& [text, shown] : kCases) {
+    EXPECT_EQ(WithSymbols(QString::fromLatin1(text)), QString::fromUtf16(shown)) << text;
+  }
+}
+
+TEST(TableWordsTest, ReadsTheBoardOut) {
+  Board board = OrdinaryBoard();
+  board.Hands[Seat::West] = {};
+  board.Hands[Seat::East][Suit::Hearts] = {};
+  EXPECT_EQ(DescribeTable(board).toStdString(),
+            "Board 7. Dealer South. All vulnerable. "
+            "North: spades A Q 9 7 5; hearts K 8 6; diamonds K 10 2; clubs J 4. "
+            "East: spades 8 4; hearts void; diamonds A Q 3; clubs 10 6 5 2. "
+            "South: spades K J 10 3; hearts A 4; diamonds 9 6 5 4; clubs A K 7. "
+            "West: no cards.");
+}
+
+}  // namespace
+}  // namespace tricklet::ui

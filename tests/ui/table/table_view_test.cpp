@@ -1,0 +1,142 @@
+// What the table paints, and the colours that it takes from the settings.
+#include "ui/table/table_view.h"
+
+#include <tuple>
+#include <vector>
+
+#include <QApplication>
+#include <QImage>
+#include <gtest/gtest.h>
+
+#include "tests/support/hands.h"
+#include "ui/style/theme.h"
+#include "ui/table/text_hands.h"
+
+namespace tricklet::ui {
+namespace {
+
+class TableViewTest : public testing::Test {
+ protected:
+  void TearDown() override { ApplyColourScheme(*qApp, 0); }
+
+  static Board LongSuits() {
+    Board board;
+    board.BoardNumber = 2;
+    board.Hands =
+        test::HandsOf("N:AQ975.K8652.KT2. 84.A73.AQ3.AJ652 KJT3.QJT94..KT87 62..AKQJT9876543.");
+    return board;
+  }
+
+  static QImage Picture(const Board& board, const Settings& settings, QSize size) {
+    TableView view;
+    return Picture(view, board, settings, size);
+  }
+  static QImage Picture(TableView& view, const Board& board, const Settings& settings, QSize size) {
+    view.resize(size);
+    view.Show(board, settings);
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(view.palette().color(QPalette::Window));
+    view.render(&picture);
+    return picture;
+  }
+};
+
+TEST_F(TableViewTest, PaintsEachDesignColouringAndDisplayItsOwnWay) {
+  std::vector<QImage> pictures;
+  for (const bool fourColours : {false, true}) {
+    Settings settings;
+    settings.SuitColour = fourColours;
+    for (int design = 1; design <= 3; ++design) {
+      settings.CardDesign = design;
+      pictures.push_back(Picture(LongSuits(), settings, {560, 560}));
+    }
+    settings.CardsFaces = false;
+    pictures.push_back(Picture(LongSuits(), settings, {560, 560}));
+  }
+  pictures.push_back(Picture(Board(), Settings(), {560, 560}));
+  for (std::size_t i = 0; i < pictures.size(); ++i) {
+    for (std::size_t j = 0; j < i; ++j) EXPECT_NE(pictures[i], pictures[j]) << i << " and " << j;
+  }
+}
+
+TEST_F(TableViewTest, ForgetsThePicturesOfCardsWhenSettingsOrSizeChange) {
+  const std::tuple<int, bool, QSize> kSteps[] = {
+      {1, true, {560, 560}}, {2, true, {560, 560}}, {2, false, {560, 560}}, {2, false, {760, 680}}};
+  TableView view;
+  for (const auto& [design, fourColours, size] : kSteps) {
+    Settings settings;
+    settings.CardDesign = design;
+    settings.SuitColour = fourColours;
+    EXPECT_EQ(Picture(view, LongSuits(), settings, size), Picture(LongSuits(), settings, size))
+        << "design " << design;
+  }
+}
+
+TEST_F(TableViewTest, FitsTextIntoItsAreaWhateverTheFont) {
+  const Board board = LongSuits();
+  Settings settings;
+  for (const double points : {6.0, 24.0, 96.0}) {
+    settings.HGFont[0].Size = settings.SuitFontSize = points;
+    for (const QSizeF size : {QSizeF(380, 340), QSizeF(760, 680), QSizeF(3840, 2160)}) {
+      const TableLayout layout = LayOutTable(size, board.Hands, HandDisplay::Text);
+      const TextMeasures measures = MeasureText(layout, board.Hands, settings, 96);
+      for (const Seat seat : kAllSeats) {
+        const QSizeF needed = TextPanelSize(measures, board.Hands[seat]);
+        const QSizeF room = layout.hands[seat].area.size();
+        EXPECT_LE(needed.width(), room.width()) << points << " " << SeatName[seat];
+        EXPECT_LE(needed.height(), room.height()) << points << " " << SeatName[seat];
+      }
+      EXPECT_GE(measures.font.pixelSize(), 6);
+    }
+  }
+}
+
+TEST_F(TableViewTest, TellsAScreenReaderWhatItShows) {
+  TableView view;
+  EXPECT_EQ(view.accessibleName(), u"Table");
+  view.Show(LongSuits(), Settings());
+  const QString first = view.accessibleDescription();
+  EXPECT_TRUE(first.contains(QStringLiteral("North: spades A Q 9 7 5; hearts K 8 6 5 2")));
+  view.Show(Board(), Settings());
+  EXPECT_FALSE(view.accessibleDescription().contains(QStringLiteral("spades")));
+}
+
+TEST_F(TableViewTest, SwitchesColourSchemesAndBack) {
+  const QColor before = QApplication::palette().color(QPalette::Window);
+  ApplyColourScheme(*qApp, 2);
+  EXPECT_TRUE(IsDark(QApplication::palette()));
+  ApplyColourScheme(*qApp, 1);
+  EXPECT_FALSE(IsDark(QApplication::palette()));
+  ApplyColourScheme(*qApp, 0);
+  EXPECT_EQ(QApplication::palette().color(QPalette::Window), before);
+}
+
+TEST_F(TableViewTest, CanReadSuitsAndTextOnEveryBackground) {
+  constexpr double kLeast = 3.0;  // WCAG 2.1, large text
+  for (const int scheme : {1, 2}) {
+    ApplyColourScheme(*qApp, scheme);
+    const QPalette palette = QApplication::palette();
+    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::AlternateBase}) {
+      const QColor background = palette.color(role);
+      EXPECT_GE(Contrast(background, palette.color(QPalette::Text)), 7.0);
+      for (const Suit suit : kAllSuits) {
+        for (const bool fourColours : {false, true}) {
+          EXPECT_GE(Contrast(background, SuitColourOnWindow(suit, fourColours, palette)), kLeast)
+              << SuitName[suit] << " scheme " << scheme;
+          EXPECT_GE(Contrast(Qt::white, SuitColourOnCard(suit, fourColours)), kLeast);
+        }
+      }
+    }
+  }
+}
+
+TEST_F(TableViewTest, ReadsColourNumbersWithRedInTheLowestByte) {
+  QPalette palette;
+  palette.setColor(QPalette::WindowText, QColor(1, 2, 3));
+  EXPECT_EQ(ToColour({0x00112233U}, palette), QColor(0x33, 0x22, 0x11));
+  EXPECT_EQ(ToColour(kWindowTextColour, palette), QColor(1, 2, 3));
+  EXPECT_EQ(FromColour(QColor(0x33, 0x22, 0x11)).value, 0x00112233U);
+}
+
+}  // namespace
+}  // namespace tricklet::ui

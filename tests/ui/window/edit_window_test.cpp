@@ -1,0 +1,399 @@
+// The editing of hands in the real main window, and its dialog.
+#include <QAction>
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QToolButton>
+
+#include "core/statistics.h"
+#include "tests/support/calls.h"
+#include "tests/ui/window_fixture.h"
+#include "ui/background/later.h"
+#include "ui/dialogs/frmSwap.h"
+#include "ui/table/edit_layout.h"
+#include "ui/table/table_view.h"
+
+namespace tricklet::ui {
+namespace {
+
+constexpr Card kSpadeAce{Suit::Spades, Rank::Ace};
+constexpr Card kSpadeKing{Suit::Spades, Rank::King};
+constexpr Card kHeartAce{Suit::Hearts, Rank::Ace};
+constexpr Card kClubTen{Suit::Clubs, Rank::Ten};
+
+/// Board 1: North, the dealer, has the spades, East the hearts, South the diamonds, West the clubs.
+class EditWindowTest : public WindowTest {
+ protected:
+  void OpenEditing(int method) {
+    session.settings.EditMethod = method;
+    Open();
+    Click("cmdEdit");
+    ASSERT_TRUE(Find<QWidget>("fraEdit")->isVisible());
+  }
+
+  TableView* Table() const { return window->findChild<TableView*>(); }
+  HandFrame FrameOf(Card card) const { return FrameHolding(session.board.Hands, card); }
+  EditLayout Layout() const { return LayOutEdit(Table()->size(), session.board.Hands); }
+  /// Where the card can be seized: no other one lies over its index.
+  QPoint PointOf(Card card) const {
+    const EditLayout layout = Layout();
+    for (const PlacedCard& placed : layout.table.cards) {
+      if (placed.card == card) return (placed.rect.topLeft() + QPointF(4, 4)).toPoint();
+    }
+    const QRectF& place = layout.packPlaces.at(static_cast<std::size_t>(card.Index()));
+    return (place.topLeft() + QPointF(4, 4)).toPoint();
+  }
+  QPoint PointOf(HandFrame frame) const { return Layout().Caption(frame).center().toPoint(); }
+
+  void Press(QPoint at) const { QTest::mousePress(Table(), Qt::LeftButton, Qt::NoModifier, at); }
+  void MoveTo(QPoint at) const {
+    QMouseEvent move(QEvent::MouseMove, at, Table()->mapToGlobal(at), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QCoreApplication::sendEvent(Table(), &move);
+  }
+  void Release(QPoint at) const {
+    QTest::mouseRelease(Table(), Qt::LeftButton, Qt::NoModifier, at);
+  }
+  void Drag(Card card, QPoint to) const {
+    const QPoint from = PointOf(card);
+    Press(from);
+    MoveTo((from + to) / 2);
+    MoveTo(to);
+    Release(to);
+  }
+  void ClickAt(QPoint at) const { QTest::mouseClick(Table(), Qt::LeftButton, Qt::NoModifier, at); }
+  void TypeHand(int seat, const char* text) const {
+    auto* line = Find<QLineEdit>(("txtHand_" + std::to_string(seat)).c_str());
+    line->setFocus();
+    line->selectAll();
+    QTest::keyClicks(line, QString::fromLatin1(text));
+  }
+  QString Line(int seat) const {
+    return Find<QLineEdit>(("txtHand_" + std::to_string(seat)).c_str())->text();
+  }
+
+  bool Enabled(const char* name) const { return Find<QPushButton>(name)->isEnabled(); }
+  bool Shown(const char* name) const { return Find<QWidget>(name)->isVisible(); }
+  bool Offered(const char* action) const { return Find<QAction>(action)->isEnabled(); }
+  int CardsDealt() const {
+    int cards = 0;
+    for (const int count : GetStats(session.board.Hands).SeatCardCount) cards += count;
+    return cards;
+  }
+
+  void ExpectNothingLeftOfEditing(const char* after) const {
+    EXPECT_FALSE(Shown("fraEdit")) << after;
+    EXPECT_TRUE(Shown("cmbBoard")) << after;
+    EXPECT_EQ(Find<QPushButton>("cmdEdit")->text(), QStringLiteral("Edit")) << after;
+    for (const char* name : {"mnuNext", "mnuGoTo", "mnuNewLibrary"}) {
+      EXPECT_TRUE(Offered(name)) << name << " after " << after;
+    }
+    for (const char* name : {"mnuRandom", "mnuFillFourth", "mnuUndoFill"}) {
+      EXPECT_FALSE(Offered(name)) << name << " after " << after;
+    }
+    const HandTable before = session.board.Hands;
+    Drag(kSpadeAce, PointOf(HandFrame::Pack));
+    EXPECT_EQ(session.board.Hands, before) << after;
+  }
+};
+
+TEST_F(EditWindowTest, EditingShowsThePackAndTakesTheRestAway) {
+  session.board.MakeableValid = true;
+  test::SetAuction(session.board, "1S P P P");
+  OpenEditing(1);
+  for (const char* name :
+       {"cmbLibs", "cmbBoard", "flexBids", "lblContract", "fraStats", "fraMakeable"}) {
+    EXPECT_FALSE(Shown(name)) << name;
+  }
+  for (const char* name : {"cmdBidding", "cmdDDS", "cmdRandom", "cmdFillFourth", "cmdUndoFill",
+                           "cmdUndoClear", "cmdSave"}) {
+    EXPECT_FALSE(Enabled(name)) << name;
+  }
+  for (const char* name : {"mnuBidding", "mnuNext", "mnuPrevious", "mnuGoTo", "mnuNewLibrary"}) {
+    EXPECT_FALSE(Offered(name)) << name;
+  }
+  EXPECT_TRUE(Enabled("cmdClear"));
+  Key(Qt::Key_PageDown);
+  EXPECT_EQ(session.board.BoardNumber, 1);
+  EXPECT_FALSE(session.board.HandChanged) << "nothing has been edited yet";
+  EXPECT_TRUE(session.board.MakeableValid);
+  Click("cmdEdit");
+  ExpectNothingLeftOfEditing("the button");
+  EXPECT_TRUE(Shown("lblContract"));
+  EXPECT_TRUE(Shown("fraMakeable"));
+}
+
+TEST_F(EditWindowTest, CardsAreDraggedBetweenHandsAndPack) {
+  session.board.MakeableValid = true;
+  OpenEditing(1);
+  Drag(kSpadeAce, PointOf(HandFrame::North));
+  Drag(kSpadeAce, Layout().table.centre.center().toPoint());
+  Drag(kSpadeAce, QPoint(-50, 40));
+  EXPECT_FALSE(session.board.HandChanged) << "dropped at home, in the middle and outside";
+  EXPECT_TRUE(session.board.MakeableValid);
+  Drag(kSpadeAce, PointOf(HandFrame::East));
+  EXPECT_EQ(FrameOf(kSpadeAce), HandFrame::North) << "East is full";
+  EXPECT_EQ(host.beeps, 1);
+  EXPECT_FALSE(session.board.HandChanged);
+
+  Drag(kHeartAce, PointOf(HandFrame::Pack));
+  EXPECT_EQ(FrameOf(kHeartAce), HandFrame::Pack);
+  EXPECT_TRUE(session.board.HandChanged);
+  EXPECT_FALSE(session.board.MakeableValid);
+  EXPECT_TRUE(
+      Table()->accessibleDescription().contains(QStringLiteral("Pack: spades void; hearts A")));
+  Drag(kSpadeAce, Layout().Area(HandFrame::East).center().toPoint());
+  EXPECT_EQ(FrameOf(kSpadeAce), HandFrame::East) << "there is a place by now";
+  Drag(kHeartAce, PointOf(HandFrame::North));
+  EXPECT_EQ(FrameOf(kHeartAce), HandFrame::North) << "from the pack";
+  EXPECT_TRUE(GetStats(session.board.Hands).AllHandsComplete);
+
+  const QPoint from = PointOf(kClubTen);
+  Press(from);
+  Release(from);
+  EXPECT_EQ(FrameOf(kClubTen), HandFrame::West) << "a click is no drag";
+  Press(from);
+  MoveTo(PointOf(HandFrame::Pack));
+  FocusKey(Qt::Key_Escape);
+  Release(PointOf(HandFrame::Pack));
+  EXPECT_EQ(FrameOf(kClubTen), HandFrame::West) << "Escape lets the card go home";
+  Press(from);
+  MoveTo(PointOf(HandFrame::Pack));
+  Key(Qt::Key_Delete, Qt::ControlModifier | Qt::ShiftModifier);
+  Release(PointOf(HandFrame::North));
+  EXPECT_EQ(CardsDealt(), 0) << "cleared under the mouse";
+}
+
+TEST_F(EditWindowTest, CardsAreClickedToTheirHand) {
+  OpenEditing(2);
+  Click("cmdClear");
+  ClickAt(PointOf(kSpadeAce));
+  ClickAt(PointOf(HandFrame::West));
+  EXPECT_EQ(FrameOf(kSpadeAce), HandFrame::West);
+  ClickAt(PointOf(kSpadeAce));
+  ClickAt(PointOf(HandFrame::Pack));
+  EXPECT_EQ(FrameOf(kSpadeAce), HandFrame::Pack) << "and back";
+  ClickAt(PointOf(HandFrame::South));
+  ClickAt(PointOf(kSpadeAce));
+  ClickAt(PointOf(kSpadeKing));
+  EXPECT_EQ(FrameOf(kSpadeAce), HandFrame::South) << "the hand first, and then its cards";
+  EXPECT_EQ(FrameOf(kSpadeKing), HandFrame::South);
+  ClickAt(PointOf(HandFrame::South));
+  ClickAt(PointOf(kClubTen));
+  ClickAt(PointOf(kHeartAce));  // another card of the pack is chosen instead
+  ClickAt(PointOf(HandFrame::North));
+  EXPECT_EQ(FrameOf(kClubTen), HandFrame::Pack);
+  EXPECT_EQ(FrameOf(kHeartAce), HandFrame::North);
+  EXPECT_EQ(CardsDealt(), 3);
+  Drag(kClubTen, PointOf(HandFrame::North));
+  EXPECT_EQ(FrameOf(kClubTen), HandFrame::Pack) << "dragging is another method";
+}
+
+TEST_F(EditWindowTest, KeysMoveCardsToo) {
+  OpenEditing(1);
+  Key(Qt::Key_Delete, Qt::ControlModifier | Qt::ShiftModifier);
+  FocusKeys("SAN");
+  FocusKeys("H10S");
+  FocusKeys("SK");
+  FocusKey(Qt::Key_Left);
+  EXPECT_EQ(FrameOf(kSpadeAce), HandFrame::North);
+  EXPECT_EQ(FrameOf({Suit::Hearts, Rank::Ten}), HandFrame::South);
+  EXPECT_EQ(FrameOf(kSpadeKing), HandFrame::West);
+  FocusKey(Qt::Key_Right);
+  FocusKeys("DAKQcT");
+  EXPECT_EQ(session.board.Hands[Seat::East][Suit::Diamonds], AddSpace("AKQ"));
+  EXPECT_EQ(FrameOf(kClubTen), HandFrame::East) << "cards typed for a hand, ranks alone";
+  FocusKey(Qt::Key_Escape);
+  FocusKeys("ct");
+  FocusKey(Qt::Key_Delete);
+  EXPECT_EQ(FrameOf(kClubTen), HandFrame::Pack);
+  EXPECT_EQ(CardsDealt(), 6);
+}
+
+TEST_F(EditWindowTest, HandsAreTypedAndRefusedWithTheReason) {
+  OpenEditing(3);
+  EXPECT_EQ(Line(0), QStringLiteral("AKQJT98765432.-.-.-"));
+  EXPECT_TRUE(Find<QLineEdit>("txtHand_0")->hasFocus());
+  FocusKey(Qt::Key_Tab);
+  EXPECT_FALSE(session.board.HandChanged) << "looked at";
+  TypeHand(0, "ak102...");
+  FocusKey(Qt::Key_Return);
+  EXPECT_EQ(session.board.Hands[Seat::North][Suit::Spades], AddSpace("AK12"));
+  EXPECT_EQ(Line(0), QStringLiteral("AKT2.-.-.-"));
+  TypeHand(1, "AQ.3..");
+  const HandTable before = session.board.Hands;
+  host.ExpectTell("\u2660A is held by North");
+  FocusKey(Qt::Key_Return);
+  EXPECT_EQ(Line(1), QStringLiteral("AQ.3..")) << "to be corrected";
+  EXPECT_TRUE(Find<QLineEdit>("txtHand_1")->hasFocus());
+  host.ExpectTell("\u2660A is held by North");
+  FocusKey(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_TRUE(session.board.HandChanged) << "not saved without the hand that was being typed";
+  EXPECT_EQ(session.board.Hands, before);
+  TypeHand(1, "Q.3..");
+  host.ExpectAskWith("Overwrite existing board 1?", Answer::Yes);
+  FocusKey(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(session.board.Hands[Seat::East][Suit::Hearts], AddSpace("3")) << "taken over and saved";
+  EXPECT_FALSE(session.board.HandChanged);
+  EXPECT_TRUE(Shown("fraEdit"));
+  TypeHand(1, "Q.32..");
+  FocusKey(Qt::Key_Tab);
+  const auto taken = [this] { return session.board.HandChanged; };
+  EXPECT_TRUE(QTest::qWaitFor(taken)) << "by leaving the line";
+  EXPECT_EQ(session.board.Hands[Seat::East][Suit::Hearts], AddSpace("32"));
+  TypeHand(2, "X.3..");
+  host.ExpectTell("X does not begin with a rank");
+  EXPECT_FALSE(window->close());
+  FocusKey(Qt::Key_Escape);
+  EXPECT_EQ(Line(2), QStringLiteral("-.-.AKQJT98765432.-")) << "given up";
+}
+
+TEST_F(EditWindowTest, ABoardIsClearedFilledSwappedAndSavedByClicks) {
+  OpenEditing(2);
+  Click("cmdClear");
+  Click("cmdUndoClear");
+  EXPECT_EQ(session.board.Hands[Seat::North][Suit::Spades].Count(), 13);
+  EXPECT_FALSE(Enabled("cmdUndoClear"));
+  Click("cmdClear");
+  ClickAt(PointOf(HandFrame::North));
+  for (const Card card : {kSpadeAce, kSpadeKing, kHeartAce}) ClickAt(PointOf(card));
+  const HandTable partial = session.board.Hands;
+  Click("cmdRandom");
+  EXPECT_TRUE(GetStats(session.board.Hands).AllHandsComplete);
+  EXPECT_EQ(FrameOf(kHeartAce), HandFrame::North);
+  EXPECT_FALSE(Enabled("cmdRandom"));
+  EXPECT_TRUE(Enabled("cmdPlay"));
+  Click("cmdUndoFill");
+  EXPECT_EQ(session.board.Hands, partial);
+  EXPECT_FALSE(Enabled("cmdUndoFill"));
+  Click("cmdRandom");
+  const HandTable full = session.board.Hands;
+  for (const Suit suit : kAllSuits) session.board.Hands[Seat::West][suit] = Holding();
+  window->Display();
+  Click("cmdFillFourth");
+  EXPECT_EQ(session.board.Hands, full);
+
+  Later(window.get(), [] {
+    auto* dialog = qobject_cast<frmSwap*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    const auto press = [&](const char* name) {
+      dialog->findChild<QAbstractButton*>(QString::fromLatin1(name))->click();
+    };
+    EXPECT_FALSE(dialog->findChild<QCheckBox*>(QStringLiteral("chkAuction"))->isEnabled());
+    press("OptFrom_1");
+    press("OptTo_3");
+    press("cmdSwap");
+    press("OptFromSuit_3");
+    press("OptToSuit_0");
+    press("cmdSwapSuit");
+    press("cmdRotate_0");
+    press("cmdRotate_2");
+    press("cmdRotate_1");
+    press("cmdCancel");
+  });
+  Click("cmdSwap");
+  HandTable expected;  // all of that comes to half a turn with East and West exchanged before
+  expected[Seat::North] = full[Seat::South];
+  expected[Seat::South] = full[Seat::North];
+  expected[Seat::East] = full[Seat::East];
+  expected[Seat::West] = full[Seat::West];
+  for (const Seat seat : kAllSeats) {
+    std::swap(expected[seat][Suit::Spades], expected[seat][Suit::Clubs]);
+  }
+  EXPECT_EQ(session.board.Hands, expected);
+  host.ExpectAskWith("Overwrite existing board 1?", Answer::Yes);
+  Click("cmdSave");
+  EXPECT_FALSE(session.board.HandChanged);
+  EXPECT_TRUE(Shown("fraEdit")) << "saving goes on with editing";
+  std::string text;
+  for (const Seat seat : kAllSeats) {
+    for (const Suit suit : kAllSuits) text += HoldingText(expected[seat][suit]) + "\r\n";
+  }
+  EXPECT_TRUE(test::ReadFile(session.BoardPath(1)).starts_with(text));
+  Click("cmdEdit");
+  Click("lblNext");
+  Click("lblPrevious");
+  EXPECT_EQ(session.board.Hands, expected) << "read back";
+  Click("cmdEdit");
+  EXPECT_FALSE(Enabled("cmdUndoClear")) << "not of a board that was loaded since";
+  EXPECT_FALSE(Enabled("cmdUndoFill"));
+}
+
+TEST_F(EditWindowTest, TheAuctionGoesRoundTheTableOnlyWhenItIsTicked) {
+  Open();
+  test::SetAuction(session.board, "1S P P P");
+  window->Display();
+  Later(window.get(), [this] {
+    auto* dialog = qobject_cast<frmSwap*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    const auto press = [&](const char* name) {
+      dialog->findChild<QAbstractButton*>(QString::fromLatin1(name))->click();
+    };
+    press("cmdRotate_0");
+    EXPECT_EQ(session.board.Declarer, Seat::North);
+    press("chkAuction");
+    press("cmdRotate_0");
+    EXPECT_EQ(session.board.Declarer, Seat::East);
+    EXPECT_EQ(Find<QLabel>("lblContract")->accessibleName(), QStringLiteral("1S by East"));
+    test::SetAuction(session.board, "P P P P 1S");
+    const HandTable before = session.board.Hands;
+    host.ExpectTell("The auction cannot be taken along");
+    press("cmdRotate_0");
+    EXPECT_EQ(session.board.Hands, before);
+    press("cmdCancel");
+  });
+  Key(Qt::Key_R, Qt::ControlModifier);
+  EXPECT_EQ(session.board.Hands[Seat::South][Suit::Spades].Count(), 13);
+}
+
+TEST_F(EditWindowTest, EditingInMidPlayIsAskedAbout) {
+  Open();
+  test::SetAuction(session.board, "1S P P P");
+  window->Display();
+  Click("cmdPlay");
+  FocusKeys("HA");
+  for (const Answer answer : {Answer::No, Answer::Yes}) {
+    host.ExpectAskWith("Confirm that you wish to edit this hand", answer);
+    Click("cmdEdit");
+    EXPECT_EQ(session.board.PlayMode, answer == Answer::No);
+    EXPECT_EQ(Shown("fraEdit"), answer == Answer::Yes);
+  }
+  EXPECT_EQ(FrameOf(kHeartAce), HandFrame::East) << "no card stays on the table";
+}
+
+TEST_F(EditWindowTest, NothingIsLeftOfEditingThatEnds) {
+  const auto file = folder.Path() / "one.pbn";
+  test::WriteFile(file,
+                  "% PBN 2.1\n[Board \"5\"]\n[Deal \"N:AKQJT98765432... .AKQJT98765432.. "
+                  "..AKQJT98765432. ...AKQJT98765432\"]\n\n");
+  const struct {
+    const char* name;
+    std::function<void()> leave;
+  } ways[] = {
+      {"the key", [this] { Key(Qt::Key_H, Qt::ControlModifier); }},
+      {"playing", [this] { Click("cmdPlay"); }},
+      {"reading the libraries anew", [this] { Key(Qt::Key_F5); }},
+      {"an import",
+       [&] {
+         host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
+         host.ExpectTell("Hand 5 has been saved to the library - Club");
+         window->ImportFiles({file});
+       }},
+  };
+  Open();
+  for (const auto& [name, leave] : ways) {
+    test::SetAuction(session.board, "1S P P P");
+    window->Display();
+    Click("cmdEdit");
+    ASSERT_TRUE(Shown("fraEdit")) << name;
+    leave();
+    ExpectNothingLeftOfEditing(name);
+    session.board.PlayMode = false;
+    session.board.HandChanged = false;
+  }
+}
+
+}  // namespace
+}  // namespace tricklet::ui

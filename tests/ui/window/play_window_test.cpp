@@ -1,0 +1,386 @@
+// The auction dialog and the play in the real main window.
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTimer>
+#include <QToolButton>
+
+#include "tests/support/calls.h"
+#include "tests/ui/window_fixture.h"
+#include "ui/background/later.h"
+#include "ui/control/play_control.h"
+#include "ui/dialogs/frmBidding.h"
+#include "ui/table/table_view.h"
+
+namespace tricklet::ui {
+namespace {
+
+/// Board 1: North, the dealer, has the spades, East the hearts, South the diamonds, West the clubs.
+class PlayWindowTest : public WindowTest {
+ protected:
+  /// The next auction dialog is worked by `work`, which has to close it.
+  template <class Work>
+  void Expect(const Work& work) {
+    Later(window.get(), [steps = work] {
+      auto* dialog = qobject_cast<frmBidding*>(QApplication::activeModalWidget());
+      ASSERT_NE(dialog, nullptr);
+      QApplication::setActiveWindow(dialog);
+      steps(*dialog);
+      EXPECT_FALSE(dialog->isVisible());
+      if (dialog->isVisible()) dialog->done(QDialog::Rejected);
+    });
+  }
+  static void Press(frmBidding& dialog, const char* name) {
+    dialog.findChild<QPushButton*>(QString::fromLatin1(name))->click();
+  }
+  void Bid(const std::string& auction) {
+    test::SetAuction(session.board, auction);
+    window->Display();
+  }
+  void StartPlay(const std::string& auction = "1S P P P") {
+    Bid(auction);
+    Click("cmdPlay");
+    ASSERT_TRUE(session.board.PlayMode);
+  }
+
+  const PlayState& Now() const { return window->findChild<PlayControl*>()->Play().Now(); }
+  TableView* Table() const { return window->findChild<TableView*>(); }
+  /// Clicks on the first card of the hand on play that may be played.
+  void ClickLegalCard() const {
+    const CardPlay& play = window->findChild<PlayControl*>()->Play();
+    for (const PlacedCard& placed : Table()->Layout().cards) {
+      if (!play.IsLegal(placed.card)) continue;
+      const QPointF corner = placed.rect.topLeft() + QPointF(4, 4);  // no other card lies over it
+      QTest::mouseClick(Table(), Qt::LeftButton, Qt::NoModifier, corner.toPoint());
+      return;
+    }
+    ADD_FAILURE() << "no legal card lies on the table";
+  }
+  void ClickCards(int count) const {
+    for (int i = 0; i < count; ++i) ClickLegalCard();
+  }
+
+  QString Text(const char* label) const { return Find<QLabel>(label)->accessibleName(); }
+  QString Tricks() const {
+    return Find<QLabel>("lblTricks_0")->text() + QStringLiteral(" ") +
+           Find<QLabel>("lblTricks_1")->text();
+  }
+  bool Shown(const char* name) const { return Find<QWidget>(name)->isVisible(); }
+  bool Offered(const char* action) const { return Find<QAction>(action)->isEnabled(); }
+
+  void ExpectNothingLeftOfPlay(const char* after) const {
+    EXPECT_FALSE(session.board.PlayMode) << after;
+    EXPECT_FALSE(Find<QTimer>("timQuit")->isActive()) << after;
+    for (const char* name : {"fraPlay", "lblTricks_0", "lblTricks_1", "lblScore"}) {
+      EXPECT_FALSE(Shown(name)) << name << " after " << after;
+    }
+    for (const char* name : {"mnuUndoCard", "mnuClaim", "mnuGatherTrick"}) {
+      EXPECT_FALSE(Offered(name)) << name << " after " << after;
+    }
+    EXPECT_TRUE(Offered("mnuBidding")) << after;
+    EXPECT_EQ(Find<QPushButton>("cmdPlay")->text(), QStringLiteral("Play")) << after;
+    EXPECT_EQ(Shown("fraStats"), HasCards(session.board.Hands)) << after;
+    const auto* next = Find<QToolButton>("lblNext");
+    EXPECT_EQ(next->palette().color(QPalette::Button), window->palette().color(QPalette::Button));
+    QPoint trick = Table()->rect().center();
+    QTest::mouseClick(Table(), Qt::LeftButton, Qt::NoModifier, trick);
+    EXPECT_FALSE(session.board.PlayMode) << after;
+  }
+};
+
+TEST_F(PlayWindowTest, AnAuctionIsTypedWhileGridAndTableFollow) {
+  Open();
+  const auto* grid = Find<QTableWidget>("flexBids");
+  Click("cmdBid");  // hidden: the dialog brings it back for a while
+  Expect([&](frmBidding& dialog) {
+    const auto text = [&](const char* name) {
+      return dialog.findChild<QLabel*>(QString::fromLatin1(name))->text();
+    };
+    const auto enabled = [&](const char* name) {
+      return dialog.findChild<QPushButton*>(QString::fromLatin1(name))->isEnabled();
+    };
+    EXPECT_TRUE(grid->isVisible());
+    EXPECT_EQ(text("lblModifyBidding"), QStringLiteral("North to call"));
+    FocusKeys("1");
+    EXPECT_EQ(text("lblTyped"), QStringLiteral("1..."));
+    FocusKey(Qt::Key_Backspace);
+    EXPECT_EQ(text("lblTyped"), QString());
+    FocusKeys("1sx2");
+    EXPECT_EQ(grid->item(0, 1)->text(), QStringLiteral(u"1\u2660"));
+    EXPECT_EQ(grid->item(0, 2)->text(), QStringLiteral("Dbl"));
+    EXPECT_EQ(text("lblModifyBidding"), QStringLiteral("South to call"));
+    EXPECT_TRUE(enabled("cmdRdb"));
+    FocusKey(Qt::Key_Backspace);  // the half-typed call
+    FocusKey(Qt::Key_Backspace);  // the double
+    EXPECT_EQ(grid->item(0, 2), nullptr);
+    EXPECT_EQ(host.beeps, 0);
+    FocusKey(Qt::Key_Return);
+    FocusKeys("1c");
+    EXPECT_EQ(host.beeps, 2) << "OK, and one club over one spade";
+    Press(dialog, "cmdBid_9");
+    EXPECT_FALSE(enabled("cmdBid_9"));
+    EXPECT_TRUE(enabled("cmdBid_10"));
+    FocusKeys("ppp");
+    EXPECT_EQ(text("lblModifyBidding"), QStringLiteral("The auction is over"));
+    EXPECT_FALSE(enabled("cmdPass"));
+    EXPECT_TRUE(session.board.Calls.Empty()) << "the board changes with OK only";
+    FocusKey(Qt::Key_Return);
+  });
+  Key(Qt::Key_B, Qt::ControlModifier);
+  EXPECT_EQ(session.board.Contract, "2NT");
+  EXPECT_TRUE(session.board.HandChanged);
+  EXPECT_EQ(Text("lblContract"), QStringLiteral("2NT by East"));
+  EXPECT_FALSE(grid->isVisible());
+}
+
+TEST_F(PlayWindowTest, FocusOfTheDialogStaysWhereItIsNotACancel) {
+  Open();
+  Expect([&](frmBidding& dialog) {
+    const auto focus = [&] { return dialog.focusWidget()->objectName(); };
+    EXPECT_EQ(focus(), QStringLiteral("cmdPass"));
+    dialog.findChild<QPushButton*>(QStringLiteral("cmdAllPass"))->setFocus();
+    FocusKey(Qt::Key_Space);
+    EXPECT_EQ(focus(), QStringLiteral("cmdOK"));
+    FocusKey(Qt::Key_Backspace);
+    EXPECT_EQ(focus(), QStringLiteral("cmdPass"));
+    dialog.findChild<QPushButton*>(QStringLiteral("cmdClear"))->setFocus();
+    FocusKey(Qt::Key_Space);
+    EXPECT_EQ(focus(), QStringLiteral("cmdPass"));
+    EXPECT_TRUE(dialog.Entry().Calls().Empty());
+    FocusKeys("pppp");
+    FocusKey(Qt::Key_Space);  // on OK
+  });
+  Click("cmdBidding");
+  EXPECT_EQ(session.board.Contract, kAllPass);
+}
+
+TEST_F(PlayWindowTest, LeavingTheDialogAsksAndRestores) {
+  Open();
+  Bid("1S P P P");
+  void (*const ways[])(frmBidding&) = {
+      [](frmBidding& dialog) { Press(dialog, "cmdCancel"); },
+      [](frmBidding& /*dialog*/) { FocusKey(Qt::Key_Escape); },
+      [](frmBidding& dialog) { dialog.close(); },
+  };
+  const auto* grid = Find<QTableWidget>("flexBids");
+  for (const auto& leave : ways) {
+    Expect([&](frmBidding& dialog) {
+      Press(dialog, "cmdClear");
+      FocusKeys("7");
+      FocusKey(Qt::Key_Return);
+      EXPECT_TRUE(dialog.isVisible()) << "half a call does not confirm the empty auction";
+      FocusKeys("c");
+      host.ExpectAskWith("Any bidding changes will be lost", Answer::Cancel);
+      leave(dialog);
+      EXPECT_TRUE(dialog.isVisible());
+      EXPECT_EQ(grid->item(0, 1)->text(), QStringLiteral(u"7\u2663"));
+      host.ExpectAskWith("Any bidding changes will be lost", Answer::OK);
+      leave(dialog);
+    });
+    Click("cmdBidding");
+    EXPECT_EQ(session.board.Contract, "1S");
+    EXPECT_EQ(grid->item(0, 1)->text(), QStringLiteral(u"1\u2660"));
+    EXPECT_EQ(grid->item(0, 2)->text(), QStringLiteral("Pass"));
+    EXPECT_FALSE(session.board.HandChanged);
+  }
+}
+
+TEST_F(PlayWindowTest, TheDialogCoversNeitherTheAuctionNorTheMiddleOfTheTable) {
+  Open();
+  for (const QSize size : {QSize(1024, 700), QSize(1280, 800)}) {
+    window->resize(size);
+    QCoreApplication::processEvents();
+    Expect([&](frmBidding& dialog) {
+      const auto place = [](const QWidget* widget, QRect part) {
+        return part.translated(widget->mapToGlobal(QPoint()));
+      };
+      const QRect frame = dialog.frameGeometry();
+      const auto* grid = Find<QWidget>("flexBids");
+      EXPECT_FALSE(frame.intersects(place(grid, grid->rect())));
+      EXPECT_FALSE(frame.intersects(place(Table(), Table()->Layout().centre.toRect())));
+      EXPECT_TRUE(window->frameGeometry().contains(frame));
+      host.ExpectAskWith("Any bidding changes will be lost", Answer::OK);
+      dialog.close();
+    });
+    Click("cmdBidding");
+  }
+}
+
+TEST_F(PlayWindowTest, BiddingInAPresentationShowsNoAnswers) {
+  session.board.MakeableValid = true;
+  Open();
+  session.board.MakeableValid = true;
+  Key(Qt::Key_F11);
+  const auto look = [this](bool answers) {
+    Expect([this, answers](frmBidding& dialog) {
+      EXPECT_TRUE(Shown("flexBids"));
+      EXPECT_EQ(Shown("lvwMake"), answers);
+      host.ExpectAskWith("Any bidding changes will be lost", Answer::OK);
+      Press(dialog, "cmdCancel");
+    });
+    Key(Qt::Key_B, Qt::ControlModifier);
+  };
+  look(false);
+  Key(Qt::Key_F11, Qt::ShiftModifier);  // unless they are switched on
+  look(true);
+}
+
+TEST_F(PlayWindowTest, PlayComesAfterTheAuctionThatItNeeds) {
+  Open();
+  const auto cancel = [this](frmBidding& dialog) {
+    host.ExpectAskWith("Any bidding changes will be lost", Answer::OK);
+    Press(dialog, "cmdCancel");
+  };
+  const auto passOut = [this](frmBidding& dialog) {
+    Press(dialog, "cmdAllPass");
+    host.ExpectTell("The bidding was All Pass");
+    Press(dialog, "cmdOK");
+  };
+  const auto bid = [](frmBidding& dialog) {
+    Press(dialog, "cmdClear");
+    FocusKeys("1nppp");
+    Press(dialog, "cmdOK");
+  };
+  const struct {
+    std::function<void(frmBidding&)> auction;
+    const char* score;
+    bool plays;
+  } steps[] = {{cancel, "", false}, {passOut, "All Pass : 0", false}, {bid, "", true}};
+  for (const auto& [auction, score, plays] : steps) {
+    Expect(auction);
+    QApplication::setActiveWindow(window.get());
+    Key(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(session.board.PlayMode, plays);
+    EXPECT_EQ(Text("lblScore"), QString::fromLatin1(score));
+    EXPECT_EQ(Shown("lblTricks_0"), plays);
+  }
+  EXPECT_EQ(Find<QPushButton>("cmdPlay")->text(), QStringLiteral("Stop play"));
+  EXPECT_EQ(window->focusWidget(), Table());
+}
+
+TEST_F(PlayWindowTest, AHandThatIsNotCompleteCanBeBidButNotPlayed) {
+  Open();
+  Click("lblNext");  // board 2 is empty
+  EXPECT_FALSE(Find<QPushButton>("cmdPlay")->isEnabled());
+  EXPECT_FALSE(Offered("mnuPlay"));
+  Expect([](frmBidding& dialog) {
+    FocusKeys("3nppp");
+    Press(dialog, "cmdOK");
+  });
+  Click("cmdBidding");
+  EXPECT_EQ(Text("lblContract"), QStringLiteral("3NT by East"));
+}
+
+TEST_F(PlayWindowTest, AWholeBoardIsPlayedByClicks) {
+  Open();
+  StartPlay();
+  EXPECT_FALSE(Shown("fraStats"));
+  EXPECT_FALSE(Find<QPushButton>("cmdBidding")->isEnabled());
+  EXPECT_FALSE(Find<QPushButton>("cmdUndo")->isEnabled());
+  EXPECT_EQ(Find<QPushButton>("cmdClaim")->text(), QStringLiteral("Claim by East"));
+  ClickCards(4);
+  EXPECT_EQ(Tricks(), QStringLiteral("NS: 1 EW: 0")) << "North ruffs the first heart";
+  EXPECT_EQ(Find<QPushButton>("cmdClaim")->text(), QStringLiteral("Claim by North"));
+  EXPECT_TRUE(Find<QTimer>("timQuit")->isActive());
+  QTest::mouseClick(Table(), Qt::LeftButton, Qt::NoModifier, Table()->rect().center());
+  EXPECT_TRUE(Now().TrickGathered) << "no need to wait";
+  ClickCards(48);
+  EXPECT_EQ(Tricks(), QStringLiteral("NS: 13 EW: 0"));
+  EXPECT_EQ(Text("lblScore"), QStringLiteral("1S+6 by North : NS +260"));
+  EXPECT_FALSE(Find<QPushButton>("cmdClaim")->isEnabled());
+  EXPECT_TRUE(Find<QPushButton>("cmdBidding")->isEnabled());
+  EXPECT_EQ(Find<QToolButton>("lblNext")->palette().color(QPalette::Button),
+            window->palette().color(QPalette::Highlight));
+
+  Click("cmdUndo");
+  EXPECT_FALSE(Shown("lblScore"));
+  EXPECT_EQ(Tricks(), QStringLiteral("NS: 12 EW: 0"));
+  ClickLegalCard();
+  EXPECT_TRUE(Shown("lblScore"));
+  Click("lblNext");
+  ExpectNothingLeftOfPlay("the next board");
+}
+
+TEST_F(PlayWindowTest, KeysPlayUndoAcrossATrickAndClaim) {
+  Open();
+  StartPlay("1S X P P XX P P P");
+  for (const char* card : {"HA", "D2", "C3", "S4", "SA"}) FocusKeys(card);
+  EXPECT_EQ(Now().TricksPlayed, 1);
+  EXPECT_EQ(Now().TrickCards[Seat::North], (Card{Suit::Spades, Rank::Ace}));
+  for (int undo = 0; undo < 2; ++undo) Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Tricks(), QStringLiteral("NS: 0 EW: 0"));
+  EXPECT_EQ(Now().TrickCards[Seat::West], (Card{Suit::Clubs, Rank::Three}));
+  EXPECT_EQ(Find<QPushButton>("cmdClaim")->text(), QStringLiteral("Claim by North"));
+  for (int undo = 0; undo < 2; ++undo) Key(Qt::Key_Z, Qt::ControlModifier);
+  Key(Qt::Key_L, Qt::ControlModifier);
+  EXPECT_EQ(Tricks(), QStringLiteral("NS: 13 EW: 0")) << "South was on play";
+  EXPECT_EQ(Text("lblScore"), QStringLiteral("1Sxx+6 by North : NS +1720"));
+  EXPECT_FALSE(Offered("mnuUndoCard"));
+}
+
+TEST_F(PlayWindowTest, UndoInATextBoxTakesBackNoCard) {
+  Open();
+  StartPlay();
+  ClickCards(2);
+  Type("cmbLibs", "Autumn");
+  FocusKey(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_NE(Find<QComboBox>("cmbLibs")->currentText(), QStringLiteral("Autumn"));
+  EXPECT_EQ(Now().CardsInTrick, 2);
+}
+
+TEST_F(PlayWindowTest, NothingIsLeftOfAPlayThatEnds) {
+  const auto file = folder.Path() / "one.pbn";
+  test::WriteFile(file,
+                  "% PBN 2.1\n[Board \"5\"]\n[Deal \"N:AKQJT98765432... .AKQJT98765432.. "
+                  "..AKQJT98765432. ...AKQJT98765432\"]\n\n");
+  Open();
+  const struct {
+    const char* name;
+    std::function<void()> leave;
+  } ways[] = {
+      {"stop", [this] { Click("cmdPlay"); }},
+      {"the key", [this] { Key(Qt::Key_P, Qt::ControlModifier); }},
+      {"the next board", [this] { Key(Qt::Key_PageDown); }},
+      {"another library",
+       [this] {
+         Find<QComboBox>("cmbLibs")->setCurrentIndex(1);
+         emit Find<QComboBox>("cmbLibs")->activated(1);
+       }},
+      {"an import",
+       [&] {
+         host.ExpectTell("Hand 5 has been saved to the library - Teaching");
+         window->ImportFiles({file});
+       }},
+      {"a board that is cleared",
+       [this] {
+         Key(Qt::Key_Delete, Qt::ControlModifier | Qt::ShiftModifier);
+         EXPECT_TRUE(session.board.PlayMode) << "not while cards are to be played";
+         Key(Qt::Key_L, Qt::ControlModifier);
+         Key(Qt::Key_Delete, Qt::ControlModifier | Qt::ShiftModifier);
+       }},
+      {"another auction",
+       [this] {
+         Key(Qt::Key_B, Qt::ControlModifier);  // not while cards are to be played
+         Key(Qt::Key_L, Qt::ControlModifier);
+         Expect([](frmBidding& dialog) {
+           Press(dialog, "cmdUndo");
+           FocusKeys("p");
+           Press(dialog, "cmdOK");
+         });
+         Key(Qt::Key_B, Qt::ControlModifier);
+       }},
+  };
+  const Board deal = session.board;
+  for (const auto& [name, leave] : ways) {
+    session.board = deal;
+    StartPlay();
+    ClickCards(4);
+    leave();
+    ExpectNothingLeftOfPlay(name);
+    session.board.HandChanged = false;
+  }
+}
+
+}  // namespace
+}  // namespace tricklet::ui

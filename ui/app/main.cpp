@@ -1,0 +1,55 @@
+// The program with a window.
+#include <algorithm>
+#include <cstdio>
+#include <string>
+#include <string_view>
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+
+#include "library/start_up.h"
+#include "platform/settings_store.h"
+#include "platform/signals.h"
+#include "ui/app/application.h"
+#include "ui/app/launch.h"
+#include "ui/style/text.h"
+
+namespace {
+
+using tricklet::ui::LaunchOptions;
+
+/// Help and version are asked for: they need no screen.
+bool AsksForTextOnly(int count, char** values) {
+  return std::any_of(values, values + count, [](std::string_view value) {
+    return value == "-h" || value == "--help" || value == "-v" || value == "--version";
+  });
+}
+
+int ShowText(int count, char** values) {
+  const QCoreApplication application(count, values);
+  const LaunchOptions options = tricklet::ui::ParseLaunch(QCoreApplication::arguments());
+  const std::string text =
+      options.version ? std::string(tricklet::kProgramName) + " " + tricklet::VersionText() + "\n"
+                      : tricklet::ui::FromQt(tricklet::ui::HelpText());
+  std::fputs(text.c_str(), stdout);
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  tricklet::platform::IgnoreFileSizeSignal();
+  QCoreApplication::setOrganizationName(QStringLiteral("Tricklet"));
+  QCoreApplication::setApplicationName(QStringLiteral("Tricklet"));
+  QGuiApplication::setDesktopFileName(QStringLiteral("org.tricklet.Tricklet"));
+  if (AsksForTextOnly(argc, argv)) return ShowText(argc, argv);
+
+  tricklet::ui::Application application(argc, argv);
+  const LaunchOptions options = tricklet::ui::ParseLaunch(QCoreApplication::arguments());
+  if (!options.error.isEmpty()) {
+    std::fprintf(stderr, "%s\n", tricklet::ui::FromQt(options.error).c_str());
+    return 2;
+  }
+  const auto store = tricklet::platform::MakeSettingsStore();
+  return tricklet::ui::Launch(application, options, *store);
+}

@@ -1,0 +1,145 @@
+#include "ui/app/qt_host.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include "platform/recycle.h"
+#include "ui/background/later.h"
+#include "ui/style/text.h"
+
+namespace tricklet::ui {
+namespace {
+
+/// "Hand Records (*.pbn *.dlm *.xml)".
+QString NameFilter(const FileChoice& choice) {
+  QStringList patterns;
+  for (const std::string& extension : choice.extensions) {
+    patterns += QStringLiteral("*.") + ToQt(extension);
+  }
+  return QStringLiteral("%1 (%2)").arg(ToQt(choice.description), patterns.join(u' '));
+}
+
+/// Texts can hold names and bytes of foreign files: nothing in them is markup.
+void Prepare(QMessageBox& box, const std::string& text, const std::string& title) {
+  box.setTextFormat(Qt::PlainText);
+  box.setText(ToQt(text));
+  box.setWindowTitle(ToQt(title));
+}
+
+}  // namespace
+
+void QtHost::Attach(QWidget* window, ProgressFrame* progress) {
+  window_ = window;
+  progress_ = progress;
+}
+
+QWidget* QtHost::Parent() const {
+  QWidget* modal = QApplication::activeModalWidget();
+  return modal != nullptr ? modal : window_.data();
+}
+
+void QtHost::Tell(const std::string& text, const std::string& title) {
+  QMessageBox box(Parent());
+  Prepare(box, text, title);
+  box.setIcon(QMessageBox::Information);
+  box.exec();
+}
+
+Answer QtHost::Ask(const std::string& text, const std::string& title, Buttons buttons) {
+  QMessageBox box(Parent());
+  Prepare(box, text, title);
+  box.setIcon(QMessageBox::Question);
+  switch (buttons) {
+    case Buttons::YesNo:
+      box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+      box.setEscapeButton(QMessageBox::No);
+      break;
+    case Buttons::YesNoCancel:
+      box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+      box.setEscapeButton(QMessageBox::Cancel);
+      break;
+    case Buttons::OKCancel:
+      box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+      box.setEscapeButton(QMessageBox::Cancel);
+      break;
+  }
+  switch (box.exec()) {
+    case QMessageBox::Yes:
+      return Answer::Yes;
+    case QMessageBox::Ok:
+      return Answer::OK;
+    case QMessageBox::No:
+      return Answer::No;
+    default:
+      return buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
+  }
+}
+
+void QtHost::Beep() {
+  QApplication::beep();
+}
+
+std::optional<std::filesystem::path> QtHost::ChooseFolder(const std::string& title,
+                                                          const std::filesystem::path& start) {
+  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  const QString usual = QFileInfo(documents).isDir() ? documents : QDir::homePath();
+  const QString folder = QFileDialog::getExistingDirectory(Parent(), ToQt(title),
+                                                           start.empty() ? usual : PathToQt(start));
+  if (folder.isEmpty()) return std::nullopt;
+  return PathFromQt(folder);
+}
+
+std::optional<std::filesystem::path> QtHost::ChooseOpenFile(const FileChoice& choice) {
+  const QString start = choice.suggested.empty() ? lastFolder_ : PathToQt(choice.suggested);
+  const QString file = QFileDialog::getOpenFileName(Parent(), QString(), start, NameFilter(choice));
+  if (file.isEmpty()) return std::nullopt;
+  lastFolder_ = QFileInfo(file).path();
+  return PathFromQt(file);
+}
+
+std::optional<std::filesystem::path> QtHost::ChooseSaveFile(const FileChoice& choice) {
+  QFileDialog dialog(Parent());
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setNameFilter(NameFilter(choice));
+  if (!choice.extensions.empty()) dialog.setDefaultSuffix(ToQt(choice.extensions.front()));
+  if (!lastFolder_.isEmpty()) dialog.setDirectory(lastFolder_);
+  if (!choice.suggested.empty()) dialog.selectFile(PathToQt(choice.suggested));
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  const QString file = dialog.selectedFiles().constFirst();
+  lastFolder_ = QFileInfo(file).path();
+  return PathFromQt(file);
+}
+
+bool QtHost::Recycle(const std::filesystem::path& path) {
+  return platform::Recycle(path);
+}
+
+bool QtHost::OpenUrl(const std::string& address) {
+  return QDesktopServices::openUrl(QUrl(ToQt(address)));
+}
+
+bool QtHost::Step(const std::string& text, int done, int total) {
+  return progress_ == nullptr || progress_->Step(ToQt(text), done, total);
+}
+
+void QtHost::BeginWork() {
+  if (progress_ != nullptr) progress_->Begin();
+}
+
+void QtHost::EndWork() {
+  if (progress_ != nullptr) progress_->End();
+}
+
+void QtHost::EndProgram() {
+  ended_ = true;
+  // Not quit(), which would ask every window whether it may be closed.
+  Later(qApp, [] { QCoreApplication::exit(0); });
+}
+
+}  // namespace tricklet::ui

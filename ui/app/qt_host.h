@@ -1,0 +1,45 @@
+// The window's side of the Host port.
+#pragma once
+
+#include <QPointer>
+
+#include "core/host.h"
+#include "ui/style/progress_frame.h"
+
+namespace tricklet::ui {
+
+/// Asks by message boxes and file dialogs. Works without a window too; then no progress is shown.
+class QtHost : public Host {
+ public:
+  /// Dialogs stand over `window` from now on, and progress shows in `progress`.
+  void Attach(QWidget* window, ProgressFrame* progress);
+
+  using Host::Tell;
+  void Tell(const std::string& text, const std::string& title) override;
+  Answer Ask(const std::string& text, const std::string& title, Buttons buttons) override;
+  void Beep() override;
+  std::optional<std::filesystem::path> ChooseFolder(const std::string& title,
+                                                    const std::filesystem::path& start) override;
+  std::optional<std::filesystem::path> ChooseOpenFile(const FileChoice& choice) override;
+  std::optional<std::filesystem::path> ChooseSaveFile(const FileChoice& choice) override;
+  bool Recycle(const std::filesystem::path& path) override;
+  bool OpenUrl(const std::string& address) override;
+  bool Step(const std::string& text, int done, int total) override;
+  void BeginWork() override;
+  void EndWork() override;
+  void EndProgram() override;
+
+  /// `EndProgram` has been called: an event loop that has not begun yet should not begin.
+  bool HasEnded() const { return ended_; }
+
+ private:
+  /// Over the dialog in front, when there is one.
+  QWidget* Parent() const;
+
+  QPointer<QWidget> window_;
+  QPointer<ProgressFrame> progress_;
+  QString lastFolder_;  // where the file choosers begin when nothing is suggested
+  bool ended_ = false;
+};
+
+}  // namespace tricklet::ui

@@ -1,0 +1,77 @@
+#include "ui/background/background_tables.h"
+
+#include "analysis/deal_text.h"
+#include "analysis/get_dds.h"
+#include "core/text.h"
+#include "library/board_store.h"
+#include "library/tables.h"
+
+namespace tricklet::ui {
+
+/// A deal on its way to the solver and back.
+struct BackgroundTables::Job {
+  std::filesystem::path path;  // of the board's file
+  int boardNumber = 0;
+  HandTable hands;
+  bool asked = false;  // by the person, who is told of a failure
+  MakeableTable table;
+  std::string failure;
+
+  /// The same deal in the same file.
+  std::string Key() const { return PathText(path) + " " + SolverDealText(hands); }
+};
+
+BackgroundTables::BackgroundTables(Session& session, QObject* parent)
+    : QObject(parent), session_(session) {}
+
+void BackgroundTables::Look() {
+  if (!session_.BatchRunning && WantsTable(session_, session_.board)) Post(false);
+}
+
+void BackgroundTables::Ask() {
+  if (const std::string warning = DealWarning(session_.board.Hands); !warning.empty()) {
+    session_.host.Tell(warning);
+  } else if (RequireSolver(session_)) {
+    Post(true);
+  }
+}
+
+void BackgroundTables::Post(bool asked) {
+  const auto job = std::make_shared<Job>();
+  job->boardNumber = session_.board.BoardNumber;
+  job->path = session_.BoardPath(job->boardNumber);
+  job->hands = session_.board.Hands;
+  job->asked = asked;
+  // A deal that could not be solved stays in the list, so that it is not tried at every look.
+  if (!underWay_.insert(job->Key()).second && !asked) return;
+  worker_.Post(
+      [job, solver = session_.GetSolver] {
+        const auto tables = SolveDeals(solver(), {job->hands}, job->failure);
+        if (!tables.empty()) job->table = tables.front();
+      },
+      [this, job] { Take(*job); });
+}
+
+void BackgroundTables::Take(const Job& job) {
+  if (session_.BatchRunning) {
+    underWay_.erase(
+        job.Key());  // the run may be at the same file; the board will be looked at again
+    return;
+  }
+  if (!job.failure.empty()) {
+    if (job.asked) session_.host.Tell(job.failure);
+    return;
+  }
+  underWay_.erase(job.Key());
+  Board& board = session_.board;
+  const bool inHand = board.BoardNumber == job.boardNumber && board.Hands == job.hands &&
+                      session_.BoardPath(board.BoardNumber) == job.path;
+  const bool stored = StoreTable(job.path, job.hands, job.table);
+  if (!inHand) return;
+  board.Makeable = job.table;
+  board.MakeableValid = true;
+  board.HandChanged = board.HandChanged || (job.asked && !stored);
+  emit Changed();
+}
+
+}  // namespace tricklet::ui

@@ -1,0 +1,52 @@
+// The commands for double-dummy tables.
+#include <QInputDialog>
+
+#include "analysis/online_link.h"
+#include "library/tables.h"
+#include "ui/commands/commands.h"
+#include "ui/style/text.h"
+
+namespace tricklet::ui {
+namespace {
+
+/// Asks for the host of the online page when it is not known yet; false when the person names none.
+bool HaveSolverHost(Session& session, QWidget* window) {
+  if (!session.settings.SolverHost.empty()) return true;
+  bool accepted = false;
+  const QString host =
+      QInputDialog::getText(window, Commands::tr("Online double-dummy page"),
+                            Commands::tr("Host of the page, for example www.example.org"),
+                            QLineEdit::Normal, QString(), &accepted);
+  if (!accepted || host.trimmed().isEmpty()) return false;
+  session.settings.SolverHost = FromQt(host.trimmed());
+  SaveSetting(session.settings, "SolverHost", session.store);
+  return true;
+}
+
+}  // namespace
+
+void Commands::AnalyseBoard() {
+  Run([this] { emit TableAsked(); });
+}
+
+void Commands::AnalyseLibrary() {
+  Run([this] {
+    if (RequireSolver(session_)) tricklet::AnalyseLibrary(session_, session_.GetSolver());
+  });
+}
+
+void Commands::OnlineSolver() {
+  Run([this] {
+    const std::string record = linRecord_ ? linRecord_() : std::string();
+    const std::string error = SolverAddressError(session_.board);
+    if (record.empty() && !error.empty()) {
+      session_.host.Tell(error);
+      return;
+    }
+    if (!HaveSolverHost(session_, window_)) return;
+    session_.host.OpenUrl(SolverAddress(session_.board, session_.LibraryName(),
+                                        session_.settings.SolverHost, record));
+  });
+}
+
+}  // namespace tricklet::ui

@@ -1,0 +1,258 @@
+#include "ui/commands/commands.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QUrl>
+
+#include "core/fault.h"
+#include "formats/exchange/export.h"
+#include "formats/exchange/import_lin.h"
+#include "library/board_store.h"
+#include "library/library_store.h"
+#include "library/start_up.h"
+#include "ui/control/edit_control.h"
+#include "ui/control/play_control.h"
+#include "ui/dialogs/frmBidding.h"
+#include "ui/dialogs/frmExport.h"
+#include "ui/dialogs/frmOptions.h"
+#include "ui/dialogs/library_name_dialog.h"
+#include "ui/style/text.h"
+#include "ui/style/theme.h"
+
+namespace tricklet::ui {
+
+Commands::Commands(Session& session, PlayControl& play, EditControl& edit, QWidget* window)
+    : QObject(window), session_(session), play_(play), edit_(edit), window_(window) {}
+
+/// False when another command is running, and nothing was done.
+bool Commands::Attempt(const std::function<void()>& procedure) {
+  if (running_) return false;
+  running_ = true;
+  try {
+    procedure();
+  } catch (const std::exception& failure) {
+    ErrorReport(session_.host, FaultFrom(failure));
+  }
+  running_ = false;
+  return true;
+}
+
+void Commands::Run(const std::function<void()>& procedure) {
+  if (!running_ && finishTyping_ && !finishTyping_()) return;
+  if (Attempt(procedure)) emit Done();
+}
+
+void Commands::Import() {
+  Run([this] { tricklet::Import(session_); });
+}
+
+void Commands::ImportLin() {
+  Run([this] { tricklet::ImportLin(session_); });
+}
+
+void Commands::ImportLinText(const QString& text) {
+  Run([&] { tricklet::ImportLinText(session_, FromQt(text)); });
+}
+
+void Commands::PasteLin() {
+  ImportLinText(QApplication::clipboard()->text());
+}
+
+void Commands::ImportFiles(const std::vector<std::filesystem::path>& files) {
+  for (const std::filesystem::path& file : files) {
+    bool goOn = true;
+    Run([&] { goOn = !ImportAnyFile(session_, file).cancelled; });
+    if (!goOn) return;
+  }
+}
+
+void Commands::Export() {
+  Run([this] {
+    if (!SettleChanges(session_) || !HasHandsToExport(session_)) return;
+    frmExport dialog(session_, window_);
+    if (dialog.exec() == QDialog::Accepted) {
+      tricklet::Export(session_, dialog.Range(), exportPath_);
+    }
+  });
+}
+
+void Commands::Save() {
+  Run([this] { SaveHand(session_); });
+}
+
+void Commands::Exit() {
+  session_.host.EndProgram();
+}
+
+void Commands::SelectLibrary(int index) {
+  Run([&] { tricklet::SelectLibrary(session_, index); });
+}
+
+void Commands::CreateLibrary(const QString& name) {
+  Run([&] { tricklet::CreateLibrary(session_, FromQt(name)); });
+}
+
+void Commands::RenameLibrary() {
+  Run([this] {
+    const QString before = ToQt(session_.LibraryName());
+    LibraryNameDialog dialog(session_, tr("New name of the library"), tr("New name"), before,
+                             window_);
+    dialog.setObjectName(QStringLiteral("dlgRename"));
+    dialog.setWindowTitle(tr("Rename library"));
+    if (dialog.exec() != QDialog::Accepted || ToQt(dialog.Name()) == before) return;
+    tricklet::RenameLibrary(session_, dialog.Name());
+  });
+}
+
+void Commands::RefreshLibraries() {
+  Run([this] {
+    if (CheckSaveChanges(session_) == Answer::Cancel) return;
+    const std::string library = session_.LibraryName();
+    const int boardNumber = session_.board.BoardNumber;
+    GetLibraryNames(session_);
+    if (session_.LibraryName() == library) tricklet::SelectBoard(session_, boardNumber);
+  });
+}
+
+void Commands::SelectBoard(int boardNumber) {
+  Run([&] { tricklet::SelectBoard(session_, boardNumber); });
+}
+
+void Commands::StepBoard(bool backward) {
+  Run([&] { tricklet::StepBoard(session_, backward); });
+}
+
+void Commands::FirstBoard() {
+  SelectBoard(kFirstBoardNumber);
+}
+void Commands::LastBoard() {
+  SelectBoard(session_.library.MaxBoard);
+}
+
+void Commands::GoToBoard() {
+  Run([this] {
+    QInputDialog dialog(window_);
+    dialog.setObjectName(QStringLiteral("dlgGoTo"));
+    dialog.setWindowTitle(tr("Go to board"));
+    dialog.setLabelText(tr("Board (1 to %1)").arg(session_.library.MaxBoard));
+    dialog.setInputMode(QInputDialog::IntInput);
+    dialog.setIntRange(kFirstBoardNumber, session_.library.MaxBoard);
+    dialog.setIntValue(session_.board.BoardNumber);
+    if (dialog.exec() == QDialog::Accepted) tricklet::SelectBoard(session_, dialog.intValue());
+  });
+}
+
+void Commands::SetMaxBoard(int boardNumber) {
+  Run([&] { tricklet::SetMaxBoard(session_, boardNumber); });
+}
+
+void Commands::CopyHand() {
+  Run([this] { tricklet::CopyHand(session_); });
+}
+
+void Commands::PasteHand() {
+  Run([this] { tricklet::PasteHand(session_); });
+}
+
+void Commands::Bidding() {
+  Run([this] { EnterAuction(); });
+}
+
+void Commands::EnterAuction() {
+  frmBidding dialog(session_, window_);
+  connect(&dialog, &frmBidding::AuctionChanged, this, &Commands::AuctionChanged);
+  auction_ = &dialog.Entry();
+  emit AuctionChanged();
+  emit AuctionOpened(&dialog);
+  dialog.exec();
+  auction_ = nullptr;
+  emit AuctionChanged();
+}
+
+void Commands::PlayOrStop() {
+  Run([this] {
+    if (session_.board.PlayMode) {
+      play_.Stop();
+      return;
+    }
+    edit_.Stop();
+    if (CardPlay::NeedsAuction(session_.board)) EnterAuction();
+    if (play_.Start()) emit PlayStarted();
+  });
+}
+
+void Commands::PlayCard(Card card) {
+  Attempt([&] { play_.PlayCard(card); });
+}
+void Commands::PlayOnlyCard() {
+  Attempt([this] { play_.PlayOnlyCard(); });
+}
+void Commands::UndoCard() {
+  Attempt([this] { play_.Undo(); });
+}
+void Commands::Claim() {
+  Attempt([this] { play_.Claim(); });
+}
+void Commands::QuitTrick() {
+  Attempt([this] { play_.QuitTrick(); });
+}
+
+void Commands::Toggle(bool Settings::*setting, std::string_view key) {
+  Run([&] {
+    session_.settings.*setting = !(session_.settings.*setting);
+    SaveSetting(session_.settings, key, session_.store);
+  });
+}
+
+void Commands::SetColourScheme(int scheme) {
+  Run([&] {
+    session_.settings.ColourScheme = scheme;
+    SaveSetting(session_.settings, "ColourScheme", session_.store);
+    ApplyColourScheme(*qApp, scheme);
+  });
+}
+
+void Commands::Options() {
+  Run([this] {
+    frmOptions dialog(session_, window_);
+    if (dialog.exec() != QDialog::Accepted) return;
+    session_.settings = dialog.Chosen();
+    SaveSettings(session_.settings, session_.store);
+    if (!session_.store.Sync()) session_.host.Tell(kSettingsNotStored);
+    ApplyColourScheme(*qApp, session_.settings.ColourScheme);
+  });
+}
+
+void Commands::OpenDocument(const QString& fileName) {
+  Run([&] {
+    const QDir program(QCoreApplication::applicationDirPath());
+    for (const QDir& place :
+         {program, QDir(program.filePath(QStringLiteral(TRICKLET_DOCUMENT_DIR)))}) {
+      const QFileInfo document(place, fileName);
+      if (!document.exists()) continue;
+      session_.host.OpenUrl(FromQt(QUrl::fromLocalFile(document.canonicalFilePath()).toString()));
+      return;
+    }
+    session_.host.Tell(FromQt(tr("The help file has not been installed")));
+  });
+}
+
+void Commands::Help() {
+  OpenDocument(QStringLiteral("Tricklet.pdf"));
+}
+void Commands::NewFeatures() {
+  OpenDocument(QStringLiteral("TrickletLatest.pdf"));
+}
+
+void Commands::About() {
+  Run([this] {
+    const QString text = tr("A library of bridge deals: keep, look at and exchange hand records.");
+    session_.host.Tell(std::string(kProgramName) + "\n" + VersionText() + "\n\n" + FromQt(text),
+                       FromQt(tr("About Tricklet")));
+  });
+}
+
+}  // namespace tricklet::ui

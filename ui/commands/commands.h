@@ -1,0 +1,163 @@
+// What the person can ask for, as calls of the engine.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include <QObject>
+#include <QPointer>
+
+#include "core/holding.h"
+#include "library/session.h"
+#include "ui/dialogs/frmGenerate.h"
+
+class QWidget;
+
+namespace tricklet {
+class AuctionEntry;
+}
+
+namespace tricklet::ui {
+
+class EditControl;
+class PlayControl;
+class frmBidding;
+class frmSwap;
+
+/// The routes from menus, keys, panes and drops to the engine's procedures. Each command runs to
+/// its end and is followed by `Done`, whatever came of it; a command that is asked for while
+/// another one runs is not carried out.
+class Commands : public QObject {
+  Q_OBJECT
+
+ public:
+  /// Dialogs stand over `window`.
+  Commands(Session& session, PlayControl& play, EditControl& edit, QWidget* window);
+
+  /// `finish` takes over what is still being typed, before each command; false when that was
+  /// refused, and then the command is not carried out.
+  void SetFinishTyping(std::function<bool()> finish) { finishTyping_ = std::move(finish); }
+  /// Where the LIN record of the board in hand comes from; empty when it has none.
+  void SetLinRecord(std::function<std::string()> record) { linRecord_ = std::move(record); }
+
+  /// The auction that is being entered; nullptr while the auction dialog is closed.
+  const AuctionEntry* Auction() const { return auction_; }
+
+  void Import();
+  void ImportLin();
+  /// The LIN records, or the address of some, that the clipboard or a drop brought.
+  void ImportLinText(const QString& text);
+  void PasteLin();
+  void ImportFiles(const std::vector<std::filesystem::path>& files);
+  void Export();
+  void Save();
+  void Exit();
+
+  void SelectLibrary(int index);
+  void CreateLibrary(const QString& name);
+  void RenameLibrary();
+  void RefreshLibraries();
+  void ExportLibrary();
+  void ExportLibraries();
+  void ImportLibrary();
+  void ImportLibraries();
+  void MoveLibraries();
+  void CopyLibrary();
+  void DeleteLibrary();
+
+  void SelectBoard(int boardNumber);
+  void StepBoard(bool backward);
+  void NextBoard() { StepBoard(false); }
+  void PreviousBoard() { StepBoard(true); }
+  void FirstBoard();
+  void LastBoard();
+  void GoToBoard();
+  void SetMaxBoard(int boardNumber);
+  void CopyHand();
+  void PasteHand();
+
+  /// `cmdEdit`: begins to edit the hands, or leaves it.
+  void EditOrStop();
+  /// `cmdSwap`: the dialog that exchanges and rotates.
+  void Swap();
+  void ClearHands();
+  void UndoClear();
+  void RandomFill();
+  void UndoFill();
+  void FillFourth();
+  void MoveCard(Card card, std::optional<Seat> to);
+  /// False when the text was refused.
+  bool TypeHand(Seat seat, const QString& text);
+  void SetEditMethod(int method);
+
+  /// `cmdDDS`: the double-dummy table of the board in hand, by `TableAsked`.
+  void AnalyseBoard();
+  /// `mnuAnalyse`: every missing table of the library.
+  void AnalyseLibrary();
+  /// `cmdBSOL`: the board on the online double-dummy page; its host is asked for once.
+  void OnlineSolver();
+
+  /// `cmdGenerate`: fills boards of the library with random deals.
+  void Generate();
+
+  void Bidding();
+  /// Starts the play, after the auction dialog where there is no auction yet; or leaves it.
+  void PlayOrStop();
+  // Followed by the play's `Changed` instead of `Done`.
+  void PlayCard(Card card);
+  void PlayOnlyCard();
+  void UndoCard();
+  void Claim();
+  void QuitTrick();
+
+  /// Turns a switch of the settings over and stores it.
+  void Toggle(bool Settings::*setting, std::string_view key);
+  void SetColourScheme(int scheme);
+  void Options();
+
+  void Help();
+  void NewFeatures();
+  void About();
+
+ signals:
+  void TableAsked();
+  /// Work that begins from now on copies whole libraries; or no longer does.
+  void Waiting(bool waiting);
+  void Done();
+  /// What the last command has done, where nothing else shows it.
+  void Said(const QString& text);
+  /// Before the auction dialog appears.
+  void AuctionOpened(frmBidding* dialog);
+  /// `Auction` has other calls than before, or is over.
+  void AuctionChanged();
+  void PlayStarted();
+  void EditStarted();
+  /// By a dialog that is still open.
+  void HandsChanged();
+  /// Before the dialog appears.
+  void SwapOpened(frmSwap* dialog);
+
+ private:
+  bool Attempt(const std::function<void()>& procedure);
+  void Run(const std::function<void()>& procedure);
+  void RunCopy(const std::function<QString()>& copy);
+  void RunCopy(bool (*copy)(Session&), const QString& said);
+  void EnterAuction();
+  void OpenDocument(const QString& fileName);
+
+  Session& session_;
+  PlayControl& play_;
+  EditControl& edit_;
+  std::function<bool()> finishTyping_;
+  std::function<std::string()> linRecord_;
+  const AuctionEntry* auction_ = nullptr;
+  QPointer<QWidget> window_;
+  std::filesystem::path exportPath_;  // of the last export, where the next one begins
+  GenerateChoices generateChoices_;   // those before
+  bool running_ = false;
+};
+
+}  // namespace tricklet::ui

@@ -1,0 +1,61 @@
+// The commands that edit the hands.
+#include "ui/commands/commands.h"
+#include "ui/control/edit_control.h"
+#include "ui/dialogs/frmSwap.h"
+#include "ui/style/text.h"
+
+namespace tricklet::ui {
+
+void Commands::EditOrStop() {
+  Run([this] {
+    if (edit_.Editing()) {
+      edit_.Stop();
+    } else if (edit_.Start()) {
+      emit EditStarted();
+    }
+  });
+}
+
+void Commands::Swap() {
+  Run([this] {
+    frmSwap dialog(session_, edit_, window_);
+    connect(&dialog, &frmSwap::Changed, this, &Commands::HandsChanged);
+    emit SwapOpened(&dialog);
+    dialog.exec();
+  });
+}
+
+void Commands::ClearHands() {
+  Run([this] { edit_.Clear(); });
+}
+void Commands::UndoClear() {
+  Run([this] { edit_.UndoClear(); });
+}
+void Commands::RandomFill() {
+  Run([this] { edit_.Fill(); });
+}
+void Commands::UndoFill() {
+  Run([this] { edit_.UndoFill(); });
+}
+void Commands::FillFourth() {
+  Run([this] { edit_.FillFourth(); });
+}
+
+void Commands::MoveCard(Card card, std::optional<Seat> to) {
+  Run([&] { edit_.MoveCard(card, to); });
+}
+
+bool Commands::TypeHand(Seat seat, const QString& text) {
+  bool taken = false;
+  if (Attempt([&] { taken = edit_.TypeHand(seat, FromQt(text)); })) emit Done();
+  return taken;
+}
+
+void Commands::SetEditMethod(int method) {
+  Run([&] {
+    session_.settings.EditMethod = method;
+    SaveSetting(session_.settings, "EditMethod", session_.store);
+  });
+}
+
+}  // namespace tricklet::ui

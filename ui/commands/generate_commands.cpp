@@ -1,0 +1,23 @@
+// The command that fills boards with random deals.
+#include "generate/generate.h"
+#include "ui/commands/commands.h"
+#include "ui/dialogs/frmPreview.h"
+
+namespace tricklet::ui {
+
+void Commands::Generate() {
+  Run([this] {
+    frmGenerate dialog(session_, generateChoices_, window_);
+    if (dialog.exec() != QDialog::Accepted) return;
+    generateChoices_ = dialog.Chosen();
+    GenerateOptions options{.analyse = session_.settings.AutoMakeable};
+    if (generateChoices_.preview) {
+      options.preview = [this](const Board& board) {
+        return frmPreview(board, session_.settings, window_).Ask();
+      };
+    }
+    tricklet::Generate(session_, generateChoices_.constraints, options);
+  });
+}
+
+}  // namespace tricklet::ui

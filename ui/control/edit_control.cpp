@@ -1,0 +1,90 @@
+#include "ui/control/edit_control.h"
+
+#include "core/statistics.h"
+#include "generate/deal.h"
+#include "ui/control/play_control.h"
+
+namespace tricklet::ui {
+
+EditControl::EditControl(Session& session, PlayControl& play)
+    : session_(session), play_(play), boardsLoaded_(session.BoardsLoaded) {}
+
+bool EditControl::Start() {
+  editing_ = play_.EndForEditing();
+  return editing_;
+}
+
+void EditControl::Follow() {
+  if (boardsLoaded_ != session_.BoardsLoaded) {
+    boardsLoaded_ = session_.BoardsLoaded;
+    history_ = {};
+    editing_ = false;
+  }
+  if (session_.board.PlayMode) editing_ = false;
+}
+
+bool EditControl::CanUndoClear() const {
+  return tricklet::CanUndoClear(session_.board, history_);
+}
+bool EditControl::CanFill() const {
+  return editing_ && !GetStats(session_.board.Hands).AllHandsComplete;
+}
+bool EditControl::CanFillFourth() const {
+  return editing_ && FourthHandIsOpen(session_.board);
+}
+bool EditControl::CanUndoFill() const {
+  return editing_ && tricklet::CanUndoFill(session_.board, history_);
+}
+
+/// A play that is over is left by an edit.
+Board& EditControl::ForEditing() {
+  if (session_.board.PlayMode) play_.Stop();
+  return session_.board;
+}
+
+void EditControl::MoveCard(Card card, std::optional<Seat> to) {
+  if (!tricklet::MoveCard(ForEditing(), card, to)) session_.host.Beep();
+}
+
+bool EditControl::TypeHand(Seat seat, std::string_view text) {
+  const auto problem = SetHand(ForEditing(), seat, text);
+  if (problem) session_.host.Tell(*problem);
+  return !problem;
+}
+
+void EditControl::Clear() {
+  tricklet::Clear(ForEditing(), history_);
+}
+void EditControl::UndoClear() {
+  tricklet::UndoClear(ForEditing(), history_);
+}
+void EditControl::Fill() {
+  if (!tricklet::Fill(ForEditing(), history_, session_.random)) {
+    session_.host.Tell(std::string(kRandomisationError));
+  }
+}
+void EditControl::FillFourth() {
+  FillFourthHand(ForEditing(), history_);
+}
+void EditControl::UndoFill() {
+  tricklet::UndoFill(ForEditing(), history_);
+}
+
+void EditControl::SwapHands(Seat from, Seat to) {
+  swap(ForEditing(), IndexOf(from), IndexOf(to));
+}
+void EditControl::SwapSuits(Suit suit1, Suit suit2) {
+  SwapSuit(ForEditing(), suit1, suit2);
+}
+
+void EditControl::Rotate(Rotation rotation, bool takeAuction) {
+  Board turned = session_.board;
+  turned.PlayMode = false;
+  if (!tricklet::Rotate(turned, rotation, takeAuction)) {
+    session_.host.Tell(std::string(kAuctionStays));
+    return;
+  }
+  ForEditing() = turned;
+}
+
+}  // namespace tricklet::ui

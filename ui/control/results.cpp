@@ -1,0 +1,77 @@
+#include "ui/control/results.h"
+
+namespace tricklet::ui {
+
+Results::Results(Session& session, QObject* parent) : QObject(parent), session_(session) {}
+
+void Results::Look() {
+  const LinFile& file = lin_.Of(session_);
+  const int boardNumber = session_.board.BoardNumber;
+  if (edition_ > 0 && version_ == lin_.Version() && traveller_.BoardNumber == boardNumber) return;
+  hasLinData_ = !file.Empty();
+  version_ = lin_.Version();
+  traveller_ = MakeTraveller(file, boardNumber);
+  ++edition_;
+  row_ = -1;
+  replay_.reset();
+}
+
+bool Results::IsStillTheBoard() const {
+  const Board& board = session_.board;
+  return session_.LibraryName() == library_ && board.BoardNumber == board_.BoardNumber &&
+         board.Hands == board_.Hands && board.Calls == board_.Calls;
+}
+
+void Results::Follow(bool entering) {
+  if (replay_ && (entering || session_.board.PlayMode || !IsStillTheBoard())) {
+    row_ = -1;
+    replay_.reset();
+  }
+}
+
+void Results::ShowRecord(int row) {
+  const bool known = row >= 0 && row < static_cast<int>(traveller_.Rows.size());
+  if (!known || session_.board.PlayMode) {
+    session_.host.Beep();
+  } else if (row != row_) {
+    const TravellerRow& chosen = traveller_.Rows.at(static_cast<std::size_t>(row));
+    replay_ = std::make_unique<Replay>(chosen.Record, session_.host);
+    row_ = row;
+    board_ = session_.board;
+    library_ = session_.LibraryName();
+  }
+  emit Changed();
+}
+
+void Results::Leave() {
+  row_ = -1;
+  replay_.reset();
+  emit Changed();
+}
+
+void Results::Step(const std::function<void(Replay&)>& step) {
+  if (!replay_) return;
+  step(*replay_);
+  emit Changed();
+}
+
+void Results::Forward() {
+  Step([](Replay& replay) { replay.Forward(); });
+}
+void Results::Back() {
+  Step([](Replay& replay) { replay.Back(); });
+}
+void Results::NextTrick() {
+  Step([](Replay& replay) { replay.NextTrick(); });
+}
+void Results::PreviousTrick() {
+  Step([](Replay& replay) { replay.PreviousTrick(); });
+}
+
+void Results::PlayCard(Card card) {
+  Step([&](Replay& replay) {
+    if (!replay.Follow(card)) session_.host.Beep();
+  });
+}
+
+}  // namespace tricklet::ui

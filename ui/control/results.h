@@ -1,0 +1,73 @@
+// The results of the board in hand, and the play record among them that is being looked at.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include <QObject>
+
+#include "formats/results/lin_data.h"
+#include "formats/results/traveller.h"
+#include "library/session.h"
+#include "play/replay.h"
+
+namespace tricklet::ui {
+
+/// A record is looked at beside the board in hand, which stays what it is. Every change by a person
+/// ends with `Changed`.
+class Results : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit Results(Session& session, QObject* parent = nullptr);
+
+  /// The library has results at all.
+  bool HasLinData() const { return hasLinData_; }
+  /// Of the board in hand; without rows when there are none.
+  const Traveller& OfBoard() const { return traveller_; }
+  /// Another number for each traveller that `OfBoard` has given.
+  int Edition() const { return edition_; }
+
+  /// The row whose record is being looked at; -1 when none is.
+  int Row() const { return row_; }
+  /// The record being looked at; nullptr when none is.
+  const Replay* Record() const { return replay_.get(); }
+
+  /// To be called when the board or the library may be another one, or changed.
+  void Look();
+  /// Puts a record away that is not the board's any more, or that the play of the board has taken
+  /// the place of, or its auction or hands, one of which is being entered when `entering`.
+  void Follow(bool entering);
+
+  /// Looks at the record of a row; not while the board is being played.
+  void ShowRecord(int row);
+  /// Looks at the board itself again.
+  void Leave();
+  void Forward();
+  void Back();
+  void NextTrick();
+  void PreviousTrick();
+  /// A card that was clicked or typed: the recorded one is played, another one refused.
+  void PlayCard(Card card);
+
+ signals:
+  void Changed();
+
+ private:
+  void Step(const std::function<void(Replay&)>& step);
+  bool IsStillTheBoard() const;
+
+  Session& session_;
+  LinData lin_;
+  int version_ = 0;  // of the LIN data that `traveller_` was made from
+  bool hasLinData_ = false;
+  Traveller traveller_;
+  int edition_ = 0;
+  int row_ = -1;
+  std::unique_ptr<Replay> replay_;
+  Board board_;          // as it was when the record was chosen
+  std::string library_;  // likewise
+};
+
+}  // namespace tricklet::ui

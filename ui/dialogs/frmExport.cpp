@@ -1,0 +1,89 @@
+#include "ui/dialogs/frmExport.h"
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "ui/style/text.h"
+
+namespace tricklet::ui {
+namespace {
+
+QComboBox* MakeNumbers(const QString& name, int highest, int chosen, QWidget* parent) {
+  auto* combo = new QComboBox(parent);
+  combo->setObjectName(name);
+  combo->setEditable(true);
+  combo->setCompleter(nullptr);
+  combo->setInsertPolicy(QComboBox::NoInsert);
+  QStringList numbers;
+  for (int n = kFirstBoardNumber; n <= highest; ++n) numbers += QString::number(n);
+  combo->addItems(numbers);
+  combo->setEditText(QString::number(chosen));
+  return combo;
+}
+
+}  // namespace
+
+frmExport::frmExport(Session& session, QWidget* parent)
+    : QDialog(parent), session_(session), optType(new QButtonGroup(this)) {
+  setObjectName(QStringLiteral("frmExport"));
+  setWindowTitle(tr("Export hand records"));
+  const LibraryState& library = session.library;
+  cmbFrom = MakeNumbers(QStringLiteral("cmbFrom"), library.LastBoard, library.FirstBoard, this);
+  cmbTo = MakeNumbers(QStringLiteral("cmbTo"), library.LastBoard, library.LastBoard, this);
+
+  auto* form = new QFormLayout;
+  form->addRow(tr("&From board"), cmbFrom);
+  form->addRow(tr("&To board"), cmbTo);
+  form->addRow(tr("File type"), MakeTypes());
+
+  auto* buttons = new QDialogButtonBox(this);
+  auto* cmdGo = buttons->addButton(tr("&Export"), QDialogButtonBox::AcceptRole);
+  cmdGo->setObjectName(QStringLiteral("cmdGo"));
+  cmdGo->setDefault(true);
+  auto* cmdCancel = buttons->addButton(QDialogButtonBox::Cancel);
+  cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+  connect(buttons, &QDialogButtonBox::accepted, this, &frmExport::Go);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+  auto* column = new QVBoxLayout(this);
+  column->addLayout(form);
+  column->addWidget(buttons);
+  cmbFrom->lineEdit()->selectAll();
+}
+
+QWidget* frmExport::MakeTypes() {
+  auto* group = new QWidget(this);
+  group->setAccessibleName(tr("File type"));
+  auto* row = new QHBoxLayout(group);
+  row->setContentsMargins(0, 0, 0, 0);
+  int id = 0;
+  for (const std::string& type : ExportTypes()) {
+    auto* option = new QRadioButton(ToQt(type).toUpper(), group);
+    option->setObjectName(QStringLiteral("optType"));
+    option->setChecked(id == 0);
+    optType->addButton(option, id++);
+    row->addWidget(option);
+  }
+  row->addStretch(1);
+  return group;
+}
+
+void frmExport::Go() {
+  ExportRange range;
+  if (!CheckRangeTexts(session_, FromQt(cmbFrom->currentText()), FromQt(cmbTo->currentText()),
+                       range)) {
+    return;
+  }
+  range.type = ExportTypes().at(static_cast<std::size_t>(optType->checkedId()));
+  range_ = range;
+  accept();
+}
+
+}  // namespace tricklet::ui

@@ -1,0 +1,202 @@
+#include "ui/dialogs/frmOptions.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDoubleSpinBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "ui/dialogs/font_editor.h"
+#include "ui/table/table_view.h"
+
+namespace tricklet::ui {
+namespace {
+
+/// A caption with its control to the right of it.
+void AddRow(QVBoxLayout* page, const QString& caption, QWidget* control) {
+  auto* row = new QHBoxLayout;
+  auto* label = new QLabel(caption);
+  label->setBuddy(control);
+  row->addWidget(label);
+  row->addWidget(control);
+  row->addStretch(1);
+  page->addLayout(row);
+}
+
+QVBoxLayout* MakePage(QWidget* page) {
+  auto* column = new QVBoxLayout(page);
+  column->setSpacing(8);
+  return column;
+}
+
+}  // namespace
+
+frmOptions::frmOptions(const Session& session, QWidget* parent)
+    : QDialog(parent),
+      board_(session.board),
+      before_(session.settings),
+      preview_(new TableView(this)) {
+  setObjectName(QStringLiteral("frmOptions"));
+  setWindowTitle(tr("Options"));
+  auto* tabs = new QTabWidget(this);
+  tabs->addTab(CardsPage(), tr("&Cards"));
+  tabs->addTab(CaptionsPage(), tr("Ca&ptions"));
+  tabs->addTab(FontsPage(), tr("&Fonts"));
+  tabs->addTab(StartPage(), tr("&Start and analysis"));
+  tabs->addTab(ExportPage(), tr("&Export"));
+  tabs->setMinimumWidth(tabs->tabBar()->sizeHint().width() + 8);
+  preview_->setAccessibleName(tr("Preview"));
+  preview_->setMinimumSize(380, 320);
+
+  auto* buttons = new QDialogButtonBox(
+      QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::RestoreDefaults, this);
+  QPushButton* defaults = buttons->button(QDialogButtonBox::RestoreDefaults);
+  defaults->setText(tr("&Defaults"));
+  defaults->setObjectName(QStringLiteral("cmdDefaults"));
+  buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
+  buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
+  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  connect(defaults, &QPushButton::clicked, this, [this] { Fill(Settings()); });
+
+  auto* row = new QHBoxLayout;
+  row->addWidget(tabs);
+  row->addWidget(preview_, 1);
+  auto* column = new QVBoxLayout(this);
+  column->addLayout(row, 1);
+  column->addWidget(buttons);
+  Fill(before_);
+}
+
+QWidget* frmOptions::CardsPage() {
+  auto* page = new QWidget(this);
+  QVBoxLayout* column = MakePage(page);
+  AddCheck(column, "CardsFaces", tr("Show hands as card faces"), &Settings::CardsFaces);
+  AddChoice(column, "CardDesign", tr("Card design"),
+            {tr("Design 1"), tr("Design 2"), tr("Design 3")}, &Settings::CardDesign, 1);
+  AddCheck(column, "SuitColour", tr("Four suit colours"), &Settings::SuitColour);
+  suitFontSize_ = new QDoubleSpinBox(page);
+  suitFontSize_->setObjectName(QStringLiteral("SuitFontSize"));
+  suitFontSize_->setDecimals(1);
+  if (const SettingEntry* limits = FindSetting("SuitFontSize")) {
+    suitFontSize_->setRange(limits->lowest, limits->highest);
+  }
+  connect(suitFontSize_, &QDoubleSpinBox::valueChanged, this, &frmOptions::Preview);
+  AddRow(column, tr("Size of suit symbols (points)"), suitFontSize_);
+  AddChoice(column, "ColourScheme", tr("Colour scheme"),
+            {tr("As the system"), tr("Light"), tr("Dark")}, &Settings::ColourScheme, 0);
+  AddChoice(column, "EditMethod", tr("Edit hands by"),
+            {tr("Drag and drop"), tr("Click a seat"), tr("Type the holding")},
+            &Settings::EditMethod, 1);
+  column->addStretch(1);
+  return page;
+}
+
+QWidget* frmOptions::CaptionsPage() {
+  auto* page = new QWidget(this);
+  QVBoxLayout* column = MakePage(page);
+  AddCheck(column, "CaptionPlayer", tr("Name of the seat"), &Settings::CaptionPlayer);
+  AddCheck(column, "CaptionnCards", tr("Number of cards"), &Settings::CaptionnCards);
+  AddCheck(column, "CaptionHCP", tr("High-card points"), &Settings::CaptionHCP);
+  AddCheck(column, "CaptionLTC", tr("Losing-trick count"), &Settings::CaptionLTC);
+  AddCheck(column, "CaptionDeclarer", tr("Declarer"), &Settings::CaptionDeclarer);
+  AddCheck(column, "CaptionDummy", tr("Dummy"), &Settings::CaptionDummy);
+  column->addStretch(1);
+  return page;
+}
+
+QWidget* frmOptions::FontsPage() {
+  auto* page = new QWidget(this);
+  QVBoxLayout* column = MakePage(page);
+  fonts_ = {new FontEditor(tr("Hands as text"), page),
+            new FontEditor(tr("Captions and auction"), page)};
+  int index = 0;
+  for (FontEditor* editor : fonts_) {
+    editor->setObjectName(QStringLiteral("HGFont%1").arg(index++));
+    connect(editor, &FontEditor::Changed, this, &frmOptions::Preview);
+    column->addWidget(editor);
+  }
+  column->addStretch(1);
+  return page;
+}
+
+QWidget* frmOptions::StartPage() {
+  auto* page = new QWidget(this);
+  QVBoxLayout* column = MakePage(page);
+  AddCheck(column, "AutoLaunch", tr("Open the main window at once"), &Settings::AutoLaunch);
+  AddCheck(column, "AutoUpdate", tr("Look for a newer version at start"), &Settings::AutoUpdate);
+  AddCheck(column, "AutoMakeable", tr("Compute a missing makeable table"), &Settings::AutoMakeable);
+  AddCheck(column, "ShowBestCards", tr("In play, the tricks that each card leads to"),
+           &Settings::ShowBestCards);
+  AddCheck(column, "ShowStats", tr("Show the statistics"), &Settings::ShowStats);
+  AddCheck(column, "ShowMakeable", tr("Show the makeable table"), &Settings::ShowMakeable);
+  AddCheck(column, "MakeableContract", tr("Makeable table as contracts, not tricks"),
+           &Settings::MakeableContract);
+  column->addStretch(1);
+  return page;
+}
+
+QWidget* frmOptions::ExportPage() {
+  auto* page = new QWidget(this);
+  QVBoxLayout* column = MakePage(page);
+  AddCheck(column, "PBNBids", tr("PBN: write the auction"), &Settings::PBNBids);
+  AddCheck(column, "PBNShark", tr("PBN: write a result tag and a board comment"),
+           &Settings::PBNShark);
+  column->addStretch(1);
+  return page;
+}
+
+void frmOptions::AddCheck(QVBoxLayout* page, const char* key, const QString& text,
+                          bool Settings::*setting) {
+  auto* box = new QCheckBox(text);
+  box->setObjectName(QString::fromLatin1(key));
+  connect(box, &QCheckBox::toggled, this, &frmOptions::Preview);
+  checks_.push_back({box, setting});
+  page->addWidget(box);
+}
+
+QComboBox* frmOptions::AddChoice(QVBoxLayout* page, const char* key, const QString& caption,
+                                 const QStringList& texts, int Settings::*setting, int first) {
+  auto* combo = new QComboBox;
+  combo->setObjectName(QString::fromLatin1(key));
+  combo->setAccessibleName(caption);
+  combo->addItems(texts);
+  connect(combo, &QComboBox::currentIndexChanged, this, &frmOptions::Preview);
+  choices_.push_back({combo, setting, first});
+  AddRow(page, caption, combo);
+  return combo;
+}
+
+void frmOptions::Fill(const Settings& settings) {
+  filling_ = true;
+  for (const Check& check : checks_) check.box->setChecked(settings.*check.setting);
+  for (const Choice& choice : choices_) {
+    choice.combo->setCurrentIndex(settings.*choice.setting - choice.first);
+  }
+  suitFontSize_->setValue(settings.SuitFontSize);
+  for (std::size_t i = 0; i < fonts_.size(); ++i) fonts_.at(i)->SetValue(settings.HGFont.at(i));
+  filling_ = false;
+  Preview();
+}
+
+Settings frmOptions::Chosen() const {
+  Settings settings = before_;
+  for (const Check& check : checks_) settings.*check.setting = check.box->isChecked();
+  for (const Choice& choice : choices_) {
+    settings.*choice.setting = choice.combo->currentIndex() + choice.first;
+  }
+  settings.SuitFontSize = suitFontSize_->value();
+  for (std::size_t i = 0; i < fonts_.size(); ++i) settings.HGFont.at(i) = fonts_.at(i)->Value();
+  return settings;
+}
+
+void frmOptions::Preview() {
+  if (!filling_) preview_->Show(board_, Chosen());
+}
+
+}  // namespace tricklet::ui

@@ -1,0 +1,118 @@
+#include "ui/panes/contract_pane.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "core/scoring.h"
+#include "ui/commands/commands.h"
+#include "ui/style/side_column.h"
+#include "ui/style/symbols.h"
+#include "ui/style/text.h"
+
+namespace tricklet::ui {
+namespace {
+
+QLabel* MakeLabel(const QString& name, double size, QWidget* parent) {
+  auto* label = new QLabel(parent);
+  label->setObjectName(name);
+  QFont font = label->font();
+  font.setPointSizeF(font.pointSizeF() * size);
+  font.setBold(true);
+  label->setFont(font);
+  return label;
+}
+
+/// A text with a contract, its suit as the symbol in its colour.
+void SetContractText(QLabel* label, const std::string& text, const Settings& settings) {
+  label->setText(WithSymbols(ToQt(text).toHtmlEscaped(), [&](Suit suit) {
+    return ColouredSymbol(suit, settings.SuitColour, label->palette());
+  }));
+  label->setAccessibleName(ToQt(text));
+  label->setVisible(!text.empty());
+}
+
+/// The result of a board that needs no play.
+std::string PassedOutText(const Board& board) {
+  return board.Contract == kAllPass ? ResultLine(board, 0) : "";
+}
+
+}  // namespace
+
+ContractPane::ContractPane(Commands& commands, QWidget* parent)
+    : QWidget(parent),
+      lblContract(MakeLabel(QStringLiteral("lblContract"), 1.25, this)),
+      fraPlay_(new QWidget(this)),
+      cmdUndo(new QPushButton(tr("Undo"), fraPlay_)),
+      cmdClaim(new QPushButton(fraPlay_)),
+      lblScore(MakeLabel(QStringLiteral("lblScore"), 1.0, this)) {
+  setObjectName(QStringLiteral("fraContract"));
+  auto* contract = new QHBoxLayout;
+  contract->addWidget(lblContract, 1);
+  for (const Side side : {Side::NorthSouth, Side::EastWest}) {
+    lblTricks[side] = new QLabel(this);
+    lblTricks[side]->setObjectName(QStringLiteral("lblTricks_%1").arg(IndexOf(side)));
+    contract->addWidget(lblTricks[side]);
+  }
+  fraPlay_->setObjectName(QStringLiteral("fraPlay"));
+  cmdUndo->setObjectName(QStringLiteral("cmdUndo"));
+  cmdUndo->setToolTip(tr("Take back the last card (Ctrl+Z)"));
+  cmdClaim->setObjectName(QStringLiteral("cmdClaim"));
+  cmdClaim->setToolTip(tr("All tricks that are left go to the side on play (Ctrl+L)"));
+  connect(cmdUndo, &QPushButton::clicked, &commands, &Commands::UndoCard);
+  connect(cmdClaim, &QPushButton::clicked, &commands, &Commands::Claim);
+  auto* buttons = new QHBoxLayout(fraPlay_);
+  buttons->setContentsMargins(0, 0, 0, 0);
+  buttons->addWidget(cmdUndo, 2);
+  buttons->addWidget(cmdClaim, 5);
+
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(8);
+  column->addLayout(contract);
+  column->addWidget(lblScore);
+  column->addWidget(fraPlay_);
+}
+
+QList<QWidget*> ContractPane::TabOrder() const {
+  return {cmdUndo, cmdClaim};
+}
+
+void ContractPane::Show(const Session& session, const CardPlay& play, bool entering) {
+  const Board& board = session.board;
+  KeepRoom(this, board.NumCalls() > 0);
+  setVisible(!entering && board.NumCalls() > 0);
+  SetContractText(lblContract, ContractLabel(board), session.settings);
+  SetContractText(lblScore, play.PlayMode() ? play.ScoreText() : PassedOutText(board),
+                  session.settings);
+  ShowPlay(play);
+}
+
+void ContractPane::ShowRecord(const Replay& record, const Settings& settings) {
+  const Board& board = record.Record().Board;
+  KeepRoom(this, true);
+  setVisible(true);
+  SetContractText(lblContract, ContractLabel(board), settings);
+  SetContractText(lblScore, record.ScoreText(), settings);
+  ShowTricks(record.Play());
+  fraPlay_->setVisible(false);
+}
+
+void ContractPane::ShowTricks(const CardPlay& play) {
+  const bool on = play.PlayMode();
+  for (const Side side : {Side::NorthSouth, Side::EastWest}) {
+    lblTricks[side]->setVisible(on);
+    lblTricks[side]->setText(on ? ToQt(play.TricksText(side)) : QString());
+  }
+}
+
+void ContractPane::ShowPlay(const CardPlay& play) {
+  ShowTricks(play);
+  fraPlay_->setVisible(play.PlayMode());
+  cmdUndo->setEnabled(play.UndoEnabled());
+  cmdClaim->setEnabled(play.ClaimEnabled());
+  cmdClaim->setText(ToQt(play.ClaimCaption()));
+}
+
+}  // namespace tricklet::ui

@@ -1,0 +1,208 @@
+#include "ui/panes/library_pane.h"
+
+#include <algorithm>
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QIntValidator>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "library/library_store.h"
+#include "ui/dialogs/name_filter.h"
+#include "ui/panes/board_list_model.h"
+#include "ui/style/section.h"
+#include "ui/style/text.h"
+
+namespace tricklet::ui {
+namespace {
+
+/// Lets 1..999 be typed, and puts the shown number back when something else is left behind.
+class HighestBoardValidator : public QIntValidator {
+ public:
+  HighestBoardValidator(const Session& session, QObject* parent)
+      : QIntValidator(kFirstBoardNumber, kLastBoardNumber, parent), session_(session) {}
+  void fixup(QString& text) const override { text = QString::number(session_.library.MaxBoard); }
+
+ private:
+  const Session& session_;
+};
+
+QToolButton* MakeStepButton(const QString& name, Qt::ArrowType arrow, const QString& title,
+                            QWidget* parent) {
+  auto* button = new QToolButton(parent);
+  button->setObjectName(name);
+  button->setArrowType(arrow);
+  button->setAccessibleName(title);
+  button->setToolTip(title);
+  button->setFocusPolicy(Qt::StrongFocus);
+  return button;
+}
+
+/// A combo box of a narrow column: long entries are cut, its list is quick to measure.
+QComboBox* MakeCombo(const QString& name, const QString& title, QWidget* parent) {
+  auto* combo = new QComboBox(parent);
+  combo->setObjectName(name);
+  combo->setAccessibleName(title);
+  combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  combo->setMinimumContentsLength(3);
+  combo->setMaxVisibleItems(20);
+  combo->setInsertPolicy(QComboBox::NoInsert);
+  auto* list = new QListView(combo);
+  list->setUniformItemSizes(true);
+  combo->setView(list);
+  return combo;
+}
+
+void MakeTypable(QComboBox* combo) {
+  combo->setEditable(true);
+  combo->setCompleter(nullptr);
+  combo->lineEdit()->setObjectName(combo->objectName() + QStringLiteral("Text"));
+  combo->lineEdit()->setAccessibleName(combo->accessibleName());
+}
+
+}  // namespace
+
+LibraryPane::LibraryPane(Session& session, QWidget* parent)
+    : QWidget(parent),
+      session_(session),
+      fraLibrary(new Section(QStringLiteral("fraLibrary"), this)),
+      boards_(new BoardListModel(this)) {
+  BuildLibrary(session);
+  BuildBoard();
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(10);
+  column->addWidget(fraLibrary);
+}
+
+void LibraryPane::BuildLibrary(Session& session) {
+  cmbLibs = MakeCombo(QStringLiteral("cmbLibs"), tr("Library"), this);
+  MakeTypable(cmbLibs);
+  cmbLibs->lineEdit()->setPlaceholderText(tr("Name of a new library"));
+  new NameFilter(cmbLibs->lineEdit(), session.host, cmbLibs);
+  new QShortcut(
+      Qt::Key_Escape, cmbLibs, this, [this] { ShowNames(session_); },
+      Qt::WidgetWithChildrenShortcut);
+  cmdChange = new QPushButton(tr("Create"), this);
+  cmdChange->setObjectName(QStringLiteral("cmdChange"));
+  cmdChange->setToolTip(tr("Create a new library of the name typed"));
+  cmdChange->setEnabled(false);
+  lblLibrary = new QLabel(this);
+  lblLibrary->setObjectName(QStringLiteral("lblLibrary"));
+  MakeQuiet(lblLibrary);
+
+  connect(cmbLibs, &QComboBox::activated, this, &LibraryPane::LibraryChosen);
+  connect(cmbLibs->lineEdit(), &QLineEdit::textChanged, this, &LibraryPane::NameTyped);
+  connect(cmbLibs->lineEdit(), &QLineEdit::returnPressed, cmdChange, &QPushButton::click);
+  connect(cmdChange, &QPushButton::clicked, this,
+          [this] { emit LibraryNamed(cmbLibs->currentText()); });
+
+  fraLibrary->Body()->addWidget(cmbLibs);
+  auto* row = new QHBoxLayout;
+  row->addWidget(lblLibrary, 1);
+  row->addWidget(cmdChange);
+  fraLibrary->Body()->addLayout(row);
+}
+
+void LibraryPane::BuildBoard() {
+  lblPrevious =
+      MakeStepButton(QStringLiteral("lblPrevious"), Qt::LeftArrow, tr("Previous board"), this);
+  cmbBoard = MakeCombo(QStringLiteral("cmbBoard"), tr("Board"), this);
+  cmbBoard->setModel(boards_);
+  lblNext = MakeStepButton(QStringLiteral("lblNext"), Qt::RightArrow, tr("Next board"), this);
+  cmbMaxBoard = MakeCombo(QStringLiteral("cmbMaxBoard"), tr("Highest board"), this);
+  MakeTypable(cmbMaxBoard);
+  QStringList numbers;
+  for (int n = kFirstBoardNumber; n <= kLastBoardNumber; ++n) numbers += QString::number(n);
+  cmbMaxBoard->addItems(numbers);
+  cmbMaxBoard->setValidator(new HighestBoardValidator(session_, cmbMaxBoard));
+
+  connect(lblPrevious, &QToolButton::clicked, this, [this] { emit StepAsked(true); });
+  connect(lblNext, &QToolButton::clicked, this, [this] { emit StepAsked(false); });
+  connect(cmbBoard, &QComboBox::activated, this,
+          [this](int index) { emit BoardChosen(index + 1); });
+  connect(cmbMaxBoard, &QComboBox::activated, this,
+          [this](int index) { emit HighestChosen(index + 1); });
+
+  auto* row = new QHBoxLayout;
+  row->addWidget(lblPrevious);
+  row->addWidget(cmbBoard, 1);
+  row->addWidget(lblNext);
+  for (QToolButton* button : {lblPrevious, lblNext}) {
+    button->setFixedHeight(cmbBoard->sizeHint().height());
+    button->setFixedWidth(cmbBoard->sizeHint().height());
+  }
+  auto* highest = new QHBoxLayout;
+  auto* caption = new QLabel(tr("Highest board"), this);
+  caption->setBuddy(cmbMaxBoard);
+  MakeQuiet(caption);
+  highest->addWidget(caption, 1);
+  highest->addWidget(cmbMaxBoard);
+  cmbMaxBoard->setMinimumContentsLength(5);
+  fraLibrary->Body()->addLayout(row);
+  fraLibrary->Body()->addLayout(highest);
+}
+
+QList<QWidget*> LibraryPane::TabOrder() const {
+  return {cmbLibs, cmdChange, lblPrevious, cmbBoard, lblNext, cmbMaxBoard};
+}
+
+void LibraryPane::Show(const Session& session) {
+  fraLibrary->SetTitle(ToQt(LibraryCaption(session)));
+  lblLibrary->setText(ToQt(LibraryCountText(session)));
+  ShowNames(session);
+
+  boards_->Show(session.library);
+  cmbBoard->setCurrentIndex(session.board.BoardNumber - 1);
+  const QSignalBlocker quiet(cmbMaxBoard);
+  cmbMaxBoard->setCurrentIndex(session.library.MaxBoard - 1);
+  cmbMaxBoard->setEditText(QString::number(session.library.MaxBoard));
+  const bool steps = session.library.MaxBoard > 0;
+  lblPrevious->setEnabled(steps);
+  lblNext->setEnabled(steps);
+}
+
+void LibraryPane::OfferNext(bool offer) {
+  QPalette colours;
+  if (offer) {
+    colours.setBrush(QPalette::Button, palette().brush(QPalette::Highlight));
+    colours.setBrush(QPalette::ButtonText, palette().brush(QPalette::HighlightedText));
+  }
+  if (lblNext->palette() != colours) lblNext->setPalette(colours);
+}
+
+void LibraryPane::ShowNames(const Session& session) {
+  QStringList names;
+  for (const std::string& name : session.LibraryNames) names += ToQt(name);
+  QStringList listed;
+  for (int i = 0; i < cmbLibs->count(); ++i) listed += cmbLibs->itemText(i);
+  const QSignalBlocker quiet(cmbLibs);
+  if (names != listed) {
+    cmbLibs->clear();
+    cmbLibs->addItems(names);
+  }
+  cmbLibs->setCurrentIndex(session.LibIndex);
+  cmbLibs->setEditText(ToQt(session.LibraryName()));
+  cmbLibs->lineEdit()->setCursorPosition(0);  // of a long name the beginning
+  cmbLibs->setToolTip(ToQt(session.LibraryName()));
+  NameTyped(cmbLibs->currentText());
+}
+
+void LibraryPane::BeginNewLibrary() {
+  cmbLibs->setFocus(Qt::ShortcutFocusReason);
+  cmbLibs->clearEditText();
+}
+
+void LibraryPane::NameTyped(const QString& text) {
+  cmdChange->setEnabled(IsNewLibraryName(session_, FromQt(text)));
+}
+
+}  // namespace tricklet::ui

@@ -1,0 +1,128 @@
+#include "ui/panes/makeable_pane.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QTableWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "analysis/makeable_view.h"
+#include "analysis/par.h"
+#include "ui/style/symbols.h"
+#include "ui/style/text.h"
+#include "ui/style/theme.h"
+
+namespace tricklet::ui {
+namespace {
+
+constexpr int kSeatColumn = 0;
+constexpr int kFirstStrainColumn = 1;
+
+}  // namespace
+
+MakeablePane::MakeablePane(QWidget* parent)
+    : Section(QStringLiteral("fraMakeable"), parent),
+      cmdMake(new QToolButton(this)),
+      lvwMake(new QTableWidget(kSeats, 1 + kStrains, this)),
+      lblPar(new QLabel(this)) {
+  cmdMake->setObjectName(QStringLiteral("cmdMake"));
+  cmdMake->setAccessibleName(tr("Show the makeable table"));
+  cmdMake->setAutoRaise(true);
+  cmdMake->setCheckable(true);
+  cmdMake->setFocusPolicy(Qt::StrongFocus);
+  connect(cmdMake, &QToolButton::toggled, this, &MakeablePane::Expand);
+  TitleRow()->addWidget(cmdMake);
+
+  lvwMake->setObjectName(QStringLiteral("lvwMake"));
+  lvwMake->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  lvwMake->setSelectionMode(QAbstractItemView::NoSelection);
+  lvwMake->setShowGrid(false);
+  lvwMake->setTabKeyNavigation(false);
+  lvwMake->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  lvwMake->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  lvwMake->horizontalHeader()->setMinimumSectionSize(1);
+  lvwMake->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+  lvwMake->horizontalHeader()->setSectionsClickable(false);
+  StyleHeads();
+  lvwMake->verticalHeader()->hide();
+  lvwMake->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  lvwMake->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+  for (int row = 0; row < kSeats; ++row) {
+    lvwMake->setItem(row, kSeatColumn, new QTableWidgetItem);
+    for (int column = 0; column < kStrains; ++column) {
+      auto* cell = new QTableWidgetItem;
+      cell->setTextAlignment(Qt::AlignCenter);
+      lvwMake->setItem(row, kFirstStrainColumn + column, cell);
+    }
+  }
+  Body()->addWidget(lvwMake);
+  lblPar->setObjectName(QStringLiteral("lblPar"));
+  lblPar->setWordWrap(true);
+  Body()->addWidget(lblPar);
+  cmdMake->setChecked(true);
+}
+
+/// A style sheet keeps the colours that it began with, so it names them and is set again with
+/// others: the program's, as the table's own come later.
+void MakeablePane::StyleHeads() {
+  lvwMake->horizontalHeader()->setStyleSheet(
+      QStringLiteral("QHeaderView, QHeaderView::section { border: none; background: %1; }")
+          .arg(QGuiApplication::palette().color(QPalette::Base).name()));
+}
+
+void MakeablePane::changeEvent(QEvent* event) {
+  Section::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) StyleHeads();
+}
+
+void MakeablePane::Expand(bool expanded) {
+  cmdMake->setText(expanded ? QStringLiteral("v") : QStringLiteral("^"));
+  cmdMake->setToolTip(expanded ? tr("Hide the makeable table") : tr("Show the makeable table"));
+  lvwMake->setVisible(expanded);
+}
+
+QList<QWidget*> MakeablePane::TabOrder() const {
+  return {cmdMake, lvwMake};
+}
+
+void MakeablePane::ShowHeads(const Settings& settings) {
+  for (const Suit suit : kAllSuits) {
+    auto* head = new QTableWidgetItem(ToQt(SuitSymbol[suit]));
+    head->setForeground(SuitColourOnWindow(suit, settings.SuitColour, palette()));
+    head->setToolTip(ToQt(SuitName[suit]));
+    head->setData(Qt::AccessibleTextRole, head->toolTip());
+    lvwMake->setHorizontalHeaderItem(kFirstStrainColumn + IndexOf(suit), head);
+  }
+  lvwMake->setHorizontalHeaderItem(kFirstStrainColumn + IndexOf(Strain::NoTrump),
+                                   new QTableWidgetItem(tr("NT")));
+  lvwMake->setHorizontalHeaderItem(kSeatColumn, new QTableWidgetItem);
+}
+
+void MakeablePane::Show(const Session& session) {
+  setVisible(session.board.MakeableValid && session.settings.ShowMakeable);
+  if (isHidden()) return;
+  const MakeableView view =
+      MakeMakeableView(session.board.Makeable, session.settings.MakeableContract);
+  SetTitle(ToQt(view.caption));
+  lvwMake->setAccessibleName(ToQt(view.caption));
+  ShowHeads(session.settings);
+  int row = 0;
+  for (const MakeableView::Row& line : view.rows) {
+    lvwMake->item(row, kSeatColumn)->setText(ToQt(line.seat));
+    int column = kFirstStrainColumn;
+    for (const std::string& cell : line.cells) lvwMake->item(row, column++)->setText(ToQt(cell));
+    ++row;
+  }
+  const Board& board = session.board;
+  const QString par =
+      ToQt(ParText(ComputePar(board.Makeable, board.Dealer(), board.Vulnerability())));
+  lblPar->setText(WithSymbols(par));
+  lblPar->setAccessibleName(par);
+  lvwMake->setFixedHeight(lvwMake->horizontalHeader()->sizeHint().height() +
+                          lvwMake->verticalHeader()->length() + 2 * lvwMake->frameWidth());
+}
+
+}  // namespace tricklet::ui

@@ -1,0 +1,333 @@
+#include "ui/panes/traveller_pane.h"
+
+#include <algorithm>
+
+#include <QComboBox>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QStyle>
+#include <QTableWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "ui/panes/traveller_cells.h"
+#include "ui/style/symbols.h"
+#include "ui/style/text.h"
+#include "ui/style/theme.h"
+
+namespace tricklet::ui {
+namespace {
+
+constexpr int kLeastRows = 3;  // that the grid has room for before the column scrolls
+constexpr int kRowPadding = 6;
+constexpr int kCellPadding = 6;     // both sides of a text
+constexpr double kFontSize = 0.88;  // of the window's, so that the numbers fit beside each other
+/// So that the pane takes the room that the column has left.
+constexpr int kStretch = 100;
+
+}  // namespace
+
+TravellerPane::TravellerPane(Results& results, QWidget* parent)
+    : Section(QStringLiteral("secTraveller"), parent),
+      results_(results),
+      cmdTraveller(new QToolButton(this)),
+      fraTraveller(new QWidget(this)),
+      flexTraveller(new QTableWidget(0, kTravellerColumns, fraTraveller)),
+      cmbLinNames(new QComboBox(fraTraveller)),
+      lblLinPlace_(new ElidedLabel(fraTraveller)) {
+  cmdTraveller->setObjectName(QStringLiteral("cmdTraveller"));
+  cmdTraveller->setAccessibleName(tr("Show the traveller"));
+  cmdTraveller->setAutoRaise(true);
+  cmdTraveller->setCheckable(true);
+  cmdTraveller->setFocusPolicy(Qt::StrongFocus);
+  connect(cmdTraveller, &QToolButton::toggled, this, &TravellerPane::Expand);
+  TitleRow()->addWidget(cmdTraveller);
+
+  fraTraveller->setObjectName(QStringLiteral("fraTraveller"));
+  auto* column = new QVBoxLayout(fraTraveller);
+  column->setContentsMargins(0, 0, 0, 0);
+  cmbLinNames->setObjectName(QStringLiteral("cmbLinNames"));
+  cmbLinNames->setAccessibleName(tr("Play records"));
+  cmbLinNames->setToolTip(tr("The table whose auction and play are shown"));
+  cmbLinNames->setPlaceholderText(tr("Choose a play record"));
+  cmbLinNames->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  connect(cmbLinNames, &QComboBox::activated, &results_, &Results::ShowRecord);
+  column->addWidget(cmbLinNames);
+  BuildSteps(column);
+  BuildGrid();
+  column->addWidget(flexTraveller, 1);  // below the rest, as it is what gives way
+  Body()->addWidget(fraTraveller, 1);
+  cmdTraveller->setChecked(true);
+}
+
+void TravellerPane::BuildGrid() {
+  flexTraveller->setObjectName(QStringLiteral("flexTraveller"));
+  flexTraveller->setAccessibleName(tr("Traveller"));
+  QFont small = font();
+  small.setPointSizeF(small.pointSizeF() * kFontSize);
+  flexTraveller->setFont(small);
+  flexTraveller->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  flexTraveller->setSelectionBehavior(QAbstractItemView::SelectRows);
+  flexTraveller->setSelectionMode(QAbstractItemView::SingleSelection);
+  flexTraveller->setShowGrid(false);
+  flexTraveller->setTabKeyNavigation(false);
+  flexTraveller->setWordWrap(false);
+  flexTraveller->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  flexTraveller->verticalHeader()->hide();
+  flexTraveller->verticalHeader()->setMinimumSectionSize(1);
+  flexTraveller->verticalHeader()->setDefaultSectionSize(QFontMetrics(small).height() +
+                                                         kRowPadding);
+  QHeaderView* heads = flexTraveller->horizontalHeader();
+  heads->setFont(small);
+  heads->setMinimumSectionSize(1);
+  heads->setSectionResizeMode(QHeaderView::Fixed);
+  heads->setHighlightSections(false);
+  heads->setSortIndicatorClearable(true);
+  flexTraveller->setSortingEnabled(true);
+  heads->setSortIndicator(-1, Qt::AscendingOrder);
+  connect(heads, &QHeaderView::sortIndicatorChanged, this, [this](int column) {
+    if (column < 0) RestoreOrder();
+    TravellerResize();
+  });
+  // What the column has left, and no less than some rows: a height of its own would make the column
+  // scroll.
+  flexTraveller->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+  const int row = flexTraveller->verticalHeader()->defaultSectionSize();
+  flexTraveller->setMinimumHeight((kLeastRows + 2) * row + 2 * flexTraveller->frameWidth());
+  auto* sort = new QShortcut(Qt::Key_Space, flexTraveller, nullptr, nullptr, Qt::WidgetShortcut);
+  connect(sort, &QShortcut::activated, this, &TravellerPane::SortByCurrentColumn);
+  connect(flexTraveller, &QTableWidget::itemSelectionChanged, this, [this] {
+    const auto rows = flexTraveller->selectionModel()->selectedRows();
+    if (!rows.isEmpty()) ChooseRow(rows.first().row());
+  });
+}
+
+QToolButton* TravellerPane::AddStep(Step step, const char* name, const QString& text,
+                                    const QString& tip, void (Results::*procedure)()) {
+  auto* button = new QToolButton(fraTraveller);
+  button->setObjectName(QString::fromLatin1(name));
+  button->setText(text);
+  button->setToolTip(tip);
+  button->setAccessibleName(tip.section(QLatin1Char('('), 0, 0).trimmed());
+  button->setFocusPolicy(Qt::StrongFocus);
+  connect(button, &QToolButton::clicked, &results_, procedure);
+  steps_.at(step) = button;
+  return button;
+}
+
+void TravellerPane::BuildSteps(QVBoxLayout* column) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(4);
+  row->addWidget(AddStep(PreviousTrick, "cmdLinPreviousTrick", tr("<<"),
+                         tr("Back to the beginning of the trick (Alt+Shift+Left)"),
+                         &Results::PreviousTrick));
+  row->addWidget(
+      AddStep(Back, "cmdLinBack", tr("<"), tr("One card back (Alt+Left)"), &Results::Back));
+  row->addWidget(
+      AddStep(Forward, "cmdLinForward", tr(">"), tr("One card on (Alt+Right)"), &Results::Forward));
+  row->addWidget(AddStep(NextTrick, "cmdLinNextTrick", tr(">>"),
+                         tr("On to the end of the trick (Alt+Shift+Right)"), &Results::NextTrick));
+  lblLinPlace_->setObjectName(QStringLiteral("lblLinPlace"));
+  MakeQuiet(lblLinPlace_);
+  row->addWidget(lblLinPlace_, 1);
+  row->addWidget(AddStep(Leave, "cmdLinLeave", tr("x"),
+                         tr("Put the play record away (Ctrl+Shift+J)"), &Results::Leave));
+  column->addLayout(row);
+}
+
+QList<QWidget*> TravellerPane::TabOrder() const {
+  QList<QWidget*> order{cmdTraveller, cmbLinNames};
+  for (QToolButton* step : steps_) order += step;
+  return order + QList<QWidget*>{flexTraveller};
+}
+
+void TravellerPane::Toggle() {
+  cmdTraveller->toggle();
+}
+
+void TravellerPane::Expand(bool expanded) {
+  cmdTraveller->setText(expanded ? QStringLiteral("v") : QStringLiteral("^"));
+  cmdTraveller->setToolTip(expanded ? tr("Hide the traveller (Ctrl+J)")
+                                    : tr("Show the traveller (Ctrl+J)"));
+  fraTraveller->setVisible(expanded);
+  QSizePolicy policy = sizePolicy();
+  policy.setVerticalStretch(expanded ? kStretch : 0);
+  setSizePolicy(policy);
+}
+
+void TravellerPane::SetLinVisible(bool visible) {
+  setVisible(visible);
+}
+
+void TravellerPane::Show(const Settings& settings) {
+  SetLinVisible(results_.HasLinData());
+  if (isHidden()) return;
+  if (shownEdition_ != results_.Edition() || fourColours_ != settings.SuitColour) {
+    shownEdition_ = results_.Edition();
+    fourColours_ = settings.SuitColour;
+    FillGrid(settings);
+    FillNames();
+  }
+  MarkRecord();
+  ShowSteps();
+}
+
+void TravellerPane::FillGrid(const Settings& settings) {
+  const QSignalBlocker blocker(flexTraveller);
+  const Traveller& traveller = results_.OfBoard();
+  SetTitle(traveller.Rows.empty() ? tr("No traveller for this board") : tr("Traveller"));
+  flexTraveller->setSortingEnabled(false);
+  flexTraveller->clearSelection();
+  flexTraveller->setRowCount(0);
+  flexTraveller->setRowCount(static_cast<int>(traveller.Rows.size()));
+  for (int column = 0; column < kTravellerColumns; ++column) {
+    flexTraveller->setHorizontalHeaderItem(
+        column, MakeTravellerHead(static_cast<TravellerColumn>(column), traveller));
+  }
+  for (int row = 0; row < flexTraveller->rowCount(); ++row) {
+    FillRow(row, traveller.Rows.at(static_cast<std::size_t>(row)), settings);
+  }
+  flexTraveller->setSortingEnabled(true);
+  TravellerResize();
+}
+
+void TravellerPane::FillRow(int place, const TravellerRow& row, const Settings& settings) {
+  // Marked up, or names could be taken for mark-up themselves.
+  const QString line =
+      QStringLiteral("<span>%1</span>").arg(ToQt(ReadLinBidding(row)).toHtmlEscaped());
+  for (int column = 0; column < kTravellerColumns; ++column) {
+    QTableWidgetItem* cell =
+        MakeTravellerCell(static_cast<TravellerColumn>(column), row, settings, palette());
+    cell->setData(kTravellerRowRole, place);
+    cell->setToolTip(line);
+    flexTraveller->setItem(place, column, cell);
+  }
+}
+
+void TravellerPane::FillNames() {
+  const QSignalBlocker blocker(cmbLinNames);
+  cmbLinNames->clear();
+  for (const std::string& names : AddLinNames(results_.OfBoard())) {
+    cmbLinNames->addItem(ToQt(names));
+  }
+  cmbLinNames->setCurrentIndex(-1);
+}
+
+int TravellerPane::RowAt(int place) const {
+  return flexTraveller->item(place, 0)->data(kTravellerRowRole).toInt();
+}
+
+/// What clicks on the heading of the current cell's column do: up, down, and as it was.
+void TravellerPane::SortByCurrentColumn() {
+  QHeaderView* heads = flexTraveller->horizontalHeader();
+  const int column = flexTraveller->currentColumn();
+  if (column < 0) return;
+  if (heads->sortIndicatorSection() != column) {
+    heads->setSortIndicator(column, Qt::AscendingOrder);
+  } else if (heads->sortIndicatorOrder() == Qt::AscendingOrder) {
+    heads->setSortIndicator(column, Qt::DescendingOrder);
+  } else {
+    heads->setSortIndicator(-1, Qt::AscendingOrder);
+  }
+}
+
+/// The rows as the traveller has them: without a column to sort by the grid leaves them as they
+/// are.
+void TravellerPane::RestoreOrder() {
+  const QSignalBlocker blocker(flexTraveller);
+  std::vector<std::array<QTableWidgetItem*, kTravellerColumns>> rows(
+      static_cast<std::size_t>(flexTraveller->rowCount()));
+  for (int place = 0; place < flexTraveller->rowCount(); ++place) {
+    auto& row = rows.at(static_cast<std::size_t>(RowAt(place)));
+    for (int column = kTravellerColumns - 1; column >= 0; --column) {
+      row.at(static_cast<std::size_t>(column)) = flexTraveller->takeItem(place, column);
+    }
+  }
+  for (int row = 0; row < flexTraveller->rowCount(); ++row) {
+    for (int column = 0; column < kTravellerColumns; ++column) {
+      flexTraveller->setItem(
+          row, column, rows.at(static_cast<std::size_t>(row)).at(static_cast<std::size_t>(column)));
+    }
+  }
+  MarkRecord();
+}
+
+void TravellerPane::ChooseRow(int place) {
+  const int row = RowAt(place);
+  const Traveller& traveller = results_.OfBoard();
+  if (row >= static_cast<int>(traveller.Rows.size())) return;
+  const std::string names = traveller.Rows.at(static_cast<std::size_t>(row)).NamesText();
+  results_.ShowRecord(FindLinName(AddLinNames(traveller), names, row));
+}
+
+/// Marks the row of the record that is being looked at, by weight as well as by colour.
+void TravellerPane::MarkRecord() {
+  const QSignalBlocker grid(flexTraveller);
+  const QSignalBlocker names(cmbLinNames);
+  cmbLinNames->setCurrentIndex(results_.Row());
+  if (results_.Row() < 0) {
+    flexTraveller->clearSelection();
+    flexTraveller->setCurrentCell(-1, -1);
+  }
+  for (int place = 0; place < flexTraveller->rowCount(); ++place) {
+    const bool marked = RowAt(place) == results_.Row();
+    if (marked && flexTraveller->currentRow() != place) flexTraveller->selectRow(place);
+    for (int column = 0; column < kTravellerColumns; ++column) {
+      QTableWidgetItem* cell = flexTraveller->item(place, column);
+      QFont font = flexTraveller->font();
+      font.setBold(marked);
+      if (cell->font().bold() != marked) cell->setFont(font);
+    }
+  }
+}
+
+void TravellerPane::ShowSteps() {
+  const Replay* record = results_.Record();
+  const bool back = record != nullptr && record->BackEnabled();
+  const bool forward = record != nullptr && record->ForwardEnabled();
+  for (const Step step : {PreviousTrick, Back}) steps_.at(step)->setEnabled(back);
+  for (const Step step : {Forward, NextTrick}) steps_.at(step)->setEnabled(forward);
+  steps_.at(Leave)->setEnabled(record != nullptr);
+  lblLinPlace_->setText(record == nullptr ? QString() : ToQt(record->PlaceText()));
+  lblLinPlace_->setAccessibleName(lblLinPlace_->text());
+}
+
+/// Columns as wide as what stands in them; the names take what the grid has left.
+void TravellerPane::TravellerResize() {
+  QFont bold = flexTraveller->font();
+  bold.setBold(true);
+  const QFontMetrics metrics(bold);  // the marked row's
+  const QHeaderView* head = flexTraveller->horizontalHeader();
+  const QFontMetrics heads(head->font());
+  const int arrow = head->style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, head);
+  int used = 0;
+  for (int column = 0; column < kTravellerColumns; ++column) {
+    int width = heads.horizontalAdvance(flexTraveller->horizontalHeaderItem(column)->text());
+    if (column == head->sortIndicatorSection()) width += arrow;
+    for (int row = 0; row < flexTraveller->rowCount(); ++row) {
+      width = std::max(width, metrics.horizontalAdvance(flexTraveller->item(row, column)->text()));
+    }
+    width += kCellPadding;
+    if (column == static_cast<int>(TravellerColumn::Names)) {
+      width = std::max(width, flexTraveller->viewport()->width() - used);
+    }
+    flexTraveller->setColumnWidth(column, width);
+    used += width;
+  }
+}
+
+void TravellerPane::resizeEvent(QResizeEvent* event) {
+  Section::resizeEvent(event);
+  if (shownEdition_ > 0) TravellerResize();
+}
+
+/// Another colour scheme: the cells have colours of the old one.
+void TravellerPane::changeEvent(QEvent* event) {
+  Section::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) shownEdition_ = 0;
+}
+
+}  // namespace tricklet::ui

@@ -1,0 +1,40 @@
+#include "ui/style/side_column.h"
+
+#include <QVBoxLayout>
+
+namespace tricklet::ui {
+namespace {
+
+constexpr int kGap = 12;   // between panes
+constexpr int kInset = 2;  // for the focus frames of the controls at the edge
+
+}  // namespace
+
+SideColumn::SideColumn(const QString& name, const QList<QWidget*>& panes, QWidget* parent)
+    : QScrollArea(parent) {
+  auto* content = new QWidget;
+  auto* column = new QVBoxLayout(content);
+  column->setContentsMargins(kInset, kInset, kInset, kInset);
+  column->setSpacing(kGap);
+  for (QWidget* pane : panes) column->addWidget(pane);
+  column->addStretch(1);
+  setObjectName(name);
+  setFrameShape(QFrame::NoFrame);
+  setWidgetResizable(true);
+  setFocusPolicy(Qt::NoFocus);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setWidget(content);
+  KeepRoom(this, true);
+}
+
+int SideColumn::WidthFor(double heights) const {
+  return static_cast<int>(fontMetrics().height() * heights);
+}
+
+void KeepRoom(QWidget* widget, bool keep) {
+  QSizePolicy policy = widget->sizePolicy();
+  policy.setRetainSizeWhenHidden(keep);
+  widget->setSizePolicy(policy);
+}
+
+}  // namespace tricklet::ui

@@ -1,0 +1,48 @@
+// The pills beside the hands.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include <QPainter>
+#include <QPalette>
+
+#include "core/settings.h"
+#include "ui/table/table_layout.h"
+#include "ui/table/table_style.h"
+
+namespace tricklet::ui {
+
+enum class CaptionMark : std::uint8_t {
+  Plain,
+  OnPlay,  ///< yellow, with a triangle
+  ToCall,  ///< cyan, with a triangle
+  Over,    ///< cyan: the board has been played out
+};
+
+struct Caption {
+  QString text;  ///< not shown when empty
+  CaptionMark mark = CaptionMark::Plain;
+  std::optional<Suit> halfTyped;  ///< a suit that waits for its rank
+};
+
+/// Where the pills lie and in what font; all four share one size.
+struct CaptionLayout {
+  QFont font;
+  PerSeat<QRectF> pills;  ///< each within its hand's caption
+};
+
+/// `dotsPerInch` is that of the screen.
+CaptionLayout LayOutCaptions(const TableLayout& table, const PerSeat<Caption>& captions,
+                             const Settings& settings, double dotsPerInch);
+
+void DrawCaptions(QPainter& painter, const CaptionLayout& layout, const PerSeat<Caption>& captions,
+                  const Settings& settings, const TableColours& colours, const QPalette& palette);
+
+/// One more caption of the same size in the middle of `room`, and its drawing.
+QRectF PillFor(const CaptionLayout& layout, const Caption& caption, const QRectF& room);
+void DrawCaption(QPainter& painter, const CaptionLayout& layout, const QRectF& pill,
+                 const Caption& caption, const Settings& settings, const TableColours& colours,
+                 const QPalette& palette);
+
+}  // namespace tricklet::ui

@@ -1,0 +1,182 @@
+#include "ui/table/table_centre.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include <QCoreApplication>
+#include <QFontMetricsF>
+
+#include "ui/style/theme.h"
+#include "ui/table/descriptions.h"
+
+namespace tricklet::ui {
+namespace {
+
+struct Words {
+  Q_DECLARE_TR_FUNCTIONS(TableView)
+};
+
+QString SeatLetter(Seat seat) {
+  switch (seat) {
+    case Seat::North:
+      return Words::tr("N");
+    case Seat::East:
+      return Words::tr("E");
+    case Seat::South:
+      return Words::tr("S");
+    default:
+      return Words::tr("W");
+  }
+}
+
+/// Where the dealer's disc goes.
+enum class DiscSide : std::uint8_t { Left, Right, Below };
+
+/// The mark of one seat: a badge, red where vulnerable, and the dealer's disc beside it.
+class SeatMark {
+ public:
+  SeatMark(const Board& board, Seat seat, const QFont& font, double unit, DiscSide discSide)
+      : vulnerable_(IsVulnerable(board.Vulnerability(), SideOf(seat))),
+        dealer_(board.Dealer() == seat),
+        discSide_(discSide),
+        text_(SeatLetter(seat)),
+        font_(font),
+        unit_(unit) {
+    const bool oneLine = seat == Seat::North || seat == Seat::South;
+    if (vulnerable_) text_ += (oneLine ? u' ' : u'\n') + Words::tr("vul");
+    font_.setBold(true);
+    font_.setPixelSize(std::max(1, static_cast<int>(unit)));
+    const QSizeF text = QFontMetricsF(font_).size(0, text_);
+    badge_ = {std::max(text.width() + 0.8 * unit, 1.4 * unit), text.height() + 0.15 * unit};
+  }
+
+  QSizeF BadgeSize() const { return badge_; }
+
+  /// The badge round `middle`, the disc beside it.
+  void Draw(QPainter& painter, QPointF middle, const TableColours& colours) const {
+    QRectF badge(QPointF(), badge_);
+    badge.moveCenter(middle);
+    painter.setPen(Qt::NoPen);
+    if (vulnerable_) {
+      painter.setBrush(kVulnerableRed);
+      painter.drawRoundedRect(badge, 0.5 * unit_, 0.5 * unit_);
+    }
+    painter.setFont(font_);
+    painter.setPen(vulnerable_ ? QColor(Qt::white) : colours.text);
+    painter.drawText(badge, Qt::AlignCenter, text_);
+    if (!dealer_) return;
+    QRectF disc(0, 0, 1.35 * unit_, 1.35 * unit_);
+    const double across = badge_.width() / 2 + 0.3 * unit_ + disc.width() / 2;
+    const double down = badge_.height() / 2 + 0.2 * unit_ + disc.height() / 2;
+    const QPointF away = discSide_ == DiscSide::Below ? QPointF(0, down) : QPointF(across, 0);
+    disc.moveCenter(discSide_ == DiscSide::Left ? middle - away : middle + away);
+    DrawDisc(painter, disc);
+  }
+
+ private:
+  void DrawDisc(QPainter& painter, const QRectF& disc) const {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(kDealerYellow);
+    painter.drawEllipse(disc);
+    painter.setPen(ReadableOn(kDealerYellow, Qt::black));
+    painter.setFont(Fitted(font_, {QStringLiteral("M")}, disc.size() * 0.85, disc.height()));
+    painter.drawText(disc, Qt::AlignCenter, Words::tr("D", "dealer"));
+  }
+
+  bool vulnerable_;
+  bool dealer_;
+  DiscSide discSide_;
+  QString text_;
+  QFont font_;
+  double unit_;
+  QSizeF badge_;
+};
+
+/// Lines of one size in the middle of `room`.
+void DrawLines(QPainter& painter, const QRectF& room, const QStringList& lines, const QColor& ink,
+               const QFont& font, double mostPixels) {
+  if (lines.isEmpty()) return;
+  const auto count = static_cast<double>(lines.size());
+  const double each = room.height() / count;
+  const QFont fitted = Fitted(font, lines, {room.width(), each}, mostPixels);
+  const double line = std::min(each, QFontMetricsF(fitted).height() * 1.1);
+  painter.setFont(fitted);
+  painter.setPen(ink);
+  QRectF place(room.left(), room.center().y() - line * count / 2, room.width(), line);
+  for (const QString& text : lines) {
+    painter.drawText(place, Qt::AlignCenter, text);
+    place.translate(0, line);
+  }
+}
+
+void DrawPanel(QPainter& painter, const QRectF& panel, const TableColours& colours) {
+  painter.setPen(QPen(colours.line, 1));
+  painter.setBrush(colours.centre);
+  painter.drawRoundedRect(panel.adjusted(0.5, 0.5, -0.5, -0.5), 12, 12);
+}
+
+/// Size of the marks during play, and the bands that they keep to.
+double PlayUnit(const QRectF& panel) {
+  return std::clamp(std::min(panel.width(), panel.height()) * 0.06, 8.0, 32.0);
+}
+QSizeF PlayBands(const QRectF& panel) {
+  return QSizeF(2.9, 1.75) * PlayUnit(panel);
+}
+
+}  // namespace
+
+QRectF TrickRoom(const QRectF& panel) {
+  const QSizeF bands = PlayBands(panel);
+  return panel.adjusted(bands.width(), bands.height(), -bands.width(), -bands.height());
+}
+
+void DrawCentreInPlay(QPainter& painter, const QRectF& panel, const Board& board,
+                      const TableColours& colours, const QFont& font) {
+  DrawPanel(painter, panel, colours);
+  const double unit = PlayUnit(panel);
+  const QPointF middle = panel.center();
+  const double across = PlayBands(panel).width() / 2;
+  const double down = PlayBands(panel).height() / 2;
+  const auto draw = [&](Seat seat, QPointF place, DiscSide discSide) {
+    SeatMark(board, seat, font, unit, discSide).Draw(painter, place, colours);
+  };
+  draw(Seat::North, {middle.x(), panel.top() + down}, DiscSide::Right);
+  draw(Seat::South, {middle.x(), panel.bottom() - down}, DiscSide::Right);
+  draw(Seat::West, {panel.left() + across, middle.y()}, DiscSide::Below);
+  draw(Seat::East, {panel.right() - across, middle.y()}, DiscSide::Below);
+}
+
+void DrawCentre(QPainter& painter, const QRectF& panel, const Board& board,
+                const TableColours& colours, const QFont& font) {
+  DrawPanel(painter, panel, colours);
+  const double unit = std::clamp(std::min(panel.width(), panel.height()) * 0.095, 5.0, 48.0);
+  const auto mark = [&](Seat seat) {
+    const DiscSide discSide = seat == Seat::East ? DiscSide::Left : DiscSide::Right;
+    return SeatMark(board, seat, font, unit, discSide);
+  };
+  const SeatMark north = mark(Seat::North);
+  const SeatMark east = mark(Seat::East);
+  const SeatMark south = mark(Seat::South);
+  const SeatMark west = mark(Seat::West);
+  const double pad = 0.5 * unit;
+  const double ends = std::max(north.BadgeSize().height(), south.BadgeSize().height());
+  const double sides = std::max(west.BadgeSize().width(), east.BadgeSize().width());
+  const QPointF middle = panel.center();
+  north.Draw(painter, {middle.x(), panel.top() + pad + ends / 2}, colours);
+  south.Draw(painter, {middle.x(), panel.bottom() - pad - ends / 2}, colours);
+  west.Draw(painter, {panel.left() + pad + sides / 2, middle.y()}, colours);
+  east.Draw(painter, {panel.right() - pad - sides / 2, middle.y()}, colours);
+
+  // The board above the line from West to East, dealer and vulnerability below it.
+  const double down = ends + 1.4 * pad;
+  const double half = std::max(west.BadgeSize().height(), east.BadgeSize().height()) / 2;
+  const QRectF inner = panel.adjusted(pad, down, -pad, -down);
+  const QRectF above(inner.topLeft(), QPointF(inner.right(), middle.y() - half));
+  const QRectF below(QPointF(inner.left(), middle.y() + half), inner.bottomRight());
+  QFont bold = font;
+  bold.setBold(true);
+  DrawLines(painter, above, BoardLine(board), colours.text, bold, 1.5 * unit);
+  DrawLines(painter, below, DealerLines(board), colours.dimText, font, 1.1 * unit);
+}
+
+}  // namespace tricklet::ui

@@ -1,0 +1,228 @@
+#include "ui/table/table_view.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QCursor>
+#include <QLinearGradient>
+#include <QPainter>
+
+#include "ui/table/best_card_labels.h"
+#include "ui/table/descriptions.h"
+#include "ui/table/edit_painter.h"
+#include "ui/table/table_centre.h"
+#include "ui/table/table_trick.h"
+#include "ui/table/text_hands.h"
+#include "ui/table/tricks_won.h"
+
+namespace tricklet::ui {
+namespace {
+
+constexpr double kFeltRadius = 12;
+/// How far a legal card stands out, of the gap between North's caption and cards; below 1, so that
+/// it stays clear of what lies above it.
+constexpr double kRaise = 0.85;
+
+double RaiseOf(const TableLayout& layout) {
+  const PlacedHand& north = layout.hands[Seat::North];
+  return std::round(kRaise * (north.area.top() - north.caption.bottom()));
+}
+
+}  // namespace
+
+TableView::TableView(QWidget* parent) : QWidget(parent) {
+  setObjectName(QStringLiteral("fraTable"));
+  setAccessibleName(tr("Table"));
+  setAccessibleDescription(DescribeTable(board_));
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void TableView::Show(const Board& board, const Settings& settings, const CardPlay* play,
+                     std::optional<Seat> toCall) {
+  std::optional<TablePlay> shown = CopyOf(play);
+  if (shown != play_) keys_.Forget();
+  board_ = board;
+  settings_ = settings;
+  play_ = std::move(shown);
+  toCall_ = toCall;
+  edit_.reset();
+  Describe();
+}
+
+void TableView::ShowEdit(const Board& board, const Settings& settings) {
+  if (!edit_) Show(board, settings);
+  if (!edit_) edit_.emplace();
+  board_ = board;
+  settings_ = settings;
+  edit_->Show(board.Hands, EditMethodOf(settings));
+  Describe();
+}
+
+void TableView::Describe() {
+  setAccessibleDescription(edit_   ? DescribeEdit(board_, *edit_)
+                           : play_ ? DescribePlay(board_, *play_)
+                                   : DescribeTable(board_, toCall_));
+  setMouseTracking(play_ || edit_);
+  ShowCursor(mapFromGlobal(QCursor::pos()));
+  update();
+}
+
+void TableView::ShowBestCards(std::vector<CardScore> best) {
+  best_ = std::move(best);
+  update();
+}
+
+TableLayout TableView::Layout() const {
+  if (edit_) return LayOutEdit(size(), board_.Hands).table;
+  const HandDisplay display = settings_.CardsFaces ? HandDisplay::Cards : HandDisplay::Text;
+  TableLayout layout = LayOutTable(size(), board_.Hands, display);
+  if (play_ && display == HandDisplay::Cards) PlaceCardsLeft(layout, *play_);
+  if (play_ && display == HandDisplay::Text) PlaceRanksLeft(layout, *play_);
+  return layout;
+}
+
+/// Every card keeps the place that it had in the full hand: nothing moves under the mouse, and a
+/// card that is taken back returns to where it was.
+void TableView::PlaceCardsLeft(TableLayout& layout, const TablePlay& play) const {
+  std::erase_if(layout.cards, [&](const PlacedCard& placed) {
+    return !play.now.CardsLeft[placed.seat][placed.card.suit].Has(placed.card.rank);
+  });
+  if (settings_.ShowBestCards) return;  // the labels stand in that room, on legal cards only
+  const double raise = RaiseOf(layout);
+  for (PlacedCard& placed : layout.cards) {
+    if (play.IsLegal(placed.card)) placed.rect.translate(0, -raise);
+  }
+}
+
+void TableView::PlaceRanksLeft(TableLayout& layout, const TablePlay& play) const {
+  const TextMeasures measures = MeasureText(layout, board_.Hands, settings_, logicalDpiY());
+  for (const Seat seat : kAllSeats) {
+    const PerSuit<Holding>& hand = board_.Hands[seat];
+    const QRectF panel = TextPanel(layout, measures, hand, seat);
+    for (const PlacedCard& rank : PlaceRanks(panel, measures, hand, seat)) {
+      const bool left = play.now.CardsLeft[seat][rank.card.suit].Has(rank.card.rank);
+      if (left) layout.cards.push_back(rank);
+    }
+  }
+}
+
+QSize TableView::minimumSizeHint() const {
+  return {380, 340};
+}
+QSize TableView::sizeHint() const {
+  return {760, 680};
+}
+
+void TableView::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const TableLayout layout = Layout();
+  const TableColours colours = ColoursFor(palette());
+  DrawFelt(painter, layout, colours);
+  if (edit_) {
+    DrawEditing(painter, *edit_, colours);
+    return;
+  }
+  const PerSeat<Caption> captions = Captions();
+  const CaptionLayout pills = LayOutCaptions(layout, captions, settings_, logicalDpiY());
+  if (play_) DrawWon(painter, LayOutWon(layout, *play_), *play_, backs_, colours, font());
+  DrawCaptions(painter, pills, captions, settings_, colours, palette());
+  DrawMiddle(painter, layout, colours);
+  if (settings_.CardsFaces) {
+    DrawCards(painter, layout);
+  } else {
+    DrawText(painter, layout);
+  }
+  if (play_) DrawBestCards(painter, layout, best_, font());
+}
+
+void TableView::DrawEditing(QPainter& painter, const TableEdit& edit, const TableColours& colours) {
+  const EditLayout layout = LayOutEdit(size(), board_.Hands);
+  const EditCaptionTexts captions = MakeEditCaptions(board_, settings_, edit);
+  const CaptionLayout pills =
+      LayOutCaptions(layout.table, captions.hands, settings_, logicalDpiY());
+  DrawCaptions(painter, pills, captions.hands, settings_, colours, palette());
+  DrawCaption(painter, pills, PillFor(pills, captions.pack, layout.packCaption), captions.pack,
+              settings_, colours, palette());
+  DrawCentre(painter, layout.table.centre, board_, colours, font());
+  DrawRooms(painter, layout, edit, colours);
+  CardLook look{layout.table.cardSize, painter.device()->devicePixelRatioF(), settings_.CardDesign,
+                settings_.SuitColour};
+  cards_.SetLook(look);
+  look.size = layout.packCardSize;
+  packCards_.SetLook(look);
+  DrawEditedCards(painter, layout, edit, cards_, packCards_);
+}
+
+PerSeat<Caption> TableView::Captions() const {
+  const auto onPlay = play_ ? play_->now.OnPlay : std::nullopt;
+  const PerSeat<QString> texts = play_     ? PlayCaptions(board_, settings_, onPlay)
+                                 : toCall_ ? CallCaptions(board_, settings_, *toCall_)
+                                           : TableCaptions(board_, settings_);
+  PerSeat<Caption> captions;
+  for (const Seat seat : kAllSeats) {
+    captions[seat].text = texts[seat];
+    if (play_ && play_->PlayedOut()) captions[seat].mark = CaptionMark::Over;
+  }
+  if (onPlay) {
+    captions[*onPlay].mark = CaptionMark::OnPlay;
+    captions[*onPlay].halfTyped = keys_.HalfTyped();
+  } else if (!play_ && toCall_) {
+    captions[*toCall_].mark = CaptionMark::ToCall;
+  }
+  return captions;
+}
+
+void TableView::DrawFelt(QPainter& painter, const TableLayout& layout,
+                         const TableColours& colours) const {
+  QLinearGradient felt(layout.felt.topLeft(), layout.felt.bottomLeft());
+  felt.setColorAt(0, colours.feltTop);
+  felt.setColorAt(1, colours.feltBottom);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(felt);
+  painter.drawRoundedRect(layout.felt, kFeltRadius, kFeltRadius);
+}
+
+void TableView::DrawMiddle(QPainter& painter, const TableLayout& layout,
+                           const TableColours& colours) {
+  if (!play_) {
+    DrawCentre(painter, layout.centre, board_, colours, font());
+    return;
+  }
+  DrawCentreInPlay(painter, layout.centre, board_, colours, font());
+  const QRectF room = TrickRoom(layout.centre);
+  DrawTrick(painter, LayOutTrick(room, layout.cardSize), *play_, trickCards_, settings_, colours);
+  // The last trick lies there for a while before the result takes its place.
+  if (play_->finished && play_->now.TrickGathered) {
+    DrawScore(painter, room, play_->score, colours, font());
+  }
+}
+
+void TableView::DrawCards(QPainter& painter, const TableLayout& layout) {
+  cards_.SetLook({layout.cardSize, painter.device()->devicePixelRatioF(), settings_.CardDesign,
+                  settings_.SuitColour});
+  for (const PlacedCard& placed : layout.cards) {
+    const bool onPlay = play_ && play_->now.OnPlay == placed.seat;
+    if (onPlay && !play_->IsLegal(placed.card)) {
+      cards_.DrawDimmed(painter, placed.rect.topLeft(), placed.card);
+    } else {
+      cards_.Draw(painter, placed.rect.topLeft(), placed.card);
+    }
+  }
+}
+
+void TableView::DrawText(QPainter& painter, const TableLayout& layout) const {
+  if (!HasCards(board_.Hands)) return;
+  const TextMeasures measures = MeasureText(layout, board_.Hands, settings_, logicalDpiY());
+  for (const Seat seat : kAllSeats) {
+    const PerSuit<Holding>& hand = board_.Hands[seat];
+    const QRectF panel = TextPanel(layout, measures, hand, seat);
+    if (play_) {
+      DrawTextHandInPlay(painter, panel, measures, hand, seat, *play_, settings_, palette());
+    } else {
+      DrawTextHand(painter, panel, measures, hand, settings_, palette());
+    }
+  }
+}
+
+}  // namespace tricklet::ui

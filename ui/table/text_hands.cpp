@@ -1,0 +1,173 @@
+#include "ui/table/text_hands.h"
+
+#include <algorithm>
+
+#include <QFontMetricsF>
+
+#include "ui/cards/card_glyphs.h"
+#include "ui/style/text.h"
+#include "ui/style/theme.h"
+#include "ui/table/descriptions.h"
+
+namespace tricklet::ui {
+namespace {
+
+constexpr QSizeF kReferenceSize(760, 680);
+constexpr double kPointsPerInch = 72;
+// Of the text's size in pixels.
+constexpr double kPadding = 0.45;
+/// A symbol is as high as a capital of its size.
+constexpr double kSymbolShare = 0.75;
+
+TextMeasures MeasuresAt(const Settings& settings, double pixelsPerPoint) {
+  TextMeasures measures;
+  measures.font = ToFont(settings.HGFont[0]);
+  measures.font.setPixelSize(
+      std::max(1, static_cast<int>(settings.HGFont[0].Size * pixelsPerPoint)));
+  const QFontMetricsF metrics(measures.font);
+  const double symbol = std::max(1.0, settings.SuitFontSize * pixelsPerPoint);
+  measures.symbolHeight = symbol * kSymbolShare;
+  measures.symbolWidth = measures.symbolHeight + metrics.horizontalAdvance(u' ');
+  measures.lineHeight = std::max(metrics.height(), symbol * 1.05);
+  return measures;
+}
+
+double Padding(const TextMeasures& measures) {
+  return kPadding * measures.lineHeight;
+}
+
+bool Fits(const TableLayout& layout, const TextMeasures& measures, const HandTable& hands) {
+  return std::all_of(kAllSeats.begin(), kAllSeats.end(), [&](Seat seat) {
+    const QSizeF size = TextPanelSize(measures, hands[seat]);
+    const QRectF& area = layout.hands[seat].area;
+    return size.width() <= area.width() && size.height() <= area.height();
+  });
+}
+
+QColor InkOf(const Settings& settings, const QPalette& palette) {
+  return ReadableOn(palette.color(QPalette::Base),
+                    ToColour(settings.HGFont[0].Forecolour, palette));
+}
+
+/// Room for the ranks of `suit`.
+QRectF LineOf(const QRectF& panel, const TextMeasures& measures, Suit suit) {
+  return {panel.left() + Padding(measures) + measures.symbolWidth,
+          panel.top() + Padding(measures) / 2 + IndexOf(suit) * measures.lineHeight, panel.width(),
+          measures.lineHeight};
+}
+
+/// The panel itself with the column of symbols.
+void DrawPanel(QPainter& painter, const QRectF& panel, const TextMeasures& measures,
+               const Settings& settings, const QPalette& palette) {
+  const double radius = 0.3 * measures.lineHeight;
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(palette.color(QPalette::Base));
+  painter.drawRoundedRect(panel, radius, radius);
+  const double middle = panel.left() + Padding(measures) + measures.symbolHeight / 2;
+  for (const Suit suit : kAllSuits) {
+    painter.setBrush(SuitColourOnWindow(suit, settings.SuitColour, palette));
+    painter.drawPath(SuitOutline(suit, {middle, LineOf(panel, measures, suit).center().y()},
+                                 measures.symbolHeight));
+  }
+}
+
+}  // namespace
+
+QSizeF TextPanelSize(const TextMeasures& measures, const PerSuit<Holding>& hand) {
+  const QFontMetricsF metrics(measures.font);
+  double widest = 0;
+  for (const Suit suit : kAllSuits) {
+    widest = std::max(widest, metrics.horizontalAdvance(HoldingLine(hand[suit])));
+  }
+  return {measures.symbolWidth + widest + 2 * Padding(measures),
+          kSuits * measures.lineHeight + Padding(measures)};
+}
+
+TextMeasures MeasureText(const TableLayout& layout, const HandTable& hands,
+                         const Settings& settings, double dotsPerInch) {
+  const double growth = std::max(1.0, std::min(layout.felt.width() / kReferenceSize.width(),
+                                               layout.felt.height() / kReferenceSize.height()));
+  double scale = dotsPerInch / kPointsPerInch * growth;
+  TextMeasures measures = MeasuresAt(settings, scale);
+  constexpr double kShrink = 0.94;
+  constexpr int kLeastPixels = 4;
+  while (!Fits(layout, measures, hands) && measures.font.pixelSize() > kLeastPixels) {
+    scale *= kShrink;
+    measures = MeasuresAt(settings, scale);
+  }
+  return measures;
+}
+
+QRectF TextPanel(const TableLayout& layout, const TextMeasures& measures,
+                 const PerSuit<Holding>& hand, Seat seat) {
+  const QRectF& area = layout.hands[seat].area;
+  QRectF panel(area.topLeft(), TextPanelSize(measures, hand));
+  if (seat == Seat::North || seat == Seat::South)
+    panel.moveLeft(area.center().x() - panel.width() / 2);
+  if (seat == Seat::South) panel.moveBottom(area.bottom());
+  if (seat == Seat::East) panel.moveRight(area.right());
+  return panel.intersected(area);
+}
+
+std::vector<PlacedCard> PlaceRanks(const QRectF& panel, const TextMeasures& measures,
+                                   const PerSuit<Holding>& hand, Seat seat) {
+  const QFontMetricsF metrics(measures.font);
+  const double blank = metrics.horizontalAdvance(u' ');
+  const double left = panel.left() + Padding(measures) + measures.symbolWidth;
+  std::vector<PlacedCard> ranks;
+  double y = panel.top() + Padding(measures) / 2;
+  for (const Suit suit : kAllSuits) {
+    double x = left;
+    for (int index = 0; index < kRanks; ++index) {
+      const auto rank = static_cast<Rank>(index);
+      if (!hand[suit].Has(rank)) continue;
+      const double width = metrics.horizontalAdvance(ToQt(RankText[rank]));
+      ranks.push_back(
+          {seat, {suit, rank}, QRectF(x - blank / 2, y, width + blank, measures.lineHeight)});
+      x += width + blank;
+    }
+    y += measures.lineHeight;
+  }
+  return ranks;
+}
+
+void DrawTextHand(QPainter& painter, const QRectF& panel, const TextMeasures& measures,
+                  const PerSuit<Holding>& hand, const Settings& settings, const QPalette& palette) {
+  DrawPanel(painter, panel, measures, settings, palette);
+  painter.setFont(measures.font);
+  painter.setPen(InkOf(settings, palette));
+  for (const Suit suit : kAllSuits) {
+    painter.drawText(LineOf(panel, measures, suit), Qt::AlignLeft | Qt::AlignVCenter,
+                     HoldingLine(hand[suit]));
+  }
+}
+
+void DrawTextHandInPlay(QPainter& painter, const QRectF& panel, const TextMeasures& measures,
+                        const PerSuit<Holding>& hand, Seat seat, const TablePlay& play,
+                        const Settings& settings, const QPalette& palette) {
+  DrawPanel(painter, panel, measures, settings, palette);
+  const bool onPlay = play.now.OnPlay == seat;
+  const PerSuit<Holding>& left = play.now.CardsLeft[seat];
+  QFont legalFont = measures.font;
+  legalFont.setBold(true);
+  legalFont.setUnderline(true);
+  const QColor ink = InkOf(settings, palette);
+  QColor dim = ink;
+  dim.setAlphaF(0.5F);
+  for (const PlacedCard& rank : PlaceRanks(panel, measures, hand, seat)) {
+    if (!left[rank.card.suit].Has(rank.card.rank)) continue;
+    const bool legal = onPlay && play.IsLegal(rank.card);
+    painter.setFont(legal ? legalFont : measures.font);
+    painter.setPen(onPlay && !legal ? dim : ink);
+    painter.drawText(rank.rect, Qt::AlignCenter, ToQt(RankText[rank.card.rank]));
+  }
+  painter.setFont(measures.font);
+  painter.setPen(ink);
+  for (const Suit suit : kAllSuits) {
+    if (!left[suit].Empty()) continue;
+    painter.drawText(LineOf(panel, measures, suit), Qt::AlignLeft | Qt::AlignVCenter,
+                     HoldingLine({}));
+  }
+}
+
+}  // namespace tricklet::ui

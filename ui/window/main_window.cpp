@@ -1,0 +1,387 @@
+#include "ui/window/main_window.h"
+
+#include <algorithm>
+#include <optional>
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStatusBar>
+
+#include "library/library_store.h"
+#include "ui/background/background_tables.h"
+#include "ui/background/best_cards_finder.h"
+#include "ui/background/later.h"
+#include "ui/commands/commands.h"
+#include "ui/control/edit_control.h"
+#include "ui/control/play_control.h"
+#include "ui/control/results.h"
+#include "ui/dialogs/frmBidding.h"
+#include "ui/dialogs/frmSwap.h"
+#include "ui/panes/auction_pane.h"
+#include "ui/panes/board_pane.h"
+#include "ui/panes/contract_pane.h"
+#include "ui/panes/edit_pane.h"
+#include "ui/panes/library_pane.h"
+#include "ui/panes/makeable_pane.h"
+#include "ui/panes/statistics_pane.h"
+#include "ui/panes/traveller_pane.h"
+#include "ui/style/progress_frame.h"
+#include "ui/style/section.h"
+#include "ui/style/side_column.h"
+#include "ui/style/text.h"
+#include "ui/table/table_view.h"
+#include "ui/window/dropped_records.h"
+#include "ui/window/main_menu.h"
+#include "ui/window/work_area.h"
+
+namespace tricklet::ui {
+namespace {
+
+/// About as high as the title bar of a dialog.
+constexpr int kFrameHeight = 40;
+
+constexpr std::string_view kPlaceSection = "Window";
+constexpr std::string_view kPlaceKey = "Geometry";
+
+}  // namespace
+
+MainWindow::MainWindow(Session& session)
+    : session_(session),
+      play_(new PlayControl(session, this)),
+      edit_(std::make_unique<EditControl>(session, *play_)),
+      tables_(new BackgroundTables(session, this)),
+      best_(new BestCardsFinder(session, play_->Play(), this)),
+      results_(new Results(session, this)),
+      commands_(new Commands(session, *play_, *edit_, this)),
+      menu_(new MainMenu(*this, *commands_, *results_)),
+      library_(new LibraryPane(session)),
+      editPane_(new EditPane(*commands_)),
+      board_(new BoardPane(*commands_)),
+      statistics_(new StatisticsPane),
+      table_(new TableView),
+      auction_(new AuctionPane),
+      contract_(new ContractPane(*commands_)),
+      makeable_(new MakeablePane),
+      traveller_(new TravellerPane(*results_)),
+      progress_(new ProgressFrame) {
+  setObjectName(QStringLiteral("frmMain"));
+  setAcceptDrops(true);
+  LayOut();
+  BuildStatusLine();
+  Connect();
+  SetTabOrder();
+  table_->setFocus();
+  Display();
+}
+
+MainWindow::~MainWindow() {
+  editPane_->ForgetTyping();  // a line that goes loses the focus first
+}
+
+void MainWindow::LayOut() {
+  left_ = new SideColumn(QStringLiteral("colLeft"), {library_, editPane_, board_, statistics_});
+  right_ = new SideColumn(QStringLiteral("colRight"), {auction_, contract_, makeable_, traveller_});
+  table_->setObjectName(QStringLiteral("picTable"));
+  table_->setAccessibleName(tr("Table"));
+  table_->setFocusPolicy(Qt::StrongFocus);
+  area_ = new WorkArea(left_, table_, right_, progress_, this);
+  setCentralWidget(area_);
+}
+
+void MainWindow::BuildStatusLine() {
+  status_ = new ElidedLabel(this);
+  status_->setObjectName(QStringLiteral("lblStatus"));
+  MakeQuiet(status_);
+  auto* hint = new QLabel(tr("F1 help · F11 presentation"), this);
+  MakeQuiet(hint);
+  statusBar()->setSizeGripEnabled(false);
+  statusBar()->setContentsMargins(8, 0, 8, 4);
+  statusBar()->addWidget(status_, 1);
+  statusBar()->addPermanentWidget(hint);
+}
+
+void MainWindow::Connect() {
+  connect(commands_, &Commands::Done, this, &MainWindow::Display);
+  connect(commands_, &Commands::Said, status_, &QLabel::setText);
+  connect(commands_, &Commands::Waiting, progress_, &ProgressFrame::SetWaiting);
+  connect(library_, &LibraryPane::LibraryChosen, commands_, &Commands::SelectLibrary);
+  connect(library_, &LibraryPane::LibraryNamed, commands_, &Commands::CreateLibrary);
+  connect(library_, &LibraryPane::BoardChosen, commands_, &Commands::SelectBoard);
+  connect(library_, &LibraryPane::HighestChosen, commands_, &Commands::SetMaxBoard);
+  connect(library_, &LibraryPane::StepAsked, commands_, &Commands::StepBoard);
+  connect(menu_, &MainMenu::NewLibraryAsked, library_, &LibraryPane::BeginNewLibrary);
+  connect(menu_, &MainMenu::PresentationAsked, this, [this] { SetPresentation(!presentation_); });
+  connect(menu_, &MainMenu::PresentationPanesAsked, this, [this](bool shown) {
+    presentationPanes_ = shown;
+    Display();
+  });
+  connect(commands_, &Commands::TableAsked, tables_, &BackgroundTables::Ask);
+  connect(tables_, &BackgroundTables::Changed, this, &MainWindow::Display);
+  connect(progress_, &ProgressFrame::Begun, this, [this] { SetWorking(true); });
+  connect(progress_, &ProgressFrame::Ended, this, [this] { SetWorking(false); });
+
+  leavePresentation_ = new QAction(tr("Leave the presentation"), this);
+  leavePresentation_->setShortcut(Qt::Key_Escape);
+  leavePresentation_->setEnabled(false);
+  connect(leavePresentation_, &QAction::triggered, this, [this] { SetPresentation(false); });
+  addAction(leavePresentation_);
+  ConnectPlay();
+  ConnectEdit();
+  ConnectResults();
+}
+
+void MainWindow::ConnectEdit() {
+  commands_->SetFinishTyping([this] { return editPane_->FinishTyping(); });
+  commands_->SetLinRecord(
+      [this] { return LinPlayRecord(results_->OfBoard(), session_.board, results_->Row()); });
+  connect(commands_, &Commands::EditStarted, this, &MainWindow::BeginEditing);
+  connect(commands_, &Commands::SwapOpened, this, &MainWindow::PlaceBesideHands);
+  connect(commands_, &Commands::HandsChanged, this, &MainWindow::Display);
+  connect(table_, &TableView::MoveAsked, commands_, &Commands::MoveCard);
+}
+
+void MainWindow::ConnectPlay() {
+  connect(commands_, &Commands::AuctionOpened, this, &MainWindow::PlaceBesideAuction);
+  connect(commands_, &Commands::AuctionChanged, this, &MainWindow::DisplayAuction);
+  connect(commands_, &Commands::PlayStarted, table_, qOverload<>(&QWidget::setFocus));
+  connect(play_, &PlayControl::Changed, this, &MainWindow::DisplayPlay);
+  connect(best_, &BestCardsFinder::Changed, this, &MainWindow::DisplayPlay);
+  connect(table_, &TableView::TrickAsked, commands_, &Commands::QuitTrick);
+}
+
+/// While a play record is looked at, cards that are clicked or typed are meant for it.
+void MainWindow::ConnectResults() {
+  connect(results_, &Results::Changed, this, &MainWindow::DisplayAuction);
+  connect(menu_, &MainMenu::TravellerAsked, traveller_, &TravellerPane::Toggle);
+  connect(table_, &TableView::CardAsked, this, [this](Card card) {
+    results_->Record() != nullptr ? results_->PlayCard(card) : commands_->PlayCard(card);
+  });
+  connect(table_, &TableView::OnlyCardAsked, this, [this] {
+    results_->Record() != nullptr ? results_->Forward() : commands_->PlayOnlyCard();
+  });
+}
+
+void MainWindow::SetTabOrder() {
+  const QList<QWidget*> order =
+      library_->TabOrder() + editPane_->TabOrder() + board_->TabOrder() + QList<QWidget*>{table_} +
+      auction_->TabOrder() + contract_->TabOrder() + makeable_->TabOrder() + traveller_->TabOrder();
+  for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order.at(i - 1), order.at(i));
+}
+
+void MainWindow::Display() {
+  play_->Follow();
+  edit_->Follow();
+  results_->Look();
+  library_->Show(session_);
+  editPane_->Show(session_, *edit_);
+  board_->Show(session_.board);
+  statistics_->Show(session_);
+  makeable_->Show(session_);
+  DisplayAuction();
+  if (!edit_->Editing()) tables_->Look();
+  const Board& board = session_.board;
+  setWindowTitle(tr("%1 - Board %2[*] - Tricklet")
+                     .arg(ToQt(session_.LibraryName()), QString::number(board.BoardNumber)));
+  setWindowModified(board.HandChanged);
+  status_->setText(StatusText());
+}
+
+QString MainWindow::StatusText() const {
+  const Board& board = session_.board;
+  if (board.HandChanged) {
+    return tr("Board %1 has changes that are not saved").arg(board.BoardNumber);
+  }
+  if (session_.library.BoardCount > 0) return tr("Ready");
+  return tr("The library is empty: drop hand records here, import them, or generate deals");
+}
+
+void MainWindow::DisplayAuction() {
+  results_->Follow(commands_->Auction() != nullptr || edit_->Editing());
+  const Replay* record = results_->Record();
+  auction_->Show(session_, commands_->Auction(),
+                 record != nullptr ? &record->Record().Board : nullptr);
+  ShowColumns();
+  DisplayPlay();
+}
+
+/// What a card more or less on the table changes.
+void MainWindow::DisplayPlay() {
+  if (progress_->IsWorking()) return;
+  menu_->Show(session_, *play_, *edit_);
+  board_->ShowPlay(*play_, *edit_);
+  library_->OfferNext(play_->Play().Finished());
+  traveller_->Show(session_.settings);
+  DisplayTable();
+  HideAnswers();
+}
+
+/// What a class is not to see while it bids, unless it has been switched on.
+void MainWindow::HideAnswers() {
+  if (!presentation_ || presentationPanes_) return;
+  makeable_->hide();
+  traveller_->hide();
+}
+
+/// The board, its play or its auction; or the play record that is looked at.
+void MainWindow::DisplayTable() {
+  if (const Replay* record = results_->Record()) {
+    DisplayRecord(*record);
+    return;
+  }
+  const AuctionEntry* entry = commands_->Auction();
+  contract_->Show(session_, play_->Play(), entry != nullptr);
+  if (edit_->Editing()) {
+    table_->ShowEdit(session_.board, session_.settings);
+    return;
+  }
+  if (entry != nullptr) {
+    DisplayBidding(*entry);
+    return;
+  }
+  table_->Show(session_.board, session_.settings,
+               session_.board.PlayMode ? &play_->Play() : nullptr);
+  best_->Look();
+  table_->ShowBestCards(best_->Tricks());
+}
+
+/// Nobody is declarer until the auction has been taken over.
+void MainWindow::DisplayBidding(const AuctionEntry& entry) {
+  Board undecided = session_.board;
+  undecided.Contract.clear();
+  undecided.ContractLevel = 0;
+  table_->Show(undecided, session_.settings, nullptr,
+               entry.Over() ? std::nullopt : std::optional(entry.ToCall()));
+  table_->ShowBestCards({});
+}
+
+void MainWindow::DisplayRecord(const Replay& record) {
+  const CardPlay& play = record.Play();
+  contract_->ShowRecord(record, session_.settings);
+  table_->Show(record.Record().Board, session_.settings, play.PlayMode() ? &play : nullptr);
+  table_->ShowBestCards({});
+}
+
+void MainWindow::BeginEditing() {
+  Display();
+  QWidget* line = editPane_->FirstLine();
+  (line != nullptr ? line : table_)->setFocus();
+}
+
+/// The lower left corner: there it covers neither the auction nor the middle of the table. Where
+/// there is nothing below the auction it covers no hand either.
+void MainWindow::PlaceBesideAuction(QWidget* dialog) {
+  dialog->adjustSize();
+  const bool roomBelow = presentation_ && !presentationPanes_;
+  PlaceAt(dialog, roomBelow ? width() - dialog->width() - WorkArea::kMargin : WorkArea::kMargin);
+}
+
+/// The lower right corner: there it covers no hand.
+void MainWindow::PlaceBesideHands(QWidget* dialog) {
+  dialog->adjustSize();
+  PlaceAt(dialog, width() - dialog->width() - WorkArea::kMargin);
+}
+
+/// At the lower edge of the window, `left` from its own left.
+void MainWindow::PlaceAt(QWidget* dialog, int left) {
+  const QPoint corner = mapToGlobal(QPoint(left, height() - dialog->height() - kFrameHeight));
+  const QRect room = screen()->availableGeometry();
+  dialog->move(std::max(corner.x(), room.left()), std::max(corner.y(), room.top()));
+}
+
+void MainWindow::ImportFiles(const std::vector<std::filesystem::path>& files) {
+  commands_->ImportFiles(files);
+}
+
+void MainWindow::SetWorking(bool working) {
+  menu_->SetEnabled(!working);
+  menuBar()->setEnabled(!working);
+  left_->setEnabled(!working);
+  setAcceptDrops(!working);
+  leavePresentation_->setEnabled(!working && presentation_);  // Escape cancels the work meanwhile
+  ShowColumns();
+  if (!working) table_->setFocus();
+}
+
+void MainWindow::ShowColumns() {
+  const bool working = progress_->IsWorking();
+  const bool editing = edit_->Editing();
+  KeepRoom(table_, true);
+  KeepRoom(left_, !presentation_);
+  KeepRoom(right_, !presentation_ && !editing);  // the pack needs its room
+  const bool panes = !presentation_ || presentationPanes_ || commands_->Auction() != nullptr;
+  table_->setVisible(!working || presentation_);  // a projector must not go blank
+  table_->setEnabled(!working);
+  left_->setVisible(!presentation_);
+  right_->setVisible(panes && !working && !editing);
+  library_->setVisible(!editing);
+  if (editing) statistics_->hide();
+}
+
+void MainWindow::SetPresentation(bool on) {
+  if (presentation_ == on) return;
+  presentation_ = on;
+  leavePresentation_->setEnabled(on);
+  area_->ShowMargin(!on);
+  menuBar()->setVisible(!on);
+  statusBar()->setVisible(!on);
+  Display();
+  if (on) {
+    stateBefore_ = windowState();
+    setWindowState(stateBefore_ | Qt::WindowFullScreen);
+  } else {
+    setWindowState(stateBefore_);
+  }
+  table_->setFocus();
+}
+
+void MainWindow::RestorePlace() {
+  const auto stored = session_.store.Read(kPlaceSection, kPlaceKey);
+  if (stored && restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(*stored)))) return;
+  resize(QSize(1280, 800).boundedTo(screen()->availableSize()));
+}
+
+void MainWindow::SavePlace() {
+  SetPresentation(false);
+  session_.store.Write(kPlaceSection, kPlaceKey, saveGeometry().toBase64().toStdString());
+}
+
+/// The panes derive colours from their palettes, which follow the window's after this event.
+void MainWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() != QEvent::PaletteChange || status_ == nullptr) return;
+  Later(this, [this] { Display(); });
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (progress_->IsWorking()) {
+    progress_->Cancel();
+    event->ignore();
+    return;
+  }
+  if (!editPane_->FinishTyping() || CheckSaveChanges(session_) == Answer::Cancel) {
+    event->ignore();
+    return;
+  }
+  Display();
+  event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (!DroppedRecords(*event->mimeData()).Empty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  const DroppedRecords dropped(*event->mimeData());
+  event->acceptProposedAction();
+  // Questions come after the drop, so that the program that it came from does not wait for them.
+  Later(this, [this, dropped] {
+    ImportFiles(dropped.files);
+    if (!dropped.lin.isEmpty()) commands_->ImportLinText(dropped.lin);
+  });
+}
+
+}  // namespace tricklet::ui
