@@ -10,7 +10,6 @@ if(CCACHE)
 endif()
 
 add_library(tricklet_flags INTERFACE)
-target_include_directories(tricklet_flags INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR})
 target_compile_definitions(tricklet_flags INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CONTEXTLESS_CONNECT QT_NO_FOREACH)
 if(MSVC)
