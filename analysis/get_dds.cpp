@@ -47,13 +47,13 @@ std::vector<MakeableTable> SolveDeals(Solver& solver, const std::vector<HandTabl
 }
 
 bool GetDDS(Board& board, Solver& solver, Host& host, bool showWarnings) {
-  std::string warning = DealWarning(board.Hands);
+  std::string warning = DealWarning(board.hands);
   if (warning.empty()) {
-    const std::vector<MakeableTable> tables = SolveDeals(solver, {board.Hands}, warning);
+    const std::vector<MakeableTable> tables = SolveDeals(solver, {board.hands}, warning);
     if (warning.empty()) {
-      board.Makeable = tables.front();
-      board.MakeableValid = true;
-      board.HandChanged = true;
+      board.makeable = tables.front();
+      board.makeableValid = true;
+      board.handChanged = true;
       return true;
     }
   }

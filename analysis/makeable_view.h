@@ -17,7 +17,7 @@ struct MakeableView {
   std::array<Row, kSeats> rows;  ///< clockwise from North
 };
 
-/// Tricks less six with `MakeableContract` on, else tricks; "-" for 0 or less.
+/// Tricks less six with `makeableContract` on, else tricks; "-" for 0 or less.
 MakeableView MakeMakeableView(const MakeableTable& table, bool contracts);
 
 }  // namespace tricklet

@@ -40,14 +40,14 @@ std::string SolverAddress(const Board& board, std::string_view libraryName, std:
   std::string address = Origin(host);
   address += kPage;
   if (!linRecord.empty()) return address + "?lin=" + Encoded(linRecord);
-  address += "?board=" + std::to_string(board.BoardNumber);
+  address += "?board=" + std::to_string(board.boardNumber);
   address += "&dealer=";
   address += SeatName[board.Dealer()].front();
   address += "&vul=";
   address += PBNVul[board.Vulnerability()];
   int cardCount = 0;
   for (const Seat seat : kAllSeats) {
-    address += "&" + std::string(SeatName[seat]) + "=" + HandDealText(board.Hands[seat], cardCount);
+    address += "&" + std::string(SeatName[seat]) + "=" + HandDealText(board.hands[seat], cardCount);
   }
   address += "&title=" + Encoded("Library: " + std::string(libraryName));
   return address + "&analyse=true&club=velm&event=01";
@@ -56,9 +56,9 @@ std::string SolverAddress(const Board& board, std::string_view libraryName, std:
 std::string SolverAddressError(const Board& board) {
   for (const Seat seat : kAllSeats) {
     int cardCount = 0;
-    HandDealText(board.Hands[seat], cardCount);
+    HandDealText(board.hands[seat], cardCount);
     if (cardCount == kCardsInHand) continue;
-    return "Error - hand " + std::to_string(board.BoardNumber) + " - " +
+    return "Error - hand " + std::to_string(board.boardNumber) + " - " +
            std::string(SeatName[seat]) + " has " + std::to_string(cardCount) + " cards.";
   }
   return {};

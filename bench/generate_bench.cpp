@@ -26,23 +26,23 @@ struct Task {
 
 Constraints OneHand(Limits points) {
   Constraints constraints;
-  constraints.NumGenHands = 1;
-  constraints.PointLimits[GenHand::First] = points;
+  constraints.numGenHands = 1;
+  constraints.pointLimits[GenHand::First] = points;
   return constraints;
 }
 
 /// North and South.
 Constraints BothHands(Limits first, Limits second) {
   Constraints constraints = OneHand(first);
-  constraints.NumGenHands = 2;
-  constraints.PointLimits[GenHand::Second] = second;
-  constraints.HandDirection[GenHand::Second] = IndexOf(Seat::South);
+  constraints.numGenHands = 2;
+  constraints.pointLimits[GenHand::Second] = second;
+  constraints.handDirection[GenHand::Second] = IndexOf(Seat::South);
   return constraints;
 }
 
 void SetType(Constraints& constraints, GenHand hand, HandType type) {
-  constraints.UseSuitLengths[hand] = false;
-  constraints.HandTypeIndex[hand] = type;
+  constraints.useSuitLengths[hand] = false;
+  constraints.handTypeIndex[hand] = type;
 }
 
 Task Unconstrained() {
@@ -63,7 +63,7 @@ Task OneSpadeAndResponse() {
             "hcp(north) >= 11 && hcp(north) <= 15 && spades(north) >= 5 && "
             "hcp(south) >= 8 && hcp(south) <= 10",
             20000};
-  task.constraints.SuitLimits[GenHand::First][Suit::Spades].minimum = 5;
+  task.constraints.suitLimits[GenHand::First][Suit::Spades].minimum = 5;
   return task;
 }
 

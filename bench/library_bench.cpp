@@ -28,8 +28,8 @@ constexpr int kBoards = kLastBoardNumber;
 /// A random deal with an auction and a table.
 Board FullBoard(int number, std::mt19937& random) {
   Board board = RandomBoard(number, random);
-  board.MakeableValid = true;
-  for (auto& row : board.Makeable) {
+  board.makeableValid = true;
+  for (auto& row : board.makeable) {
     for (auto& tricks : row) tricks = static_cast<std::int16_t>(random() % 14);
   }
   return board;
@@ -132,7 +132,7 @@ void OpenLibrary(benchmark::State& state) {
   GetLibraryNames(session);
   Measure(
       state, [] {}, [&session] { SelectLibrary(session, "Full"); });
-  if (session.library.BoardCount != kBoards) state.SkipWithError("not all boards were found");
+  if (session.library.boardCount != kBoards) state.SkipWithError("not all boards were found");
 }
 
 TRICKLET_BENCH(WriteFilesFloor);

@@ -53,7 +53,7 @@ void PlayAndTakeBackCards(benchmark::State& state) {
     table.PlayAll();
     while (table.play.UndoEnabled()) table.play.Undo();
   }
-  if (table.play.Now().TricksPlayed != 0) state.SkipWithError("not all cards were taken back");
+  if (table.play.Now().tricksPlayed != 0) state.SkipWithError("not all cards were taken back");
   state.SetItemsProcessed(state.iterations() * kCardsInPack);
 }
 

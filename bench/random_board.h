@@ -16,12 +16,12 @@ inline Board RandomBoard(int number, std::mt19937& random) {
   std::iota(pack.begin(), pack.end(), 0);
   std::shuffle(pack.begin(), pack.end(), random);
   Board board;
-  board.BoardNumber = number;
+  board.boardNumber = number;
   for (std::size_t i = 0; i < pack.size(); ++i) {
-    AddCard(board.Hands, Card::FromIndex(pack[i]), static_cast<Seat>(i % kSeats));
+    AddCard(board.hands, Card::FromIndex(pack[i]), static_cast<Seat>(i % kSeats));
   }
   for (const char* call : {"1NT", "Pass", "3NT", "Pass", "Pass", "Pass"}) {
-    board.Calls.Add(Call::FromText(call).value());
+    board.calls.Add(Call::FromText(call).value());
   }
   GetContract(board);
   return board;

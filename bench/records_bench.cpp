@@ -26,10 +26,10 @@ class Fixture : public TemporaryRoot {
     std::string lin;
     for (int number = kFirstBoardNumber; number <= kBoards; ++number) {
       Board board;
-      board.BoardNumber = number;
-      Random(board.Hands, random);
+      board.boardNumber = number;
+      Random(board.hands, random);
       texts.push_back(WriteBoardText(board));
-      dlm += DLMBoardHead(number) + DLMBoardLine(number, board.Hands);
+      dlm += DLMBoardHead(number) + DLMBoardLine(number, board.hands);
       lin += LinRecordLine(board);
     }
     ReplaceWholeFile(root / "boards.dlm", dlm + DLMFooter());

@@ -54,19 +54,19 @@ class Fixture : public TemporaryRoot {
   Fixture() : session(host, store), solver(LoadSolver({})) {
     session.settings.filelocation = FolderText(root);
     session.settings.library = "Full";
-    session.settings.AutoMakeable = false;
+    session.settings.autoMakeable = false;
     session.random = RandomSource(1);
     fs::create_directories(session.LibraryPath());
     GetLibraryNames(session);
     Constraints constraints;
-    constraints.NumGenHands = 1;
-    constraints.GenBoards = {1, kBoards};
+    constraints.numGenHands = 1;
+    constraints.genBoards = {1, kBoards};
     Generate(session, constraints);
     for (int number = 1; number <= kBoards; ++number) {
       texts.push_back(ReadWholeFile(session.BoardPath(number), kMaxBoardFileBytes));
       Board board;
       ReadBoardText(texts.back(), board, TableReading::Always);
-      deals.push_back(SolverDealText(board.Hands));
+      deals.push_back(SolverDealText(board.hands));
     }
   }
 
@@ -83,7 +83,7 @@ class Fixture : public TemporaryRoot {
       Board board;
       ReadBoardText(ReadWholeFile(session.BoardPath(number), kMaxBoardFileBytes), board,
                     TableReading::Always);
-      count += board.MakeableValid ? 1 : 0;
+      count += board.makeableValid ? 1 : 0;
     }
     return count;
   }

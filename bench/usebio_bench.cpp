@@ -123,7 +123,7 @@ void UsebioFloor(benchmark::State& state) {
 void ImportUsebio(benchmark::State& state) {
   MeasureImport(state, Results(), Results().file, kBoards);
   const fs::path results = Results().root / kImportLibrary / "LIN.txt";
-  if (ParseLinFile(ReadWholeFile(results, kMaxLinFileBytes)).Lin.size() !=
+  if (ParseLinFile(ReadWholeFile(results, kMaxLinFileBytes)).lin.size() !=
       std::size_t{kBoards} * kTables) {
     state.SkipWithError("not all results came in");
   }

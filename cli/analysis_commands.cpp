@@ -16,11 +16,11 @@ void ShowTables(const Context& context, int first, int last) {
   Session& session = context.session;
   Board board;
   for (int number = first; number <= last; ++number) {
-    if (!session.library.BoardPresent.at(static_cast<std::size_t>(number))) continue;
-    board.BoardNumber = number;
-    if (!ReadBoard(session, board) || !board.MakeableValid) continue;
+    if (!session.library.boardPresent.at(static_cast<std::size_t>(number))) continue;
+    board.boardNumber = number;
+    if (!ReadBoard(session, board) || !board.makeableValid) continue;
     context.data << "Board " << number << '\n'
-                 << TableText(board, session.settings.MakeableContract) << '\n';
+                 << TableText(board, session.settings.makeableContract) << '\n';
   }
 }
 
@@ -37,7 +37,7 @@ ExitCode Analyse(const Context& context, const AnalyseArguments& arguments) {
   }
   if (!RequireSolver(session)) return ExitCode::Refused;
   const AnalysisOutcome outcome =
-      AnalyseBoards(session, session.GetSolver(), first, last, arguments.again);
+      AnalyseBoards(session, session.getSolver(), first, last, arguments.again);
   session.host.Tell(AnalysisText(outcome));
   if (arguments.show) ShowTables(context, first, last);
   return outcome.failure.empty() && !outcome.cancelled ? ExitCode::Done : ExitCode::Refused;
@@ -46,7 +46,7 @@ ExitCode Analyse(const Context& context, const AnalyseArguments& arguments) {
 ExitCode Link(const Context& context, int boardNumber) {
   Session& session = context.session;
   if (!LoadBoard(context, boardNumber)) return ExitCode::Refused;
-  if (session.settings.SolverHost.empty()) {
+  if (session.settings.solverHost.empty()) {
     session.host.Tell("Name the page's host first: settings SolverHost HOST");
     return ExitCode::Refused;
   }
@@ -57,7 +57,7 @@ ExitCode Link(const Context& context, int boardNumber) {
     session.host.Tell(error);
     return ExitCode::Refused;
   }
-  context.data << SolverAddress(session.board, session.LibraryName(), session.settings.SolverHost,
+  context.data << SolverAddress(session.board, session.LibraryName(), session.settings.solverHost,
                                 record)
                << '\n';
   return ExitCode::Done;

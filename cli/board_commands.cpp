@@ -52,7 +52,7 @@ ExitCode Libraries(const Context& context) {
   if (!RootExists(context)) return ExitCode::Refused;
   const fs::path root = context.session.FileLocation();
   for (const std::string& name : FoldersOf(root)) {
-    context.data << name << '\t' << ScanLibrary(root / PathFromText(name)).BoardCount << '\n';
+    context.data << name << '\t' << ScanLibrary(root / PathFromText(name)).boardCount << '\n';
   }
   return ExitCode::Done;
 }
@@ -61,15 +61,15 @@ ExitCode Boards(const Context& context, bool longForm) {
   if (!OpenLibrary(context, false)) return ExitCode::Refused;
   bool allRead = true;
   Board board;
-  for (int number = kFirstBoardNumber; number <= context.session.library.LastBoard; ++number) {
-    if (!context.session.library.BoardPresent.at(static_cast<std::size_t>(number))) continue;
+  for (int number = kFirstBoardNumber; number <= context.session.library.lastBoard; ++number) {
+    if (!context.session.library.boardPresent.at(static_cast<std::size_t>(number))) continue;
     context.data << number;
     if (longForm) {
-      board.BoardNumber = number;
+      board.boardNumber = number;
       allRead = ReadBoard(context.session, board) && allRead;
       context.data << '\t' << SeatName[board.Dealer()] << '\t' << VulShort[board.Vulnerability()]
-                   << '\t' << (board.Contract.empty() ? "-" : ContractLabel(board)) << '\t'
-                   << (board.MakeableValid ? "yes" : "no");
+                   << '\t' << (board.contract.empty() ? "-" : ContractLabel(board)) << '\t'
+                   << (board.makeableValid ? "yes" : "no");
     }
     context.data << '\n';
   }

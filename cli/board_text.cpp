@@ -15,7 +15,7 @@ constexpr std::size_t kCallWidth = 7;
 constexpr std::size_t kNumberWidth = 4;
 
 std::string SuitLine(const Board& board, Seat seat, Suit suit) {
-  const Holding holding = board.Hands[seat][suit];
+  const Holding holding = board.hands[seat][suit];
   return std::string(SuitSymbol[suit]) + (holding.Empty() ? " -" : HoldingText(holding));
 }
 
@@ -49,7 +49,7 @@ void AppendAuction(std::string& text, const Board& board) {
   AppendLine(text, line);
   int column = IndexOf(SeatAfter(board.Dealer()));
   line.assign(static_cast<std::size_t>(column) * kCallWidth, ' ');
-  for (const Call call : board.Calls) {
+  for (const Call call : board.calls) {
     line += PadRight(CallText(call), kCallWidth);
     if (++column % kSeats == 0) {
       AppendLine(text, line);
@@ -57,30 +57,30 @@ void AppendAuction(std::string& text, const Board& board) {
     }
   }
   if (!line.empty()) AppendLine(text, line);
-  if (!board.Contract.empty()) AppendLine(text, "\nContract: " + ContractLabel(board));
+  if (!board.contract.empty()) AppendLine(text, "\nContract: " + ContractLabel(board));
 }
 
 void AppendStatistics(std::string& text, const Board& board) {
-  const Statistics statistics = GetStats(board.Hands);
+  const Statistics statistics = GetStats(board.hands);
   std::string line = "\n" + PadRight("", kCallWidth) + " HCP LTC";
   for (const Suit suit : kAllSuits) line += PadLeft(std::string(SuitSymbol[suit]), kNumberWidth);
   AppendLine(text, line);
   for (const Seat seat : kAllSeats) {
     line = PadRight(std::string(SeatName[seat]), kCallWidth) +
-           PadLeft(std::to_string(statistics.SeatHCP[seat]), kNumberWidth) +
-           PadLeft(std::to_string(statistics.SeatLTC[seat]), kNumberWidth);
+           PadLeft(std::to_string(statistics.seatHcp[seat]), kNumberWidth) +
+           PadLeft(std::to_string(statistics.seatLtc[seat]), kNumberWidth);
     for (const Suit suit : kAllSuits) {
-      line += PadLeft(std::to_string(statistics.SuitLength[seat][suit]), kNumberWidth);
+      line += PadLeft(std::to_string(statistics.suitLength[seat][suit]), kNumberWidth);
     }
     AppendLine(text, line);
   }
-  AppendLine(text, "Losers: NS " + std::to_string(statistics.PairLTC[Side::NorthSouth]) + ", EW " +
-                       std::to_string(statistics.PairLTC[Side::EastWest]));
+  AppendLine(text, "Losers: NS " + std::to_string(statistics.pairLtc[Side::NorthSouth]) + ", EW " +
+                       std::to_string(statistics.pairLtc[Side::EastWest]));
 }
 
 void AppendTable(std::string& text, const Board& board, bool contracts) {
-  if (!board.MakeableValid) return;
-  const MakeableView view = MakeMakeableView(board.Makeable, contracts);
+  if (!board.makeableValid) return;
+  const MakeableView view = MakeMakeableView(board.makeable, contracts);
   AppendLine(text, view.caption);
   std::string line = PadRight("", kCallWidth);
   for (const Suit suit : kAllSuits) line += PadLeft(std::string(SuitSymbol[suit]), kNumberWidth);
@@ -90,7 +90,7 @@ void AppendTable(std::string& text, const Board& board, bool contracts) {
     for (const std::string& cell : row.cells) line += PadLeft(cell, kNumberWidth);
     AppendLine(text, line);
   }
-  AppendLine(text, ParText(ComputePar(board.Makeable, board.Dealer(), board.Vulnerability())));
+  AppendLine(text, ParText(ComputePar(board.makeable, board.Dealer(), board.Vulnerability())));
 }
 
 }  // namespace
@@ -118,14 +118,14 @@ std::string TableText(const Board& board, bool contracts) {
 std::string BoardText(const Board& board, const std::string& libraryName,
                       const Settings& settings) {
   std::string text;
-  AppendLine(text, libraryName + " - Board " + std::to_string(board.BoardNumber));
+  AppendLine(text, libraryName + " - Board " + std::to_string(board.boardNumber));
   AppendLine(text, "Dealer " + std::string(SeatName[board.Dealer()]) + ", " +
                        std::string(VulText[board.Vulnerability()]));
   text += "\n" + HandsText(board);
   const std::string auction = AuctionText(board);
   if (!auction.empty()) text += "\n" + auction;
   AppendStatistics(text, board);
-  const std::string table = TableText(board, settings.MakeableContract);
+  const std::string table = TableText(board, settings.makeableContract);
   if (!table.empty()) text += "\n" + table;
   return text;
 }

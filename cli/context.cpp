@@ -45,7 +45,7 @@ bool LoadBoard(const Context& context, int boardNumber) {
                       session.LibraryName());
     return false;
   }
-  session.board.BoardNumber = boardNumber;
+  session.board.boardNumber = boardNumber;
   return LoadHand(session);
 }
 

@@ -91,7 +91,7 @@ bool LoadOrBegin(const Context& context, const EditArguments& arguments) {
   if (!OpenLibrary(context, false)) return false;
   if (FileExists(session.BoardPath(arguments.board))) return LoadBoard(context, arguments.board);
   session.board = Board();
-  session.board.BoardNumber = arguments.board;
+  session.board.boardNumber = arguments.board;
   return true;
 }
 

@@ -76,20 +76,20 @@ std::optional<std::string> ReadShape(const HandArguments& asked, GenHand hand,
   if (asked.lengths) {
     const auto lengths = LengthsFromText(*asked.lengths);
     if (!lengths) return *asked.lengths + " are no four ranges of 0-13 cards";
-    constraints.SuitLimits[hand] = *lengths;
+    constraints.suitLimits[hand] = *lengths;
   }
   if (!asked.type) {
     return asked.option ? std::optional<std::string>("An option belongs to a type") : std::nullopt;
   }
   const auto type = TypeFromText(*asked.type);
   if (!type) return *asked.type + " is no hand type";
-  constraints.UseSuitLengths[hand] = false;
-  constraints.HandTypeIndex[hand] = *type;
+  constraints.useSuitLengths[hand] = false;
+  constraints.handTypeIndex[hand] = *type;
   if (!asked.option) return std::nullopt;
   const bool exists =
       (*asked.option == 1 || *asked.option == 2) && !HandTypeOptions[*type].front().empty();
   if (!exists) return *asked.type + " has no option " + std::to_string(*asked.option);
-  constraints.HandTypeOption[*type][hand] = *asked.option - 1;
+  constraints.handTypeOption[*type][hand] = *asked.option - 1;
   return std::nullopt;
 }
 
@@ -98,7 +98,7 @@ std::optional<std::string> ReadPoints(const HandArguments& asked, GenHand hand,
   if (!asked.points) return std::nullopt;
   const auto points = LimitsFromText(*asked.points, kMaxPoints);
   if (!points) return *asked.points + " is no range of 0-37 points";
-  constraints.PointLimits[hand] = *points;
+  constraints.pointLimits[hand] = *points;
   return std::nullopt;
 }
 
@@ -115,9 +115,9 @@ std::optional<std::string> ReadDirections(const PerGenHand<HandArguments>& hands
       return "Both hands are given by seats, or both from the dealer";
     }
     fromDealer = direction->fromDealer;
-    constraints.HandDirection[hand] = direction->index;
+    constraints.handDirection[hand] = direction->index;
   }
-  constraints.RelativeToDealer = fromDealer.value_or(false);
+  constraints.relativeToDealer = fromDealer.value_or(false);
   return std::nullopt;
 }
 
@@ -126,8 +126,8 @@ std::optional<std::string> ReadDirections(const PerGenHand<HandArguments>& hands
 Constraints ReadConstraints(const GenerateArguments& arguments,
                             std::optional<std::string>& problem) {
   Constraints constraints;
-  constraints.GenBoards = {arguments.first, arguments.last};
-  constraints.NumGenHands = arguments.hands[GenHand::Second].Any() ? 2 : 1;
+  constraints.genBoards = {arguments.first, arguments.last};
+  constraints.numGenHands = arguments.hands[GenHand::Second].Any() ? 2 : 1;
   problem.reset();
   if (arguments.first > arguments.last) problem = "The first board is above the last";
   if (!problem) problem = ReadDirections(arguments.hands, constraints);

@@ -33,7 +33,7 @@ void AddAction(CLI::App& library, Command& command, const std::string& name,
   if (!all.empty()) each.add_flag("--all", asked->all, all);
   WhenChosen(each, command, [asked, action](const Context& context, const ConsoleHost&) {
     // A board that is loaded along the way is not to be solved here.
-    context.session.GetSolver = {};
+    context.session.getSolver = {};
     return action(context, *asked);
   });
 }

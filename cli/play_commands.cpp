@@ -39,7 +39,7 @@ std::string WhyNot(const AuctionEntry& entry, Call call) {
   const std::string by = call.Text() + " by " + std::string(SeatName[entry.ToCall()]) + ": ";
   if (entry.Over()) return by + "the auction is over";
   if (call.IsBid()) return by + "the bid is not sufficient";
-  if (call.IsDouble() && (entry.Now().Doubled || entry.Now().Redoubled)) {
+  if (call.IsDouble() && (entry.Now().doubled || entry.Now().redoubled)) {
     return by + "the bid is doubled already";
   }
   if (call.IsDouble()) return by + "there is no bid of the opponents to double";
@@ -76,7 +76,7 @@ bool PlayCards(const Context& context, CardPlay& play, const std::vector<std::st
       context.session.host.Tell(text + " is no card");
       return false;
     }
-    const auto onPlay = play.Now().OnPlay;
+    const auto onPlay = play.Now().onPlay;
     if (play.Play(*card)) continue;
     context.session.host.Tell(
         CardText(*card) + " cannot be played" +
@@ -88,7 +88,7 @@ bool PlayCards(const Context& context, CardPlay& play, const std::vector<std::st
 
 bool ClaimBy(const Context& context, CardPlay& play, const std::string& text) {
   const auto seat = SeatFromText(text);
-  if (seat && play.Now().OnPlay == seat) {
+  if (seat && play.Now().onPlay == seat) {
     play.Claim();
     return true;
   }
@@ -100,16 +100,16 @@ bool ClaimBy(const Context& context, CardPlay& play, const std::string& text) {
 void ShowTable(const Context& context, const CardPlay& play) {
   const PlayState& state = play.Now();
   Board left = context.session.board;
-  left.Hands = state.CardsLeft;
+  left.hands = state.cardsLeft;
   std::ostream& data = context.data;
   data << HandsText(left) << '\n' << ContractLabel(left) << '\n';
   data << play.TricksText(Side::NorthSouth) << "  " << play.TricksText(Side::EastWest) << '\n';
   for (const Seat seat : kAllSeats) {
-    if (const auto& card = state.TrickCards[seat]) {
+    if (const auto& card = state.trickCards[seat]) {
       data << SeatName[seat] << " played " << CardText(*card) << '\n';
     }
   }
-  if (state.OnPlay) data << SeatName[*state.OnPlay] << " is on play\n";
+  if (state.onPlay) data << SeatName[*state.onPlay] << " is on play\n";
   if (play.Finished()) data << play.ScoreText() << '\n';
 }
 
@@ -124,12 +124,12 @@ ExitCode Auction(const Context& context, int boardNumber, const std::vector<std:
   }
   // The stored calls may break the rules; as they are to be replaced, nobody need hear of it.
   Board entered = session.board;
-  entered.Calls.Clear();
+  entered.calls.Clear();
   AuctionEntry entry(entered, session.host);
   if (!MakeCalls(context, entry, calls) || !entry.OK()) return ExitCode::Refused;
-  if (!(entered.Calls == session.board.Calls)) {
+  if (!(entered.calls == session.board.calls)) {
     session.board = entered;
-    session.board.HandChanged = true;
+    session.board.handChanged = true;
     if (!SaveHand(session)) return ExitCode::Refused;
   }
   context.data << AuctionText(session.board);
@@ -142,7 +142,7 @@ ExitCode Play(const Context& context, const PlayArguments& arguments) {
   NoTimer timer;
   CardPlay play(session.board, session.host, timer);
   if (!play.Start()) {
-    if (session.board.Contract == kAllPass) return ExitCode::Refused;
+    if (session.board.contract == kAllPass) return ExitCode::Refused;
     return Refuse(context, CardPlay::NeedsAuction(session.board)
                                ? "The board has no auction"
                                : "The board has no contract, or not all four hands");
@@ -162,14 +162,14 @@ ExitCode Score(const Context& context, const ScoreArguments& arguments) {
     return Refuse(context, arguments.contract + " is no contract");
   }
   if (!declarer) return Refuse(context, arguments.declarer + " is no seat");
-  board.Declarer = *declarer;
-  board.BoardNumber = arguments.board;
+  board.declarer = *declarer;
+  board.boardNumber = arguments.board;
   // Boards 1 to 4 are love all, North-South, East-West and all vulnerable.
   constexpr std::array<std::string_view, 4> kNames{"none", "ns", "ew", "all"};
   const auto name = std::find_if(kNames.begin(), kNames.end(), [&](std::string_view each) {
     return EqualNoCase(each, arguments.vulnerability);
   });
-  if (name != kNames.end()) board.BoardNumber = static_cast<int>(name - kNames.begin()) + 1;
+  if (name != kNames.end()) board.boardNumber = static_cast<int>(name - kNames.begin()) + 1;
   context.data << ResultLine(board, arguments.tricks) << '\n';
   return ExitCode::Done;
 }

@@ -22,27 +22,27 @@ constexpr std::array<bool, kColumns> kLeft{false, false, true,  true,  true, fal
 
 Line LineOf(const TravellerRow& row) {
   Line line;
-  line[0] = row.Pair[Side::NorthSouth];
-  line[1] = row.Pair[Side::EastWest];
+  line[0] = row.pair[Side::NorthSouth];
+  line[1] = row.pair[Side::EastWest];
   line[2] = row.ContractText();
-  if (row.Declarer) line[3] = SeatName[*row.Declarer].substr(0, 1);
-  if (row.Lead) {
-    line[4] = CardText(*row.Lead);
+  if (row.declarer) line[3] = SeatName[*row.declarer].substr(0, 1);
+  if (row.lead) {
+    line[4] = CardText(*row.lead);
   }
-  if (row.Tricks) line[5] = std::to_string(*row.Tricks);
-  line[6] = row.Adjusted;
-  if (row.Score && *row.Score >= 0) line[6] = std::to_string(*row.Score);
-  if (row.Score && *row.Score < 0) line[7] = std::to_string(-*row.Score);
-  if (const auto points = row.Points[Side::NorthSouth]) line[8] = ShortestText(*points);
-  if (const auto points = row.Points[Side::EastWest]) line[9] = ShortestText(*points);
+  if (row.tricks) line[5] = std::to_string(*row.tricks);
+  line[6] = row.adjusted;
+  if (row.score && *row.score >= 0) line[6] = std::to_string(*row.score);
+  if (row.score && *row.score < 0) line[7] = std::to_string(-*row.score);
+  if (const auto points = row.points[Side::NorthSouth]) line[8] = ShortestText(*points);
+  if (const auto points = row.points[Side::EastWest]) line[9] = ShortestText(*points);
   line[10] = row.NamesText();
   return line;
 }
 
 std::string TravellerText(const Traveller& traveller) {
   std::vector<Line> lines{{"NS", "EW", "Contract", "By", "Lead", "Tricks", "NS+", "EW+",
-                           traveller.Scoring, traveller.Scoring, "Names"}};
-  for (const TravellerRow& row : traveller.Rows) lines.push_back(LineOf(row));
+                           traveller.scoring, traveller.scoring, "Names"}};
+  for (const TravellerRow& row : traveller.rows) lines.push_back(LineOf(row));
   std::array<std::size_t, kColumns> widths{};
   for (const Line& line : lines) {
     for (std::size_t i = 0; i < kColumns; ++i) widths[i] = std::max(widths[i], Width(line[i]));
@@ -66,7 +66,7 @@ ExitCode TravellerOf(const Context& context, int boardNumber) {
   if (!OpenLibrary(context, false)) return ExitCode::Refused;
   const LinFile file = LoadLinData(session);
   const Traveller traveller = MakeTraveller(file, boardNumber);
-  if (traveller.Rows.empty()) {
+  if (traveller.rows.empty()) {
     session.host.Tell(file.Empty()
                           ? "The library " + session.LibraryName() + " has no results"
                           : "There are no results of board " + std::to_string(boardNumber));

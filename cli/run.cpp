@@ -71,7 +71,7 @@ int Execute(const Command& command, const Arguments& arguments, SettingsStore& s
   ConsoleHost host(console.in, console.messages, OptionsFrom(arguments, console),
                    console.interrupted);
   Session session(host, named ? static_cast<SettingsStore&>(overlay) : store);
-  session.GetSolver = console.solver;
+  session.getSolver = console.solver;
   try {
     const ExitCode code = command({session, console.data, !arguments.root.empty()}, host);
     return static_cast<int>(host.Ended() ? ExitCode::Refused : code);

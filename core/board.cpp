@@ -42,8 +42,8 @@ bool HasCards(const HandTable& hands) {
 }
 
 void GetContract(Board& board) {
-  board.Contract.clear();
-  board.ContractLevel = 0;
+  board.contract.clear();
+  board.contractLevel = 0;
   PerSide<EnumArray<BidStrain, int, kStrains>> firstNamer;  // seat index, -1 when unset
   for (auto& strains : firstNamer) strains.fill(-1);
   bool doubled = false;
@@ -51,7 +51,7 @@ void GetContract(Board& board) {
   Call lastBid;
   Seat bidder = board.Dealer();
   Seat seat = board.Dealer();
-  for (const Call call : board.Calls) {
+  for (const Call call : board.calls) {
     if (call.IsDouble() || call.IsRedouble()) {
       doubled = call.IsDouble();
       redoubled = call.IsRedouble();
@@ -64,13 +64,13 @@ void GetContract(Board& board) {
     }
     seat = SeatAfter(seat);
   }
-  if (board.NumCalls() == kSeats && board.Calls[0].IsPass()) {
-    board.Contract = kAllPass;
+  if (board.NumCalls() == kSeats && board.calls[0].IsPass()) {
+    board.contract = kAllPass;
   } else if (lastBid.IsBid()) {
-    board.Contract = lastBid.Text() + (redoubled ? "xx" : doubled ? "x" : "");
-    board.ContractLevel = lastBid.Level();
-    board.Declarer = static_cast<Seat>(firstNamer[SideOf(bidder)][lastBid.Denomination()]);
-    board.Trumps = ToStrain(lastBid.Denomination());
+    board.contract = lastBid.Text() + (redoubled ? "xx" : doubled ? "x" : "");
+    board.contractLevel = lastBid.Level();
+    board.declarer = static_cast<Seat>(firstNamer[SideOf(bidder)][lastBid.Denomination()]);
+    board.trumps = ToStrain(lastBid.Denomination());
   }
 }
 
@@ -81,22 +81,22 @@ bool SetContract(Board& board, std::string_view text) {
   if (!bid || !bid->IsBid()) return false;
   const std::string doubling = mark == std::string::npos ? "" : upper.substr(mark);
   if (doubling.size() > 2 || doubling.find_first_not_of("X*") != std::string::npos) return false;
-  board.ContractLevel = bid->Level();
-  board.Trumps = ToStrain(bid->Denomination());
-  board.Contract = bid->Text() + std::string(doubling.size(), 'x');
+  board.contractLevel = bid->Level();
+  board.trumps = ToStrain(bid->Denomination());
+  board.contract = bid->Text() + std::string(doubling.size(), 'x');
   return true;
 }
 
 std::string ContractLabel(const Board& board) {
-  if (board.Contract.empty() || board.Contract == kAllPass) return board.Contract;
-  return board.Contract + " by " + std::string(SeatName[board.Declarer]);
+  if (board.contract.empty() || board.contract == kAllPass) return board.contract;
+  return board.contract + " by " + std::string(SeatName[board.declarer]);
 }
 
 void ClearAll(Board& board) {
-  const int number = board.BoardNumber;
+  const int number = board.boardNumber;
   board = Board();
-  board.BoardNumber = number;
-  board.HandChanged = true;
+  board.boardNumber = number;
+  board.handChanged = true;
 }
 
 }  // namespace tricklet

@@ -15,30 +15,30 @@ namespace tricklet {
 using HandTable = PerSeat<PerSuit<Holding>>;
 
 /// Double-dummy tricks of each declarer in each strain. What a foreign file has is kept as it is,
-/// but a table of other than 0..13 tricks is none (`Board::MakeableValid`).
+/// but a table of other than 0..13 tricks is none (`Board::makeableValid`).
 using MakeableTable = EnumArray<TableSeat, EnumArray<TableStrain, std::int16_t, kStrains>, kSeats>;
 bool IsPossible(const MakeableTable& table);
 
 /// The current board. A value: copying it copies the board.
 struct Board {
-  int BoardNumber = kFirstBoardNumber;  ///< 1..999; 0 while an import has not met a number yet
-  HandTable Hands;
-  CallList Calls;
+  int boardNumber = kFirstBoardNumber;  ///< 1..999; 0 while an import has not met a number yet
+  HandTable hands;
+  CallList calls;
 
-  // Derived from `Calls` by `GetContract`.
-  std::string Contract;  ///< "4Sx"; "All Pass"; empty when there is none
-  Seat Declarer = Seat::North;
-  Strain Trumps = Strain::NoTrump;
-  int ContractLevel = 0;  ///< 1..7; 0 when there is no contract
+  // Derived from `calls` by `GetContract`.
+  std::string contract;  ///< "4Sx"; "All Pass"; empty when there is none
+  Seat declarer = Seat::North;
+  Strain trumps = Strain::NoTrump;
+  int contractLevel = 0;  ///< 1..7; 0 when there is no contract
 
-  MakeableTable Makeable;
-  bool MakeableValid = false;  ///< `Makeable` holds the table of this deal
-  bool HandChanged = false;    ///< there are changes that are not saved
-  bool PlayMode = false;       ///< the board is being played
+  MakeableTable makeable;
+  bool makeableValid = false;  ///< `makeable` holds the table of this deal
+  bool handChanged = false;    ///< there are changes that are not saved
+  bool playMode = false;       ///< the board is being played
 
-  int NumCalls() const { return Calls.Count(); }
-  Seat Dealer() const { return DealerOfBoard(BoardNumber); }
-  tricklet::Vulnerability Vulnerability() const { return VulOfBoard(BoardNumber); }
+  int NumCalls() const { return calls.Count(); }
+  Seat Dealer() const { return DealerOfBoard(boardNumber); }
+  tricklet::Vulnerability Vulnerability() const { return VulOfBoard(boardNumber); }
 };
 
 constexpr std::string_view kAllPass = "All Pass";
@@ -56,12 +56,12 @@ void GetHand(std::string_view& text, HandTable& hands, Seat seat);
 
 bool HasCards(const HandTable& hands);
 
-/// Derives `Contract`, `Declarer`, `Trumps` and `ContractLevel` from the calls and the dealer. The
+/// Derives `contract`, `declarer`, `trumps` and `contractLevel` from the calls and the dealer. The
 /// declarer is the first of the last bidder's side to have named the strain. The calls need not be
 /// a legal auction.
 void GetContract(Board& board);
 
-/// Sets `Contract`, `ContractLevel` and `Trumps` from a text: "4S", "3NTx", "5nXX", "1C**". False,
+/// Sets `contract`, `contractLevel` and `trumps` from a text: "4S", "3NTx", "5nXX", "1C**". False,
 /// and nothing changed, when it is no contract. The calls are not asked.
 bool SetContract(Board& board, std::string_view text);
 

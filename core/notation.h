@@ -17,7 +17,7 @@ enum class TableSeat : std::uint8_t { North, South, East, West };
 /// A suit in the order in which a hand is written down.
 enum class Suit : std::uint8_t { Spades, Hearts, Diamonds, Clubs };
 
-/// A strain in the order of play and of `Board::Trumps`: the suits as in `Suit`, then no-trump.
+/// A strain in the order of play and of `Board::trumps`: the suits as in `Suit`, then no-trump.
 enum class Strain : std::uint8_t { Spades, Hearts, Diamonds, Clubs, NoTrump };
 
 /// A strain in bidding order, lowest first.
@@ -61,18 +61,18 @@ inline constexpr int kBook = 6;  ///< tricks that do not count towards a contrac
 template <class Index, class Value, std::size_t kSize>
 class EnumArray {
  public:
-  constexpr Value& operator[](Index index) { return values_.at(static_cast<std::size_t>(index)); }
+  constexpr Value& operator[](Index index) { return values.at(static_cast<std::size_t>(index)); }
   constexpr const Value& operator[](Index index) const {
-    return values_.at(static_cast<std::size_t>(index));
+    return values.at(static_cast<std::size_t>(index));
   }
-  constexpr auto begin() { return values_.begin(); }
-  constexpr auto end() { return values_.end(); }
-  constexpr auto begin() const { return values_.begin(); }
-  constexpr auto end() const { return values_.end(); }
-  constexpr void fill(const Value& value) { values_.fill(value); }
+  constexpr auto begin() { return values.begin(); }
+  constexpr auto end() { return values.end(); }
+  constexpr auto begin() const { return values.begin(); }
+  constexpr auto end() const { return values.end(); }
+  constexpr void fill(const Value& value) { values.fill(value); }
   friend constexpr bool operator==(const EnumArray&, const EnumArray&) = default;
 
-  std::array<Value, kSize> values_{};  // public so that tables can be written as aggregates
+  std::array<Value, kSize> values{};  // public so that tables can be written as aggregates
 };
 
 template <class Value>

@@ -11,10 +11,10 @@
 namespace tricklet {
 
 struct RecordedPlay {
-  tricklet::Board Board;    ///< deal, calls and contract; not the board that is in hand
-  std::vector<Card> Cards;  ///< in the order in which they were played; not necessarily legal
+  tricklet::Board board;    ///< deal, calls and contract; not the board that is in hand
+  std::vector<Card> cards;  ///< in the order in which they were played; not necessarily legal
   /// Of the declarer, 0..13; known beside the cards, since a claim ends their record.
-  std::optional<int> Tricks;
+  std::optional<int> tricks;
 };
 
 /// The tricks of the declaring side, 0..13, when `cards` play `board` to its end: all 52 in an

@@ -72,11 +72,11 @@ Doubling DoublingOf(const std::string& contract) {
 }
 
 std::string ResultLine(const Board& board, int declarerTricks) {
-  if (board.ContractLevel == 0) return board.Contract.empty() ? "" : board.Contract + " : 0";
-  const int result = declarerTricks - board.ContractLevel - kBook;
-  const int score = ScoreContract(board.Vulnerability(), board.ContractLevel, board.Trumps,
-                                  DoublingOf(board.Contract), result, board.Declarer);
-  return board.Contract + ResultText(result) + " by " + std::string(SeatName[board.Declarer]) +
+  if (board.contractLevel == 0) return board.contract.empty() ? "" : board.contract + " : 0";
+  const int result = declarerTricks - board.contractLevel - kBook;
+  const int score = ScoreContract(board.Vulnerability(), board.contractLevel, board.trumps,
+                                  DoublingOf(board.contract), result, board.declarer);
+  return board.contract + ResultText(result) + " by " + std::string(SeatName[board.declarer]) +
          " : " + (score > 0 ? "NS +" : "EW +") + std::to_string(std::abs(score));
 }
 

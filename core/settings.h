@@ -24,13 +24,13 @@ struct ColourNumber {
 inline constexpr ColourNumber kWindowTextColour{0x80000008U};
 
 struct FontSetting {
-  std::string Name;
-  double Size = 0;  ///< points
-  bool Bold = false;
-  bool Italic = false;
-  bool Strikethrough = false;
-  bool Underline = false;
-  ColourNumber Forecolour = kWindowTextColour;
+  std::string name;
+  double size = 0;  ///< points
+  bool bold = false;
+  bool italic = false;
+  bool strikethrough = false;
+  bool underline = false;
+  ColourNumber forecolour = kWindowTextColour;
   friend bool operator==(const FontSetting&, const FontSetting&) = default;
 };
 
@@ -38,30 +38,30 @@ struct FontSetting {
 struct Settings {
   std::string filelocation;  ///< library root, ending in the platform's separator; UTF-8
   std::string library;       ///< current library
-  bool CardsFaces = false;   ///< hands as card faces; else as text
-  int CardDesign = 0;        ///< 1..3
-  bool SuitColour = false;   ///< four suit colours; else red and black
-  double SuitFontSize = 0;   ///< points
-  bool CaptionPlayer = false;
-  bool CaptionnCards = false;
-  bool CaptionHCP = false;
-  bool CaptionLTC = false;
-  bool CaptionDeclarer = false;
-  bool CaptionDummy = false;
-  bool AutoLaunch = false;     ///< open the main window without waiting on the start dialog
-  bool AutoUpdate = false;     ///< look for a newer version at start
-  bool AutoMakeable = false;   ///< compute a missing double-dummy table
-  bool ShowBestCards = false;  ///< in play, the tricks that each card leads to
-  bool ShowStats = false;
-  bool ShowMakeable = false;
-  bool MakeableContract = false;  ///< makeable pane shows contracts; else tricks
-  bool PBNBids = false;           ///< PBN export writes the auction
-  bool PBNShark = false;          ///< PBN export writes a result tag and a board comment
-  int EditMethod = 0;
-  int ShowMessage = 0;     ///< version up to which the notice of new features has been seen
-  std::string SolverHost;  ///< of the online double-dummy page; empty: not yet named
-  int ColourScheme = 0;    ///< 0 as the system, 1 light, 2 dark
-  std::array<FontSetting, 2> HGFont;  ///< 0: holdings as text; 1: captions and auction
+  bool cardsFaces = false;   ///< hands as card faces; else as text
+  int cardDesign = 0;        ///< 1..3
+  bool suitColour = false;   ///< four suit colours; else red and black
+  double suitFontSize = 0;   ///< points
+  bool captionPlayer = false;
+  bool captionnCards = false;
+  bool captionHcp = false;
+  bool captionLtc = false;
+  bool captionDeclarer = false;
+  bool captionDummy = false;
+  bool autoLaunch = false;     ///< open the main window without waiting on the start dialog
+  bool autoUpdate = false;     ///< look for a newer version at start
+  bool autoMakeable = false;   ///< compute a missing double-dummy table
+  bool showBestCards = false;  ///< in play, the tricks that each card leads to
+  bool showStats = false;
+  bool showMakeable = false;
+  bool makeableContract = false;  ///< makeable pane shows contracts; else tricks
+  bool pbnBids = false;           ///< PBN export writes the auction
+  bool pbnShark = false;          ///< PBN export writes a result tag and a board comment
+  int editMethod = 0;
+  int showMessage = 0;     ///< version up to which the notice of new features has been seen
+  std::string solverHost;  ///< of the online double-dummy page; empty: not yet named
+  int colourScheme = 0;    ///< 0 as the system, 1 light, 2 dark
+  std::array<FontSetting, 2> hgFont;  ///< 0: holdings as text; 1: captions and auction
 
   /// All defaults, from the table.
   Settings();

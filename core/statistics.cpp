@@ -38,25 +38,25 @@ Statistics GetStats(const HandTable& hands) {
   for (const Seat seat : kAllSeats) {
     for (const Suit suit : kAllSuits) {
       const Holding holding = hands[seat][suit];
-      statistics.SuitLength[seat][suit] = holding.Count();
-      statistics.SuitHCP[seat][suit] = HonourPoints(holding);
-      statistics.SeatCardCount[seat] += holding.Count();
-      statistics.SeatHCP[seat] += HonourPoints(holding);
-      statistics.SeatLTC[seat] += SuitLosers(holding);
+      statistics.suitLength[seat][suit] = holding.Count();
+      statistics.suitHcp[seat][suit] = HonourPoints(holding);
+      statistics.seatCardCount[seat] += holding.Count();
+      statistics.seatHcp[seat] += HonourPoints(holding);
+      statistics.seatLtc[seat] += SuitLosers(holding);
     }
-    statistics.PairLTC[SideOf(seat)] += statistics.SeatLTC[seat];
-    if (statistics.SeatCardCount[seat] == kCardsInHand) {
+    statistics.pairLtc[SideOf(seat)] += statistics.seatLtc[seat];
+    if (statistics.seatCardCount[seat] == kCardsInHand) {
       ++complete;
     } else {
-      statistics.IncompleteSeat = seat;
+      statistics.incompleteSeat = seat;
     }
   }
   for (const Suit suit : kAllSuits) {
     Holding held;
     for (const Seat seat : kAllSeats) held = held | hands[seat][suit];
-    statistics.MissingCards[suit] = Holding::FromBits(Holding::kAllBits) - held;
+    statistics.missingCards[suit] = Holding::FromBits(Holding::kAllBits) - held;
   }
-  statistics.AllHandsComplete = complete == kSeats;
+  statistics.allHandsComplete = complete == kSeats;
   return statistics;
 }
 
@@ -64,13 +64,13 @@ PerSeat<std::string> GetCaptionsEdit(const Statistics& statistics, const Setting
   PerSeat<std::string> captions;
   for (const Seat seat : kAllSeats) {
     std::string& caption = captions[seat];
-    if (settings.CaptionPlayer) caption += std::string(SeatName[seat]) + ": ";
-    if (settings.CaptionnCards) {
-      caption += std::to_string(statistics.SeatCardCount[seat]) + " cards ";
-      if (settings.CaptionHCP || settings.CaptionLTC) caption += ": ";
+    if (settings.captionPlayer) caption += std::string(SeatName[seat]) + ": ";
+    if (settings.captionnCards) {
+      caption += std::to_string(statistics.seatCardCount[seat]) + " cards ";
+      if (settings.captionHcp || settings.captionLtc) caption += ": ";
     }
-    if (settings.CaptionHCP) caption += "HCP=" + std::to_string(statistics.SeatHCP[seat]) + " ";
-    if (settings.CaptionLTC) caption += "LTC=" + std::to_string(statistics.SeatLTC[seat]);
+    if (settings.captionHcp) caption += "HCP=" + std::to_string(statistics.seatHcp[seat]) + " ";
+    if (settings.captionLtc) caption += "LTC=" + std::to_string(statistics.seatLtc[seat]);
   }
   return captions;
 }

@@ -11,18 +11,18 @@ namespace tricklet {
 
 /// What `GetStats` finds in a deal.
 struct Statistics {
-  PerSeat<PerSuit<int>> SuitLength;
-  PerSeat<PerSuit<int>> SuitHCP;  ///< ace 4, king 3, queen 2, jack 1
-  PerSeat<int> SeatCardCount;
-  PerSeat<int> SeatHCP;
-  PerSeat<int> SeatLTC;  ///< losing-trick count
-  PerSide<int> PairLTC;
-  PerSuit<Holding> MissingCards;      ///< ranks of the suit that no seat holds
-  Seat IncompleteSeat = Seat::North;  ///< the last seat without 13 cards, when there is one
-  bool AllHandsComplete = false;      ///< all four seats hold 13 cards
+  PerSeat<PerSuit<int>> suitLength;
+  PerSeat<PerSuit<int>> suitHcp;  ///< ace 4, king 3, queen 2, jack 1
+  PerSeat<int> seatCardCount;
+  PerSeat<int> seatHcp;
+  PerSeat<int> seatLtc;  ///< losing-trick count
+  PerSide<int> pairLtc;
+  PerSuit<Holding> missingCards;      ///< ranks of the suit that no seat holds
+  Seat incompleteSeat = Seat::North;  ///< the last seat without 13 cards, when there is one
+  bool allHandsComplete = false;      ///< all four seats hold 13 cards
 
   /// Some seat holds `card`.
-  bool CardDealt(Card card) const { return !MissingCards[card.suit].Has(card.rank); }
+  bool CardDealt(Card card) const { return !missingCards[card.suit].Has(card.rank); }
 };
 
 Statistics GetStats(const HandTable& hands);

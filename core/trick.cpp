@@ -3,27 +3,27 @@
 namespace tricklet {
 
 PerSuit<Holding> Trick::LegalCards(const PerSuit<Holding>& hand) const {
-  if (CardsInTrick == 0 || hand[LedSuit].Empty()) return hand;
+  if (cardsInTrick == 0 || hand[ledSuit].Empty()) return hand;
   PerSuit<Holding> legal;
-  legal[LedSuit] = hand[LedSuit];
+  legal[ledSuit] = hand[ledSuit];
   return legal;
 }
 
 void Trick::Add(Card card, Seat seat, Strain trumps) {
-  if (CardsInTrick == 0) {
-    LedSuit = card.suit;
-    BestRank.reset();
-    BestTrump.reset();
+  if (cardsInTrick == 0) {
+    ledSuit = card.suit;
+    bestRank.reset();
+    bestTrump.reset();
   }
-  ++CardsInTrick;
-  if (card.suit == LedSuit) {
+  ++cardsInTrick;
+  if (card.suit == ledSuit) {
     // Once a plain suit has been ruffed, its own cards cannot win any more.
-    if (BestTrump || (BestRank && *BestRank < card.rank)) return;
-    BestRank = card.rank;
-    TrickWinner = seat;
-  } else if (ToStrain(card.suit) == trumps && (!BestTrump || card.rank < *BestTrump)) {
-    BestTrump = card.rank;
-    TrickWinner = seat;
+    if (bestTrump || (bestRank && *bestRank < card.rank)) return;
+    bestRank = card.rank;
+    trickWinner = seat;
+  } else if (ToStrain(card.suit) == trumps && (!bestTrump || card.rank < *bestTrump)) {
+    bestTrump = card.rank;
+    trickWinner = seat;
   }
 }
 

@@ -10,11 +10,11 @@ namespace tricklet {
 
 /// The trick in play, by what decides it.
 struct Trick {
-  int CardsInTrick = 0;            ///< 0..4
-  Suit LedSuit = Suit::Spades;     ///< of the current trick's first card
-  std::optional<Rank> BestRank;    ///< best so far in the suit led
-  std::optional<Rank> BestTrump;   ///< best trump so far on a plain-suit lead
-  Seat TrickWinner = Seat::North;  ///< who is winning the trick
+  int cardsInTrick = 0;            ///< 0..4
+  Suit ledSuit = Suit::Spades;     ///< of the current trick's first card
+  std::optional<Rank> bestRank;    ///< best so far in the suit led
+  std::optional<Rank> bestTrump;   ///< best trump so far on a plain-suit lead
+  Seat trickWinner = Seat::North;  ///< who is winning the trick
 
   /// What `hand` may play now: cards of the suit led where it has any, else all it holds.
   PerSuit<Holding> LegalCards(const PerSuit<Holding>& hand) const;

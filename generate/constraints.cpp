@@ -25,8 +25,8 @@ int MostPoints(const PerSuit<Limits>& suits) {
 constexpr EnumArray<HandType, int, kHandTypes> kMostPointsOfType{{37, 33, 34, 31}};
 
 int MostPoints(const Constraints& constraints, GenHand hand) {
-  return constraints.UseSuitLengths[hand] ? MostPoints(constraints.SuitLimits[hand])
-                                          : kMostPointsOfType[constraints.HandTypeIndex[hand]];
+  return constraints.useSuitLengths[hand] ? MostPoints(constraints.suitLimits[hand])
+                                          : kMostPointsOfType[constraints.handTypeIndex[hand]];
 }
 
 Suit SuitOfHighestMinimum(const PerSuit<Limits>& suits) {
@@ -59,7 +59,7 @@ std::optional<Contradiction> CheckHand(const Constraints& constraints, GenHand h
     return Contradiction{"Suit maxima add up to less than 13 in hand " + number, hand, SuitMaxima,
                          SuitOfLowestMaximum(suits)};
   }
-  const int points = constraints.PointLimits[hand].minimum;
+  const int points = constraints.pointLimits[hand].minimum;
   if (points > MostPoints(constraints, hand)) {
     return Contradiction{"Cannot have " + std::to_string(points) +
                              " points with the distribution for hand " + number,
@@ -71,7 +71,7 @@ std::optional<Contradiction> CheckHand(const Constraints& constraints, GenHand h
 std::optional<Contradiction> CheckBothHands(const Constraints& constraints) {
   using enum ConstraintPart;
   constexpr GenHand kSecond = GenHand::Second;
-  const auto& points = constraints.PointLimits;
+  const auto& points = constraints.pointLimits;
   if (points[GenHand::First].minimum + points[kSecond].minimum > kPointsInPack) {
     return Contradiction{"Too many minimum points between the 2 hands", kSecond, Points};
   }
@@ -83,7 +83,7 @@ std::optional<Contradiction> CheckBothHands(const Constraints& constraints) {
                            kSecond, SuitMinima, suit};
     }
   }
-  if (constraints.HandDirection[GenHand::First] == constraints.HandDirection[kSecond]) {
+  if (constraints.handDirection[GenHand::First] == constraints.handDirection[kSecond]) {
     return Contradiction{"Hand 2 is the same direction as hand 1", kSecond, Direction};
   }
   return std::nullopt;
@@ -92,7 +92,7 @@ std::optional<Contradiction> CheckBothHands(const Constraints& constraints) {
 }  // namespace
 
 PerSuit<Limits> AskedLengths(const Constraints& constraints, GenHand hand) {
-  if (constraints.UseSuitLengths[hand]) return constraints.SuitLimits[hand];
+  if (constraints.useSuitLengths[hand]) return constraints.suitLimits[hand];
   PerSuit<Limits> any;
   any.fill({0, kCardsInHand});
   return any;
@@ -100,15 +100,15 @@ PerSuit<Limits> AskedLengths(const Constraints& constraints, GenHand hand) {
 
 std::optional<Contradiction> CheckConstraints(const Constraints& constraints) {
   for (const GenHand hand : kGenHands) {
-    if (IndexOf(hand) >= constraints.NumGenHands) break;
+    if (IndexOf(hand) >= constraints.numGenHands) break;
     if (auto contradiction = CheckHand(constraints, hand)) return contradiction;
   }
-  return constraints.NumGenHands == 2 ? CheckBothHands(constraints) : std::nullopt;
+  return constraints.numGenHands == 2 ? CheckBothHands(constraints) : std::nullopt;
 }
 
 Seat SeatOf(const Constraints& constraints, GenHand hand, Seat dealer) {
-  const Seat base = constraints.RelativeToDealer ? dealer : Seat::North;
-  return SeatAfter(base, constraints.HandDirection[hand]);
+  const Seat base = constraints.relativeToDealer ? dealer : Seat::North;
+  return SeatAfter(base, constraints.handDirection[hand]);
 }
 
 }  // namespace tricklet

@@ -24,7 +24,7 @@ struct Limits {
   friend constexpr bool operator==(Limits, Limits) = default;
 };
 
-/// A named shape. Each has two options; `HandTypeOption` holds 0 or 1.
+/// A named shape. Each has two options; `handTypeOption` holds 0 or 1.
 enum class HandType : std::uint8_t { Balanced, Weak2, FourFourFourOne, Preempt };
 inline constexpr int kHandTypes = 4;
 inline constexpr std::array kAllHandTypes{HandType::Balanced, HandType::Weak2,
@@ -52,20 +52,20 @@ inline constexpr std::array<double, kMaxPoints + 1> HcpOdds{
 
 struct Constraints {
   Constraints() {
-    for (auto& suits : SuitLimits) suits.fill({0, kCardsInHand});
-    PointLimits.fill({0, kMaxPoints});
+    for (auto& suits : suitLimits) suits.fill({0, kCardsInHand});
+    pointLimits.fill({0, kMaxPoints});
   }
 
-  PerGenHand<PerSuit<Limits>> SuitLimits;  ///< cards, 0..13
-  PerGenHand<Limits> PointLimits;          ///< high-card points, 0..37
-  /// A seat's index, or with `RelativeToDealer` the steps from the dealer: 0..3.
-  PerGenHand<int> HandDirection{{0, 1}};
-  PerGenHand<bool> UseSuitLengths{{true, true}};  ///< else the hand type makes the lengths
-  PerGenHand<HandType> HandTypeIndex;
-  EnumArray<HandType, PerGenHand<int>, kHandTypes> HandTypeOption;
-  int NumGenHands = 2;  ///< 1 or 2
-  bool RelativeToDealer = false;
-  std::array<int, 2> GenBoards{1, 24};  ///< first and last board
+  PerGenHand<PerSuit<Limits>> suitLimits;  ///< cards, 0..13
+  PerGenHand<Limits> pointLimits;          ///< high-card points, 0..37
+  /// A seat's index, or with `relativeToDealer` the steps from the dealer: 0..3.
+  PerGenHand<int> handDirection{{0, 1}};
+  PerGenHand<bool> useSuitLengths{{true, true}};  ///< else the hand type makes the lengths
+  PerGenHand<HandType> handTypeIndex;
+  EnumArray<HandType, PerGenHand<int>, kHandTypes> handTypeOption;
+  int numGenHands = 2;  ///< 1 or 2
+  bool relativeToDealer = false;
+  std::array<int, 2> genBoards{1, 24};  ///< first and last board
 };
 
 /// The lengths that are asked of a hand: any where it goes by a hand type, whatever its limits are.

@@ -151,14 +151,14 @@ class HandBuilder {
 
  private:
   PerSuit<Limits> LimitsOf(GenHand which) {
-    PerSuit<Limits> limits = constraints_.SuitLimits[which];
-    if (!constraints_.UseSuitLengths[which]) {
-      const HandType type = constraints_.HandTypeIndex[which];
-      const int option = constraints_.HandTypeOption[type][which];
+    PerSuit<Limits> limits = constraints_.suitLimits[which];
+    if (!constraints_.useSuitLengths[which]) {
+      const HandType type = constraints_.handTypeIndex[which];
+      const int option = constraints_.handTypeOption[type][which];
       limits = ChooseHandType(type, option, firstLengths_, random_);
     }
     Tighten(limits);
-    const bool roomForSecond = which == GenHand::First && constraints_.NumGenHands == 2;
+    const bool roomForSecond = which == GenHand::First && constraints_.numGenHands == 2;
     for (const Suit suit : kAllSuits) {
       int taken = firstLengths_[suit];
       if (roomForSecond) taken = secondAsked_[suit].minimum;
@@ -168,12 +168,12 @@ class HandBuilder {
   }
 
   int DrawPoints(GenHand which) {
-    const auto [lowest, highest] = constraints_.PointLimits[which];
+    const auto [lowest, highest] = constraints_.pointLimits[which];
     return WeightedPick(HcpOdds, lowest, highest, random_);
   }
 
   bool Accepted(CardSet hand, GenHand which) const {
-    const auto [lowest, highest] = constraints_.PointLimits[which];
+    const auto [lowest, highest] = constraints_.pointLimits[which];
     const int points = PointsOf(hand);
     return std::popcount(hand) == kCardsInHand && points >= lowest && points <= highest;
   }
@@ -271,7 +271,7 @@ HandTable GenerateDeal(const Constraints& constraints, Seat dealer, RandomSource
   HandTable hands;
   HandBuilder builder(constraints, random);
   for (const GenHand which : kGenHands) {
-    if (IndexOf(which) >= constraints.NumGenHands) break;
+    if (IndexOf(which) >= constraints.numGenHands) break;
     hands[SeatOf(constraints, which, dealer)] = HandOf(builder.Build(which));
   }
   Random(hands, random);

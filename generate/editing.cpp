@@ -11,7 +11,7 @@ namespace tricklet {
 namespace {
 
 bool IsOf(const std::optional<Board>& kept, const Board& board) {
-  return kept && kept->BoardNumber == board.BoardNumber;
+  return kept && kept->boardNumber == board.boardNumber;
 }
 
 /// A board to go back to; nothing when none was kept, or one of another number.
@@ -22,8 +22,8 @@ std::optional<Board> TakeKept(std::optional<Board>& kept, const Board& board) {
 
 /// Marks the board only when its cards have really moved.
 void Replace(Board& board, const HandTable& hands) {
-  if (board.Hands == hands) return;
-  board.Hands = hands;
+  if (board.hands == hands) return;
+  board.hands = hands;
   MarkEdited(board);
 }
 
@@ -34,15 +34,15 @@ void ReturnToPack(HandTable& hands, Card card) {
 }  // namespace
 
 void MarkEdited(Board& board) {
-  board.HandChanged = true;
-  board.MakeableValid = false;
+  board.handChanged = true;
+  board.makeableValid = false;
 }
 
 bool MoveCard(Board& board, Card card, std::optional<Seat> to) {
-  HandTable hands = board.Hands;
+  HandTable hands = board.hands;
   ReturnToPack(hands, card);
   if (to) {
-    if (GetStats(hands).SeatCardCount[*to] >= kCardsInHand) return false;
+    if (GetStats(hands).seatCardCount[*to] >= kCardsInHand) return false;
     AddCard(hands, card, *to);
   }
   Replace(board, hands);
@@ -52,7 +52,7 @@ bool MoveCard(Board& board, Card card, std::optional<Seat> to) {
 std::optional<std::string> SetHand(Board& board, Seat seat, std::string_view text, TakeCards take) {
   PerSuit<Holding> hand;
   if (auto problem = ReadHandText(text, hand)) return problem;
-  HandTable hands = board.Hands;
+  HandTable hands = board.hands;
   hands[seat] = hand;
   for (const Seat other : kAllSeats) {
     if (other == seat) continue;
@@ -69,60 +69,60 @@ std::optional<std::string> SetHand(Board& board, Seat seat, std::string_view tex
 }
 
 bool CanUndoClear(const Board& board, const EditHistory& history) {
-  return IsOf(history.ClearFrames, board);
+  return IsOf(history.clearFrames, board);
 }
 bool CanUndoFill(const Board& board, const EditHistory& history) {
-  return IsOf(history.CardFrame, board);
+  return IsOf(history.cardFrame, board);
 }
 
 void Clear(Board& board, EditHistory& history) {
-  if (HasCards(board.Hands) || board.NumCalls() > 0) history.ClearFrames = board;
+  if (HasCards(board.hands) || board.NumCalls() > 0) history.clearFrames = board;
   ClearAll(board);
 }
 
 bool UndoClear(Board& board, EditHistory& history) {
-  const auto kept = TakeKept(history.ClearFrames, board);
+  const auto kept = TakeKept(history.clearFrames, board);
   if (!kept) return false;
   board = *kept;
-  board.HandChanged = true;
-  board.PlayMode = false;
-  history.CardFrame.reset();  // a fill since the clear is gone with it
+  board.handChanged = true;
+  board.playMode = false;
+  history.cardFrame.reset();  // a fill since the clear is gone with it
   return true;
 }
 
 bool Fill(Board& board, EditHistory& history, RandomSource& random) {
   const Board before = board;
-  if (!Random(board.Hands, random)) return false;
-  board.HandChanged = true;
-  if (board.Hands == before.Hands) return true;
-  history.CardFrame = before;
+  if (!Random(board.hands, random)) return false;
+  board.handChanged = true;
+  if (board.hands == before.hands) return true;
+  history.cardFrame = before;
   MarkEdited(board);
   return true;
 }
 
 bool FourthHandIsOpen(const Board& board) {
-  const Statistics statistics = GetStats(board.Hands);
-  return std::count(statistics.SeatCardCount.begin(), statistics.SeatCardCount.end(),
+  const Statistics statistics = GetStats(board.hands);
+  return std::count(statistics.seatCardCount.begin(), statistics.seatCardCount.end(),
                     kCardsInHand) == kSeats - 1;
 }
 
 bool FillFourthHand(Board& board, EditHistory& history) {
   if (!FourthHandIsOpen(board)) return false;
-  history.CardFrame = board;
-  const Statistics statistics = GetStats(board.Hands);
-  PerSuit<Holding>& fourth = board.Hands[statistics.IncompleteSeat];
-  for (const Suit suit : kAllSuits) fourth[suit] = fourth[suit] | statistics.MissingCards[suit];
+  history.cardFrame = board;
+  const Statistics statistics = GetStats(board.hands);
+  PerSuit<Holding>& fourth = board.hands[statistics.incompleteSeat];
+  for (const Suit suit : kAllSuits) fourth[suit] = fourth[suit] | statistics.missingCards[suit];
   MarkEdited(board);
   return true;
 }
 
 bool UndoFill(Board& board, EditHistory& history) {
-  const auto kept = TakeKept(history.CardFrame, board);
+  const auto kept = TakeKept(history.cardFrame, board);
   if (!kept) return false;
-  board.Hands = kept->Hands;
-  board.Makeable = kept->Makeable;
-  board.MakeableValid = kept->MakeableValid;
-  board.HandChanged = true;
+  board.hands = kept->hands;
+  board.makeable = kept->makeable;
+  board.makeableValid = kept->makeableValid;
+  board.handChanged = true;
   return true;
 }
 

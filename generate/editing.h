@@ -34,8 +34,8 @@ enum class TakeCards : std::uint8_t {
 /// The boards to which the undo of a clear and of a random fill go back. To be emptied when
 /// another board is loaded.
 struct EditHistory {
-  std::optional<Board> ClearFrames;  ///< before the last `Clear`
-  std::optional<Board> CardFrame;    ///< before the last `Fill` or `FillFourthHand`
+  std::optional<Board> clearFrames;  ///< before the last `Clear`
+  std::optional<Board> cardFrame;    ///< before the last `Fill` or `FillFourthHand`
 };
 
 /// There is something of this board to undo.

@@ -15,7 +15,7 @@ namespace {
 
 /// Asks about overwriting when any board of the range exists.
 bool MayOverwrite(Session& session, const Constraints& constraints) {
-  const auto [first, last] = constraints.GenBoards;
+  const auto [first, last] = constraints.genBoards;
   for (int number = first; number <= last; ++number) {
     if (!FileExists(session.BoardPath(number))) continue;
     return session.host.Ask("You will overwrite existing boards in the library - " +
@@ -30,7 +30,7 @@ bool DealBoard(Session& session, const Constraints& constraints, const GenerateO
   Board& board = session.board;
   while (true) {
     ClearAll(board);
-    board.Hands = GenerateDeal(constraints, board.Dealer(), session.random);
+    board.hands = GenerateDeal(constraints, board.Dealer(), session.random);
     const Answer answer = options.preview ? options.preview(board) : Answer::Yes;
     if (answer != Answer::No) return answer == Answer::Yes;
   }
@@ -38,10 +38,10 @@ bool DealBoard(Session& session, const Constraints& constraints, const GenerateO
 
 void DealRange(Session& session, const Constraints& constraints, const GenerateOptions& options,
                GenerateOutcome& outcome) {
-  const auto [first, last] = constraints.GenBoards;
+  const auto [first, last] = constraints.genBoards;
   for (int number = first; number <= last; ++number) {
     const std::string text = "Generating board " + std::to_string(number);
-    session.board.BoardNumber = number;
+    session.board.boardNumber = number;
     outcome.cancelled = !session.host.Step(text, number - first, last - first + 1) ||
                         !DealBoard(session, constraints, options);
     if (outcome.cancelled) return;
@@ -56,9 +56,9 @@ void DealAndAnalyse(Session& session, const Constraints& constraints,
   const BatchScope batch(session);
   const WorkScope work(session.host);
   DealRange(session, constraints, options, outcome);
-  if (!options.analyse || outcome.cancelled || !session.GetSolver) return;
-  const auto [first, last] = constraints.GenBoards;
-  outcome.tables = AnalyseBoards(session, session.GetSolver(), first, last, false);
+  if (!options.analyse || outcome.cancelled || !session.getSolver) return;
+  const auto [first, last] = constraints.genBoards;
+  outcome.tables = AnalyseBoards(session, session.getSolver(), first, last, false);
 }
 
 }  // namespace
@@ -66,7 +66,7 @@ void DealAndAnalyse(Session& session, const Constraints& constraints,
 GenerateOutcome Generate(Session& session, const Constraints& constraints,
                          const GenerateOptions& options) {
   if (!SettleChanges(session)) return {.refused = true};
-  const int before = session.board.BoardNumber;
+  const int before = session.board.boardNumber;
   if (!MayOverwrite(session, constraints)) return {.refused = true};
   GenerateOutcome outcome;
   try {
@@ -75,7 +75,7 @@ GenerateOutcome Generate(Session& session, const Constraints& constraints,
     outcome.failed = true;
     ErrorReport(session.host, FaultFrom(failure));
   }
-  ListAndShow(session, outcome.boardsStored > 0 ? constraints.GenBoards.front() : before);
+  ListAndShow(session, outcome.boardsStored > 0 ? constraints.genBoards.front() : before);
   return outcome;
 }
 

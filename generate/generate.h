@@ -28,7 +28,7 @@ struct GenerateOutcome {
   AnalysisOutcome tables = {};
 };
 
-/// Fills the boards `GenBoards` of the current library with deals, and then loads the first of
+/// Fills the boards `genBoards` of the current library with deals, and then loads the first of
 /// them. Asks before about unsaved changes, and once about overwriting. The constraints must be
 /// such that `CheckConstraints` accepts them.
 GenerateOutcome Generate(Session& session, const Constraints& constraints,

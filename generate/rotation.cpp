@@ -54,23 +54,23 @@ void swap(Board& board, int from, int to) {
   if (!seats && !rotation) throw Fault(FaultNumber::SubscriptOutOfRange, "No such seat");
   MarkEdited(board);
   if (rotation) {
-    RotateHands(board.Hands, static_cast<Rotation>(from));
+    RotateHands(board.hands, static_cast<Rotation>(from));
   } else {
-    std::swap(board.Hands[static_cast<Seat>(from)], board.Hands[static_cast<Seat>(to)]);
+    std::swap(board.hands[static_cast<Seat>(from)], board.hands[static_cast<Seat>(to)]);
   }
 }
 
 bool Rotate(Board& board, Rotation rotation, bool takeAuction) {
   swap(board, IndexOf(rotation), 0);
   if (!takeAuction) return true;
-  const bool moved = MoveCalls(board.Calls, StepsOf(rotation));
+  const bool moved = MoveCalls(board.calls, StepsOf(rotation));
   if (moved) GetContract(board);
   return moved;
 }
 
 void SwapSuit(Board& board, Suit suit1, Suit suit2) {
   MarkEdited(board);
-  for (const Seat seat : kAllSeats) std::swap(board.Hands[seat][suit1], board.Hands[seat][suit2]);
+  for (const Seat seat : kAllSeats) std::swap(board.hands[seat][suit1], board.hands[seat][suit2]);
 }
 
 }  // namespace tricklet

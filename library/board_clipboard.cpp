@@ -10,40 +10,40 @@ namespace tricklet {
 namespace {
 
 std::string OverwriteQuestion(const Session& session) {
-  return "Do you wish to overwrite board " + std::to_string(session.board.BoardNumber) +
-         "\nwith board " + std::to_string(session.CopyBoard) +
-         " from library: " + session.CopyLibrary;
+  return "Do you wish to overwrite board " + std::to_string(session.board.boardNumber) +
+         "\nwith board " + std::to_string(session.copyBoard) +
+         " from library: " + session.copyLibrary;
 }
 
 std::string OverwriteTitle(const Session& session) {
-  return "Copy from Library " + session.CopyLibrary + ": board " +
-         std::to_string(session.CopyBoard) + "\nto Library " + session.LibraryName() + ": board " +
-         std::to_string(session.board.BoardNumber);
+  return "Copy from Library " + session.copyLibrary + ": board " +
+         std::to_string(session.copyBoard) + "\nto Library " + session.LibraryName() + ": board " +
+         std::to_string(session.board.boardNumber);
 }
 
 }  // namespace
 
 void CopyHand(Session& session) {
-  session.CopyLibrary = session.LibraryName();
-  session.CopyBoard = session.board.BoardNumber;
+  session.copyLibrary = session.LibraryName();
+  session.copyBoard = session.board.boardNumber;
 }
 
 bool PasteHand(Session& session) {
-  if (session.CopyBoard == 0) return false;
+  if (session.copyBoard == 0) return false;
   const auto source =
-      session.FileLocation() / PathFromText(session.CopyLibrary) / BoardFileName(session.CopyBoard);
+      session.FileLocation() / PathFromText(session.copyLibrary) / BoardFileName(session.copyBoard);
   if (!FileExists(source)) {
-    session.host.Tell("Library " + session.CopyLibrary + ": hand " +
-                      std::to_string(session.CopyBoard) + " no longer exists");
+    session.host.Tell("Library " + session.copyLibrary + ": hand " +
+                      std::to_string(session.copyBoard) + " no longer exists");
     return false;
   }
-  if (HasCards(session.board.Hands) &&
+  if (HasCards(session.board.hands) &&
       session.host.Ask(OverwriteQuestion(session), OverwriteTitle(session), Buttons::YesNo) !=
           Answer::Yes) {
     return false;
   }
   try {
-    ReplaceWholeFile(session.BoardPath(session.board.BoardNumber),
+    ReplaceWholeFile(session.BoardPath(session.board.boardNumber),
                      ReadWholeFile(source, kMaxBoardFileBytes));
   } catch (const Fault& fault) {
     ErrorReport(session.host, fault);

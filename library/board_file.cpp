@@ -97,8 +97,8 @@ bool ReadTable(LineReader& lines, Board& board) {
       tricks = static_cast<std::int16_t>(*value);
     }
   }
-  board.Makeable = table;
-  board.MakeableValid = IsPossible(table);
+  board.makeable = table;
+  board.makeableValid = IsPossible(table);
   return true;
 }
 
@@ -125,18 +125,18 @@ std::string WriteBoardText(const Board& board) {
   text.reserve(512);
   for (const Seat seat : kAllSeats) {
     for (const Suit suit : kAllSuits) {
-      text += HoldingText(board.Hands[seat][suit]);
+      text += HoldingText(board.hands[seat][suit]);
       text += kLineEnd;
     }
   }
   AppendNumber(text, board.NumCalls());
-  for (const Call call : board.Calls) {
+  for (const Call call : board.calls) {
     text += call.Text();
     text += kLineEnd;
   }
-  AppendNumber(text, board.MakeableValid ? 1 : 0);
-  if (board.MakeableValid) {
-    for (const auto& row : board.Makeable) {
+  AppendNumber(text, board.makeableValid ? 1 : 0);
+  if (board.makeableValid) {
+    for (const auto& row : board.makeable) {
       for (const std::int16_t tricks : row) AppendNumber(text, tricks);
     }
   }
@@ -145,13 +145,13 @@ std::string WriteBoardText(const Board& board) {
 
 bool ReadBoardText(std::string_view text, Board& board, TableReading tables) {
   LineReader lines(text);
-  board.Hands = HandTable();
-  board.Calls.Clear();
-  board.MakeableValid = false;
-  const bool readable = ReadHands(lines, board.Hands) && ReadCalls(lines, board.Calls);
+  board.hands = HandTable();
+  board.calls.Clear();
+  board.makeableValid = false;
+  const bool readable = ReadHands(lines, board.hands) && ReadCalls(lines, board.calls);
   GetContract(board);
   if (!readable) return false;
-  const bool wantTable = tables == TableReading::Always || GetStats(board.Hands).AllHandsComplete;
+  const bool wantTable = tables == TableReading::Always || GetStats(board.hands).allHandsComplete;
   return !wantTable || ReadTable(lines, board);
 }
 

@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 /// Asks before a changed board replaces `path`; false when it must not.
 bool MayReplace(Session& session, const fs::path& path, Buttons style) {
   const std::string question =
-      "Overwrite existing board " + std::to_string(session.board.BoardNumber) + "?";
+      "Overwrite existing board " + std::to_string(session.board.boardNumber) + "?";
   const Answer answer = session.host.Ask(question, "Hand already in library", style);
   if (answer != Answer::Yes && answer != Answer::OK) return false;
   if (IsReadOnly(path)) {
@@ -40,9 +40,9 @@ bool ReadBoardFile(const fs::path& path, Board& board, TableReading tables) {
 
 /// Gives the board just read from `path` the table that it lacks, in memory and in its file.
 void AddMissingTable(Session& session, const fs::path& path, Board& board) {
-  if (session.TablesInBackground || !WantsTable(session, board)) return;
-  if (!GetDDS(board, session.GetSolver(), session.host, false)) return;
-  board.HandChanged = false;
+  if (session.tablesInBackground || !WantsTable(session, board)) return;
+  if (!GetDDS(board, session.getSolver(), session.host, false)) return;
+  board.handChanged = false;
   try {
     ReplaceWholeFile(path, WriteBoardText(board));
   } catch (const Fault&) {
@@ -53,8 +53,8 @@ void AddMissingTable(Session& session, const fs::path& path, Board& board) {
 }  // namespace
 
 bool SaveHand(Session& session, Buttons style) {
-  const fs::path path = session.BoardPath(session.board.BoardNumber);
-  if (session.board.HandChanged && FileExists(path) && !MayReplace(session, path, style)) {
+  const fs::path path = session.BoardPath(session.board.boardNumber);
+  if (session.board.handChanged && FileExists(path) && !MayReplace(session, path, style)) {
     return false;
   }
   try {
@@ -68,18 +68,18 @@ bool SaveHand(Session& session, Buttons style) {
 }
 
 void StoreBoard(Session& session) {
-  if (!IsStorable(session.board.BoardNumber)) {
+  if (!IsStorable(session.board.boardNumber)) {
     throw Fault(FaultNumber::SubscriptOutOfRange, "A library holds boards 1 to 999");
   }
-  ReplaceWholeFile(session.BoardPath(session.board.BoardNumber), WriteBoardText(session.board));
-  session.board.HandChanged = false;
+  ReplaceWholeFile(session.BoardPath(session.board.boardNumber), WriteBoardText(session.board));
+  session.board.handChanged = false;
 }
 
 bool LoadHand(Session& session) {
-  const fs::path path = session.BoardPath(session.board.BoardNumber);
-  ++session.BoardsLoaded;
+  const fs::path path = session.BoardPath(session.board.boardNumber);
+  ++session.boardsLoaded;
   ClearAll(session.board);
-  session.board.HandChanged = false;
+  session.board.handChanged = false;
   if (!FileExists(path)) return false;
   const bool readable = ReadBoardFile(path, session.board, TableReading::Always);
   if (readable) {
@@ -91,9 +91,9 @@ bool LoadHand(Session& session) {
 }
 
 bool ReadBoard(Session& session, Board& board) {
-  const fs::path path = session.BoardPath(board.BoardNumber);
+  const fs::path path = session.BoardPath(board.boardNumber);
   ClearAll(board);
-  board.HandChanged = false;
+  board.handChanged = false;
   const bool readable = ReadBoardFile(path, board, TableReading::OnlyWhenComplete);
   if (!readable) TellUnreadable(session, path);
   return readable;
@@ -101,14 +101,14 @@ bool ReadBoard(Session& session, Board& board) {
 
 bool LoadHandBasic(Session& session, Board& board, bool& allHandsComplete) {
   const bool readable = ReadBoard(session, board);
-  allHandsComplete = readable && GetStats(board.Hands).AllHandsComplete;
-  if (allHandsComplete) AddMissingTable(session, session.BoardPath(board.BoardNumber), board);
+  allHandsComplete = readable && GetStats(board.hands).allHandsComplete;
+  if (allHandsComplete) AddMissingTable(session, session.BoardPath(board.boardNumber), board);
   return readable;
 }
 
 bool WantsTable(const Session& session, const Board& board) {
-  return !board.MakeableValid && session.settings.AutoMakeable && session.GetSolver &&
-         GetStats(board.Hands).AllHandsComplete;
+  return !board.makeableValid && session.settings.autoMakeable && session.getSolver &&
+         GetStats(board.hands).allHandsComplete;
 }
 
 }  // namespace tricklet

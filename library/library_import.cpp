@@ -127,7 +127,7 @@ bool ImportLibraryFrom(Session& session, const fs::path& folder) {
       !CopyLibraryFolder(session, from, FolderNamed(session.FileLocation()), name)) {
     return false;
   }
-  session.LibraryNames = FoldersOf(session.FileLocation());
+  session.libraryNames = FoldersOf(session.FileLocation());
   return SelectLibrary(session, name);
 }
 

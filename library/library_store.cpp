@@ -27,10 +27,10 @@ int PositionOf(const std::vector<std::string>& names, std::string_view name) {
 
 /// Makes `name` the current library and shows its first board; the list must hold it.
 void EnterLibrary(Session& session, int index) {
-  session.LibIndex = index;
-  session.settings.library = session.LibraryNames.at(static_cast<std::size_t>(index));
+  session.libIndex = index;
+  session.settings.library = session.libraryNames.at(static_cast<std::size_t>(index));
   SaveSetting(session.settings, "library", session.store);
-  session.board.BoardNumber = kFirstBoardNumber;
+  session.board.boardNumber = kFirstBoardNumber;
   FindFiles(session);
   LoadHand(session);
 }
@@ -55,7 +55,7 @@ std::string TrimQuestion(int highest, int maxBoard) {
 }
 
 void RecycleBoardsAbove(Session& session, int highest) {
-  for (int number = highest + 1; number <= session.library.MaxBoard; ++number) {
+  for (int number = highest + 1; number <= session.library.maxBoard; ++number) {
     const fs::path path = session.BoardPath(number);
     // A failure is not reported: the count afterwards shows what really remains.
     if (FileExists(path)) session.host.Recycle(path);
@@ -111,15 +111,15 @@ void GetLibraryNames(Session& session) {
   if (!RequireFolder(session, session.FileLocation()) ||
       CheckSaveChanges(session) == Answer::Cancel)
     return;
-  session.LibraryNames = FoldersOf(session.FileLocation());
-  if (session.LibraryNames.empty()) {
+  session.libraryNames = FoldersOf(session.FileLocation());
+  if (session.libraryNames.empty()) {
     if (!MakeFolder(session, session.FileLocation() / "Default")) {
-      session.LibIndex = -1;
+      session.libIndex = -1;
       return;
     }
-    session.LibraryNames.emplace_back("Default");
+    session.libraryNames.emplace_back("Default");
   }
-  EnterLibrary(session, std::max(0, PositionOf(session.LibraryNames, session.LibraryName())));
+  EnterLibrary(session, std::max(0, PositionOf(session.libraryNames, session.LibraryName())));
 }
 
 LibraryState ScanLibrary(const fs::path& folder) {
@@ -130,30 +130,30 @@ LibraryState ScanLibrary(const fs::path& folder) {
     const int number = BoardNumberOfFile(PathText(entry->path().filename()));
     std::error_code ignored;
     if (!IsStorable(number) || entry->is_directory(ignored)) continue;
-    library.BoardPresent.at(static_cast<std::size_t>(number)) = true;
-    ++library.BoardCount;
-    library.FirstBoard = std::min(library.FirstBoard, number);
-    library.LastBoard = std::max(library.LastBoard, number);
+    library.boardPresent.at(static_cast<std::size_t>(number)) = true;
+    ++library.boardCount;
+    library.firstBoard = std::min(library.firstBoard, number);
+    library.lastBoard = std::max(library.lastBoard, number);
   }
   return library;
 }
 
 void CountHands(Session& session) {
-  const int maxBoard = session.library.MaxBoard;
+  const int maxBoard = session.library.maxBoard;
   session.library = ScanLibrary(session.LibraryPath());
-  session.library.MaxBoard = maxBoard;
+  session.library.maxBoard = maxBoard;
 }
 
 void FindFiles(Session& session) {
   CountHands(session);
   LibraryState& library = session.library;
-  library.MaxBoard = library.BoardCount == 0 ? kBoardsOfEmptyLibrary : library.LastBoard;
+  library.maxBoard = library.boardCount == 0 ? kBoardsOfEmptyLibrary : library.lastBoard;
 }
 
 void ListAndShow(Session& session, int number) {
-  session.board.BoardNumber = number;
+  session.board.boardNumber = number;
   FindFiles(session);
-  session.board.BoardNumber = std::clamp(number, kFirstBoardNumber, session.library.MaxBoard);
+  session.board.boardNumber = std::clamp(number, kFirstBoardNumber, session.library.maxBoard);
   LoadHand(session);
 }
 
@@ -162,20 +162,20 @@ std::string LibraryCaption(const Session& session) {
 }
 
 std::string LibraryCountText(const Session& session) {
-  return std::to_string(session.library.BoardCount) + " boards in library";
+  return std::to_string(session.library.boardCount) + " boards in library";
 }
 
 Answer CheckSaveChanges(Session& session) {
-  if (session.BatchRunning || !session.board.HandChanged) return Answer::OK;
+  if (session.batchRunning || !session.board.handChanged) return Answer::OK;
   const std::string question = "Do you want to save changes to board " +
-                               std::to_string(session.board.BoardNumber) + " in library " +
+                               std::to_string(session.board.boardNumber) + " in library " +
                                session.LibraryName() + "?";
   switch (session.host.Ask(question, "Save changes?", Buttons::YesNoCancel)) {
     case Answer::Yes:
       // A board that could not be saved stays, with its changes.
       return SaveHand(session) ? Answer::OK : Answer::Cancel;
     case Answer::No:
-      session.board.HandChanged = false;
+      session.board.handChanged = false;
       return Answer::OK;
     default:
       return Answer::Cancel;
@@ -183,37 +183,37 @@ Answer CheckSaveChanges(Session& session) {
 }
 
 bool SettleChanges(Session& session) {
-  if (session.BatchRunning || !session.board.HandChanged) return true;
+  if (session.batchRunning || !session.board.handChanged) return true;
   if (CheckSaveChanges(session) == Answer::Cancel) return false;
   LoadHand(session);
   return true;
 }
 
 bool SelectLibrary(Session& session, int index) {
-  if (index < 0 || index >= static_cast<int>(session.LibraryNames.size())) return false;
+  if (index < 0 || index >= static_cast<int>(session.libraryNames.size())) return false;
   if (CheckSaveChanges(session) == Answer::Cancel) return false;
   EnterLibrary(session, index);
   return true;
 }
 
 bool SelectLibrary(Session& session, std::string_view name) {
-  const int exact = PositionOf(session.LibraryNames, name);
+  const int exact = PositionOf(session.libraryNames, name);
   return SelectLibrary(session,
-                       exact >= 0 ? exact : PositionOf(session.LibraryNames, TrimmedName(name)));
+                       exact >= 0 ? exact : PositionOf(session.libraryNames, TrimmedName(name)));
 }
 
 bool SelectBoard(Session& session, int boardNumber) {
-  if (boardNumber < kFirstBoardNumber || boardNumber > session.library.MaxBoard) return false;
+  if (boardNumber < kFirstBoardNumber || boardNumber > session.library.maxBoard) return false;
   if (CheckSaveChanges(session) == Answer::Cancel) return false;
-  session.board.BoardNumber = boardNumber;
+  session.board.boardNumber = boardNumber;
   LoadHand(session);
   return true;
 }
 
 bool StepBoard(Session& session, bool backward) {
-  const int last = session.library.MaxBoard;
+  const int last = session.library.maxBoard;
   if (last == 0) return false;
-  const int next = session.board.BoardNumber + (backward ? -1 : 1);
+  const int next = session.board.boardNumber + (backward ? -1 : 1);
   return SelectBoard(session, next > last ? kFirstBoardNumber : next < 1 ? last : next);
 }
 
@@ -223,18 +223,18 @@ bool SetMaxBoard(Session& session, int highest) {
     session.host.Beep();
     return false;
   }
-  if (highest >= library.MaxBoard) {
-    library.MaxBoard = highest;
+  if (highest >= library.maxBoard) {
+    library.maxBoard = highest;
     return true;
   }
-  if (session.host.Ask(TrimQuestion(highest, library.MaxBoard), std::string(kProgramName),
+  if (session.host.Ask(TrimQuestion(highest, library.maxBoard), std::string(kProgramName),
                        Buttons::YesNo) != Answer::Yes) {
     return false;
   }
   RecycleBoardsAbove(session, highest);
-  library.MaxBoard = highest;
-  if (session.board.BoardNumber > highest) {
-    session.board.BoardNumber = highest;
+  library.maxBoard = highest;
+  if (session.board.boardNumber > highest) {
+    session.board.boardNumber = highest;
     LoadHand(session);
   }
   CountHands(session);
@@ -281,7 +281,7 @@ bool HasAllowedCharacters(std::string_view name) {
 
 bool IsNewLibraryName(const Session& session, std::string_view name) {
   const std::string_view trimmed = TrimmedName(name);
-  return HasAllowedCharacters(trimmed) && !IsListed(session.LibraryNames, trimmed);
+  return HasAllowedCharacters(trimmed) && !IsListed(session.libraryNames, trimmed);
 }
 
 bool IsTakenInRoot(const Session& session, std::string_view name) {
@@ -302,9 +302,9 @@ bool AcceptNewName(Session& session, std::string_view name) {
 
 void RefreshLibraryNames(Session& session) {
   if (!RequireFolder(session, session.FileLocation())) return;
-  session.LibraryNames = FoldersOf(session.FileLocation());
-  session.LibIndex = PositionOf(session.LibraryNames, session.LibraryName());
-  if (session.LibIndex < 0) GetLibraryNames(session);
+  session.libraryNames = FoldersOf(session.FileLocation());
+  session.libIndex = PositionOf(session.libraryNames, session.LibraryName());
+  if (session.libIndex < 0) GetLibraryNames(session);
 }
 
 bool CreateLibrary(Session& session, std::string_view name) {
@@ -326,7 +326,7 @@ bool RenameLibrary(Session& session, std::string_view name) {
     ErrorReport(session.host, Fault::OfFile(failure, PathText(session.LibraryPath())));
     return false;
   }
-  if (session.CopyLibrary == session.LibraryName()) session.CopyLibrary = trimmed;
+  if (session.copyLibrary == session.LibraryName()) session.copyLibrary = trimmed;
   session.settings.library = trimmed;
   SaveSetting(session.settings, "library", session.store);
   RefreshLibraryNames(session);

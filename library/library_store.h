@@ -30,7 +30,7 @@ std::vector<std::string> FoldersOf(const std::filesystem::path& root);
 /// The library root has a folder of the name, whatever the letter case, or something else of it.
 bool IsTakenInRoot(const Session& session, std::string_view name);
 
-/// Scans a library's folder, once; `MaxBoard` is left at 0.
+/// Scans a library's folder, once; `maxBoard` is left at 0.
 LibraryState ScanLibrary(const std::filesystem::path& folder);
 
 /// Scans the current library.
@@ -54,7 +54,7 @@ Answer CheckSaveChanges(Session& session);
 /// changes were given up it is shown as it is stored. False when the person wants to stay.
 bool SettleChanges(Session& session);
 
-/// Selects the library at `index` of `LibraryNames` and loads its board 1, after
+/// Selects the library at `index` of `libraryNames` and loads its board 1, after
 /// `CheckSaveChanges`. False when the person stayed.
 bool SelectLibrary(Session& session, int index);
 /// The same by name; false too when there is no such library.

@@ -94,7 +94,7 @@ bool SwitchRoot(Session& session, const fs::path& folder) {
   session.settings.filelocation = FolderText(folder);
   SaveSetting(session.settings, "filelocation", session.store);
   session.settings.library = library;
-  session.CopyLibrary.clear();  // the same name may be another library here
+  session.copyLibrary.clear();  // the same name may be another library here
   GetLibraryNames(session);
   return true;
 }

@@ -17,11 +17,11 @@ namespace tricklet {
 
 /// What is known of the current library from its last scan.
 struct LibraryState {
-  std::array<bool, kLastBoardNumber + 1> BoardPresent{};  ///< by board number
-  int BoardCount = 0;
-  int FirstBoard = kLastBoardNumber + 1;  ///< 1000 when the library is empty
-  int LastBoard = 0;                      ///< 0 when the library is empty
-  int MaxBoard = 0;                       ///< number of entries in the list of boards: 1..MaxBoard
+  std::array<bool, kLastBoardNumber + 1> boardPresent{};  ///< by board number
+  int boardCount = 0;
+  int firstBoard = kLastBoardNumber + 1;  ///< 1000 when the library is empty
+  int lastBoard = 0;                      ///< 0 when the library is empty
+  int maxBoard = 0;                       ///< number of entries in the list of boards: 1..MaxBoard
 };
 
 /// One per program. The window and the command line derive all that they show from it.
@@ -34,24 +34,24 @@ struct Session {
   Settings settings;
 
   Board board;                            ///< the current board
-  int BoardsLoaded = 0;                   ///< counts the loads of `board`: it may be another one
+  int boardsLoaded = 0;                   ///< counts the loads of `board`: it may be another one
   LibraryState library;                   ///< the current library
-  std::vector<std::string> LibraryNames;  ///< all libraries of the root, in the order of the list
-  int LibIndex = -1;                      ///< the current library's position in it, -1 when none
+  std::vector<std::string> libraryNames;  ///< all libraries of the root, in the order of the list
+  int libIndex = -1;                      ///< the current library's position in it, -1 when none
 
   /// The only one of the program. Seeded by the system, unless a seed is given at the start.
   RandomSource random;
 
-  std::string CopyLibrary;  ///< where the board to paste comes from; empty when none was copied
-  int CopyBoard = 0;
+  std::string copyLibrary;  ///< where the board to paste comes from; empty when none was copied
+  int copyBoard = 0;
 
   /// The double-dummy solver, loaded when it is first asked for; empty where none is to be used.
-  std::function<Solver&()> GetSolver;
+  std::function<Solver&()> getSolver;
   /// A missing table is not computed while a board is loaded but later, by the window's worker.
-  bool TablesInBackground = false;
+  bool tablesInBackground = false;
 
   /// An import, export or the like is running: nothing is asked about unsaved changes.
-  bool BatchRunning = false;
+  bool batchRunning = false;
 
   const std::string& LibraryName() const { return settings.library; }
   /// The root of all libraries.
@@ -62,13 +62,13 @@ struct Session {
   std::filesystem::path BoardPath(int boardNumber) const;
 };
 
-/// Restores `BatchRunning` however the batch ends.
+/// Restores `batchRunning` however the batch ends.
 class BatchScope {
  public:
-  explicit BatchScope(Session& session) : session_(session), before_(session.BatchRunning) {
-    session_.BatchRunning = true;
+  explicit BatchScope(Session& session) : session_(session), before_(session.batchRunning) {
+    session_.batchRunning = true;
   }
-  ~BatchScope() { session_.BatchRunning = before_; }
+  ~BatchScope() { session_.batchRunning = before_; }
   BatchScope(const BatchScope&) = delete;
   BatchScope& operator=(const BatchScope&) = delete;
 

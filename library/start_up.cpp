@@ -66,17 +66,17 @@ int VersionNumber() {
 
 std::string UpdateText(const Settings& settings) {
   // There is no site to ask yet, so with the option on the start goes on without a word.
-  return settings.AutoUpdate ? "" : "Option to check for updates is switched off";
+  return settings.autoUpdate ? "" : "Option to check for updates is switched off";
 }
 
 void ShowNotice(Session& session) {
-  if (session.settings.ShowMessage >= VersionNumber()) return;
+  if (session.settings.showMessage >= VersionNumber()) return;
   const Answer again = session.host.Ask(
       "Click Help > New Features to see details of the latest changes\n\n"
       "Do you want to see this message next time Tricklet starts?",
       std::string(kProgramName), Buttons::YesNo);
   if (again == Answer::Yes) return;
-  session.settings.ShowMessage = VersionNumber();
+  session.settings.showMessage = VersionNumber();
   SaveSetting(session.settings, "ShowMessage", session.store);
 }
 

@@ -11,7 +11,7 @@ namespace tricklet {
 /// "Version 3.2.05".
 std::string VersionText();
 
-/// 100 x major + minor: what is compared with the setting `ShowMessage`.
+/// 100 x major + minor: what is compared with the setting `showMessage`.
 int VersionNumber();
 
 /// What the start dialog says of updates.

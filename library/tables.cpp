@@ -79,7 +79,7 @@ class AnalysisRun {
   void FindWork(int first, int last, bool again) {
     CountHands(session_);
     for (int number = first; number <= last; ++number) {
-      if (!session_.library.BoardPresent.at(static_cast<std::size_t>(number))) continue;
+      if (!session_.library.boardPresent.at(static_cast<std::size_t>(number))) continue;
       if (Wanted(number, again)) numbers_.push_back(number);
     }
   }
@@ -91,7 +91,7 @@ class AnalysisRun {
       const bool readable =
           ReadBoardText(ReadWholeFile(session_.BoardPath(number), kMaxBoardFileBytes), board,
                         TableReading::Always);
-      if (!readable || !GetStats(board.Hands).AllHandsComplete) {
+      if (!readable || !GetStats(board.hands).allHandsComplete) {
         ++outcome_.incomplete;
         return false;
       }
@@ -99,8 +99,8 @@ class AnalysisRun {
       ++outcome_.incomplete;
       return false;
     }
-    if (board.MakeableValid && !again) return false;
-    deals_.push_back(board.Hands);
+    if (board.makeableValid && !again) return false;
+    deals_.push_back(board.hands);
     return true;
   }
 
@@ -148,9 +148,9 @@ class AnalysisRun {
       if (!StoreTable(session_.BoardPath(number), pending_.deals[i], pendingTables_[i])) continue;
       ++outcome_.computed;
       Board& board = session_.board;
-      if (board.BoardNumber == number && board.Hands == pending_.deals[i]) {
-        board.Makeable = pendingTables_[i];
-        board.MakeableValid = true;
+      if (board.boardNumber == number && board.hands == pending_.deals[i]) {
+        board.makeable = pendingTables_[i];
+        board.makeableValid = true;
       }
     }
     pendingTables_.clear();
@@ -175,9 +175,9 @@ bool StoreTable(const fs::path& path, const HandTable& hands, const MakeableTabl
   try {
     Board board;
     const std::string text = ReadWholeFile(path, kMaxBoardFileBytes);
-    if (!ReadBoardText(text, board, TableReading::Always) || !(board.Hands == hands)) return false;
-    board.Makeable = table;
-    board.MakeableValid = true;
+    if (!ReadBoardText(text, board, TableReading::Always) || !(board.hands == hands)) return false;
+    board.makeable = table;
+    board.makeableValid = true;
     ReplaceWholeFile(path, WriteBoardText(board));
     return true;
   } catch (const Fault&) {
@@ -186,8 +186,8 @@ bool StoreTable(const fs::path& path, const HandTable& hands, const MakeableTabl
 }
 
 bool RequireSolver(const Session& session) {
-  if (!session.GetSolver) session.host.Tell("There is no double-dummy solver");
-  return session.GetSolver != nullptr;
+  if (!session.getSolver) session.host.Tell("There is no double-dummy solver");
+  return session.getSolver != nullptr;
 }
 
 AnalysisOutcome AnalyseBoards(Session& session, Solver& solver, int first, int last, bool again) {

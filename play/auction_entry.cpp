@@ -24,9 +24,9 @@ int FirstCallIndex(Seat dealer) {
 }  // namespace
 
 AuctionEntry::AuctionEntry(Board& board, Host& host) : board_(board), host_(host) {
-  state_.CallIndex = FirstCallIndex(board.Dealer());
+  state_.callIndex = FirstCallIndex(board.Dealer());
   snapshots_[0] = state_;
-  Replay(board.Calls);
+  Replay(board.calls);
 }
 
 void AuctionEntry::Replay(const CallList& stored) {
@@ -43,11 +43,11 @@ void AuctionEntry::Replay(const CallList& stored) {
 }
 
 bool AuctionEntry::OKEnabled() const {
-  return state_.OKEnabled || (calls_.Empty() && !board_.Calls.Empty());
+  return state_.okEnabled || (calls_.Empty() && !board_.calls.Empty());
 }
 
 bool AuctionEntry::AtLimit() const {
-  return state_.CallIndex == kCallIndexLimit || calls_.Full();
+  return state_.callIndex == kCallIndexLimit || calls_.Full();
 }
 
 bool AuctionEntry::CheckLimit() {
@@ -57,86 +57,86 @@ bool AuctionEntry::CheckLimit() {
 }
 
 void AuctionEntry::EnableBids(int index) {
-  state_.LastBid = index;
+  state_.lastBid = index;
 }
 
 void AuctionEntry::AddCall(Call call) {
-  ++state_.CallsMade;
-  ++state_.CallIndex;
+  ++state_.callsMade;
+  ++state_.callIndex;
   calls_.Add(call);
 }
 
 void AuctionEntry::Remember() {
-  snapshots_.at(static_cast<std::size_t>(state_.CallsMade)) = state_;
+  snapshots_.at(static_cast<std::size_t>(state_.callsMade)) = state_;
 }
 
 void AuctionEntry::Bid(int index) {
   if (!BidEnabled(index) || CheckLimit()) return;
   const auto strain = static_cast<BidStrain>(index % kStrains);
   const Seat bidder = ToCall();
-  state_.Strain = strain;
-  state_.BidLevel = index / kStrains + 1;
-  state_.BidderSeat = bidder;
-  auto& namer = state_.FirstNamer[SideOf(bidder)][strain];
+  state_.strain = strain;
+  state_.bidLevel = index / kStrains + 1;
+  state_.bidderSeat = bidder;
+  auto& namer = state_.firstNamer[SideOf(bidder)][strain];
   if (!namer) namer = bidder;
   EnableBids(index);
-  AddCall(Call::Bid(state_.BidLevel, strain));
-  state_.SideToDouble = SideToCall(state_.CallsMade);
-  state_.DblEnabled = true;
-  state_.RdbEnabled = false;
-  state_.OKEnabled = false;
-  state_.Doubled = state_.Redoubled = false;
-  state_.Passes = 0;
+  AddCall(Call::Bid(state_.bidLevel, strain));
+  state_.sideToDouble = SideToCall(state_.callsMade);
+  state_.dblEnabled = true;
+  state_.rdbEnabled = false;
+  state_.okEnabled = false;
+  state_.doubled = state_.redoubled = false;
+  state_.passes = 0;
   Remember();
 }
 
 void AuctionEntry::pass() {
   if (!PassEnabled() || CheckLimit()) return;
   AddCall(Call::Pass());
-  const bool opponents = SideToCall(state_.CallsMade) == state_.SideToDouble;
-  state_.DblEnabled = opponents && !state_.Doubled;
-  state_.RdbEnabled = !opponents && state_.Doubled && !state_.Redoubled;
-  ++state_.Passes;
-  const bool bidMade = state_.SideToDouble >= 1;
-  if (state_.Passes == kPassesWithoutABid || (state_.Passes == kPassesAfterABid && bidMade)) {
+  const bool opponents = SideToCall(state_.callsMade) == state_.sideToDouble;
+  state_.dblEnabled = opponents && !state_.doubled;
+  state_.rdbEnabled = !opponents && state_.doubled && !state_.redoubled;
+  ++state_.passes;
+  const bool bidMade = state_.sideToDouble >= 1;
+  if (state_.passes == kPassesWithoutABid || (state_.passes == kPassesAfterABid && bidMade)) {
     EnableBids(kNoMoreBids);
-    state_.DblEnabled = state_.RdbEnabled = state_.PassEnabled = false;
-    state_.OKEnabled = true;
+    state_.dblEnabled = state_.rdbEnabled = state_.passEnabled = false;
+    state_.okEnabled = true;
   }
   Remember();
 }
 
 void AuctionEntry::AllPass() {
   while (PassEnabled()) {
-    const int before = state_.CallsMade;
+    const int before = state_.callsMade;
     pass();
-    if (state_.CallsMade == before) return;  // the limit
+    if (state_.callsMade == before) return;  // the limit
   }
 }
 
 void AuctionEntry::CallDbl() {
   if (!DblEnabled() || CheckLimit()) return;
   AddCall(Call::Double());
-  state_.Doubled = true;
-  state_.Passes = 0;
-  state_.DblEnabled = false;
-  state_.RdbEnabled = true;
-  state_.OKEnabled = false;
+  state_.doubled = true;
+  state_.passes = 0;
+  state_.dblEnabled = false;
+  state_.rdbEnabled = true;
+  state_.okEnabled = false;
   Remember();
 }
 
 void AuctionEntry::CallRdb() {
   if (!RdbEnabled() || CheckLimit()) return;
   AddCall(Call::Redouble());
-  state_.Redoubled = true;
-  state_.Passes = 0;
-  state_.DblEnabled = state_.RdbEnabled = false;
-  state_.OKEnabled = false;
+  state_.redoubled = true;
+  state_.passes = 0;
+  state_.dblEnabled = state_.rdbEnabled = false;
+  state_.okEnabled = false;
   Remember();
 }
 
 bool AuctionEntry::Make(Call call) {
-  const int before = state_.CallsMade;
+  const int before = state_.callsMade;
   if (call.IsPass()) {
     pass();
   } else if (call.IsDouble()) {
@@ -146,13 +146,13 @@ bool AuctionEntry::Make(Call call) {
   } else {
     Bid(call.BidIndex());
   }
-  return state_.CallsMade > before;
+  return state_.callsMade > before;
 }
 
 void AuctionEntry::UnCall() {
   if (!UndoEnabled()) return;
   calls_.RemoveLast();
-  state_ = snapshots_.at(static_cast<std::size_t>(state_.CallsMade - 1));
+  state_ = snapshots_.at(static_cast<std::size_t>(state_.callsMade - 1));
 }
 
 void AuctionEntry::Clear() {
@@ -161,27 +161,27 @@ void AuctionEntry::Clear() {
 
 bool AuctionEntry::OK() {
   if (!OKEnabled()) return false;
-  const bool changed = !(calls_ == board_.Calls);
-  board_.Calls = calls_;
-  board_.PlayMode = false;
-  board_.HandChanged = board_.HandChanged || changed;
+  const bool changed = !(calls_ == board_.calls);
+  board_.calls = calls_;
+  board_.playMode = false;
+  board_.handChanged = board_.handChanged || changed;
   CommitContract();
   return true;
 }
 
 void AuctionEntry::CommitContract() {
-  board_.Contract.clear();
-  board_.ContractLevel = 0;
+  board_.contract.clear();
+  board_.contractLevel = 0;
   if (calls_.Count() == kPassesWithoutABid && calls_[0].IsPass()) {
-    board_.Contract = kAllPass;
-  } else if (state_.Strain) {
-    const BidStrain strain = *state_.Strain;
-    const std::string doubling = state_.Redoubled ? "xx" : state_.Doubled ? "x" : "";
-    board_.ContractLevel = state_.BidLevel;
-    board_.Contract = Call::Bid(state_.BidLevel, strain).Text() + doubling;
-    board_.Declarer =
-        state_.FirstNamer[SideOf(state_.BidderSeat)][strain].value_or(state_.BidderSeat);
-    board_.Trumps = ToStrain(strain);
+    board_.contract = kAllPass;
+  } else if (state_.strain) {
+    const BidStrain strain = *state_.strain;
+    const std::string doubling = state_.redoubled ? "xx" : state_.doubled ? "x" : "";
+    board_.contractLevel = state_.bidLevel;
+    board_.contract = Call::Bid(state_.bidLevel, strain).Text() + doubling;
+    board_.declarer =
+        state_.firstNamer[SideOf(state_.bidderSeat)][strain].value_or(state_.bidderSeat);
+    board_.trumps = ToStrain(strain);
   }
 }
 

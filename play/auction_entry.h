@@ -18,22 +18,22 @@ class AuctionEntry {
  public:
   /// What a call changes, and an undo brings back.
   struct State {
-    int CallIndex = 0;  ///< modulo 4: the seat to call, and the column of the last call (W N E S)
-    int CallsMade = 0;
-    int SideToDouble = 0;  ///< 0 before any bid; else the last bidder's opponents, 1 dealer's side
-    bool Doubled = false;
-    bool Redoubled = false;
-    int Passes = 0;                   ///< since the last bid, double or redouble
-    int LastBid = -1;                 ///< index of the last bid; -1 none; 35 when no bid can follow
-    int BidLevel = 0;                 ///< 1..7
-    std::optional<BidStrain> Strain;  ///< of the last bid (the dialog's BidStrain)
-    Seat BidderSeat = Seat::North;    ///< of the last bid
+    int callIndex = 0;  ///< modulo 4: the seat to call, and the column of the last call (W N E S)
+    int callsMade = 0;
+    int sideToDouble = 0;  ///< 0 before any bid; else the last bidder's opponents, 1 dealer's side
+    bool doubled = false;
+    bool redoubled = false;
+    int passes = 0;                   ///< since the last bid, double or redouble
+    int lastBid = -1;                 ///< index of the last bid; -1 none; 35 when no bid can follow
+    int bidLevel = 0;                 ///< 1..7
+    std::optional<BidStrain> strain;  ///< of the last bid (the dialog's BidStrain)
+    Seat bidderSeat = Seat::North;    ///< of the last bid
     /// The first player of each side to bid each strain.
-    PerSide<EnumArray<BidStrain, std::optional<Seat>, kStrains>> FirstNamer;
-    bool DblEnabled = false;
-    bool RdbEnabled = false;
-    bool PassEnabled = true;
-    bool OKEnabled = false;
+    PerSide<EnumArray<BidStrain, std::optional<Seat>, kStrains>> firstNamer;
+    bool dblEnabled = false;
+    bool rdbEnabled = false;
+    bool passEnabled = true;
+    bool okEnabled = false;
     friend bool operator==(const State&, const State&) = default;
   };
 
@@ -41,12 +41,12 @@ class AuctionEntry {
   AuctionEntry(Board& board, Host& host);
 
   // The buttons.
-  bool BidEnabled(int index) const { return index > state_.LastBid && index < Call::kBids; }
-  bool DblEnabled() const { return state_.DblEnabled; }
-  bool RdbEnabled() const { return state_.RdbEnabled; }
-  bool PassEnabled() const { return state_.PassEnabled; }
-  bool AllPassEnabled() const { return state_.PassEnabled; }
-  bool UndoEnabled() const { return state_.CallsMade > 0; }
+  bool BidEnabled(int index) const { return index > state_.lastBid && index < Call::kBids; }
+  bool DblEnabled() const { return state_.dblEnabled; }
+  bool RdbEnabled() const { return state_.rdbEnabled; }
+  bool PassEnabled() const { return state_.passEnabled; }
+  bool AllPassEnabled() const { return state_.passEnabled; }
+  bool UndoEnabled() const { return state_.callsMade > 0; }
   bool ClearEnabled() const { return UndoEnabled(); }
   /// The auction is complete; or it is empty and the board's is not, so that it can be taken away.
   bool OKEnabled() const;
@@ -74,8 +74,8 @@ class AuctionEntry {
   const CallList& Calls() const { return calls_; }
   const State& Now() const { return state_; }
   /// The player to call (`BidColour` marks it).
-  Seat ToCall() const { return static_cast<Seat>(static_cast<unsigned>(state_.CallIndex) & 3U); }
-  bool Over() const { return !state_.PassEnabled; }
+  Seat ToCall() const { return static_cast<Seat>(static_cast<unsigned>(state_.callIndex) & 3U); }
+  bool Over() const { return !state_.passEnabled; }
   /// No further call can be held; who tries is told.
   bool AtLimit() const;
 

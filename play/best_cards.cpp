@@ -3,15 +3,15 @@
 namespace tricklet {
 
 std::optional<SolverPosition> PositionOf(const PlayState& state, Strain trumps) {
-  if (!state.OnPlay) return std::nullopt;
+  if (!state.onPlay) return std::nullopt;
   SolverPosition position;
   position.trumps = trumps;
-  position.cardsLeft = state.CardsLeft;
+  position.cardsLeft = state.cardsLeft;
   position.leader =
-      static_cast<Seat>((IndexOf(*state.OnPlay) - state.CardsInTrick + kSeats) % kSeats);
+      static_cast<Seat>((IndexOf(*state.onPlay) - state.cardsInTrick + kSeats) % kSeats);
   Seat seat = position.leader;
-  for (int i = 0; i < state.CardsInTrick; ++i, seat = SeatAfter(seat)) {
-    if (const auto& card = state.TrickCards[seat]) position.trick.push_back(*card);
+  for (int i = 0; i < state.cardsInTrick; ++i, seat = SeatAfter(seat)) {
+    if (const auto& card = state.trickCards[seat]) position.trick.push_back(*card);
   }
   return position;
 }

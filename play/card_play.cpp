@@ -8,31 +8,31 @@
 namespace tricklet {
 
 bool CardPlay::NeedsAuction(const Board& board) {
-  return board.ContractLevel == 0;
+  return board.contractLevel == 0;
 }
 
 bool CardPlay::Start() {
-  if (board_.Contract == kAllPass) {
+  if (board_.contract == kAllPass) {
     host_.Tell("The bidding was All Pass");
     return false;
   }
-  if (board_.ContractLevel == 0 || !GetStats(board_.Hands).AllHandsComplete) return false;
+  if (board_.contractLevel == 0 || !GetStats(board_.hands).allHandsComplete) return false;
   timer_.Stop();
   state_ = PlayState();
-  state_.OnPlay = SeatAfter(board_.Declarer);
-  state_.CardsLeft = board_.Hands;
-  UndoTop_ = 0;
-  board_.PlayMode = true;
+  state_.onPlay = SeatAfter(board_.declarer);
+  state_.cardsLeft = board_.hands;
+  undoTop_ = 0;
+  board_.playMode = true;
   return true;
 }
 
 void CardPlay::Stop() {
   timer_.Stop();
-  board_.PlayMode = false;
+  board_.playMode = false;
 }
 
 bool CardPlay::EndForEditing() {
-  if (PlayMode() && UndoTop_ > 0 && state_.TricksPlayed < kTricks &&
+  if (PlayMode() && undoTop_ > 0 && state_.tricksPlayed < kTricks &&
       host_.Ask("Confirm that you wish to edit this hand", std::string(kProgramName),
                 Buttons::YesNo) != Answer::Yes) {
     return false;
@@ -42,8 +42,8 @@ bool CardPlay::EndForEditing() {
 }
 
 PerSuit<Holding> CardPlay::LegalCards() const {
-  if (!PlayMode() || !state_.OnPlay) return {};
-  return state_.LegalCards(state_.CardsLeft[*state_.OnPlay]);
+  if (!PlayMode() || !state_.onPlay) return {};
+  return state_.LegalCards(state_.cardsLeft[*state_.onPlay]);
 }
 
 bool CardPlay::IsLegal(Card card) const {
@@ -62,85 +62,85 @@ std::optional<Card> CardPlay::OnlyLegalCard() const {
 }
 
 bool CardPlay::Play(Card card) {
-  if (!PlayMode() || SeatHolding(state_.CardsLeft, card) < 0) return false;
-  const Seat onPlay = state_.OnPlay.value_or(Seat::North);
+  if (!PlayMode() || SeatHolding(state_.cardsLeft, card) < 0) return false;
+  const Seat onPlay = state_.onPlay.value_or(Seat::North);
   if (!IsLegal(card)) {
     host_.Beep();
     return false;
   }
-  undoRecords_.at(static_cast<std::size_t>(UndoTop_++)) = state_;
-  if (state_.CardsInTrick == 0 && state_.TricksPlayed > 0) QuitTrick();
+  undoRecords_.at(static_cast<std::size_t>(undoTop_++)) = state_;
+  if (state_.cardsInTrick == 0 && state_.tricksPlayed > 0) QuitTrick();
   PutOnTable(card, onPlay);
   return true;
 }
 
 void CardPlay::PutOnTable(Card card, Seat seat) {
-  state_.TrickGathered = false;
-  state_.TrickCards[seat] = card;
-  state_.CardsLeft[seat][card.suit].Remove(card.rank);
-  state_.Add(card, seat, board_.Trumps);
-  if (state_.CardsInTrick == kSeats) {
+  state_.trickGathered = false;
+  state_.trickCards[seat] = card;
+  state_.cardsLeft[seat][card.suit].Remove(card.rank);
+  state_.Add(card, seat, board_.trumps);
+  if (state_.cardsInTrick == kSeats) {
     FinishTrick();
   } else {
-    state_.OnPlay = SeatAfter(seat);
+    state_.onPlay = SeatAfter(seat);
   }
 }
 
 void CardPlay::WinTrick(Side side) {
-  state_.LastTrickSide = side;
-  ++state_.TricksWon[side];
-  state_.TrickSides.at(static_cast<std::size_t>(state_.TricksPlayed++)) = side;
+  state_.lastTrickSide = side;
+  ++state_.tricksWon[side];
+  state_.trickSides.at(static_cast<std::size_t>(state_.tricksPlayed++)) = side;
 }
 
 void CardPlay::FinishTrick() {
-  state_.CardsInTrick = 0;
-  state_.LastTrick = state_.TrickCards;
-  WinTrick(SideOf(state_.TrickWinner));
-  state_.OnPlay = state_.TrickWinner;
-  if (state_.TricksPlayed == kTricks) state_.OnPlay.reset();
+  state_.cardsInTrick = 0;
+  state_.lastTrick = state_.trickCards;
+  WinTrick(SideOf(state_.trickWinner));
+  state_.onPlay = state_.trickWinner;
+  if (state_.tricksPlayed == kTricks) state_.onPlay.reset();
   timer_.Start(kTrickDelay);
 }
 
 void CardPlay::QuitTrick() {
   timer_.Stop();
-  if (!PlayMode() || state_.CardsInTrick != 0) return;
-  state_.TrickCards.fill(std::nullopt);
-  state_.TrickGathered = true;
+  if (!PlayMode() || state_.cardsInTrick != 0) return;
+  state_.trickCards.fill(std::nullopt);
+  state_.trickGathered = true;
 }
 
 void CardPlay::Undo() {
   if (!UndoEnabled()) return;
   timer_.Stop();
-  state_ = undoRecords_.at(static_cast<std::size_t>(--UndoTop_));
-  if (state_.CardsInTrick == 0 && state_.TricksPlayed > 0) {
+  state_ = undoRecords_.at(static_cast<std::size_t>(--undoTop_));
+  if (state_.cardsInTrick == 0 && state_.tricksPlayed > 0) {
     // Before a lead the trick before it lies on the table again, even if it had been gathered.
-    state_.TrickCards = state_.LastTrick;
-    state_.TrickGathered = false;
+    state_.trickCards = state_.lastTrick;
+    state_.trickGathered = false;
   }
 }
 
 std::string CardPlay::ClaimCaption() const {
-  return state_.OnPlay ? "Claim by " + std::string(SeatName[*state_.OnPlay]) : "Claim";
+  return state_.onPlay ? "Claim by " + std::string(SeatName[*state_.onPlay]) : "Claim";
 }
 
 void CardPlay::Claim() {
-  if (!PlayMode() || !state_.OnPlay) return;
-  const Side side = SideOf(*state_.OnPlay);
+  if (!PlayMode() || !state_.onPlay) return;
+  const Side side = SideOf(*state_.onPlay);
   timer_.Stop();
-  state_.TrickCards.fill(std::nullopt);
-  state_.CardsInTrick = 0;
-  state_.TrickGathered = true;
-  while (state_.TricksPlayed < kTricks) WinTrick(side);
-  state_.OnPlay.reset();
-  state_.Claimed = true;
+  state_.trickCards.fill(std::nullopt);
+  state_.cardsInTrick = 0;
+  state_.trickGathered = true;
+  while (state_.tricksPlayed < kTricks) WinTrick(side);
+  state_.onPlay.reset();
+  state_.claimed = true;
 }
 
 std::string CardPlay::TricksText(Side side) const {
-  return (side == Side::NorthSouth ? "NS: " : "EW: ") + std::to_string(state_.TricksWon[side]);
+  return (side == Side::NorthSouth ? "NS: " : "EW: ") + std::to_string(state_.tricksWon[side]);
 }
 
 std::string CardPlay::ScoreText() const {
-  return Finished() ? ResultLine(board_, state_.TricksWon[SideOf(board_.Declarer)]) : "";
+  return Finished() ? ResultLine(board_, state_.tricksWon[SideOf(board_.declarer)]) : "";
 }
 
 }  // namespace tricklet

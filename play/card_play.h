@@ -38,21 +38,21 @@ inline constexpr int kTricks = 13;
 
 /// The state of the play: a value, so that an undo record is a copy of it.
 struct PlayState : Trick {
-  std::optional<Seat> OnPlay;  ///< nobody after a claim and after the last trick
-  Side LastTrickSide = Side::NorthSouth;
-  int TricksPlayed = 0;                     ///< 0..13
-  PerSeat<std::optional<Card>> TrickCards;  ///< on the table
-  PerSeat<std::optional<Card>> LastTrick;   ///< the last complete trick, gathered or not
-  PerSide<int> TricksWon;
-  /// The side that won each trick so far, in order; `TricksPlayed` of them.
-  std::array<Side, kTricks> TrickSides{};
-  HandTable CardsLeft;        ///< cards still in the hands
-  bool TrickGathered = true;  ///< the last trick has been cleared from the table
-  bool Claimed = false;
+  std::optional<Seat> onPlay;  ///< nobody after a claim and after the last trick
+  Side lastTrickSide = Side::NorthSouth;
+  int tricksPlayed = 0;                     ///< 0..13
+  PerSeat<std::optional<Card>> trickCards;  ///< on the table
+  PerSeat<std::optional<Card>> lastTrick;   ///< the last complete trick, gathered or not
+  PerSide<int> tricksWon;
+  /// The side that won each trick so far, in order; `tricksPlayed` of them.
+  std::array<Side, kTricks> trickSides{};
+  HandTable cardsLeft;        ///< cards still in the hands
+  bool trickGathered = true;  ///< the last trick has been cleared from the table
+  bool claimed = false;
   friend bool operator==(const PlayState&, const PlayState&) = default;
 };
 
-/// The play of the board in hand. It is on exactly while the board's `PlayMode` is set: loading
+/// The play of the board in hand. It is on exactly while the board's `playMode` is set: loading
 /// another board, clearing it or confirming an auction ends it without further ado.
 class CardPlay {
  public:
@@ -72,7 +72,7 @@ class CardPlay {
   /// and others not. False when the person wants to play on.
   bool EndForEditing();
 
-  bool PlayMode() const { return board_.PlayMode; }
+  bool PlayMode() const { return board_.playMode; }
   const PlayState& Now() const { return state_; }
 
   /// `seat` may play `card` now: it is on play, holds it, and follows suit if it can.
@@ -91,25 +91,25 @@ class CardPlay {
   /// Gathers the finished trick from the table.
   void QuitTrick();
 
-  bool UndoEnabled() const { return PlayMode() && UndoTop_ > 0 && !state_.Claimed; }
+  bool UndoEnabled() const { return PlayMode() && undoTop_ > 0 && !state_.claimed; }
   /// Takes back the last card.
   void Undo();
 
-  bool ClaimEnabled() const { return PlayMode() && state_.OnPlay.has_value(); }
+  bool ClaimEnabled() const { return PlayMode() && state_.onPlay.has_value(); }
   /// "Claim by South".
   std::string ClaimCaption() const;
   /// The side on play takes all tricks that are left.
   void Claim();
 
   /// 13 tricks are played or claimed.
-  bool Finished() const { return PlayMode() && state_.TricksPlayed == kTricks; }
+  bool Finished() const { return PlayMode() && state_.tricksPlayed == kTricks; }
   /// "NS: 4" and "EW: 2".
   std::string TricksText(Side side) const;
   /// The result line; empty while the play goes on.
   std::string ScoreText() const;
 
   /// Cards played so far: how often `Undo` can be called.
-  int UndoTop() const { return UndoTop_; }
+  int UndoTop() const { return undoTop_; }
 
  private:
   void PutOnTable(Card card, Seat seat);
@@ -120,7 +120,7 @@ class CardPlay {
   Host& host_;
   TrickTimer& timer_;
   PlayState state_;
-  int UndoTop_ = 0;
+  int undoTop_ = 0;
   std::array<PlayState, kCardsInPack> undoRecords_{};  // the state before each card
 };
 

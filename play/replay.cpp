@@ -9,17 +9,17 @@ namespace tricklet {
 namespace {
 
 bool CanBePlayed(const RecordedPlay& record) {
-  return record.Board.ContractLevel > 0 && !record.Cards.empty() &&
-         GetStats(record.Board.Hands).AllHandsComplete;
+  return record.board.contractLevel > 0 && !record.cards.empty() &&
+         GetStats(record.board.hands).allHandsComplete;
 }
 
 }  // namespace
 
 Replay::Replay(RecordedPlay record, Host& host)
-    : record_(std::move(record)), play_(record_.Board, host, timer_) {
-  record_.Board.PlayMode = false;
+    : record_(std::move(record)), play_(record_.board, host, timer_) {
+  record_.board.playMode = false;
   if (!CanBePlayed(record_) || !play_.Start()) return;
-  for (const Card card : record_.Cards) {
+  for (const Card card : record_.cards) {
     if (!play_.IsLegal(card)) break;
     play_.Play(card);
   }
@@ -28,7 +28,7 @@ Replay::Replay(RecordedPlay record, Host& host)
 }
 
 void Replay::Forward() {
-  if (ForwardEnabled()) play_.Play(record_.Cards.at(static_cast<std::size_t>(Shown())));
+  if (ForwardEnabled()) play_.Play(record_.cards.at(static_cast<std::size_t>(Shown())));
 }
 
 void Replay::Back() {
@@ -38,17 +38,17 @@ void Replay::Back() {
 void Replay::NextTrick() {
   do {
     Forward();
-  } while (ForwardEnabled() && play_.Now().CardsInTrick != 0);
+  } while (ForwardEnabled() && play_.Now().cardsInTrick != 0);
 }
 
 void Replay::PreviousTrick() {
   do {
     Back();
-  } while (BackEnabled() && play_.Now().CardsInTrick != 0);
+  } while (BackEnabled() && play_.Now().cardsInTrick != 0);
 }
 
 bool Replay::Follow(Card card) {
-  if (!ForwardEnabled() || record_.Cards.at(static_cast<std::size_t>(Shown())) != card) {
+  if (!ForwardEnabled() || record_.cards.at(static_cast<std::size_t>(Shown())) != card) {
     return false;
   }
   Forward();
@@ -57,9 +57,9 @@ bool Replay::Follow(Card card) {
 
 std::string Replay::EndText() const {
   if (play_.Finished()) return "";
-  const Seat onPlay = play_.Now().OnPlay.value_or(Seat::North);
-  if (playable_ < static_cast<int>(record_.Cards.size())) {
-    const Card card = record_.Cards.at(static_cast<std::size_t>(playable_));
+  const Seat onPlay = play_.Now().onPlay.value_or(Seat::North);
+  if (playable_ < static_cast<int>(record_.cards.size())) {
+    const Card card = record_.cards.at(static_cast<std::size_t>(playable_));
     return "the record ends here, as " + std::string(SeatName[onPlay]) + " cannot play " +
            CardText(card);
   }
@@ -67,11 +67,11 @@ std::string Replay::EndText() const {
 }
 
 std::string Replay::PlaceText() const {
-  if (record_.Board.Contract == kAllPass) return "Passed out";
-  if (record_.Cards.empty()) return "The play was not recorded";
+  if (record_.board.contract == kAllPass) return "Passed out";
+  if (record_.cards.empty()) return "The play was not recorded";
   if (!play_.PlayMode()) return "The record cannot be played: it lacks the deal or the contract";
   std::string text =
-      "Card " + std::to_string(Shown()) + " of " + std::to_string(record_.Cards.size());
+      "Card " + std::to_string(Shown()) + " of " + std::to_string(record_.cards.size());
   const std::string end = ForwardEnabled() ? "" : EndText();
   return end.empty() ? text : text + ": " + end;
 }
@@ -79,9 +79,9 @@ std::string Replay::PlaceText() const {
 std::string Replay::ScoreText() const {
   if (play_.PlayMode() && ForwardEnabled()) return "";
   if (play_.Finished()) return play_.ScoreText();
-  if (record_.Board.Contract == kAllPass) return ResultLine(record_.Board, 0);
-  if (record_.Board.ContractLevel == 0 || !record_.Tricks) return "";
-  return ResultLine(record_.Board, *record_.Tricks);
+  if (record_.board.contract == kAllPass) return ResultLine(record_.board, 0);
+  if (record_.board.contractLevel == 0 || !record_.tricks) return "";
+  return ResultLine(record_.board, *record_.tricks);
 }
 
 }  // namespace tricklet

@@ -19,7 +19,7 @@ class Replay {
   Replay& operator=(const Replay&) = delete;
 
   const RecordedPlay& Record() const { return record_; }
-  /// The play up to here; its `PlayMode` is off where the record lacks what a play needs.
+  /// The play up to here; its `playMode` is off where the record lacks what a play needs.
   const CardPlay& Play() const { return play_; }
 
   bool ForwardEnabled() const { return Shown() < playable_; }

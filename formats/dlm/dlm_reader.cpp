@@ -68,8 +68,8 @@ class DlmReader {
 
   void StoreBoard(int number, std::string_view letters) {
     Board board;
-    board.BoardNumber = number;
-    board.Hands = DecodeDLMDeal(letters);
+    board.boardNumber = number;
+    board.hands = DecodeDLMDeal(letters);
     sink_.Store(board);
     ++result_.boardsSaved;
     result_.firstBoard = result_.firstBoard == 0 ? number : std::min(result_.firstBoard, number);

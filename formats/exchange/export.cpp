@@ -41,7 +41,7 @@ struct ExportRun {
 /// notes, or when the run was cancelled.
 bool LoadForExport(Session& session, const ExportRange& range, int number, ExportRun& run,
                    Board& board) {
-  board.BoardNumber = number;
+  board.boardNumber = number;
   bool complete = false;
   LoadHandBasic(session, board, complete);
   if (!session.host.Step("Exporting board " + std::to_string(number), number - range.first,
@@ -54,7 +54,7 @@ bool LoadForExport(Session& session, const ExportRange& range, int number, Expor
 }
 
 void CollectPBN(Session& session, const ExportRange& range, ExportRun& run) {
-  const PbnOptions options{session.settings.PBNBids, session.settings.PBNShark};
+  const PbnOptions options{session.settings.pbnBids, session.settings.pbnShark};
   Board board;
   for (int number = range.first; number <= range.last; ++number) {
     const bool complete = LoadForExport(session, range, number, run, board);
@@ -73,7 +73,7 @@ void CollectDLM(Session& session, const ExportRange& range, ExportRun& run) {
     if (number < range.first || number > range.last) {
       run.text += DLMPlaceholderLine(number);
     } else if (LoadForExport(session, range, number, run, board)) {
-      run.text += DLMBoardLine(number, board.Hands);
+      run.text += DLMBoardLine(number, board.hands);
     }
     if (run.cancelled) break;
   }
@@ -119,8 +119,8 @@ Collector CollectorOf(const std::string& type) {
 /// All missing tables together take the solver's batches; one by one they would not. False when
 /// it was cancelled.
 bool AddMissingTables(Session& session, const ExportRange& range) {
-  if (!session.settings.AutoMakeable || !session.GetSolver) return true;
-  if (!AnalyseBoards(session, session.GetSolver(), range.first, range.last, false).cancelled) {
+  if (!session.settings.autoMakeable || !session.getSolver) return true;
+  if (!AnalyseBoards(session, session.getSolver(), range.first, range.last, false).cancelled) {
     return true;
   }
   session.host.Tell("Export cancelled");
@@ -155,7 +155,7 @@ const std::vector<std::string>& ExportTypes() {
 
 bool HasHandsToExport(Session& session) {
   CountHands(session);
-  if (session.library.BoardCount > 0) return true;
+  if (session.library.boardCount > 0) return true;
   session.host.Tell("There are no hands to export");
   return false;
 }
@@ -178,7 +178,7 @@ bool CheckExportRange(Session& session, const ExportRange& range) {
   int missing = 0;
   std::string list;
   for (int number = range.first; number <= range.last; ++number) {
-    if (session.library.BoardPresent.at(static_cast<std::size_t>(number))) continue;
+    if (session.library.boardPresent.at(static_cast<std::size_t>(number))) continue;
     ++missing;
     if (!list.empty()) list += ", ";
     list += std::to_string(number);

@@ -22,17 +22,17 @@ namespace fs = std::filesystem;
 
 /// Two rooms play a match; tables of one room are compared by match points.
 void SetScoring(LinFile& results) {
-  const bool match = std::any_of(results.Lin.begin(), results.Lin.end(),
+  const bool match = std::any_of(results.lin.begin(), results.lin.end(),
                                  [](const std::string& line) { return line.starts_with("qx|c"); });
-  results.BoardScoringMethod = match ? "IMPS" : "MATCH_POINTS";
-  results.BoardScoringAbb = match ? "IMP" : "MP";
+  results.boardScoringMethod = match ? "IMPS" : "MATCH_POINTS";
+  results.boardScoringAbb = match ? "IMP" : "MP";
 }
 
 /// Without the records of the boards that `stored` has records of.
 void LeaveOutStored(LinFile& results, const std::vector<std::string>& stored) {
   std::set<int> boards;
   for (const std::string& record : stored) boards.insert(BoardNumberOfLin(record));
-  std::erase_if(results.Lin, [&boards](const std::string& record) {
+  std::erase_if(results.lin, [&boards](const std::string& record) {
     return boards.contains(BoardNumberOfLin(record));
   });
 }
@@ -44,9 +44,9 @@ void KeepRecords(const Session& session, std::vector<std::string> records) {
   LinFile results = LoadLinData(session);
   LeaveOutStored(results, records);
   if (results.Empty()) results = LinFile();
-  results.Lin.insert(results.Lin.end(), std::move_iterator(records.begin()),
+  results.lin.insert(results.lin.end(), std::move_iterator(records.begin()),
                      std::move_iterator(records.end()));
-  if (results.BoardScoringMethod.empty()) SetScoring(results);
+  if (results.boardScoringMethod.empty()) SetScoring(results);
   StoreLinData(session, results);
 }
 

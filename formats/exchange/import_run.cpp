@@ -31,7 +31,7 @@ class LibrarySink : public BoardSink {
     session_.board = board;
     StoreBoard(session_);
     if (firstStored_ != 0) return;
-    firstStored_ = board.BoardNumber;
+    firstStored_ = board.boardNumber;
     if (recyclesResults_) RecycleLinData(session_);  // the import does not depend on it
   }
   bool Begin(int boardNumber, int done, int total) override {
@@ -88,7 +88,7 @@ std::string LeftOutText(const ReadResult& result) {
 
 bool MayOverwriteLibrary(Session& session) {
   CountHands(session);
-  if (session.library.BoardCount == 0) return true;
+  if (session.library.boardCount == 0) return true;
   return session.host.Ask("Overwrite existing hands in library " + session.LibraryName() + "?",
                           "Hands already in library", Buttons::YesNo) == Answer::Yes;
 }
@@ -100,7 +100,7 @@ bool RunReader(Session& session, std::string text, const RecordReader& reader, L
     const WorkScope work(session.host);
     const BatchScope batch(session);
     const TextReader& read =
-        std::visit([](const auto& kind) -> const TextReader& { return kind.Read; }, reader);
+        std::visit([](const auto& kind) -> const TextReader& { return kind.read; }, reader);
     result = read(std::move(text), sink);
     return true;
   } catch (const std::exception& failure) {
@@ -128,10 +128,10 @@ bool MayImport(Session& session) {
 
 ImportOutcome StoreText(Session& session, std::string text, const std::string& unreadable,
                         const RecordReader& reader) {
-  const int boardBefore = session.board.BoardNumber;
+  const int boardBefore = session.board.boardNumber;
   ReadResult result;
   LibrarySink sink(session, std::holds_alternative<DealReader>(reader));
-  session.board.HandChanged = false;
+  session.board.handChanged = false;
   if (!RunReader(session, std::move(text), reader, sink, result)) {
     return TellUnreadable(session, unreadable, boardBefore);
   }
@@ -150,7 +150,7 @@ ImportOutcome StoreFile(Session& session, const fs::path& path, const RecordRead
   try {
     text = ReadWholeFile(path, kMaxHandRecordBytes);
   } catch (const Fault&) {
-    return TellUnreadable(session, unreadable, session.board.BoardNumber);
+    return TellUnreadable(session, unreadable, session.board.boardNumber);
   }
   return StoreText(session, std::move(text), unreadable, reader);
 }

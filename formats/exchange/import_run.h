@@ -19,13 +19,13 @@ using TextReader = std::function<ReadResult(std::string text, BoardSink& sink)>;
 /// Reads deals alone. The results that the library keeps are of the deals that it replaces, so
 /// "LIN.txt" goes to the recycle bin when the first board is stored.
 struct DealReader {
-  TextReader Read;
+  TextReader read;
 };
 
 /// Reads deals with their results, and puts them into "LIN.txt" when its boards are stored: the old
 /// file stays until then and is replaced whole, so that there is always one of the two.
 struct ResultsReader {
-  TextReader Read;
+  TextReader read;
 };
 
 using RecordReader = std::variant<DealReader, ResultsReader>;

@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 /// Results of boards that were not stored would stand beside older deals of the same numbers, so
 /// they are left out.
 void LeaveOutAbove(LinFile& results, int lastBoard) {
-  std::erase_if(results.Lin, [lastBoard](const std::string& record) {
+  std::erase_if(results.lin, [lastBoard](const std::string& record) {
     return BoardNumberOfLin(record) > lastBoard;
   });
 }

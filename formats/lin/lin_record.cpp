@@ -193,7 +193,7 @@ LinRecord ParseLinRecord(std::string_view text) {
 bool CanBeDealt(const LinRecord& record) {
   return record.hasDeal && !record.repeatsCard &&
          std::all_of(kAllSeats.begin(), kAllSeats.end(),
-                     [counts = GetStats(record.hands).SeatCardCount](Seat seat) {
+                     [counts = GetStats(record.hands).seatCardCount](Seat seat) {
                        return counts[seat] <= kCardsInHand;
                      });
 }
@@ -204,9 +204,9 @@ bool HasForeignDealer(const LinRecord& record) {
 
 Board BoardOfLinRecord(const LinRecord& record) {
   Board board;
-  board.BoardNumber = record.boardNumber;
-  board.Hands = record.hands;
-  for (const Call call : record.calls) board.Calls.Add(call);
+  board.boardNumber = record.boardNumber;
+  board.hands = record.hands;
+  for (const Call call : record.calls) board.calls.Add(call);
   GetContract(board);
   return board;
 }

@@ -22,10 +22,10 @@ int DealerDigit(Seat dealer) {
 
 std::string LinRecordLine(const Board& board) {
   constexpr EnumArray<Vulnerability, std::string_view, 4> kVulnerable{{"0", "N", "E", "B"}};
-  const std::string number = std::to_string(board.BoardNumber);
+  const std::string number = std::to_string(board.boardNumber);
   std::string text = "qx|o" + number + "|md|" + std::to_string(DealerDigit(board.Dealer()));
-  text += HandText(board.Hands[Seat::South]) + "," + HandText(board.Hands[Seat::West]) + "," +
-          HandText(board.Hands[Seat::North]);
+  text += HandText(board.hands[Seat::South]) + "," + HandText(board.hands[Seat::West]) + "," +
+          HandText(board.hands[Seat::North]);
   text += "|rh||ah|Board " + number + "|sv|";
   text += kVulnerable[board.Vulnerability()];
   return text + "|pg||\r\n";

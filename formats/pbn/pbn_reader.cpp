@@ -68,10 +68,10 @@ void ReadOptimumResultTable(PbnLines& lines, Board& board) {
   std::int16_t lastTricks = 0;
   for (int row = 0; row < kTableRows; ++row) {
     lines.ReadNextLine();
-    lastTricks = ReadTableRow(lines.Line(), board.Makeable);
+    lastTricks = ReadTableRow(lines.Line(), board.makeable);
   }
   // Writers that have no table write twenty zeros or question marks.
-  board.MakeableValid = lastTricks != 0 && IsPossible(board.Makeable);
+  board.makeableValid = lastTricks != 0 && IsPossible(board.makeable);
 }
 
 void ReadDoubleDummyTricks(std::string_view line, Board& board) {
@@ -86,8 +86,8 @@ void ReadDoubleDummyTricks(std::string_view line, Board& board) {
       table[declarer][strain] = static_cast<std::int16_t>(PositionIn("0123456789ABCD", *digit++));
     }
   }
-  board.Makeable = table;
-  board.MakeableValid = true;
+  board.makeable = table;
+  board.makeableValid = true;
 }
 
 /// Reads one file. The board in hand has number 0 until the first Board tag, so nothing is stored
@@ -95,7 +95,7 @@ void ReadDoubleDummyTricks(std::string_view line, Board& board) {
 class PbnReader {
  public:
   PbnReader(std::string_view text, BoardSink& sink) : lines_(text), sink_(sink) {
-    board_.BoardNumber = 0;
+    board_.boardNumber = 0;
   }
 
   ReadResult Read() {
@@ -121,13 +121,13 @@ class PbnReader {
     if (tag.starts_with("[BOARD ")) {
       BeginBoard(LeadingNumber(TagValue(line)));
     } else if (tag.starts_with("[DEAL ")) {
-      ReadDeal(line, board_.Hands);
+      ReadDeal(line, board_.hands);
     } else if (tag.starts_with("[OPTIMUMRESULTTABLE ")) {
       ReadOptimumResultTable(lines_, board_);
     } else if (tag.starts_with("[DOUBLEDUMMYTRICKS ")) {
       ReadDoubleDummyTricks(line, board_);
     } else if (tag.starts_with("[AUCTION ")) {
-      ReadAuction(lines_, board_.Calls);
+      ReadAuction(lines_, board_.calls);
       return;  // it has moved on to the line that ended it
     }
     lines_.ReadNextLine();
@@ -141,13 +141,13 @@ class PbnReader {
     }
     if (result_.firstBoard == 0) result_.firstBoard = number;
     result_.lastBoard = std::max(result_.lastBoard, number);
-    board_.BoardNumber = number;
-    board_.Calls.Clear();
-    board_.MakeableValid = false;
+    board_.boardNumber = number;
+    board_.calls.Clear();
+    board_.makeableValid = false;
   }
 
   void StoreBoardInHand() {
-    if (!IsStorable(board_.BoardNumber)) return;
+    if (!IsStorable(board_.boardNumber)) return;
     GetContract(board_);
     sink_.Store(board_);
     ++result_.boardsSaved;

@@ -46,7 +46,7 @@ std::string PbnCall(Call call) {
 void AppendAuction(std::string& text, const Board& board) {
   AppendTag(text, "Auction", SeatName[board.Dealer()].substr(0, 1));
   for (int i = 0; i < board.NumCalls(); ++i) {
-    text += PbnCall(board.Calls[i]);
+    text += PbnCall(board.calls[i]);
     text += ' ';
     if (i % kSeats == kSeats - 1 || i == board.NumCalls() - 1) text += kLineEnd;
   }
@@ -74,15 +74,15 @@ std::string PbnRecord(const Board& board, std::string_view libraryName, PbnOptio
   AppendTag(text, "Description",
             std::string(kProgramName) + " " + std::to_string(kVersionMajor) + "." +
                 std::to_string(kVersionMinor) + " - " + Utf8ToLatin1(libraryName));
-  AppendTag(text, "Board", std::to_string(board.BoardNumber));
+  AppendTag(text, "Board", std::to_string(board.boardNumber));
   AppendTag(text, "Dealer", SeatName[board.Dealer()].substr(0, 1));
   AppendTag(text, "Vulnerable", PBNVul[board.Vulnerability()]);
-  AppendTag(text, "Deal", DealText(board.Hands));
+  AppendTag(text, "Deal", DealText(board.hands));
   if (options.bids && board.NumCalls() > 0) AppendAuction(text, board);
-  if (board.MakeableValid) AppendTable(text, board.Makeable);
+  if (board.makeableValid) AppendTable(text, board.makeable);
   if (options.shark) {
     AppendTag(text, "Result", "0");
-    text += "{\r\nBoard " + std::to_string(board.BoardNumber) + "\r\n}\r\n";
+    text += "{\r\nBoard " + std::to_string(board.boardNumber) + "\r\n}\r\n";
   }
   return text;
 }

@@ -21,7 +21,7 @@ enum class DealRank : std::uint8_t { None, Any, Possible, Complete };
 DealRank RankOf(const LinRecord& record) {
   if (!record.hasDeal) return DealRank::None;
   if (!CanBeDealt(record)) return DealRank::Any;
-  return GetStats(record.hands).AllHandsComplete ? DealRank::Complete : DealRank::Possible;
+  return GetStats(record.hands).allHandsComplete ? DealRank::Complete : DealRank::Possible;
 }
 
 /// A record, and what there is of the deal in it.
@@ -34,7 +34,7 @@ struct RankedRecord {
 /// that can be right, else one at all.
 std::map<int, RankedRecord> RecordsOf(const LinFile& data, int firstBoard, int lastBoard) {
   std::map<int, RankedRecord> records;
-  for (const std::string& text : data.Lin) {
+  for (const std::string& text : data.lin) {
     const int number = BoardNumberOfLin(text);
     if (!IsStorable(number) || number < firstBoard || number > lastBoard) continue;
     const auto known = records.find(number);
@@ -104,7 +104,7 @@ void ReadLinCards(const LinFile& data, int firstBoard, int lastBoard, BoardSink&
   const std::vector<LinBoard> boards = ReadBoards(data, firstBoard, lastBoard);
   const int total = static_cast<int>(boards.size());
   for (const LinBoard& read : boards) {
-    const int number = read.board.BoardNumber;
+    const int number = read.board.boardNumber;
     if (!sink.Begin(number, result.boardsSaved * kWholeText / total, kWholeText)) {
       result.cancelled = true;
       return;

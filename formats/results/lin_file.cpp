@@ -100,26 +100,26 @@ class LinFileParser {
  private:
   void TakeValue(std::string_view header, std::string value) {
     if (EqualNoCase(header, "[lin]")) {
-      data_.Lin.push_back(std::move(value));
+      data_.lin.push_back(std::move(value));
     } else if (EqualNoCase(header, "[names]")) {
-      data_.Names.push_back(std::move(value));
+      data_.names.push_back(std::move(value));
     } else if (EqualNoCase(header, "[boardscoringmethod]") ||
                EqualNoCase(header, "[boardscoring]")) {
-      data_.BoardScoringMethod = std::move(value);
+      data_.boardScoringMethod = std::move(value);
     } else if (EqualNoCase(header, "[boardscoringabb]")) {
-      data_.BoardScoringAbb = std::move(value);
+      data_.boardScoringAbb = std::move(value);
     } else if (EqualNoCase(header, "[teams]")) {
-      Teams().Teams.push_back(std::move(value));
+      Teams().teams.push_back(std::move(value));
     } else if (EqualNoCase(header, "[teamsscoringmethod]")) {
-      Teams().TeamScoringMethod = std::move(value);
+      Teams().teamScoringMethod = std::move(value);
     } else if (EqualNoCase(header, "[teamscoringabb]")) {
-      Teams().TeamScoringAbb = std::move(value);
+      Teams().teamScoringAbb = std::move(value);
     }
   }
 
   LinTeams& Teams() {
-    if (!data_.TeamEvent) data_.TeamEvent.emplace();
-    return *data_.TeamEvent;
+    if (!data_.teamEvent) data_.teamEvent.emplace();
+    return *data_.teamEvent;
   }
 
   LinFile data_;
@@ -130,16 +130,16 @@ class LinFileParser {
 std::string LinFileText(const LinFile& data) {
   constexpr std::size_t kHeaders = 1024;
   std::string text;
-  text.reserve(kHeaders + LinesLength(data.Names) + LinesLength(data.Lin));
-  AppendValue(text, "[BoardScoringMethod]", data.BoardScoringMethod);
-  AppendValue(text, "[BoardScoringAbb]", data.BoardScoringAbb);
-  if (data.TeamEvent) {
-    AppendLines(text, "[Teams]", data.TeamEvent->Teams);
-    AppendValue(text, "[TeamScoringMethod]", data.TeamEvent->TeamScoringMethod);
-    AppendValue(text, "[TeamScoringAbb]", data.TeamEvent->TeamScoringAbb);
+  text.reserve(kHeaders + LinesLength(data.names) + LinesLength(data.lin));
+  AppendValue(text, "[BoardScoringMethod]", data.boardScoringMethod);
+  AppendValue(text, "[BoardScoringAbb]", data.boardScoringAbb);
+  if (data.teamEvent) {
+    AppendLines(text, "[Teams]", data.teamEvent->teams);
+    AppendValue(text, "[TeamScoringMethod]", data.teamEvent->teamScoringMethod);
+    AppendValue(text, "[TeamScoringAbb]", data.teamEvent->teamScoringAbb);
   }
-  AppendLines(text, "[Names]", data.Names);
-  AppendLines(text, "[LIN]", data.Lin);
+  AppendLines(text, "[Names]", data.names);
+  AppendLines(text, "[LIN]", data.lin);
   return text;
 }
 

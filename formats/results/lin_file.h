@@ -34,23 +34,23 @@ inline constexpr std::size_t kMaxLinFileBytes = std::size_t{128} * 1024 * 1024;
 
 /// What a team event has beside a pairs event.
 struct LinTeams {
-  std::vector<std::string> Teams;  ///< a line per team
-  std::string TeamScoringMethod;
-  std::string TeamScoringAbb;
+  std::vector<std::string> teams;  ///< a line per team
+  std::string teamScoringMethod;
+  std::string teamScoringAbb;
   friend bool operator==(const LinTeams&, const LinTeams&) = default;
 };
 
 /// "LIN.txt" in memory. All text is UTF-8.
 struct LinFile {
-  std::string BoardScoringMethod;
-  std::string BoardScoringAbb;
-  std::optional<LinTeams> TeamEvent;
-  std::vector<std::string> Names;  ///< a line per pair
-  std::vector<std::string> Lin;    ///< a record per traveller line
+  std::string boardScoringMethod;
+  std::string boardScoringAbb;
+  std::optional<LinTeams> teamEvent;
+  std::vector<std::string> names;  ///< a line per pair
+  std::vector<std::string> lin;    ///< a record per traveller line
   friend bool operator==(const LinFile&, const LinFile&) = default;
 
   /// There is nothing to show.
-  bool Empty() const { return Lin.empty(); }
+  bool Empty() const { return lin.empty(); }
 };
 
 /// The text of the file. Line ends and control characters inside a value become blanks, and a value

@@ -65,17 +65,17 @@ std::optional<Card> CardOf(std::string_view text) {
 /// auction, or one that another than the board's dealer began, the scorer's contract stands in.
 Board BoardOf(const LinRecord& record, int boardNumber) {
   Board board;
-  board.BoardNumber = boardNumber;
-  board.Hands = record.hands;
+  board.boardNumber = boardNumber;
+  board.hands = record.hands;
   const bool foreign = record.dealer && *record.dealer != board.Dealer();
   for (const Call call : record.calls) {
-    if (!foreign && !board.Calls.Full()) board.Calls.Add(call);
+    if (!foreign && !board.calls.Full()) board.calls.Add(call);
   }
   GetContract(board);
   const auto declarer = SeatOf(Result(record, LinResultTag::Qend));
-  if (board.Contract.empty() && declarer &&
+  if (board.contract.empty() && declarer &&
       SetContract(board, Result(record, LinResultTag::Qenc))) {
-    board.Declarer = *declarer;
+    board.declarer = *declarer;
   }
   return board;
 }
@@ -95,58 +95,58 @@ bool IsAdjusted(const LinRecord& record) {
 /// Contract and declarer, the scorer's before the auction's. Returns what `ScoreContract` needs.
 Board ReadContractOf(const LinRecord& record, TravellerRow& row) {
   Board scored;
-  scored.BoardNumber = row.Record.Board.BoardNumber;
+  scored.boardNumber = row.record.board.boardNumber;
   const std::string& contract = Result(record, LinResultTag::Qenc);
   if (SaysPassedOut(contract)) {
-    scored.Contract = kAllPass;
+    scored.contract = kAllPass;
   } else if (SetContract(scored, contract)) {
     const auto declarer = SeatOf(Result(record, LinResultTag::Qend));
-    row.Declarer = declarer ? declarer : row.Record.Board.Declarer;
+    row.declarer = declarer ? declarer : row.record.board.declarer;
   } else if (contract.empty() && !IsAdjusted(record)) {
-    scored = row.Record.Board;
-    if (scored.ContractLevel > 0) row.Declarer = scored.Declarer;
+    scored = row.record.board;
+    if (scored.contractLevel > 0) row.declarer = scored.declarer;
   }
-  if (row.Declarer) scored.Declarer = *row.Declarer;
-  row.Contract = scored.Contract;
+  if (row.declarer) scored.declarer = *row.declarer;
+  row.contract = scored.contract;
   return scored;
 }
 
 /// Of a contract: the scorer's tricks before those of the record, which ends with a claim or with
 /// the last card.
 void ReadTricks(const LinRecord& record, Board scored, TravellerRow& row) {
-  if (!row.Declarer) return;
-  row.Tricks = TricksOf(Result(record, LinResultTag::Qent));
-  if (row.Tricks || IsAdjusted(record)) return;
+  if (!row.declarer) return;
+  row.tricks = TricksOf(Result(record, LinResultTag::Qent));
+  if (row.tricks || IsAdjusted(record)) return;
   if (record.claim) {
-    if (*record.claim >= 0 && *record.claim <= kMostTricks) row.Tricks = record.claim;
+    if (*record.claim >= 0 && *record.claim <= kMostTricks) row.tricks = record.claim;
     return;
   }
-  scored.Hands = record.hands;
-  row.Tricks = DeclarerTricks(scored, record.play);
+  scored.hands = record.hands;
+  row.tricks = DeclarerTricks(scored, record.play);
 }
 
 void ReadScore(const LinRecord& record, const Board& scored, TravellerRow& row) {
   const std::string& text = Result(record, LinResultTag::Qens);
-  row.Score = NumberOf<int>(text);
-  if (row.Score) return;
+  row.score = NumberOf<int>(text);
+  if (row.score) return;
   constexpr std::size_t kLongest = 12;  // longer ones are no rulings, and would fill the line
-  row.Adjusted = Showable(text, kLongest);
+  row.adjusted = Showable(text, kLongest);
   if (!text.empty()) return;
-  if (row.Contract == kAllPass) row.Score = 0;
-  if (scored.ContractLevel > 0 && row.Tricks) {
-    row.Score = ScoreContract(scored.Vulnerability(), scored.ContractLevel, scored.Trumps,
-                              DoublingOf(scored.Contract),
-                              *row.Tricks - scored.ContractLevel - kBook, scored.Declarer);
+  if (row.contract == kAllPass) row.score = 0;
+  if (scored.contractLevel > 0 && row.tricks) {
+    row.score = ScoreContract(scored.Vulnerability(), scored.contractLevel, scored.trumps,
+                              DoublingOf(scored.contract),
+                              *row.tricks - scored.contractLevel - kBook, scored.declarer);
   }
 }
 
 void ReadPoints(const LinRecord& record, bool matchPoints, TravellerRow& row) {
   if (matchPoints) {
-    row.Points[Side::NorthSouth] = PointsOf(Result(record, LinResultTag::Qenns));
-    row.Points[Side::EastWest] = PointsOf(Result(record, LinResultTag::Qenew));
+    row.points[Side::NorthSouth] = PointsOf(Result(record, LinResultTag::Qenns));
+    row.points[Side::EastWest] = PointsOf(Result(record, LinResultTag::Qenew));
   } else if (const auto imps = PointsOf(Result(record, LinResultTag::Qeni))) {
-    row.Points[Side::NorthSouth] = *imps;
-    row.Points[Side::EastWest] = *imps == 0 ? 0 : -*imps;
+    row.points[Side::NorthSouth] = *imps;
+    row.points[Side::EastWest] = *imps == 0 ? 0 : -*imps;
   }
 }
 
@@ -156,21 +156,21 @@ void ReadNames(const LinRecord& record, const PairNames& pairs, TravellerRow& ro
     const auto first = static_cast<Seat>(IndexOf(side));
     const PairPlayers players{PlayerName(record.players[first]),
                               PlayerName(record.players[PartnerOf(first)])};
-    row.Names[side] = JoinPlayers(players);
-    row.Pair[side] = pairs.NumberOf(players, side);
+    row.names[side] = JoinPlayers(players);
+    row.pair[side] = pairs.NumberOf(players, side);
   }
 }
 
 TravellerRow MakeRow(const LinRecord& record, int boardNumber, const PairNames& pairs,
                      bool matchPoints) {
   TravellerRow row;
-  row.Record.Board = BoardOf(record, boardNumber);
-  row.Record.Cards = record.play;
+  row.record.board = BoardOf(record, boardNumber);
+  row.record.cards = record.play;
   const Board scored = ReadContractOf(record, row);
   ReadTricks(record, scored, row);
-  row.Record.Tricks = row.Tricks;
-  row.Lead = CardOf(Result(record, LinResultTag::Qenl));
-  if (!row.Lead && !record.play.empty()) row.Lead = record.play.front();
+  row.record.tricks = row.tricks;
+  row.lead = CardOf(Result(record, LinResultTag::Qenl));
+  if (!row.lead && !record.play.empty()) row.lead = record.play.front();
   ReadScore(record, scored, row);
   ReadPoints(record, matchPoints, row);
   ReadNames(record, pairs, row);
@@ -178,7 +178,7 @@ TravellerRow MakeRow(const LinRecord& record, int boardNumber, const PairNames& 
 }
 
 bool HasPoints(const TravellerRow& row) {
-  return std::any_of(row.Points.begin(), row.Points.end(),
+  return std::any_of(row.points.begin(), row.points.end(),
                      [](const auto& points) { return points && *points != 0; });
 }
 
@@ -187,7 +187,7 @@ void GiveMatchPoints(BoardScores scores, Traveller& traveller) {
   for (std::size_t table = 0; table < points.size(); ++table) {
     if (!points[table]) continue;
     for (const Side side : {Side::NorthSouth, Side::EastWest}) {
-      traveller.Rows[table].Points[side] = static_cast<float>((*points[table])[side]);
+      traveller.rows[table].points[side] = static_cast<float>((*points[table])[side]);
     }
   }
 }
@@ -197,17 +197,17 @@ void GiveImps(BoardScores scores, Traveller& traveller) {
   for (std::size_t table = 0; table < imps.size(); ++table) {
     const std::optional<int> own = imps[table];
     if (!own) continue;
-    traveller.Rows[table].Points[Side::NorthSouth] = static_cast<float>(*own);
-    traveller.Rows[table].Points[Side::EastWest] = static_cast<float>(-*own);
+    traveller.rows[table].points[Side::NorthSouth] = static_cast<float>(*own);
+    traveller.rows[table].points[Side::EastWest] = static_cast<float>(-*own);
   }
 }
 
 void ComputePoints(Traveller& traveller, bool matchPoints, bool teams) {
   std::vector<std::optional<int>> scores;
-  scores.reserve(traveller.Rows.size());
-  for (TravellerRow& row : traveller.Rows) {
-    scores.push_back(row.Score);
-    row.Points.fill(std::nullopt);
+  scores.reserve(traveller.rows.size());
+  for (TravellerRow& row : traveller.rows) {
+    scores.push_back(row.score);
+    row.points.fill(std::nullopt);
   }
   const auto played = std::count_if(scores.begin(), scores.end(),
                                     [](const auto& score) { return score.has_value(); });
@@ -223,8 +223,8 @@ void ComputePoints(Traveller& traveller, bool matchPoints, bool teams) {
 std::string ScoringOf(const LinFile& file, bool matchPoints, bool teams, bool computed) {
   constexpr std::size_t kLongest = 8;
   if (matchPoints) return "MP";
-  if (!computed && !file.BoardScoringAbb.empty()) {
-    return Showable(file.BoardScoringAbb, kLongest);
+  if (!computed && !file.boardScoringAbb.empty()) {
+    return Showable(file.boardScoringAbb, kLongest);
   }
   return teams ? "IMP" : "XIMP";
 }
@@ -237,60 +237,60 @@ std::string Signed(int number) {
 }  // namespace
 
 std::optional<int> TravellerRow::Result() const {
-  Board contract;
-  if (!Tricks || !SetContract(contract, Contract)) return std::nullopt;
-  return *Tricks - contract.ContractLevel - kBook;
+  Board played;
+  if (!tricks || !SetContract(played, contract)) return std::nullopt;
+  return *tricks - played.contractLevel - kBook;
 }
 
 std::string TravellerRow::ContractText() const {
-  return Contract.empty() && !HasResult() ? kNotPlayed : Contract;
+  return contract.empty() && !HasResult() ? kNotPlayed : contract;
 }
 
 std::string TravellerRow::NamesText() const {
-  return Names[Side::NorthSouth] + " v " + Names[Side::EastWest];
+  return names[Side::NorthSouth] + " v " + names[Side::EastWest];
 }
 
 Traveller MakeTraveller(const LinFile& file, int boardNumber) {
-  const bool matchPoints = file.BoardScoringMethod == "MATCH_POINTS";
-  const bool teams = file.TeamEvent.has_value() || file.BoardScoringMethod == "IMPS";
+  const bool matchPoints = file.boardScoringMethod == "MATCH_POINTS";
+  const bool teams = file.teamEvent.has_value() || file.boardScoringMethod == "IMPS";
   Traveller traveller;
-  traveller.BoardNumber = boardNumber;
-  const PairNames pairs(file.Names);
-  for (const std::string& line : file.Lin) {
-    if (traveller.Rows.size() == kMaxTravellerRows) break;
+  traveller.boardNumber = boardNumber;
+  const PairNames pairs(file.names);
+  for (const std::string& line : file.lin) {
+    if (traveller.rows.size() == kMaxTravellerRows) break;
     if (BoardNumberOfLin(line) != boardNumber) continue;
-    traveller.Rows.push_back(MakeRow(ParseLinRecord(line), boardNumber, pairs, matchPoints));
-    traveller.Rows.back().Lin = line.substr(0, line.find(kOwnTags));
+    traveller.rows.push_back(MakeRow(ParseLinRecord(line), boardNumber, pairs, matchPoints));
+    traveller.rows.back().lin = line.substr(0, line.find(kOwnTags));
   }
-  traveller.Computed = std::none_of(traveller.Rows.begin(), traveller.Rows.end(), HasPoints);
-  if (traveller.Computed) ComputePoints(traveller, matchPoints, teams);
-  traveller.Scoring = ScoringOf(file, matchPoints, teams, traveller.Computed);
+  traveller.computed = std::none_of(traveller.rows.begin(), traveller.rows.end(), HasPoints);
+  if (traveller.computed) ComputePoints(traveller, matchPoints, teams);
+  traveller.scoring = ScoringOf(file, matchPoints, teams, traveller.computed);
   return traveller;
 }
 
 std::string LinPlayRecord(const Traveller& traveller, const Board& board, int row) {
-  for (std::size_t at = 0; at < traveller.Rows.size(); ++at) {
-    const TravellerRow& table = traveller.Rows[at];
-    const bool wanted = row < 0 ? !table.Record.Cards.empty() : static_cast<int>(at) == row;
-    if (wanted && table.Record.Board.Hands == board.Hands) return table.Lin;
+  for (std::size_t at = 0; at < traveller.rows.size(); ++at) {
+    const TravellerRow& table = traveller.rows[at];
+    const bool wanted = row < 0 ? !table.record.cards.empty() : static_cast<int>(at) == row;
+    if (wanted && table.record.board.hands == board.hands) return table.lin;
   }
   return {};
 }
 
 std::string ReadLinBidding(const TravellerRow& row) {
   const std::string names = " " + row.NamesText();
-  if (row.Contract == kAllPass && row.Adjusted.empty()) return row.Contract + names;
+  if (row.contract == kAllPass && row.adjusted.empty()) return row.contract + names;
   if (!row.HasResult()) return kNotPlayed + names;
-  std::string text = row.Contract;
-  if (row.Declarer) text += " by " + std::string(SeatName[*row.Declarer]);
+  std::string text = row.contract;
+  if (row.declarer) text += " by " + std::string(SeatName[*row.declarer]);
   if (const auto result = row.Result()) text += " " + Signed(*result);
-  return text + (text.empty() ? "" : " ") + (row.Score ? Signed(*row.Score) : row.Adjusted) + names;
+  return text + (text.empty() ? "" : " ") + (row.score ? Signed(*row.score) : row.adjusted) + names;
 }
 
 std::vector<std::string> AddLinNames(const Traveller& traveller) {
   std::vector<std::string> names;
-  names.reserve(traveller.Rows.size());
-  for (const TravellerRow& row : traveller.Rows) names.push_back(row.NamesText());
+  names.reserve(traveller.rows.size());
+  for (const TravellerRow& row : traveller.rows) names.push_back(row.NamesText());
   return names;
 }
 

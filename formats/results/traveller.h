@@ -18,21 +18,21 @@ inline constexpr const char* kNotPlayed = "Not played";
 /// One table. What the file does not give is worked out from its record where that tells it; a
 /// ruling is not decided by the contract and the tricks of the record, so these are not.
 struct TravellerRow {
-  PerSide<std::string> Pair;     ///< numbers as in the file; empty where the players have none
-  std::string Contract;          ///< "4Sx", "All Pass"; empty where there is none
-  std::optional<Seat> Declarer;  ///< of a contract
-  std::optional<Card> Lead;
-  std::optional<int> Tricks;  ///< of the declarer, 0..13
-  std::optional<int> Score;   ///< from North-South's point of view
-  std::string Adjusted;       ///< the score's text where it is a ruling: "A5050"
-  /// Match points or IMPs, after the traveller's `Scoring`.
-  PerSide<std::optional<float>> Points;
-  PerSide<std::string> Names;  ///< "Ann & Bob": North and South, East and West
-  RecordedPlay Record;
-  std::string Lin;  ///< the LIN record itself, without the scorer's own tags
+  PerSide<std::string> pair;     ///< numbers as in the file; empty where the players have none
+  std::string contract;          ///< "4Sx", "All Pass"; empty where there is none
+  std::optional<Seat> declarer;  ///< of a contract
+  std::optional<Card> lead;
+  std::optional<int> tricks;  ///< of the declarer, 0..13
+  std::optional<int> score;   ///< from North-South's point of view
+  std::string adjusted;       ///< the score's text where it is a ruling: "A5050"
+  /// Match points or IMPs, after the traveller's `scoring`.
+  PerSide<std::optional<float>> points;
+  PerSide<std::string> names;  ///< "Ann & Bob": North and South, East and West
+  RecordedPlay record;
+  std::string lin;  ///< the LIN record itself, without the scorer's own tags
 
   /// There is a score or a ruling.
-  bool HasResult() const { return Score || !Adjusted.empty(); }
+  bool HasResult() const { return score || !adjusted.empty(); }
   /// What stands in the place of the contract: `kNotPlayed` where there is no result either,
   /// nothing where there is one.
   std::string ContractText() const;
@@ -43,10 +43,10 @@ struct TravellerRow {
 };
 
 struct Traveller {
-  int BoardNumber = 0;
-  std::string Scoring;             ///< heading of the points: "MP", "IMP", "XIMP", "BIMP"
-  bool Computed = false;           ///< the file gives no points, and they follow from the scores
-  std::vector<TravellerRow> Rows;  ///< in the order of the file
+  int boardNumber = 0;
+  std::string scoring;             ///< heading of the points: "MP", "IMP", "XIMP", "BIMP"
+  bool computed = false;           ///< the file gives no points, and they follow from the scores
+  std::vector<TravellerRow> rows;  ///< in the order of the file
 };
 
 /// Most rows of a traveller; further records of the board are left out. The largest simultaneous

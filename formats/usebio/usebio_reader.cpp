@@ -73,10 +73,10 @@ class UsebioReader {
     ReadScoring(event);
     for (const pugi::xml_node& list : outline_.participants) {
       for (const auto& pair : list.select_nodes(".//PAIR")) {
-        Keep(results_.data.Names, NamesLine(pair.node()));
+        Keep(results_.data.names, NamesLine(pair.node()));
       }
     }
-    const PairNames pairs(results_.data.Names);
+    const PairNames pairs(results_.data.names);
     for (const UsebioBoard& board : outline_.boards) ReadBoard(board, pairs);
     return std::move(results_);
   }
@@ -99,15 +99,15 @@ class UsebioReader {
     std::string word = WordOf(event, {"BOARD_SCORING_METHOD", "PAIRWISE_SCORING_METHOD"});
     const std::string general = WordOf(event, {"SCORING_METHOD"});
     if (word.empty() && !teams) word = general;
-    data.BoardScoringMethod = word.empty() ? usual : word;
-    data.BoardScoringAbb = GetAbbreviations(data.BoardScoringMethod);
+    data.boardScoringMethod = word.empty() ? usual : word;
+    data.boardScoringAbb = GetAbbreviations(data.boardScoringMethod);
     if (!teams) return;
-    data.TeamEvent.emplace();
-    data.TeamEvent->TeamScoringMethod = general.empty() ? usual : general;
-    data.TeamEvent->TeamScoringAbb = GetAbbreviations(data.TeamEvent->TeamScoringMethod);
+    data.teamEvent.emplace();
+    data.teamEvent->teamScoringMethod = general.empty() ? usual : general;
+    data.teamEvent->teamScoringAbb = GetAbbreviations(data.teamEvent->teamScoringMethod);
     for (const pugi::xml_node& list : outline_.participants) {
       for (const auto& team : list.select_nodes(".//TEAM")) {
-        Keep(data.TeamEvent->Teams, TeamLine(team.node()));
+        Keep(data.teamEvent->teams, TeamLine(team.node()));
       }
     }
   }
@@ -123,7 +123,7 @@ class UsebioReader {
     results_.lastBoard = any_ ? std::max(results_.lastBoard, number) : number;
     any_ = true;
     for (const TravellerLine& line : board.lines) {
-      Keep(results_.data.Lin, LinLine(line, number, pairs));
+      Keep(results_.data.lin, LinLine(line, number, pairs));
     }
   }
 

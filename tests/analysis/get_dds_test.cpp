@@ -34,33 +34,33 @@ TEST(GetDDS, BringsTheRecordIntoTableOrder) {
 
 TEST(GetDDS, WarnsOfAWrongNumberOfCardsAndKeepsTheTable) {
   Board board;
-  board.Hands = HandsOf("N:AKQ..JT987.5432 J32.AKQJ.5.AKQJT T9876.T98.AKQ.98 54.765432.432.76");
-  board.MakeableValid = true;
-  board.Makeable[TableSeat::North][TableStrain::Clubs] = 7;
+  board.hands = HandsOf("N:AKQ..JT987.5432 J32.AKQJ.5.AKQJT T9876.T98.AKQ.98 54.765432.432.76");
+  board.makeableValid = true;
+  board.makeable[TableSeat::North][TableStrain::Clubs] = 7;
   test::FakeSolver solver;
   test::ScriptedHost host;
   EXPECT_FALSE(GetDDS(board, solver, host, false));
   host.ExpectTell("Warning - hand North - AKQ..JT987.5432 has 12 cards.");
   EXPECT_FALSE(GetDDS(board, solver, host, true));
   EXPECT_TRUE(solver.solved.empty());
-  EXPECT_EQ(board.Makeable[TableSeat::North][TableStrain::Clubs], 7);
-  EXPECT_FALSE(board.HandChanged);
+  EXPECT_EQ(board.makeable[TableSeat::North][TableStrain::Clubs], 7);
+  EXPECT_FALSE(board.handChanged);
 }
 
 TEST(GetDDS, ReportsTheSolversOwnWords) {
   Board board;
-  board.Hands = HandsOf(kDeal);
+  board.hands = HandsOf(kDeal);
   test::FakeSolver solver;
   test::ScriptedHost host;
   solver.failure = "Too many tables";
   host.ExpectTell("Too many tables");
   EXPECT_FALSE(GetDDS(board, solver, host, true));
-  EXPECT_FALSE(board.MakeableValid);
+  EXPECT_FALSE(board.makeableValid);
   solver.failure.clear();
   EXPECT_TRUE(GetDDS(board, solver, host, true));
-  EXPECT_TRUE(board.MakeableValid);
-  EXPECT_TRUE(board.HandChanged);
-  EXPECT_EQ(board.Makeable, ToMakeable(test::FakeSolver::RecordOf(kDeal)));
+  EXPECT_TRUE(board.makeableValid);
+  EXPECT_TRUE(board.handChanged);
+  EXPECT_EQ(board.makeable, ToMakeable(test::FakeSolver::RecordOf(kDeal)));
 }
 
 void SetEnvironment(const char* name, const char* value) {
@@ -103,12 +103,12 @@ TEST(SolverLibrary, AgreesWithPublishedTables) {
   EXPECT_EQ(failure, "");
   // one alone goes another way into the library, and the table through our own file and back
   Board board;
-  board.Hands = deals[0];
+  board.hands = deals[0];
   test::ScriptedHost host;
   ASSERT_TRUE(GetDDS(board, *solver, host, true));
   Board read;
   ASSERT_TRUE(ReadBoardText(WriteBoardText(board), read, TableReading::Always));
-  EXPECT_EQ(read.Makeable, expected[0]);
+  EXPECT_EQ(read.makeable, expected[0]);
 }
 
 TEST(SolverLibrary, TellsTheTricksOfEachCard) {

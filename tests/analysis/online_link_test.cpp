@@ -7,9 +7,9 @@ namespace {
 
 Board OneSuitEach(int number) {
   Board board;
-  board.BoardNumber = number;
+  board.boardNumber = number;
   for (const Seat seat : kAllSeats) {
-    board.Hands[seat][static_cast<Suit>(seat)] = Holding::FromBits(Holding::kAllBits);
+    board.hands[seat][static_cast<Suit>(seat)] = Holding::FromBits(Holding::kAllBits);
   }
   return board;
 }
@@ -30,7 +30,7 @@ TEST(OnlineLink, CarriesTheBoardInItsQuery) {
 TEST(OnlineLink, RefusesAHandWithoutThirteenCards) {
   Board board = OneSuitEach(7);
   EXPECT_EQ(SolverAddressError(board), "");
-  board.Hands[Seat::East][Suit::Hearts].Remove(Rank::Two);
+  board.hands[Seat::East][Suit::Hearts].Remove(Rank::Two);
   EXPECT_EQ(SolverAddressError(board), "Error - hand 7 - East has 12 cards.");
 }
 

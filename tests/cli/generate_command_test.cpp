@@ -26,7 +26,7 @@ class GenerateCommands : public test::LibraryTest {
 
   Board Stored(int number) {
     Board board;
-    board.BoardNumber = number;
+    board.boardNumber = number;
     bool complete = false;
     EXPECT_TRUE(LoadHandBasic(session, board, complete));
     EXPECT_TRUE(complete) << number;
@@ -37,7 +37,7 @@ class GenerateCommands : public test::LibraryTest {
     cli::GenerateArguments arguments;
     arguments.first = 1;
     arguments.last = 8;
-    arguments.hands.values_ = {{first, second}};
+    arguments.hands.values = {{first, second}};
     arguments.seed = 7;
     return cli::GenerateBoards(context, arguments);
   }
@@ -59,7 +59,7 @@ class GenerateCommands : public test::LibraryTest {
     EXPECT_EQ(data.str(), cli::HandsText(session.board));
     Board board;
     LoadHand(session);
-    board.Hands = session.board.Hands;
+    board.hands = session.board.hands;
     return board;
   }
 
@@ -75,23 +75,23 @@ TEST_F(GenerateCommands, GeneratesWhatIsAsked) {
   EXPECT_EQ(data.str(), "8 boards generated\n");
   for (int number = 1; number <= 8; ++number) {
     const Board board = Stored(number);
-    const Statistics statistics = GetStats(board.Hands);
+    const Statistics statistics = GetStats(board.hands);
     const Seat dealer = board.Dealer();
-    EXPECT_LE(statistics.SeatHCP[dealer], 7);
-    EXPECT_GE(statistics.SuitLength[dealer][Suit::Spades], 5);
-    EXPECT_LE(statistics.SuitLength[dealer][Suit::Clubs], 3);
-    EXPECT_TRUE(statistics.SeatHCP[PartnerOf(dealer)] >= 15 &&
-                statistics.SeatHCP[PartnerOf(dealer)] <= 17);
-    EXPECT_LT(statistics.SuitLength[PartnerOf(dealer)][Suit::Hearts], 5);
+    EXPECT_LE(statistics.seatHcp[dealer], 7);
+    EXPECT_GE(statistics.suitLength[dealer][Suit::Spades], 5);
+    EXPECT_LE(statistics.suitLength[dealer][Suit::Clubs], 3);
+    EXPECT_TRUE(statistics.seatHcp[PartnerOf(dealer)] >= 15 &&
+                statistics.seatHcp[PartnerOf(dealer)] <= 17);
+    EXPECT_LT(statistics.suitLength[PartnerOf(dealer)][Suit::Hearts], 5);
   }
   const Board first = Stored(5);
   host.ExpectAsk(kOverwrite, "Tricklet", Answer::Yes);
   ASSERT_EQ(GenerateWith({}), cli::ExitCode::Done);
-  EXPECT_NE(Stored(5).Hands, first.Hands);
+  EXPECT_NE(Stored(5).hands, first.hands);
   const Board again = Stored(5);
   host.ExpectAsk(kOverwrite, "Tricklet", Answer::Yes);
   ASSERT_EQ(GenerateWith({}), cli::ExitCode::Done);
-  EXPECT_EQ(Stored(5).Hands, again.Hands) << "the same seed";
+  EXPECT_EQ(Stored(5).hands, again.hands) << "the same seed";
 }
 
 TEST_F(GenerateCommands, RefusesContradictionsAndWrongUsage) {
@@ -136,7 +136,7 @@ TEST_F(GenerateCommands, RefusesContradictionsAndWrongUsage) {
     host.ExpectTell(c.message);
     EXPECT_EQ(GenerateWith(c.first, c.second), c.code) << c.message;
   }
-  EXPECT_EQ(session.library.BoardCount, 0);
+  EXPECT_EQ(session.library.boardCount, 0);
 }
 
 TEST_F(GenerateCommands, AreParsed) {
@@ -158,11 +158,11 @@ TEST_F(GenerateCommands, AreParsed) {
       "--lengths2 0-13,0-13,0-13,0-3 --points2 0-4 --seed 1 --analyse";
   host.ExpectTell("There is no double-dummy solver");
   EXPECT_EQ(run(generate), cli::ExitCode::Refused);
-  EXPECT_EQ(session.library.BoardCount, 0);
-  session.GetSolver = [&solver]() -> Solver& { return solver; };
+  EXPECT_EQ(session.library.boardCount, 0);
+  session.getSolver = [&solver]() -> Solver& { return solver; };
   host.ExpectTell("2 tables have been computed");
   EXPECT_EQ(run(generate), cli::ExitCode::Done);
-  EXPECT_GE(GetStats(Stored(4).Hands).SeatHCP[Seat::East], 20);
+  EXPECT_GE(GetStats(Stored(4).hands).seatHcp[Seat::East], 20);
   const std::vector<std::string> edits{
       "edit 4 rotate acw --with-auction", "edit 4 swap N S",      "edit 4 swapsuit H D",
       "edit 4 hand N .A..KT9 --take",     "edit 4 fill --seed 2", "edit 4 clear"};
@@ -179,21 +179,21 @@ TEST_F(GenerateCommands, AreParsed) {
 TEST_F(GenerateCommands, EditsSaveAndShow) {
   using enum cli::EditAction;
   Constraints one;
-  one.NumGenHands = 1;
-  one.GenBoards = {1, 1};
+  one.numGenHands = 1;
+  one.genBoards = {1, 1};
   ASSERT_EQ(Generate(session, one, {}).boardsStored, 1);
-  const HandTable start = session.board.Hands;
-  EXPECT_EQ(Edited(Rotate, {"cw"}).Hands[Seat::East], start[Seat::North]);
-  EXPECT_EQ(Edited(Rotate, {"ACW"}).Hands, start);
-  EXPECT_EQ(Edited(Rotate, {"half"}).Hands[Seat::East], start[Seat::West]);
-  EXPECT_EQ(Edited(SwapHands, {"n", "South"}).Hands[Seat::North], start[Seat::North]);
-  EXPECT_EQ(Edited(SwapSuits, {"S", "clubs"}).Hands[Seat::South][Suit::Spades],
+  const HandTable start = session.board.hands;
+  EXPECT_EQ(Edited(Rotate, {"cw"}).hands[Seat::East], start[Seat::North]);
+  EXPECT_EQ(Edited(Rotate, {"ACW"}).hands, start);
+  EXPECT_EQ(Edited(Rotate, {"half"}).hands[Seat::East], start[Seat::West]);
+  EXPECT_EQ(Edited(SwapHands, {"n", "South"}).hands[Seat::North], start[Seat::North]);
+  EXPECT_EQ(Edited(SwapSuits, {"S", "clubs"}).hands[Seat::South][Suit::Spades],
             start[Seat::South][Suit::Clubs]);
-  EXPECT_FALSE(HasCards(Edited(Clear).Hands));
-  EXPECT_EQ(Edited(SetHand, {"w", "AKQJ.T.98.-"}).Hands[Seat::West][Suit::Hearts].Count(), 1);
+  EXPECT_FALSE(HasCards(Edited(Clear).hands));
+  EXPECT_EQ(Edited(SetHand, {"w", "AKQJ.T.98.-"}).hands[Seat::West][Suit::Hearts].Count(), 1);
   const Board full = Edited(Fill);
-  EXPECT_TRUE(GetStats(full.Hands).AllHandsComplete);
-  EXPECT_TRUE(full.Hands[Seat::West][Suit::Hearts].Has(Rank::Ten));
+  EXPECT_TRUE(GetStats(full.hands).allHandsComplete);
+  EXPECT_TRUE(full.hands[Seat::West][Suit::Hearts].Has(Rank::Ten));
 }
 
 TEST_F(GenerateCommands, RefusedEditsLeaveTheFile) {

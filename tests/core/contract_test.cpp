@@ -12,7 +12,7 @@ namespace {
 /// Board `number` with the calls of `auction`, separated by blanks.
 Board BoardWith(int number, const std::string& auction) {
   Board board;
-  board.BoardNumber = number;
+  board.boardNumber = number;
   test::SetAuction(board, auction);
   return board;
 }
@@ -38,17 +38,17 @@ TEST(GetContract, DerivesContractDeclarerAndTrumps) {
   for (const auto& c : kCases) {
     const Board board = BoardWith(c.board, c.auction);
     EXPECT_EQ(ContractLabel(board), c.label) << c.auction;
-    EXPECT_EQ(board.Trumps, c.trumps) << c.auction;
-    EXPECT_EQ(board.ContractLevel, c.level) << c.auction;
+    EXPECT_EQ(board.trumps, c.trumps) << c.auction;
+    EXPECT_EQ(board.contractLevel, c.level) << c.auction;
   }
 }
 
 TEST(GetContract, NoContract) {
-  EXPECT_EQ(BoardWith(1, "").Contract, "");
-  EXPECT_EQ(BoardWith(1, "Pass Pass Pass").Contract, "");
-  EXPECT_EQ(BoardWith(1, "Pass Pass Pass Pass").Contract, "All Pass");
+  EXPECT_EQ(BoardWith(1, "").contract, "");
+  EXPECT_EQ(BoardWith(1, "Pass Pass Pass").contract, "");
+  EXPECT_EQ(BoardWith(1, "Pass Pass Pass Pass").contract, "All Pass");
   EXPECT_EQ(ContractLabel(BoardWith(1, "Pass Pass Pass Pass")), "All Pass");
-  EXPECT_EQ(BoardWith(1, "Dbl Rdbl").Contract, "");  // no auction, but nothing to break on
+  EXPECT_EQ(BoardWith(1, "Dbl Rdbl").contract, "");  // no auction, but nothing to break on
 }
 
 TEST(Call, TextRoundTripsAndShortFormsAreTaken) {

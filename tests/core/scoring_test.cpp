@@ -126,11 +126,11 @@ TEST(ResultLine, NamesTheSideThatScores) {
   };
   for (const auto& c : kCases) {
     Board board;
-    board.BoardNumber = c.board;
-    board.Contract = c.contract;
-    board.ContractLevel = c.level;
-    board.Trumps = c.trumps;
-    board.Declarer = c.declarer;
+    board.boardNumber = c.board;
+    board.contract = c.contract;
+    board.contractLevel = c.level;
+    board.trumps = c.trumps;
+    board.declarer = c.declarer;
     EXPECT_EQ(ResultLine(board, c.tricks), c.line);
   }
 }

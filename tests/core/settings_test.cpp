@@ -13,15 +13,15 @@ TEST(Settings, DefaultsAndRoundTrip) {
   Settings settings = LoadSettings(store);
   EXPECT_EQ(settings, Settings());
   EXPECT_EQ(settings.library, "Default");
-  EXPECT_TRUE(settings.AutoMakeable);
-  EXPECT_EQ(settings.HGFont[0].Size, 24);
-  EXPECT_EQ(settings.HGFont[1].Forecolour, kWindowTextColour);
+  EXPECT_TRUE(settings.autoMakeable);
+  EXPECT_EQ(settings.hgFont[0].size, 24);
+  EXPECT_EQ(settings.hgFont[1].forecolour, kWindowTextColour);
 
-  settings.CardDesign = 3;
-  settings.SuitFontSize = 14.5;
-  settings.PBNBids = false;
-  settings.HGFont[0].Name = "Caf\u00e9 Sans";
-  settings.HGFont[1].Forecolour.value = 0x0000FF;
+  settings.cardDesign = 3;
+  settings.suitFontSize = 14.5;
+  settings.pbnBids = false;
+  settings.hgFont[0].name = "Caf\u00e9 Sans";
+  settings.hgFont[1].forecolour.value = 0x0000FF;
   SaveSettings(settings, store);
   EXPECT_EQ(LoadSettings(store), settings);
   EXPECT_EQ(store.Read("Tricklet", "PBNBids"), "False");
@@ -47,7 +47,7 @@ TEST(Settings, WhatCannotBeReadTakesItsDefault) {
 TEST(Settings, ColoursAreReadAsSignedNumbersToo) {
   MemoryStore store;
   store.Write("HGFont0", "Forecolour", "-2147483640");
-  EXPECT_EQ(LoadSettings(store).HGFont[0].Forecolour, kWindowTextColour);
+  EXPECT_EQ(LoadSettings(store).hgFont[0].forecolour, kWindowTextColour);
 }
 
 TEST(Settings, EveryKeyIsFoundAndBelongsToAFieldOfItsOwn) {

@@ -21,32 +21,32 @@ TEST(Statistics, CountsPointsLengthsAndMissingCards) {
   HandTable hands =
       test::HandsOf("N:AKQ2.AJT5..K43 J3.K2.A98765.QT8 T98.Q87.KQJ.AJ75 7654.9643.T432.9");
   const Statistics statistics = GetStats(hands);
-  EXPECT_EQ(statistics.SeatHCP[Seat::North], 17);
-  EXPECT_EQ(statistics.SeatLTC[Seat::North], 3);  // 0 spades, 1 hearts (A J 10), 2 clubs
-  EXPECT_EQ(statistics.SuitHCP[Seat::South][Suit::Diamonds], 6);
-  EXPECT_EQ(statistics.SeatCardCount[Seat::North], 11);
-  EXPECT_EQ(statistics.IncompleteSeat, Seat::North);
-  EXPECT_FALSE(statistics.AllHandsComplete);
-  EXPECT_EQ(HoldingText(statistics.MissingCards[Suit::Clubs]), " 6 2");
-  EXPECT_TRUE(statistics.MissingCards[Suit::Spades].Empty());
+  EXPECT_EQ(statistics.seatHcp[Seat::North], 17);
+  EXPECT_EQ(statistics.seatLtc[Seat::North], 3);  // 0 spades, 1 hearts (A J 10), 2 clubs
+  EXPECT_EQ(statistics.suitHcp[Seat::South][Suit::Diamonds], 6);
+  EXPECT_EQ(statistics.seatCardCount[Seat::North], 11);
+  EXPECT_EQ(statistics.incompleteSeat, Seat::North);
+  EXPECT_FALSE(statistics.allHandsComplete);
+  EXPECT_EQ(HoldingText(statistics.missingCards[Suit::Clubs]), " 6 2");
+  EXPECT_TRUE(statistics.missingCards[Suit::Spades].Empty());
   EXPECT_FALSE(statistics.CardDealt({Suit::Clubs, Rank::Six}));
 
   AddCard(hands, {Suit::Clubs, Rank::Six}, Seat::North);
   AddCard(hands, {Suit::Clubs, Rank::Two}, Seat::North);
   const Statistics whole = GetStats(hands);
-  EXPECT_TRUE(whole.AllHandsComplete);
+  EXPECT_TRUE(whole.allHandsComplete);
   int points = 0;
-  for (const int seatPoints : whole.SeatHCP) points += seatPoints;
+  for (const int seatPoints : whole.seatHcp) points += seatPoints;
   EXPECT_EQ(points, 40);
-  EXPECT_EQ(whole.PairLTC[Side::NorthSouth],
-            whole.SeatLTC[Seat::North] + whole.SeatLTC[Seat::South]);
+  EXPECT_EQ(whole.pairLtc[Side::NorthSouth],
+            whole.seatLtc[Seat::North] + whole.seatLtc[Seat::South]);
 }
 
 TEST(Captions, FollowTheFourSwitches) {
   Statistics statistics;
-  statistics.SeatCardCount[Seat::South] = 13;
-  statistics.SeatHCP[Seat::South] = 12;
-  statistics.SeatLTC[Seat::South] = 6;
+  statistics.seatCardCount[Seat::South] = 13;
+  statistics.seatHcp[Seat::South] = 12;
+  statistics.seatLtc[Seat::South] = 6;
   const struct {
     bool player, cards, points, losers;
     const char* caption;
@@ -59,10 +59,10 @@ TEST(Captions, FollowTheFourSwitches) {
   };
   for (const auto& c : kCases) {
     Settings settings;
-    settings.CaptionPlayer = c.player;
-    settings.CaptionnCards = c.cards;
-    settings.CaptionHCP = c.points;
-    settings.CaptionLTC = c.losers;
+    settings.captionPlayer = c.player;
+    settings.captionnCards = c.cards;
+    settings.captionHcp = c.points;
+    settings.captionLtc = c.losers;
     EXPECT_EQ(GetCaptionsEdit(statistics, settings)[Seat::South], c.caption);
   }
 }

@@ -23,12 +23,12 @@ inline bool HasCardTwice(const HandTable& hands) {
 /// The board can be stored, and its file gives it back; but a card that is in two hands stays in
 /// one of them.
 inline void CheckBoard(const Board& board) {
-  if (!IsStorable(board.BoardNumber)) std::abort();
+  if (!IsStorable(board.boardNumber)) std::abort();
   Board read;
-  read.BoardNumber = board.BoardNumber;
+  read.boardNumber = board.boardNumber;
   if (!ReadBoardText(WriteBoardText(board), read, TableReading::Always)) std::abort();
-  if (!(read.Hands == board.Hands) && !HasCardTwice(board.Hands)) std::abort();
-  if (!(read.Calls == board.Calls) || read.Contract != board.Contract) std::abort();
+  if (!(read.hands == board.hands) && !HasCardTwice(board.hands)) std::abort();
+  if (!(read.calls == board.calls) || read.contract != board.contract) std::abort();
 }
 
 /// Takes boards and checks them.

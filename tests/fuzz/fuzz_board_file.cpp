@@ -17,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (!tricklet::ReadBoardText(tricklet::WriteBoardText(board), again, TableReading::Always)) {
     std::abort();  // even a board read in part is a board
   }
-  if (!(again.Hands == board.Hands) || !(again.Calls == board.Calls)) std::abort();
-  if (readable && again.MakeableValid != board.MakeableValid) std::abort();
+  if (!(again.hands == board.hands) || !(again.calls == board.calls)) std::abort();
+  if (readable && again.makeableValid != board.makeableValid) std::abort();
   return 0;
 }

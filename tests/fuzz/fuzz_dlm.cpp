@@ -17,9 +17,9 @@ class LettersSink : public tricklet::fuzz::CheckingSink {
  public:
   void Store(const tricklet::Board& board) override {
     CheckingSink::Store(board);
-    const std::string deal = tricklet::EncodeDLMDeal(board.BoardNumber, board.Hands);
+    const std::string deal = tricklet::EncodeDLMDeal(board.boardNumber, board.hands);
     const std::string_view letters = std::string_view(deal).substr(0, tricklet::kDLMDealLetters);
-    if (!(tricklet::DecodeDLMDeal(letters) == board.Hands)) std::abort();
+    if (!(tricklet::DecodeDLMDeal(letters) == board.hands)) std::abort();
   }
 };
 

@@ -18,9 +18,9 @@ using namespace tricklet;
 void CheckBoards(const LinFile& data) {
   for (const Board& board : BoardsOfLinData(data, kFirstBoardNumber, kLastBoardNumber)) {
     Board read;
-    read.BoardNumber = board.BoardNumber;
+    read.boardNumber = board.boardNumber;
     if (!ReadBoardText(WriteBoardText(board), read, TableReading::Always)) std::abort();
-    if (!(read.Calls == board.Calls) || read.Contract != board.Contract) std::abort();
+    if (!(read.calls == board.calls) || read.contract != board.contract) std::abort();
   }
 }
 
@@ -31,8 +31,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string text = LinFileText(foreign);
   if (!IsValidUtf8(text)) std::abort();
   const LinFile own = ParseLinFile(text);
-  if (own.Lin.size() != foreign.Lin.size() || own.Names.size() != foreign.Names.size() ||
-      own.TeamEvent.has_value() != foreign.TeamEvent.has_value()) {
+  if (own.lin.size() != foreign.lin.size() || own.names.size() != foreign.names.size() ||
+      own.teamEvent.has_value() != foreign.teamEvent.has_value()) {
     std::abort();
   }
   if (!(ParseLinFile(LinFileText(own)) == own)) std::abort();

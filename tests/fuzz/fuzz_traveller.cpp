@@ -28,9 +28,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       tricklet::ParseLinFile({reinterpret_cast<const char*>(data), size});
   for (const int boardNumber : {1, 2}) {
     const tricklet::Traveller traveller = tricklet::MakeTraveller(file, boardNumber);
-    for (const tricklet::TravellerRow& row : traveller.Rows) {
+    for (const tricklet::TravellerRow& row : traveller.rows) {
       if (tricklet::ReadLinBidding(row).empty()) std::abort();
-      StepThrough(row.Record);
+      StepThrough(row.record);
     }
   }
   return 0;

@@ -27,8 +27,8 @@ void CheckResults(const UsebioResults& results) {
   const std::string text = LinFileText(results.data);
   if (!IsValidUtf8(text)) std::abort();
   const LinFile read = ParseLinFile(text);
-  if (read.Lin.size() != results.data.Lin.size()) std::abort();
-  if (read.Names.size() != results.data.Names.size()) std::abort();
+  if (read.lin.size() != results.data.lin.size()) std::abort();
+  if (read.names.size() != results.data.names.size()) std::abort();
   CheckBoards(results);
 }
 

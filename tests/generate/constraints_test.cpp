@@ -72,91 +72,91 @@ TEST(CheckConstraints, TellsTheFirstContradiction) {
       {"", [](Constraints&) {}},
       {"Suit minima add up to more than 13 in hand 1",
        [](Constraints& c) {
-         c.SuitLimits[kOne].values_ = {{{4, 13}, {4, 13}, {4, 13}, {2, 13}}};
+         c.suitLimits[kOne].values = {{{4, 13}, {4, 13}, {4, 13}, {2, 13}}};
        }},
       {"",
        [](Constraints& c) {
-         c.SuitLimits[kOne].values_ = {{{4, 4}, {4, 4}, {4, 4}, {1, 1}}};
+         c.suitLimits[kOne].values = {{{4, 4}, {4, 4}, {4, 4}, {1, 1}}};
        }},
       {"Suit minima add up to more than 13 in hand 2",
        [](Constraints& c) {
-         c.SuitLimits[kTwo] = AllSuits({4, 13});
+         c.suitLimits[kTwo] = AllSuits({4, 13});
        }},
       {"Suit maxima add up to less than 13 in hand 1",
        [](Constraints& c) {
-         c.SuitLimits[kOne] = AllSuits({0, 3});
+         c.suitLimits[kOne] = AllSuits({0, 3});
        }},
       {"Suit maxima add up to less than 13 in hand 2",
        [](Constraints& c) {
-         c.SuitLimits[kTwo] = AllSuits({3, 3});
+         c.suitLimits[kTwo] = AllSuits({3, 3});
        }},
       // ten and three cards: 10 + 9 points
       {"",
        [](Constraints& c) {
-         c.SuitLimits[kOne].values_ = {{{0, 10}, {0, 3}, {0, 0}, {0, 0}}};
-         c.PointLimits[kOne].minimum = 19;
+         c.suitLimits[kOne].values = {{{0, 10}, {0, 3}, {0, 0}, {0, 0}}};
+         c.pointLimits[kOne].minimum = 19;
        }},
       {"Cannot have 20 points with the distribution for hand 1",
        [](Constraints& c) {
-         c.SuitLimits[kOne].values_ = {{{0, 10}, {0, 3}, {0, 0}, {0, 0}}};
-         c.PointLimits[kOne].minimum = 20;
+         c.suitLimits[kOne].values = {{{0, 10}, {0, 3}, {0, 0}, {0, 0}}};
+         c.pointLimits[kOne].minimum = 20;
        }},
       // what is greyed asks for nothing
       {"",
        [](Constraints& c) {
-         c.SuitLimits[kOne] = AllSuits({4, 4});
-         c.SuitLimits[kTwo] = AllSuits({0, 3});
-         c.UseSuitLengths.fill(false);
+         c.suitLimits[kOne] = AllSuits({4, 4});
+         c.suitLimits[kTwo] = AllSuits({0, 3});
+         c.useSuitLengths.fill(false);
        }},
       // 4 + 7 + 0 + 10
       {"Cannot have 22 points with the distribution for hand 2",
        [](Constraints& c) {
-         c.SuitLimits[kTwo].values_ = {{{0, 1}, {0, 2}, {0, 0}, {0, 13}}};
-         c.PointLimits[kTwo].minimum = 22;
+         c.suitLimits[kTwo].values = {{{0, 1}, {0, 2}, {0, 0}, {0, 13}}};
+         c.pointLimits[kTwo].minimum = 22;
        }},
       {"",
        [](Constraints& c) {
-         c.PointLimits.fill({20, 37});
+         c.pointLimits.fill({20, 37});
        }},
       {"Too many minimum points between the 2 hands",
        [](Constraints& c) {
-         c.PointLimits.values_ = {{{21, 37}, {20, 37}}};
+         c.pointLimits.values = {{{21, 37}, {20, 37}}};
        }},
       {"Too many Spades between the 2 hands",
        [](Constraints& c) {
-         c.SuitLimits[kOne][Suit::Spades].minimum = 7;
-         c.SuitLimits[kTwo][Suit::Spades].minimum = 7;
+         c.suitLimits[kOne][Suit::Spades].minimum = 7;
+         c.suitLimits[kTwo][Suit::Spades].minimum = 7;
        }},
       {"Too many Clubs between the 2 hands",
        [](Constraints& c) {
-         c.SuitLimits[kOne][Suit::Clubs].minimum = 12;
-         c.SuitLimits[kTwo][Suit::Clubs].minimum = 2;
+         c.suitLimits[kOne][Suit::Clubs].minimum = 12;
+         c.suitLimits[kTwo][Suit::Clubs].minimum = 2;
        }},
-      {"Hand 2 is the same direction as hand 1", [](Constraints& c) { c.HandDirection.fill(3); }},
+      {"Hand 2 is the same direction as hand 1", [](Constraints& c) { c.handDirection.fill(3); }},
       {"Hand 2 is the same direction as hand 1",
        [](Constraints& c) {
-         c.HandDirection.fill(0);
-         c.RelativeToDealer = true;
+         c.handDirection.fill(0);
+         c.relativeToDealer = true;
        }},
       // one hand: nothing of the second is looked at
       {"",
        [](Constraints& c) {
-         c.NumGenHands = 1;
-         c.HandDirection.fill(0);
-         c.SuitLimits[kTwo] = AllSuits({4, 4});
-         c.PointLimits.fill({30, 37});
+         c.numGenHands = 1;
+         c.handDirection.fill(0);
+         c.suitLimits[kTwo] = AllSuits({4, 4});
+         c.pointLimits.fill({30, 37});
        }},
       // the first that applies
       {"Suit minima add up to more than 13 in hand 1",
        [](Constraints& c) {
-         c.SuitLimits[kOne] = AllSuits({4, 2});
-         c.HandDirection.fill(0);
-         c.PointLimits.fill({37, 37});
+         c.suitLimits[kOne] = AllSuits({4, 2});
+         c.handDirection.fill(0);
+         c.pointLimits.fill({37, 37});
        }},
       {"Too many minimum points between the 2 hands",
        [](Constraints& c) {
-         c.HandDirection.fill(0);
-         c.PointLimits.fill({37, 37});
+         c.handDirection.fill(0);
+         c.pointLimits.fill({37, 37});
        }},
   };
   for (const auto& c : kCases) {
@@ -187,12 +187,12 @@ TEST(CheckConstraints, KnowsTheMostPointsOfATypesShapes) {
       most = std::max(most, MostPointsWithin(ChooseHandType(type, 0, {}, random)));
     }
     Constraints constraints;
-    constraints.NumGenHands = 1;
-    constraints.UseSuitLengths[GenHand::First] = false;
-    constraints.HandTypeIndex[GenHand::First] = type;
-    constraints.PointLimits[GenHand::First].minimum = most;
+    constraints.numGenHands = 1;
+    constraints.useSuitLengths[GenHand::First] = false;
+    constraints.handTypeIndex[GenHand::First] = type;
+    constraints.pointLimits[GenHand::First].minimum = most;
     EXPECT_FALSE(CheckConstraints(constraints)) << HandTypes[type] << most;
-    constraints.PointLimits[GenHand::First].minimum = most + 1;
+    constraints.pointLimits[GenHand::First].minimum = most + 1;
     EXPECT_TRUE(CheckConstraints(constraints)) << HandTypes[type] << most;
   }
 }
@@ -208,23 +208,23 @@ TEST(CheckConstraints, PointsAtWhatToChange) {
     Suit suit;
   } kCases[] = {
       {[](Constraints& c) {
-         c.SuitLimits[kTwo].values_ = {{{3, 13}, {2, 13}, {6, 13}, {4, 13}}};
+         c.suitLimits[kTwo].values = {{{3, 13}, {2, 13}, {6, 13}, {4, 13}}};
        },
        kTwo, SuitMinima, Suit::Diamonds},
       {[](Constraints& c) {
-         c.SuitLimits[kOne].values_ = {{{0, 5}, {0, 4}, {0, 3}, {0, 0}}};
+         c.suitLimits[kOne].values = {{{0, 5}, {0, 4}, {0, 3}, {0, 0}}};
        },
        kOne, SuitMaxima, Suit::Clubs},
       {[](Constraints& c) {
-         c.PointLimits.fill({21, 37});
+         c.pointLimits.fill({21, 37});
        },
        kTwo, Points, Suit::Spades},
       {[](Constraints& c) {
-         c.SuitLimits[kOne][Suit::Hearts].minimum = 12;
-         c.SuitLimits[kTwo][Suit::Hearts].minimum = 2;
+         c.suitLimits[kOne][Suit::Hearts].minimum = 12;
+         c.suitLimits[kTwo][Suit::Hearts].minimum = 2;
        },
        kTwo, SuitMinima, Suit::Hearts},
-      {[](Constraints& c) { c.HandDirection.fill(2); }, kTwo, Direction, Suit::Spades},
+      {[](Constraints& c) { c.handDirection.fill(2); }, kTwo, Direction, Suit::Spades},
   };
   for (const auto& c : kCases) {
     Constraints constraints;

@@ -41,8 +41,8 @@ std::string PatternOf(const PerSuit<int>& lengths) {
 
 /// All four seats hold 13 cards and none is missing, so that none is held twice either.
 bool IsWholeDeal(const Statistics& statistics) {
-  bool whole = statistics.AllHandsComplete;
-  for (const Holding missing : statistics.MissingCards) whole = whole && missing.Empty();
+  bool whole = statistics.allHandsComplete;
+  for (const Holding missing : statistics.missingCards) whole = whole && missing.Empty();
   return whole;
 }
 
@@ -60,9 +60,9 @@ struct Census {
 
   void Add(const Statistics& statistics, Seat seat) {
     const auto suit = static_cast<Suit>(deals++ % kSuits);
-    Count(points, statistics.SeatHCP[seat]);
-    Count(length, statistics.SuitLength[seat][suit]);
-    ++patterns[PatternOf(statistics.SuitLength[seat])];
+    Count(points, statistics.seatHcp[seat]);
+    Count(length, statistics.suitLength[seat][suit]);
+    ++patterns[PatternOf(statistics.suitLength[seat])];
   }
 
   void ExpectShapesByChance() const {
@@ -145,7 +145,7 @@ TEST(Random, LeavesAFullDealAndRefusesAnImpossibleOne) {
 
 TEST(GenerateDeal, AHandWithoutLimitsIsLikeAnyOther) {
   Constraints constraints;
-  constraints.NumGenHands = 1;
+  constraints.numGenHands = 1;
   RandomSource random(6);
   Census census;
   for (int i = 0; i < 200000; ++i) {
@@ -166,8 +166,8 @@ TEST(GenerateDeal, AHandWithoutLimitsIsLikeAnyOther) {
 
 TEST(GenerateDeal, LengthsAboveAMinimumAreThoseOfChance) {
   Constraints constraints;
-  constraints.NumGenHands = 1;
-  constraints.SuitLimits[kOne][Suit::Spades].minimum = 5;
+  constraints.numGenHands = 1;
+  constraints.suitLimits[kOne][Suit::Spades].minimum = 5;
   RandomSource random(13);
   std::vector<long> counts(6);  // from five spades on
   for (int i = 0; i < 50000; ++i) {
@@ -188,34 +188,34 @@ struct Request {
 
 Constraints Asking(Limits points1, Limits points2) {
   Constraints constraints;
-  constraints.PointLimits.values_ = {{points1, points2}};
-  constraints.HandDirection.values_ = {{2, 1}};  // South and East
+  constraints.pointLimits.values = {{points1, points2}};
+  constraints.handDirection.values = {{2, 1}};  // South and East
   return constraints;
 }
 
 Constraints OfType(HandType type, int option = 0) {
   Constraints constraints = Asking({0, 37}, {0, 37});
-  constraints.UseSuitLengths.fill(false);
-  constraints.HandTypeIndex.fill(type);
-  constraints.HandTypeOption[type].fill(option);
+  constraints.useSuitLengths.fill(false);
+  constraints.handTypeIndex.fill(type);
+  constraints.handTypeOption[type].fill(option);
   return constraints;
 }
 
 Constraints WithSuits(Constraints constraints, GenHand hand, std::array<Limits, 4> suits) {
-  constraints.SuitLimits[hand].values_ = suits;
+  constraints.suitLimits[hand].values = suits;
   return constraints;
 }
 
 bool Meets(const Constraints& constraints, const Statistics& statistics, Seat dealer) {
   for (const GenHand hand : kGenHands) {
-    if (IndexOf(hand) >= constraints.NumGenHands) continue;
+    if (IndexOf(hand) >= constraints.numGenHands) continue;
     const Seat seat = SeatOf(constraints, hand, dealer);
-    const auto [lowest, highest] = constraints.PointLimits[hand];
-    if (statistics.SeatHCP[seat] < lowest || statistics.SeatHCP[seat] > highest) return false;
+    const auto [lowest, highest] = constraints.pointLimits[hand];
+    if (statistics.seatHcp[seat] < lowest || statistics.seatHcp[seat] > highest) return false;
     for (const Suit suit : kAllSuits) {
-      const auto [shortest, longest] = constraints.SuitLimits[hand][suit];
-      const int length = statistics.SuitLength[seat][suit];
-      if (constraints.UseSuitLengths[hand] && (length < shortest || length > longest)) return false;
+      const auto [shortest, longest] = constraints.suitLimits[hand][suit];
+      const int length = statistics.suitLength[seat][suit];
+      if (constraints.useSuitLengths[hand] && (length < shortest || length > longest)) return false;
     }
   }
   return true;
@@ -265,29 +265,29 @@ TEST(GenerateDeal, MeetsTheConstraintsAndDealsTheRest) {
 
 TEST(GenerateDeal, LengthsOfAHandThatGoesByTypeLeaveTheOtherAlone) {
   Constraints constraints = OfType(HandType::Balanced);
-  constraints.UseSuitLengths[kOne] = true;
-  constraints.SuitLimits[kTwo][Suit::Spades].minimum = 8;
+  constraints.useSuitLengths[kOne] = true;
+  constraints.suitLimits[kTwo][Suit::Spades].minimum = 8;
   RandomSource random(14);
   int long6 = 0;
   for (int i = 0; i < 1000; ++i) {
     const Statistics statistics = GetStats(GenerateDeal(constraints, Seat::North, random));
-    long6 += statistics.SuitLength[Seat::South][Suit::Spades] >= 6 ? 1 : 0;
+    long6 += statistics.suitLength[Seat::South][Suit::Spades] >= 6 ? 1 : 0;
   }
   EXPECT_GT(long6, 20);  // some 5 % by chance
 }
 
 TEST(GenerateDeal, DirectionsCountFromNorthOrTheDealer) {
   Constraints constraints = Asking({20, 37}, {0, 4});
-  constraints.HandDirection.values_ = {{0, 3}};
+  constraints.handDirection.values = {{0, 3}};
   RandomSource random(8);
   for (const bool relative : {false, true}) {
-    constraints.RelativeToDealer = relative;
+    constraints.relativeToDealer = relative;
     for (const Seat dealer : kAllSeats) {
       for (int i = 0; i < 50; ++i) {
         const Seat base = relative ? dealer : Seat::North;
         const Statistics statistics = GetStats(GenerateDeal(constraints, dealer, random));
-        EXPECT_GE(statistics.SeatHCP[base], 20);
-        EXPECT_LE(statistics.SeatHCP[SeatAfter(base, 3)], 4);
+        EXPECT_GE(statistics.seatHcp[base], 20);
+        EXPECT_LE(statistics.seatHcp[SeatAfter(base, 3)], 4);
       }
     }
   }
@@ -304,7 +304,7 @@ Shapes ShapesOf(const Constraints& constraints, int deals) {
   RandomSource random(9);
   for (int i = 0; i < deals; ++i) {
     const HandTable hands = GenerateDeal(constraints, Seat::North, random);
-    const PerSuit<int> lengths = GetStats(hands).SuitLength[SeatOf(constraints, kOne, Seat::North)];
+    const PerSuit<int> lengths = GetStats(hands).suitLength[SeatOf(constraints, kOne, Seat::North)];
     ++shapes.patterns[PatternOf(lengths)];
     const int top = *std::max_element(lengths.begin(), lengths.end());
     if (std::count(lengths.begin(), lengths.end(), top) > 1) continue;

@@ -19,12 +19,12 @@ namespace {
 /// A saved board with a table; `cards` of it dealt at random, the others in the pack.
 Board BoardWith(int cards, RandomSource& random) {
   Board board;
-  Random(board.Hands, random);
+  Random(board.hands, random);
   for (int index = cards; index < kCardsInPack; ++index) {
     const Card card = Card::FromIndex(index * 7 % kCardsInPack);
-    for (const Seat seat : kAllSeats) board.Hands[seat][card.suit].Remove(card.rank);
+    for (const Seat seat : kAllSeats) board.hands[seat][card.suit].Remove(card.rank);
   }
-  board.MakeableValid = true;
+  board.makeableValid = true;
   return board;
 }
 
@@ -35,12 +35,12 @@ Board Partial() {
 
 /// No card is in two hands, and the board counts as edited.
 void ExpectEdited(const Board& board) {
-  EXPECT_TRUE(board.HandChanged);
-  EXPECT_FALSE(board.MakeableValid);
-  const Statistics statistics = GetStats(board.Hands);
+  EXPECT_TRUE(board.handChanged);
+  EXPECT_FALSE(board.makeableValid);
+  const Statistics statistics = GetStats(board.hands);
   int cards = 0;
-  for (const int count : statistics.SeatCardCount) cards += count;
-  for (const Holding missing : statistics.MissingCards) cards += missing.Count();
+  for (const int count : statistics.seatCardCount) cards += count;
+  for (const Holding missing : statistics.missingCards) cards += missing.Count();
   EXPECT_EQ(cards, kCardsInPack);
 }
 
@@ -60,15 +60,15 @@ TEST(Swap, MovesHandsAsNumbered) {
     Board board = before;
     swap(board, c.from, c.to);
     for (const Seat seat : kAllSeats) {
-      EXPECT_EQ(board.Hands[seat], before.Hands[static_cast<Seat>(c.source[seat])]) << c.from;
+      EXPECT_EQ(board.hands[seat], before.hands[static_cast<Seat>(c.source[seat])]) << c.from;
     }
     ExpectEdited(board);
   }
   for (const auto& [from, to] : {std::pair(-1, 0), {7, 0}, {0, 4}, {3, -1}}) {
     Board board = before;
     EXPECT_THROW(swap(board, from, to), Fault);
-    EXPECT_EQ(board.Hands, before.Hands);
-    EXPECT_FALSE(board.HandChanged);
+    EXPECT_EQ(board.hands, before.hands);
+    EXPECT_FALSE(board.handChanged);
   }
 }
 
@@ -95,7 +95,7 @@ TEST(Swap, AnySequenceIsUndoneByItsInverse) {
     }
     std::reverse(inverses.begin(), inverses.end());
     for (const auto& inverse : inverses) inverse();
-    ASSERT_EQ(board.Hands, before.Hands);
+    ASSERT_EQ(board.hands, before.hands);
   }
 }
 
@@ -104,13 +104,13 @@ TEST(SwapSuit, ExchangesRankForRankInEveryHand) {
   Board board = before;
   SwapSuit(board, Suit::Spades, Suit::Clubs);
   for (const Seat seat : kAllSeats) {
-    EXPECT_EQ(board.Hands[seat][Suit::Spades], before.Hands[seat][Suit::Clubs]);
-    EXPECT_EQ(board.Hands[seat][Suit::Clubs], before.Hands[seat][Suit::Spades]);
-    EXPECT_EQ(board.Hands[seat][Suit::Hearts], before.Hands[seat][Suit::Hearts]);
+    EXPECT_EQ(board.hands[seat][Suit::Spades], before.hands[seat][Suit::Clubs]);
+    EXPECT_EQ(board.hands[seat][Suit::Clubs], before.hands[seat][Suit::Spades]);
+    EXPECT_EQ(board.hands[seat][Suit::Hearts], before.hands[seat][Suit::Hearts]);
   }
   board = before;
   SwapSuit(board, Suit::Hearts, Suit::Hearts);
-  EXPECT_EQ(board.Hands, before.Hands);
+  EXPECT_EQ(board.hands, before.hands);
   ExpectEdited(board);
 }
 
@@ -136,24 +136,24 @@ TEST(Rotate, TakesTheAuctionAlongWhereItCan) {
   for (const auto& c : kCases) {
     Board board;
     RandomSource random(3);
-    Random(board.Hands, random);
+    Random(board.hands, random);
     test::SetAuction(board, c.before);
     Board expected = board;
     test::SetAuction(expected, c.after == nullptr ? c.before : c.after);
-    const HandTable hands = board.Hands;
+    const HandTable hands = board.hands;
     EXPECT_EQ(Rotate(board, c.rotation, true), c.after != nullptr) << c.before;
-    EXPECT_EQ(board.Calls, expected.Calls) << c.before;
+    EXPECT_EQ(board.calls, expected.calls) << c.before;
     EXPECT_EQ(ContractLabel(board), c.contract) << c.before;
-    EXPECT_NE(board.Hands, hands);
+    EXPECT_NE(board.hands, hands);
     ExpectEdited(board);
   }
   Board board;
   test::SetAuction(board, "1S P P P");
   EXPECT_TRUE(Rotate(board, Rotation::Clockwise));
   EXPECT_EQ(board.NumCalls(), 4) << "the auction stays unless asked";
-  while (!board.Calls.Full()) board.Calls.Add(Call::Pass());
+  while (!board.calls.Full()) board.calls.Add(Call::Pass());
   EXPECT_FALSE(Rotate(board, Rotation::Clockwise, true)) << "no room";
-  EXPECT_TRUE(board.Calls.Full());
+  EXPECT_TRUE(board.calls.Full());
 }
 
 TEST(MoveCard, BetweenHandsAndPack) {
@@ -161,23 +161,23 @@ TEST(MoveCard, BetweenHandsAndPack) {
   Board board;
   for (const std::optional<Seat> to :
        {std::optional(Seat::West), std::optional(Seat::North), std::optional<Seat>()}) {
-    board.HandChanged = false;
-    board.MakeableValid = true;
+    board.handChanged = false;
+    board.makeableValid = true;
     EXPECT_TRUE(MoveCard(board, ace, to));
-    EXPECT_EQ(SeatHolding(board.Hands, ace), to ? IndexOf(*to) : -1);
+    EXPECT_EQ(SeatHolding(board.hands, ace), to ? IndexOf(*to) : -1);
     ExpectEdited(board);
     const Board there = board;
-    board.HandChanged = false;
-    board.MakeableValid = true;
+    board.handChanged = false;
+    board.makeableValid = true;
     EXPECT_TRUE(MoveCard(board, ace, to));
-    EXPECT_EQ(board.Hands, there.Hands);
-    EXPECT_FALSE(board.HandChanged) << "it was there already";
-    EXPECT_TRUE(board.MakeableValid);
+    EXPECT_EQ(board.hands, there.hands);
+    EXPECT_FALSE(board.handChanged) << "it was there already";
+    EXPECT_TRUE(board.makeableValid);
   }
   board = Board();
-  board.Hands[Seat::East][Suit::Spades] = Holding::FromBits(Holding::kAllBits);
+  board.hands[Seat::East][Suit::Spades] = Holding::FromBits(Holding::kAllBits);
   EXPECT_FALSE(MoveCard(board, ace, Seat::East)) << "a fourteenth card";
-  EXPECT_FALSE(board.HandChanged);
+  EXPECT_FALSE(board.handChanged);
   EXPECT_TRUE(MoveCard(board, {Suit::Spades, Rank::Two}, Seat::East)) << "it is there already";
   EXPECT_TRUE(MoveCard(board, {Suit::Spades, Rank::Two}, std::nullopt));
   EXPECT_TRUE(MoveCard(board, ace, Seat::East));
@@ -186,14 +186,14 @@ TEST(MoveCard, BetweenHandsAndPack) {
 TEST(SetHand, ReadsOrRefusesWithTheReason) {
   Board board;
   for (const char* text : {"AKT2.QJ5.-.98", "akt2.jq5..98", " AK102.QJ5.-.98 ", "2K10A.5QJ..89"}) {
-    board.Hands[Seat::South].fill(Ranks("7"));
+    board.hands[Seat::South].fill(Ranks("7"));
     EXPECT_EQ(SetHand(board, Seat::South, text).value_or(""), "");
     const PerSuit<Holding> expected{{Ranks("AK12"), Ranks("QJ5"), Holding(), Ranks("98")}};
-    EXPECT_EQ(board.Hands[Seat::South], expected) << text;
+    EXPECT_EQ(board.hands[Seat::South], expected) << text;
     ExpectEdited(board);
-    board.HandChanged = false;
+    board.handChanged = false;
     EXPECT_FALSE(SetHand(board, Seat::South, text));
-    EXPECT_FALSE(board.HandChanged) << "the same hand";
+    EXPECT_FALSE(board.handChanged) << "the same hand";
   }
   const Board before = board;
   const struct {
@@ -215,38 +215,38 @@ TEST(SetHand, ReadsOrRefusesWithTheReason) {
   for (const auto& c : kRefused) {
     const auto reason = SetHand(board, Seat::North, c.text);
     EXPECT_NE(reason.value_or("").find(c.reason), std::string::npos) << c.text << *reason;
-    EXPECT_EQ(board.Hands, before.Hands) << c.text;
+    EXPECT_EQ(board.hands, before.hands) << c.text;
   }
   EXPECT_FALSE(SetHand(board, Seat::North, "A.-.-.9", TakeCards::FromAllSeats));
-  EXPECT_EQ(board.Hands[Seat::South][Suit::Spades], Ranks("K12"));
-  EXPECT_EQ(board.Hands[Seat::South][Suit::Clubs], Ranks("8"));
+  EXPECT_EQ(board.hands[Seat::South][Suit::Spades], Ranks("K12"));
+  EXPECT_EQ(board.hands[Seat::South][Suit::Clubs], Ranks("8"));
   ExpectEdited(board);
 }
 
 TEST(FillFourthHand, OnlyWhenThreeAreFull) {
   RandomSource random(4);
   Board full;
-  Random(full.Hands, random);
+  Random(full.hands, random);
   for (const Seat seat : kAllSeats) {
     for (const Suit kept : kAllSuits) {
       Board board = full;
       for (const Suit suit : kAllSuits) {
-        if (suit != kept) board.Hands[seat][suit] = Holding();
+        if (suit != kept) board.hands[seat][suit] = Holding();
       }
       const Board before = board;
       EditHistory history;
       ASSERT_TRUE(FillFourthHand(board, history));
-      EXPECT_EQ(board.Hands, full.Hands);
+      EXPECT_EQ(board.hands, full.hands);
       ExpectEdited(board);
       ASSERT_TRUE(UndoFill(board, history));
-      EXPECT_EQ(board.Hands, before.Hands);
+      EXPECT_EQ(board.hands, before.hands);
     }
   }
   EditHistory history;
   Board partial = Partial();
   for (Board* board : {&full, &partial}) {
     EXPECT_FALSE(FillFourthHand(*board, history));
-    EXPECT_FALSE(board->HandChanged);
+    EXPECT_FALSE(board->handChanged);
     EXPECT_FALSE(CanUndoFill(*board, history));
   }
 }
@@ -262,44 +262,44 @@ TEST(EditHistory, UndoesClearAndFill) {
 
   ASSERT_TRUE(Fill(board, history, random));
   ExpectEdited(board);
-  EXPECT_TRUE(GetStats(board.Hands).AllHandsComplete);
+  EXPECT_TRUE(GetStats(board.hands).allHandsComplete);
   ASSERT_TRUE(UndoFill(board, history));
-  EXPECT_EQ(board.Hands, before.Hands);
-  EXPECT_TRUE(board.MakeableValid);
+  EXPECT_EQ(board.hands, before.hands);
+  EXPECT_TRUE(board.makeableValid);
   EXPECT_FALSE(UndoFill(board, history)) << "once only";
 
   Clear(board, history);
   ExpectEdited(board);
-  EXPECT_FALSE(HasCards(board.Hands));
+  EXPECT_FALSE(HasCards(board.hands));
   EXPECT_EQ(board.NumCalls(), 0);
   Board other = board;
-  other.BoardNumber = 2;
+  other.boardNumber = 2;
   EXPECT_FALSE(UndoClear(other, history)) << "another board";
   Clear(board, history);  // nothing this time
   ASSERT_TRUE(UndoClear(board, history));
-  EXPECT_EQ(board.Hands, before.Hands);
-  EXPECT_EQ(board.Calls, before.Calls);
-  EXPECT_EQ(board.Contract, "1C");
-  EXPECT_TRUE(board.MakeableValid);
-  EXPECT_TRUE(board.HandChanged);
+  EXPECT_EQ(board.hands, before.hands);
+  EXPECT_EQ(board.calls, before.calls);
+  EXPECT_EQ(board.contract, "1C");
+  EXPECT_TRUE(board.makeableValid);
+  EXPECT_TRUE(board.handChanged);
 
   ASSERT_TRUE(Fill(board, history, random));
-  board.MakeableValid = true;
-  board.HandChanged = false;
-  const HandTable full = board.Hands;
+  board.makeableValid = true;
+  board.handChanged = false;
+  const HandTable full = board.hands;
   EXPECT_TRUE(Fill(board, history, random)) << "a full deal";
-  EXPECT_EQ(board.Hands, full);
-  EXPECT_TRUE(board.MakeableValid);
-  EXPECT_TRUE(board.HandChanged);
+  EXPECT_EQ(board.hands, full);
+  EXPECT_TRUE(board.makeableValid);
+  EXPECT_TRUE(board.handChanged);
 
   Clear(board, history);
   ASSERT_TRUE(Fill(board, history, random));
   ASSERT_TRUE(UndoClear(board, history));
   EXPECT_FALSE(UndoFill(board, history)) << "that fill is gone";
-  EXPECT_EQ(board.Hands, full);
-  AddCard(board.Hands, SeatHolding(full, {}) == 0 ? Card{Suit::Clubs, Rank::Two} : Card{},
+  EXPECT_EQ(board.hands, full);
+  AddCard(board.hands, SeatHolding(full, {}) == 0 ? Card{Suit::Clubs, Rank::Two} : Card{},
           Seat::North);
-  board.Hands[Seat::East].fill(Holding());
+  board.hands[Seat::East].fill(Holding());
   EXPECT_FALSE(Fill(board, history, random)) << "North has fourteen cards";
 }
 

@@ -21,13 +21,13 @@ class GenerateRun : public test::LibraryTest {
 
   GenerateOutcome Run(int first, int last, const GenerateOptions& options = {}) {
     Constraints constraints;
-    constraints.NumGenHands = 1;
-    constraints.GenBoards = {first, last};
+    constraints.numGenHands = 1;
+    constraints.genBoards = {first, last};
     return Generate(session, constraints, options);
   }
   Board Stored(int number) {
     Board board;
-    board.BoardNumber = number;
+    board.boardNumber = number;
     bool complete = false;
     EXPECT_TRUE(LoadHandBasic(session, board, complete));
     EXPECT_TRUE(complete) << number;
@@ -39,13 +39,13 @@ TEST_F(GenerateRun, StoresTheRangeAndShowsItsFirstBoard) {
   const GenerateOutcome outcome = Run(30, 33);
   EXPECT_EQ(outcome.boardsStored, 4);
   EXPECT_FALSE(outcome.cancelled || outcome.refused || outcome.failed);
-  EXPECT_EQ(session.library.BoardCount, 4);
-  EXPECT_EQ(session.library.FirstBoard, 30);
-  EXPECT_EQ(session.library.MaxBoard, 33);
-  EXPECT_EQ(session.board.BoardNumber, 30);
-  EXPECT_EQ(session.board.Hands, Stored(30).Hands);
-  EXPECT_FALSE(session.board.HandChanged);
-  EXPECT_NE(Stored(31).Hands, Stored(32).Hands);
+  EXPECT_EQ(session.library.boardCount, 4);
+  EXPECT_EQ(session.library.firstBoard, 30);
+  EXPECT_EQ(session.library.maxBoard, 33);
+  EXPECT_EQ(session.board.boardNumber, 30);
+  EXPECT_EQ(session.board.hands, Stored(30).hands);
+  EXPECT_FALSE(session.board.handChanged);
+  EXPECT_NE(Stored(31).hands, Stored(32).hands);
   const std::vector<std::string> steps{"Generating board 30", "Generating board 31",
                                        "Generating board 32", "Generating board 33"};
   EXPECT_EQ(host.steps, steps);
@@ -56,27 +56,27 @@ TEST_F(GenerateRun, AsksOnceBeforeOverwriting) {
   PutBoard(2);
   PutBoard(3);
   FindFiles(session);
-  session.board.BoardNumber = 2;
+  session.board.boardNumber = 2;
   LoadHand(session);
-  session.board.PlayMode = true;
+  session.board.playMode = true;
   const Board before = session.board;
   host.ExpectAsk(kOverwrite, "Tricklet", Answer::No);
   EXPECT_TRUE(Run(1, 4).refused);
-  EXPECT_TRUE(session.board.PlayMode) << "a play goes on when nothing was generated";
-  EXPECT_EQ(session.library.BoardCount, 2);
-  EXPECT_EQ(session.board.Hands, before.Hands);
+  EXPECT_TRUE(session.board.playMode) << "a play goes on when nothing was generated";
+  EXPECT_EQ(session.library.boardCount, 2);
+  EXPECT_EQ(session.board.hands, before.hands);
   host.ExpectAsk(kOverwrite, "Tricklet", Answer::Yes);
   EXPECT_EQ(Run(1, 4).boardsStored, 4);
-  EXPECT_NE(Stored(2).Hands, before.Hands);
+  EXPECT_NE(Stored(2).hands, before.hands);
   EXPECT_EQ(Run(5, 6).boardsStored, 2) << "none of these existed";
 }
 
 TEST_F(GenerateRun, UnsavedChangesComeFirst) {
-  session.board.HandChanged = true;
+  session.board.handChanged = true;
   host.ExpectAskWith("Do you want to save changes to board 1", Answer::Cancel);
   EXPECT_TRUE(Run(1, 2).refused);
-  EXPECT_EQ(session.library.BoardCount, 0);
-  EXPECT_TRUE(session.board.HandChanged);
+  EXPECT_EQ(session.library.boardCount, 0);
+  EXPECT_TRUE(session.board.handChanged);
 }
 
 TEST_F(GenerateRun, CancelKeepsTheBoardsUpToThen) {
@@ -84,8 +84,8 @@ TEST_F(GenerateRun, CancelKeepsTheBoardsUpToThen) {
   const GenerateOutcome outcome = Run(1, 9);
   EXPECT_TRUE(outcome.cancelled);
   EXPECT_EQ(outcome.boardsStored, 2);
-  EXPECT_EQ(session.library.LastBoard, 2);
-  EXPECT_EQ(session.board.BoardNumber, 1);
+  EXPECT_EQ(session.library.lastBoard, 2);
+  EXPECT_EQ(session.board.boardNumber, 1);
 }
 
 TEST_F(GenerateRun, PreviewTakesDealsAgainOrEnds) {
@@ -101,31 +101,31 @@ TEST_F(GenerateRun, PreviewTakesDealsAgainOrEnds) {
   EXPECT_EQ(outcome.boardsStored, 2);
   EXPECT_TRUE(outcome.cancelled);
   ASSERT_EQ(shown.size(), 5U);
-  EXPECT_NE(shown[0].Hands, shown[1].Hands);
-  EXPECT_EQ(Stored(1).Hands, shown[2].Hands);
-  EXPECT_EQ(shown[3].BoardNumber, 2);
-  EXPECT_EQ(Stored(2).Hands, shown[3].Hands);
-  EXPECT_EQ(session.library.BoardCount, 2);
+  EXPECT_NE(shown[0].hands, shown[1].hands);
+  EXPECT_EQ(Stored(1).hands, shown[2].hands);
+  EXPECT_EQ(shown[3].boardNumber, 2);
+  EXPECT_EQ(Stored(2).hands, shown[3].hands);
+  EXPECT_EQ(session.library.boardCount, 2);
 }
 
 TEST_F(GenerateRun, TablesAreComputedInBatchesOnceAllBoardsAreStored) {
   test::FakeSolver solver;
-  session.GetSolver = [&solver]() -> Solver& { return solver; };
+  session.getSolver = [&solver]() -> Solver& { return solver; };
   EXPECT_EQ(Run(3, 42, {.analyse = true}).tables.computed, 40);
   EXPECT_EQ(solver.batches, (std::vector<std::size_t>{4, 32, 4}));
   for (const int number : {3, 42}) {
     const Board board = Stored(number);
-    EXPECT_TRUE(board.MakeableValid);
-    EXPECT_EQ(board.Makeable, ToMakeable(solver.RecordOf(SolverDealText(board.Hands))));
+    EXPECT_TRUE(board.makeableValid);
+    EXPECT_EQ(board.makeable, ToMakeable(solver.RecordOf(SolverDealText(board.hands))));
   }
-  EXPECT_TRUE(session.board.MakeableValid);
+  EXPECT_TRUE(session.board.makeableValid);
   EXPECT_EQ(host.working, 0);
 
   solver.failure = "Too many tables";
   const GenerateOutcome outcome = Run(50, 51, {.analyse = true});
   EXPECT_EQ(outcome.boardsStored, 2) << "deals are kept though the solver fails";
   EXPECT_EQ(outcome.tables.failure, "Too many tables");
-  EXPECT_FALSE(session.board.MakeableValid);
+  EXPECT_FALSE(session.board.makeableValid);
 }
 
 TEST_F(GenerateRun, ABoardThatCannotBeStoredEndsTheRun) {
@@ -134,8 +134,8 @@ TEST_F(GenerateRun, ABoardThatCannotBeStoredEndsTheRun) {
   const GenerateOutcome outcome = Run(1, 3);
   EXPECT_TRUE(outcome.failed);
   EXPECT_EQ(outcome.boardsStored, 1);
-  EXPECT_EQ(session.board.Hands, Stored(1).Hands);
-  EXPECT_FALSE(session.BatchRunning);
+  EXPECT_EQ(session.board.hands, Stored(1).hands);
+  EXPECT_FALSE(session.batchRunning);
 }
 
 }  // namespace

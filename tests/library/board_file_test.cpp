@@ -20,7 +20,7 @@ std::string Lines(std::initializer_list<const char*> lines) {
 std::string SixteenHoldings() {
   Board board;
   for (int card = 0; card < kCardsInPack; ++card) {
-    AddCard(board.Hands, Card::FromIndex(card), static_cast<Seat>(card % kSeats));
+    AddCard(board.hands, Card::FromIndex(card), static_cast<Seat>(card % kSeats));
   }
   const std::string text = WriteBoardText(board);
   return text.substr(0, text.size() - std::string(" 0\r\n 0\r\n").size());
@@ -40,12 +40,12 @@ TEST(BoardFile, NamesAndNumbers) {
 
 TEST(BoardFile, IsWrittenLineByLine) {
   Board board;
-  board.Hands[Seat::North][Suit::Spades] = AddSpace("AK1052");
-  board.Hands[Seat::West][Suit::Clubs] = AddSpace("3");
-  board.Calls.Add(Call::Bid(1, BidStrain::NoTrump));
-  board.Calls.Add(Call::Double());
-  board.MakeableValid = true;
-  board.Makeable[TableSeat::South][TableStrain::Clubs] = 11;
+  board.hands[Seat::North][Suit::Spades] = AddSpace("AK1052");
+  board.hands[Seat::West][Suit::Clubs] = AddSpace("3");
+  board.calls.Add(Call::Bid(1, BidStrain::NoTrump));
+  board.calls.Add(Call::Double());
+  board.makeableValid = true;
+  board.makeable[TableSeat::South][TableStrain::Clubs] = 11;
   const std::string expected =
       Lines({" A K 10 5 2", "",   "",    "",    "",  "", "", "", "", "", "", "", "", "", "",
              " 3",          " 2", "1NT", "Dbl", " 1"}) +
@@ -58,30 +58,30 @@ TEST(BoardFile, RandomBoardsComeBackAsTheyWere) {
   std::mt19937 random(7);
   for (int round = 0; round < 200; ++round) {
     Board board;
-    board.BoardNumber = 1 + round;
+    board.boardNumber = 1 + round;
     for (int card = 0; card < kCardsInPack; ++card) {
       const auto seat = random() % 5;  // a fifth of the cards stays in the pack
-      if (seat < 4) AddCard(board.Hands, Card::FromIndex(card), static_cast<Seat>(seat));
+      if (seat < 4) AddCard(board.hands, Card::FromIndex(card), static_cast<Seat>(seat));
     }
     for (auto calls = random() % 101; calls > 0; --calls) {
       const auto index = static_cast<int>(random() % 38);
-      board.Calls.Add(index < 35    ? Call::Bid(index / 5 + 1, static_cast<BidStrain>(index % 5))
+      board.calls.Add(index < 35    ? Call::Bid(index / 5 + 1, static_cast<BidStrain>(index % 5))
                       : index == 35 ? Call::Pass()
                       : index == 36 ? Call::Double()
                                     : Call::Redouble());
     }
-    board.MakeableValid = random() % 2 == 0;
-    for (auto& row : board.Makeable) {
+    board.makeableValid = random() % 2 == 0;
+    for (auto& row : board.makeable) {
       for (auto& tricks : row) tricks = static_cast<std::int16_t>(random() % 14);
     }
     Board read;
-    read.BoardNumber = board.BoardNumber;
+    read.boardNumber = board.boardNumber;
     ASSERT_TRUE(ReadBoardText(WriteBoardText(board), read, TableReading::Always));
-    EXPECT_EQ(read.Hands, board.Hands);
-    EXPECT_EQ(read.Calls, board.Calls);
-    EXPECT_EQ(read.MakeableValid, board.MakeableValid);
-    if (board.MakeableValid) {
-      EXPECT_EQ(read.Makeable, board.Makeable);
+    EXPECT_EQ(read.hands, board.hands);
+    EXPECT_EQ(read.calls, board.calls);
+    EXPECT_EQ(read.makeableValid, board.makeableValid);
+    if (board.makeableValid) {
+      EXPECT_EQ(read.makeable, board.makeable);
     }
   }
 }
@@ -122,10 +122,10 @@ TEST(BoardFile, ReadsOrRefuses) {
   };
   for (const auto& c : kCases) {
     Board board;
-    board.MakeableValid = true;
+    board.makeableValid = true;
     EXPECT_EQ(ReadBoardText(c.text, board, TableReading::Always), c.readable) << c.what;
     EXPECT_EQ(board.NumCalls(), c.calls) << c.what;
-    EXPECT_EQ(board.MakeableValid, c.table) << c.what;
+    EXPECT_EQ(board.makeableValid, c.table) << c.what;
   }
 }
 
@@ -139,8 +139,8 @@ TEST(BoardFile, AnyLineEndIsTaken) {
     }
     Board board;
     EXPECT_TRUE(ReadBoardText(other, board, TableReading::Always));
-    EXPECT_TRUE(GetStats(board.Hands).AllHandsComplete);
-    EXPECT_EQ(board.Contract, "7NT");
+    EXPECT_TRUE(GetStats(board.hands).allHandsComplete);
+    EXPECT_EQ(board.contract, "7NT");
   }
 }
 
@@ -148,15 +148,15 @@ TEST(BoardFile, ACardNamedTwiceStaysInTheLastHand) {
   std::string text = Lines({" A", "", "", "", " A K", "", "", "", "", "", "", "", "", "", "", ""});
   Board board;
   ASSERT_TRUE(ReadBoardText(text + "0\r\n", board, TableReading::Always));
-  EXPECT_TRUE(board.Hands[Seat::North][Suit::Spades].Empty());
-  EXPECT_EQ(HoldingText(board.Hands[Seat::East][Suit::Spades]), " A K");
+  EXPECT_TRUE(board.hands[Seat::North][Suit::Spades].Empty());
+  EXPECT_EQ(HoldingText(board.hands[Seat::East][Suit::Spades]), " A K");
 }
 
 TEST(BoardFile, ATenMustBeWrittenTen) {
   std::string text = Lines({" K T", "", "", "", "", "", "", "", "", "", "", "", "", "", "", ""});
   Board board;
   ASSERT_TRUE(ReadBoardText(text + "0\r\n", board, TableReading::Always));
-  EXPECT_EQ(HoldingText(board.Hands[Seat::North][Suit::Spades]), " K");
+  EXPECT_EQ(HoldingText(board.hands[Seat::North][Suit::Spades]), " K");
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ constexpr const char* kTitle = "Hand already in library";
 class BoardStore : public LibraryTest {
  protected:
   BoardStore() {
-    session.board.BoardNumber = 7;
+    session.board.boardNumber = 7;
     path = session.BoardPath(7);
   }
   fs::path path;
@@ -29,20 +29,20 @@ class BoardStore : public LibraryTest {
 
 TEST_F(BoardStore, SavesANewBoardWithoutAQuestion) {
   ClearAll(session.board);
-  EXPECT_TRUE(session.board.HandChanged);
+  EXPECT_TRUE(session.board.handChanged);
   EXPECT_TRUE(SaveHand(session));
-  EXPECT_FALSE(session.board.HandChanged);
+  EXPECT_FALSE(session.board.handChanged);
   EXPECT_EQ(ReadFile(path), WriteBoardText(session.board));
-  EXPECT_EQ(session.library.BoardCount, 1);
+  EXPECT_EQ(session.library.boardCount, 1);
 }
 
 TEST_F(BoardStore, AsksBeforeAChangedBoardReplacesAFile) {
   WriteFile(path, "old");
-  session.board.HandChanged = true;
+  session.board.handChanged = true;
   host.ExpectAsk(kQuestion, kTitle, Answer::No);
   EXPECT_FALSE(SaveHand(session));
   EXPECT_EQ(ReadFile(path), "old");
-  EXPECT_TRUE(session.board.HandChanged);
+  EXPECT_TRUE(session.board.handChanged);
 
   host.ExpectAsk(kQuestion, kTitle, Answer::Yes);
   EXPECT_TRUE(SaveHand(session));
@@ -56,18 +56,18 @@ TEST_F(BoardStore, AsksBeforeAChangedBoardReplacesAFile) {
 TEST_F(BoardStore, LeavesAReadOnlyFileAlone) {
   WriteFile(path, "old");
   fs::permissions(path, fs::perms::owner_read);
-  session.board.HandChanged = true;
+  session.board.handChanged = true;
   host.ExpectAsk(kQuestion, kTitle, Answer::Yes);
   host.ExpectTell("The file\n" + PathText(path) + "\nis read only so the hand cannot be saved");
   EXPECT_FALSE(SaveHand(session));
   EXPECT_EQ(ReadFile(path), "old");
-  EXPECT_TRUE(session.board.HandChanged);
+  EXPECT_TRUE(session.board.handChanged);
 }
 
 TEST_F(BoardStore, AMarkedFileThatIsReplacedUnaskedKeepsItsMark) {
   WriteFile(path, "old");
   fs::permissions(path, fs::perms::owner_read);
-  session.board.HandChanged = false;
+  session.board.handChanged = false;
   EXPECT_TRUE(SaveHand(session));
   EXPECT_NE(ReadFile(path), "old");
   EXPECT_TRUE(IsReadOnly(path));
@@ -76,10 +76,10 @@ TEST_F(BoardStore, AMarkedFileThatIsReplacedUnaskedKeepsItsMark) {
 
 TEST_F(BoardStore, AFailedSaveIsReportedAndLosesNothing) {
   fs::create_directories(path / "in the way");  // a folder where the file should be
-  session.board.HandChanged = true;
+  session.board.handChanged = true;
   host.ExpectAskWith("Do you wish to try to continue?", Answer::Yes);
   EXPECT_FALSE(SaveHand(session));
-  EXPECT_TRUE(session.board.HandChanged);
+  EXPECT_TRUE(session.board.handChanged);
   EXPECT_FALSE(host.ended);
 
   fs::remove_all(session.LibraryPath());
@@ -97,21 +97,21 @@ TEST_F(BoardStore, NothingIsLeftBesideAFailedFile) {
 
 TEST_F(BoardStore, LoadsWhatWasSaved) {
   WriteFile(path, test::OneSuitEachText());
-  session.board.HandChanged = true;
+  session.board.handChanged = true;
   EXPECT_TRUE(LoadHand(session));
-  EXPECT_FALSE(session.board.HandChanged);
-  EXPECT_EQ(session.board.Hands[Seat::West][Suit::Clubs].Count(), 13);
-  EXPECT_EQ(session.board.BoardNumber, 7);
+  EXPECT_FALSE(session.board.handChanged);
+  EXPECT_EQ(session.board.hands[Seat::West][Suit::Clubs].Count(), 13);
+  EXPECT_EQ(session.board.boardNumber, 7);
 }
 
 TEST_F(BoardStore, AMissingFileGivesAnEmptyBoardOfTheNumber) {
-  AddCard(session.board.Hands, {Suit::Spades, Rank::Ace}, Seat::North);
-  session.board.Calls.Add(Call::Pass());
+  AddCard(session.board.hands, {Suit::Spades, Rank::Ace}, Seat::North);
+  session.board.calls.Add(Call::Pass());
   EXPECT_FALSE(LoadHand(session));
-  EXPECT_FALSE(HasCards(session.board.Hands));
+  EXPECT_FALSE(HasCards(session.board.hands));
   EXPECT_EQ(session.board.NumCalls(), 0);
-  EXPECT_FALSE(session.board.HandChanged);
-  EXPECT_EQ(session.board.BoardNumber, 7);
+  EXPECT_FALSE(session.board.handChanged);
+  EXPECT_EQ(session.board.boardNumber, 7);
 }
 
 TEST_F(BoardStore, AnUnreadableFileGivesItsMessageAndKeepsWhatWasRead) {
@@ -119,7 +119,7 @@ TEST_F(BoardStore, AnUnreadableFileGivesItsMessageAndKeepsWhatWasRead) {
   WriteFile(path, test::OneSuitEachText().substr(0, 60));
   host.ExpectTell("Can't read the file " + PathText(path));
   EXPECT_FALSE(LoadHand(session));
-  EXPECT_EQ(session.board.Hands[Seat::North][Suit::Spades].Count(), 13);
+  EXPECT_EQ(session.board.hands[Seat::North][Suit::Spades].Count(), 13);
 
   WriteFile(path, std::string(kMaxBoardFileBytes + 1, ' '));
   host.ExpectTell("Can't read the file " + PathText(path));
@@ -129,7 +129,7 @@ TEST_F(BoardStore, AnUnreadableFileGivesItsMessageAndKeepsWhatWasRead) {
 TEST_F(BoardStore, TheBasicLoaderTellsCompleteDeals) {
   WriteFile(path, test::OneSuitEachText());
   Board board;
-  board.BoardNumber = 7;
+  board.boardNumber = 7;
   bool complete = false;
   EXPECT_TRUE(LoadHandBasic(session, board, complete));
   EXPECT_TRUE(complete);

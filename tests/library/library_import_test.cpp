@@ -22,9 +22,9 @@ TEST_F(LibraryImport, ImportsALibraryAndMakesItCurrent) {
   EXPECT_EQ(host.folderTitle, "Choose the library to import");
   EXPECT_EQ(session.LibraryName(), name);
   EXPECT_EQ(store.Read("macro", "library"), name);
-  EXPECT_EQ(session.LibraryNames.at(static_cast<std::size_t>(session.LibIndex)), name);
-  EXPECT_EQ(session.library.LastBoard, 2);
-  EXPECT_EQ(session.board.BoardNumber, 1);
+  EXPECT_EQ(session.libraryNames.at(static_cast<std::size_t>(session.libIndex)), name);
+  EXPECT_EQ(session.library.lastBoard, 2);
+  EXPECT_EQ(session.board.boardNumber, 1);
   EXPECT_EQ(ReadFile(Root() / place / "LIN.txt"), "results");
   EXPECT_TRUE(fs::exists(Other() / place / "002.txt"));
 }
@@ -51,7 +51,7 @@ TEST_F(LibraryImport, RefusesToImportWhatIsNoNewLibrary) {
       {Other() / "gone", "There is no folder " + PathText(Other() / "gone")},
       {Root().root_path(), "Please choose a sub-folder, not " + PathText(Root().root_path())},
   };
-  session.board.HandChanged = true;  // not asked about: the board is not left
+  session.board.handChanged = true;  // not asked about: the board is not left
   for (const auto& [chosen, message] : cases) {
     host.ExpectTell(message);
     EXPECT_FALSE(ImportLibraryFrom(session, chosen));
@@ -106,7 +106,7 @@ TEST_F(LibraryImport, ImportsAllNewLibrariesAndSaysSo) {
       message.replace(place, 3, PathText(from));
     }
     const std::size_t before = FoldersOf(Root()).size();
-    session.board.HandChanged = true;  // the board is not left, and keeps its changes
+    session.board.handChanged = true;  // the board is not left, and keeps its changes
     if (c.fresh == 0) {
       host.ExpectTell(message);
       EXPECT_FALSE(ImportLibrariesFrom(session, from));
@@ -118,9 +118,9 @@ TEST_F(LibraryImport, ImportsAllNewLibrariesAndSaysSo) {
       EXPECT_TRUE(ImportLibrariesFrom(session, from));
     }
     EXPECT_EQ(FoldersOf(Root()).size(), before + static_cast<std::size_t>(c.fresh)) << c.name;
-    EXPECT_EQ(session.LibraryNames, FoldersOf(Root()));
+    EXPECT_EQ(session.libraryNames, FoldersOf(Root()));
     EXPECT_EQ(session.LibraryName(), "Club");
-    EXPECT_TRUE(session.board.HandChanged);
+    EXPECT_TRUE(session.board.handChanged);
   }
   EXPECT_EQ(ReadFile(Root() / "Teaching" / "007.txt"), "seven");
 }

@@ -17,7 +17,7 @@ class LibraryStore : public LibraryTest {
  protected:
   void ExpectUnsavedQuestion(Answer answer) {
     host.ExpectAsk("Do you want to save changes to board " +
-                       std::to_string(session.board.BoardNumber) + " in library Club?",
+                       std::to_string(session.board.boardNumber) + " in library Club?",
                    "Save changes?", answer);
   }
 };
@@ -29,18 +29,18 @@ TEST_F(LibraryStore, CountsOnlyBoardFiles) {
   }
   fs::create_directories(session.LibraryPath() / "040.txt");
   FindFiles(session);
-  EXPECT_EQ(session.library.BoardCount, 2);
-  EXPECT_EQ(session.library.FirstBoard, 3);
-  EXPECT_EQ(session.library.LastBoard, 30);
-  EXPECT_EQ(session.library.MaxBoard, 30);
+  EXPECT_EQ(session.library.boardCount, 2);
+  EXPECT_EQ(session.library.firstBoard, 3);
+  EXPECT_EQ(session.library.lastBoard, 30);
+  EXPECT_EQ(session.library.maxBoard, 30);
   EXPECT_EQ(LibraryCaption(session), "Library - Club");
   EXPECT_EQ(LibraryCountText(session), "2 boards in library");
 }
 
 TEST_F(LibraryStore, AnEmptyLibraryOffers24Boards) {
-  EXPECT_EQ(session.library.MaxBoard, 24);
-  EXPECT_EQ(session.library.FirstBoard, 1000);
-  EXPECT_EQ(session.library.LastBoard, 0);
+  EXPECT_EQ(session.library.maxBoard, 24);
+  EXPECT_EQ(session.library.firstBoard, 1000);
+  EXPECT_EQ(session.library.lastBoard, 0);
 }
 
 TEST_F(LibraryStore, ListsFoldersAndFallsBackToTheFirst) {
@@ -50,9 +50,9 @@ TEST_F(LibraryStore, ListsFoldersAndFallsBackToTheFirst) {
   WriteFile(folder.Path() / "a file", "x");
   session.settings.library = "gone";
   GetLibraryNames(session);
-  EXPECT_EQ(session.LibraryNames,
+  EXPECT_EQ(session.libraryNames,
             (std::vector<std::string>{"Alpha", "beta", "Club", "\u00c9t\u00e9 2"}));
-  EXPECT_EQ(session.LibIndex, 0);
+  EXPECT_EQ(session.libIndex, 0);
   EXPECT_EQ(session.LibraryName(), "Alpha");
   EXPECT_EQ(store.Read("macro", "library"), "Alpha");
 }
@@ -66,44 +66,44 @@ TEST_F(LibraryStore, AnEmptyRootIsGivenADefaultLibrary) {
 
 TEST_F(LibraryStore, SteppingGoesRoundTheEnds) {
   PutBoard(1);
-  session.library.MaxBoard = 24;
-  session.board.BoardNumber = 24;
+  session.library.maxBoard = 24;
+  session.board.boardNumber = 24;
   EXPECT_TRUE(StepBoard(session));
-  EXPECT_EQ(session.board.BoardNumber, 1);
-  EXPECT_TRUE(HasCards(session.board.Hands));
+  EXPECT_EQ(session.board.boardNumber, 1);
+  EXPECT_TRUE(HasCards(session.board.hands));
   EXPECT_TRUE(StepBoard(session, true));
-  EXPECT_EQ(session.board.BoardNumber, 24);
-  EXPECT_FALSE(HasCards(session.board.Hands));
+  EXPECT_EQ(session.board.boardNumber, 24);
+  EXPECT_FALSE(HasCards(session.board.hands));
   EXPECT_FALSE(SelectBoard(session, 25));
   EXPECT_FALSE(SelectBoard(session, 0));
 }
 
 TEST_F(LibraryStore, AsksAboutUnsavedChangesBeforeTheBoardIsLeft) {
   PutBoard(1);
-  session.board.HandChanged = true;
+  session.board.handChanged = true;
   ExpectUnsavedQuestion(Answer::Cancel);
   EXPECT_FALSE(StepBoard(session));
-  EXPECT_EQ(session.board.BoardNumber, 1);
-  EXPECT_TRUE(session.board.HandChanged);
+  EXPECT_EQ(session.board.boardNumber, 1);
+  EXPECT_TRUE(session.board.handChanged);
 
   ExpectUnsavedQuestion(Answer::No);
   EXPECT_TRUE(StepBoard(session));
   EXPECT_EQ(ReadFile(session.BoardPath(1)), test::OneSuitEachText());
 
-  session.board.HandChanged = true;  // board 2, which has no file yet
+  session.board.handChanged = true;  // board 2, which has no file yet
   ExpectUnsavedQuestion(Answer::Yes);
   EXPECT_TRUE(StepBoard(session));
   EXPECT_TRUE(fs::exists(session.BoardPath(2)));
-  EXPECT_EQ(session.board.BoardNumber, 3);
+  EXPECT_EQ(session.board.boardNumber, 3);
 }
 
 TEST_F(LibraryStore, StaysOnABoardThatCouldNotBeSaved) {
   fs::remove_all(session.LibraryPath());
-  session.board.HandChanged = true;
+  session.board.handChanged = true;
   ExpectUnsavedQuestion(Answer::Yes);
   host.ExpectAskWith("Do you wish to try to continue?", Answer::Yes);
   EXPECT_FALSE(StepBoard(session));
-  EXPECT_TRUE(session.board.HandChanged);
+  EXPECT_TRUE(session.board.handChanged);
 }
 
 TEST_F(LibraryStore, SelectingALibraryStoresItAndShowsItsFirstBoard) {
@@ -111,10 +111,10 @@ TEST_F(LibraryStore, SelectingALibraryStoresItAndShowsItsFirstBoard) {
   WriteFile(folder.Path() / "Other" / "002.txt", test::OneSuitEachText());
   GetLibraryNames(session);
   EXPECT_EQ(session.LibraryName(), "Club");
-  session.board.BoardNumber = 5;
+  session.board.boardNumber = 5;
   EXPECT_TRUE(SelectLibrary(session, " Other "));
-  EXPECT_EQ(session.board.BoardNumber, 1);
-  EXPECT_EQ(session.library.MaxBoard, 2);
+  EXPECT_EQ(session.board.boardNumber, 1);
+  EXPECT_EQ(session.library.maxBoard, 2);
   EXPECT_EQ(store.Read("macro", "library"), "Other");
   EXPECT_FALSE(SelectLibrary(session, "Nowhere"));
   EXPECT_EQ(session.LibraryName(), "Other");
@@ -123,22 +123,22 @@ TEST_F(LibraryStore, SelectingALibraryStoresItAndShowsItsFirstBoard) {
 TEST_F(LibraryStore, TrimmingAsksAndRecycles) {
   for (const int number : {2, 21, 24}) PutBoard(number);
   FindFiles(session);
-  session.board.BoardNumber = 24;
+  session.board.boardNumber = 24;
   const std::string tail = "\n\nClick yes to send them to the recycle bin";
   host.ExpectAsk("Please confirm that you wish to remove hand 24" + tail, "Tricklet", Answer::No);
   EXPECT_FALSE(SetMaxBoard(session, 23));
-  EXPECT_EQ(session.library.MaxBoard, 24);
+  EXPECT_EQ(session.library.maxBoard, 24);
 
   host.ExpectAsk("Please confirm that you wish to remove hands 21 to 24" + tail, "Tricklet",
                  Answer::Yes);
   EXPECT_TRUE(SetMaxBoard(session, 20));
   EXPECT_EQ(host.recycled, (std::vector<std::string>{"021.txt", "024.txt"}));
-  EXPECT_EQ(session.library.MaxBoard, 20);
-  EXPECT_EQ(session.board.BoardNumber, 20);
-  EXPECT_EQ(session.library.BoardCount, 1);
+  EXPECT_EQ(session.library.maxBoard, 20);
+  EXPECT_EQ(session.board.boardNumber, 20);
+  EXPECT_EQ(session.library.boardCount, 1);
 
   EXPECT_TRUE(SetMaxBoard(session, 999));
-  EXPECT_EQ(session.library.MaxBoard, 999);
+  EXPECT_EQ(session.library.maxBoard, 999);
   EXPECT_FALSE(SetMaxBoard(session, 1000));
   EXPECT_FALSE(SetMaxBoard(session, 0));
   EXPECT_EQ(host.beeps, 2);
@@ -178,23 +178,23 @@ TEST_F(LibraryStore, CreatesAndRenames) {
   EXPECT_FALSE(RenameLibrary(session, "Tuesday"));
   EXPECT_TRUE(RenameLibrary(session, "Caf\u00e9 pairs"));
   EXPECT_EQ(session.LibraryName(), "Caf\u00e9 pairs");
-  EXPECT_EQ(session.CopyLibrary, "Caf\u00e9 pairs") << "what was copied is still there";
+  EXPECT_EQ(session.copyLibrary, "Caf\u00e9 pairs") << "what was copied is still there";
   EXPECT_TRUE(fs::exists(session.BoardPath(1)));
   EXPECT_FALSE(fs::exists(folder.Path() / "Club"));
-  EXPECT_EQ(session.LibraryNames.at(static_cast<std::size_t>(session.LibIndex)), "Caf\u00e9 pairs");
+  EXPECT_EQ(session.libraryNames.at(static_cast<std::size_t>(session.libIndex)), "Caf\u00e9 pairs");
 }
 
 TEST_F(LibraryStore, PastesAFileByteForByte) {
   const std::string text = test::OneSuitEachText() + "left over\r\n";
   WriteFile(session.BoardPath(5), text);
-  session.board.BoardNumber = 5;
+  session.board.boardNumber = 5;
   EXPECT_FALSE(PasteHand(session)) << "nothing was copied yet";
   CopyHand(session);
-  session.board.BoardNumber = 9;
+  session.board.boardNumber = 9;
   LoadHand(session);
   EXPECT_TRUE(PasteHand(session));
   EXPECT_EQ(ReadFile(session.BoardPath(9)), text);
-  EXPECT_TRUE(HasCards(session.board.Hands));
+  EXPECT_TRUE(HasCards(session.board.hands));
 
   host.ExpectAsk("Do you wish to overwrite board 9\nwith board 5 from library: Club",
                  "Copy from Library Club: board 5\nto Library Club: board 9", Answer::No);

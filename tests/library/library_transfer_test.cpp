@@ -44,15 +44,15 @@ TEST_F(LibraryTransfer, ExportsTheCurrentLibraryAndAsksBeforeItOverwrites) {
 }
 
 TEST_F(LibraryTransfer, ExportsWhatIsStoredOnceChangesAreSettled) {
-  session.board.Hands = {};
+  session.board.hands = {};
   ExpectUnsavedQuestion(Answer::Cancel);
   EXPECT_FALSE(ExportLibraryTo(session, Other()));
   ExpectNothingChanged();
-  EXPECT_TRUE(session.board.HandChanged);
+  EXPECT_TRUE(session.board.handChanged);
 
   ExpectUnsavedQuestion(Answer::No);
   EXPECT_TRUE(ExportLibraryTo(session, Other()));
-  EXPECT_TRUE(HasCards(session.board.Hands)) << "the board is shown as it is stored";
+  EXPECT_TRUE(HasCards(session.board.hands)) << "the board is shown as it is stored";
   EXPECT_EQ(ReadFile(Other() / "Club" / "001.txt"), test::OneSuitEachText());
 }
 
@@ -152,7 +152,7 @@ TEST_F(LibraryTransfer, ACopyThatFailsOrIsCancelledLeavesNothing) {
 }
 
 TEST_F(LibraryTransfer, MovingIsACopyAndASwitchOfTheRoot) {
-  session.CopyLibrary = "Club";
+  session.copyLibrary = "Club";
   host.ExpectAsk("Your library of hands is currently stored in the folder:\n" + RootText() +
                      "\nPlease choose a different folder (new or existing)",
                  "Tricklet", Answer::OK);
@@ -162,20 +162,20 @@ TEST_F(LibraryTransfer, MovingIsACopyAndASwitchOfTheRoot) {
   EXPECT_EQ(session.settings.filelocation, FolderText(Other()));
   EXPECT_EQ(store.Read("macro", "filelocation"), FolderText(Other()));
   EXPECT_EQ(session.LibraryName(), "Club");
-  EXPECT_EQ(session.LibraryNames, (std::vector<std::string>{"Club", "Teaching"}));
-  EXPECT_EQ(session.library.BoardCount, 2);
-  EXPECT_EQ(session.CopyLibrary, "");
+  EXPECT_EQ(session.libraryNames, (std::vector<std::string>{"Club", "Teaching"}));
+  EXPECT_EQ(session.library.boardCount, 2);
+  EXPECT_EQ(session.copyLibrary, "");
   EXPECT_EQ(FoldersOf(Root()).size(), 2U) << "the old root stays";
 }
 
 TEST_F(LibraryTransfer, ChangesAreSettledOnlyOnceTheCopyIsCertain) {
-  session.board.HandChanged = true;
+  session.board.handChanged = true;
   for (const bool move : {false, true}) {
     fs::create_directories(Other() / "Teaching");
     ExpectCopyQuestion(Answer::Yes);
     host.ExpectAskWith("1 library is already in that folder", Answer::No);
     EXPECT_FALSE(move ? MoveLibrariesTo(session, Other()) : ExportLibrariesTo(session, Other()));
-    EXPECT_TRUE(session.board.HandChanged);
+    EXPECT_TRUE(session.board.handChanged);
     fs::remove(Other() / "Teaching");
     ExpectCopyQuestion(Answer::Yes);
     ExpectUnsavedQuestion(Answer::Cancel);
@@ -193,7 +193,7 @@ TEST_F(LibraryTransfer, ARootWithoutLibrariesCanBeLeft) {
   ExpectCopyQuestion(Answer::Yes);
   EXPECT_TRUE(MoveLibrariesTo(session, Other()));
   EXPECT_EQ(session.settings.filelocation, FolderText(Other()));
-  EXPECT_EQ(session.LibraryNames, std::vector<std::string>{"Default"});
+  EXPECT_EQ(session.libraryNames, std::vector<std::string>{"Default"});
 }
 
 TEST_F(LibraryTransfer, ARootWithoutTheCurrentLibraryGetsADefault) {
@@ -202,7 +202,7 @@ TEST_F(LibraryTransfer, ARootWithoutTheCurrentLibraryGetsADefault) {
   EXPECT_TRUE(MoveLibrariesTo(session, Other()));
   EXPECT_EQ(session.LibraryName(), "Default");
   EXPECT_EQ(store.Read("macro", "library"), "Default");
-  EXPECT_EQ(session.LibraryNames, (std::vector<std::string>{"Aaa", "Default"}));
+  EXPECT_EQ(session.libraryNames, (std::vector<std::string>{"Aaa", "Default"}));
 
   // A folder that cannot be made leaves everything as it is.
   WriteFile(folder.Path() / "file", "x");
@@ -223,12 +223,12 @@ TEST_F(LibraryTransfer, CopiesTheCurrentLibraryUnderANewName) {
   }
   EXPECT_EQ(host.beeps, 3);
   ExpectNothingChanged();
-  session.board.BoardNumber = 3;
+  session.board.boardNumber = 3;
   EXPECT_TRUE(CopyLibrary(session, "Club \u00e9t\u00e9"));
   EXPECT_EQ(ReadFile(Root() / u8"Club \u00e9t\u00e9" / "003.txt"), test::OneSuitEachText());
   EXPECT_EQ(session.LibraryName(), "Club");
-  EXPECT_EQ(session.board.BoardNumber, 3) << "the board on the screen stays";
-  EXPECT_EQ(session.LibraryNames.size(), 3U);
+  EXPECT_EQ(session.board.boardNumber, 3) << "the board on the screen stays";
+  EXPECT_EQ(session.libraryNames.size(), 3U);
 }
 
 TEST_F(LibraryTransfer, DeletesOnlyToTheRecycleBinAndNeverTheCurrentLibrary) {
@@ -249,12 +249,12 @@ TEST_F(LibraryTransfer, DeletesOnlyToTheRecycleBinAndNeverTheCurrentLibrary) {
   EXPECT_TRUE(fs::exists(Root() / "Teaching" / "007.txt"));
 
   host.hasRecycleBin = true;
-  session.board.HandChanged = true;
+  session.board.handChanged = true;
   EXPECT_TRUE(DeleteLibrary(session, "Teaching"));
   EXPECT_EQ(host.recycled, std::vector<std::string>{"Teaching"});
-  EXPECT_EQ(session.LibraryNames, (std::vector<std::string>{"Alias", "Club"}));
-  EXPECT_EQ(session.LibIndex, 1);
-  EXPECT_TRUE(session.board.HandChanged) << "the board on the screen is not touched";
+  EXPECT_EQ(session.libraryNames, (std::vector<std::string>{"Alias", "Club"}));
+  EXPECT_EQ(session.libIndex, 1);
+  EXPECT_TRUE(session.board.handChanged) << "the board on the screen is not touched";
 
   fs::remove_all(Root());
   host.ExpectTell("There are no libraries in " + RootText());

@@ -32,7 +32,7 @@ TEST_F(StartUp, TheFirstStartAsksForARootAndMakesTheDefaultLibrary) {
   EXPECT_EQ(store.Read("macro", "filelocation"), FolderText(folder.Path() / "hands"));
   EXPECT_TRUE(fs::is_directory(folder.Path() / "hands" / "Default"));
   EXPECT_EQ(session.LibraryName(), "Default");
-  EXPECT_EQ(session.board.BoardNumber, 1);
+  EXPECT_EQ(session.board.boardNumber, 1);
 }
 
 TEST_F(StartUp, WithoutARootTheProgramEnds) {
@@ -51,7 +51,7 @@ TEST_F(StartUp, AStoredLibraryThatIsGoneIsMadeAgain) {
     EXPECT_EQ(session.LibraryName(), name);
     EXPECT_TRUE(fs::is_directory(session.LibraryPath()));
   }
-  EXPECT_EQ(session.LibraryNames, (std::vector<std::string>{"Club", "Last year", "St. Ives"}));
+  EXPECT_EQ(session.libraryNames, (std::vector<std::string>{"Club", "Last year", "St. Ives"}));
 }
 
 TEST_F(StartUp, WhereAStoredLibraryCannotBeMadeAgainTheFirstIsOpened) {
@@ -62,7 +62,7 @@ TEST_F(StartUp, WhereAStoredLibraryCannotBeMadeAgainTheFirstIsOpened) {
     session.settings.library = name;
     EXPECT_TRUE(OpenLibraries(session));
     EXPECT_EQ(session.LibraryName(), "Club") << name;
-    EXPECT_EQ(session.LibraryNames, std::vector<std::string>{"Club"});
+    EXPECT_EQ(session.libraryNames, std::vector<std::string>{"Club"});
   }
 }
 
@@ -72,7 +72,7 @@ TEST_F(StartUp, ARootThatGoesLaterIsNotMadeAnew) {
   host.ExpectTell("There is no folder " + session.settings.filelocation);
   GetLibraryNames(session);
   EXPECT_FALSE(fs::exists(session.FileLocation()));
-  EXPECT_EQ(session.LibraryNames, std::vector<std::string>{"Club"});
+  EXPECT_EQ(session.libraryNames, std::vector<std::string>{"Club"});
 }
 
 TEST_F(StartUp, TheNoticeComesUntilItIsNotWantedAnyMore) {
@@ -89,7 +89,7 @@ TEST_F(StartUp, TheNoticeComesUntilItIsNotWantedAnyMore) {
 
 TEST_F(StartUp, SaysWhenUpdatesAreNotLookedFor) {
   EXPECT_EQ(UpdateText(session.settings), "");
-  session.settings.AutoUpdate = false;
+  session.settings.autoUpdate = false;
   EXPECT_EQ(UpdateText(session.settings), "Option to check for updates is switched off");
 }
 

@@ -22,14 +22,14 @@ class TablesTest : public test::LibraryTest {
   void PutDeal(int number) {
     Board board;
     for (const Seat seat : kAllSeats) {
-      board.Hands[seat][static_cast<Suit>(seat)] = Holding::FromBits(Holding::kAllBits);
+      board.hands[seat][static_cast<Suit>(seat)] = Holding::FromBits(Holding::kAllBits);
     }
     const auto rank = static_cast<Rank>(number % kRanks);
     const auto other = static_cast<Rank>(number / kRanks % kRanks);
-    board.Hands[Seat::North][Suit::Spades].Remove(rank);
-    board.Hands[Seat::East][Suit::Hearts].Remove(other);
-    board.Hands[Seat::North][Suit::Hearts].Add(other);
-    board.Hands[Seat::East][Suit::Spades].Add(rank);
+    board.hands[Seat::North][Suit::Spades].Remove(rank);
+    board.hands[Seat::East][Suit::Hearts].Remove(other);
+    board.hands[Seat::North][Suit::Hearts].Add(other);
+    board.hands[Seat::East][Suit::Spades].Add(rank);
     WriteFile(session.BoardPath(number), WriteBoardText(board));
   }
   Board Stored(int number) {
@@ -39,8 +39,8 @@ class TablesTest : public test::LibraryTest {
   }
   void ExpectOwnTable(int number) {
     const Board board = Stored(number);
-    EXPECT_TRUE(board.MakeableValid) << number;
-    EXPECT_EQ(board.Makeable, ToMakeable(FakeSolver::RecordOf(SolverDealText(board.Hands))))
+    EXPECT_TRUE(board.makeableValid) << number;
+    EXPECT_EQ(board.makeable, ToMakeable(FakeSolver::RecordOf(SolverDealText(board.hands))))
         << number;
   }
   FakeSolver solver;
@@ -49,14 +49,14 @@ class TablesTest : public test::LibraryTest {
 TEST_F(TablesTest, EveryBoardGetsItsOwnTableInBatches) {
   for (int number = 1; number <= 100; ++number) PutDeal(number);
   WriteFile(session.BoardPath(200), "nothing");
-  session.board.BoardNumber = 40;
+  session.board.boardNumber = 40;
   LoadHand(session);
   const AnalysisOutcome outcome = AnalyseBoards(session, solver, 1, 999, false);
   EXPECT_EQ(outcome.computed, 100);
   EXPECT_EQ(outcome.incomplete, 1);
   EXPECT_EQ(solver.batches, (std::vector<std::size_t>{4, 32, 32, 32}));
   for (int number = 1; number <= 100; ++number) ExpectOwnTable(number);
-  EXPECT_TRUE(session.board.MakeableValid) << "the board in hand has it too";
+  EXPECT_TRUE(session.board.makeableValid) << "the board in hand has it too";
   EXPECT_EQ(host.working, 0);
 
   solver.batches.clear();
@@ -78,7 +78,7 @@ TEST_F(TablesTest, FailuresAreTold) {
   PutDeal(1);
   solver.failure = "Too many tables";
   EXPECT_EQ(AnalysisText(AnalyseBoards(session, solver, 1, 9, false)), "Too many tables");
-  EXPECT_FALSE(Stored(1).MakeableValid);
+  EXPECT_FALSE(Stored(1).makeableValid);
   solver.missing = "no solver";
   host.ExpectTell("no solver");
   AnalyseLibrary(session, solver);
@@ -90,31 +90,31 @@ TEST_F(TablesTest, ATableIsStoredOnlyForTheDealThatWasAnalysed) {
   const Board first = Stored(1);
   MakeableTable table;
   table[TableSeat::North][TableStrain::Clubs] = 9;
-  EXPECT_FALSE(StoreTable(session.BoardPath(2), first.Hands, table));
-  EXPECT_FALSE(StoreTable(session.BoardPath(3), first.Hands, table));
-  EXPECT_FALSE(Stored(2).MakeableValid);
-  EXPECT_TRUE(StoreTable(session.BoardPath(1), first.Hands, table));
-  EXPECT_EQ(Stored(1).Makeable, table);
+  EXPECT_FALSE(StoreTable(session.BoardPath(2), first.hands, table));
+  EXPECT_FALSE(StoreTable(session.BoardPath(3), first.hands, table));
+  EXPECT_FALSE(Stored(2).makeableValid);
+  EXPECT_TRUE(StoreTable(session.BoardPath(1), first.hands, table));
+  EXPECT_EQ(Stored(1).makeable, table);
 }
 
 TEST_F(TablesTest, LoadingABoardAddsItsMissingTable) {
   PutDeal(5);
-  session.board.BoardNumber = 5;
+  session.board.boardNumber = 5;
   ASSERT_TRUE(LoadHand(session));
-  EXPECT_FALSE(session.board.MakeableValid) << "no solver is to be used";
-  session.GetSolver = [this]() -> Solver& { return solver; };
-  session.settings.AutoMakeable = false;
+  EXPECT_FALSE(session.board.makeableValid) << "no solver is to be used";
+  session.getSolver = [this]() -> Solver& { return solver; };
+  session.settings.autoMakeable = false;
   ASSERT_TRUE(LoadHand(session));
-  EXPECT_FALSE(session.board.MakeableValid);
-  session.settings.AutoMakeable = true;
-  session.TablesInBackground = true;
+  EXPECT_FALSE(session.board.makeableValid);
+  session.settings.autoMakeable = true;
+  session.tablesInBackground = true;
   ASSERT_TRUE(LoadHand(session));
-  EXPECT_FALSE(session.board.MakeableValid);
+  EXPECT_FALSE(session.board.makeableValid);
   EXPECT_TRUE(WantsTable(session, session.board));
-  session.TablesInBackground = false;
+  session.tablesInBackground = false;
   ASSERT_TRUE(LoadHand(session));
-  EXPECT_TRUE(session.board.MakeableValid);
-  EXPECT_FALSE(session.board.HandChanged);
+  EXPECT_TRUE(session.board.makeableValid);
+  EXPECT_FALSE(session.board.handChanged);
   ExpectOwnTable(5);
   EXPECT_EQ(solver.solved.size(), 1U);
 }

@@ -32,7 +32,7 @@ class LibraryTransfer : public LibraryTest {
   }
   void ExpectFailure(const std::string& part) { host.ExpectAskWith(part, Answer::Yes); }
   void ExpectUnsavedQuestion(Answer answer) {
-    session.board.HandChanged = true;
+    session.board.handChanged = true;
     host.ExpectAskWith("Do you want to save changes to board 1 in library Club?", answer);
   }
   /// The root and the current library are what they were.
@@ -40,7 +40,7 @@ class LibraryTransfer : public LibraryTest {
     EXPECT_EQ(session.settings.filelocation, RootText());
     EXPECT_EQ(session.LibraryName(), "Club");
     EXPECT_EQ(FoldersOf(Root()), (std::vector<std::string>{"Club", "Teaching"}));
-    EXPECT_EQ(session.LibraryNames, FoldersOf(Root()));
+    EXPECT_EQ(session.libraryNames, FoldersOf(Root()));
     EXPECT_TRUE(std::filesystem::is_empty(Other()));
   }
 };

@@ -15,7 +15,7 @@ using test::ScriptedHost;
 
 Board BoardOf(int number, const std::string& auction = "") {
   Board board;
-  board.BoardNumber = number;
+  board.boardNumber = number;
   test::SetAuction(board, auction);
   return board;
 }
@@ -72,9 +72,9 @@ TEST(AuctionEntry, RandomAuctionsKeepTheLaws) {
     while (!entry.Over() && calls.size() < 90) {
       const auto dice = random() % 10;
       Call call = Call::Pass();
-      if (dice < 3 && entry.Now().LastBid < 34) {
-        const auto room = static_cast<unsigned>(34 - entry.Now().LastBid);
-        const int index = entry.Now().LastBid + 1 + static_cast<int>(random() % std::min(room, 6U));
+      if (dice < 3 && entry.Now().lastBid < 34) {
+        const auto room = static_cast<unsigned>(34 - entry.Now().lastBid);
+        const int index = entry.Now().lastBid + 1 + static_cast<int>(random() % std::min(room, 6U));
         call = Call::Bid(index / 5 + 1, static_cast<BidStrain>(index % 5));
       } else if (dice < 5 && entry.DblEnabled()) {
         call = Call::Double();
@@ -100,9 +100,9 @@ TEST(AuctionEntry, RandomAuctionsKeepTheLaws) {
     Board derived = board;
     GetContract(derived);  // the same rule over the finished list of calls
     ASSERT_EQ(ContractLabel(board), ContractLabel(derived));
-    ASSERT_EQ(board.ContractLevel, derived.ContractLevel);
-    if (board.ContractLevel > 0) {
-      ASSERT_EQ(board.Trumps, derived.Trumps);
+    ASSERT_EQ(board.contractLevel, derived.contractLevel);
+    if (board.contractLevel > 0) {
+      ASSERT_EQ(board.trumps, derived.trumps);
     }
   }
 }
@@ -134,7 +134,7 @@ TEST(AuctionEntry, StartsInTheDealersColumn) {
     EXPECT_EQ(entry.ToCall(), board.Dealer());
     entry.pass();
     // columns West, North, East, South
-    EXPECT_EQ(entry.Now().CallIndex, (IndexOf(board.Dealer()) + 1) % 4);
+    EXPECT_EQ(entry.Now().callIndex, (IndexOf(board.Dealer()) + 1) % 4);
   }
 }
 
@@ -171,8 +171,8 @@ TEST(AuctionEntry, TheLimitIsToldAndKept) {
     EXPECT_EQ(entry.Calls().Count(), c.calls);
     if (c.calls < CallList::kCapacity) {
       Board longer = board;
-      longer.Calls = entry.Calls();
-      longer.Calls.Add(Call::Pass());
+      longer.calls = entry.Calls();
+      longer.calls.Add(Call::Pass());
       host.ExpectTell("Bid limit has been reached");  // and nothing of rules
       EXPECT_EQ(AuctionEntry(longer, host).Calls().Count(), c.calls);
     }
@@ -217,19 +217,19 @@ TEST(AuctionEntry, ADeclarerIsForgottenWhenHisBidIsTakenBack) {
 TEST(AuctionEntry, ConfirmingTellsChangedFromUnchanged) {
   Board board = BoardOf(1, "1NT Pass Pass Pass");
   ScriptedHost host;
-  board.PlayMode = true;
+  board.playMode = true;
   AuctionEntry same(board, host);
   EXPECT_TRUE(same.OK());
-  EXPECT_FALSE(board.HandChanged);
-  EXPECT_FALSE(board.PlayMode);
+  EXPECT_FALSE(board.handChanged);
+  EXPECT_FALSE(board.playMode);
 
   AuctionEntry other(board, host);
   other.Clear();
   EXPECT_TRUE(other.OKEnabled()) << "an auction can be taken away";
   other.AllPass();
   EXPECT_TRUE(other.OK());
-  EXPECT_EQ(board.Contract, "All Pass");
-  EXPECT_TRUE(board.HandChanged);
+  EXPECT_EQ(board.contract, "All Pass");
+  EXPECT_TRUE(board.handChanged);
 }
 
 TEST(AuctionEntry, CancelAsks) {
@@ -246,14 +246,14 @@ TEST(AuctionEntry, CancelAsks) {
 
 TEST(AuctionEntry, AStoredAuctionThatBreaksTheRulesOpensAsFarAsItIsLegal) {
   Board board = BoardOf(2, "1S Pass 1H Pass Pass Pass");
-  const CallList stored = board.Calls;
+  const CallList stored = board.calls;
   ScriptedHost host;
   host.ExpectTell(
       "The auction of this board breaks the rules at call 3 (1H by West).\n"
       "Only the calls before it are shown.");
   AuctionEntry entry(board, host);
   EXPECT_EQ(entry.Calls().Count(), 2);
-  EXPECT_EQ(board.Calls, stored) << "the board keeps its calls until they are confirmed";
+  EXPECT_EQ(board.calls, stored) << "the board keeps its calls until they are confirmed";
 }
 
 }  // namespace

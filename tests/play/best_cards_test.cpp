@@ -23,8 +23,8 @@ std::vector<Card> Legal(const CardPlay& play) {
 
 /// Tricks of North-South in the end when both sides go on as well as can be, tried card by card.
 int TricksByTrying(CardPlay& play) {
-  if (play.Finished()) return play.Now().TricksWon[Side::NorthSouth];
-  const bool ours = SideOf(*play.Now().OnPlay) == Side::NorthSouth;
+  if (play.Finished()) return play.Now().tricksWon[Side::NorthSouth];
+  const bool ours = SideOf(*play.Now().onPlay) == Side::NorthSouth;
   int best = ours ? 0 : kTricks;
   for (const Card card : Legal(play)) {
     play.Play(card);
@@ -43,7 +43,7 @@ class BestCardsTest : public testing::Test {
     std::shuffle(pack.begin(), pack.end(), random);
     board = Board();
     for (std::size_t i = 0; i < pack.size(); ++i) {
-      AddCard(board.Hands, Card::FromIndex(pack[i]), static_cast<Seat>(i % 4));
+      AddCard(board.hands, Card::FromIndex(pack[i]), static_cast<Seat>(i % 4));
     }
     test::SetAuction(board, auction);
     ASSERT_TRUE(play.Start());
@@ -71,10 +71,10 @@ TEST_F(BestCardsTest, AgreeWithTryingEveryCardInTheLastTricks) {
     ASSERT_NO_FATAL_FAILURE(Deal(random, auctions[deal % 5]));
     while (play.UndoTop() < kCardsInPack - kLastCards) ASSERT_NO_FATAL_FAILURE(PlayAny(random));
     for (; !play.Finished(); PlayAny(random)) {
-      const Side side = SideOf(*play.Now().OnPlay);
-      const auto position = PositionOf(play.Now(), board.Trumps);
+      const Side side = SideOf(*play.Now().onPlay);
+      const auto position = PositionOf(play.Now(), board.trumps);
       ASSERT_TRUE(position);
-      const auto scores = BestCards(*solver, *position, play.Now().TricksWon[side]);
+      const auto scores = BestCards(*solver, *position, play.Now().tricksWon[side]);
       ASSERT_EQ(scores.size(), Legal(play).size());
       for (const CardScore& score : scores) {
         ASSERT_TRUE(play.Play(score.card));
@@ -84,7 +84,7 @@ TEST_F(BestCardsTest, AgreeWithTryingEveryCardInTheLastTricks) {
         play.Undo();
       }
     }
-    EXPECT_FALSE(PositionOf(play.Now(), board.Trumps));
+    EXPECT_FALSE(PositionOf(play.Now(), board.trumps));
   }
 }
 

@@ -31,13 +31,13 @@ Board RandomBoard(std::mt19937& random, Strain trumps, Seat declarer) {
   std::shuffle(pack.begin(), pack.end(), random);
   Board board;
   for (std::size_t i = 0; i < pack.size(); ++i) {
-    AddCard(board.Hands, Card::FromIndex(pack[i]), static_cast<Seat>(i % 4));
+    AddCard(board.hands, Card::FromIndex(pack[i]), static_cast<Seat>(i % 4));
   }
-  board.Calls.Add(Call::Bid(1, ToBidStrain(trumps)));
-  board.Contract = "1X";
-  board.ContractLevel = 1;
-  board.Trumps = trumps;
-  board.Declarer = declarer;
+  board.calls.Add(Call::Bid(1, ToBidStrain(trumps)));
+  board.contract = "1X";
+  board.contractLevel = 1;
+  board.trumps = trumps;
+  board.declarer = declarer;
   return board;
 }
 
@@ -48,13 +48,13 @@ struct Referee {
 
   Seat ToPlay() const {
     if (played.size() % 4 != 0) return SeatAfter(played.back().first);
-    return played.empty() ? SeatAfter(board.Declarer) : WinnerOfTrick(played.size() / 4 - 1);
+    return played.empty() ? SeatAfter(board.declarer) : WinnerOfTrick(played.size() / 4 - 1);
   }
   Seat WinnerOfTrick(std::size_t trick) const {
     const auto begin = played.begin() + static_cast<std::ptrdiff_t>(trick * 4);
     const auto power = [&](const std::pair<Seat, Card>& play) {
       const int height = 12 - IndexOf(play.second.rank);
-      if (ToStrain(play.second.suit) == board.Trumps) return 200 + height;
+      if (ToStrain(play.second.suit) == board.trumps) return 200 + height;
       return play.second.suit == begin->second.suit ? 100 + height : 0;
     };
     return std::max_element(begin, begin + 4,
@@ -62,7 +62,7 @@ struct Referee {
         ->first;
   }
   bool Holds(Seat seat, Card card) const {
-    return board.Hands[seat][card.suit].Has(card.rank) &&
+    return board.hands[seat][card.suit].Has(card.rank) &&
            std::none_of(played.begin(), played.end(),
                         [card](const auto& play) { return play.second == card; });
   }
@@ -103,7 +103,7 @@ TEST(CardPlay, RandomPlayoutsAgreeWithAnIndependentReferee) {
         ASSERT_EQ(play.IsLegal(card), referee.Legal(card)) << "deal " << deal;
         if (play.IsLegal(card)) legal.push_back(card);
       }
-      ASSERT_EQ(play.Now().OnPlay, referee.ToPlay());
+      ASSERT_EQ(play.Now().onPlay, referee.ToPlay());
       const Card card = legal[random() % legal.size()];
       const Seat seat = referee.ToPlay();
       ASSERT_TRUE(play.Play(card));
@@ -112,7 +112,7 @@ TEST(CardPlay, RandomPlayoutsAgreeWithAnIndependentReferee) {
       if (timer.running && random() % 2 == 0) play.QuitTrick();  // else the next card gathers it
     }
     for (const Side side : {Side::NorthSouth, Side::EastWest}) {
-      ASSERT_EQ(play.Now().TricksWon[side], referee.TricksOf(side));
+      ASSERT_EQ(play.Now().tricksWon[side], referee.TricksOf(side));
     }
     for (int card = 0; card < kCardsInPack; ++card) play.Undo();
     ASSERT_EQ(play.Now(), atStart);
@@ -125,7 +125,7 @@ class PlayTest : public testing::Test {
   PlayTest() : play(board, host, timer) {
     // North holds all spades, East all hearts, South all diamonds, West all clubs.
     for (const Seat seat : kAllSeats) {
-      board.Hands[seat][static_cast<Suit>(seat)] = Holding::FromBits(Holding::kAllBits);
+      board.hands[seat][static_cast<Suit>(seat)] = Holding::FromBits(Holding::kAllBits);
     }
     test::SetAuction(board, "1NT Pass Pass Pass");
   }
@@ -137,7 +137,7 @@ class PlayTest : public testing::Test {
 
 TEST_F(PlayTest, StartsWithTheOpeningLead) {
   EXPECT_TRUE(play.Start());
-  EXPECT_EQ(play.Now().OnPlay, Seat::East);
+  EXPECT_EQ(play.Now().onPlay, Seat::East);
   EXPECT_EQ(play.ClaimCaption(), "Claim by East");
   EXPECT_EQ(play.TricksText(Side::NorthSouth), "NS: 0");
   EXPECT_EQ(play.ScoreText(), "");
@@ -153,9 +153,9 @@ TEST_F(PlayTest, DoesNotStartWithoutAContractOrAFullDeal) {
   EXPECT_FALSE(play.Start());
   test::SetAuction(board, "1NT Pass Pass Pass");
   EXPECT_FALSE(CardPlay::NeedsAuction(board));
-  board.Hands[Seat::North][Suit::Spades].Remove(Rank::Two);
+  board.hands[Seat::North][Suit::Spades].Remove(Rank::Two);
   EXPECT_FALSE(play.Start());
-  EXPECT_FALSE(board.PlayMode);
+  EXPECT_FALSE(board.playMode);
 }
 
 TEST_F(PlayTest, IllegalCardsBeepAndChangeNothing) {
@@ -165,7 +165,7 @@ TEST_F(PlayTest, IllegalCardsBeepAndChangeNothing) {
   EXPECT_TRUE(play.Play({Suit::Hearts, Rank::Two}));
   EXPECT_FALSE(play.Play({Suit::Hearts, Rank::Two})) << "it is on the table already";
   EXPECT_EQ(host.beeps, 1);
-  EXPECT_EQ(play.Now().CardsInTrick, 1);
+  EXPECT_EQ(play.Now().cardsInTrick, 1);
 }
 
 TEST_F(PlayTest, UndoOfALeadShowsTheTrickBefore) {
@@ -173,25 +173,25 @@ TEST_F(PlayTest, UndoOfALeadShowsTheTrickBefore) {
   for (const Suit suit : {Suit::Hearts, Suit::Diamonds, Suit::Clubs, Suit::Spades}) {
     ASSERT_TRUE(play.Play({suit, Rank::Ace}));
   }
-  EXPECT_EQ(play.Now().OnPlay, Seat::East) << "nobody could follow";
+  EXPECT_EQ(play.Now().onPlay, Seat::East) << "nobody could follow";
   play.QuitTrick();
-  EXPECT_TRUE(play.Now().TrickGathered);
-  EXPECT_FALSE(play.Now().TrickCards[Seat::East]);
+  EXPECT_TRUE(play.Now().trickGathered);
+  EXPECT_FALSE(play.Now().trickCards[Seat::East]);
   ASSERT_TRUE(play.Play({Suit::Hearts, Rank::King}));
   play.Undo();
-  EXPECT_EQ(play.Now().TrickCards[Seat::East], (Card{Suit::Hearts, Rank::Ace}));
-  EXPECT_EQ(play.Now().OnPlay, Seat::East);
-  EXPECT_EQ(play.Now().TricksPlayed, 1);
+  EXPECT_EQ(play.Now().trickCards[Seat::East], (Card{Suit::Hearts, Rank::Ace}));
+  EXPECT_EQ(play.Now().onPlay, Seat::East);
+  EXPECT_EQ(play.Now().tricksPlayed, 1);
   play.Undo();
-  EXPECT_EQ(play.Now().TricksPlayed, 0);
-  EXPECT_EQ(play.Now().CardsInTrick, 3);
-  EXPECT_EQ(play.Now().OnPlay, Seat::North);
+  EXPECT_EQ(play.Now().tricksPlayed, 0);
+  EXPECT_EQ(play.Now().cardsInTrick, 3);
+  EXPECT_EQ(play.Now().onPlay, Seat::North);
 }
 
 TEST_F(PlayTest, AClaimTakesTheRestForTheSideOnPlay) {
   ASSERT_TRUE(play.Start());
   play.Claim();
-  EXPECT_EQ(play.Now().TricksWon[Side::EastWest], 13);
+  EXPECT_EQ(play.Now().tricksWon[Side::EastWest], 13);
   EXPECT_EQ(play.ScoreText(), "1NT-7 by North : EW +350");
   EXPECT_FALSE(play.ClaimEnabled());
   EXPECT_FALSE(play.UndoEnabled());
@@ -202,7 +202,7 @@ TEST_F(PlayTest, AClaimTakesTheRestForTheSideOnPlay) {
     ASSERT_TRUE(play.Play({suit, Rank::Two}));
   }
   play.Claim();  // in mid-trick, by North
-  EXPECT_EQ(play.Now().TricksWon[Side::NorthSouth], 13);
+  EXPECT_EQ(play.Now().tricksWon[Side::NorthSouth], 13);
   EXPECT_EQ(play.ScoreText(), "1NT+6 by North : NS +270");
 }
 
@@ -227,7 +227,7 @@ TEST_F(PlayTest, EditingAsksOnlyInMidPlay) {
   ASSERT_TRUE(play.Play({Suit::Hearts, Rank::Two}));
   host.ExpectAsk(question, "Tricklet", Answer::No);
   EXPECT_FALSE(play.EndForEditing());
-  EXPECT_EQ(play.Now().CardsInTrick, 1);
+  EXPECT_EQ(play.Now().cardsInTrick, 1);
   play.Claim();
   EXPECT_TRUE(play.EndForEditing()) << "nothing is left to be played";
   ASSERT_TRUE(play.Start());
@@ -243,7 +243,7 @@ TEST_F(PlayTest, EditingAsksOnlyInMidPlay) {
 
 int CardsOf(const Board& board, Seat seat) {
   int count = 0;
-  for (const Holding holding : board.Hands[seat]) count += holding.Count();
+  for (const Holding holding : board.hands[seat]) count += holding.Count();
   return count;
 }
 
@@ -254,11 +254,11 @@ void FillHands(Board& board, const std::array<Card, 4>& cards) {
   for (const bool ledSuit : {true, false}) {
     for (int index = 0; index < kCardsInPack; ++index) {
       const Card card = Card::FromIndex(index);
-      if ((card.suit == led) != ledSuit || SeatHolding(board.Hands, card) >= 0) continue;
+      if ((card.suit == led) != ledSuit || SeatHolding(board.hands, card) >= 0) continue;
       for (const Seat seat : kAllSeats) {
         const bool follows = cards.at(static_cast<std::size_t>(seat)).suit == led;
         if (CardsOf(board, seat) == kCardsInHand || (ledSuit && !follows)) continue;
-        AddCard(board.Hands, card, seat);
+        AddCard(board.hands, card, seat);
         break;
       }
     }
@@ -288,20 +288,20 @@ TEST(CardPlayTrick, TrumpsAndRuffs) {
       const std::string text = c.cards.at(i);
       cards.at(i) = {static_cast<Suit>(std::string("SHDC").find(text[0])),
                      static_cast<Rank>(std::string("AKQJ198765432").find(text[1]))};
-      AddCard(board.Hands, cards.at(i), static_cast<Seat>(i));
+      AddCard(board.hands, cards.at(i), static_cast<Seat>(i));
     }
     FillHands(board, cards);
-    board.Calls.Add(Call::Bid(1, ToBidStrain(c.trumps)));
-    board.Contract = "1";
-    board.ContractLevel = 1;
-    board.Trumps = c.trumps;
-    board.Declarer = Seat::West;
+    board.calls.Add(Call::Bid(1, ToBidStrain(c.trumps)));
+    board.contract = "1";
+    board.contractLevel = 1;
+    board.trumps = c.trumps;
+    board.declarer = Seat::West;
     ScriptedHost host;
     ManualTimer timer;
     CardPlay play(board, host, timer);
     ASSERT_TRUE(play.Start()) << c.cards[0];
     for (const Card card : cards) ASSERT_TRUE(play.Play(card)) << c.cards[0];
-    EXPECT_EQ(play.Now().TrickWinner, c.winner) << c.cards[0] << c.cards[1];
+    EXPECT_EQ(play.Now().trickWinner, c.winner) << c.cards[0] << c.cards[1];
   }
 }
 

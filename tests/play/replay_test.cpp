@@ -26,10 +26,10 @@ Played PlayAtRandom(unsigned seed) {
   std::iota(pack.begin(), pack.end(), 0);
   std::shuffle(pack.begin(), pack.end(), random);
   Played played;
-  Board& board = played.record.Board;
-  board.BoardNumber = 3;
+  Board& board = played.record.board;
+  board.boardNumber = 3;
   for (std::size_t i = 0; i < pack.size(); ++i) {
-    AddCard(board.Hands, Card::FromIndex(pack[i]), static_cast<Seat>(i % 4));
+    AddCard(board.hands, Card::FromIndex(pack[i]), static_cast<Seat>(i % 4));
   }
   test::SetAuction(board, "P 1H X 2H P P P");
   test::ScriptedHost host;
@@ -44,7 +44,7 @@ Played PlayAtRandom(unsigned seed) {
         pack.begin(), pack.end(), [&](int index) { return play.IsLegal(Card::FromIndex(index)); });
     const Card card = Card::FromIndex(*legal);
     EXPECT_TRUE(play.Play(card));
-    played.record.Cards.push_back(card);
+    played.record.cards.push_back(card);
     played.states.push_back(play.Now());
   }
   return played;
@@ -53,9 +53,9 @@ Played PlayAtRandom(unsigned seed) {
 void ExpectPlace(const Replay& replay, const Played& played, int shown) {
   ASSERT_EQ(replay.Shown(), shown);
   const PlayState& expected = played.states.at(static_cast<std::size_t>(shown));
-  EXPECT_EQ(replay.Play().Now().CardsLeft, expected.CardsLeft) << shown;
-  EXPECT_EQ(replay.Play().Now().OnPlay, expected.OnPlay) << shown;
-  EXPECT_EQ(replay.Play().Now().TricksWon, expected.TricksWon) << shown;
+  EXPECT_EQ(replay.Play().Now().cardsLeft, expected.cardsLeft) << shown;
+  EXPECT_EQ(replay.Play().Now().onPlay, expected.onPlay) << shown;
+  EXPECT_EQ(replay.Play().Now().tricksWon, expected.tricksWon) << shown;
 }
 
 TEST(Replay, StepsThroughEveryCardAndBack) {
@@ -70,8 +70,8 @@ TEST(Replay, StepsThroughEveryCardAndBack) {
   }
   EXPECT_FALSE(replay.ForwardEnabled());
   EXPECT_EQ(replay.PlaceText(), "Card 52 of 52");
-  const int tricks = played.states.back().TricksWon[Side::EastWest];
-  EXPECT_EQ(replay.ScoreText(), ResultLine(played.record.Board, tricks));
+  const int tricks = played.states.back().tricksWon[Side::EastWest];
+  EXPECT_EQ(replay.ScoreText(), ResultLine(played.record.board, tricks));
   replay.Forward();
   ExpectPlace(replay, played, kCardsInPack);
   for (int shown = kCardsInPack; shown >= 0; --shown) {
@@ -105,16 +105,16 @@ TEST(Replay, FollowsTheRecordedCardOnly) {
   test::ScriptedHost host;
   const Played played = PlayAtRandom(3);
   Replay replay(played.record, host);
-  EXPECT_FALSE(replay.Follow(played.record.Cards[1]));
+  EXPECT_FALSE(replay.Follow(played.record.cards[1]));
   ExpectPlace(replay, played, 0);
-  EXPECT_TRUE(replay.Follow(played.record.Cards[0]));
+  EXPECT_TRUE(replay.Follow(played.record.cards[0]));
   ExpectPlace(replay, played, 1);
 }
 
 TEST(Replay, StopsAtACardThatBreaksTheRules) {
   test::ScriptedHost host;
   Played played = PlayAtRandom(4);
-  std::vector<Card>& cards = played.record.Cards;
+  std::vector<Card>& cards = played.record.cards;
   cards[9] = cards[0];  // played already
   Replay replay(played.record, host);
   for (int trick = 0; trick < 5; ++trick) replay.NextTrick();
@@ -123,7 +123,7 @@ TEST(Replay, StopsAtACardThatBreaksTheRules) {
   const std::string text = replay.PlaceText();
   EXPECT_EQ(text.substr(0, text.find(':')), "Card 9 of 52");
   EXPECT_NE(text.find(" cannot play "), std::string::npos) << text;
-  EXPECT_NE(text.find(SeatName[played.states[9].OnPlay.value_or(Seat::North)]), std::string::npos)
+  EXPECT_NE(text.find(SeatName[played.states[9].onPlay.value_or(Seat::North)]), std::string::npos)
       << text;
   EXPECT_EQ(host.beeps, 0);
 }
@@ -138,27 +138,27 @@ TEST(Replay, EndsOfRecords) {
   constexpr Case kCases[] = {
       {"a claim",
        [](RecordedPlay& record) {
-         record.Cards.resize(6);
-         record.Tricks = 10;
+         record.cards.resize(6);
+         record.tricks = 10;
        },
        "Card 6 of 6: the record ends here", "2H+2 by West : EW +170"},
-      {"unknown tricks", [](RecordedPlay& record) { record.Cards.resize(6); },
+      {"unknown tricks", [](RecordedPlay& record) { record.cards.resize(6); },
        "Card 6 of 6: the record ends here", ""},
       {"no cards",
        [](RecordedPlay& record) {
-         record.Cards.clear();
-         record.Tricks = 7;
+         record.cards.clear();
+         record.tricks = 7;
        },
        "The play was not recorded", "2H-1 by West : NS +100"},
       {"passed out",
        [](RecordedPlay& record) {
-         test::SetAuction(record.Board, "P P P P");
-         record.Cards.clear();
+         test::SetAuction(record.board, "P P P P");
+         record.cards.clear();
        },
        "Passed out", "All Pass : 0"},
-      {"no contract", [](RecordedPlay& record) { test::SetAuction(record.Board, ""); },
+      {"no contract", [](RecordedPlay& record) { test::SetAuction(record.board, ""); },
        "The record cannot be played: it lacks the deal or the contract", ""},
-      {"no deal", [](RecordedPlay& record) { record.Board.Hands = HandTable(); },
+      {"no deal", [](RecordedPlay& record) { record.board.hands = HandTable(); },
        "The record cannot be played: it lacks the deal or the contract", ""},
   };
   for (const Case& example : kCases) {

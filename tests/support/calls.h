@@ -20,9 +20,9 @@ inline Call CallOf(std::string_view text) {
 
 /// The board's auction becomes the calls of `text`, separated by blanks.
 inline void SetAuction(Board& board, const std::string& text) {
-  board.Calls.Clear();
+  board.calls.Clear();
   std::istringstream words(text);
-  for (std::string word; words >> word;) board.Calls.Add(CallOf(word));
+  for (std::string word; words >> word;) board.calls.Add(CallOf(word));
   GetContract(board);
 }
 

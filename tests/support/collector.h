@@ -26,7 +26,7 @@ class Collector : public BoardSink {
 
 inline std::string CallsOf(const Board& board) {
   std::string text;
-  for (const Call call : board.Calls) text += (text.empty() ? "" : " ") + call.Text();
+  for (const Call call : board.calls) text += (text.empty() ? "" : " ") + call.Text();
   return text;
 }
 

@@ -145,8 +145,8 @@ int RunWindow(Application& application, MainWindow& window, const LaunchOptions&
 int RunSession(Application& application, const LaunchOptions& options, Session& session,
                QtHost& host) {
   const bool pictureOnly = !options.screenshot.isEmpty();
-  ApplyColourScheme(application, session.settings.ColourScheme);
-  if (!pictureOnly && !session.settings.AutoLaunch) {
+  ApplyColourScheme(application, session.settings.colourScheme);
+  if (!pictureOnly && !session.settings.autoLaunch) {
     frmStart start(session);
     if (start.exec() != QDialog::Accepted) return 0;
   }
@@ -203,8 +203,8 @@ int Launch(Application& application, const LaunchOptions& options, SettingsStore
   QtHost& host = options.screenshot.isEmpty() ? asking : silent;
   Session session(host, overlaid ? static_cast<SettingsStore&>(overlay) : store);
   if (options.screenshot.isEmpty()) {
-    session.GetSolver = SolverOnDemand(PathFromQt(QCoreApplication::applicationDirPath()));
-    session.TablesInBackground = true;
+    session.getSolver = SolverOnDemand(PathFromQt(QCoreApplication::applicationDirPath()));
+    session.tablesInBackground = true;
   }
   if (options.seed) session.random = RandomSource(*options.seed);
   application.host = &host;

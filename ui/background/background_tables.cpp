@@ -25,11 +25,11 @@ BackgroundTables::BackgroundTables(Session& session, QObject* parent)
     : QObject(parent), session_(session) {}
 
 void BackgroundTables::Look() {
-  if (!session_.BatchRunning && WantsTable(session_, session_.board)) Post(false);
+  if (!session_.batchRunning && WantsTable(session_, session_.board)) Post(false);
 }
 
 void BackgroundTables::Ask() {
-  if (const std::string warning = DealWarning(session_.board.Hands); !warning.empty()) {
+  if (const std::string warning = DealWarning(session_.board.hands); !warning.empty()) {
     session_.host.Tell(warning);
   } else if (RequireSolver(session_)) {
     Post(true);
@@ -38,14 +38,14 @@ void BackgroundTables::Ask() {
 
 void BackgroundTables::Post(bool asked) {
   const auto job = std::make_shared<Job>();
-  job->boardNumber = session_.board.BoardNumber;
+  job->boardNumber = session_.board.boardNumber;
   job->path = session_.BoardPath(job->boardNumber);
-  job->hands = session_.board.Hands;
+  job->hands = session_.board.hands;
   job->asked = asked;
   // A deal that could not be solved stays in the list, so that it is not tried at every look.
   if (!underWay_.insert(job->Key()).second && !asked) return;
   worker_.Post(
-      [job, solver = session_.GetSolver] {
+      [job, solver = session_.getSolver] {
         const auto tables = SolveDeals(solver(), {job->hands}, job->failure);
         if (!tables.empty()) job->table = tables.front();
       },
@@ -53,7 +53,7 @@ void BackgroundTables::Post(bool asked) {
 }
 
 void BackgroundTables::Take(const Job& job) {
-  if (session_.BatchRunning) {
+  if (session_.batchRunning) {
     underWay_.erase(
         job.Key());  // the run may be at the same file; the board will be looked at again
     return;
@@ -64,13 +64,13 @@ void BackgroundTables::Take(const Job& job) {
   }
   underWay_.erase(job.Key());
   Board& board = session_.board;
-  const bool inHand = board.BoardNumber == job.boardNumber && board.Hands == job.hands &&
-                      session_.BoardPath(board.BoardNumber) == job.path;
+  const bool inHand = board.boardNumber == job.boardNumber && board.hands == job.hands &&
+                      session_.BoardPath(board.boardNumber) == job.path;
   const bool stored = StoreTable(job.path, job.hands, job.table);
   if (!inHand) return;
-  board.Makeable = job.table;
-  board.MakeableValid = true;
-  board.HandChanged = board.HandChanged || (job.asked && !stored);
+  board.makeable = job.table;
+  board.makeableValid = true;
+  board.handChanged = board.handChanged || (job.asked && !stored);
   emit Changed();
 }
 

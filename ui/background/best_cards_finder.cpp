@@ -15,14 +15,14 @@ BestCardsFinder::BestCardsFinder(Session& session, const CardPlay& play, QObject
 BestCardsFinder::~BestCardsFinder() = default;
 
 void BestCardsFinder::Look() {
-  const bool on = session_.settings.ShowBestCards && session_.GetSolver && play_.PlayMode();
-  auto position = on ? PositionOf(play_.Now(), session_.board.Trumps) : std::nullopt;
+  const bool on = session_.settings.showBestCards && session_.getSolver && play_.PlayMode();
+  auto position = on ? PositionOf(play_.Now(), session_.board.trumps) : std::nullopt;
   if (position == position_) return;
   position_ = std::move(position);
   tricks_.clear();
   ++*wanted_;
   const PlayState& now = play_.Now();
-  if (position_ && now.OnPlay) Post(*position_, now.TricksWon[SideOf(*now.OnPlay)]);
+  if (position_ && now.onPlay) Post(*position_, now.tricksWon[SideOf(*now.onPlay)]);
 }
 
 void BestCardsFinder::Post(const SolverPosition& position, int tricksWon) {
@@ -30,7 +30,7 @@ void BestCardsFinder::Post(const SolverPosition& position, int tricksWon) {
   const auto found = std::make_shared<std::vector<CardScore>>();
   const int question = *wanted_;
   worker_->Post(
-      [found, question, tricksWon, wanted = wanted_, position, solver = session_.GetSolver] {
+      [found, question, tricksWon, wanted = wanted_, position, solver = session_.getSolver] {
         if (*wanted == question) *found = BestCards(solver(), position, tricksWon);
       },
       [this, found, question] {

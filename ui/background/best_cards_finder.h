@@ -15,7 +15,7 @@ namespace tricklet::ui {
 
 class Worker;
 
-/// Follows a play where the setting `ShowBestCards` asks for it. An answer that comes when the play
+/// Follows a play where the setting `showBestCards` asks for it. An answer that comes when the play
 /// has gone on is thrown away.
 class BestCardsFinder : public QObject {
   Q_OBJECT
@@ -31,7 +31,7 @@ class BestCardsFinder : public QObject {
   const std::vector<CardScore>& Tricks() const { return tricks_; }
 
  signals:
-  /// `Tricks` are known now.
+  /// `tricks` are known now.
   void Changed();
 
  private:

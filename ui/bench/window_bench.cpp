@@ -43,8 +43,8 @@ class Bench : public TemporaryRoot {
     }
     session.settings.filelocation = FolderText(root);
     session.settings.library = "Boards";
-    session.GetSolver = SolverOnDemand({});
-    session.TablesInBackground = true;
+    session.getSolver = SolverOnDemand({});
+    session.tablesInBackground = true;
     GetLibraryNames(session);
     SelectLibrary(session, "Boards");
     window = std::make_unique<ui::MainWindow>(session);
@@ -125,7 +125,7 @@ int main(int argc, char** argv) {
   tricklet::bench::Bench bench;
   tricklet::bench::StepBoards(bench);
   tricklet::bench::PlayBoard(bench, "click to card on the table");
-  bench.session.settings.ShowBestCards = true;
+  bench.session.settings.showBestCards = true;
   tricklet::bench::PlayBoard(bench, "click to card, best cards being found");
   return 0;
 }

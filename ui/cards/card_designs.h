@@ -13,7 +13,7 @@ inline constexpr double kFaceWidth = 100;
 inline constexpr double kFaceHeight = 140;
 
 /// Draws what is printed on `card`, with the upper left corner at the origin. `design` as
-/// `Settings::CardDesign`: 2 pips and courts, 3 large index, anything else index and one symbol.
+/// `Settings::cardDesign`: 2 pips and courts, 3 large index, anything else index and one symbol.
 void DrawFace(QPainter& painter, Card card, int design, const QColor& ink);
 
 }  // namespace tricklet::ui

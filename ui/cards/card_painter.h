@@ -21,7 +21,7 @@ inline const QColor kPaper(0xFF, 0xFE, 0xF9);
 struct CardLook {
   QSizeF size;            ///< in the widget's pixels
   double pixelRatio = 1;  ///< device pixels to one of the widget's
-  int design = 1;         ///< `Settings::CardDesign`
+  int design = 1;         ///< `Settings::cardDesign`
   bool fourColours = true;
   friend bool operator==(const CardLook&, const CardLook&) = default;
 };

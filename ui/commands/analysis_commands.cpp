@@ -11,14 +11,14 @@ namespace {
 
 /// Asks for the host of the online page when it is not known yet; false when the person names none.
 bool HaveSolverHost(Session& session, QWidget* window) {
-  if (!session.settings.SolverHost.empty()) return true;
+  if (!session.settings.solverHost.empty()) return true;
   bool accepted = false;
   const QString host =
       QInputDialog::getText(window, Commands::tr("Online double-dummy page"),
                             Commands::tr("Host of the page, for example www.example.org"),
                             QLineEdit::Normal, QString(), &accepted);
   if (!accepted || host.trimmed().isEmpty()) return false;
-  session.settings.SolverHost = FromQt(host.trimmed());
+  session.settings.solverHost = FromQt(host.trimmed());
   SaveSetting(session.settings, "SolverHost", session.store);
   return true;
 }
@@ -31,7 +31,7 @@ void Commands::AnalyseBoard() {
 
 void Commands::AnalyseLibrary() {
   Run([this] {
-    if (RequireSolver(session_)) tricklet::AnalyseLibrary(session_, session_.GetSolver());
+    if (RequireSolver(session_)) tricklet::AnalyseLibrary(session_, session_.getSolver());
   });
 }
 
@@ -45,7 +45,7 @@ void Commands::OnlineSolver() {
     }
     if (!HaveSolverHost(session_, window_)) return;
     session_.host.OpenUrl(SolverAddress(session_.board, session_.LibraryName(),
-                                        session_.settings.SolverHost, record));
+                                        session_.settings.solverHost, record));
   });
 }
 

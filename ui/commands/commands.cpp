@@ -111,7 +111,7 @@ void Commands::RefreshLibraries() {
   Run([this] {
     if (CheckSaveChanges(session_) == Answer::Cancel) return;
     const std::string library = session_.LibraryName();
-    const int boardNumber = session_.board.BoardNumber;
+    const int boardNumber = session_.board.boardNumber;
     GetLibraryNames(session_);
     if (session_.LibraryName() == library) tricklet::SelectBoard(session_, boardNumber);
   });
@@ -129,7 +129,7 @@ void Commands::FirstBoard() {
   SelectBoard(kFirstBoardNumber);
 }
 void Commands::LastBoard() {
-  SelectBoard(session_.library.MaxBoard);
+  SelectBoard(session_.library.maxBoard);
 }
 
 void Commands::GoToBoard() {
@@ -137,10 +137,10 @@ void Commands::GoToBoard() {
     QInputDialog dialog(window_);
     dialog.setObjectName(QStringLiteral("dlgGoTo"));
     dialog.setWindowTitle(tr("Go to board"));
-    dialog.setLabelText(tr("Board (1 to %1)").arg(session_.library.MaxBoard));
+    dialog.setLabelText(tr("Board (1 to %1)").arg(session_.library.maxBoard));
     dialog.setInputMode(QInputDialog::IntInput);
-    dialog.setIntRange(kFirstBoardNumber, session_.library.MaxBoard);
-    dialog.setIntValue(session_.board.BoardNumber);
+    dialog.setIntRange(kFirstBoardNumber, session_.library.maxBoard);
+    dialog.setIntValue(session_.board.boardNumber);
     if (dialog.exec() == QDialog::Accepted) tricklet::SelectBoard(session_, dialog.intValue());
   });
 }
@@ -174,7 +174,7 @@ void Commands::EnterAuction() {
 
 void Commands::PlayOrStop() {
   Run([this] {
-    if (session_.board.PlayMode) {
+    if (session_.board.playMode) {
       play_.Stop();
       return;
     }
@@ -209,7 +209,7 @@ void Commands::Toggle(bool Settings::*setting, std::string_view key) {
 
 void Commands::SetColourScheme(int scheme) {
   Run([&] {
-    session_.settings.ColourScheme = scheme;
+    session_.settings.colourScheme = scheme;
     SaveSetting(session_.settings, "ColourScheme", session_.store);
     ApplyColourScheme(*qApp, scheme);
   });
@@ -222,7 +222,7 @@ void Commands::Options() {
     session_.settings = dialog.Chosen();
     SaveSettings(session_.settings, session_.store);
     if (!session_.store.Sync()) session_.host.Tell(kSettingsNotStored);
-    ApplyColourScheme(*qApp, session_.settings.ColourScheme);
+    ApplyColourScheme(*qApp, session_.settings.colourScheme);
   });
 }
 

@@ -53,7 +53,7 @@ bool Commands::TypeHand(Seat seat, const QString& text) {
 
 void Commands::SetEditMethod(int method) {
   Run([&] {
-    session_.settings.EditMethod = method;
+    session_.settings.editMethod = method;
     SaveSetting(session_.settings, "EditMethod", session_.store);
   });
 }

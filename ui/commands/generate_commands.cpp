@@ -10,7 +10,7 @@ void Commands::Generate() {
     frmGenerate dialog(session_, generateChoices_, window_);
     if (dialog.exec() != QDialog::Accepted) return;
     generateChoices_ = dialog.Chosen();
-    GenerateOptions options{.analyse = session_.settings.AutoMakeable};
+    GenerateOptions options{.analyse = session_.settings.autoMakeable};
     if (generateChoices_.preview) {
       options.preview = [this](const Board& board) {
         return frmPreview(board, session_.settings, window_).Ask();

@@ -7,7 +7,7 @@
 namespace tricklet::ui {
 
 EditControl::EditControl(Session& session, PlayControl& play)
-    : session_(session), play_(play), boardsLoaded_(session.BoardsLoaded) {}
+    : session_(session), play_(play), boardsLoaded_(session.boardsLoaded) {}
 
 bool EditControl::Start() {
   editing_ = play_.EndForEditing();
@@ -15,19 +15,19 @@ bool EditControl::Start() {
 }
 
 void EditControl::Follow() {
-  if (boardsLoaded_ != session_.BoardsLoaded) {
-    boardsLoaded_ = session_.BoardsLoaded;
+  if (boardsLoaded_ != session_.boardsLoaded) {
+    boardsLoaded_ = session_.boardsLoaded;
     history_ = {};
     editing_ = false;
   }
-  if (session_.board.PlayMode) editing_ = false;
+  if (session_.board.playMode) editing_ = false;
 }
 
 bool EditControl::CanUndoClear() const {
   return tricklet::CanUndoClear(session_.board, history_);
 }
 bool EditControl::CanFill() const {
-  return editing_ && !GetStats(session_.board.Hands).AllHandsComplete;
+  return editing_ && !GetStats(session_.board.hands).allHandsComplete;
 }
 bool EditControl::CanFillFourth() const {
   return editing_ && FourthHandIsOpen(session_.board);
@@ -38,7 +38,7 @@ bool EditControl::CanUndoFill() const {
 
 /// A play that is over is left by an edit.
 Board& EditControl::ForEditing() {
-  if (session_.board.PlayMode) play_.Stop();
+  if (session_.board.playMode) play_.Stop();
   return session_.board;
 }
 
@@ -79,7 +79,7 @@ void EditControl::SwapSuits(Suit suit1, Suit suit2) {
 
 void EditControl::Rotate(Rotation rotation, bool takeAuction) {
   Board turned = session_.board;
-  turned.PlayMode = false;
+  turned.playMode = false;
   if (!tricklet::Rotate(turned, rotation, takeAuction)) {
     session_.host.Tell(std::string(kAuctionStays));
     return;

@@ -24,11 +24,11 @@ PlayControl::PlayControl(Session& session, QObject* parent)
 }
 
 bool PlayControl::CanStart() const {
-  return GetStats(session_.board.Hands).AllHandsComplete;
+  return GetStats(session_.board.hands).allHandsComplete;
 }
 
 bool PlayControl::TrickComplete() const {
-  return play_.PlayMode() && play_.Now().CardsInTrick == 0 && !play_.Now().TrickGathered;
+  return play_.PlayMode() && play_.Now().cardsInTrick == 0 && !play_.Now().trickGathered;
 }
 
 bool PlayControl::Start() {

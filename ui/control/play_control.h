@@ -33,7 +33,7 @@ class PlayControl : public QObject {
  public:
   explicit PlayControl(Session& session, QObject* parent = nullptr);
 
-  /// What is to be shown; its `PlayMode` says whether there is a play at all.
+  /// What is to be shown; its `playMode` says whether there is a play at all.
   const CardPlay& Play() const { return play_; }
 
   /// All four hands are complete: there is something to play.

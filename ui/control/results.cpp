@@ -6,8 +6,8 @@ Results::Results(Session& session, QObject* parent) : QObject(parent), session_(
 
 void Results::Look() {
   const LinFile& file = lin_.Of(session_);
-  const int boardNumber = session_.board.BoardNumber;
-  if (edition_ > 0 && version_ == lin_.Version() && traveller_.BoardNumber == boardNumber) return;
+  const int boardNumber = session_.board.boardNumber;
+  if (edition_ > 0 && version_ == lin_.Version() && traveller_.boardNumber == boardNumber) return;
   hasLinData_ = !file.Empty();
   version_ = lin_.Version();
   traveller_ = MakeTraveller(file, boardNumber);
@@ -18,24 +18,24 @@ void Results::Look() {
 
 bool Results::IsStillTheBoard() const {
   const Board& board = session_.board;
-  return session_.LibraryName() == library_ && board.BoardNumber == board_.BoardNumber &&
-         board.Hands == board_.Hands && board.Calls == board_.Calls;
+  return session_.LibraryName() == library_ && board.boardNumber == board_.boardNumber &&
+         board.hands == board_.hands && board.calls == board_.calls;
 }
 
 void Results::Follow(bool entering) {
-  if (replay_ && (entering || session_.board.PlayMode || !IsStillTheBoard())) {
+  if (replay_ && (entering || session_.board.playMode || !IsStillTheBoard())) {
     row_ = -1;
     replay_.reset();
   }
 }
 
 void Results::ShowRecord(int row) {
-  const bool known = row >= 0 && row < static_cast<int>(traveller_.Rows.size());
-  if (!known || session_.board.PlayMode) {
+  const bool known = row >= 0 && row < static_cast<int>(traveller_.rows.size());
+  if (!known || session_.board.playMode) {
     session_.host.Beep();
   } else if (row != row_) {
-    const TravellerRow& chosen = traveller_.Rows.at(static_cast<std::size_t>(row));
-    replay_ = std::make_unique<Replay>(chosen.Record, session_.host);
+    const TravellerRow& chosen = traveller_.rows.at(static_cast<std::size_t>(row));
+    replay_ = std::make_unique<Replay>(chosen.record, session_.host);
     row_ = row;
     board_ = session_.board;
     library_ = session_.LibraryName();

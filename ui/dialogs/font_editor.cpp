@@ -68,25 +68,25 @@ QCheckBox* FontEditor::MakeStyle(const QString& text, const char* name) {
 }
 
 void FontEditor::SetValue(const FontSetting& value) {
-  family_->setCurrentFont(QFont(ToQt(value.Name)));
-  family_->setEditText(ToQt(value.Name));  // a family that this machine lacks keeps its name
-  size_->setValue(value.Size);
-  bold_->setChecked(value.Bold);
-  italic_->setChecked(value.Italic);
-  strikethrough_->setChecked(value.Strikethrough);
-  underline_->setChecked(value.Underline);
-  SetColour(value.Forecolour);
+  family_->setCurrentFont(QFont(ToQt(value.name)));
+  family_->setEditText(ToQt(value.name));  // a family that this machine lacks keeps its name
+  size_->setValue(value.size);
+  bold_->setChecked(value.bold);
+  italic_->setChecked(value.italic);
+  strikethrough_->setChecked(value.strikethrough);
+  underline_->setChecked(value.underline);
+  SetColour(value.forecolour);
 }
 
 FontSetting FontEditor::Value() const {
   FontSetting value;
-  value.Name = FromQt(family_->currentText());
-  value.Size = size_->value();
-  value.Bold = bold_->isChecked();
-  value.Italic = italic_->isChecked();
-  value.Strikethrough = strikethrough_->isChecked();
-  value.Underline = underline_->isChecked();
-  value.Forecolour = colour_;
+  value.name = FromQt(family_->currentText());
+  value.size = size_->value();
+  value.bold = bold_->isChecked();
+  value.italic = italic_->isChecked();
+  value.strikethrough = strikethrough_->isChecked();
+  value.underline = underline_->isChecked();
+  value.forecolour = colour_;
   return value;
 }
 

@@ -48,7 +48,7 @@ frmBidding::frmBidding(Session& session, QWidget* parent)
       lblModifyBidding(MakeSaying(QStringLiteral("lblModifyBidding"), this)),
       lblTyped_(MakeSaying(QStringLiteral("lblTyped"), this)) {
   setObjectName(QStringLiteral("frmBidding"));
-  setWindowTitle(tr("Bidding - Board %1").arg(session.board.BoardNumber));
+  setWindowTitle(tr("Bidding - Board %1").arg(session.board.boardNumber));
   auto* hint = new QLabel(tr("Or type calls: 1N 4S P X XX"), this);
   MakeQuiet(hint);
 
@@ -58,7 +58,7 @@ frmBidding::frmBidding(Session& session, QWidget* parent)
   auto* column = new QVBoxLayout(this);
   column->setSpacing(8);
   column->addLayout(saying);
-  column->addLayout(MakeBids(session.settings.SuitColour));
+  column->addLayout(MakeBids(session.settings.suitColour));
   column->addLayout(MakeCalls());
   column->addWidget(hint);
   column->setSizeConstraint(QLayout::SetFixedSize);

@@ -35,8 +35,8 @@ frmExport::frmExport(Session& session, QWidget* parent)
   setObjectName(QStringLiteral("frmExport"));
   setWindowTitle(tr("Export hand records"));
   const LibraryState& library = session.library;
-  cmbFrom = MakeNumbers(QStringLiteral("cmbFrom"), library.LastBoard, library.FirstBoard, this);
-  cmbTo = MakeNumbers(QStringLiteral("cmbTo"), library.LastBoard, library.LastBoard, this);
+  cmbFrom = MakeNumbers(QStringLiteral("cmbFrom"), library.lastBoard, library.firstBoard, this);
+  cmbTo = MakeNumbers(QStringLiteral("cmbTo"), library.lastBoard, library.lastBoard, this);
 
   auto* form = new QFormLayout;
   form->addRow(tr("&From board"), cmbFrom);

@@ -47,7 +47,7 @@ frmGenerate::frmGenerate(Session& session, const GenerateChoices& choices, QWidg
   setWindowTitle(tr("Generate deals"));
   chkPreview->setObjectName(QStringLiteral("chkPreview"));
   for (const GenHand hand : kGenHands) {
-    hands_[hand] = new GenerateHand(hand, choices.constraints, session.settings.SuitColour, this);
+    hands_[hand] = new GenerateHand(hand, choices.constraints, session.settings.suitColour, this);
   }
   auto* hands = new QHBoxLayout;
   for (GenerateHand* hand : hands_) hands->addWidget(hand, 1);
@@ -121,10 +121,10 @@ void frmGenerate::SetTabOrder(const QDialogButtonBox& buttons) {
 
 void frmGenerate::Fill(const GenerateChoices& choices) {
   const Constraints& constraints = choices.constraints;
-  boards_->SetValue({constraints.GenBoards.front(), constraints.GenBoards.back()});
-  optnGen->button(constraints.NumGenHands - 1)->setChecked(true);
-  optSpecify->button(constraints.RelativeToDealer ? kFromDealer : 0)->setChecked(true);
-  hands_[GenHand::Second]->setEnabled(constraints.NumGenHands == 2);
+  boards_->SetValue({constraints.genBoards.front(), constraints.genBoards.back()});
+  optnGen->button(constraints.numGenHands - 1)->setChecked(true);
+  optSpecify->button(constraints.relativeToDealer ? kFromDealer : 0)->setChecked(true);
+  hands_[GenHand::Second]->setEnabled(constraints.numGenHands == 2);
   chkPreview->setChecked(choices.preview);
 }
 
@@ -132,9 +132,9 @@ GenerateChoices frmGenerate::Chosen() const {
   GenerateChoices choices;
   Constraints& constraints = choices.constraints;
   const Limits boards = boards_->Value();
-  constraints.GenBoards = {boards.minimum, boards.maximum};
-  constraints.NumGenHands = optnGen->checkedId() + 1;
-  constraints.RelativeToDealer = optSpecify->checkedId() == kFromDealer;
+  constraints.genBoards = {boards.minimum, boards.maximum};
+  constraints.numGenHands = optnGen->checkedId() + 1;
+  constraints.relativeToDealer = optSpecify->checkedId() == kFromDealer;
   for (const GenerateHand* hand : hands_) hand->Take(constraints);
   choices.preview = chkPreview->isChecked();
   return choices;

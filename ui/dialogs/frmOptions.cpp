@@ -76,10 +76,10 @@ frmOptions::frmOptions(const Session& session, QWidget* parent)
 QWidget* frmOptions::CardsPage() {
   auto* page = new QWidget(this);
   QVBoxLayout* column = MakePage(page);
-  AddCheck(column, "CardsFaces", tr("Show hands as card faces"), &Settings::CardsFaces);
+  AddCheck(column, "CardsFaces", tr("Show hands as card faces"), &Settings::cardsFaces);
   AddChoice(column, "CardDesign", tr("Card design"),
-            {tr("Design 1"), tr("Design 2"), tr("Design 3")}, &Settings::CardDesign, 1);
-  AddCheck(column, "SuitColour", tr("Four suit colours"), &Settings::SuitColour);
+            {tr("Design 1"), tr("Design 2"), tr("Design 3")}, &Settings::cardDesign, 1);
+  AddCheck(column, "SuitColour", tr("Four suit colours"), &Settings::suitColour);
   suitFontSize_ = new QDoubleSpinBox(page);
   suitFontSize_->setObjectName(QStringLiteral("SuitFontSize"));
   suitFontSize_->setDecimals(1);
@@ -89,10 +89,10 @@ QWidget* frmOptions::CardsPage() {
   connect(suitFontSize_, &QDoubleSpinBox::valueChanged, this, &frmOptions::Preview);
   AddRow(column, tr("Size of suit symbols (points)"), suitFontSize_);
   AddChoice(column, "ColourScheme", tr("Colour scheme"),
-            {tr("As the system"), tr("Light"), tr("Dark")}, &Settings::ColourScheme, 0);
+            {tr("As the system"), tr("Light"), tr("Dark")}, &Settings::colourScheme, 0);
   AddChoice(column, "EditMethod", tr("Edit hands by"),
             {tr("Drag and drop"), tr("Click a seat"), tr("Type the holding")},
-            &Settings::EditMethod, 1);
+            &Settings::editMethod, 1);
   column->addStretch(1);
   return page;
 }
@@ -100,12 +100,12 @@ QWidget* frmOptions::CardsPage() {
 QWidget* frmOptions::CaptionsPage() {
   auto* page = new QWidget(this);
   QVBoxLayout* column = MakePage(page);
-  AddCheck(column, "CaptionPlayer", tr("Name of the seat"), &Settings::CaptionPlayer);
-  AddCheck(column, "CaptionnCards", tr("Number of cards"), &Settings::CaptionnCards);
-  AddCheck(column, "CaptionHCP", tr("High-card points"), &Settings::CaptionHCP);
-  AddCheck(column, "CaptionLTC", tr("Losing-trick count"), &Settings::CaptionLTC);
-  AddCheck(column, "CaptionDeclarer", tr("Declarer"), &Settings::CaptionDeclarer);
-  AddCheck(column, "CaptionDummy", tr("Dummy"), &Settings::CaptionDummy);
+  AddCheck(column, "CaptionPlayer", tr("Name of the seat"), &Settings::captionPlayer);
+  AddCheck(column, "CaptionnCards", tr("Number of cards"), &Settings::captionnCards);
+  AddCheck(column, "CaptionHCP", tr("High-card points"), &Settings::captionHcp);
+  AddCheck(column, "CaptionLTC", tr("Losing-trick count"), &Settings::captionLtc);
+  AddCheck(column, "CaptionDeclarer", tr("Declarer"), &Settings::captionDeclarer);
+  AddCheck(column, "CaptionDummy", tr("Dummy"), &Settings::captionDummy);
   column->addStretch(1);
   return page;
 }
@@ -128,15 +128,15 @@ QWidget* frmOptions::FontsPage() {
 QWidget* frmOptions::StartPage() {
   auto* page = new QWidget(this);
   QVBoxLayout* column = MakePage(page);
-  AddCheck(column, "AutoLaunch", tr("Open the main window at once"), &Settings::AutoLaunch);
-  AddCheck(column, "AutoUpdate", tr("Look for a newer version at start"), &Settings::AutoUpdate);
-  AddCheck(column, "AutoMakeable", tr("Compute a missing makeable table"), &Settings::AutoMakeable);
+  AddCheck(column, "AutoLaunch", tr("Open the main window at once"), &Settings::autoLaunch);
+  AddCheck(column, "AutoUpdate", tr("Look for a newer version at start"), &Settings::autoUpdate);
+  AddCheck(column, "AutoMakeable", tr("Compute a missing makeable table"), &Settings::autoMakeable);
   AddCheck(column, "ShowBestCards", tr("In play, the tricks that each card leads to"),
-           &Settings::ShowBestCards);
-  AddCheck(column, "ShowStats", tr("Show the statistics"), &Settings::ShowStats);
-  AddCheck(column, "ShowMakeable", tr("Show the makeable table"), &Settings::ShowMakeable);
+           &Settings::showBestCards);
+  AddCheck(column, "ShowStats", tr("Show the statistics"), &Settings::showStats);
+  AddCheck(column, "ShowMakeable", tr("Show the makeable table"), &Settings::showMakeable);
   AddCheck(column, "MakeableContract", tr("Makeable table as contracts, not tricks"),
-           &Settings::MakeableContract);
+           &Settings::makeableContract);
   column->addStretch(1);
   return page;
 }
@@ -144,9 +144,9 @@ QWidget* frmOptions::StartPage() {
 QWidget* frmOptions::ExportPage() {
   auto* page = new QWidget(this);
   QVBoxLayout* column = MakePage(page);
-  AddCheck(column, "PBNBids", tr("PBN: write the auction"), &Settings::PBNBids);
+  AddCheck(column, "PBNBids", tr("PBN: write the auction"), &Settings::pbnBids);
   AddCheck(column, "PBNShark", tr("PBN: write a result tag and a board comment"),
-           &Settings::PBNShark);
+           &Settings::pbnShark);
   column->addStretch(1);
   return page;
 }
@@ -178,8 +178,8 @@ void frmOptions::Fill(const Settings& settings) {
   for (const Choice& choice : choices_) {
     choice.combo->setCurrentIndex(settings.*choice.setting - choice.first);
   }
-  suitFontSize_->setValue(settings.SuitFontSize);
-  for (std::size_t i = 0; i < fonts_.size(); ++i) fonts_.at(i)->SetValue(settings.HGFont.at(i));
+  suitFontSize_->setValue(settings.suitFontSize);
+  for (std::size_t i = 0; i < fonts_.size(); ++i) fonts_.at(i)->SetValue(settings.hgFont.at(i));
   filling_ = false;
   Preview();
 }
@@ -190,8 +190,8 @@ Settings frmOptions::Chosen() const {
   for (const Choice& choice : choices_) {
     settings.*choice.setting = choice.combo->currentIndex() + choice.first;
   }
-  settings.SuitFontSize = suitFontSize_->value();
-  for (std::size_t i = 0; i < fonts_.size(); ++i) settings.HGFont.at(i) = fonts_.at(i)->Value();
+  settings.suitFontSize = suitFontSize_->value();
+  for (std::size_t i = 0; i < fonts_.size(); ++i) settings.hgFont.at(i) = fonts_.at(i)->Value();
   return settings;
 }
 

@@ -20,7 +20,7 @@ frmPreview::frmPreview(const Board& board, const Settings& settings, QWidget* pa
     : QDialog(parent) {
   setObjectName(QStringLiteral("frmPreview"));
   setWindowTitle(tr("Preview"));
-  auto* lblMessage = new QLabel(tr("Accept this deal for board %1").arg(board.BoardNumber), this);
+  auto* lblMessage = new QLabel(tr("Accept this deal for board %1").arg(board.boardNumber), this);
   lblMessage->setObjectName(QStringLiteral("lblMessage"));
   QFont bold = lblMessage->font();
   bold.setBold(true);
@@ -46,8 +46,8 @@ frmPreview::frmPreview(const Board& board, const Settings& settings, QWidget* pa
 
 /// The hands as text, which is read quickly, with their points whatever the captions show else.
 QWidget* frmPreview::MakeTable(const Board& board, Settings settings) {
-  settings.CardsFaces = false;
-  settings.CaptionHCP = true;
+  settings.cardsFaces = false;
+  settings.captionHcp = true;
   auto* table = new TableView(this);
   table->setObjectName(QStringLiteral("picPreview"));
   table->Show(board, settings);

@@ -31,9 +31,9 @@ frmStart::frmStart(Session& session, QWidget* parent) : QDialog(parent) {
 
   auto* chkAutoLaunch = new QCheckBox(tr("&Open the main window at once next time"), this);
   chkAutoLaunch->setObjectName(QStringLiteral("chkAutoLaunch"));
-  chkAutoLaunch->setChecked(session.settings.AutoLaunch);
+  chkAutoLaunch->setChecked(session.settings.autoLaunch);
   connect(chkAutoLaunch, &QCheckBox::clicked, this, [&session](bool checked) {
-    session.settings.AutoLaunch = checked;
+    session.settings.autoLaunch = checked;
     SaveSetting(session.settings, "AutoLaunch", session.store);
   });
   auto* cmdLaunch = new QPushButton(tr("&Launch"), this);

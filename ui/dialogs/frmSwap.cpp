@@ -157,7 +157,7 @@ QButtonGroup* frmSwap::AddSuits(QGridLayout* grid, const QString& name, const QS
   for (const Suit suit : kAllSuits) {
     auto* option = new QRadioButton(ToQt(SuitName[suit]));
     option->setAccessibleName(caption + u' ' + option->text());
-    option->setIcon(SymbolIcon(suit, session_.settings.SuitColour, *this));
+    option->setIcon(SymbolIcon(suit, session_.settings.suitColour, *this));
     AddOption(grid, group, option, IndexOf(suit), IndexOf(chosen));
   }
   return group;

@@ -169,31 +169,31 @@ QList<QWidget*> GenerateHand::TabOrder() const {
 }
 
 void GenerateHand::Fill(const Constraints& constraints) {
-  optSuit->button(constraints.HandDirection[hand_])->setChecked(true);
-  SetRelativeToDealer(constraints.RelativeToDealer);
-  points_->SetValue(constraints.PointLimits[hand_]);
+  optSuit->button(constraints.handDirection[hand_])->setChecked(true);
+  SetRelativeToDealer(constraints.relativeToDealer);
+  points_->SetValue(constraints.pointLimits[hand_]);
   for (const Suit suit : kAllSuits) {
-    lengths_[suit]->SetValue(constraints.SuitLimits[hand_][suit]);
+    lengths_[suit]->SetValue(constraints.suitLimits[hand_][suit]);
   }
   for (const HandType type : kAllHandTypes) {
-    typeOptions_[type] = constraints.HandTypeOption[type][hand_];
+    typeOptions_[type] = constraints.handTypeOption[type][hand_];
   }
-  cmbHandType->setCurrentIndex(IndexOf(constraints.HandTypeIndex[hand_]));
+  cmbHandType->setCurrentIndex(IndexOf(constraints.handTypeIndex[hand_]));
   ShowTypeOptions();
-  const bool byLengths = constraints.UseSuitLengths[hand_];
+  const bool byLengths = constraints.useSuitLengths[hand_];
   optType->button(byLengths ? kBySuitLengths : kByHandType)->setChecked(true);
 }
 
 void GenerateHand::Take(Constraints& constraints) const {
-  constraints.HandDirection[hand_] = optSuit->checkedId();
-  constraints.PointLimits[hand_] = points_->Value();
+  constraints.handDirection[hand_] = optSuit->checkedId();
+  constraints.pointLimits[hand_] = points_->Value();
   for (const Suit suit : kAllSuits) {
-    constraints.SuitLimits[hand_][suit] = lengths_[suit]->Value();
+    constraints.suitLimits[hand_][suit] = lengths_[suit]->Value();
   }
-  constraints.UseSuitLengths[hand_] = optType->checkedId() == kBySuitLengths;
-  constraints.HandTypeIndex[hand_] = Type();
+  constraints.useSuitLengths[hand_] = optType->checkedId() == kBySuitLengths;
+  constraints.handTypeIndex[hand_] = Type();
   for (const HandType type : kAllHandTypes) {
-    constraints.HandTypeOption[type][hand_] = typeOptions_[type];
+    constraints.handTypeOption[type][hand_] = typeOptions_[type];
   }
 }
 

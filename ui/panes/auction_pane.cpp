@@ -53,7 +53,7 @@ QTableWidgetItem* MakeCall(Call call, const Settings& settings, const QPalette& 
   } else if (!call.IsBid()) {
     item->setForeground(IsDark(palette) ? kDoubleOnDark : kDouble);
   } else {
-    const QColor chosen = ToColour(settings.HGFont[1].Forecolour, palette);
+    const QColor chosen = ToColour(settings.hgFont[1].forecolour, palette);
     item->setForeground(ReadableOn(palette.color(QPalette::Window), chosen));
   }
   if (call.IsBid() && call.Denomination() != BidStrain::NoTrump) {
@@ -62,7 +62,7 @@ QTableWidgetItem* MakeCall(Call call, const Settings& settings, const QPalette& 
     item->setText(QString::number(call.Level()) + symbol);
     item->setData(CallDelegate::kSymbolRole, symbol);
     item->setData(CallDelegate::kSymbolColourRole,
-                  SuitColourOnWindow(suit, settings.SuitColour, palette));
+                  SuitColourOnWindow(suit, settings.suitColour, palette));
     item->setData(Qt::AccessibleTextRole,
                   QStringLiteral("%1 %2").arg(call.Level()).arg(ToQt(SuitName[suit])));
   }
@@ -122,7 +122,7 @@ void AuctionPane::Show(const Session& session, const AuctionEntry* entry, const 
   SetTitle(recorded != nullptr ? tr("Recorded auction") : tr("Auction"));
   flexBids->setVisible(entry != nullptr || cmdBid->isChecked());
   ShowHeads(session.board);
-  ShowCalls(session, entry != nullptr ? entry->Calls() : board.Calls);
+  ShowCalls(session, entry != nullptr ? entry->Calls() : board.calls);
 }
 
 void AuctionPane::ShowHeads(const Board& board) {
@@ -144,7 +144,7 @@ void AuctionPane::ShowHeads(const Board& board) {
 void AuctionPane::ShowCalls(const Session& session, const CallList& calls) {
   const int offset = ColumnOf(session.board.Dealer());
   const int rows = std::max(kLeastRows, (offset + calls.Count() + kSeats - 1) / kSeats);
-  const QFont font = FontForCalls(session.settings.HGFont[1], fontMetrics());
+  const QFont font = FontForCalls(session.settings.hgFont[1], fontMetrics());
   flexBids->clearContents();
   flexBids->setRowCount(rows);
   flexBids->setFont(font);

@@ -5,10 +5,10 @@
 namespace tricklet::ui {
 
 void BoardListModel::Show(const LibraryState& library) {
-  if (library.MaxBoard == maxBoard_ && library.BoardPresent == present_) return;
+  if (library.maxBoard == maxBoard_ && library.boardPresent == present_) return;
   beginResetModel();
-  maxBoard_ = library.MaxBoard;
-  present_ = library.BoardPresent;
+  maxBoard_ = library.maxBoard;
+  present_ = library.boardPresent;
   endResetModel();
 }
 

@@ -44,8 +44,8 @@ QList<QWidget*> BoardPane::TabOrder() const {
 void BoardPane::Show(const Board& board) {
   SetTitle(tr("Dealer %1 · %2")
                .arg(ToQt(SeatName[board.Dealer()]), ToQt(VulShort[board.Vulnerability()])));
-  cmdSave->setEnabled(board.HandChanged);
-  cmdBSOL->setEnabled(GetStats(board.Hands).AllHandsComplete);
+  cmdSave->setEnabled(board.handChanged);
+  cmdBSOL->setEnabled(GetStats(board.hands).allHandsComplete);
 }
 
 void BoardPane::ShowPlay(const PlayControl& play, const EditControl& edit) {

@@ -27,7 +27,7 @@ QLabel* MakeLabel(const QString& name, double size, QWidget* parent) {
 /// A text with a contract, its suit as the symbol in its colour.
 void SetContractText(QLabel* label, const std::string& text, const Settings& settings) {
   label->setText(WithSymbols(ToQt(text).toHtmlEscaped(), [&](Suit suit) {
-    return ColouredSymbol(suit, settings.SuitColour, label->palette());
+    return ColouredSymbol(suit, settings.suitColour, label->palette());
   }));
   label->setAccessibleName(ToQt(text));
   label->setVisible(!text.empty());
@@ -35,7 +35,7 @@ void SetContractText(QLabel* label, const std::string& text, const Settings& set
 
 /// The result of a board that needs no play.
 std::string PassedOutText(const Board& board) {
-  return board.Contract == kAllPass ? ResultLine(board, 0) : "";
+  return board.contract == kAllPass ? ResultLine(board, 0) : "";
 }
 
 }  // namespace
@@ -90,7 +90,7 @@ void ContractPane::Show(const Session& session, const CardPlay& play, bool enter
 }
 
 void ContractPane::ShowRecord(const Replay& record, const Settings& settings) {
-  const Board& board = record.Record().Board;
+  const Board& board = record.Record().board;
   KeepRoom(this, true);
   setVisible(true);
   SetContractText(lblContract, ContractLabel(board), settings);

@@ -145,7 +145,7 @@ void EditPane::Show(const Session& session, const EditControl& edit) {
     ForgetTyping();
     return;
   }
-  SetTitle(tr("Edit board %1").arg(session.board.BoardNumber));
+  SetTitle(tr("Edit board %1").arg(session.board.boardNumber));
   ShowMethod(session.settings);
   ShowLines(session.board);
   cmdRandom->setEnabled(edit.CanFill());
@@ -155,7 +155,7 @@ void EditPane::Show(const Session& session, const EditControl& edit) {
 }
 
 void EditPane::ShowMethod(const Settings& settings) {
-  cmbEditMethod_->setCurrentIndex(settings.EditMethod - 1);
+  cmbEditMethod_->setCurrentIndex(settings.editMethod - 1);
   hint_->setText(HintFor(EditMethodOf(settings)));
   lines_->setVisible(EditMethodOf(settings) == EditBy::Typing);
 }
@@ -163,7 +163,7 @@ void EditPane::ShowMethod(const Settings& settings) {
 /// What is being typed stays, until the hand is another one.
 void EditPane::ShowLines(const Board& board) {
   for (const Seat seat : kAllSeats) {
-    const QString text = HandLine(board.Hands[seat]);
+    const QString text = HandLine(board.hands[seat]);
     if (text == shown_[seat] && txtHand[seat]->isModified()) continue;
     shown_[seat] = text;
     txtHand[seat]->setText(text);

@@ -29,7 +29,7 @@ class HighestBoardValidator : public QIntValidator {
  public:
   HighestBoardValidator(const Session& session, QObject* parent)
       : QIntValidator(kFirstBoardNumber, kLastBoardNumber, parent), session_(session) {}
-  void fixup(QString& text) const override { text = QString::number(session_.library.MaxBoard); }
+  void fixup(QString& text) const override { text = QString::number(session_.library.maxBoard); }
 
  private:
   const Session& session_;
@@ -161,11 +161,11 @@ void LibraryPane::Show(const Session& session) {
   ShowNames(session);
 
   boards_->Show(session.library);
-  cmbBoard->setCurrentIndex(session.board.BoardNumber - 1);
+  cmbBoard->setCurrentIndex(session.board.boardNumber - 1);
   const QSignalBlocker quiet(cmbMaxBoard);
-  cmbMaxBoard->setCurrentIndex(session.library.MaxBoard - 1);
-  cmbMaxBoard->setEditText(QString::number(session.library.MaxBoard));
-  const bool steps = session.library.MaxBoard > 0;
+  cmbMaxBoard->setCurrentIndex(session.library.maxBoard - 1);
+  cmbMaxBoard->setEditText(QString::number(session.library.maxBoard));
+  const bool steps = session.library.maxBoard > 0;
   lblPrevious->setEnabled(steps);
   lblNext->setEnabled(steps);
 }
@@ -181,7 +181,7 @@ void LibraryPane::OfferNext(bool offer) {
 
 void LibraryPane::ShowNames(const Session& session) {
   QStringList names;
-  for (const std::string& name : session.LibraryNames) names += ToQt(name);
+  for (const std::string& name : session.libraryNames) names += ToQt(name);
   QStringList listed;
   for (int i = 0; i < cmbLibs->count(); ++i) listed += cmbLibs->itemText(i);
   const QSignalBlocker quiet(cmbLibs);
@@ -189,7 +189,7 @@ void LibraryPane::ShowNames(const Session& session) {
     cmbLibs->clear();
     cmbLibs->addItems(names);
   }
-  cmbLibs->setCurrentIndex(session.LibIndex);
+  cmbLibs->setCurrentIndex(session.libIndex);
   cmbLibs->setEditText(ToQt(session.LibraryName()));
   cmbLibs->lineEdit()->setCursorPosition(0);  // of a long name the beginning
   cmbLibs->setToolTip(ToQt(session.LibraryName()));

@@ -91,7 +91,7 @@ QList<QWidget*> MakeablePane::TabOrder() const {
 void MakeablePane::ShowHeads(const Settings& settings) {
   for (const Suit suit : kAllSuits) {
     auto* head = new QTableWidgetItem(ToQt(SuitSymbol[suit]));
-    head->setForeground(SuitColourOnWindow(suit, settings.SuitColour, palette()));
+    head->setForeground(SuitColourOnWindow(suit, settings.suitColour, palette()));
     head->setToolTip(ToQt(SuitName[suit]));
     head->setData(Qt::AccessibleTextRole, head->toolTip());
     lvwMake->setHorizontalHeaderItem(kFirstStrainColumn + IndexOf(suit), head);
@@ -102,10 +102,10 @@ void MakeablePane::ShowHeads(const Settings& settings) {
 }
 
 void MakeablePane::Show(const Session& session) {
-  setVisible(session.board.MakeableValid && session.settings.ShowMakeable);
+  setVisible(session.board.makeableValid && session.settings.showMakeable);
   if (isHidden()) return;
   const MakeableView view =
-      MakeMakeableView(session.board.Makeable, session.settings.MakeableContract);
+      MakeMakeableView(session.board.makeable, session.settings.makeableContract);
   SetTitle(ToQt(view.caption));
   lvwMake->setAccessibleName(ToQt(view.caption));
   ShowHeads(session.settings);
@@ -118,7 +118,7 @@ void MakeablePane::Show(const Session& session) {
   }
   const Board& board = session.board;
   const QString par =
-      ToQt(ParText(ComputePar(board.Makeable, board.Dealer(), board.Vulnerability())));
+      ToQt(ParText(ComputePar(board.makeable, board.Dealer(), board.Vulnerability())));
   lblPar->setText(WithSymbols(par));
   lblPar->setAccessibleName(par);
   lvwMake->setFixedHeight(lvwMake->horizontalHeader()->sizeHint().height() +

@@ -65,26 +65,26 @@ StatisticsPane::StatisticsPane(QWidget* parent) : Section(QStringLiteral("fraSta
 
 void StatisticsPane::Show(const Session& session) {
   const Board& board = session.board;
-  setVisible(session.settings.ShowStats && HasCards(board.Hands) && !board.PlayMode);
+  setVisible(session.settings.showStats && HasCards(board.hands) && !board.playMode);
   if (isHidden()) return;
-  const Statistics statistics = GetStats(board.Hands);
+  const Statistics statistics = GetStats(board.hands);
   for (const Suit suit : kAllSuits) {
-    symbols_[suit]->setText(ColouredSymbol(suit, session.settings.SuitColour, palette()));
+    symbols_[suit]->setText(ColouredSymbol(suit, session.settings.suitColour, palette()));
   }
   const auto show = [](QLabel* label, int value) {
     label->setNum(value);
     label->setAccessibleName(label->toolTip() + QStringLiteral(": ") + label->text());
   };
   for (const Seat seat : kAllSeats) {
-    show(points_[seat], statistics.SeatHCP[seat]);
-    show(losers_[seat], statistics.SeatLTC[seat]);
+    show(points_[seat], statistics.seatHcp[seat]);
+    show(losers_[seat], statistics.seatLtc[seat]);
     for (const Suit suit : kAllSuits) {
-      show(lengths_[seat][suit], statistics.SuitLength[seat][suit]);
+      show(lengths_[seat][suit], statistics.suitLength[seat][suit]);
     }
   }
   pairs_->setText(tr("NS losers %1 · EW losers %2")
-                      .arg(statistics.PairLTC[Side::NorthSouth])
-                      .arg(statistics.PairLTC[Side::EastWest]));
+                      .arg(statistics.pairLtc[Side::NorthSouth])
+                      .arg(statistics.pairLtc[Side::EastWest]));
 }
 
 }  // namespace tricklet::ui

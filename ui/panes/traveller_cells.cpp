@@ -54,26 +54,26 @@ Cell* PairCell(const std::string& pair) {
 /// "4S" with the symbol of its suit; its colour is that of the suit.
 Cell* ContractCell(const TravellerRow& row, const Settings& settings, const QPalette& palette) {
   Board contract;
-  if (!SetContract(contract, row.Contract)) {
-    if (row.Contract == kAllPass) return new Cell(Text("Pass"), -1);
+  if (!SetContract(contract, row.contract)) {
+    if (row.contract == kAllPass) return new Cell(Text("Pass"), -1);
     const std::string text = row.ContractText();
     return new Cell(text == kNotPlayed ? Text("Not played") : ToQt(text), kLast);
   }
-  const int rank = contract.ContractLevel * kStrains + IndexOf(ToBidStrain(contract.Trumps));
-  auto* cell = new Cell(ToQt(row.Contract), rank);
-  if (contract.Trumps == Strain::NoTrump) return cell;
-  const Suit suit = ToSuit(contract.Trumps);
-  cell->setText(WithSymbols(ToQt(row.Contract)));
-  cell->setForeground(SuitColourOnWindow(suit, settings.SuitColour, palette));
-  cell->setData(Qt::AccessibleTextRole, ToQt(row.Contract));
+  const int rank = contract.contractLevel * kStrains + IndexOf(ToBidStrain(contract.trumps));
+  auto* cell = new Cell(ToQt(row.contract), rank);
+  if (contract.trumps == Strain::NoTrump) return cell;
+  const Suit suit = ToSuit(contract.trumps);
+  cell->setText(WithSymbols(ToQt(row.contract)));
+  cell->setForeground(SuitColourOnWindow(suit, settings.suitColour, palette));
+  cell->setData(Qt::AccessibleTextRole, ToQt(row.contract));
   return cell;
 }
 
 Cell* LeadCell(const TravellerRow& row, const Settings& settings, const QPalette& palette) {
-  if (!row.Lead) return new Cell(QString(), kLast);
-  const Card card = *row.Lead;
+  if (!row.lead) return new Cell(QString(), kLast);
+  const Card card = *row.lead;
   auto* cell = new Cell(ToQt(CardText(card)), kCardsInPack - card.Index());
-  cell->setForeground(SuitColourOnWindow(card.suit, settings.SuitColour, palette));
+  cell->setForeground(SuitColourOnWindow(card.suit, settings.suitColour, palette));
   cell->setData(Qt::AccessibleTextRole,
                 ToQt(SuitName[card.suit]) + QLatin1Char(' ') + ToQt(RankText[card.rank]));
   return cell;
@@ -81,16 +81,16 @@ Cell* LeadCell(const TravellerRow& row, const Settings& settings, const QPalette
 
 /// A score stands on the side that has won it, a ruling on North-South's.
 Cell* ScoreCell(const TravellerRow& row, Side side) {
-  if (!row.Score) {
-    return NumberCell(std::nullopt, side == Side::NorthSouth ? ToQt(row.Adjusted) : QString());
+  if (!row.score) {
+    return NumberCell(std::nullopt, side == Side::NorthSouth ? ToQt(row.adjusted) : QString());
   }
-  const int own = side == Side::NorthSouth ? *row.Score : -*row.Score;
+  const int own = side == Side::NorthSouth ? *row.score : -*row.score;
   const bool shown = own > 0 || (own == 0 && side == Side::NorthSouth);
   return NumberCell(own, shown ? QString::number(own) : QString());
 }
 
 Cell* PointsCell(const TravellerRow& row, Side side) {
-  const auto points = row.Points[side];
+  const auto points = row.points[side];
   if (!points) return NumberCell(std::nullopt, QString());
   return NumberCell(*points, ToQt(ShortestText(*points)));
 }
@@ -101,18 +101,18 @@ QTableWidgetItem* MakeTravellerCell(TravellerColumn column, const TravellerRow& 
                                     const Settings& settings, const QPalette& palette) {
   switch (column) {
     case TravellerColumn::PairNS:
-      return PairCell(row.Pair[Side::NorthSouth]);
+      return PairCell(row.pair[Side::NorthSouth]);
     case TravellerColumn::PairEW:
-      return PairCell(row.Pair[Side::EastWest]);
+      return PairCell(row.pair[Side::EastWest]);
     case TravellerColumn::Contract:
       return ContractCell(row, settings, palette);
     case TravellerColumn::By:
-      return new Cell(row.Declarer ? ToQt(SeatName[*row.Declarer].substr(0, 1)) : QString(),
-                      row.Declarer ? IndexOf(*row.Declarer) : kLast);
+      return new Cell(row.declarer ? ToQt(SeatName[*row.declarer].substr(0, 1)) : QString(),
+                      row.declarer ? IndexOf(*row.declarer) : kLast);
     case TravellerColumn::Lead:
       return LeadCell(row, settings, palette);
     case TravellerColumn::Tricks:
-      return NumberCell(row.Tricks, row.Tricks ? QString::number(*row.Tricks) : QString());
+      return NumberCell(row.tricks, row.tricks ? QString::number(*row.tricks) : QString());
     case TravellerColumn::ScoreNS:
       return ScoreCell(row, Side::NorthSouth);
     case TravellerColumn::ScoreEW:
@@ -158,9 +158,9 @@ QTableWidgetItem* MakeTravellerHead(TravellerColumn column, const Traveller& tra
   QString text = Text(head.text);
   QString tip = Text(head.tip);
   if (column == TravellerColumn::PointsNS || column == TravellerColumn::PointsEW) {
-    text = text.arg(ToQt(traveller.Scoring));
-    tip = tip.arg(ToQt(traveller.Scoring));
-    if (traveller.Computed) tip += Text(", computed from the scores");
+    text = text.arg(ToQt(traveller.scoring));
+    tip = tip.arg(ToQt(traveller.scoring));
+    if (traveller.computed) tip += Text(", computed from the scores");
   }
   auto* item = new QTableWidgetItem(text);
   if (column == TravellerColumn::Names) item->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);

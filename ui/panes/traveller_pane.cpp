@@ -165,9 +165,9 @@ void TravellerPane::SetLinVisible(bool visible) {
 void TravellerPane::Show(const Settings& settings) {
   SetLinVisible(results_.HasLinData());
   if (isHidden()) return;
-  if (shownEdition_ != results_.Edition() || fourColours_ != settings.SuitColour) {
+  if (shownEdition_ != results_.Edition() || fourColours_ != settings.suitColour) {
     shownEdition_ = results_.Edition();
-    fourColours_ = settings.SuitColour;
+    fourColours_ = settings.suitColour;
     FillGrid(settings);
     FillNames();
   }
@@ -178,17 +178,17 @@ void TravellerPane::Show(const Settings& settings) {
 void TravellerPane::FillGrid(const Settings& settings) {
   const QSignalBlocker blocker(flexTraveller);
   const Traveller& traveller = results_.OfBoard();
-  SetTitle(traveller.Rows.empty() ? tr("No traveller for this board") : tr("Traveller"));
+  SetTitle(traveller.rows.empty() ? tr("No traveller for this board") : tr("Traveller"));
   flexTraveller->setSortingEnabled(false);
   flexTraveller->clearSelection();
   flexTraveller->setRowCount(0);
-  flexTraveller->setRowCount(static_cast<int>(traveller.Rows.size()));
+  flexTraveller->setRowCount(static_cast<int>(traveller.rows.size()));
   for (int column = 0; column < kTravellerColumns; ++column) {
     flexTraveller->setHorizontalHeaderItem(
         column, MakeTravellerHead(static_cast<TravellerColumn>(column), traveller));
   }
   for (int row = 0; row < flexTraveller->rowCount(); ++row) {
-    FillRow(row, traveller.Rows.at(static_cast<std::size_t>(row)), settings);
+    FillRow(row, traveller.rows.at(static_cast<std::size_t>(row)), settings);
   }
   flexTraveller->setSortingEnabled(true);
   TravellerResize();
@@ -258,8 +258,8 @@ void TravellerPane::RestoreOrder() {
 void TravellerPane::ChooseRow(int place) {
   const int row = RowAt(place);
   const Traveller& traveller = results_.OfBoard();
-  if (row >= static_cast<int>(traveller.Rows.size())) return;
-  const std::string names = traveller.Rows.at(static_cast<std::size_t>(row)).NamesText();
+  if (row >= static_cast<int>(traveller.rows.size())) return;
+  const std::string names = traveller.rows.at(static_cast<std::size_t>(row)).NamesText();
   results_.ShowRecord(FindLinName(AddLinNames(traveller), names, row));
 }
 

@@ -111,12 +111,12 @@ void ApplyColourScheme(QApplication& application, int scheme) {
 }
 
 QFont ToFont(const FontSetting& setting) {
-  QFont font(QString::fromStdString(setting.Name));
-  font.setPointSizeF(std::max(1.0, setting.Size));
-  font.setBold(setting.Bold);
-  font.setItalic(setting.Italic);
-  font.setStrikeOut(setting.Strikethrough);
-  font.setUnderline(setting.Underline);
+  QFont font(QString::fromStdString(setting.name));
+  font.setPointSizeF(std::max(1.0, setting.size));
+  font.setBold(setting.bold);
+  font.setItalic(setting.italic);
+  font.setStrikeOut(setting.strikethrough);
+  font.setUnderline(setting.underline);
   return font;
 }
 

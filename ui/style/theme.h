@@ -20,7 +20,7 @@ QColor SuitColourOnWindow(Suit suit, bool fourColours, const QPalette& palette);
 /// The window's background is dark.
 bool IsDark(const QPalette& palette);
 
-/// Applies `ColourScheme` (0 as the system, 1 light, 2 dark) to the whole program.
+/// Applies `colourScheme` (0 as the system, 1 light, 2 dark) to the whole program.
 void ApplyColourScheme(QApplication& application, int scheme);
 
 /// A stored font and its colour; the system's window-text colour is taken from `palette`.

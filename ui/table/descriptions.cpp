@@ -15,10 +15,10 @@ struct Words {
 const QString kBetween = QStringLiteral(" \u00B7 ");
 
 QString Role(const Board& board, const Settings& settings, Seat seat) {
-  const bool contract = !board.Contract.empty() && board.Contract != kAllPass;
+  const bool contract = !board.contract.empty() && board.contract != kAllPass;
   if (!contract) return {};
-  if (seat == board.Declarer && settings.CaptionDeclarer) return Words::tr("Declarer");
-  if (seat == PartnerOf(board.Declarer) && settings.CaptionDummy) return Words::tr("Dummy");
+  if (seat == board.declarer && settings.captionDeclarer) return Words::tr("Declarer");
+  if (seat == PartnerOf(board.declarer) && settings.captionDummy) return Words::tr("Dummy");
   return {};
 }
 
@@ -46,11 +46,11 @@ QStringList DescribeHands(const HandTable& hands) {
 QString DescribeTrick(const PlayState& now) {
   QStringList cards;
   for (const Seat seat : kAllSeats) {
-    const auto& card = now.TrickCards[seat];
+    const auto& card = now.trickCards[seat];
     if (!card) continue;
     QString text = ToQt(SeatName[seat]) + u' ' + ToQt(SuitName[card->suit]).toLower() + u' ' +
                    ToQt(RankText[card->rank]);
-    if (seat == now.TrickWinner) text += u' ' + Words::tr("(winning)");
+    if (seat == now.trickWinner) text += u' ' + Words::tr("(winning)");
     cards << text;
   }
   if (cards.isEmpty()) return Words::tr("No card on the table");
@@ -61,8 +61,8 @@ QString DescribeTrick(const PlayState& now) {
 
 PerSeat<QString> TableCaptions(const Board& board, const Settings& settings) {
   PerSeat<QString> captions;
-  if (!HasCards(board.Hands)) return captions;
-  const PerSeat<std::string> edited = GetCaptionsEdit(GetStats(board.Hands), settings);
+  if (!HasCards(board.hands)) return captions;
+  const PerSeat<std::string> edited = GetCaptionsEdit(GetStats(board.hands), settings);
   for (const Seat seat : kAllSeats) {
     // The parts end in blanks of their own.
     captions[seat] = (ToQt(edited[seat]) + u' ' + Role(board, settings, seat)).simplified();
@@ -85,16 +85,16 @@ PerSeat<QString> PlayCaptions(const Board& board, const Settings& settings,
 
 PerSeat<QString> EditCaptions(const Board& board, const Settings& settings) {
   Settings named = settings;
-  named.CaptionPlayer = true;
+  named.captionPlayer = true;
   PerSeat<QString> captions;
-  const PerSeat<std::string> edited = GetCaptionsEdit(GetStats(board.Hands), named);
+  const PerSeat<std::string> edited = GetCaptionsEdit(GetStats(board.hands), named);
   for (const Seat seat : kAllSeats) captions[seat] = ToQt(edited[seat]).simplified();
   return captions;
 }
 
 QString PackCaption(const Board& board) {
   int cards = 0;
-  for (const Holding missing : GetStats(board.Hands).MissingCards) cards += missing.Count();
+  for (const Holding missing : GetStats(board.hands).missingCards) cards += missing.Count();
   return cards == 1 ? Words::tr("Pack: 1 card") : Words::tr("Pack: %1 cards").arg(cards);
 }
 
@@ -107,8 +107,8 @@ PerSeat<QString> CallCaptions(const Board& board, const Settings& settings, Seat
 }
 
 QStringList BoardLine(const Board& board) {
-  if (board.BoardNumber == 0) return {};
-  return {Words::tr("Board %1").arg(board.BoardNumber)};
+  if (board.boardNumber == 0) return {};
+  return {Words::tr("Board %1").arg(board.boardNumber)};
 }
 
 QStringList DealerLines(const Board& board) {
@@ -126,7 +126,7 @@ QString DescribeTable(const Board& board, std::optional<Seat> toCall) {
   parts << DealerLines(board).front();
   parts << ToQt(VulText[board.Vulnerability()]);
   if (toCall) parts << Words::tr("%1 to call").arg(ToQt(SeatName[*toCall]));
-  parts << DescribeHands(board.Hands);
+  parts << DescribeHands(board.hands);
   return parts.join(QStringLiteral(". ")) + u'.';
 }
 
@@ -140,8 +140,8 @@ QString DescribeEdit(const Board& board, const TableEdit& edit) {
     const auto seat = SeatOf(*frame);
     parts << Words::tr("%1 waits for cards").arg(seat ? ToQt(SeatName[*seat]) : Words::tr("Pack"));
   }
-  parts << DescribeHands(board.Hands);
-  const PerSuit<Holding> pack = GetStats(board.Hands).MissingCards;
+  parts << DescribeHands(board.hands);
+  const PerSuit<Holding> pack = GetStats(board.hands).missingCards;
   parts << Words::tr("Pack") + QStringLiteral(": ") + DescribeHand(pack);
   return parts.join(QStringLiteral(". ")) + u'.';
 }
@@ -150,11 +150,11 @@ QString DescribePlay(const Board& board, const TablePlay& play) {
   const PlayState& now = play.now;
   QStringList parts = BoardLine(board);
   parts << ToQt(ContractLabel(board));
-  if (now.OnPlay) parts << Words::tr("%1 to play").arg(ToQt(SeatName[*now.OnPlay]));
+  if (now.onPlay) parts << Words::tr("%1 to play").arg(ToQt(SeatName[*now.onPlay]));
   if (play.finished) parts << play.score;
   parts << DescribeTrick(now);
   parts << play.tricks[Side::NorthSouth] << play.tricks[Side::EastWest];
-  parts << DescribeHands(now.CardsLeft);
+  parts << DescribeHands(now.cardsLeft);
   return parts.join(QStringLiteral(". ")) + u'.';
 }
 

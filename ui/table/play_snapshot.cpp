@@ -5,7 +5,7 @@
 namespace tricklet::ui {
 
 PerSuit<Holding> TablePlay::HandOnPlay() const {
-  return now.OnPlay ? now.CardsLeft[*now.OnPlay] : PerSuit<Holding>();
+  return now.onPlay ? now.cardsLeft[*now.onPlay] : PerSuit<Holding>();
 }
 
 std::optional<TablePlay> CopyOf(const CardPlay* play) {

@@ -18,7 +18,7 @@ struct TablePlay {
 
   /// The last trick has been played and gathered: nothing is left to be done. A claim leaves cards
   /// in the hands and is not meant.
-  bool PlayedOut() const { return finished && now.TrickGathered && !now.Claimed; }
+  bool PlayedOut() const { return finished && now.trickGathered && !now.claimed; }
   /// What the hand on play still holds.
   PerSuit<Holding> HandOnPlay() const;
   bool IsLegal(Card card) const { return legal[card.suit].Has(card.rank); }

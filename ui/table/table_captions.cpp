@@ -89,7 +89,7 @@ CaptionLayout LayOutCaptions(const TableLayout& table, const PerSeat<Caption>& c
                              const Settings& settings, double dotsPerInch) {
   // One size for all four; the narrowest room decides.
   const QRectF& room = table.hands[Seat::West].caption;
-  const double wished = settings.HGFont[1].Size * dotsPerInch / kPointsPerInch *
+  const double wished = settings.hgFont[1].size * dotsPerInch / kPointsPerInch *
                         std::max(1.0, table.felt.height() / kReferenceHeight);
   const double most = std::min(wished, kText * room.height());
   QStringList texts;
@@ -100,7 +100,7 @@ CaptionLayout LayOutCaptions(const TableLayout& table, const PerSeat<Caption>& c
   }
   const double ends = 2 * kPadding * room.height();
   CaptionLayout layout;
-  layout.font = Fitted(ToFont(settings.HGFont[1]), texts,
+  layout.font = Fitted(ToFont(settings.hgFont[1]), texts,
                        {room.width() - ends - extras, room.height()}, most);
   layout.font.setPixelSize(std::max(kLeastPixels, layout.font.pixelSize()));
   for (const Seat seat : kAllSeats) {
@@ -131,7 +131,7 @@ void DrawCaption(QPainter& painter, const CaptionLayout& layout, const QRectF& p
   const QColor background = BackgroundOf(caption.mark, colours);
   painter.setFont(layout.font);
   DrawPill(painter, pill, caption, layout.font, background,
-           ReadableOn(background, ToColour(settings.HGFont[1].Forecolour, palette)));
+           ReadableOn(background, ToColour(settings.hgFont[1].forecolour, palette)));
 }
 
 void DrawCaptions(QPainter& painter, const CaptionLayout& layout, const PerSeat<Caption>& captions,

@@ -11,7 +11,7 @@ namespace {
 
 bool HasRoom(const HandTable& hands, const CardMove& move) {
   Board board;
-  board.Hands = hands;
+  board.hands = hands;
   return MoveCard(board, move.card, SeatOf(move.to));
 }
 

@@ -14,10 +14,10 @@
 
 namespace tricklet::ui {
 
-/// The values of the setting `EditMethod`.
+/// The values of the setting `editMethod`.
 enum class EditBy : std::uint8_t { Dragging = 1, Clicking = 2, Typing = 3 };
 constexpr EditBy EditMethodOf(const Settings& settings) {
-  return static_cast<EditBy>(settings.EditMethod);
+  return static_cast<EditBy>(settings.editMethod);
 }
 
 struct CardMove {

@@ -10,7 +10,7 @@ bool TableView::IsOurKey(const QKeyEvent& event) const {
   if (edit_) return TableEdit(*edit_).Key(event.key(), event.modifiers()).ours;
   if (!play_) return false;
   if (event.key() == Qt::Key_Space && event.modifiers() == Qt::NoModifier) {
-    return play_->now.OnPlay.has_value();
+    return play_->now.onPlay.has_value();
   }
   return keys_.WouldTake(event.key(), event.modifiers(), play_->HandOnPlay(), play_->legal);
 }
@@ -44,7 +44,7 @@ void TableView::keyPressEvent(QKeyEvent* event) {
 
 void TableView::mousePressEvent(QMouseEvent* event) {
   if (edit_ && event->button() == Qt::LeftButton) {
-    Ask(edit_->Press(LayOutEdit(size(), board_.Hands), event->position()));
+    Ask(edit_->Press(LayOutEdit(size(), board_.hands), event->position()));
     return;
   }
   if (!play_ || event->button() != Qt::LeftButton) {
@@ -70,7 +70,7 @@ void TableView::mouseDoubleClickEvent(QMouseEvent* event) {
 void TableView::mouseMoveEvent(QMouseEvent* event) {
   QWidget::mouseMoveEvent(event);
   if (edit_ && (event->buttons() & Qt::LeftButton) != 0) {
-    edit_->Drag(LayOutEdit(size(), board_.Hands), event->position(),
+    edit_->Drag(LayOutEdit(size(), board_.hands), event->position(),
                 QApplication::startDragDistance());
     update();
   }
@@ -79,7 +79,7 @@ void TableView::mouseMoveEvent(QMouseEvent* event) {
 
 void TableView::mouseReleaseEvent(QMouseEvent* event) {
   if (edit_ && event->button() == Qt::LeftButton) {
-    Ask(edit_->Release(LayOutEdit(size(), board_.Hands), event->position()));
+    Ask(edit_->Release(LayOutEdit(size(), board_.hands), event->position()));
   } else {
     QWidget::mouseReleaseEvent(event);
   }
@@ -98,7 +98,7 @@ bool TableView::EditKey(TableEdit& edit, const QKeyEvent& event) {
 }
 
 void TableView::ShowEditCursor(const TableEdit& edit, QPointF mouse) {
-  const bool card = EditedCardAt(LayOutEdit(size(), board_.Hands), board_.Hands, mouse).has_value();
+  const bool card = EditedCardAt(LayOutEdit(size(), board_.hands), board_.hands, mouse).has_value();
   const EditBy method = EditMethodOf(settings_);
   if (edit.Held()) {
     setCursor(Qt::ClosedHandCursor);

@@ -99,18 +99,18 @@ TrickLayout LayOutTrick(const QRectF& room, QSizeF card) {
 void DrawTrick(QPainter& painter, const TrickLayout& layout, const TablePlay& play,
                CardPainter& cards, const Settings& settings, const TableColours& colours) {
   const PlayState& now = play.now;
-  cards.SetLook({layout.cardSize, painter.device()->devicePixelRatioF(), settings.CardDesign,
-                 settings.SuitColour});
-  if (now.OnPlay && !now.TrickCards[*now.OnPlay]) {
-    DrawWaitingPlace(painter, layout.cards[*now.OnPlay], colours);
+  cards.SetLook({layout.cardSize, painter.device()->devicePixelRatioF(), settings.cardDesign,
+                 settings.suitColour});
+  if (now.onPlay && !now.trickCards[*now.onPlay]) {
+    DrawWaitingPlace(painter, layout.cards[*now.onPlay], colours);
   }
   for (const Seat seat : kTrickOrder) {
-    const auto& card = now.TrickCards[seat];
+    const auto& card = now.trickCards[seat];
     if (!card) continue;
     cards.Draw(painter, layout.cards[seat].topLeft(), *card);
-    if (seat == now.TrickWinner) DrawWinnerFrame(painter, layout.cards[seat]);
+    if (seat == now.trickWinner) DrawWinnerFrame(painter, layout.cards[seat]);
     if (!layout.symbols[seat].isEmpty()) {
-      DrawSymbol(painter, layout.symbols[seat], card->suit, settings.SuitColour);
+      DrawSymbol(painter, layout.symbols[seat], card->suit, settings.suitColour);
     }
   }
 }

@@ -54,7 +54,7 @@ void TableView::ShowEdit(const Board& board, const Settings& settings) {
   if (!edit_) edit_.emplace();
   board_ = board;
   settings_ = settings;
-  edit_->Show(board.Hands, EditMethodOf(settings));
+  edit_->Show(board.hands, EditMethodOf(settings));
   Describe();
 }
 
@@ -73,9 +73,9 @@ void TableView::ShowBestCards(std::vector<CardScore> best) {
 }
 
 TableLayout TableView::Layout() const {
-  if (edit_) return LayOutEdit(size(), board_.Hands).table;
-  const HandDisplay display = settings_.CardsFaces ? HandDisplay::Cards : HandDisplay::Text;
-  TableLayout layout = LayOutTable(size(), board_.Hands, display);
+  if (edit_) return LayOutEdit(size(), board_.hands).table;
+  const HandDisplay display = settings_.cardsFaces ? HandDisplay::Cards : HandDisplay::Text;
+  TableLayout layout = LayOutTable(size(), board_.hands, display);
   if (play_ && display == HandDisplay::Cards) PlaceCardsLeft(layout, *play_);
   if (play_ && display == HandDisplay::Text) PlaceRanksLeft(layout, *play_);
   return layout;
@@ -85,9 +85,9 @@ TableLayout TableView::Layout() const {
 /// card that is taken back returns to where it was.
 void TableView::PlaceCardsLeft(TableLayout& layout, const TablePlay& play) const {
   std::erase_if(layout.cards, [&](const PlacedCard& placed) {
-    return !play.now.CardsLeft[placed.seat][placed.card.suit].Has(placed.card.rank);
+    return !play.now.cardsLeft[placed.seat][placed.card.suit].Has(placed.card.rank);
   });
-  if (settings_.ShowBestCards) return;  // the labels stand in that room, on legal cards only
+  if (settings_.showBestCards) return;  // the labels stand in that room, on legal cards only
   const double raise = RaiseOf(layout);
   for (PlacedCard& placed : layout.cards) {
     if (play.IsLegal(placed.card)) placed.rect.translate(0, -raise);
@@ -95,12 +95,12 @@ void TableView::PlaceCardsLeft(TableLayout& layout, const TablePlay& play) const
 }
 
 void TableView::PlaceRanksLeft(TableLayout& layout, const TablePlay& play) const {
-  const TextMeasures measures = MeasureText(layout, board_.Hands, settings_, logicalDpiY());
+  const TextMeasures measures = MeasureText(layout, board_.hands, settings_, logicalDpiY());
   for (const Seat seat : kAllSeats) {
-    const PerSuit<Holding>& hand = board_.Hands[seat];
+    const PerSuit<Holding>& hand = board_.hands[seat];
     const QRectF panel = TextPanel(layout, measures, hand, seat);
     for (const PlacedCard& rank : PlaceRanks(panel, measures, hand, seat)) {
-      const bool left = play.now.CardsLeft[seat][rank.card.suit].Has(rank.card.rank);
+      const bool left = play.now.cardsLeft[seat][rank.card.suit].Has(rank.card.rank);
       if (left) layout.cards.push_back(rank);
     }
   }
@@ -128,7 +128,7 @@ void TableView::paintEvent(QPaintEvent* /*event*/) {
   if (play_) DrawWon(painter, LayOutWon(layout, *play_), *play_, backs_, colours, font());
   DrawCaptions(painter, pills, captions, settings_, colours, palette());
   DrawMiddle(painter, layout, colours);
-  if (settings_.CardsFaces) {
+  if (settings_.cardsFaces) {
     DrawCards(painter, layout);
   } else {
     DrawText(painter, layout);
@@ -137,7 +137,7 @@ void TableView::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void TableView::DrawEditing(QPainter& painter, const TableEdit& edit, const TableColours& colours) {
-  const EditLayout layout = LayOutEdit(size(), board_.Hands);
+  const EditLayout layout = LayOutEdit(size(), board_.hands);
   const EditCaptionTexts captions = MakeEditCaptions(board_, settings_, edit);
   const CaptionLayout pills =
       LayOutCaptions(layout.table, captions.hands, settings_, logicalDpiY());
@@ -146,8 +146,8 @@ void TableView::DrawEditing(QPainter& painter, const TableEdit& edit, const Tabl
               settings_, colours, palette());
   DrawCentre(painter, layout.table.centre, board_, colours, font());
   DrawRooms(painter, layout, edit, colours);
-  CardLook look{layout.table.cardSize, painter.device()->devicePixelRatioF(), settings_.CardDesign,
-                settings_.SuitColour};
+  CardLook look{layout.table.cardSize, painter.device()->devicePixelRatioF(), settings_.cardDesign,
+                settings_.suitColour};
   cards_.SetLook(look);
   look.size = layout.packCardSize;
   packCards_.SetLook(look);
@@ -155,7 +155,7 @@ void TableView::DrawEditing(QPainter& painter, const TableEdit& edit, const Tabl
 }
 
 PerSeat<Caption> TableView::Captions() const {
-  const auto onPlay = play_ ? play_->now.OnPlay : std::nullopt;
+  const auto onPlay = play_ ? play_->now.onPlay : std::nullopt;
   const PerSeat<QString> texts = play_     ? PlayCaptions(board_, settings_, onPlay)
                                  : toCall_ ? CallCaptions(board_, settings_, *toCall_)
                                            : TableCaptions(board_, settings_);
@@ -193,16 +193,16 @@ void TableView::DrawMiddle(QPainter& painter, const TableLayout& layout,
   const QRectF room = TrickRoom(layout.centre);
   DrawTrick(painter, LayOutTrick(room, layout.cardSize), *play_, trickCards_, settings_, colours);
   // The last trick lies there for a while before the result takes its place.
-  if (play_->finished && play_->now.TrickGathered) {
+  if (play_->finished && play_->now.trickGathered) {
     DrawScore(painter, room, play_->score, colours, font());
   }
 }
 
 void TableView::DrawCards(QPainter& painter, const TableLayout& layout) {
-  cards_.SetLook({layout.cardSize, painter.device()->devicePixelRatioF(), settings_.CardDesign,
-                  settings_.SuitColour});
+  cards_.SetLook({layout.cardSize, painter.device()->devicePixelRatioF(), settings_.cardDesign,
+                  settings_.suitColour});
   for (const PlacedCard& placed : layout.cards) {
-    const bool onPlay = play_ && play_->now.OnPlay == placed.seat;
+    const bool onPlay = play_ && play_->now.onPlay == placed.seat;
     if (onPlay && !play_->IsLegal(placed.card)) {
       cards_.DrawDimmed(painter, placed.rect.topLeft(), placed.card);
     } else {
@@ -212,10 +212,10 @@ void TableView::DrawCards(QPainter& painter, const TableLayout& layout) {
 }
 
 void TableView::DrawText(QPainter& painter, const TableLayout& layout) const {
-  if (!HasCards(board_.Hands)) return;
-  const TextMeasures measures = MeasureText(layout, board_.Hands, settings_, logicalDpiY());
+  if (!HasCards(board_.hands)) return;
+  const TextMeasures measures = MeasureText(layout, board_.hands, settings_, logicalDpiY());
   for (const Seat seat : kAllSeats) {
-    const PerSuit<Holding>& hand = board_.Hands[seat];
+    const PerSuit<Holding>& hand = board_.hands[seat];
     const QRectF panel = TextPanel(layout, measures, hand, seat);
     if (play_) {
       DrawTextHandInPlay(painter, panel, measures, hand, seat, *play_, settings_, palette());

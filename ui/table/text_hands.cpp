@@ -21,11 +21,11 @@ constexpr double kSymbolShare = 0.75;
 
 TextMeasures MeasuresAt(const Settings& settings, double pixelsPerPoint) {
   TextMeasures measures;
-  measures.font = ToFont(settings.HGFont[0]);
+  measures.font = ToFont(settings.hgFont[0]);
   measures.font.setPixelSize(
-      std::max(1, static_cast<int>(settings.HGFont[0].Size * pixelsPerPoint)));
+      std::max(1, static_cast<int>(settings.hgFont[0].size * pixelsPerPoint)));
   const QFontMetricsF metrics(measures.font);
-  const double symbol = std::max(1.0, settings.SuitFontSize * pixelsPerPoint);
+  const double symbol = std::max(1.0, settings.suitFontSize * pixelsPerPoint);
   measures.symbolHeight = symbol * kSymbolShare;
   measures.symbolWidth = measures.symbolHeight + metrics.horizontalAdvance(u' ');
   measures.lineHeight = std::max(metrics.height(), symbol * 1.05);
@@ -46,7 +46,7 @@ bool Fits(const TableLayout& layout, const TextMeasures& measures, const HandTab
 
 QColor InkOf(const Settings& settings, const QPalette& palette) {
   return ReadableOn(palette.color(QPalette::Base),
-                    ToColour(settings.HGFont[0].Forecolour, palette));
+                    ToColour(settings.hgFont[0].forecolour, palette));
 }
 
 /// Room for the ranks of `suit`.
@@ -65,7 +65,7 @@ void DrawPanel(QPainter& painter, const QRectF& panel, const TextMeasures& measu
   painter.drawRoundedRect(panel, radius, radius);
   const double middle = panel.left() + Padding(measures) + measures.symbolHeight / 2;
   for (const Suit suit : kAllSuits) {
-    painter.setBrush(SuitColourOnWindow(suit, settings.SuitColour, palette));
+    painter.setBrush(SuitColourOnWindow(suit, settings.suitColour, palette));
     painter.drawPath(SuitOutline(suit, {middle, LineOf(panel, measures, suit).center().y()},
                                  measures.symbolHeight));
   }
@@ -146,8 +146,8 @@ void DrawTextHandInPlay(QPainter& painter, const QRectF& panel, const TextMeasur
                         const PerSuit<Holding>& hand, Seat seat, const TablePlay& play,
                         const Settings& settings, const QPalette& palette) {
   DrawPanel(painter, panel, measures, settings, palette);
-  const bool onPlay = play.now.OnPlay == seat;
-  const PerSuit<Holding>& left = play.now.CardsLeft[seat];
+  const bool onPlay = play.now.onPlay == seat;
+  const PerSuit<Holding>& left = play.now.cardsLeft[seat];
   QFont legalFont = measures.font;
   legalFont.setBold(true);
   legalFont.setUnderline(true);

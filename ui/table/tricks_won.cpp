@@ -49,7 +49,7 @@ WonLayout LayOutWon(const TableLayout& table, const TablePlay& play) {
   if (high < kLeastBack) return layout;
   const double step = std::min((room - high) / (kTricks - 1), high * 0.8);
   for (std::size_t trick = 0; trick < layout.backs.size(); ++trick) {
-    const bool upright = play.now.TrickSides.at(trick) == Side::NorthSouth;
+    const bool upright = play.now.trickSides.at(trick) == Side::NorthSouth;
     QRectF& back = layout.backs.at(trick);
     back.setSize(upright ? QSizeF(high / kBackAspect, high) : QSizeF(high, high / kBackAspect));
     back.moveCenter(
@@ -62,7 +62,7 @@ void DrawWon(QPainter& painter, const WonLayout& layout, const TablePlay& play, 
              const TableColours& colours, const QFont& font) {
   const PlayState& now = play.now;
   // A trick that still lies open on the table is counted, but not turned yet.
-  const int turned = now.TricksPlayed - (now.TrickGathered || now.CardsInTrick > 0 ? 0 : 1);
+  const int turned = now.tricksPlayed - (now.trickGathered || now.cardsInTrick > 0 ? 0 : 1);
   for (int trick = 0; trick < turned; ++trick) {
     const QRectF& back = layout.backs.at(static_cast<std::size_t>(trick));
     if (!back.isEmpty()) backs.Draw(painter, back);

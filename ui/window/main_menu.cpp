@@ -171,13 +171,13 @@ void MainMenu::BuildAnalysis() {
 void MainMenu::BuildView() {
   QMenu* menu = AddMenu(tr("&View"));
   statistics_ = AddToggle(menu, "mnuStatistics", tr("&Statistics"), QKeySequence(tr("Ctrl+T")),
-                          &Settings::ShowStats, "ShowStats");
+                          &Settings::showStats, "ShowStats");
   makeable_ = AddToggle(menu, "mnuMakeable", tr("&Makeable contracts"), QKeySequence(tr("Ctrl+M")),
-                        &Settings::ShowMakeable, "ShowMakeable");
+                        &Settings::showMakeable, "ShowMakeable");
   bestCards_ = AddToggle(menu, "mnuBestCards", tr("&Best cards in play"),
-                         QKeySequence(tr("Ctrl+K")), &Settings::ShowBestCards, "ShowBestCards");
+                         QKeySequence(tr("Ctrl+K")), &Settings::showBestCards, "ShowBestCards");
   cardFaces_ = AddToggle(menu, "mnuCardFaces", tr("Card &faces"), QKeySequence(tr("Ctrl+F")),
-                         &Settings::CardsFaces, "CardsFaces");
+                         &Settings::cardsFaces, "CardsFaces");
   menu->addSeparator();
   BuildColours(menu);
   menu->addSeparator();
@@ -220,18 +220,18 @@ void MainMenu::BuildOptionsAndHelp() {
 void MainMenu::Show(const Session& session, const PlayControl& play, const EditControl& edit) {
   for (QAction* action : actions_) action->setEnabled(enabled_);
   const bool editable = enabled_ && !play.UnderWay();
-  save_->setEnabled(enabled_ && session.board.HandChanged);
-  pasteHand_->setEnabled(editable && !session.CopyLibrary.empty());
+  save_->setEnabled(enabled_ && session.board.handChanged);
+  pasteHand_->setEnabled(editable && !session.copyLibrary.empty());
   bidding_->setEnabled(editable && !edit.Editing());
   for (QAction* action : leaveBoard_) action->setEnabled(enabled_ && !edit.Editing());
   ShowPlay(play);
   ShowEdit(play, edit);
   ShowResults();
-  statistics_->setChecked(session.settings.ShowStats);
-  makeable_->setChecked(session.settings.ShowMakeable);
-  bestCards_->setChecked(session.settings.ShowBestCards);
-  cardFaces_->setChecked(session.settings.CardsFaces);
-  colours_->actions().at(session.settings.ColourScheme)->setChecked(true);
+  statistics_->setChecked(session.settings.showStats);
+  makeable_->setChecked(session.settings.showMakeable);
+  bestCards_->setChecked(session.settings.showBestCards);
+  cardFaces_->setChecked(session.settings.cardsFaces);
+  colours_->actions().at(session.settings.colourScheme)->setChecked(true);
 }
 
 void MainMenu::ShowPlay(const PlayControl& play) {

@@ -185,17 +185,17 @@ void MainWindow::Display() {
   if (!edit_->Editing()) tables_->Look();
   const Board& board = session_.board;
   setWindowTitle(tr("%1 - Board %2[*] - Tricklet")
-                     .arg(ToQt(session_.LibraryName()), QString::number(board.BoardNumber)));
-  setWindowModified(board.HandChanged);
+                     .arg(ToQt(session_.LibraryName()), QString::number(board.boardNumber)));
+  setWindowModified(board.handChanged);
   status_->setText(StatusText());
 }
 
 QString MainWindow::StatusText() const {
   const Board& board = session_.board;
-  if (board.HandChanged) {
-    return tr("Board %1 has changes that are not saved").arg(board.BoardNumber);
+  if (board.handChanged) {
+    return tr("Board %1 has changes that are not saved").arg(board.boardNumber);
   }
-  if (session_.library.BoardCount > 0) return tr("Ready");
+  if (session_.library.boardCount > 0) return tr("Ready");
   return tr("The library is empty: drop hand records here, import them, or generate deals");
 }
 
@@ -203,7 +203,7 @@ void MainWindow::DisplayAuction() {
   results_->Follow(commands_->Auction() != nullptr || edit_->Editing());
   const Replay* record = results_->Record();
   auction_->Show(session_, commands_->Auction(),
-                 record != nullptr ? &record->Record().Board : nullptr);
+                 record != nullptr ? &record->Record().board : nullptr);
   ShowColumns();
   DisplayPlay();
 }
@@ -243,7 +243,7 @@ void MainWindow::DisplayTable() {
     return;
   }
   table_->Show(session_.board, session_.settings,
-               session_.board.PlayMode ? &play_->Play() : nullptr);
+               session_.board.playMode ? &play_->Play() : nullptr);
   best_->Look();
   table_->ShowBestCards(best_->Tricks());
 }
@@ -251,8 +251,8 @@ void MainWindow::DisplayTable() {
 /// Nobody is declarer until the auction has been taken over.
 void MainWindow::DisplayBidding(const AuctionEntry& entry) {
   Board undecided = session_.board;
-  undecided.Contract.clear();
-  undecided.ContractLevel = 0;
+  undecided.contract.clear();
+  undecided.contractLevel = 0;
   table_->Show(undecided, session_.settings, nullptr,
                entry.Over() ? std::nullopt : std::optional(entry.ToCall()));
   table_->ShowBestCards({});
@@ -261,7 +261,7 @@ void MainWindow::DisplayBidding(const AuctionEntry& entry) {
 void MainWindow::DisplayRecord(const Replay& record) {
   const CardPlay& play = record.Play();
   contract_->ShowRecord(record, session_.settings);
-  table_->Show(record.Record().Board, session_.settings, play.PlayMode() ? &play : nullptr);
+  table_->Show(record.Record().board, session_.settings, play.PlayMode() ? &play : nullptr);
   table_->ShowBestCards({});
 }
 

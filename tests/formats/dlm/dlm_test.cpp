@@ -131,7 +131,7 @@ TEST(ReadDLM, BoardsBringNoCallsAndNoTable) {
   ReadDLM(BoardLine("03"), sink);
   ASSERT_EQ(sink.boards.size(), 1U);
   EXPECT_EQ(sink.boards[0].NumCalls(), 0);
-  EXPECT_FALSE(sink.boards[0].MakeableValid);
+  EXPECT_FALSE(sink.boards[0].makeableValid);
 }
 
 TEST(DLMHeader, HoldsTheRangeAndItsCheckValue) {

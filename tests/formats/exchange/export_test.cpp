@@ -33,10 +33,10 @@ class ExportTest : public test::LibraryTest {
     Board board;
     bool readable = ReadBoardText(test::OneSuitEachText(), board, TableReading::Always);
     ASSERT_TRUE(readable);
-    for (const char* call : calls) board.Calls.Add(test::CallOf(call));
-    board.MakeableValid = table;
+    for (const char* call : calls) board.calls.Add(test::CallOf(call));
+    board.makeableValid = table;
     std::int16_t tricks = 0;
-    for (auto& row : board.Makeable) {
+    for (auto& row : board.makeable) {
       for (auto& cell : row) cell = static_cast<std::int16_t>(tricks++ % 14);
     }
     WriteFile(session.BoardPath(number), WriteBoardText(board));
@@ -55,7 +55,7 @@ TEST_F(ExportTest, WritesThePlainRecord) {
 
 TEST_F(ExportTest, WritesAuctionTableAndComment) {
   PutBoardWith(2, {"1C", "Dbl", "Rdbl", "Pass", "1NT"}, true);
-  session.settings.PBNShark = true;
+  session.settings.pbnShark = true;
   ExpectCreated();
   EXPECT_TRUE(ExportFile(session, {2, 2, "pbn"}, path));
   const std::string text = ReadFile(path);
@@ -67,8 +67,8 @@ TEST_F(ExportTest, WritesAuctionTableAndComment) {
   EXPECT_NE(text.find("W NT 5\r\n[Result \"0\"]\r\n{\r\nBoard 2\r\n}\r\n\r\n"), std::string::npos)
       << text;
 
-  session.settings.PBNBids = false;
-  session.settings.PBNShark = false;
+  session.settings.pbnBids = false;
+  session.settings.pbnShark = false;
   ExpectCreated();
   EXPECT_TRUE(ExportFile(session, {2, 2, "pbn"}, path));
   EXPECT_EQ(ReadFile(path).find("Auction"), std::string::npos);
@@ -142,13 +142,13 @@ TEST_F(ExportTest, CancelLeavesTheBoardsWrittenSoFar) {
 
 TEST_F(ExportTest, ChangesThatAreGivenUpAreOffTheScreen) {
   PutBoard(1);
-  session.board.BoardNumber = 1;
+  session.board.boardNumber = 1;
   ClearAll(session.board);
-  session.board.HandChanged = true;
+  session.board.handChanged = true;
   host.ExpectAskWith("Do you want to save changes to board 1", Answer::No);
   ExpectCreated();
   EXPECT_TRUE(ExportFile(session, {1, 1, "pbn"}, path));
-  EXPECT_FALSE(session.board.HandChanged);
+  EXPECT_FALSE(session.board.handChanged);
   EXPECT_EQ(PbnRecord(session.board, "Club", {}),
             ReadFile(path).substr(0, ReadFile(path).size() - 4));
 }

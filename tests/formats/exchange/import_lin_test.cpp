@@ -28,54 +28,54 @@ class ImportLinTest : public test::LibraryTest {
 
 TEST_F(ImportLinTest, StoresBoardsAndTheirRecords) {
   WriteFile(session.LibraryPath() / "LIN.txt", "[lin]\r\nqx|o1|md|1SA,,,|rh||ah|Board 1|\r\n");
-  host.onStep = [this] { EXPECT_EQ(LoadLinData(session).Lin.size(), 1U) << "until the end"; };
+  host.onStep = [this] { EXPECT_EQ(LoadLinData(session).lin.size(), 1U) << "until the end"; };
   host.ExpectTell("2 hands (5-6) have been saved to the library - Club");
   const ImportOutcome outcome = ImportLinFile(
       session, File(Record("o5", "mb|1C|mb|p|mb|p|mb|p|") + Record("c5") + Record("o6")));
   EXPECT_EQ(outcome.boardsSaved, 2);
-  EXPECT_EQ(session.board.BoardNumber, 5);
-  EXPECT_EQ(session.board.Contract, "1C");
-  EXPECT_EQ(session.library.BoardCount, 2);
+  EXPECT_EQ(session.board.boardNumber, 5);
+  EXPECT_EQ(session.board.contract, "1C");
+  EXPECT_EQ(session.library.boardCount, 2);
   EXPECT_EQ(host.steps.front(), "Importing board 5");
   EXPECT_TRUE(host.recycled.empty()) << "replaced in its place";
   const LinFile results = LoadLinData(session);
-  EXPECT_EQ(results.Lin.size(), 4U) << "board 1 keeps its own";
-  EXPECT_EQ(results.BoardScoringAbb, "IMP") << "two rooms";
+  EXPECT_EQ(results.lin.size(), 4U) << "board 1 keeps its own";
+  EXPECT_EQ(results.boardScoringAbb, "IMP") << "two rooms";
 }
 
 TEST_F(ImportLinTest, ResultsOfOtherBoardsStay) {
   LinFile session1;
-  session1.BoardScoringMethod = "CROSS_IMPS";
-  session1.BoardScoringAbb = "XIMP";
-  session1.TeamEvent.emplace();
-  session1.TeamEvent->Teams = {"1 Hearts"};
-  session1.Names = {"1 NS Ann & Bob"};
-  session1.Lin = {"qx|o1|first|", "ah|Board 2|qent|9|", "x|y|ah|Board 1|second|", "qx|o3|third|"};
+  session1.boardScoringMethod = "CROSS_IMPS";
+  session1.boardScoringAbb = "XIMP";
+  session1.teamEvent.emplace();
+  session1.teamEvent->teams = {"1 Hearts"};
+  session1.names = {"1 NS Ann & Bob"};
+  session1.lin = {"qx|o1|first|", "ah|Board 2|qent|9|", "x|y|ah|Board 1|second|", "qx|o3|third|"};
   StoreLinData(session, session1);
   host.ExpectTell("2 hands (1-4) have been saved to the library - Club");
   ImportLinFile(session, File(Record("o1") + Record("o4")));
   LinFile results = LoadLinData(session);
-  ASSERT_EQ(results.Lin.size(), 4U);
-  EXPECT_EQ(results.Lin[0], session1.Lin[1]);
-  EXPECT_EQ(results.Lin[1], session1.Lin[3]);
-  EXPECT_TRUE(results.Lin[2].starts_with("qx|o1|pn|,,,|"));
-  results.Lin = session1.Lin;
+  ASSERT_EQ(results.lin.size(), 4U);
+  EXPECT_EQ(results.lin[0], session1.lin[1]);
+  EXPECT_EQ(results.lin[1], session1.lin[3]);
+  EXPECT_TRUE(results.lin[2].starts_with("qx|o1|pn|,,,|"));
+  results.lin = session1.lin;
   EXPECT_EQ(results, session1) << "names and scoring";
 
   host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
   host.ExpectTell("4 hands (1-4) have been saved to the library - Club");
   ImportLinFile(session, File(Record("o1") + Record("o2") + Record("o3") + Record("o4")));
   results = LoadLinData(session);
-  EXPECT_EQ(results.Lin.size(), 4U);
-  EXPECT_EQ(results.BoardScoringAbb, "MP") << "nothing of the session is left";
-  EXPECT_TRUE(results.Names.empty());
+  EXPECT_EQ(results.lin.size(), 4U);
+  EXPECT_EQ(results.boardScoringAbb, "MP") << "nothing of the session is left";
+  EXPECT_TRUE(results.names.empty());
 }
 
 TEST_F(ImportLinTest, TakesAChosenFileAndAText) {
   host.Choose(File(Record("o1")));
   host.ExpectTell("Hand 1 has been saved to the library - Club");
   EXPECT_EQ(ImportLin(session).boardsSaved, 1);
-  EXPECT_EQ(LoadLinData(session).BoardScoringAbb, "MP");
+  EXPECT_EQ(LoadLinData(session).boardScoringAbb, "MP");
   host.ExpectAsk("Overwrite existing hands in library Club?", "Hands already in library",
                  Answer::Yes);
   host.ExpectTell("Hand 2 has been saved to the library - Club");
@@ -94,17 +94,17 @@ TEST_F(ImportLinTest, AsksAndRefusesAsEveryImportDoes) {
   EXPECT_TRUE(ImportLinFile(session, File(Record("o1"), "boards.pbn")).refused);
   host.ExpectTell("There are no LIN records in this text");
   EXPECT_TRUE(ImportLinText(session, "Dear Ann, dear Bob").refused);
-  session.board.HandChanged = true;
+  session.board.handChanged = true;
   host.ExpectAskWith("Do you want to save changes to board 1", Answer::Cancel);
   EXPECT_TRUE(ImportLinText(session, Record("o1")).refused);
-  EXPECT_TRUE(session.board.HandChanged);
+  EXPECT_TRUE(session.board.handChanged);
 }
 
 TEST_F(ImportLinTest, BadInputIsToldAndStoresNothingOfIt) {
   host.ExpectTell("Can't read this line:\nmd|3SAA,,,|");
   host.ExpectTell("Hand 1 has been saved to the library - Club");
   EXPECT_TRUE(ImportLinFile(session, File(Record("o1") + "qx|o2|md|3SAA,,,|")).failed);
-  EXPECT_EQ(LoadLinData(session).Lin.size(), 1U);
+  EXPECT_EQ(LoadLinData(session).lin.size(), 1U);
 
   std::string calls;
   for (int i = 0; i < 101; ++i) calls += "mb|p|";
@@ -113,13 +113,13 @@ TEST_F(ImportLinTest, BadInputIsToldAndStoresNothingOfIt) {
   host.ExpectAskWith("Error no. 9\n", Answer::Yes);
   host.ExpectTell("Cannot read the file " + PathText(path));
   EXPECT_TRUE(ImportLinFile(session, path).failed);
-  EXPECT_EQ(LoadLinData(session).Lin.size(), 2U) << "the results of the board that stays";
+  EXPECT_EQ(LoadLinData(session).lin.size(), 2U) << "the results of the board that stays";
   host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
   host.ExpectAskWith("Error no. 13\n", Answer::Yes);
   host.ExpectTell("Cannot read the LIN records");
   EXPECT_TRUE(ImportLinText(session, "lin=md%7C3SA%7C%").failed);
-  EXPECT_EQ(session.library.BoardCount, 1);
-  EXPECT_EQ(LoadLinData(session).Lin.size(), 2U);
+  EXPECT_EQ(session.library.boardCount, 1);
+  EXPECT_EQ(LoadLinData(session).lin.size(), 2U);
 
   host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
   host.ExpectTell("No hands have been saved to the library - Club");
@@ -153,7 +153,7 @@ TEST_F(ImportLinTest, CancelKeepsBoardsAndTheirRecords) {
   host.cancelAtStep = 3;
   host.ExpectTell("2 hands (1-2) have been saved to the library - Club");
   EXPECT_TRUE(ImportLinFile(session, File(Record("o1") + Record("o2") + Record("o3"))).cancelled);
-  EXPECT_EQ(LoadLinData(session).Lin.size(), 2U);
+  EXPECT_EQ(LoadLinData(session).lin.size(), 2U);
 }
 
 TEST_F(ImportLinTest, AnyFileGoesToItsImport) {

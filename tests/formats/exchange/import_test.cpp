@@ -37,11 +37,11 @@ TEST_F(ImportTest, StoresBoardsAndShowsTheFirst) {
   const ImportOutcome outcome = ImportFile(session, File(Games({5, 6, 7})));
   EXPECT_EQ(outcome.boardsSaved, 3);
   EXPECT_FALSE(outcome.failed);
-  EXPECT_EQ(session.board.BoardNumber, 5);
-  EXPECT_TRUE(HasCards(session.board.Hands));
-  EXPECT_FALSE(session.board.HandChanged);
-  EXPECT_EQ(session.library.BoardCount, 3);
-  EXPECT_EQ(session.library.MaxBoard, 7);
+  EXPECT_EQ(session.board.boardNumber, 5);
+  EXPECT_TRUE(HasCards(session.board.hands));
+  EXPECT_FALSE(session.board.handChanged);
+  EXPECT_EQ(session.library.boardCount, 3);
+  EXPECT_EQ(session.library.maxBoard, 7);
   EXPECT_EQ(host.steps.front(), "Importing board 5");
   EXPECT_EQ(host.working, 0);
 }
@@ -54,7 +54,7 @@ TEST_F(ImportTest, SaysHowManyWereSaved) {
                  Answer::Yes);
   host.ExpectTell("No hands have been saved to the library - Club");
   ImportFile(session, none);
-  EXPECT_EQ(session.board.BoardNumber, 12);
+  EXPECT_EQ(session.board.boardNumber, 12);
 }
 
 TEST_F(ImportTest, RefusesByQuestionTypeAndCancelledChooser) {
@@ -76,18 +76,18 @@ TEST_F(ImportTest, RefusesByQuestionTypeAndCancelledChooser) {
 }
 
 TEST_F(ImportTest, AsksAboutUnsavedChangesFirst) {
-  session.board.HandChanged = true;
+  session.board.handChanged = true;
   host.ExpectAskWith("Do you want to save changes to board 1", Answer::Cancel);
   EXPECT_TRUE(ImportFile(session, File(Games({1}))).refused);
-  EXPECT_TRUE(session.board.HandChanged);
+  EXPECT_TRUE(session.board.handChanged);
 }
 
 TEST_F(ImportTest, TheBoardInHandIsNotImported) {
-  AddCard(session.board.Hands, {Suit::Spades, Rank::Ace}, Seat::North);
+  AddCard(session.board.hands, {Suit::Spades, Rank::Ace}, Seat::North);
   host.ExpectTell("Hand 2 has been saved to the library - Club");
   ImportFile(session, File("%\n[Board \"2\"]\n[Event \"no deal\"]\n"));
   EXPECT_FALSE(fs::exists(session.BoardPath(1)));
-  EXPECT_FALSE(HasCards(session.board.Hands));
+  EXPECT_FALSE(HasCards(session.board.hands));
 }
 
 TEST_F(ImportTest, CancelKeepsWhatIsStoredAndCountsItOnce) {
@@ -96,7 +96,7 @@ TEST_F(ImportTest, CancelKeepsWhatIsStoredAndCountsItOnce) {
   const ImportOutcome outcome = ImportFile(session, File(Games({1, 2, 3, 4})));
   EXPECT_TRUE(outcome.cancelled);
   EXPECT_EQ(outcome.boardsSaved, 2);
-  EXPECT_EQ(session.library.BoardCount, 2);
+  EXPECT_EQ(session.library.boardCount, 2);
 }
 
 TEST_F(ImportTest, ABadLineIsShownAndEndsTheImport) {
@@ -105,7 +105,7 @@ TEST_F(ImportTest, ABadLineIsShownAndEndsTheImport) {
   const ImportOutcome outcome =
       ImportFile(session, File(Games({1}) + "[Board \"2\"]\n[Deal \"caf\xe9\"]\n"));
   EXPECT_TRUE(outcome.failed);
-  EXPECT_EQ(session.library.BoardCount, 1);
+  EXPECT_EQ(session.library.boardCount, 1);
 }
 
 TEST_F(ImportTest, WhatCannotBeReadIsSaid) {
@@ -121,9 +121,9 @@ TEST_F(ImportTest, WhatCannotBeReadIsSaid) {
   host.ExpectAskWith("Error no. 9\n", Answer::Yes);
   host.ExpectTell("Cannot read the file " + PathText(path));
   EXPECT_TRUE(ImportFile(session, path).failed);
-  EXPECT_EQ(session.library.BoardCount, 1) << "the board before it stays";
-  EXPECT_EQ(session.board.BoardNumber, 1);
-  EXPECT_FALSE(session.BatchRunning);
+  EXPECT_EQ(session.library.boardCount, 1) << "the board before it stays";
+  EXPECT_EQ(session.board.boardNumber, 1);
+  EXPECT_FALSE(session.batchRunning);
 }
 
 TEST_F(ImportTest, ALostLibraryFolderIsReported) {
@@ -132,7 +132,7 @@ TEST_F(ImportTest, ALostLibraryFolderIsReported) {
   host.ExpectAskWith("Do you wish to try to continue?", Answer::Yes);
   host.ExpectTell("Cannot read the file " + PathText(file));
   EXPECT_TRUE(ImportFile(session, file).failed);
-  EXPECT_EQ(session.library.BoardCount, 0);
+  EXPECT_EQ(session.library.boardCount, 0);
 }
 
 TEST_F(ImportTest, ReadsDlmFiles) {
@@ -141,8 +141,8 @@ TEST_F(ImportTest, ReadsDlmFiles) {
   WriteFile(session.LibraryPath() / "LIN.txt", "[lin]\r\n");
   host.ExpectTell("2 hands (1-2) have been saved to the library - Club");
   ImportFile(session, File("[Document]\r\nTo board=2\r\n" + boards, "two.DLM"));
-  EXPECT_EQ(session.board.BoardNumber, 1) << "the lowest";
-  EXPECT_EQ(HoldingText(session.board.Hands[Seat::North][Suit::Spades]), " A 10 6 2");
+  EXPECT_EQ(session.board.boardNumber, 1) << "the lowest";
+  EXPECT_EQ(HoldingText(session.board.hands[Seat::North][Suit::Spades]), " A 10 6 2");
   EXPECT_EQ(host.recycled, std::vector<std::string>{"LIN.txt"});
 
   host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
@@ -155,7 +155,7 @@ TEST_F(ImportTest, ReadsDlmFiles) {
   const fs::path path = File("Board 05=" + deal.substr(0, 25) + "q\r\n", "worse.dlm");
   host.ExpectTell("Cannot read the file " + PathText(path));
   EXPECT_TRUE(ImportFile(session, path).failed);
-  EXPECT_EQ(session.library.BoardCount, 2);
+  EXPECT_EQ(session.library.boardCount, 2);
 }
 
 TEST_F(ImportTest, ResultsOfTheReplacedBoardsGoToTheRecycleBin) {

@@ -43,9 +43,9 @@ class ImportXmlTest : public test::LibraryTest {
   void ExpectOldResults() {
     EXPECT_EQ(ReadFile(LinDataPath(session)), kOldResults);
     EXPECT_EQ(ReadFile(session.BoardPath(1)), test::OneSuitEachText());
-    EXPECT_EQ(session.library.BoardCount, 1);
+    EXPECT_EQ(session.library.boardCount, 1);
     EXPECT_FALSE(fs::exists(session.LibraryPath() / "QENXML.xml"));
-    EXPECT_FALSE(session.BatchRunning);
+    EXPECT_FALSE(session.batchRunning);
     EXPECT_EQ(host.working, 0);
   }
 
@@ -65,12 +65,12 @@ TEST_F(ImportXmlTest, StoresBoardsAndResults) {
   EXPECT_EQ(host.steps, (std::vector<std::string>{"Importing board 4", "Importing board 5",
                                                   "Importing board 12"}));
   EXPECT_TRUE(host.recycled.empty()) << "replaced in its place";
-  EXPECT_EQ(session.board.BoardNumber, 4);
-  EXPECT_EQ(session.board.Contract, "1S");
-  EXPECT_EQ(session.board.Hands[Seat::South][Suit::Spades].Count(), 13);
-  EXPECT_EQ(session.board.Hands[Seat::East][Suit::Clubs].Count(), 13) << "the fourth hand";
-  EXPECT_EQ(LoadLinData(session).Lin.size(), 3U);
-  EXPECT_EQ(LoadLinData(session).BoardScoringAbb, "MP");
+  EXPECT_EQ(session.board.boardNumber, 4);
+  EXPECT_EQ(session.board.contract, "1S");
+  EXPECT_EQ(session.board.hands[Seat::South][Suit::Spades].Count(), 13);
+  EXPECT_EQ(session.board.hands[Seat::East][Suit::Clubs].Count(), 13) << "the fourth hand";
+  EXPECT_EQ(LoadLinData(session).lin.size(), 3U);
+  EXPECT_EQ(LoadLinData(session).boardScoringAbb, "MP");
 }
 
 TEST_F(ImportXmlTest, NamesKeepTheirAccentsInEveryEncoding) {
@@ -92,7 +92,7 @@ TEST_F(ImportXmlTest, NamesKeepTheirAccentsInEveryEncoding) {
     overwrite = true;
     host.ExpectTell("Hand 1 has been saved to the library - Club");
     ImportText(EncodeXml(file));
-    EXPECT_EQ(LoadLinData(session).Names, std::vector<std::string>{"1 NS Zo\u00eb"});
+    EXPECT_EQ(LoadLinData(session).names, std::vector<std::string>{"1 NS Zo\u00eb"});
     fs::remove(LinDataPath(session));
   }
 }
@@ -108,7 +108,7 @@ TEST_F(ImportXmlTest, ADocumentTypeOnAWebHostIsReplacedInACopy) {
   EXPECT_EQ(DecodeXml(ReadFile(session.LibraryPath() / "QENXML.xml")).text,
             begin + "<!DOCTYPE USEBIO SYSTEM \"/dtd/usebio_v1_2_ext.dtd\">" + body);
   EXPECT_EQ(ReadFile(folder.Path() / PathFromText("r\u00e9sultats.XML")), bytes);
-  EXPECT_EQ(session.library.BoardCount, 1) << "the copy is no board";
+  EXPECT_EQ(session.library.boardCount, 1) << "the copy is no board";
 }
 
 TEST_F(ImportXmlTest, AMessageEndsTheImportAndChangesNothing) {
@@ -167,7 +167,7 @@ TEST_F(ImportXmlTest, ABoardThatCannotBeWrittenTakesItsResultsBack) {
   host.ExpectTell("Unable to import XML file");
   host.ExpectTell("Hand 1 has been saved to the library - Club");
   EXPECT_TRUE(ImportText(text).failed);
-  EXPECT_EQ(LoadLinData(session).Lin.size(), 1U);
+  EXPECT_EQ(LoadLinData(session).lin.size(), 1U);
 
   fs::remove(session.BoardPath(1));
   block(1);
@@ -188,7 +188,7 @@ TEST_F(ImportXmlTest, OnlyNumbersOfALibraryAreStored) {
       ImportText(UsebioText(OneLineBoard(0) + OneLineBoard(1) + OneLineBoard(999) +
                             OneLineBoard(1000) + BoardElement("-5", TravellerLine(LinData(-5)))));
   EXPECT_EQ(outcome.boardsSaved, 2);
-  EXPECT_EQ(session.library.BoardCount, 2);
+  EXPECT_EQ(session.library.boardCount, 2);
 }
 
 TEST_F(ImportXmlTest, TellsOfAuctionsThatAreLeftOut) {
@@ -222,7 +222,7 @@ TEST_F(ImportXmlTest, CancelKeepsTheResultsOfStoredBoardsOnly) {
   host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
   host.ExpectTell("2 hands (1-2) have been saved to the library - Club");
   EXPECT_TRUE(ImportText(text).cancelled);
-  EXPECT_EQ(LoadLinData(session).Lin.size(), 2U);
+  EXPECT_EQ(LoadLinData(session).lin.size(), 2U);
 }
 
 TEST_F(ImportXmlTest, AFileThatIsTooLargeIsNotRead) {

@@ -20,30 +20,30 @@ constexpr int kMostTricks = 13;
 Board RandomBoard(int number, RandomSource& random) {
   constexpr int kLongestAuction = 12;
   Board board;
-  board.BoardNumber = number;
-  EXPECT_TRUE(Random(board.Hands, random));
+  board.boardNumber = number;
+  EXPECT_TRUE(Random(board.hands, random));
   for (int i = RandomBetween(0, kLongestAuction, random); i > 0; --i) {
     const int bid = RandomBetween(0, Call::kBids + 2, random);
     const Call others[] = {Call::Pass(), Call::Double(), Call::Redouble()};
-    board.Calls.Add(bid < Call::kBids
+    board.calls.Add(bid < Call::kBids
                         ? Call::Bid(bid / kStrains + 1, static_cast<BidStrain>(bid % kStrains))
                         : others[bid - Call::kBids]);
   }
-  board.MakeableValid = RandomBetween(0, 1, random) == 1;
-  for (auto& row : board.Makeable) {
+  board.makeableValid = RandomBetween(0, 1, random) == 1;
+  for (auto& row : board.makeable) {
     for (auto& tricks : row) {
       tricks = static_cast<std::int16_t>(RandomBetween(0, kMostTricks, random));
     }
   }
   // The last row alone tells whether a table is there, and 0 tricks there say that it is not.
-  board.Makeable[TableSeat::West][TableStrain::NoTrump] = kMostTricks;
+  board.makeable[TableSeat::West][TableStrain::NoTrump] = kMostTricks;
   return board;
 }
 
 /// The deal alone.
 std::string DealText(Board board) {
-  board.Calls.Clear();
-  board.MakeableValid = false;
+  board.calls.Clear();
+  board.makeableValid = false;
   return WriteBoardText(board);
 }
 
@@ -58,7 +58,7 @@ class RoundTrip : public test::LibraryTest {
     session.settings.library = type;
     std::filesystem::create_directories(session.LibraryPath());
     CountHands(session);
-    if (session.library.BoardCount > 0) host.ExpectAskWith("Overwrite existing", Answer::Yes);
+    if (session.library.boardCount > 0) host.ExpectAskWith("Overwrite existing", Answer::Yes);
     host.ExpectTell("99 hands (1-99) have been saved to the library - " + type);
     ASSERT_EQ(ImportAnyFile(session, path).boardsSaved, kBoards);
   }
@@ -77,9 +77,9 @@ TEST_F(RoundTrip, GivesIdenticalBoards) {
       Carry(type);
       const bool whole = std::string_view(type) == "pbn";
       for (const Board& board : boards) {
-        ASSERT_EQ(test::ReadFile(session.BoardPath(board.BoardNumber)),
+        ASSERT_EQ(test::ReadFile(session.BoardPath(board.boardNumber)),
                   whole ? WriteBoardText(board) : DealText(board))
-            << type << " " << board.BoardNumber;
+            << type << " " << board.boardNumber;
       }
     }
   }

@@ -34,7 +34,7 @@ struct Read {
   /// The numbers of the boards stored, in order.
   std::string Boards() const {
     std::string text;
-    for (const Board& board : sink.boards) text += std::to_string(board.BoardNumber) + " ";
+    for (const Board& board : sink.boards) text += std::to_string(board.boardNumber) + " ";
     return text;
   }
   Collector sink;
@@ -85,7 +85,7 @@ TEST(ReadLIN, FindsTheRecordsHoweverTheyLie) {
     EXPECT_EQ(read.Boards(), boards) << what;
     EXPECT_EQ(read.result.boardsSaved, static_cast<int>(read.sink.boards.size())) << what;
     for (const Board& board : read.sink.boards) {
-      EXPECT_TRUE(GetStats(board.Hands).AllHandsComplete) << what;
+      EXPECT_TRUE(GetStats(board.hands).allHandsComplete) << what;
     }
   }
 }
@@ -95,7 +95,7 @@ TEST(ReadLIN, TheFirstRecordOfABoardGivesDealAndAuction) {
                   kOther + "|mb|7S|");
   ASSERT_EQ(read.sink.boards.size(), 1U);
   EXPECT_EQ(CallsOf(read.sink.boards[0]), "1C Pass Pass Pass");
-  EXPECT_EQ(HoldingText(read.sink.boards[0].Hands[Seat::South][Suit::Hearts]), "");
+  EXPECT_EQ(HoldingText(read.sink.boards[0].hands[Seat::South][Suit::Hearts]), "");
   ASSERT_EQ(read.records.size(), 2U) << "the record of another deal is none of this board";
   EXPECT_TRUE(read.records[1].starts_with("qx|c1|"));
 }

@@ -117,7 +117,7 @@ TEST(ParseLinRecord, ReadsDealsLeniently) {
     const LinRecord record = ParseLinRecord("qx|o1|md|" + std::string(deal) + "|");
     EXPECT_EQ(record.hasDeal, hasDeal) << deal;
     EXPECT_EQ(record.repeatsCard, repeats) << deal;
-    EXPECT_EQ(GetStats(record.hands).SeatCardCount, cards) << deal;
+    EXPECT_EQ(GetStats(record.hands).seatCardCount, cards) << deal;
   }
 }
 
@@ -162,8 +162,8 @@ TEST(BoardOfLinRecord, HoldsAHundredCalls) {
   for (int i = 0; i < CallList::kCapacity - 1; ++i) text += "mb|p|";
   const Board board = BoardOfLinRecord(ParseLinRecord(text + "mb|1C|"));
   EXPECT_EQ(board.NumCalls(), CallList::kCapacity);
-  EXPECT_EQ(board.Contract, "1C");
-  EXPECT_EQ(board.BoardNumber, 5);
+  EXPECT_EQ(board.contract, "1C");
+  EXPECT_EQ(board.boardNumber, 5);
   EXPECT_THROW(BoardOfLinRecord(ParseLinRecord(text + "mb|1C|mb|p|")), Fault);
 }
 

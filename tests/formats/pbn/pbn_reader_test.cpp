@@ -28,24 +28,24 @@ Board ReadOne(const std::string& body) {
 
 TEST(ReadPBN, ReadsADealFromAnyFirstHand) {
   const Board north = ReadOne(kDeal);
-  EXPECT_TRUE(GetStats(north.Hands).AllHandsComplete);
-  EXPECT_EQ(HoldingText(north.Hands[Seat::East][Suit::Clubs]), " 10 7 5 4");
+  EXPECT_TRUE(GetStats(north.hands).allHandsComplete);
+  EXPECT_EQ(HoldingText(north.hands[Seat::East][Suit::Clubs]), " 10 7 5 4");
   const Board east =
       ReadOne("[dEAL \"e:95.74.aqj84.t754 QT62.KQ62.K93.K8 KJ4.T95.T76.AJ96 A873.AJ83.52.Q32\"]\n");
-  EXPECT_EQ(east.Hands, north.Hands);
+  EXPECT_EQ(east.hands, north.hands);
 }
 
 TEST(ReadPBN, UnknownHandsAreEmpty) {
   const Board dash = ReadOne("[Deal \"S:- AK.2.3.4 - -\"]\n");
-  EXPECT_EQ(HoldingText(dash.Hands[Seat::West][Suit::Spades]), " A K");
-  EXPECT_FALSE(GetStats(dash.Hands).SeatCardCount[Seat::South] > 0);
+  EXPECT_EQ(HoldingText(dash.hands[Seat::West][Suit::Spades]), " A K");
+  EXPECT_FALSE(GetStats(dash.hands).seatCardCount[Seat::South] > 0);
   const Board one = ReadOne("[Deal \"N:AK.2.3.4\"]\n");
-  EXPECT_EQ(GetStats(one.Hands).SeatCardCount[Seat::North], 5);
+  EXPECT_EQ(GetStats(one.hands).seatCardCount[Seat::North], 5);
 }
 
 TEST(ReadPBN, AnotherTagOnTheLineAddsNoCards) {
   const Board board = ReadOne(kDeal.substr(0, kDeal.size() - 1) + "[AKQJ \"AKQJ\"]\n");
-  EXPECT_EQ(HoldingText(board.Hands[Seat::West][Suit::Clubs]), " A J 9 6");
+  EXPECT_EQ(HoldingText(board.hands[Seat::West][Suit::Clubs]), " A J 9 6");
 }
 
 TEST(ReadPBN, ReadsAuctions) {
@@ -68,7 +68,7 @@ TEST(ReadPBN, ReadsAuctions) {
     const Board board =
         ReadOne(std::string("[Auction \"N\"]\n") + c.section + "\n[Note \"1:Pass\"]\n" + kDeal);
     EXPECT_EQ(CallsOf(board), c.calls) << c.section;
-    EXPECT_TRUE(HasCards(board.Hands)) << "the line that ends the section is read: " << c.section;
+    EXPECT_TRUE(HasCards(board.hands)) << "the line that ends the section is read: " << c.section;
   }
 }
 
@@ -87,13 +87,13 @@ TEST(ReadPBN, AHundredCallsAreTheLimit) {
 
 TEST(ReadPBN, ReadsDoubleDummyTricks) {
   const Board board = ReadOne("[DoubleDummyTricks \"746b5747b55862758627\"]\n");
-  ASSERT_TRUE(board.MakeableValid);
-  const auto& north = board.Makeable[TableSeat::North];
+  ASSERT_TRUE(board.makeableValid);
+  const auto& north = board.makeable[TableSeat::North];
   EXPECT_EQ(north[TableStrain::NoTrump], 7);
   EXPECT_EQ(north[TableStrain::Diamonds], 11);
   EXPECT_EQ(north[TableStrain::Clubs], 5);
-  EXPECT_EQ(board.Makeable[TableSeat::South][TableStrain::NoTrump], 7);
-  EXPECT_EQ(board.Makeable[TableSeat::West][TableStrain::Clubs], 7);
+  EXPECT_EQ(board.makeable[TableSeat::South][TableStrain::NoTrump], 7);
+  EXPECT_EQ(board.makeable[TableSeat::West][TableStrain::Clubs], 7);
 }
 
 /// Rows in an order of their own, trick counts 1..20 modulo 14.
@@ -112,20 +112,20 @@ std::string OptimumTable(const std::string& lastRow) {
 
 TEST(ReadPBN, ReadsOptimumResultTables) {
   const Board board = ReadOne(OptimumTable("W C 6") + kDeal);
-  EXPECT_TRUE(board.MakeableValid);
-  EXPECT_EQ(board.Makeable[TableSeat::North][TableStrain::NoTrump], 1);
-  EXPECT_EQ(board.Makeable[TableSeat::East][TableStrain::Spades], 7);
-  EXPECT_EQ(board.Makeable[TableSeat::South][TableStrain::Hearts], 13);
-  EXPECT_EQ(board.Makeable[TableSeat::West][TableStrain::Clubs], 6);
-  EXPECT_TRUE(HasCards(board.Hands));
+  EXPECT_TRUE(board.makeableValid);
+  EXPECT_EQ(board.makeable[TableSeat::North][TableStrain::NoTrump], 1);
+  EXPECT_EQ(board.makeable[TableSeat::East][TableStrain::Spades], 7);
+  EXPECT_EQ(board.makeable[TableSeat::South][TableStrain::Hearts], 13);
+  EXPECT_EQ(board.makeable[TableSeat::West][TableStrain::Clubs], 6);
+  EXPECT_TRUE(HasCards(board.hands));
   // the last row alone decides whether there is a table
-  EXPECT_FALSE(ReadOne(OptimumTable("W C 0")).MakeableValid);
-  EXPECT_FALSE(ReadOne(OptimumTable("W C ?")).MakeableValid);
+  EXPECT_FALSE(ReadOne(OptimumTable("W C 0")).makeableValid);
+  EXPECT_FALSE(ReadOne(OptimumTable("W C ?")).makeableValid);
   // unless there are tricks that nobody can take
-  EXPECT_FALSE(ReadOne(OptimumTable("W C 14")).MakeableValid);
+  EXPECT_FALSE(ReadOne(OptimumTable("W C 14")).makeableValid);
   const Board blanks = ReadOne(OptimumTable("W C 11 \t"));
-  EXPECT_TRUE(blanks.MakeableValid);
-  EXPECT_EQ(blanks.Makeable[TableSeat::West][TableStrain::Clubs], 11);
+  EXPECT_TRUE(blanks.makeableValid);
+  EXPECT_EQ(blanks.makeable[TableSeat::West][TableStrain::Clubs], 11);
 }
 
 TEST(ReadPBN, StopsAtALineThatCannotBeRead) {
@@ -160,7 +160,7 @@ TEST(ReadPBN, StopsAtALineThatCannotBeRead) {
 
 TEST(ReadPBN, ATableCutShortByTheEndOfTheFileEndsTheReading) {
   const Board board = ReadOne("[OptimumResultTable \"\"]\nN C 7\nS H 5");
-  EXPECT_EQ(board.Makeable[TableSeat::South][TableStrain::Hearts], 5);
+  EXPECT_EQ(board.makeable[TableSeat::South][TableStrain::Hearts], 5);
 }
 
 TEST(ReadPBN, LineEndsAreChosenOnceForTheFile) {
@@ -190,11 +190,11 @@ TEST(ReadPBN, KeepsHandsButNotCallsAndTable) {
               "[Board \"2\"]\n[Event \"the other room\"]\n",
           sink);
   ASSERT_EQ(sink.boards.size(), 2U);
-  EXPECT_EQ(sink.boards[1].Hands, sink.boards[0].Hands);
-  EXPECT_EQ(sink.boards[0].Contract, "1C");
+  EXPECT_EQ(sink.boards[1].hands, sink.boards[0].hands);
+  EXPECT_EQ(sink.boards[0].contract, "1C");
   EXPECT_EQ(sink.boards[1].NumCalls(), 0);
-  EXPECT_EQ(sink.boards[1].Contract, "");
-  EXPECT_FALSE(sink.boards[1].MakeableValid);
+  EXPECT_EQ(sink.boards[1].contract, "");
+  EXPECT_FALSE(sink.boards[1].makeableValid);
 }
 
 TEST(ReadPBN, NumbersThatCannotBeStoredAreReadButNotStored) {
@@ -206,8 +206,8 @@ TEST(ReadPBN, NumbersThatCannotBeStoredAreReadButNotStored) {
   EXPECT_EQ(result.boardsSaved, 2);
   EXPECT_EQ(result.firstBoard, 1000);
   ASSERT_EQ(sink.boards.size(), 2U);
-  EXPECT_EQ(sink.boards[0].BoardNumber, 12);
-  EXPECT_EQ(sink.boards[1].BoardNumber, 999);
+  EXPECT_EQ(sink.boards[0].boardNumber, 12);
+  EXPECT_EQ(sink.boards[1].boardNumber, 999);
 }
 
 TEST(ReadPBN, CancelKeepsTheBoardsStoredSoFar) {
@@ -229,7 +229,7 @@ TEST(ReadPBN, HostileTextIsReadInOneGo) {
               std::string(1 << 20, '\0') + "\n" + std::string(1 << 20, '\n'),
           sink);
   ASSERT_EQ(sink.boards.size(), 1U);
-  EXPECT_EQ(GetStats(sink.boards[0].Hands).SeatCardCount[Seat::North], 1);
+  EXPECT_EQ(GetStats(sink.boards[0].hands).seatCardCount[Seat::North], 1);
 }
 
 }  // namespace

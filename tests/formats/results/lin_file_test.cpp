@@ -13,11 +13,11 @@ using test::ReadFile;
 using test::WriteFile;
 
 LinFile PairsEvent() {
-  return {.BoardScoringMethod = "MATCH_POINTS",
-          .BoardScoringAbb = "MP",
-          .TeamEvent = {},
-          .Names = {"1 NS Zo\u00eb & \u0141ukasz", "2 EW Cy & Di"},
-          .Lin = {"qx|o1|rh||ah|Board 1|pg||qent|9|qens|140|", "qx|c1|rh||ah|Board 1|pg||"}};
+  return {.boardScoringMethod = "MATCH_POINTS",
+          .boardScoringAbb = "MP",
+          .teamEvent = {},
+          .names = {"1 NS Zo\u00eb & \u0141ukasz", "2 EW Cy & Di"},
+          .lin = {"qx|o1|rh||ah|Board 1|pg||qent|9|qens|140|", "qx|c1|rh||ah|Board 1|pg||"}};
 }
 
 TEST(LinFile, PairsEventIsWrittenSectionBySection) {
@@ -30,16 +30,16 @@ TEST(LinFile, PairsEventIsWrittenSectionBySection) {
 
 TEST(LinFile, TeamScoringMethodIsSpelledInTwoWays) {
   LinFile data = PairsEvent();
-  data.TeamEvent = {{"1 Hearts", "2 Spades"}, "IMPS", "IMP"};
+  data.teamEvent = {{"1 Hearts", "2 Spades"}, "IMPS", "IMP"};
   const std::string text = LinFileText(data);
   EXPECT_NE(text.find("MP\r\n[Teams]\r\n1 Hearts\r\n2 Spades\r\n[TeamScoringMethod]\r\nIMPS\r\n"
                       "[TeamScoringAbb]\r\nIMP\r\n[Names]\r\n"),
             std::string::npos)
       << text;
-  data.TeamEvent->TeamScoringMethod.clear();
+  data.teamEvent->teamScoringMethod.clear();
   EXPECT_EQ(ParseLinFile(text), data) << "the written spelling is not the one that is looked for";
   EXPECT_EQ(
-      ParseLinFile("[TeamsScoringMethod]\nVP\n").TeamEvent.value_or(LinTeams()).TeamScoringMethod,
+      ParseLinFile("[TeamsScoringMethod]\nVP\n").teamEvent.value_or(LinTeams()).teamScoringMethod,
       "VP");
 }
 
@@ -56,21 +56,21 @@ TEST(LinFile, ReadsWhatOthersWrite) {
   EXPECT_EQ(ParseLinFile(cr), expected);
   EXPECT_EQ(ParseLinFile("\xEF\xBB\xBF" + text), expected) << "with a byte order mark";
   EXPECT_EQ(ParseLinFile("lost\n[unknown]\nlost\n\n" + text), expected);
-  EXPECT_EQ(ParseLinFile("[NAMES]\n1 NS Zo\xEB & Cy\n").Names,
+  EXPECT_EQ(ParseLinFile("[NAMES]\n1 NS Zo\xEB & Cy\n").names,
             std::vector<std::string>{"1 NS Zo\u00eb & Cy"});
-  EXPECT_EQ(ParseLinFile("[boardscoring]\nIMPS\n").BoardScoringMethod, "IMPS");
+  EXPECT_EQ(ParseLinFile("[boardscoring]\nIMPS\n").boardScoringMethod, "IMPS");
   EXPECT_TRUE(ParseLinFile("").Empty());
 }
 
 TEST(LinFile, AValueCannotLeaveItsLine) {
   LinFile data;
-  data.BoardScoringMethod = "[LIN]";
-  data.Names = {"1 NS Ann\r\n[LIN]\r\nqx|o9| & \tBob", ""};
-  data.Lin = {"qx|o1|\n\n[Names]\n", ""};
+  data.boardScoringMethod = "[LIN]";
+  data.names = {"1 NS Ann\r\n[LIN]\r\nqx|o9| & \tBob", ""};
+  data.lin = {"qx|o1|\n\n[Names]\n", ""};
   const LinFile read = ParseLinFile(LinFileText(data));
-  EXPECT_EQ(read.BoardScoringMethod, " [LIN]");
-  EXPECT_EQ(read.Names, std::vector<std::string>{"1 NS Ann [LIN] qx|o9| &  Bob"});
-  EXPECT_EQ(read.Lin, std::vector<std::string>{"qx|o1| [Names] "});
+  EXPECT_EQ(read.boardScoringMethod, " [LIN]");
+  EXPECT_EQ(read.names, std::vector<std::string>{"1 NS Ann [LIN] qx|o9| &  Bob"});
+  EXPECT_EQ(read.lin, std::vector<std::string>{"qx|o1| [Names] "});
 }
 
 class LinDataTest : public test::LibraryTest {};

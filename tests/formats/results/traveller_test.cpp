@@ -30,11 +30,11 @@ std::string Tags(const char* tricks, const char* score, const char* ns, const ch
 
 LinFile FileOf(const char* method, std::vector<std::string> records) {
   LinFile file;
-  file.BoardScoringMethod = method;
-  file.Names = {"1 NS Ann & Bob",          "2 EW Cy & Di",       "3 NS Eve & Robot",
+  file.boardScoringMethod = method;
+  file.names = {"1 NS Ann & Bob",          "2 EW Cy & Di",       "3 NS Eve & Robot",
                 "4 EW Gus & Hal",          "5 EW Robot & Robot", "6 EW Robot & Robot",
                 "7 NS Jim & Ono, Zo\u00eb"};
-  file.Lin = std::move(records);
+  file.lin = std::move(records);
   return file;
 }
 
@@ -45,25 +45,25 @@ TEST(Traveller, RowAsTheScorerGaveIt) {
                                           Tags("11", "690", "6", "0.5", "4Sx", "N", "2H", "3.25")),
               "qx|o2|pn|Bob,Di,Ann,Cy|ah|Board 2|"});
   const Traveller traveller = MakeTraveller(file, 1);
-  EXPECT_EQ(traveller.Scoring, "MP");
-  EXPECT_FALSE(traveller.Computed);
-  ASSERT_EQ(traveller.Rows.size(), 1U);
-  const TravellerRow& row = traveller.Rows[0];
-  EXPECT_EQ(row.Pair[kNS], "1");
-  EXPECT_EQ(row.Pair[kEW], "2");
-  EXPECT_EQ(row.Contract, "4Sx");
-  EXPECT_EQ(row.Declarer, Seat::North);
-  EXPECT_EQ(row.Lead, (Card{Suit::Hearts, Rank::Two}));
-  EXPECT_EQ(row.Tricks, 11) << "the scorer's word, not the record's";
+  EXPECT_EQ(traveller.scoring, "MP");
+  EXPECT_FALSE(traveller.computed);
+  ASSERT_EQ(traveller.rows.size(), 1U);
+  const TravellerRow& row = traveller.rows[0];
+  EXPECT_EQ(row.pair[kNS], "1");
+  EXPECT_EQ(row.pair[kEW], "2");
+  EXPECT_EQ(row.contract, "4Sx");
+  EXPECT_EQ(row.declarer, Seat::North);
+  EXPECT_EQ(row.lead, (Card{Suit::Hearts, Rank::Two}));
+  EXPECT_EQ(row.tricks, 11) << "the scorer's word, not the record's";
   EXPECT_EQ(row.Result(), 1);
-  EXPECT_EQ(row.Score, 690);
-  EXPECT_EQ(row.Points[kNS], 6.F);
-  EXPECT_EQ(row.Points[kEW], 0.5F);
+  EXPECT_EQ(row.score, 690);
+  EXPECT_EQ(row.points[kNS], 6.F);
+  EXPECT_EQ(row.points[kEW], 0.5F);
   EXPECT_EQ(ReadLinBidding(row), "4Sx by North +1 +690 Ann & Bob v Cy & Di");
-  EXPECT_EQ(row.Record.Board.Contract, "4Sx");
-  EXPECT_EQ(row.Record.Board.Declarer, Seat::North);
-  EXPECT_EQ(row.Record.Cards.size(), 2U);
-  EXPECT_EQ(row.Record.Board.Hands[Seat::East][Suit::Hearts].Count(), 13) << "the fourth hand";
+  EXPECT_EQ(row.record.board.contract, "4Sx");
+  EXPECT_EQ(row.record.board.declarer, Seat::North);
+  EXPECT_EQ(row.record.cards.size(), 2U);
+  EXPECT_EQ(row.record.board.hands[Seat::East][Suit::Hearts].Count(), 13) << "the fourth hand";
 }
 
 TEST(Traveller, RowsInOneLine) {
@@ -105,8 +105,8 @@ TEST(Traveller, RowsInOneLine) {
   for (const Case& example : cases) {
     const auto traveller =
         MakeTraveller(FileOf("IMPS", {Record("Bob,Di,Ann,Cy", example.tags)}), 1);
-    ASSERT_EQ(traveller.Rows.size(), 1U);
-    EXPECT_EQ(ReadLinBidding(traveller.Rows[0]), std::string(example.line) + " Ann & Bob v Cy & Di")
+    ASSERT_EQ(traveller.rows.size(), 1U);
+    EXPECT_EQ(ReadLinBidding(traveller.rows[0]), std::string(example.line) + " Ann & Bob v Cy & Di")
         << example.what;
   }
 }
@@ -129,10 +129,10 @@ TEST(Traveller, PairsByTheirPlayers) {
   };
   for (const Case& example : kCases) {
     const auto traveller = MakeTraveller(FileOf("IMPS", {Record(example.names, "")}), 1);
-    ASSERT_EQ(traveller.Rows.size(), 1U) << example.names;
-    EXPECT_EQ(traveller.Rows[0].Pair[kNS], example.ns) << example.names;
-    EXPECT_EQ(traveller.Rows[0].Pair[kEW], example.ew) << example.names;
-    EXPECT_EQ(traveller.Rows[0].NamesText(), example.text);
+    ASSERT_EQ(traveller.rows.size(), 1U) << example.names;
+    EXPECT_EQ(traveller.rows[0].pair[kNS], example.ns) << example.names;
+    EXPECT_EQ(traveller.rows[0].pair[kEW], example.ew) << example.names;
+    EXPECT_EQ(traveller.rows[0].NamesText(), example.text);
   }
 }
 
@@ -204,13 +204,13 @@ TEST(Traveller, PointsAreComputedWhereTheFileHasNone) {
   };
   for (const Case& example : cases) {
     const auto traveller = MakeTraveller(FileOf(example.method, example.records), 1);
-    EXPECT_EQ(traveller.Scoring, example.heading) << example.what;
-    EXPECT_EQ(traveller.Computed, example.computed) << example.what;
+    EXPECT_EQ(traveller.scoring, example.heading) << example.what;
+    EXPECT_EQ(traveller.computed, example.computed) << example.what;
     Points ns;
     Points ew;
-    for (const TravellerRow& row : traveller.Rows) {
-      ns.push_back(row.Points[kNS]);
-      ew.push_back(row.Points[kEW]);
+    for (const TravellerRow& row : traveller.rows) {
+      ns.push_back(row.points[kNS]);
+      ew.push_back(row.points[kEW]);
     }
     EXPECT_EQ(ns, example.ns) << example.what;
     EXPECT_EQ(ew, example.ew) << example.what;
@@ -221,8 +221,8 @@ TEST(Traveller, HeadingOfThePointsTellsWhatTheyAre) {
   const auto heading = [](const char* imps) {
     LinFile file = FileOf("BUTLER_IMPS", {Record("", Tags("", "420", "", "", "", "", "", imps)),
                                           Record("", Tags("", "50", "", "", "", "", "", "0"))});
-    file.BoardScoringAbb = "BIMP";
-    return MakeTraveller(file, 1).Scoring;
+    file.boardScoringAbb = "BIMP";
+    return MakeTraveller(file, 1).scoring;
   };
   EXPECT_EQ(heading("4"), "BIMP");
   EXPECT_EQ(heading("0"), "XIMP") << "computed against the other table, not against a datum";
@@ -230,31 +230,31 @@ TEST(Traveller, HeadingOfThePointsTellsWhatTheyAre) {
 
 TEST(Traveller, AScorersContractStandsInForAMissingAuction) {
   const auto of = [](const std::string& tags) {
-    return MakeTraveller(FileOf("IMPS", {Record("", tags)}), 1).Rows.at(0).Record.Board;
+    return MakeTraveller(FileOf("IMPS", {Record("", tags)}), 1).rows.at(0).record.board;
   };
   const Board bare = of(Tags("10", "420", "", "", "4S", "S", "", ""));
-  EXPECT_EQ(bare.Contract, "4S");
-  EXPECT_EQ(bare.Declarer, Seat::South);
+  EXPECT_EQ(bare.contract, "4S");
+  EXPECT_EQ(bare.declarer, Seat::South);
   const Board bid = of("mb|1H|mb|p|mb|p|mb|p|" + Tags("10", "420", "", "", "4S", "S", "", ""));
-  EXPECT_EQ(bid.Contract, "1H") << "the play follows the auction that was recorded";
-  EXPECT_EQ(bid.Declarer, Seat::North);
+  EXPECT_EQ(bid.contract, "1H") << "the play follows the auction that was recorded";
+  EXPECT_EQ(bid.declarer, Seat::North);
 }
 
 TEST(Traveller, AnAuctionOfAnotherDealerIsNotShown) {
   const std::string record = "qx||md|4SAK,HAK,DAK|ah|Board 1|mb|1H|mb|p|mb|p|mb|p|";
   const auto of = [&](const std::string& tags) {
-    return MakeTraveller(FileOf("IMPS", {record + tags}), 1).Rows.at(0).Record.Board;
+    return MakeTraveller(FileOf("IMPS", {record + tags}), 1).rows.at(0).record.board;
   };
-  EXPECT_EQ(of(Tags("7", "80", "", "", "1H", "E", "", "")).Contract, "1H");
-  EXPECT_EQ(of(Tags("7", "80", "", "", "1H", "E", "", "")).Declarer, Seat::East);
-  EXPECT_TRUE(of("").Calls.Empty());
+  EXPECT_EQ(of(Tags("7", "80", "", "", "1H", "E", "", "")).contract, "1H");
+  EXPECT_EQ(of(Tags("7", "80", "", "", "1H", "E", "", "")).declarer, Seat::East);
+  EXPECT_TRUE(of("").calls.Empty());
 }
 
 TEST(Traveller, MoreCallsThanABoardHolds) {
   std::string calls;
   for (int call = 0; call < 150; ++call) calls += "mb|p|";
   const auto traveller = MakeTraveller(FileOf("IMPS", {Record("", calls)}), 1);
-  EXPECT_EQ(traveller.Rows.at(0).Record.Board.NumCalls(), CallList::kCapacity);
+  EXPECT_EQ(traveller.rows.at(0).record.board.NumCalls(), CallList::kCapacity);
 }
 
 TEST(Traveller, HasAsManyRowsAsCanBeLookedThrough) {
@@ -263,8 +263,8 @@ TEST(Traveller, HasAsManyRowsAsCanBeLookedThrough) {
     records.push_back("|Board 1|qens|" + std::to_string(10 * table) + "|");
   }
   const Traveller traveller = MakeTraveller(FileOf("MATCH_POINTS", records), 1);
-  ASSERT_EQ(traveller.Rows.size(), kMaxTravellerRows);
-  EXPECT_EQ(traveller.Rows.back().Points[kNS], 2.F * (kMaxTravellerRows - 1));
+  ASSERT_EQ(traveller.rows.size(), kMaxTravellerRows);
+  EXPECT_EQ(traveller.rows.back().points[kNS], 2.F * (kMaxTravellerRows - 1));
 }
 
 TEST(Traveller, TheBoardsRecordIsTheOneLookedAtElseTheFirstWithAPlay) {
@@ -273,11 +273,11 @@ TEST(Traveller, TheBoardsRecordIsTheOneLookedAtElseTheFirstWithAPlay) {
       FileOf("IMPS", {Record("e,f,g,h", ""), played + Tags("", "", "", "", "", "", "", ""),
                       Record("i,j,k,l", "pc|HA|")}),
       1);
-  Board board = traveller.Rows.at(0).Record.Board;
+  Board board = traveller.rows.at(0).record.board;
   EXPECT_EQ(LinPlayRecord(traveller, board), played);
   EXPECT_EQ(LinPlayRecord(traveller, board, 0), Record("e,f,g,h", ""));
   EXPECT_EQ(LinPlayRecord(Traveller(), board), "");
-  board.Hands[Seat::East][Suit::Hearts].Remove(Rank::Two);
+  board.hands[Seat::East][Suit::Hearts].Remove(Rank::Two);
   EXPECT_EQ(LinPlayRecord(traveller, board), "") << "it is another deal by now";
 }
 
@@ -300,12 +300,12 @@ TEST_F(LibraryTest, LinDataIsReadAgainWhenItIsAnotherFile) {
   EXPECT_TRUE(data.Of(session).Empty());
   EXPECT_TRUE(data.Loaded());
   put({Record("", "")});
-  EXPECT_EQ(data.Of(session).Lin.size(), 1U);
+  EXPECT_EQ(data.Of(session).lin.size(), 1U);
   const int version = data.Version();
-  EXPECT_EQ(data.Of(session).Lin.size(), 1U);
+  EXPECT_EQ(data.Of(session).lin.size(), 1U);
   EXPECT_EQ(data.Version(), version) << "not read twice";
   put({Record("", ""), Record("", "")});
-  EXPECT_EQ(data.Of(session).Lin.size(), 2U);
+  EXPECT_EQ(data.Of(session).lin.size(), 2U);
   session.settings.library = "Elsewhere";
   EXPECT_TRUE(data.Of(session).Empty());
 }

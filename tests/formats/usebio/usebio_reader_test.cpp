@@ -36,7 +36,7 @@ std::string Refusal(const std::string& text) {
 
 /// The one LIN line of a board of this one traveller line.
 std::string LinLineOf(const std::string& travellerLine) {
-  const auto lines = Read(UsebioText(BoardElement("7", travellerLine))).data.Lin;
+  const auto lines = Read(UsebioText(BoardElement("7", travellerLine))).data.lin;
   EXPECT_EQ(lines.size(), 1U);
   return lines.empty() ? "" : lines[0];
 }
@@ -137,12 +137,12 @@ TEST(Usebio, ScoringWord) {
   for (const ScoringCase& c : kCases) {
     SCOPED_TRACE(std::string(c.eventType) + c.elements);
     const LinFile data = Read(UsebioText(c.elements, c.eventType)).data;
-    EXPECT_EQ(data.BoardScoringMethod, c.boardMethod);
-    EXPECT_EQ(data.BoardScoringAbb, c.boardAbb);
-    ASSERT_EQ(data.TeamEvent.has_value(), c.teamMethod != nullptr);
-    if (!data.TeamEvent) continue;
-    EXPECT_EQ(data.TeamEvent->TeamScoringMethod, c.teamMethod);
-    EXPECT_EQ(data.TeamEvent->TeamScoringAbb, c.teamAbb);
+    EXPECT_EQ(data.boardScoringMethod, c.boardMethod);
+    EXPECT_EQ(data.boardScoringAbb, c.boardAbb);
+    ASSERT_EQ(data.teamEvent.has_value(), c.teamMethod != nullptr);
+    if (!data.teamEvent) continue;
+    EXPECT_EQ(data.teamEvent->teamScoringMethod, c.teamMethod);
+    EXPECT_EQ(data.teamEvent->teamScoringAbb, c.teamAbb);
   }
 }
 
@@ -160,17 +160,17 @@ TEST(Usebio, NamesOfPairsAndTeams) {
       Pair("1", "NS", "Ann O'Neil", " Zo\u00eb &amp; Co ") + Pair("2", "EW", "Advanced BBO", "Cy");
   const std::vector<std::string> names{"1 NS Ann O'Neil & Zo\u00eb & Co", "2 EW Robot & Cy"};
   EXPECT_EQ(
-      Read(UsebioText(Element("PARTICIPANTS", pairs) + Pair("9", "NS", "no", "one"))).data.Names,
+      Read(UsebioText(Element("PARTICIPANTS", pairs) + Pair("9", "NS", "no", "one"))).data.names,
       names);
   const std::string teams = Element(
       "SESSION", Element("PARTICIPANTS", "<TEAM TEAM_ID=\"4\" TEAM_NAME=\"Hearts\">" + pairs +
                                              "</TEAM><TEAM><TEAM_NAME>Spades</TEAM_NAME></TEAM>"));
   const LinFile data = Read(UsebioText(teams, "TEAMS")).data;
-  EXPECT_EQ(data.Names, names);
-  EXPECT_EQ(data.TeamEvent.value_or(LinTeams()).Teams,
+  EXPECT_EQ(data.names, names);
+  EXPECT_EQ(data.teamEvent.value_or(LinTeams()).teams,
             (std::vector<std::string>{"4 Hearts", "Spades"}));
   const std::string nested = Element("PARTICIPANTS", Element("PARTICIPANTS", pairs));
-  EXPECT_EQ(Read(UsebioText(nested)).data.Names, names) << "each pair once";
+  EXPECT_EQ(Read(UsebioText(nested)).data.names, names) << "each pair once";
 }
 
 TEST(Usebio, ALineWithoutPlayersHasThoseOfItsPairs) {
@@ -200,8 +200,8 @@ TEST(Usebio, ALineWithoutPlayersHasThoseOfItsPairs) {
         TravellerLine(c.linData, Element("NS_PAIR_NUMBER", c.ns) + Element("EW_PAIR_NUMBER", c.ew));
     const LinFile data =
         Read(UsebioText(BoardElement("7", line) + Element("PARTICIPANTS", c.pairs))).data;
-    ASSERT_EQ(data.Lin.size(), 1U);
-    EXPECT_EQ(data.Lin[0].substr(0, std::string(c.record).size()), c.record) << data.Lin[0];
+    ASSERT_EQ(data.lin.size(), 1U);
+    EXPECT_EQ(data.lin[0].substr(0, std::string(c.record).size()), c.record) << data.lin[0];
   }
 }
 
@@ -212,7 +212,7 @@ TEST(Usebio, BoardsOfTheSectionGiveTheRange) {
   const UsebioResults results = Read(UsebioText("<SECTION_COUNT>1</SECTION_COUNT>" + sections));
   EXPECT_EQ(results.firstBoard, 3);
   EXPECT_EQ(results.lastBoard, 12);
-  EXPECT_EQ(results.data.Lin.size(), 2U);
+  EXPECT_EQ(results.data.lin.size(), 2U);
 }
 
 TEST(Usebio, ALineIsOfTheBoardThatItIsRightInside) {
@@ -220,7 +220,7 @@ TEST(Usebio, ALineIsOfTheBoardThatItIsRightInside) {
   const std::string within = BoardElement("2", line);
   const std::vector<std::string> lines =
       Read(UsebioText(line + BoardElement("1", line + Element("NOTE", line) + within + line)))
-          .data.Lin;
+          .data.lin;
   ASSERT_EQ(lines.size(), 3U) << "those of board 1, and that of board 2";
   for (std::size_t i = 0; i < lines.size(); ++i) {
     EXPECT_NE(lines[i].find(i < 2 ? "Board 1" : "Board 2"), std::string::npos) << lines[i];
@@ -281,7 +281,7 @@ TEST(Usebio, EntitiesOfTheDocumentTypeAreNotExpanded) {
   const LinFile data =
       Read(bomb + "]>" + test::UsebioBody(Element("PARTICIPANTS", Pair("1", "NS", "&a29;", "&f;"))))
           .data;
-  EXPECT_EQ(data.Names, std::vector<std::string>{"1 NS &a29; & &f;"});
+  EXPECT_EQ(data.names, std::vector<std::string>{"1 NS &a29; & &f;"});
 }
 
 TEST(Usebio, AbbreviationsAndInitials) {

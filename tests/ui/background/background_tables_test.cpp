@@ -22,14 +22,14 @@ class BackgroundTablesTest : public test::LibraryTest {
       Board board;
       for (int card = 0; card < kCardsInPack; ++card) {
         // another deal for every number: the pack dealt round, cut at the number
-        AddCard(board.Hands, Card::FromIndex((card * 7 + number) % kCardsInPack),
+        AddCard(board.hands, Card::FromIndex((card * 7 + number) % kCardsInPack),
                 static_cast<Seat>((card / 13 + number) % kSeats));
       }
       test::WriteFile(session.BoardPath(number), WriteBoardText(board));
     }
     FindFiles(session);
-    session.GetSolver = [this]() -> Solver& { return solver; };
-    session.TablesInBackground = true;
+    session.getSolver = [this]() -> Solver& { return solver; };
+    session.tablesInBackground = true;
   }
   void Go(int number) { ASSERT_TRUE(SelectBoard(session, number)); }
   /// The worker has had this many deals; their tables are delivered with the next events.
@@ -44,8 +44,8 @@ class BackgroundTablesTest : public test::LibraryTest {
   bool HasOwnTable(int number) const {
     Board board;
     return ReadBoardText(test::ReadFile(session.BoardPath(number)), board, TableReading::Always) &&
-           board.MakeableValid &&
-           board.Makeable == ToMakeable(test::FakeSolver::RecordOf(SolverDealText(board.Hands)));
+           board.makeableValid &&
+           board.makeable == ToMakeable(test::FakeSolver::RecordOf(SolverDealText(board.hands)));
   }
   int OwnTables() const {
     int count = 0;
@@ -66,8 +66,8 @@ TEST_F(BackgroundTablesTest, EveryBoardSteppedOverGetsItsOwnTable) {
   }
   EXPECT_TRUE(QTest::qWaitFor([this] { return OwnTables() == kBoards; }));
   EXPECT_EQ(solver.dealsSolved, static_cast<std::size_t>(kBoards));
-  EXPECT_TRUE(session.board.MakeableValid);
-  EXPECT_FALSE(session.board.HandChanged);
+  EXPECT_TRUE(session.board.makeableValid);
+  EXPECT_FALSE(session.board.handChanged);
 }
 
 TEST_F(BackgroundTablesTest, ABoardChangedMeanwhileKeepsNoForeignTable) {
@@ -80,7 +80,7 @@ TEST_F(BackgroundTablesTest, ABoardChangedMeanwhileKeepsNoForeignTable) {
   tables.Look();
   Go(3);
   ASSERT_TRUE(AwaitOwnTable(4)) << "it is delivered after the table for board 3";
-  EXPECT_FALSE(session.board.MakeableValid);
+  EXPECT_FALSE(session.board.makeableValid);
   EXPECT_EQ(test::ReadFile(session.BoardPath(3)), test::OneSuitEachText());
 }
 
@@ -94,7 +94,7 @@ TEST_F(BackgroundTablesTest, OnlyWhoAsksIsToldOfAFailure) {
   tables.Ask();
   AwaitSolved(2);
   ASSERT_TRUE(QTest::qWaitFor([this] { return host.Done(); }));
-  EXPECT_FALSE(session.board.MakeableValid);
+  EXPECT_FALSE(session.board.makeableValid);
   tables.Look();  // it is not tried again
   solver.failure.clear();
   // The newest deal comes first: what was asked before board 2 is solved before board 3 at the
@@ -106,7 +106,7 @@ TEST_F(BackgroundTablesTest, OnlyWhoAsksIsToldOfAFailure) {
   }
   EXPECT_EQ(solver.dealsSolved, 4U);
 
-  session.board.Hands[Seat::North] = {};
+  session.board.hands[Seat::North] = {};
   host.ExpectTell("Warning - hand North - ... has 0 cards.");
   tables.Ask();
 }

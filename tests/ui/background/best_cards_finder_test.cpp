@@ -39,11 +39,11 @@ class BestCardsFinderTest : public test::LibraryTest {
  protected:
   BestCardsFinderTest() {
     for (int card = 0; card < kCardsInPack; ++card) {
-      AddCard(session.board.Hands, Card::FromIndex(card), static_cast<Seat>(card % kSeats));
+      AddCard(session.board.hands, Card::FromIndex(card), static_cast<Seat>(card % kSeats));
     }
     test::SetAuction(session.board, "1NT P P P");
-    session.GetSolver = [this]() -> Solver& { return solver; };
-    session.settings.ShowBestCards = true;
+    session.getSolver = [this]() -> Solver& { return solver; };
+    session.settings.showBestCards = true;
   }
   bool Find() {
     finder.Look();
@@ -69,7 +69,7 @@ TEST_F(BestCardsFinderTest, TellsThePositionInHandAndForgetsTheOneBefore) {
     EXPECT_TRUE(finder.Tricks().empty()) << "an answer to the question before";
   }
   ASSERT_TRUE(Find());
-  const int won = play.Play().Now().TricksWon[SideOf(*play.Play().Now().OnPlay)];
+  const int won = play.Play().Now().tricksWon[SideOf(*play.Play().Now().onPlay)];
   EXPECT_EQ(won, 1);
   EXPECT_EQ(finder.Tricks().front().tricks, 12 + won);
   play.QuitTrick();  // the same position: nothing is asked again
@@ -84,10 +84,10 @@ TEST_F(BestCardsFinderTest, TellsThePositionInHandAndForgetsTheOneBefore) {
 TEST_F(BestCardsFinderTest, TellsNothingUnlessWanted) {
   ASSERT_TRUE(play.Start());
   ASSERT_TRUE(Find());
-  session.settings.ShowBestCards = false;
+  session.settings.showBestCards = false;
   finder.Look();
   EXPECT_TRUE(finder.Tricks().empty());
-  session.settings.ShowBestCards = true;
+  session.settings.showBestCards = true;
   EXPECT_TRUE(Find());
   EXPECT_EQ(solver.asked, 2);
 }

@@ -59,7 +59,7 @@ TEST(CallKeys, TypedTextMakesCallsOrIsRefused) {
     }
     Board expected;
     test::SetAuction(expected, calls);
-    EXPECT_EQ(entry.Calls(), expected.Calls) << typed;
+    EXPECT_EQ(entry.Calls(), expected.calls) << typed;
     EXPECT_EQ(refusals, refused) << typed;
     EXPECT_EQ(keys.Typed(), waiting) << typed;
   }

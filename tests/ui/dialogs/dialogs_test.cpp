@@ -54,7 +54,7 @@ TEST_F(DialogsTest, TheStartDialogStoresAutoLaunchAtOnce) {
   frmStart start(session);
   for (const bool on : {true, false}) {
     Click(start, "chkAutoLaunch");
-    EXPECT_EQ(session.settings.AutoLaunch, on);
+    EXPECT_EQ(session.settings.autoLaunch, on);
     EXPECT_EQ(store.Read("Tricklet", "AutoLaunch"), on ? "True" : "False");
   }
   Later(&start, [&start] { Click(start, "cmdLaunch"); });

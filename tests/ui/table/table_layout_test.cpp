@@ -142,8 +142,8 @@ TEST(TableLayoutTest, SurvivesATableWithoutRoom) {
 
 Board OrdinaryBoard() {
   Board board;
-  board.BoardNumber = 7;
-  board.Hands = HandsOf(kOrdinary);
+  board.boardNumber = 7;
+  board.hands = HandsOf(kOrdinary);
   return board;
 }
 
@@ -151,14 +151,14 @@ TEST(TableWordsTest, TellsDeclarerAndDummyInTheCaptions) {
   Board board = OrdinaryBoard();
   Settings settings;
   EXPECT_EQ(TableCaptions(board, settings)[Seat::South], u"13 cards : HCP=15 LTC=7");
-  board.Contract = "4S";
-  board.Declarer = Seat::South;
+  board.contract = "4S";
+  board.declarer = Seat::South;
   EXPECT_EQ(TableCaptions(board, settings)[Seat::South], u"13 cards : HCP=15 LTC=7 Declarer");
   EXPECT_EQ(TableCaptions(board, settings)[Seat::North], u"13 cards : HCP=13 LTC=7 Dummy");
-  settings.CaptionHCP = settings.CaptionLTC = settings.CaptionDummy = false;
+  settings.captionHcp = settings.captionLtc = settings.captionDummy = false;
   EXPECT_EQ(TableCaptions(board, settings)[Seat::South], u"13 cards Declarer");
   EXPECT_EQ(TableCaptions(board, settings)[Seat::North], u"13 cards");
-  board.Contract = kAllPass;
+  board.contract = kAllPass;
   EXPECT_EQ(TableCaptions(board, settings)[Seat::South], u"13 cards");
   ClearAll(board);
   EXPECT_EQ(TableCaptions(board, settings)[Seat::South], u"");
@@ -179,8 +179,8 @@ TEST(TableWordsTest, ShowsContractsWithTheirSuits) {
 
 TEST(TableWordsTest, ReadsTheBoardOut) {
   Board board = OrdinaryBoard();
-  board.Hands[Seat::West] = {};
-  board.Hands[Seat::East][Suit::Hearts] = {};
+  board.hands[Seat::West] = {};
+  board.hands[Seat::East][Suit::Hearts] = {};
   EXPECT_EQ(DescribeTable(board).toStdString(),
             "Board 7. Dealer South. All vulnerable. "
             "North: spades A Q 9 7 5; hearts K 8 6; diamonds K 10 2; clubs J 4. "

@@ -21,13 +21,13 @@ namespace {
 /// Four spades by South: West leads.
 Board Playable() {
   Board board;
-  board.BoardNumber = 7;
-  board.Hands =
+  board.boardNumber = 7;
+  board.hands =
       test::HandsOf("N:AQ975.K86.KT2.J4 84.T732.AQ3.T652 KJT3.A4.9654.AK7 62.QJ95.J87.Q983");
-  board.Contract = "4S";
-  board.ContractLevel = 4;
-  board.Declarer = Seat::South;
-  board.Trumps = Strain::Spades;
+  board.contract = "4S";
+  board.contractLevel = 4;
+  board.declarer = Seat::South;
+  board.trumps = Strain::Spades;
   return board;
 }
 
@@ -91,7 +91,7 @@ constexpr Card kClubAce{Suit::Clubs, Rank::Ace};
 TEST_F(TablePlayTest, AsksForEveryCardLeftWhereItIsShown) {
   Play({kClubEight, kClubFour, kClubFive});
   for (const bool faces : {true, false}) {
-    settings_.CardsFaces = faces;
+    settings_.cardsFaces = faces;
     Show();
     const TableLayout layout = view_.Layout();
     EXPECT_EQ(layout.cards.size(), kCardsInPack - 3U);
@@ -114,7 +114,7 @@ TEST_F(TablePlayTest, AsksForTheTrickBesideTheCards) {
 }
 
 TEST_F(TablePlayTest, KeepsCardsInTheirPlacesAndRaisesTheLegalOnes) {
-  const TableLayout full = LayOutTable(view_.size(), board_.Hands, HandDisplay::Cards);
+  const TableLayout full = LayOutTable(view_.size(), board_.hands, HandDisplay::Cards);
   Play({kClubEight});
   const TableLayout now = view_.Layout();
   EXPECT_EQ(now.cardSize, full.cardSize);
@@ -224,7 +224,7 @@ TEST_F(TablePlayTest, PaintsEachMomentItsOwnWay) {
 
 class TrickGeometry : public testing::TestWithParam<QSizeF> {
  protected:
-  TableLayout table_ = LayOutTable(GetParam(), Playable().Hands, HandDisplay::Cards);
+  TableLayout table_ = LayOutTable(GetParam(), Playable().hands, HandDisplay::Cards);
 };
 
 TEST_P(TrickGeometry, KeepsTheTrickInThePanelWithEveryIndexInSight) {

@@ -21,8 +21,8 @@ class TableViewTest : public testing::Test {
 
   static Board LongSuits() {
     Board board;
-    board.BoardNumber = 2;
-    board.Hands =
+    board.boardNumber = 2;
+    board.hands =
         test::HandsOf("N:AQ975.K8652.KT2. 84.A73.AQ3.AJ652 KJT3.QJT94..KT87 62..AKQJT9876543.");
     return board;
   }
@@ -45,12 +45,12 @@ TEST_F(TableViewTest, PaintsEachDesignColouringAndDisplayItsOwnWay) {
   std::vector<QImage> pictures;
   for (const bool fourColours : {false, true}) {
     Settings settings;
-    settings.SuitColour = fourColours;
+    settings.suitColour = fourColours;
     for (int design = 1; design <= 3; ++design) {
-      settings.CardDesign = design;
+      settings.cardDesign = design;
       pictures.push_back(Picture(LongSuits(), settings, {560, 560}));
     }
-    settings.CardsFaces = false;
+    settings.cardsFaces = false;
     pictures.push_back(Picture(LongSuits(), settings, {560, 560}));
   }
   pictures.push_back(Picture(Board(), Settings(), {560, 560}));
@@ -65,8 +65,8 @@ TEST_F(TableViewTest, ForgetsThePicturesOfCardsWhenSettingsOrSizeChange) {
   TableView view;
   for (const auto& [design, fourColours, size] : kSteps) {
     Settings settings;
-    settings.CardDesign = design;
-    settings.SuitColour = fourColours;
+    settings.cardDesign = design;
+    settings.suitColour = fourColours;
     EXPECT_EQ(Picture(view, LongSuits(), settings, size), Picture(LongSuits(), settings, size))
         << "design " << design;
   }
@@ -76,12 +76,12 @@ TEST_F(TableViewTest, FitsTextIntoItsAreaWhateverTheFont) {
   const Board board = LongSuits();
   Settings settings;
   for (const double points : {6.0, 24.0, 96.0}) {
-    settings.HGFont[0].Size = settings.SuitFontSize = points;
+    settings.hgFont[0].size = settings.suitFontSize = points;
     for (const QSizeF size : {QSizeF(380, 340), QSizeF(760, 680), QSizeF(3840, 2160)}) {
-      const TableLayout layout = LayOutTable(size, board.Hands, HandDisplay::Text);
-      const TextMeasures measures = MeasureText(layout, board.Hands, settings, 96);
+      const TableLayout layout = LayOutTable(size, board.hands, HandDisplay::Text);
+      const TextMeasures measures = MeasureText(layout, board.hands, settings, 96);
       for (const Seat seat : kAllSeats) {
-        const QSizeF needed = TextPanelSize(measures, board.Hands[seat]);
+        const QSizeF needed = TextPanelSize(measures, board.hands[seat]);
         const QSizeF room = layout.hands[seat].area.size();
         EXPECT_LE(needed.width(), room.width()) << points << " " << SeatName[seat];
         EXPECT_LE(needed.height(), room.height()) << points << " " << SeatName[seat];

@@ -27,15 +27,15 @@ constexpr Card kClubTen{Suit::Clubs, Rank::Ten};
 class EditWindowTest : public WindowTest {
  protected:
   void OpenEditing(int method) {
-    session.settings.EditMethod = method;
+    session.settings.editMethod = method;
     Open();
     Click("cmdEdit");
     ASSERT_TRUE(Find<QWidget>("fraEdit")->isVisible());
   }
 
   TableView* Table() const { return window->findChild<TableView*>(); }
-  HandFrame FrameOf(Card card) const { return FrameHolding(session.board.Hands, card); }
-  EditLayout Layout() const { return LayOutEdit(Table()->size(), session.board.Hands); }
+  HandFrame FrameOf(Card card) const { return FrameHolding(session.board.hands, card); }
+  EditLayout Layout() const { return LayOutEdit(Table()->size(), session.board.hands); }
   /// Where the card can be seized: no other one lies over its index.
   QPoint PointOf(Card card) const {
     const EditLayout layout = Layout();
@@ -79,7 +79,7 @@ class EditWindowTest : public WindowTest {
   bool Offered(const char* action) const { return Find<QAction>(action)->isEnabled(); }
   int CardsDealt() const {
     int cards = 0;
-    for (const int count : GetStats(session.board.Hands).SeatCardCount) cards += count;
+    for (const int count : GetStats(session.board.hands).seatCardCount) cards += count;
     return cards;
   }
 
@@ -93,14 +93,14 @@ class EditWindowTest : public WindowTest {
     for (const char* name : {"mnuRandom", "mnuFillFourth", "mnuUndoFill"}) {
       EXPECT_FALSE(Offered(name)) << name << " after " << after;
     }
-    const HandTable before = session.board.Hands;
+    const HandTable before = session.board.hands;
     Drag(kSpadeAce, PointOf(HandFrame::Pack));
-    EXPECT_EQ(session.board.Hands, before) << after;
+    EXPECT_EQ(session.board.hands, before) << after;
   }
 };
 
 TEST_F(EditWindowTest, EditingShowsThePackAndTakesTheRestAway) {
-  session.board.MakeableValid = true;
+  session.board.makeableValid = true;
   test::SetAuction(session.board, "1S P P P");
   OpenEditing(1);
   for (const char* name :
@@ -116,9 +116,9 @@ TEST_F(EditWindowTest, EditingShowsThePackAndTakesTheRestAway) {
   }
   EXPECT_TRUE(Enabled("cmdClear"));
   Key(Qt::Key_PageDown);
-  EXPECT_EQ(session.board.BoardNumber, 1);
-  EXPECT_FALSE(session.board.HandChanged) << "nothing has been edited yet";
-  EXPECT_TRUE(session.board.MakeableValid);
+  EXPECT_EQ(session.board.boardNumber, 1);
+  EXPECT_FALSE(session.board.handChanged) << "nothing has been edited yet";
+  EXPECT_TRUE(session.board.makeableValid);
   Click("cmdEdit");
   ExpectNothingLeftOfEditing("the button");
   EXPECT_TRUE(Shown("lblContract"));
@@ -126,29 +126,29 @@ TEST_F(EditWindowTest, EditingShowsThePackAndTakesTheRestAway) {
 }
 
 TEST_F(EditWindowTest, CardsAreDraggedBetweenHandsAndPack) {
-  session.board.MakeableValid = true;
+  session.board.makeableValid = true;
   OpenEditing(1);
   Drag(kSpadeAce, PointOf(HandFrame::North));
   Drag(kSpadeAce, Layout().table.centre.center().toPoint());
   Drag(kSpadeAce, QPoint(-50, 40));
-  EXPECT_FALSE(session.board.HandChanged) << "dropped at home, in the middle and outside";
-  EXPECT_TRUE(session.board.MakeableValid);
+  EXPECT_FALSE(session.board.handChanged) << "dropped at home, in the middle and outside";
+  EXPECT_TRUE(session.board.makeableValid);
   Drag(kSpadeAce, PointOf(HandFrame::East));
   EXPECT_EQ(FrameOf(kSpadeAce), HandFrame::North) << "East is full";
   EXPECT_EQ(host.beeps, 1);
-  EXPECT_FALSE(session.board.HandChanged);
+  EXPECT_FALSE(session.board.handChanged);
 
   Drag(kHeartAce, PointOf(HandFrame::Pack));
   EXPECT_EQ(FrameOf(kHeartAce), HandFrame::Pack);
-  EXPECT_TRUE(session.board.HandChanged);
-  EXPECT_FALSE(session.board.MakeableValid);
+  EXPECT_TRUE(session.board.handChanged);
+  EXPECT_FALSE(session.board.makeableValid);
   EXPECT_TRUE(
       Table()->accessibleDescription().contains(QStringLiteral("Pack: spades void; hearts A")));
   Drag(kSpadeAce, Layout().Area(HandFrame::East).center().toPoint());
   EXPECT_EQ(FrameOf(kSpadeAce), HandFrame::East) << "there is a place by now";
   Drag(kHeartAce, PointOf(HandFrame::North));
   EXPECT_EQ(FrameOf(kHeartAce), HandFrame::North) << "from the pack";
-  EXPECT_TRUE(GetStats(session.board.Hands).AllHandsComplete);
+  EXPECT_TRUE(GetStats(session.board.hands).allHandsComplete);
 
   const QPoint from = PointOf(kClubTen);
   Press(from);
@@ -203,7 +203,7 @@ TEST_F(EditWindowTest, KeysMoveCardsToo) {
   EXPECT_EQ(FrameOf(kSpadeKing), HandFrame::West);
   FocusKey(Qt::Key_Right);
   FocusKeys("DAKQcT");
-  EXPECT_EQ(session.board.Hands[Seat::East][Suit::Diamonds], AddSpace("AKQ"));
+  EXPECT_EQ(session.board.hands[Seat::East][Suit::Diamonds], AddSpace("AKQ"));
   EXPECT_EQ(FrameOf(kClubTen), HandFrame::East) << "cards typed for a hand, ranks alone";
   FocusKey(Qt::Key_Escape);
   FocusKeys("ct");
@@ -217,32 +217,32 @@ TEST_F(EditWindowTest, HandsAreTypedAndRefusedWithTheReason) {
   EXPECT_EQ(Line(0), QStringLiteral("AKQJT98765432.-.-.-"));
   EXPECT_TRUE(Find<QLineEdit>("txtHand_0")->hasFocus());
   FocusKey(Qt::Key_Tab);
-  EXPECT_FALSE(session.board.HandChanged) << "looked at";
+  EXPECT_FALSE(session.board.handChanged) << "looked at";
   TypeHand(0, "ak102...");
   FocusKey(Qt::Key_Return);
-  EXPECT_EQ(session.board.Hands[Seat::North][Suit::Spades], AddSpace("AK12"));
+  EXPECT_EQ(session.board.hands[Seat::North][Suit::Spades], AddSpace("AK12"));
   EXPECT_EQ(Line(0), QStringLiteral("AKT2.-.-.-"));
   TypeHand(1, "AQ.3..");
-  const HandTable before = session.board.Hands;
+  const HandTable before = session.board.hands;
   host.ExpectTell("\u2660A is held by North");
   FocusKey(Qt::Key_Return);
   EXPECT_EQ(Line(1), QStringLiteral("AQ.3..")) << "to be corrected";
   EXPECT_TRUE(Find<QLineEdit>("txtHand_1")->hasFocus());
   host.ExpectTell("\u2660A is held by North");
   FocusKey(Qt::Key_S, Qt::ControlModifier);
-  EXPECT_TRUE(session.board.HandChanged) << "not saved without the hand that was being typed";
-  EXPECT_EQ(session.board.Hands, before);
+  EXPECT_TRUE(session.board.handChanged) << "not saved without the hand that was being typed";
+  EXPECT_EQ(session.board.hands, before);
   TypeHand(1, "Q.3..");
   host.ExpectAskWith("Overwrite existing board 1?", Answer::Yes);
   FocusKey(Qt::Key_S, Qt::ControlModifier);
-  EXPECT_EQ(session.board.Hands[Seat::East][Suit::Hearts], AddSpace("3")) << "taken over and saved";
-  EXPECT_FALSE(session.board.HandChanged);
+  EXPECT_EQ(session.board.hands[Seat::East][Suit::Hearts], AddSpace("3")) << "taken over and saved";
+  EXPECT_FALSE(session.board.handChanged);
   EXPECT_TRUE(Shown("fraEdit"));
   TypeHand(1, "Q.32..");
   FocusKey(Qt::Key_Tab);
-  const auto taken = [this] { return session.board.HandChanged; };
+  const auto taken = [this] { return session.board.handChanged; };
   EXPECT_TRUE(QTest::qWaitFor(taken)) << "by leaving the line";
-  EXPECT_EQ(session.board.Hands[Seat::East][Suit::Hearts], AddSpace("32"));
+  EXPECT_EQ(session.board.hands[Seat::East][Suit::Hearts], AddSpace("32"));
   TypeHand(2, "X.3..");
   host.ExpectTell("X does not begin with a rank");
   EXPECT_FALSE(window->close());
@@ -254,26 +254,26 @@ TEST_F(EditWindowTest, ABoardIsClearedFilledSwappedAndSavedByClicks) {
   OpenEditing(2);
   Click("cmdClear");
   Click("cmdUndoClear");
-  EXPECT_EQ(session.board.Hands[Seat::North][Suit::Spades].Count(), 13);
+  EXPECT_EQ(session.board.hands[Seat::North][Suit::Spades].Count(), 13);
   EXPECT_FALSE(Enabled("cmdUndoClear"));
   Click("cmdClear");
   ClickAt(PointOf(HandFrame::North));
   for (const Card card : {kSpadeAce, kSpadeKing, kHeartAce}) ClickAt(PointOf(card));
-  const HandTable partial = session.board.Hands;
+  const HandTable partial = session.board.hands;
   Click("cmdRandom");
-  EXPECT_TRUE(GetStats(session.board.Hands).AllHandsComplete);
+  EXPECT_TRUE(GetStats(session.board.hands).allHandsComplete);
   EXPECT_EQ(FrameOf(kHeartAce), HandFrame::North);
   EXPECT_FALSE(Enabled("cmdRandom"));
   EXPECT_TRUE(Enabled("cmdPlay"));
   Click("cmdUndoFill");
-  EXPECT_EQ(session.board.Hands, partial);
+  EXPECT_EQ(session.board.hands, partial);
   EXPECT_FALSE(Enabled("cmdUndoFill"));
   Click("cmdRandom");
-  const HandTable full = session.board.Hands;
-  for (const Suit suit : kAllSuits) session.board.Hands[Seat::West][suit] = Holding();
+  const HandTable full = session.board.hands;
+  for (const Suit suit : kAllSuits) session.board.hands[Seat::West][suit] = Holding();
   window->Display();
   Click("cmdFillFourth");
-  EXPECT_EQ(session.board.Hands, full);
+  EXPECT_EQ(session.board.hands, full);
 
   Later(window.get(), [] {
     auto* dialog = qobject_cast<frmSwap*>(QApplication::activeModalWidget());
@@ -302,10 +302,10 @@ TEST_F(EditWindowTest, ABoardIsClearedFilledSwappedAndSavedByClicks) {
   for (const Seat seat : kAllSeats) {
     std::swap(expected[seat][Suit::Spades], expected[seat][Suit::Clubs]);
   }
-  EXPECT_EQ(session.board.Hands, expected);
+  EXPECT_EQ(session.board.hands, expected);
   host.ExpectAskWith("Overwrite existing board 1?", Answer::Yes);
   Click("cmdSave");
-  EXPECT_FALSE(session.board.HandChanged);
+  EXPECT_FALSE(session.board.handChanged);
   EXPECT_TRUE(Shown("fraEdit")) << "saving goes on with editing";
   std::string text;
   for (const Seat seat : kAllSeats) {
@@ -315,7 +315,7 @@ TEST_F(EditWindowTest, ABoardIsClearedFilledSwappedAndSavedByClicks) {
   Click("cmdEdit");
   Click("lblNext");
   Click("lblPrevious");
-  EXPECT_EQ(session.board.Hands, expected) << "read back";
+  EXPECT_EQ(session.board.hands, expected) << "read back";
   Click("cmdEdit");
   EXPECT_FALSE(Enabled("cmdUndoClear")) << "not of a board that was loaded since";
   EXPECT_FALSE(Enabled("cmdUndoFill"));
@@ -332,20 +332,20 @@ TEST_F(EditWindowTest, TheAuctionGoesRoundTheTableOnlyWhenItIsTicked) {
       dialog->findChild<QAbstractButton*>(QString::fromLatin1(name))->click();
     };
     press("cmdRotate_0");
-    EXPECT_EQ(session.board.Declarer, Seat::North);
+    EXPECT_EQ(session.board.declarer, Seat::North);
     press("chkAuction");
     press("cmdRotate_0");
-    EXPECT_EQ(session.board.Declarer, Seat::East);
+    EXPECT_EQ(session.board.declarer, Seat::East);
     EXPECT_EQ(Find<QLabel>("lblContract")->accessibleName(), QStringLiteral("1S by East"));
     test::SetAuction(session.board, "P P P P 1S");
-    const HandTable before = session.board.Hands;
+    const HandTable before = session.board.hands;
     host.ExpectTell("The auction cannot be taken along");
     press("cmdRotate_0");
-    EXPECT_EQ(session.board.Hands, before);
+    EXPECT_EQ(session.board.hands, before);
     press("cmdCancel");
   });
   Key(Qt::Key_R, Qt::ControlModifier);
-  EXPECT_EQ(session.board.Hands[Seat::South][Suit::Spades].Count(), 13);
+  EXPECT_EQ(session.board.hands[Seat::South][Suit::Spades].Count(), 13);
 }
 
 TEST_F(EditWindowTest, EditingInMidPlayIsAskedAbout) {
@@ -357,7 +357,7 @@ TEST_F(EditWindowTest, EditingInMidPlayIsAskedAbout) {
   for (const Answer answer : {Answer::No, Answer::Yes}) {
     host.ExpectAskWith("Confirm that you wish to edit this hand", answer);
     Click("cmdEdit");
-    EXPECT_EQ(session.board.PlayMode, answer == Answer::No);
+    EXPECT_EQ(session.board.playMode, answer == Answer::No);
     EXPECT_EQ(Shown("fraEdit"), answer == Answer::Yes);
   }
   EXPECT_EQ(FrameOf(kHeartAce), HandFrame::East) << "no card stays on the table";
@@ -390,8 +390,8 @@ TEST_F(EditWindowTest, NothingIsLeftOfEditingThatEnds) {
     ASSERT_TRUE(Shown("fraEdit")) << name;
     leave();
     ExpectNothingLeftOfEditing(name);
-    session.board.PlayMode = false;
-    session.board.HandChanged = false;
+    session.board.playMode = false;
+    session.board.handChanged = false;
   }
 }
 

@@ -84,7 +84,7 @@ class GenerateWindowTest : public WindowTest {
   }
   Board Stored(int number) {
     Board board;
-    board.BoardNumber = number;
+    board.boardNumber = number;
     bool complete = false;
     EXPECT_TRUE(LoadHandBasic(session, board, complete)) << number;
     EXPECT_TRUE(complete) << number;
@@ -106,19 +106,19 @@ TEST_F(GenerateWindowTest, TheBoardsAreStoredAsChosen) {
   });
   for (int number = 30; number <= 37; ++number) {
     const Board board = Stored(number);
-    const Statistics statistics = GetStats(board.Hands);
+    const Statistics statistics = GetStats(board.hands);
     const Seat dealer = board.Dealer();
     const Seat partner = PartnerOf(dealer);
-    EXPECT_TRUE(statistics.SeatHCP[partner] >= 15 && statistics.SeatHCP[partner] <= 17) << number;
+    EXPECT_TRUE(statistics.seatHcp[partner] >= 15 && statistics.seatHcp[partner] <= 17) << number;
     for (const Suit suit : kAllSuits) {
       const int highest = suit == Suit::Spades || suit == Suit::Hearts ? 4 : 5;
-      EXPECT_GE(statistics.SuitLength[partner][suit], 2) << number;
-      EXPECT_LE(statistics.SuitLength[partner][suit], highest) << number;
+      EXPECT_GE(statistics.suitLength[partner][suit], 2) << number;
+      EXPECT_LE(statistics.suitLength[partner][suit], highest) << number;
     }
-    EXPECT_GE(statistics.SuitLength[dealer][Suit::Spades], 5) << number;
-    EXPECT_LE(statistics.SuitLength[dealer][Suit::Clubs], 3) << number;
+    EXPECT_GE(statistics.suitLength[dealer][Suit::Spades], 5) << number;
+    EXPECT_LE(statistics.suitLength[dealer][Suit::Clubs], 3) << number;
   }
-  EXPECT_EQ(session.library.BoardCount, 12);
+  EXPECT_EQ(session.library.boardCount, 12);
   EXPECT_EQ(ShownBoard(), QStringLiteral("Board 30"));
   EXPECT_TRUE(window->isVisible() && Find<TableView>("picTable")->isVisible());
 }
@@ -151,7 +151,7 @@ TEST_F(GenerateWindowTest, TheDialogRemembersWhatWasGeneratedLast) {
     expectLast(form);
     form.Click("cmdCancel");
   });
-  EXPECT_EQ(session.library.BoardCount, 6);
+  EXPECT_EQ(session.library.boardCount, 6);
 }
 
 TEST_F(GenerateWindowTest, WhatDoesNotApplyIsClosed) {
@@ -275,7 +275,7 @@ TEST_F(GenerateWindowTest, AContradictionIsToldAndLeadsToWhereItIs) {
       form.Click("cmdCancel");
     });
   }
-  EXPECT_EQ(session.library.BoardCount, 4);
+  EXPECT_EQ(session.library.boardCount, 4);
 }
 
 TEST_F(GenerateWindowTest, ThePreviewTakesADealDealsAgainOrEnds) {
@@ -287,7 +287,7 @@ TEST_F(GenerateWindowTest, ThePreviewTakesADealDealsAgainOrEnds) {
   const std::function<void()> expectPreview = [&] {
     Expect<frmPreview>([&](const Driven& form) {
       const std::size_t index = shown.size();
-      shown.push_back(session.board.Hands);
+      shown.push_back(session.board.hands);
       const QString message = form.Find<QLabel>("lblMessage")->text();
       EXPECT_EQ(FromQt(message), "Accept this deal for board " + std::to_string(numbers.at(index)));
       const QString spoken = form.Find<TableView>("picPreview")->accessibleDescription();
@@ -306,28 +306,28 @@ TEST_F(GenerateWindowTest, ThePreviewTakesADealDealsAgainOrEnds) {
   });
   ASSERT_EQ(shown.size(), keys.size());
   EXPECT_NE(shown[0], shown[1]);
-  EXPECT_EQ(Stored(31).Hands, shown[2]);
-  EXPECT_EQ(Stored(32).Hands, shown[3]);
-  EXPECT_EQ(session.library.LastBoard, 32);
+  EXPECT_EQ(Stored(31).hands, shown[2]);
+  EXPECT_EQ(Stored(32).hands, shown[3]);
+  EXPECT_EQ(session.library.lastBoard, 32);
   EXPECT_EQ(ShownBoard(), QStringLiteral("Board 31"));
 }
 
 TEST_F(GenerateWindowTest, AsksBeforeAnythingIsLost) {
   Open();
   const std::string before = test::ReadFile(session.BoardPath(1));
-  session.board.HandChanged = true;
+  session.board.handChanged = true;
   const auto go = [](const Driven& form) { form.Click("cmdGo"); };
   host.ExpectAskWith("Do you want to save changes to board 1", Answer::Cancel);
   Generate(go);
-  EXPECT_TRUE(session.board.HandChanged);
+  EXPECT_TRUE(session.board.handChanged);
   host.ExpectAskWith("Do you want to save changes to board 1", Answer::No);
   host.ExpectAsk(kOverwrite, "Tricklet", Answer::No);
   Generate(go);
-  EXPECT_EQ(session.library.BoardCount, 4);
+  EXPECT_EQ(session.library.boardCount, 4);
   EXPECT_EQ(test::ReadFile(session.BoardPath(1)), before);
   host.ExpectAsk(kOverwrite, "Tricklet", Answer::Yes);
   Generate(go);
-  EXPECT_EQ(session.library.BoardCount, 24);
+  EXPECT_EQ(session.library.boardCount, 24);
   EXPECT_NE(test::ReadFile(session.BoardPath(1)), before);
 }
 
@@ -340,26 +340,26 @@ TEST_F(GenerateWindowTest, CancelEndsTheRunAfterTheBoardInHand) {
     form.Choose({{"cmbBoards_1", "999"}, {"cmbBoards_0", "500"}});
     form.Click("cmdGo");
   });
-  EXPECT_EQ(session.library.LastBoard, 503);
+  EXPECT_EQ(session.library.lastBoard, 503);
   EXPECT_EQ(ShownBoard(), QStringLiteral("Board 500"));
   EXPECT_FALSE(window->Progress()->IsWorking());
 }
 
 TEST_F(GenerateWindowTest, TablesAreComputedWhereTheSettingsWantThem) {
   test::FakeSolver solver;
-  session.GetSolver = [&solver]() -> Solver& { return solver; };
-  session.TablesInBackground = true;
+  session.getSolver = [&solver]() -> Solver& { return solver; };
+  session.tablesInBackground = true;
   Open();
   for (const bool wanted : {false, true}) {
-    session.settings.AutoMakeable = wanted;
+    session.settings.autoMakeable = wanted;
     const std::size_t solvedBefore = solver.dealsSolved;
     Generate([&](const Driven& form) {
       form.Choose({{"cmbBoards_1", wanted ? "69" : "59"}, {"cmbBoards_0", wanted ? "60" : "50"}});
       form.Click("cmdGo");
     });
     EXPECT_EQ(solver.dealsSolved - solvedBefore, wanted ? 10U : 0U);
-    EXPECT_EQ(Stored(wanted ? 65 : 55).MakeableValid, wanted);
-    EXPECT_EQ(session.board.MakeableValid, wanted);
+    EXPECT_EQ(Stored(wanted ? 65 : 55).makeableValid, wanted);
+    EXPECT_EQ(session.board.makeableValid, wanted);
   }
 }
 

@@ -55,7 +55,7 @@ TEST_F(LinWindowTest, AreChosenPastedOrDropped) {
     host.ExpectTell("Hand 7 has been saved to the library - Teaching");
     way();
     EXPECT_EQ(FromQt(ShownBoard()), "Board 7");
-    EXPECT_EQ(session.board.Contract, "1C");
+    EXPECT_EQ(session.board.contract, "1C");
   }
 }
 

@@ -45,9 +45,9 @@ TEST_F(MainWindowTest, EveryWayOfSteppingShowsTheBoard) {
   };
   for (const auto& [way, step, board, shown] : steps) {
     step();
-    EXPECT_EQ(session.board.BoardNumber, board) << way;
+    EXPECT_EQ(session.board.boardNumber, board) << way;
     EXPECT_EQ(FromQt(ShownBoard()), shown) << way;
-    EXPECT_EQ(Find<QWidget>("fraStats")->isVisible(), HasCards(session.board.Hands)) << way;
+    EXPECT_EQ(Find<QWidget>("fraStats")->isVisible(), HasCards(session.board.hands)) << way;
   }
 }
 
@@ -106,7 +106,7 @@ TEST_F(MainWindowTest, AsksAboutUnsavedChangesBeforeABoardIsLeft) {
   } cases[] = {{Answer::Cancel, 2, false}, {Answer::No, 3, false}, {Answer::Yes, 3, true}};
   Open();
   for (const auto& [answer, board, written] : cases) {
-    session.board.HandChanged = false;
+    session.board.handChanged = false;
     PressKey(window.get(), Qt::Key_Home, Qt::ControlModifier);
     Click("lblNext");
     Key(Qt::Key_Delete, Qt::ControlModifier | Qt::ShiftModifier);
@@ -114,7 +114,7 @@ TEST_F(MainWindowTest, AsksAboutUnsavedChangesBeforeABoardIsLeft) {
     EXPECT_TRUE(window->isWindowModified());
     host.ExpectAsk(question, "Save changes?", answer);
     PressKey(Find<QComboBox>("cmbBoard"), Qt::Key_Down);
-    EXPECT_EQ(session.board.BoardNumber, board);
+    EXPECT_EQ(session.board.boardNumber, board);
     EXPECT_EQ(Find<QComboBox>("cmbBoard")->currentIndex(), board - 1) << "put back when refused";
     EXPECT_EQ(std::filesystem::exists(session.BoardPath(2)), written);
   }
@@ -166,7 +166,7 @@ TEST_F(MainWindowTest, AnImportShowsProgressTakesNoCommandsAndCanBeCancelled) {
     EXPECT_FALSE(Find<QWidget>("fraProgress")->isVisible());
     EXPECT_TRUE(Find<QWidget>("picTable")->isVisible());
     EXPECT_TRUE(Find<QWidget>("cmbLibs")->isEnabled());
-    EXPECT_FALSE(session.board.HandChanged);
+    EXPECT_FALSE(session.board.handChanged);
     EXPECT_EQ(Find<QLabel>("lblLibrary")->text(), QStringLiteral("3 boards in library"));
   }
 }
@@ -193,7 +193,7 @@ TEST_F(MainWindowTest, DroppedFilesAreImportedOneAfterAnother) {
   QCoreApplication::sendEvent(window.get(), &drop);
   EXPECT_TRUE(drop.isAccepted());
   QTest::qWait(1);
-  EXPECT_EQ(session.library.BoardCount, 9);
+  EXPECT_EQ(session.library.boardCount, 9);
 }
 
 TEST_F(MainWindowTest, OptionsTakeEffectOnlyWithOK) {
@@ -214,15 +214,15 @@ TEST_F(MainWindowTest, OptionsTakeEffectOnlyWithOK) {
     EXPECT_EQ(store.Read("Tricklet", "CardDesign").has_value(), taken);
     Settings expected = before;
     if (taken) {
-      expected.ShowStats = false;
-      expected.CardDesign = 3;
+      expected.showStats = false;
+      expected.cardDesign = 3;
     }
     EXPECT_EQ(session.settings, expected) << "fonts and all else come out as they went in";
   }
 }
 
 TEST_F(MainWindowTest, TablesFollowTheColours) {
-  session.board.MakeableValid = true;
+  session.board.makeableValid = true;
   Open();
   test::SetAuction(session.board, "1NT Pass Pass Pass");
   const Qt::Key keys[] = {Qt::Key_3, Qt::Key_2, Qt::Key_3, Qt::Key_1};
@@ -249,7 +249,7 @@ TEST_F(MainWindowTest, PresentationShowsTheTableAloneAndItsKeysStillWork) {
   EXPECT_FALSE(window->menuBar()->isVisible());
   EXPECT_TRUE(Find<QWidget>("picTable")->isVisible());
   Key(Qt::Key_PageDown);
-  EXPECT_EQ(session.board.BoardNumber, 2);
+  EXPECT_EQ(session.board.boardNumber, 2);
   Key(Qt::Key_F11, Qt::ShiftModifier);
   EXPECT_TRUE(Find<QWidget>("flexBids")->isVisible());
   EXPECT_FALSE(Find<QWidget>("cmbLibs")->isVisible());
@@ -270,7 +270,7 @@ TEST_F(MainWindowTest, TheRightColumnTakesOnlyRoomThatTheTableCannotUse) {
     const int right = Find<QWidget>("colRight")->width();
     const QSizeF table = Find<QWidget>("picTable")->size();
     const auto cards = [this](QSizeF felt) {
-      return LayOutTable(felt, session.board.Hands, HandDisplay::Cards).cardSize;
+      return LayOutTable(felt, session.board.hands, HandDisplay::Cards).cardSize;
     };
     if (before == 0) before = right;
     EXPECT_GE(right, before);
@@ -280,10 +280,10 @@ TEST_F(MainWindowTest, TheRightColumnTakesOnlyRoomThatTheTableCannotUse) {
 }
 
 TEST_F(MainWindowTest, TheAuctionBeginsUnderTheDealerAndNamesTheContract) {
-  session.board.BoardNumber = 3;  // South deals, East-West vulnerable
-  session.board.Calls = {};
+  session.board.boardNumber = 3;  // South deals, East-West vulnerable
+  session.board.calls = {};
   for (const char* text : {"1S", "X", "4S", "P", "P", "P"}) {
-    session.board.Calls.Add(*Call::FromText(text));
+    session.board.calls.Add(*Call::FromText(text));
   }
   GetContract(session.board);
   Open();
@@ -306,10 +306,10 @@ TEST_F(MainWindowTest, CopyInATextBoxLeavesTheBoardAlone) {
   name->setFocus();
   name->selectAll();
   FocusKey(Qt::Key_C, Qt::ControlModifier);
-  EXPECT_EQ(session.CopyBoard, 0);
+  EXPECT_EQ(session.copyBoard, 0);
   Find<QWidget>("picTable")->setFocus();
   FocusKey(Qt::Key_C, Qt::ControlModifier);
-  EXPECT_EQ(session.CopyBoard, 1);
+  EXPECT_EQ(session.copyBoard, 1);
 }
 
 }  // namespace

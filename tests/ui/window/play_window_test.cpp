@@ -41,7 +41,7 @@ class PlayWindowTest : public WindowTest {
   void StartPlay(const std::string& auction = "1S P P P") {
     Bid(auction);
     Click("cmdPlay");
-    ASSERT_TRUE(session.board.PlayMode);
+    ASSERT_TRUE(session.board.playMode);
   }
 
   const PlayState& Now() const { return window->findChild<PlayControl*>()->Play().Now(); }
@@ -70,7 +70,7 @@ class PlayWindowTest : public WindowTest {
   bool Offered(const char* action) const { return Find<QAction>(action)->isEnabled(); }
 
   void ExpectNothingLeftOfPlay(const char* after) const {
-    EXPECT_FALSE(session.board.PlayMode) << after;
+    EXPECT_FALSE(session.board.playMode) << after;
     EXPECT_FALSE(Find<QTimer>("timQuit")->isActive()) << after;
     for (const char* name : {"fraPlay", "lblTricks_0", "lblTricks_1", "lblScore"}) {
       EXPECT_FALSE(Shown(name)) << name << " after " << after;
@@ -80,12 +80,12 @@ class PlayWindowTest : public WindowTest {
     }
     EXPECT_TRUE(Offered("mnuBidding")) << after;
     EXPECT_EQ(Find<QPushButton>("cmdPlay")->text(), QStringLiteral("Play")) << after;
-    EXPECT_EQ(Shown("fraStats"), HasCards(session.board.Hands)) << after;
+    EXPECT_EQ(Shown("fraStats"), HasCards(session.board.hands)) << after;
     const auto* next = Find<QToolButton>("lblNext");
     EXPECT_EQ(next->palette().color(QPalette::Button), window->palette().color(QPalette::Button));
     QPoint trick = Table()->rect().center();
     QTest::mouseClick(Table(), Qt::LeftButton, Qt::NoModifier, trick);
-    EXPECT_FALSE(session.board.PlayMode) << after;
+    EXPECT_FALSE(session.board.playMode) << after;
   }
 };
 
@@ -124,12 +124,12 @@ TEST_F(PlayWindowTest, AnAuctionIsTypedWhileGridAndTableFollow) {
     FocusKeys("ppp");
     EXPECT_EQ(text("lblModifyBidding"), QStringLiteral("The auction is over"));
     EXPECT_FALSE(enabled("cmdPass"));
-    EXPECT_TRUE(session.board.Calls.Empty()) << "the board changes with OK only";
+    EXPECT_TRUE(session.board.calls.Empty()) << "the board changes with OK only";
     FocusKey(Qt::Key_Return);
   });
   Key(Qt::Key_B, Qt::ControlModifier);
-  EXPECT_EQ(session.board.Contract, "2NT");
-  EXPECT_TRUE(session.board.HandChanged);
+  EXPECT_EQ(session.board.contract, "2NT");
+  EXPECT_TRUE(session.board.handChanged);
   EXPECT_EQ(Text("lblContract"), QStringLiteral("2NT by East"));
   EXPECT_FALSE(grid->isVisible());
 }
@@ -152,7 +152,7 @@ TEST_F(PlayWindowTest, FocusOfTheDialogStaysWhereItIsNotACancel) {
     FocusKey(Qt::Key_Space);  // on OK
   });
   Click("cmdBidding");
-  EXPECT_EQ(session.board.Contract, kAllPass);
+  EXPECT_EQ(session.board.contract, kAllPass);
 }
 
 TEST_F(PlayWindowTest, LeavingTheDialogAsksAndRestores) {
@@ -179,10 +179,10 @@ TEST_F(PlayWindowTest, LeavingTheDialogAsksAndRestores) {
       leave(dialog);
     });
     Click("cmdBidding");
-    EXPECT_EQ(session.board.Contract, "1S");
+    EXPECT_EQ(session.board.contract, "1S");
     EXPECT_EQ(grid->item(0, 1)->text(), QStringLiteral(u"1\u2660"));
     EXPECT_EQ(grid->item(0, 2)->text(), QStringLiteral("Pass"));
-    EXPECT_FALSE(session.board.HandChanged);
+    EXPECT_FALSE(session.board.handChanged);
   }
 }
 
@@ -208,9 +208,9 @@ TEST_F(PlayWindowTest, TheDialogCoversNeitherTheAuctionNorTheMiddleOfTheTable) {
 }
 
 TEST_F(PlayWindowTest, BiddingInAPresentationShowsNoAnswers) {
-  session.board.MakeableValid = true;
+  session.board.makeableValid = true;
   Open();
-  session.board.MakeableValid = true;
+  session.board.makeableValid = true;
   Key(Qt::Key_F11);
   const auto look = [this](bool answers) {
     Expect([this, answers](frmBidding& dialog) {
@@ -251,7 +251,7 @@ TEST_F(PlayWindowTest, PlayComesAfterTheAuctionThatItNeeds) {
     Expect(auction);
     QApplication::setActiveWindow(window.get());
     Key(Qt::Key_P, Qt::ControlModifier);
-    EXPECT_EQ(session.board.PlayMode, plays);
+    EXPECT_EQ(session.board.playMode, plays);
     EXPECT_EQ(Text("lblScore"), QString::fromLatin1(score));
     EXPECT_EQ(Shown("lblTricks_0"), plays);
   }
@@ -284,7 +284,7 @@ TEST_F(PlayWindowTest, AWholeBoardIsPlayedByClicks) {
   EXPECT_EQ(Find<QPushButton>("cmdClaim")->text(), QStringLiteral("Claim by North"));
   EXPECT_TRUE(Find<QTimer>("timQuit")->isActive());
   QTest::mouseClick(Table(), Qt::LeftButton, Qt::NoModifier, Table()->rect().center());
-  EXPECT_TRUE(Now().TrickGathered) << "no need to wait";
+  EXPECT_TRUE(Now().trickGathered) << "no need to wait";
   ClickCards(48);
   EXPECT_EQ(Tricks(), QStringLiteral("NS: 13 EW: 0"));
   EXPECT_EQ(Text("lblScore"), QStringLiteral("1S+6 by North : NS +260"));
@@ -306,11 +306,11 @@ TEST_F(PlayWindowTest, KeysPlayUndoAcrossATrickAndClaim) {
   Open();
   StartPlay("1S X P P XX P P P");
   for (const char* card : {"HA", "D2", "C3", "S4", "SA"}) FocusKeys(card);
-  EXPECT_EQ(Now().TricksPlayed, 1);
-  EXPECT_EQ(Now().TrickCards[Seat::North], (Card{Suit::Spades, Rank::Ace}));
+  EXPECT_EQ(Now().tricksPlayed, 1);
+  EXPECT_EQ(Now().trickCards[Seat::North], (Card{Suit::Spades, Rank::Ace}));
   for (int undo = 0; undo < 2; ++undo) Key(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Tricks(), QStringLiteral("NS: 0 EW: 0"));
-  EXPECT_EQ(Now().TrickCards[Seat::West], (Card{Suit::Clubs, Rank::Three}));
+  EXPECT_EQ(Now().trickCards[Seat::West], (Card{Suit::Clubs, Rank::Three}));
   EXPECT_EQ(Find<QPushButton>("cmdClaim")->text(), QStringLiteral("Claim by North"));
   for (int undo = 0; undo < 2; ++undo) Key(Qt::Key_Z, Qt::ControlModifier);
   Key(Qt::Key_L, Qt::ControlModifier);
@@ -326,7 +326,7 @@ TEST_F(PlayWindowTest, UndoInATextBoxTakesBackNoCard) {
   Type("cmbLibs", "Autumn");
   FocusKey(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_NE(Find<QComboBox>("cmbLibs")->currentText(), QStringLiteral("Autumn"));
-  EXPECT_EQ(Now().CardsInTrick, 2);
+  EXPECT_EQ(Now().cardsInTrick, 2);
 }
 
 TEST_F(PlayWindowTest, NothingIsLeftOfAPlayThatEnds) {
@@ -355,7 +355,7 @@ TEST_F(PlayWindowTest, NothingIsLeftOfAPlayThatEnds) {
       {"a board that is cleared",
        [this] {
          Key(Qt::Key_Delete, Qt::ControlModifier | Qt::ShiftModifier);
-         EXPECT_TRUE(session.board.PlayMode) << "not while cards are to be played";
+         EXPECT_TRUE(session.board.playMode) << "not while cards are to be played";
          Key(Qt::Key_L, Qt::ControlModifier);
          Key(Qt::Key_Delete, Qt::ControlModifier | Qt::ShiftModifier);
        }},
@@ -378,7 +378,7 @@ TEST_F(PlayWindowTest, NothingIsLeftOfAPlayThatEnds) {
     ClickCards(4);
     leave();
     ExpectNothingLeftOfPlay(name);
-    session.board.HandChanged = false;
+    session.board.handChanged = false;
   }
 }
 

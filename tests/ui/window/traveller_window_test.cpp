@@ -24,10 +24,10 @@ class TravellerWindowTest : public WindowTest {
  protected:
   TravellerWindowTest() {
     LinFile file;
-    file.BoardScoringMethod = "MATCH_POINTS";
-    file.Names = {"1 NS Ann & Bob", "12 EW Cy & Di",  "3 NS Eve & Fay", "4 EW Gus & Hal",
+    file.boardScoringMethod = "MATCH_POINTS";
+    file.names = {"1 NS Ann & Bob", "12 EW Cy & Di",  "3 NS Eve & Fay", "4 EW Gus & Hal",
                   "5 NS Ida & Jo",  "6 EW Kim & Lee", "7 NS Mia & Ned", "8 EW Oz & Pat"};
-    file.Lin = {
+    file.lin = {
         Record("Bob,Di,Ann,Cy", "mb|1S|mb|p|mb|p|mb|p|pc|H2|pc|D2|pc|C2|pc|S2|pc|S3|pc|H3|pc|D3|",
                "qent|13||qens|260||qenc|1S||qend|N|"),
         Record("Fay,Hal,Eve,Gus", "mb|p|mb|7H|mb|p|mb|p|mb|p|pc|D2|pc|C2|pc|S2|pc|D4|",
@@ -170,8 +170,8 @@ TEST_F(TravellerWindowTest, StepsThroughARecord) {
   EXPECT_EQ(Place(), QStringLiteral("Card 0 of 7"));
   Key(Qt::Key_Right, Qt::AltModifier);
   EXPECT_EQ(Place(), QStringLiteral("Card 1 of 7"));
-  EXPECT_EQ(Now().TrickCards[Seat::East], (Card{Suit::Hearts, Rank::Two}));
-  EXPECT_EQ(Now().OnPlay, Seat::South);
+  EXPECT_EQ(Now().trickCards[Seat::East], (Card{Suit::Hearts, Rank::Two}));
+  EXPECT_EQ(Now().onPlay, Seat::South);
   Key(Qt::Key_Right, Qt::AltModifier | Qt::ShiftModifier);
   EXPECT_EQ(Place(), QStringLiteral("Card 4 of 7"));
   EXPECT_EQ(Find<QLabel>("lblTricks_0")->text(), QStringLiteral("NS: 1"));
@@ -193,8 +193,8 @@ TEST_F(TravellerWindowTest, StepsThroughARecord) {
   ExpectNothingLeftOfTheRecord("putting it away");
   EXPECT_EQ(Calls(), QStringLiteral(u"Pass 2\u2665 Pass Pass Pass"));
   EXPECT_EQ(Label("lblContract"), QStringLiteral("2H by East"));
-  EXPECT_EQ(session.board.Calls, before.Calls);
-  EXPECT_EQ(session.board.HandChanged, before.HandChanged);
+  EXPECT_EQ(session.board.calls, before.calls);
+  EXPECT_EQ(session.board.handChanged, before.handChanged);
   EXPECT_FALSE(Find<QTimer>("timQuit")->isActive());
 }
 
@@ -232,7 +232,7 @@ TEST_F(TravellerWindowTest, WhateverReplacesTheBoardEndsTheRecord) {
   ExpectNothingLeftOfTheRecord("another auction");
   look();
   Click("cmdPlay");
-  EXPECT_TRUE(session.board.PlayMode);
+  EXPECT_TRUE(session.board.playMode);
   EXPECT_EQ(window->findChild<Results*>()->Record(), nullptr);
   ClickRow(0);
   EXPECT_EQ(window->findChild<Results*>()->Record(), nullptr) << "the board is being played";
