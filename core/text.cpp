@@ -2,10 +2,13 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <limits>
+#include <memory>
+#include <new>
+#include <utf8proc.h>
 
 namespace tricklet {
 namespace {
@@ -81,6 +84,23 @@ std::string ToUpper(std::string_view text) {
 bool EqualNoCase(std::string_view a, std::string_view b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                     [](char x, char y) { return ToUpper(x) == ToUpper(y); });
+}
+
+std::string FoldCase(std::string_view text) {
+  constexpr auto kFolded =
+      static_cast<utf8proc_option_t>(UTF8PROC_STABLE | UTF8PROC_DECOMPOSE | UTF8PROC_CASEFOLD);
+  const std::string valid = MendUtf8(std::string(text));
+  utf8proc_uint8_t* folded = nullptr;
+  const utf8proc_ssize_t length =
+      utf8proc_map(reinterpret_cast<const utf8proc_uint8_t*>(valid.data()),
+                   static_cast<utf8proc_ssize_t>(valid.size()), &folded, kFolded);
+  const std::unique_ptr<utf8proc_uint8_t, decltype(&std::free)> owner(folded, &std::free);
+  if (length < 0) throw std::bad_alloc();  // valid UTF-8 has no other way to fail
+  return {folded, folded + length};
+}
+
+bool EqualFolded(std::string_view a, std::string_view b) {
+  return FoldCase(a) == FoldCase(b);
 }
 
 int LeadingNumber(std::string_view text) {

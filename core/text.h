@@ -1,10 +1,14 @@
 // Text helpers of the readers and writers. All text inside the program is UTF-8.
 #pragma once
 
+#include <charconv>
 #include <cstddef>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
+#include <type_traits>
 
 namespace tricklet {
 
@@ -21,9 +25,33 @@ char ToUpper(char c);
 /// Equal but for the case of ASCII letters.
 bool EqualNoCase(std::string_view a, std::string_view b);
 
+/// `text` in the one form that all its spellings share, whatever their letter case and however
+/// their accented letters are composed (Unicode standard, section 3.13, canonical caseless
+/// matching). To be compared, not to be shown. Bytes that are no UTF-8 are taken as Latin-1.
+std::string FoldCase(std::string_view text);
+/// Equal but for letter case and composition.
+bool EqualFolded(std::string_view a, std::string_view b);
+
 /// The number that `text` begins with (blanks, a sign, digits); 0 when it begins with none. Numbers
 /// beyond 16 bits come back as -32768 or 32767.
 int LeadingNumber(std::string_view text);
+
+/// The number that `text` is from its first character to its last, without blanks or a "+", in base
+/// 10 or another of 2..36. Nothing for anything else, and for a number that the type cannot hold.
+/// Floating point is always in base 10, may have an exponent, and may be "inf" or "nan".
+template <class Number = int>
+std::optional<Number> WholeNumber(std::string_view text, [[maybe_unused]] int base = 10) {
+  Number number{};
+  const char* const end = text.data() + text.size();
+  std::from_chars_result read{};
+  if constexpr (std::is_floating_point_v<Number>) {
+    read = std::from_chars(text.data(), end, number);
+  } else {
+    read = std::from_chars(text.data(), end, number, base);
+  }
+  if (read.ec != std::errc() || read.ptr != end) return std::nullopt;
+  return number;
+}
 
 /// A number that is not negative in at least so many digits: 7 as "007".
 std::string ZeroPadded(int number, std::size_t digits);
@@ -35,6 +63,9 @@ std::string ShortestText(float number);
 /// Takes the line at the front of `rest`, without its end (CR LF, CR or LF). `rest` must not be
 /// empty.
 std::string_view TakeLine(std::string_view& rest);
+
+/// The byte-order mark with which some programs begin a file in UTF-8.
+inline constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
 bool IsValidUtf8(std::string_view bytes);
 /// Makes text valid UTF-8: every byte that belongs to no well-formed sequence is taken as Latin-1.

@@ -13,11 +13,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Names in the order of the list: letter case does not count, and is the last resort.
+/// Names in the order of the list: letter case counts only between names that are otherwise equal.
 bool NameBefore(const std::string& a, const std::string& b) {
-  const std::string upperA = ToUpper(a);
-  const std::string upperB = ToUpper(b);
-  return upperA != upperB ? upperA < upperB : a < b;
+  const std::string foldedA = FoldCase(a);
+  const std::string foldedB = FoldCase(b);
+  return foldedA != foldedB ? foldedA < foldedB : a < b;
 }
 
 int PositionOf(const std::vector<std::string>& names, std::string_view name) {
@@ -75,7 +75,7 @@ std::string_view TrimmedName(std::string_view name) {
 
 bool IsListed(const std::vector<std::string>& names, std::string_view name) {
   return std::any_of(names.begin(), names.end(),
-                     [name](const std::string& taken) { return EqualNoCase(taken, name); });
+                     [name](const std::string& taken) { return EqualFolded(taken, name); });
 }
 
 }  // namespace

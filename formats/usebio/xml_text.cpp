@@ -10,7 +10,6 @@
 namespace tricklet {
 namespace {
 
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 constexpr std::string_view kLittleMark = "\xFF\xFE";
 constexpr std::string_view kBigMark = "\xFE\xFF";
 

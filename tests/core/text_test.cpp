@@ -1,5 +1,6 @@
 #include "core/text.h"
 
+#include <cstdint>
 #include <limits>
 
 #include <gtest/gtest.h>
@@ -13,6 +14,26 @@ TEST(Text, SingleNumbersAreShortAndHaveNoExponent) {
   EXPECT_EQ(ShortestText(12.25F), "12.25");
   EXPECT_EQ(ShortestText(1e-5F), "0.00001");
   EXPECT_EQ(ShortestText(std::numeric_limits<float>::max()).size(), 39U);
+}
+
+TEST(Text, WholeNumbersAreNumbersToTheirEnd) {
+  EXPECT_EQ(WholeNumber("-12"), -12);
+  EXPECT_EQ(WholeNumber("ff", 16), 255);
+  EXPECT_EQ(WholeNumber<double>("1e3"), 1000);
+  EXPECT_EQ(WholeNumber<std::int16_t>("32767"), 32767);
+  EXPECT_FALSE(WholeNumber<std::int16_t>("32768"));
+  for (const char* none : {"", " 1", "1 ", "+1", "1.0", "-", "2x"}) {
+    EXPECT_FALSE(WholeNumber(none)) << none;
+  }
+}
+
+TEST(Text, FoldedTextsAreEqualInEveryCaseAndComposition) {
+  for (const char* other :
+       {"\u00dcNAL \u0394\u0416", "U\u0308nal \u0394\u0436", "\xDCnal \u03b4\u0416"}) {
+    EXPECT_TRUE(EqualFolded("\u00fcnal \u03b4\u0436", other)) << other;
+  }
+  EXPECT_FALSE(EqualFolded("\u00fcnal", "unal"));
+  EXPECT_EQ(FoldCase(""), "");
 }
 
 }  // namespace

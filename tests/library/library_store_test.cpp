@@ -182,6 +182,7 @@ TEST_F(LibraryStore, CreatesAndRenames) {
   EXPECT_TRUE(fs::exists(session.BoardPath(1)));
   EXPECT_FALSE(fs::exists(folder.Path() / "Club"));
   EXPECT_EQ(session.libraryNames.at(static_cast<std::size_t>(session.libIndex)), "Caf\u00e9 pairs");
+  EXPECT_FALSE(IsNewLibraryName(session, "CAFE\u0301 pairs")) << "nor does another composition";
 }
 
 TEST_F(LibraryStore, PastesAFileByteForByte) {
