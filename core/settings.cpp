@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <stdexcept>
 
 #include "core/text.h"
 
@@ -60,15 +61,6 @@ constexpr std::array kTable{
 };
 #undef TRICKLET_FIELD
 
-std::optional<double> NumberFromText(std::string_view text) {
-  double value = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (error != std::errc() || end != text.data() + text.size() || !std::isfinite(value)) {
-    return std::nullopt;
-  }
-  return value;
-}
-
 /// Overloads that read one type of field; each leaves the field alone when it returns false.
 struct Reader {
   const SettingEntry& entry;
@@ -79,11 +71,15 @@ struct Reader {
       *field = EqualNoCase(text, "True");
       return true;
     }
-    return false;
+    const auto number = WholeNumber<std::int64_t>(text);
+    if (number) *field = *number != 0;
+    return number.has_value();
   }
   bool operator()(double* field) const {
-    const auto value = NumberFromText(text);
-    if (!value || *value < entry.lowest || *value > entry.highest) return false;
+    const auto value = WholeNumber<double>(text);
+    if (!value || !std::isfinite(*value) || *value < entry.lowest || *value > entry.highest) {
+      return false;
+    }
     *field = *value;
     return true;
   }
@@ -93,20 +89,27 @@ struct Reader {
     *field = static_cast<int>(value);
     return true;
   }
+  template <class Choice>
+  requires std::is_enum_v<Choice>
+  bool operator()(Choice* field) const {
+    int number = 0;
+    if (!(*this)(&number)) return false;
+    *field = static_cast<Choice>(number);
+    return true;
+  }
   bool operator()(std::string* field) const {
     *field = text;
     return true;
   }
   /// "&H" and hexadecimal digits, or the number as a signed decimal.
   bool operator()(ColourNumber* field) const {
+    constexpr int kHexadecimal = 16;
+    constexpr int kDecimal = 10;
     const bool hex = text.size() > 2 && EqualNoCase(text.substr(0, 2), "&H");
     const std::string_view digits = hex ? text.substr(2) : text;
-    std::int64_t value = 0;
-    const auto [end, error] =
-        std::from_chars(digits.data(), digits.data() + digits.size(), value, hex ? 16 : 10);
-    if (error != std::errc() || end != digits.data() + digits.size()) return false;
-    if (value < INT32_MIN || value > UINT32_MAX) return false;
-    field->value = static_cast<std::uint32_t>(value);
+    const auto value = WholeNumber<std::int64_t>(digits, hex ? kHexadecimal : kDecimal);
+    if (!value || *value < INT32_MIN || *value > UINT32_MAX) return false;
+    field->value = static_cast<std::uint32_t>(*value);
     return true;
   }
 };
@@ -120,6 +123,10 @@ std::string NumberText(double value) {
 struct Writer {
   std::string operator()(const bool* field) const { return *field ? "True" : "False"; }
   std::string operator()(const int* field) const { return std::to_string(*field); }
+  template <class Choice>
+  requires std::is_enum_v<Choice> std::string operator()(const Choice* field) const {
+    return std::to_string(static_cast<int>(*field));
+  }
   std::string operator()(const double* field) const { return NumberText(*field); }
   std::string operator()(const std::string* field) const { return *field; }
   std::string operator()(const ColourNumber* field) const {
@@ -197,6 +204,13 @@ const SettingEntry* FindSetting(std::string_view name) {
   return nullptr;
 }
 
+const SettingEntry& EntryOf(Settings& settings, SettingField field) {
+  for (const SettingEntry& entry : kTable) {
+    if (entry.field(settings) == field) return entry;
+  }
+  throw std::logic_error("a member of the settings that stands in no row of the table");
+}
+
 std::string SettingText(const Settings& settings, const SettingEntry& entry) {
   Settings copy = settings;  // fields are reached through a mutable reference only
   return std::visit(Writer{}, entry.field(copy));
@@ -223,10 +237,6 @@ void SaveSettings(const Settings& settings, SettingsStore& store) {
 
 void SaveSetting(const Settings& settings, const SettingEntry& entry, SettingsStore& store) {
   store.Write(entry.section, entry.key, SettingText(settings, entry));
-}
-
-void SaveSetting(const Settings& settings, std::string_view key, SettingsStore& store) {
-  if (const SettingEntry* entry = FindSetting(key)) SaveSetting(settings, *entry, store);
 }
 
 }  // namespace tricklet

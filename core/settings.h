@@ -23,6 +23,13 @@ struct ColourNumber {
 /// The system's window-text colour.
 inline constexpr ColourNumber kWindowTextColour{0x80000008U};
 
+// Settings that are choices. The numbers are those in the store.
+
+enum class CardDesign : std::uint8_t { IndexAndSymbol = 1, PipsAndCourts = 2, LargeIndex = 3 };
+/// How cards reach a hand while it is edited.
+enum class EditMethod : std::uint8_t { Dragging = 1, Clicking = 2, Typing = 3 };
+enum class ColourScheme : std::uint8_t { System = 0, Light = 1, Dark = 2 };
+
 struct FontSetting {
   std::string name;
   double size = 0;  ///< points
@@ -39,9 +46,9 @@ struct Settings {
   std::string filelocation;  ///< library root, ending in the platform's separator; UTF-8
   std::string library;       ///< current library
   bool cardsFaces = false;   ///< hands as card faces; else as text
-  int cardDesign = 0;        ///< 1..3
-  bool suitColour = false;   ///< four suit colours; else red and black
-  double suitFontSize = 0;   ///< points
+  CardDesign cardDesign = CardDesign::IndexAndSymbol;
+  bool suitColour = false;  ///< four suit colours; else red and black
+  double suitFontSize = 0;  ///< points
   bool captionPlayer = false;
   bool captionnCards = false;
   bool captionHcp = false;
@@ -57,10 +64,10 @@ struct Settings {
   bool makeableContract = false;  ///< makeable pane shows contracts; else tricks
   bool pbnBids = false;           ///< PBN export writes the auction
   bool pbnShark = false;          ///< PBN export writes a result tag and a board comment
-  int editMethod = 0;
+  EditMethod editMethod = EditMethod::Dragging;
   int showMessage = 0;     ///< version up to which the notice of new features has been seen
   std::string solverHost;  ///< of the online double-dummy page; empty: not yet named
-  int colourScheme = 0;    ///< 0 as the system, 1 light, 2 dark
+  ColourScheme colourScheme = ColourScheme::System;
   std::array<FontSetting, 2> hgFont;  ///< 0: holdings as text; 1: captions and auction
 
   /// All defaults, from the table.
@@ -110,7 +117,8 @@ class OverlayStore : public SettingsStore {
 };
 
 /// The member of `Settings` that an entry of the table stands for.
-using SettingField = std::variant<bool*, int*, double*, std::string*, ColourNumber*>;
+using SettingField = std::variant<bool*, int*, double*, std::string*, ColourNumber*, CardDesign*,
+                                  EditMethod*, ColourScheme*>;
 
 /// One row of the table.
 struct SettingEntry {
@@ -118,7 +126,7 @@ struct SettingEntry {
   std::string_view key;
   std::string_view defaultText;
   SettingField (*field)(Settings&);
-  double lowest = 0;  ///< of numbers
+  double lowest = 0;  ///< of numbers and choices
   double highest = 0;
 };
 
@@ -129,13 +137,23 @@ std::span<const SettingEntry> SettingTable();
 /// keys exist twice and need their section.
 const SettingEntry* FindSetting(std::string_view name);
 
+/// The entry whose field of `settings` is `field`. Throws `std::logic_error` when there is none.
+const SettingEntry& EntryOf(Settings& settings, SettingField field);
+/// The entry of a member of `Settings`: `EntryOf(&Settings::autoLaunch)`.
+template <class Value>
+const SettingEntry& EntryOf(Value Settings::*member) {
+  Settings any;
+  return EntryOf(any, &(any.*member));
+}
+
 std::string SettingText(const Settings& settings, const SettingEntry& entry);
 
 /// The message when `SettingsStore::Sync` has failed.
 inline constexpr const char* kSettingsNotStored = "The settings could not be stored";
 
 /// Sets the field from `text`; false, and nothing changed, when `text` is no value of its type or
-/// outside its limits.
+/// outside its limits. A boolean is "True" or "False" in any letter case, or a whole number: 0 is
+/// False, any other True.
 bool SetFromText(Settings& settings, const SettingEntry& entry, std::string_view text);
 
 /// Reads every key; a missing or unreadable one takes its default.
@@ -147,7 +165,5 @@ void SaveSettings(const Settings& settings, SettingsStore& store);
 
 /// Writes the one key of `entry`.
 void SaveSetting(const Settings& settings, const SettingEntry& entry, SettingsStore& store);
-/// The same by key; `key` must be in the table.
-void SaveSetting(const Settings& settings, std::string_view key, SettingsStore& store);
 
 }  // namespace tricklet

@@ -29,7 +29,7 @@ int PositionOf(const std::vector<std::string>& names, std::string_view name) {
 void EnterLibrary(Session& session, int index) {
   session.libIndex = index;
   session.settings.library = session.libraryNames.at(static_cast<std::size_t>(index));
-  SaveSetting(session.settings, "library", session.store);
+  SaveSetting(session, &Settings::library);
   session.board.boardNumber = kFirstBoardNumber;
   FindFiles(session);
   LoadHand(session);
@@ -328,7 +328,7 @@ bool RenameLibrary(Session& session, std::string_view name) {
   }
   if (session.copyLibrary == session.LibraryName()) session.copyLibrary = trimmed;
   session.settings.library = trimmed;
-  SaveSetting(session.settings, "library", session.store);
+  SaveSetting(session, &Settings::library);
   RefreshLibraryNames(session);
   return true;
 }

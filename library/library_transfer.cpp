@@ -92,7 +92,7 @@ bool SwitchRoot(Session& session, const fs::path& folder) {
     return false;
   }
   session.settings.filelocation = FolderText(folder);
-  SaveSetting(session.settings, "filelocation", session.store);
+  SaveSetting(session, &Settings::filelocation);
   session.settings.library = library;
   session.copyLibrary.clear();  // the same name may be another library here
   GetLibraryNames(session);

@@ -62,6 +62,12 @@ struct Session {
   std::filesystem::path BoardPath(int boardNumber) const;
 };
 
+/// Stores one setting: `SaveSetting(session, &Settings::autoLaunch)`.
+template <class Value>
+void SaveSetting(Session& session, Value Settings::*member) {
+  SaveSetting(session.settings, EntryOf(member), session.store);
+}
+
 /// Restores `batchRunning` however the batch ends.
 class BatchScope {
  public:

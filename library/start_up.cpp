@@ -36,7 +36,7 @@ bool ChooseLibraryRoot(Session& session) {
       continue;
     }
     session.settings.filelocation = FolderText(*chosen);
-    SaveSetting(session.settings, "filelocation", session.store);
+    SaveSetting(session, &Settings::filelocation);
     if (!session.store.Sync()) session.host.Tell(kSettingsNotStored);
     return true;
   }
@@ -77,7 +77,7 @@ void ShowNotice(Session& session) {
       std::string(kProgramName), Buttons::YesNo);
   if (again == Answer::Yes) return;
   session.settings.showMessage = VersionNumber();
-  SaveSetting(session.settings, "ShowMessage", session.store);
+  SaveSetting(session, &Settings::showMessage);
 }
 
 std::string LibraryOfRoot(const fs::path& root, const std::string& stored) {

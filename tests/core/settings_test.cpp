@@ -17,7 +17,7 @@ TEST(Settings, DefaultsAndRoundTrip) {
   EXPECT_EQ(settings.hgFont[0].size, 24);
   EXPECT_EQ(settings.hgFont[1].forecolour, kWindowTextColour);
 
-  settings.cardDesign = 3;
+  settings.cardDesign = CardDesign::LargeIndex;
   settings.suitFontSize = 14.5;
   settings.pbnBids = false;
   settings.hgFont[0].name = "Caf\u00e9 Sans";
@@ -35,12 +35,30 @@ TEST(Settings, WhatCannotBeReadTakesItsDefault) {
     const char* text;
   } kCases[] = {{"Tricklet", "CardDesign", "9"},     {"Tricklet", "CardDesign", "1.5"},
                 {"Tricklet", "CardDesign", ""},      {"Tricklet", "CardsFaces", "yes"},
+                {"Tricklet", "CardDesign", "0"},     {"Tricklet", "CardsFaces", "1.5"},
+                {"Tricklet", "ColourScheme", "-1"},  {"Tricklet", "EditMethod", "4"},
+                {"Tricklet", "ShowMessage", "-1"},   {"HGFont1", "Size", "5.9"},
                 {"Tricklet", "SuitFontSize", "nan"}, {"Tricklet", "SuitFontSize", "1e99"},
                 {"HGFont0", "Forecolour", "&HXYZ"},  {"HGFont0", "Size", "14 points"}};
   for (const auto& c : kCases) {
     MemoryStore store;
     store.Write(c.section, c.key, c.text);
     EXPECT_EQ(LoadSettings(store), Settings()) << c.key << " " << c.text;
+  }
+}
+
+TEST(Settings, BooleansAreReadAsNumbersToo) {
+  const struct {
+    const char* text;
+    bool value;
+  } kCases[] = {{"0", false}, {"-1", true}, {"1", true}, {"false", false}, {"TRUE", true}};
+  for (const auto& c : kCases) {
+    MemoryStore store;
+    store.Write("Tricklet", "AutoLaunch", c.text);
+    store.Write("Tricklet", "AutoMakeable", c.text);
+    const Settings settings = LoadSettings(store);
+    EXPECT_EQ(settings.autoLaunch, c.value) << c.text;
+    EXPECT_EQ(settings.autoMakeable, c.value) << c.text;
   }
 }
 

@@ -108,18 +108,18 @@ void DrawClassic(QPainter& painter, Card card, const QColor& ink) {
 
 }  // namespace
 
-void DrawFace(QPainter& painter, Card card, int design, const QColor& ink) {
+void DrawFace(QPainter& painter, Card card, CardDesign design, const QColor& ink) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(ink);
   switch (design) {
-    case 2:
+    case CardDesign::PipsAndCourts:
       DrawClassic(painter, card, ink);
       break;
-    case 3:
+    case CardDesign::LargeIndex:
       DrawIndex(painter, card, kLargeIndex);
       painter.drawPath(SuitOutline(card.suit, {65, 100}, 66));
       break;
-    default:
+    case CardDesign::IndexAndSymbol:
       DrawIndex(painter, card, kPlainIndex);
       painter.drawPath(SuitOutline(card.suit, {63, 96}, 46));
       break;

@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "core/holding.h"
+#include "core/settings.h"
 
 namespace tricklet::ui {
 
@@ -12,8 +13,7 @@ namespace tricklet::ui {
 inline constexpr double kFaceWidth = 100;
 inline constexpr double kFaceHeight = 140;
 
-/// Draws what is printed on `card`, with the upper left corner at the origin. `design` as
-/// `Settings::cardDesign`: 2 pips and courts, 3 large index, anything else index and one symbol.
-void DrawFace(QPainter& painter, Card card, int design, const QColor& ink);
+/// Draws what is printed on `card`, with the upper left corner at the origin.
+void DrawFace(QPainter& painter, Card card, CardDesign design, const QColor& ink);
 
 }  // namespace tricklet::ui

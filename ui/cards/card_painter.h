@@ -9,6 +9,7 @@
 #include <QSizeF>
 
 #include "core/holding.h"
+#include "core/settings.h"
 
 namespace tricklet::ui {
 
@@ -21,7 +22,7 @@ inline const QColor kPaper(0xFF, 0xFE, 0xF9);
 struct CardLook {
   QSizeF size;            ///< in the widget's pixels
   double pixelRatio = 1;  ///< device pixels to one of the widget's
-  int design = 1;         ///< `Settings::cardDesign`
+  CardDesign design = CardDesign::IndexAndSymbol;
   bool fourColours = true;
   friend bool operator==(const CardLook&, const CardLook&) = default;
 };

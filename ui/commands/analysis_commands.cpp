@@ -19,7 +19,7 @@ bool HaveSolverHost(Session& session, QWidget* window) {
                             QLineEdit::Normal, QString(), &accepted);
   if (!accepted || host.trimmed().isEmpty()) return false;
   session.settings.solverHost = FromQt(host.trimmed());
-  SaveSetting(session.settings, "SolverHost", session.store);
+  SaveSetting(session, &Settings::solverHost);
   return true;
 }
 

@@ -200,17 +200,17 @@ void Commands::QuitTrick() {
   Attempt([this] { play_.QuitTrick(); });
 }
 
-void Commands::Toggle(bool Settings::*setting, std::string_view key) {
+void Commands::Toggle(bool Settings::*setting) {
   Run([&] {
     session_.settings.*setting = !(session_.settings.*setting);
-    SaveSetting(session_.settings, key, session_.store);
+    SaveSetting(session_, setting);
   });
 }
 
-void Commands::SetColourScheme(int scheme) {
+void Commands::SetColourScheme(ColourScheme scheme) {
   Run([&] {
     session_.settings.colourScheme = scheme;
-    SaveSetting(session_.settings, "ColourScheme", session_.store);
+    SaveSetting(session_, &Settings::colourScheme);
     ApplyColourScheme(*qApp, scheme);
   });
 }

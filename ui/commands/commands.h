@@ -91,7 +91,7 @@ class Commands : public QObject {
   void MoveCard(Card card, std::optional<Seat> to);
   /// False when the text was refused.
   bool TypeHand(Seat seat, const QString& text);
-  void SetEditMethod(int method);
+  void SetEditMethod(EditMethod method);
 
   /// `cmdDDS`: the double-dummy table of the board in hand, by `TableAsked`.
   void AnalyseBoard();
@@ -114,8 +114,8 @@ class Commands : public QObject {
   void QuitTrick();
 
   /// Turns a switch of the settings over and stores it.
-  void Toggle(bool Settings::*setting, std::string_view key);
-  void SetColourScheme(int scheme);
+  void Toggle(bool Settings::*setting);
+  void SetColourScheme(ColourScheme scheme);
   void Options();
 
   void Help();

@@ -51,10 +51,10 @@ bool Commands::TypeHand(Seat seat, const QString& text) {
   return taken;
 }
 
-void Commands::SetEditMethod(int method) {
+void Commands::SetEditMethod(EditMethod method) {
   Run([&] {
     session_.settings.editMethod = method;
-    SaveSetting(session_.settings, "EditMethod", session_.store);
+    SaveSetting(session_, &Settings::editMethod);
   });
 }
 

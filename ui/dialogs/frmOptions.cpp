@@ -78,7 +78,8 @@ QWidget* frmOptions::CardsPage() {
   QVBoxLayout* column = MakePage(page);
   AddCheck(column, "CardsFaces", tr("Show hands as card faces"), &Settings::cardsFaces);
   AddChoice(column, "CardDesign", tr("Card design"),
-            {tr("Design 1"), tr("Design 2"), tr("Design 3")}, &Settings::cardDesign, 1);
+            {tr("Design 1"), tr("Design 2"), tr("Design 3")}, &Settings::cardDesign,
+            CardDesign::IndexAndSymbol);
   AddCheck(column, "SuitColour", tr("Four suit colours"), &Settings::suitColour);
   suitFontSize_ = new QDoubleSpinBox(page);
   suitFontSize_->setObjectName(QStringLiteral("SuitFontSize"));
@@ -89,10 +90,11 @@ QWidget* frmOptions::CardsPage() {
   connect(suitFontSize_, &QDoubleSpinBox::valueChanged, this, &frmOptions::Preview);
   AddRow(column, tr("Size of suit symbols (points)"), suitFontSize_);
   AddChoice(column, "ColourScheme", tr("Colour scheme"),
-            {tr("As the system"), tr("Light"), tr("Dark")}, &Settings::colourScheme, 0);
+            {tr("As the system"), tr("Light"), tr("Dark")}, &Settings::colourScheme,
+            ColourScheme::System);
   AddChoice(column, "EditMethod", tr("Edit hands by"),
             {tr("Drag and drop"), tr("Click a seat"), tr("Type the holding")},
-            &Settings::editMethod, 1);
+            &Settings::editMethod, EditMethod::Dragging);
   column->addStretch(1);
   return page;
 }
@@ -160,23 +162,25 @@ void frmOptions::AddCheck(QVBoxLayout* page, const char* key, const QString& tex
   page->addWidget(box);
 }
 
-QComboBox* frmOptions::AddChoice(QVBoxLayout* page, const char* key, const QString& caption,
-                                 const QStringList& texts, int Settings::*setting, int first) {
+template <class Value>
+void frmOptions::AddChoice(QVBoxLayout* page, const char* key, const QString& caption,
+                           const QStringList& texts, Value Settings::*setting, Value first) {
   auto* combo = new QComboBox;
   combo->setObjectName(QString::fromLatin1(key));
   combo->setAccessibleName(caption);
   combo->addItems(texts);
   connect(combo, &QComboBox::currentIndexChanged, this, &frmOptions::Preview);
-  choices_.push_back({combo, setting, first});
+  choices_.push_back(
+      {combo, [=](const Settings& from) { return IndexOf(from.*setting) - IndexOf(first); },
+       [=](Settings& to, int entry) { to.*setting = static_cast<Value>(entry + IndexOf(first)); }});
   AddRow(page, caption, combo);
-  return combo;
 }
 
 void frmOptions::Fill(const Settings& settings) {
   filling_ = true;
   for (const Check& check : checks_) check.box->setChecked(settings.*check.setting);
   for (const Choice& choice : choices_) {
-    choice.combo->setCurrentIndex(settings.*choice.setting - choice.first);
+    choice.combo->setCurrentIndex(choice.get(settings));
   }
   suitFontSize_->setValue(settings.suitFontSize);
   for (std::size_t i = 0; i < fonts_.size(); ++i) fonts_.at(i)->SetValue(settings.hgFont.at(i));
@@ -188,7 +192,7 @@ Settings frmOptions::Chosen() const {
   Settings settings = before_;
   for (const Check& check : checks_) settings.*check.setting = check.box->isChecked();
   for (const Choice& choice : choices_) {
-    settings.*choice.setting = choice.combo->currentIndex() + choice.first;
+    choice.set(settings, choice.combo->currentIndex());
   }
   settings.suitFontSize = suitFontSize_->value();
   for (std::size_t i = 0; i < fonts_.size(); ++i) settings.hgFont.at(i) = fonts_.at(i)->Value();

@@ -1,6 +1,8 @@
 // The options dialog.
 #pragma once
 
+#include <array>
+#include <functional>
 #include <vector>
 
 #include <QDialog>
@@ -32,10 +34,11 @@ class frmOptions : public QDialog {
     QCheckBox* box;
     bool Settings::*setting;
   };
+  /// A choice of the settings; its entries are numbered as in the list.
   struct Choice {
     QComboBox* combo;
-    int Settings::*setting;
-    int first;  ///< value of the first entry
+    std::function<int(const Settings&)> get;
+    std::function<void(Settings&, int)> set;
   };
 
   QWidget* CardsPage();
@@ -44,8 +47,10 @@ class frmOptions : public QDialog {
   QWidget* StartPage();
   QWidget* ExportPage();
   void AddCheck(QVBoxLayout* page, const char* key, const QString& text, bool Settings::*setting);
-  QComboBox* AddChoice(QVBoxLayout* page, const char* key, const QString& caption,
-                       const QStringList& texts, int Settings::*setting, int first);
+  /// A list with an entry for each value of `setting`, the first of which is `first`.
+  template <class Value>
+  void AddChoice(QVBoxLayout* page, const char* key, const QString& caption,
+                 const QStringList& texts, Value Settings::*setting, Value first);
   void Fill(const Settings& settings);
   void Preview();
 

@@ -34,7 +34,7 @@ frmStart::frmStart(Session& session, QWidget* parent) : QDialog(parent) {
   chkAutoLaunch->setChecked(session.settings.autoLaunch);
   connect(chkAutoLaunch, &QCheckBox::clicked, this, [&session](bool checked) {
     session.settings.autoLaunch = checked;
-    SaveSetting(session.settings, "AutoLaunch", session.store);
+    SaveSetting(session, &Settings::autoLaunch);
   });
   auto* cmdLaunch = new QPushButton(tr("&Launch"), this);
   cmdLaunch->setObjectName(QStringLiteral("cmdLaunch"));

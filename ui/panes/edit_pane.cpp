@@ -37,12 +37,12 @@ QString HandLine(const PerSuit<Holding>& hand) {
 }
 
 /// Examples are on lines of their own, so that they are not broken.
-QString HintFor(EditBy method) {
+QString HintFor(EditMethod method) {
   const QString keys = EditPane::tr("By keys: suit, rank and seat, as in\nH A N");
   switch (method) {
-    case EditBy::Dragging:
+    case EditMethod::Dragging:
       return EditPane::tr("Drag cards between the hands and the pack.") + u' ' + keys;
-    case EditBy::Clicking:
+    case EditMethod::Clicking:
       return EditPane::tr("Click a card and then its hand, or a hand and then its cards.") + u' ' +
              keys;
     default:
@@ -74,7 +74,7 @@ void EditPane::BuildMethod() {
   cmbEditMethod_->setAccessibleName(tr("Edit hands by"));
   cmbEditMethod_->addItems({tr("Drag and drop"), tr("Click a seat"), tr("Type the holding")});
   connect(cmbEditMethod_, &QComboBox::activated, &commands_,
-          [this](int index) { commands_.SetEditMethod(index + 1); });
+          [this](int index) { commands_.SetEditMethod(static_cast<EditMethod>(index + 1)); });
   hint_->setWordWrap(true);
   MakeQuiet(hint_);
   Body()->addWidget(cmbEditMethod_);
@@ -155,9 +155,9 @@ void EditPane::Show(const Session& session, const EditControl& edit) {
 }
 
 void EditPane::ShowMethod(const Settings& settings) {
-  cmbEditMethod_->setCurrentIndex(settings.editMethod - 1);
-  hint_->setText(HintFor(EditMethodOf(settings)));
-  lines_->setVisible(EditMethodOf(settings) == EditBy::Typing);
+  cmbEditMethod_->setCurrentIndex(IndexOf(settings.editMethod) - 1);
+  hint_->setText(HintFor(settings.editMethod));
+  lines_->setVisible(settings.editMethod == EditMethod::Typing);
 }
 
 /// What is being typed stays, until the hand is another one.

@@ -95,13 +95,14 @@ bool IsDark(const QPalette& palette) {
          Luminance(palette.color(QPalette::WindowText));
 }
 
-void ApplyColourScheme(QApplication& application, int scheme) {
+void ApplyColourScheme(QApplication& application, ColourScheme scheme) {
   static const QString systemStyle = application.style()->name();
   static bool changed = false;
-  if (scheme == 1 || scheme == 2) {
+  if (scheme != ColourScheme::System) {
+    const bool dark = scheme == ColourScheme::Dark;
     QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication::setPalette(ToPalette(scheme == 2 ? kDark : kLight));
-    if (scheme == 2) BrightenIndicators(kDark);
+    QApplication::setPalette(ToPalette(dark ? kDark : kLight));
+    if (dark) BrightenIndicators(kDark);
     changed = true;
   } else if (changed) {
     QApplication::setStyle(systemStyle);

@@ -20,8 +20,8 @@ QColor SuitColourOnWindow(Suit suit, bool fourColours, const QPalette& palette);
 /// The window's background is dark.
 bool IsDark(const QPalette& palette);
 
-/// Applies `colourScheme` (0 as the system, 1 light, 2 dark) to the whole program.
-void ApplyColourScheme(QApplication& application, int scheme);
+/// Gives the whole program its colours.
+void ApplyColourScheme(QApplication& application, ColourScheme scheme);
 
 /// A stored font and its colour; the system's window-text colour is taken from `palette`.
 QFont ToFont(const FontSetting& setting);

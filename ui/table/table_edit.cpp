@@ -60,7 +60,7 @@ PerSuit<Holding> AllOf(std::optional<Suit> suit) {
 
 }  // namespace
 
-void TableEdit::Show(const HandTable& hands, EditBy method) {
+void TableEdit::Show(const HandTable& hands, EditMethod method) {
   if (hands != hands_) {
     grip_.reset();
     target_.reset();
@@ -82,8 +82,8 @@ void TableEdit::Forget() {
 
 std::optional<CardMove> TableEdit::Press(const EditLayout& layout, QPointF at) {
   keys_.Forget();
-  if (method_ == EditBy::Clicking) return Click(layout, at);
-  if (method_ == EditBy::Dragging) {
+  if (method_ == EditMethod::Clicking) return Click(layout, at);
+  if (method_ == EditMethod::Dragging) {
     chosen_.reset();
     receiver_.reset();
     if (const auto hit = EditedCardAt(layout, hands_, at)) grip_ = Grip{*hit, at, at};

@@ -14,12 +14,6 @@
 
 namespace tricklet::ui {
 
-/// The values of the setting `editMethod`.
-enum class EditBy : std::uint8_t { Dragging = 1, Clicking = 2, Typing = 3 };
-constexpr EditBy EditMethodOf(const Settings& settings) {
-  return static_cast<EditBy>(settings.editMethod);
-}
-
 struct CardMove {
   Card card;
   HandFrame to = HandFrame::Pack;
@@ -34,7 +28,7 @@ class TableEdit {
   };
 
   /// The hands as they are now. Where they are others than before, a card in mid-air is dropped.
-  void Show(const HandTable& hands, EditBy method);
+  void Show(const HandTable& hands, EditMethod method);
 
   // The left button. Dragging: a card is in the air from the first movement on. Clicking: a card
   // and then its hand, or a hand and then the cards that it gets.
@@ -75,7 +69,7 @@ class TableEdit {
   void Choose(HandFrame receiver);
 
   HandTable hands_;
-  EditBy method_ = EditBy::Dragging;
+  EditMethod method_ = EditMethod::Dragging;
   std::optional<Grip> grip_;
   std::optional<HandFrame> target_;
   std::optional<Card> chosen_;

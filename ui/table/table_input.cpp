@@ -99,12 +99,12 @@ bool TableView::EditKey(TableEdit& edit, const QKeyEvent& event) {
 
 void TableView::ShowEditCursor(const TableEdit& edit, QPointF mouse) {
   const bool card = EditedCardAt(LayOutEdit(size(), board_.hands), board_.hands, mouse).has_value();
-  const EditBy method = EditMethodOf(settings_);
+  const EditMethod method = settings_.editMethod;
   if (edit.Held()) {
     setCursor(Qt::ClosedHandCursor);
-  } else if (card && method == EditBy::Dragging) {
+  } else if (card && method == EditMethod::Dragging) {
     setCursor(Qt::OpenHandCursor);
-  } else if (method == EditBy::Clicking && (card || edit.Chosen())) {
+  } else if (method == EditMethod::Clicking && (card || edit.Chosen())) {
     setCursor(Qt::PointingHandCursor);
   } else {
     unsetCursor();

@@ -54,7 +54,7 @@ void TableView::ShowEdit(const Board& board, const Settings& settings) {
   if (!edit_) edit_.emplace();
   board_ = board;
   settings_ = settings;
-  edit_->Show(board.hands, EditMethodOf(settings));
+  edit_->Show(board.hands, settings.editMethod);
   Describe();
 }
 

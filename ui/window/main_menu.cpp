@@ -52,12 +52,10 @@ QAction* MainMenu::Add(QMenu* menu, const char* name, const QString& text,
 }
 
 QAction* MainMenu::AddToggle(QMenu* menu, const char* name, const QString& text,
-                             const QKeySequence& key, bool Settings::*setting,
-                             const char* settingKey) {
+                             const QKeySequence& key, bool Settings::*setting) {
   QAction* action = Add(menu, name, text, {key});
   action->setCheckable(true);
-  connect(action, &QAction::triggered, &commands_,
-          [this, setting, settingKey] { commands_.Toggle(setting, settingKey); });
+  connect(action, &QAction::triggered, &commands_, [this, setting] { commands_.Toggle(setting); });
   return action;
 }
 
@@ -171,13 +169,13 @@ void MainMenu::BuildAnalysis() {
 void MainMenu::BuildView() {
   QMenu* menu = AddMenu(tr("&View"));
   statistics_ = AddToggle(menu, "mnuStatistics", tr("&Statistics"), QKeySequence(tr("Ctrl+T")),
-                          &Settings::showStats, "ShowStats");
+                          &Settings::showStats);
   makeable_ = AddToggle(menu, "mnuMakeable", tr("&Makeable contracts"), QKeySequence(tr("Ctrl+M")),
-                        &Settings::showMakeable, "ShowMakeable");
+                        &Settings::showMakeable);
   bestCards_ = AddToggle(menu, "mnuBestCards", tr("&Best cards in play"),
-                         QKeySequence(tr("Ctrl+K")), &Settings::showBestCards, "ShowBestCards");
+                         QKeySequence(tr("Ctrl+K")), &Settings::showBestCards);
   cardFaces_ = AddToggle(menu, "mnuCardFaces", tr("Card &faces"), QKeySequence(tr("Ctrl+F")),
-                         &Settings::cardsFaces, "CardsFaces");
+                         &Settings::cardsFaces);
   menu->addSeparator();
   BuildColours(menu);
   menu->addSeparator();
@@ -196,13 +194,13 @@ void MainMenu::BuildColours(QMenu* view) {
       Add(menu, "mnuColoursSystem", tr("As the &system"), {QKeySequence(tr("Ctrl+Alt+1"))}),
       Add(menu, "mnuColoursLight", tr("&Light"), {QKeySequence(tr("Ctrl+Alt+2"))}),
       Add(menu, "mnuColoursDark", tr("&Dark"), {QKeySequence(tr("Ctrl+Alt+3"))})};
-  int scheme = 0;
+  int index = 0;
   for (QAction* action : schemes) {
     action->setCheckable(true);
     colours_->addAction(action);
+    const auto scheme = static_cast<ColourScheme>(index++);
     connect(action, &QAction::triggered, &commands_,
             [this, scheme] { commands_.SetColourScheme(scheme); });
-    ++scheme;
   }
 }
 
@@ -231,7 +229,7 @@ void MainMenu::Show(const Session& session, const PlayControl& play, const EditC
   makeable_->setChecked(session.settings.showMakeable);
   bestCards_->setChecked(session.settings.showBestCards);
   cardFaces_->setChecked(session.settings.cardsFaces);
-  colours_->actions().at(session.settings.colourScheme)->setChecked(true);
+  colours_->actions().at(IndexOf(session.settings.colourScheme))->setChecked(true);
 }
 
 void MainMenu::ShowPlay(const PlayControl& play) {

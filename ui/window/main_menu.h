@@ -46,7 +46,7 @@ class MainMenu : public QObject {
   QAction* Add(QMenu* menu, const char* name, const QString& text, const QList<QKeySequence>& keys,
                Command command);
   QAction* AddToggle(QMenu* menu, const char* name, const QString& text, const QKeySequence& key,
-                     bool Settings::*setting, const char* settingKey);
+                     bool Settings::*setting);
   void BuildFile();
   void BuildLibrary();
   void BuildBoard();

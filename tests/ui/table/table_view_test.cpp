@@ -17,7 +17,7 @@ namespace {
 
 class TableViewTest : public testing::Test {
  protected:
-  void TearDown() override { ApplyColourScheme(*qApp, 0); }
+  void TearDown() override { ApplyColourScheme(*qApp, ColourScheme::System); }
 
   static Board LongSuits() {
     Board board;
@@ -46,7 +46,8 @@ TEST_F(TableViewTest, PaintsEachDesignColouringAndDisplayItsOwnWay) {
   for (const bool fourColours : {false, true}) {
     Settings settings;
     settings.suitColour = fourColours;
-    for (int design = 1; design <= 3; ++design) {
+    for (const CardDesign design :
+         {CardDesign::IndexAndSymbol, CardDesign::PipsAndCourts, CardDesign::LargeIndex}) {
       settings.cardDesign = design;
       pictures.push_back(Picture(LongSuits(), settings, {560, 560}));
     }
@@ -60,15 +61,19 @@ TEST_F(TableViewTest, PaintsEachDesignColouringAndDisplayItsOwnWay) {
 }
 
 TEST_F(TableViewTest, ForgetsThePicturesOfCardsWhenSettingsOrSizeChange) {
-  const std::tuple<int, bool, QSize> kSteps[] = {
-      {1, true, {560, 560}}, {2, true, {560, 560}}, {2, false, {560, 560}}, {2, false, {760, 680}}};
+  constexpr auto kPlain = CardDesign::IndexAndSymbol;
+  constexpr auto kCourts = CardDesign::PipsAndCourts;
+  const std::tuple<CardDesign, bool, QSize> kSteps[] = {{kPlain, true, {560, 560}},
+                                                        {kCourts, true, {560, 560}},
+                                                        {kCourts, false, {560, 560}},
+                                                        {kCourts, false, {760, 680}}};
   TableView view;
   for (const auto& [design, fourColours, size] : kSteps) {
     Settings settings;
     settings.cardDesign = design;
     settings.suitColour = fourColours;
     EXPECT_EQ(Picture(view, LongSuits(), settings, size), Picture(LongSuits(), settings, size))
-        << "design " << design;
+        << "design " << IndexOf(design);
   }
 }
 
@@ -103,17 +108,17 @@ TEST_F(TableViewTest, TellsAScreenReaderWhatItShows) {
 
 TEST_F(TableViewTest, SwitchesColourSchemesAndBack) {
   const QColor before = QApplication::palette().color(QPalette::Window);
-  ApplyColourScheme(*qApp, 2);
+  ApplyColourScheme(*qApp, ColourScheme::Dark);
   EXPECT_TRUE(IsDark(QApplication::palette()));
-  ApplyColourScheme(*qApp, 1);
+  ApplyColourScheme(*qApp, ColourScheme::Light);
   EXPECT_FALSE(IsDark(QApplication::palette()));
-  ApplyColourScheme(*qApp, 0);
+  ApplyColourScheme(*qApp, ColourScheme::System);
   EXPECT_EQ(QApplication::palette().color(QPalette::Window), before);
 }
 
 TEST_F(TableViewTest, CanReadSuitsAndTextOnEveryBackground) {
   constexpr double kLeast = 3.0;  // WCAG 2.1, large text
-  for (const int scheme : {1, 2}) {
+  for (const ColourScheme scheme : {ColourScheme::Light, ColourScheme::Dark}) {
     ApplyColourScheme(*qApp, scheme);
     const QPalette palette = QApplication::palette();
     for (const auto role : {QPalette::Window, QPalette::Base, QPalette::AlternateBase}) {
@@ -122,7 +127,7 @@ TEST_F(TableViewTest, CanReadSuitsAndTextOnEveryBackground) {
       for (const Suit suit : kAllSuits) {
         for (const bool fourColours : {false, true}) {
           EXPECT_GE(Contrast(background, SuitColourOnWindow(suit, fourColours, palette)), kLeast)
-              << SuitName[suit] << " scheme " << scheme;
+              << SuitName[suit] << " scheme " << IndexOf(scheme);
           EXPECT_GE(Contrast(Qt::white, SuitColourOnCard(suit, fourColours)), kLeast);
         }
       }

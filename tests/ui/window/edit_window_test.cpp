@@ -26,7 +26,7 @@ constexpr Card kClubTen{Suit::Clubs, Rank::Ten};
 /// Board 1: North, the dealer, has the spades, East the hearts, South the diamonds, West the clubs.
 class EditWindowTest : public WindowTest {
  protected:
-  void OpenEditing(int method) {
+  void OpenEditing(EditMethod method) {
     session.settings.editMethod = method;
     Open();
     Click("cmdEdit");
@@ -102,7 +102,7 @@ class EditWindowTest : public WindowTest {
 TEST_F(EditWindowTest, EditingShowsThePackAndTakesTheRestAway) {
   session.board.makeableValid = true;
   test::SetAuction(session.board, "1S P P P");
-  OpenEditing(1);
+  OpenEditing(EditMethod::Dragging);
   for (const char* name :
        {"cmbLibs", "cmbBoard", "flexBids", "lblContract", "fraStats", "fraMakeable"}) {
     EXPECT_FALSE(Shown(name)) << name;
@@ -127,7 +127,7 @@ TEST_F(EditWindowTest, EditingShowsThePackAndTakesTheRestAway) {
 
 TEST_F(EditWindowTest, CardsAreDraggedBetweenHandsAndPack) {
   session.board.makeableValid = true;
-  OpenEditing(1);
+  OpenEditing(EditMethod::Dragging);
   Drag(kSpadeAce, PointOf(HandFrame::North));
   Drag(kSpadeAce, Layout().table.centre.center().toPoint());
   Drag(kSpadeAce, QPoint(-50, 40));
@@ -167,7 +167,7 @@ TEST_F(EditWindowTest, CardsAreDraggedBetweenHandsAndPack) {
 }
 
 TEST_F(EditWindowTest, CardsAreClickedToTheirHand) {
-  OpenEditing(2);
+  OpenEditing(EditMethod::Clicking);
   Click("cmdClear");
   ClickAt(PointOf(kSpadeAce));
   ClickAt(PointOf(HandFrame::West));
@@ -192,7 +192,7 @@ TEST_F(EditWindowTest, CardsAreClickedToTheirHand) {
 }
 
 TEST_F(EditWindowTest, KeysMoveCardsToo) {
-  OpenEditing(1);
+  OpenEditing(EditMethod::Dragging);
   Key(Qt::Key_Delete, Qt::ControlModifier | Qt::ShiftModifier);
   FocusKeys("SAN");
   FocusKeys("H10S");
@@ -213,7 +213,7 @@ TEST_F(EditWindowTest, KeysMoveCardsToo) {
 }
 
 TEST_F(EditWindowTest, HandsAreTypedAndRefusedWithTheReason) {
-  OpenEditing(3);
+  OpenEditing(EditMethod::Typing);
   EXPECT_EQ(Line(0), QStringLiteral("AKQJT98765432.-.-.-"));
   EXPECT_TRUE(Find<QLineEdit>("txtHand_0")->hasFocus());
   FocusKey(Qt::Key_Tab);
@@ -251,7 +251,7 @@ TEST_F(EditWindowTest, HandsAreTypedAndRefusedWithTheReason) {
 }
 
 TEST_F(EditWindowTest, ABoardIsClearedFilledSwappedAndSavedByClicks) {
-  OpenEditing(2);
+  OpenEditing(EditMethod::Clicking);
   Click("cmdClear");
   Click("cmdUndoClear");
   EXPECT_EQ(session.board.hands[Seat::North][Suit::Spades].Count(), 13);

@@ -215,7 +215,7 @@ TEST_F(MainWindowTest, OptionsTakeEffectOnlyWithOK) {
     Settings expected = before;
     if (taken) {
       expected.showStats = false;
-      expected.cardDesign = 3;
+      expected.cardDesign = CardDesign::LargeIndex;
     }
     EXPECT_EQ(session.settings, expected) << "fonts and all else come out as they went in";
   }
