@@ -33,8 +33,9 @@ void AppendWestAndEast(std::string& text, const Board& board) {
   }
 }
 
-std::string CallText(Call call) {
-  if (!call.IsBid() || call.Denomination() == BidStrain::NoTrump) return call.Text();
+std::string CallText(const CallList& calls, int index) {
+  const Call call = calls[index];
+  if (!call.IsBid() || call.Denomination() == BidStrain::NoTrump) return calls.ShownAt(index);
   const Strain strain = ToStrain(call.Denomination());
   return std::to_string(call.Level()) + std::string(SuitSymbol[static_cast<Suit>(strain)]);
 }
@@ -49,8 +50,8 @@ void AppendAuction(std::string& text, const Board& board) {
   AppendLine(text, line);
   int column = IndexOf(SeatAfter(board.Dealer()));
   line.assign(static_cast<std::size_t>(column) * kCallWidth, ' ');
-  for (const Call call : board.calls) {
-    line += PadRight(CallText(call), kCallWidth);
+  for (int i = 0; i < board.NumCalls(); ++i) {
+    line += PadRight(CallText(board.calls, i) + ' ', kCallWidth);  // an unread call may be long
     if (++column % kSeats == 0) {
       AppendLine(text, line);
       line.clear();

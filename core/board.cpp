@@ -64,7 +64,9 @@ void GetContract(Board& board) {
     }
     seat = SeatAfter(seat);
   }
-  if (board.NumCalls() == kSeats && board.calls[0].IsPass()) {
+  const bool allPasses =
+      std::all_of(board.calls.begin(), board.calls.end(), [](Call call) { return call.IsPass(); });
+  if (board.NumCalls() == kSeats && allPasses) {
     board.contract = kAllPass;
   } else if (lastBid.IsBid()) {
     board.contract = lastBid.Text() + (redoubled ? "xx" : doubled ? "x" : "");

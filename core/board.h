@@ -58,7 +58,7 @@ bool HasCards(const HandTable& hands);
 
 /// Derives `contract`, `declarer`, `trumps` and `contractLevel` from the calls and the dealer. The
 /// declarer is the first of the last bidder's side to have named the strain. The calls need not be
-/// a legal auction.
+/// a legal auction; an unread one takes its turn and means nothing.
 void GetContract(Board& board);
 
 /// Sets `contract`, `contractLevel` and `trumps` from a text: "4S", "3NTx", "5nXX", "1C**". False,

@@ -24,6 +24,7 @@ std::string Call::Text() const {
   if (IsPass()) return "Pass";
   if (IsDouble()) return "Dbl";
   if (IsRedouble()) return "Rdbl";
+  if (IsUnread()) return {};
   std::string text(1, static_cast<char>('0' + Level()));
   text += StrainLetter[ToStrain(Denomination())];
   return text;
@@ -40,14 +41,45 @@ std::optional<Call> Call::FromText(std::string_view text) {
   return BidFromText(upper);
 }
 
-void CallList::Add(Call call) {
+void CallList::Clear() {
+  count_ = 0;
+  unread_.clear();
+}
+
+void CallList::Add(Call call, std::string_view text) {
   if (Full()) throw Fault(FaultNumber::SubscriptOutOfRange, "The auction has more than 100 calls");
+  if (call.IsUnread()) unread_.emplace_back(text);
   calls_.at(static_cast<std::size_t>(count_)) = call;
   ++count_;
 }
 
+void CallList::AddFrom(const CallList& other, int first) {
+  for (int i = first; i < other.Count(); ++i) {
+    Add(other[i], other[i].IsUnread() ? other.TextAt(i) : std::string());
+  }
+}
+
+void CallList::RemoveLast() {
+  if (count_ == 0) return;
+  --count_;
+  if (calls_.at(static_cast<std::size_t>(count_)).IsUnread()) unread_.pop_back();
+}
+
+std::string CallList::TextAt(int index) const {
+  const Call call = (*this)[index];
+  if (!call.IsUnread()) return call.Text();
+  const auto before =
+      std::count_if(begin(), begin() + index, [](Call other) { return other.IsUnread(); });
+  return unread_.at(static_cast<std::size_t>(before));
+}
+
+std::string CallList::ShownAt(int index) const {
+  constexpr std::size_t kLongestShown = 16;
+  return Showable(TextAt(index), kLongestShown);
+}
+
 bool operator==(const CallList& a, const CallList& b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end());
+  return std::equal(a.begin(), a.end(), b.begin(), b.end()) && a.unread_ == b.unread_;
 }
 
 }  // namespace tricklet

@@ -41,7 +41,7 @@ bool MoveCalls(CallList& calls, int steps) {
   if (calls.Count() + added > CallList::kCapacity) return false;
   CallList moved;
   for (int pass = 0; pass < passes + added; ++pass) moved.Add(Call::Pass());
-  for (const auto* call = opening; call != calls.end(); ++call) moved.Add(*call);
+  moved.AddFrom(calls, passes);
   calls = moved;
   return true;
 }

@@ -1,7 +1,6 @@
 #include "library/board_file.h"
 
 #include <algorithm>
-#include <charconv>
 #include <optional>
 
 #include "core/statistics.h"
@@ -29,11 +28,7 @@ class LineReader {
   std::optional<int> NextNumber() {
     const auto line = Next();
     if (!line) return std::nullopt;
-    const std::string_view digits = Trim(*line);
-    std::int16_t value = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-    if (error != std::errc() || end != digits.data() + digits.size()) return std::nullopt;
-    return value;
+    return WholeNumber<std::int16_t>(Trim(*line));
   }
 
   /// Only blanks and empty lines are left.
@@ -76,9 +71,12 @@ bool ReadCalls(LineReader& lines, CallList& calls) {
   if (!count || *count < 0 || *count > CallList::kCapacity) return false;
   for (int i = 0; i < *count; ++i) {
     const auto line = lines.Next();
-    const auto call = line ? Call::FromText(*line) : std::nullopt;
-    if (!call) return false;
-    calls.Add(*call);
+    if (!line) return false;
+    if (const auto call = Call::FromText(*line)) {
+      calls.Add(*call);
+    } else {
+      calls.Add(Call::Unread(), Latin1ToUtf8(*line));
+    }
   }
   return true;
 }
@@ -130,8 +128,8 @@ std::string WriteBoardText(const Board& board) {
     }
   }
   AppendNumber(text, board.NumCalls());
-  for (const Call call : board.calls) {
-    text += call.Text();
+  for (int i = 0; i < board.NumCalls(); ++i) {
+    text += Utf8ToLatin1(board.calls.TextAt(i));
     text += kLineEnd;
   }
   AppendNumber(text, board.makeableValid ? 1 : 0);

@@ -30,9 +30,10 @@ enum class TableReading {
   OnlyWhenComplete,  ///< only for a deal in which all four seats hold 13 cards
 };
 
-/// Reads hands, calls and table from `text` into `board`, and derives the contract. Lines may end
-/// in CR LF, LF or CR. A card that stands in two hands stays in the last of them. False when the
-/// text is no board file; `board` then keeps what had been read up to there.
+/// Reads hands, calls and table from `text` into `board`, and derives the contract. A line that is
+/// no call takes the place of one, with its text. Lines may end in CR LF, LF or CR. A card that
+/// stands in two hands stays in the last of them. False when the text is no board file; `board`
+/// then keeps what had been read up to there.
 bool ReadBoardText(std::string_view text, Board& board, TableReading tables);
 
 }  // namespace tricklet

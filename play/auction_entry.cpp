@@ -30,13 +30,12 @@ AuctionEntry::AuctionEntry(Board& board, Host& host) : board_(board), host_(host
 }
 
 void AuctionEntry::Replay(const CallList& stored) {
-  int number = 0;
-  for (const Call call : stored) {
-    ++number;
-    if (Make(call)) continue;
-    if (AtLimit()) return;  // which has been told
-    host_.Tell("The auction of this board breaks the rules at call " + std::to_string(number) +
-               " (" + call.Text() + " by " + std::string(SeatName[ToCall()]) +
+  for (int i = 0; i < stored.Count(); ++i) {
+    const bool read = !stored[i].IsUnread();
+    if (read && Make(stored[i])) continue;
+    if (read && AtLimit()) return;  // which has been told
+    host_.Tell("The auction of this board breaks the rules at call " + std::to_string(i + 1) +
+               " (" + stored.ShownAt(i) + " by " + std::string(SeatName[ToCall()]) +
                ").\nOnly the calls before it are shown.");
     return;
   }

@@ -37,7 +37,8 @@ class AuctionEntry {
     friend bool operator==(const State&, const State&) = default;
   };
 
-  /// Opens on the board's stored calls, as far as they are legal; where they stop being so is told.
+  /// Opens on the board's stored calls, as far as they were read and are legal; where they stop
+  /// being so is told.
   AuctionEntry(Board& board, Host& host);
 
   // The buttons.

@@ -36,17 +36,18 @@ std::string DealText(const HandTable& hands) {
   return text;
 }
 
-std::string PbnCall(Call call) {
+std::string PbnCall(const CallList& calls, int index) {
+  const Call call = calls[index];
   if (call.IsDouble()) return "X";
   if (call.IsRedouble()) return "XX";
-  return call.Text();
+  return Utf8ToLatin1(calls.TextAt(index));
 }
 
 /// Four calls to a line.
 void AppendAuction(std::string& text, const Board& board) {
   AppendTag(text, "Auction", SeatName[board.Dealer()].substr(0, 1));
   for (int i = 0; i < board.NumCalls(); ++i) {
-    text += PbnCall(board.calls[i]);
+    text += PbnCall(board.calls, i);
     text += ' ';
     if (i % kSeats == kSeats - 1 || i == board.NumCalls() - 1) text += kLineEnd;
   }

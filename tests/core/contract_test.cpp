@@ -34,6 +34,7 @@ TEST(GetContract, DerivesContractDeclarerAndTrumps) {
       {1, "1NT Dbl Rdbl Dbl", "1NTx by North", Strain::NoTrump, 1},
       {3, "1C Dbl", "1Cx by South", Strain::Clubs, 1},
       {4, "7NT", "7NT by West", Strain::NoTrump, 7},
+      {1, "Pass 1C Pass 1H", "1H by West", Strain::Hearts, 1},
   };
   for (const auto& c : kCases) {
     const Board board = BoardWith(c.board, c.auction);
@@ -66,6 +67,28 @@ TEST(Call, TextRoundTripsAndShortFormsAreTaken) {
   for (const char* none : {"", "8C", "0C", "1", "1X", "1NX", "1CT", "Passs", "XxX", "1NTT"}) {
     EXPECT_FALSE(Call::FromText(none)) << none;
   }
+}
+
+TEST(CallList, KeepsWhatIsNoCallInItsPlace) {
+  Board board;
+  CallList& calls = board.calls;
+  calls.Add(Call::Bid(1, BidStrain::Hearts));
+  calls.Add(Call::Unread(), "1!");
+  calls.Add(Call::Bid(4, BidStrain::Hearts));
+  calls.Add(Call::Unread(), "\x01 no longer than this");
+  GetContract(board);
+  EXPECT_EQ(ContractLabel(board), "4H by North");
+  EXPECT_EQ(calls.TextAt(1) + calls.TextAt(2), "1!4H");
+  EXPECT_EQ(calls.ShownAt(3), "  no longer than...");
+
+  CallList others = calls;
+  others.RemoveLast();
+  others.Add(Call::Unread(), "?");
+  EXPECT_EQ(others.TextAt(3), "?");
+  EXPECT_FALSE(others == calls);
+  others.Clear();
+  others.AddFrom(calls, 1);
+  EXPECT_EQ(others.TextAt(0), "1!");
 }
 
 TEST(CallList, HoldsAHundred) {

@@ -115,7 +115,7 @@ TEST(BoardFile, ReadsOrRefuses) {
       {"negative call count", hands + "-1\r\n", false, 0, false},
       {"too many calls", hands + "101\r\n", false, 0, false},
       {"fewer calls than counted", hands + "3\r\nPass\r\n", false, 1, false},
-      {"no call", hands + "1\r\n8C\r\n", false, 0, false},
+      {"what is no call", hands + "2\r\n8C\r\n\r\n" + table, true, 2, true},
       {"table cut short", hands + "0\r\n" + table.substr(0, 20), false, 0, false},
       {"table flag no number", hands + "0\r\nyes\r\n", false, 0, false},
       {"count beyond 16 bits", hands + "99999999999\r\n", false, 0, false},
@@ -127,6 +127,15 @@ TEST(BoardFile, ReadsOrRefuses) {
     EXPECT_EQ(board.NumCalls(), c.calls) << c.what;
     EXPECT_EQ(board.makeableValid, c.table) << c.what;
   }
+}
+
+TEST(BoardFile, WhatIsNoCallIsWrittenBackAsItStood) {
+  const std::string text =
+      SixteenHoldings() + Lines({" 5", "1C", " 1! \xBD\t", "", "p!", "Pass", " 0"});
+  Board board;
+  ASSERT_TRUE(ReadBoardText(text, board, TableReading::Always));
+  EXPECT_EQ(WriteBoardText(board), text);
+  EXPECT_EQ(board.calls.TextAt(1), " 1! \u00bd\t");
 }
 
 TEST(BoardFile, AnyLineEndIsTaken) {

@@ -254,6 +254,15 @@ TEST(AuctionEntry, AStoredAuctionThatBreaksTheRulesOpensAsFarAsItIsLegal) {
   AuctionEntry entry(board, host);
   EXPECT_EQ(entry.Calls().Count(), 2);
   EXPECT_EQ(board.calls, stored) << "the board keeps its calls until they are confirmed";
+
+  board.calls.Clear();
+  board.calls.Add(Call::Pass());
+  board.calls.Add(Call::Unread(), "1!");
+  board.calls.Add(Call::Pass());
+  host.ExpectTell(
+      "The auction of this board breaks the rules at call 2 (1! by South).\n"
+      "Only the calls before it are shown.");
+  EXPECT_EQ(AuctionEntry(board, host).Calls().Count(), 1);
 }
 
 }  // namespace

@@ -45,12 +45,15 @@ QFont FontForCalls(const FontSetting& setting, const QFontMetrics& window) {
   return font;
 }
 
-QTableWidgetItem* MakeCall(Call call, const Settings& settings, const QPalette& palette) {
-  auto* item = new QTableWidgetItem(ToQt(call.Text()));
+QTableWidgetItem* MakeCall(const CallList& calls, int index, const Settings& settings,
+                           const QPalette& palette) {
+  const Call call = calls[index];
+  auto* item = new QTableWidgetItem(ToQt(calls.ShownAt(index)));
   item->setTextAlignment(Qt::AlignCenter);
+  if (call.IsUnread()) item->setToolTip(AuctionPane::tr("No call: %1").arg(item->text()));
   if (call.IsPass()) {
     item->setForeground(palette.brush(QPalette::PlaceholderText));
-  } else if (!call.IsBid()) {
+  } else if (call.IsDouble() || call.IsRedouble()) {
     item->setForeground(IsDark(palette) ? kDoubleOnDark : kDouble);
   } else {
     const QColor chosen = ToColour(settings.hgFont[1].forecolour, palette);
@@ -150,10 +153,10 @@ void AuctionPane::ShowCalls(const Session& session, const CallList& calls) {
   flexBids->setFont(font);
   const int rowHeight = QFontMetrics(font).height() + 4;
   flexBids->verticalHeader()->setDefaultSectionSize(rowHeight);
-  int place = offset;
-  for (const Call call : calls) {
-    flexBids->setItem(place / kSeats, place % kSeats, MakeCall(call, session.settings, palette()));
-    ++place;
+  for (int i = 0; i < calls.Count(); ++i) {
+    const int place = offset + i;
+    flexBids->setItem(place / kSeats, place % kSeats,
+                      MakeCall(calls, i, session.settings, palette()));
   }
   QFont headFont = this->font();
   headFont.setBold(true);

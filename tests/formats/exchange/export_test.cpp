@@ -81,6 +81,15 @@ TEST_F(ExportTest, FourCallsMakeOneLine) {
   EXPECT_NE(ReadFile(path).find("\"N\"]\r\nPass Pass Pass Pass \r\n\r\n\r\n"), std::string::npos);
 }
 
+TEST_F(ExportTest, WhatIsNoCallIsWrittenAsItStands) {
+  std::string text = test::OneSuitEachText();
+  text.replace(text.find(" 0"), 4, " 2\r\n1C\r\n1!\xBD\r\n");
+  WriteFile(session.BoardPath(1), text);
+  ExpectCreated();
+  EXPECT_TRUE(ExportFile(session, {1, 1, "pbn"}, path));
+  EXPECT_NE(ReadFile(path).find("\"N\"]\r\n1C 1!\xBD \r\n"), std::string::npos);
+}
+
 TEST_F(ExportTest, WhatIsWrittenComesBack) {
   PutBoardWith(1, {"1H", "Dbl", "Pass", "Pass", "Rdbl", "Pass", "Pass", "Pass"}, true);
   PutBoardWith(2, {}, true);
