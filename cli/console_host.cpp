@@ -10,14 +10,10 @@
 namespace tricklet::cli {
 namespace {
 
-/// What is answered for a person who cannot be asked.
-Answer Cautious(Buttons buttons) {
-  return buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
-}
-
 std::string_view Choices(Buttons buttons) {
   switch (buttons) {
     case Buttons::YesNo:
+    case Buttons::NoYes:
       return " [y/n] ";
     case Buttons::YesNoCancel:
       return " [y/n/c] ";
@@ -34,7 +30,7 @@ std::optional<Answer> FromLine(const std::string& line, Buttons buttons) {
   if (yesNo && (c == 'y' || c == 'Y')) return Answer::Yes;
   if (yesNo && (c == 'n' || c == 'N')) return Answer::No;
   if (!yesNo && (c == 'o' || c == 'O' || c == 'y' || c == 'Y')) return Answer::OK;
-  if (buttons != Buttons::YesNo && (c == 'c' || c == 'C')) return Answer::Cancel;
+  if (CautiousAnswer(buttons) == Answer::Cancel && (c == 'c' || c == 'C')) return Answer::Cancel;
   return std::nullopt;
 }
 
@@ -59,12 +55,12 @@ Answer ConsoleHost::Ask(const std::string& text, const std::string& /*title*/, B
   }
   if (!options_.terminal) {
     messages_ << " no (--yes or --no answers this)\n";
-    return Cautious(buttons);
+    return CautiousAnswer(buttons);
   }
   std::string line;
   for (;;) {
     messages_ << Choices(buttons) << std::flush;
-    if (!std::getline(in_, line)) return Cautious(buttons);
+    if (!std::getline(in_, line)) return CautiousAnswer(buttons);
     if (const auto answer = FromLine(line, buttons)) return *answer;
   }
 }

@@ -11,8 +11,20 @@ namespace tricklet {
 
 inline constexpr std::string_view kProgramName = "Tricklet";
 
-enum class Buttons { YesNo, YesNoCancel, OKCancel };
+/// The first button of a question is the one that Enter presses.
+enum class Buttons {
+  YesNo,
+  NoYes,  ///< where Yes would lose something
+  YesNoCancel,
+  OKCancel
+};
 enum class Answer { Yes, No, OK, Cancel };
+
+/// What is answered for a person who does not answer: No where there is no Cancel.
+constexpr Answer CautiousAnswer(Buttons buttons) {
+  const bool cancel = buttons == Buttons::YesNoCancel || buttons == Buttons::OKCancel;
+  return cancel ? Answer::Cancel : Answer::No;
+}
 
 /// What a file chooser offers.
 struct FileChoice {
@@ -32,7 +44,7 @@ class Host {
   virtual void Tell(const std::string& text, const std::string& title) = 0;
   void Tell(const std::string& text) { Tell(text, std::string(kProgramName)); }
 
-  /// One of the answers that `buttons` offers; No or Cancel when the person does not answer.
+  /// One of the answers that `buttons` offers; the cautious one when the person does not answer.
   virtual Answer Ask(const std::string& text, const std::string& title, Buttons buttons) = 0;
 
   virtual void Beep() = 0;

@@ -53,8 +53,7 @@ class ScriptedHost : public Host {
     if (!expected.title.empty()) {
       EXPECT_EQ(title, expected.title);
     }
-    const Answer cautious = buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
-    const Answer answer = expected.answer.value_or(cautious);
+    const Answer answer = expected.answer.value_or(CautiousAnswer(buttons));
     EXPECT_TRUE(expected.answer) << "a question where a message was expected: " << text;
     EXPECT_TRUE(Offers(buttons, answer)) << "no button for the scripted answer: " << text;
     return answer;
@@ -117,7 +116,7 @@ class ScriptedHost : public Host {
 
   static bool Offers(Buttons buttons, Answer answer) {
     if (answer == Answer::OK) return buttons == Buttons::OKCancel;
-    if (answer == Answer::Cancel) return buttons != Buttons::YesNo;
+    if (answer == Answer::Cancel) return CautiousAnswer(buttons) == Answer::Cancel;
     return buttons != Buttons::OKCancel;
   }
   Expected Next(const std::string& shown) {

@@ -110,7 +110,7 @@ class SilentHost : public QtHost {
   }
   Answer Ask(const std::string& text, const std::string& title, Buttons buttons) override {
     Tell(text, title);
-    return buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
+    return CautiousAnswer(buttons);
   }
   void Beep() override {}
   std::optional<std::filesystem::path> ChooseFolder(

@@ -60,6 +60,11 @@ Answer QtHost::Ask(const std::string& text, const std::string& title, Buttons bu
       box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
       box.setEscapeButton(QMessageBox::No);
       break;
+    case Buttons::NoYes:
+      box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+      box.setDefaultButton(QMessageBox::No);
+      box.setEscapeButton(QMessageBox::No);
+      break;
     case Buttons::YesNoCancel:
       box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
       box.setEscapeButton(QMessageBox::Cancel);
@@ -77,7 +82,7 @@ Answer QtHost::Ask(const std::string& text, const std::string& title, Buttons bu
     case QMessageBox::No:
       return Answer::No;
     default:
-      return buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
+      return CautiousAnswer(buttons);
   }
 }
 

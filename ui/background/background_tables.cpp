@@ -24,11 +24,11 @@ struct BackgroundTables::Job {
 BackgroundTables::BackgroundTables(Session& session, QObject* parent)
     : QObject(parent), session_(session) {}
 
-void BackgroundTables::Look() {
+void BackgroundTables::ComputeMissing() {
   if (!session_.batchRunning && WantsTable(session_, session_.board)) Post(false);
 }
 
-void BackgroundTables::Ask() {
+void BackgroundTables::ComputeAsked() {
   if (const std::string warning = DealWarning(session_.board.hands); !warning.empty()) {
     session_.host.Tell(warning);
   } else if (RequireSolver(session_)) {
@@ -52,25 +52,49 @@ void BackgroundTables::Post(bool asked) {
       [this, job] { Take(*job); });
 }
 
+bool BackgroundTables::IsCurrent(const Job& job) const {
+  const Board& board = session_.board;
+  return board.boardNumber == job.boardNumber && board.hands == job.hands &&
+         session_.BoardPath(board.boardNumber) == job.path;
+}
+
+void BackgroundTables::TellFailure(const Job& job) {
+  if (job.asked) {
+    session_.host.Tell(job.failure);
+  } else {
+    emit Said(tr("No double-dummy table of board %1: %2")
+                  .arg(job.boardNumber)
+                  .arg(QString::fromStdString(job.failure)));
+  }
+}
+
 void BackgroundTables::Take(const Job& job) {
-  if (session_.batchRunning) {
-    underWay_.erase(
-        job.Key());  // the run may be at the same file; the board will be looked at again
-    return;
-  }
+  if (job.failure.empty() || session_.batchRunning) underWay_.erase(job.Key());
+  // The file may be the run's that is going on. The board is looked at again after it.
+  if (session_.batchRunning) return;
   if (!job.failure.empty()) {
-    if (job.asked) session_.host.Tell(job.failure);
+    TellFailure(job);
+  } else if (job.asked) {
+    TakeAsked(job);
+  } else {
+    StoreTable(job.path, job.hands, job.table);
+    if (IsCurrent(job)) Show(job.table);
+  }
+}
+
+void BackgroundTables::TakeAsked(const Job& job) {
+  if (!IsCurrent(job)) {
+    emit Said(tr("The double-dummy table of board %1 was not kept: the board has been left")
+                  .arg(job.boardNumber));
     return;
   }
-  underWay_.erase(job.Key());
-  Board& board = session_.board;
-  const bool inHand = board.boardNumber == job.boardNumber && board.hands == job.hands &&
-                      session_.BoardPath(board.boardNumber) == job.path;
-  const bool stored = StoreTable(job.path, job.hands, job.table);
-  if (!inHand) return;
-  board.makeable = job.table;
-  board.makeableValid = true;
-  board.handChanged = board.handChanged || (job.asked && !stored);
+  session_.board.handChanged = true;
+  Show(job.table);
+}
+
+void BackgroundTables::Show(const MakeableTable& table) {
+  session_.board.makeable = table;
+  session_.board.makeableValid = true;
   emit Changed();
 }
 

@@ -13,29 +13,38 @@
 
 namespace tricklet::ui {
 
-/// Computes the table of the board in hand when it lacks one, and puts it into the file of the
-/// board that was asked about, whichever board is in hand by then.
+/// Computes the table of the current board when it lacks one, and puts it into the file of that
+/// board, whichever is the current one by then. A table that the person asks for becomes a change
+/// of the board instead, to be saved with it.
 class BackgroundTables : public QObject {
   Q_OBJECT
 
  public:
   explicit BackgroundTables(Session& session, QObject* parent = nullptr);
 
-  /// Looks at the board in hand; to be called whenever it may be another or have other hands.
-  void Look();
+  /// Begins to compute the current board's table where settings ask for one that it lacks; to be
+  /// called whenever the board may be another or have other hands.
+  void ComputeMissing();
 
-  /// `cmdDDS`: computes the table of the board in hand again, and says why when that cannot be.
-  void Ask();
+  /// `cmdDDS`: computes the current board's table, even if it has one, and says why when that
+  /// cannot be.
+  void ComputeAsked();
 
  signals:
-  /// The board in hand has its table.
+  /// The current board has its table.
   void Changed();
+  /// What became of a table that nothing else tells of.
+  void Said(const QString& text);
 
  private:
   struct Job;
 
   void Post(bool asked);
   void Take(const Job& job);
+  void TakeAsked(const Job& job);
+  void Show(const MakeableTable& table);
+  bool IsCurrent(const Job& job) const;
+  void TellFailure(const Job& job);
 
   Session& session_;
   Worker worker_;

@@ -6,35 +6,36 @@
 
 namespace tricklet::ui {
 
-BestCardsFinder::BestCardsFinder(Session& session, const CardPlay& play, QObject* parent)
-    : QObject(parent),
-      session_(session),
-      play_(play),
-      wanted_(std::make_shared<std::atomic<int>>(0)) {}
+BestCardsFinder::BestCardsFinder(Session& session, QObject* parent)
+    : QObject(parent), session_(session), wanted_(std::make_shared<std::atomic<int>>(0)) {}
 
 BestCardsFinder::~BestCardsFinder() = default;
 
-void BestCardsFinder::Look() {
-  const bool on = session_.settings.showBestCards && session_.getSolver && play_.PlayMode();
-  auto position = on ? PositionOf(play_.Now(), session_.board.trumps) : std::nullopt;
-  if (position == position_) return;
-  position_ = std::move(position);
+void BestCardsFinder::Find(const CardPlay& play, const Board& board) {
+  std::optional<Question> question;
+  if (session_.settings.showBestCards && session_.getSolver && play.PlayMode()) {
+    const PlayState& now = play.Now();
+    if (const auto position = PositionOf(now, board.trumps)) {
+      question = Question{*position, now.tricksWon[SideOf(*now.onPlay)]};
+    }
+  }
+  if (question == question_) return;
+  question_ = question;
   tricks_.clear();
   ++*wanted_;
-  const PlayState& now = play_.Now();
-  if (position_ && now.onPlay) Post(*position_, now.tricksWon[SideOf(*now.onPlay)]);
+  if (question_) Post(*question_);
 }
 
-void BestCardsFinder::Post(const SolverPosition& position, int tricksWon) {
+void BestCardsFinder::Post(const Question& question) {
   if (!worker_) worker_ = std::make_unique<Worker>();
   const auto found = std::make_shared<std::vector<CardScore>>();
-  const int question = *wanted_;
+  const int number = *wanted_;
   worker_->Post(
-      [found, question, tricksWon, wanted = wanted_, position, solver = session_.getSolver] {
-        if (*wanted == question) *found = BestCards(solver(), position, tricksWon);
+      [found, question, number, wanted = wanted_, solver = session_.getSolver] {
+        if (*wanted == number) *found = BestCards(solver(), question.position, question.tricksWon);
       },
-      [this, found, question] {
-        if (*wanted_ != question) return;
+      [this, found, number] {
+        if (*wanted_ != number) return;
         tricks_ = std::move(*found);
         emit Changed();
       });

@@ -15,17 +15,18 @@ namespace tricklet::ui {
 
 class Worker;
 
-/// Follows a play where the setting `showBestCards` asks for it. An answer that comes when the play
-/// has gone on is thrown away.
+/// For the board that is played and for play records alike, where the setting `showBestCards` asks
+/// for it. An answer that comes when the play has gone on is thrown away.
 class BestCardsFinder : public QObject {
   Q_OBJECT
 
  public:
-  BestCardsFinder(Session& session, const CardPlay& play, QObject* parent = nullptr);
+  explicit BestCardsFinder(Session& session, QObject* parent = nullptr);
   ~BestCardsFinder() override;
 
-  /// Looks at the position; to be called whenever it may be another one.
-  void Look();
+  /// Begins to find them for the position that `play` has reached in the contract of `board`; to be
+  /// called whenever that may be another one. Forgets the tricks where nothing is played.
+  void Find(const CardPlay& play, const Board& board);
 
   /// As `BestCards` tells them; empty while they are not known.
   const std::vector<CardScore>& Tricks() const { return tricks_; }
@@ -35,11 +36,17 @@ class BestCardsFinder : public QObject {
   void Changed();
 
  private:
-  void Post(const SolverPosition& position, int tricksWon);
+  /// What the solver is asked.
+  struct Question {
+    SolverPosition position;
+    int tricksWon = 0;  // so far, by the side on play
+    friend bool operator==(const Question&, const Question&) = default;
+  };
+
+  void Post(const Question& question);
 
   Session& session_;
-  const CardPlay& play_;
-  std::optional<SolverPosition> position_;
+  std::optional<Question> question_;
   std::vector<CardScore> tricks_;
   std::shared_ptr<std::atomic<int>> wanted_;  // the number of the last question
   std::unique_ptr<Worker> worker_;            // from the first question on

@@ -30,7 +30,7 @@ void Commands::AnalyseBoard() {
 }
 
 void Commands::AnalyseLibrary() {
-  Run([this] {
+  LeaveUnsaved([this] {
     if (RequireSolver(session_)) tricklet::AnalyseLibrary(session_, session_.getSolver());
   });
 }

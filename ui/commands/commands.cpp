@@ -45,16 +45,30 @@ void Commands::Run(const std::function<void()>& procedure) {
   if (Attempt(procedure)) emit Done();
 }
 
+/// For what may bring another board, or this one afresh from its file.
+void Commands::Leave(const std::function<void()>& procedure) {
+  Run([&] {
+    if (play_.Leave()) procedure();
+  });
+}
+
+/// For what reads the board afresh only when its changes are given up.
+void Commands::LeaveUnsaved(const std::function<void()>& procedure) {
+  Run([&] {
+    if (!session_.board.handChanged || play_.Leave()) procedure();
+  });
+}
+
 void Commands::Import() {
-  Run([this] { tricklet::Import(session_); });
+  Leave([this] { tricklet::Import(session_); });
 }
 
 void Commands::ImportLin() {
-  Run([this] { tricklet::ImportLin(session_); });
+  Leave([this] { tricklet::ImportLin(session_); });
 }
 
 void Commands::ImportLinText(const QString& text) {
-  Run([&] { tricklet::ImportLinText(session_, FromQt(text)); });
+  Leave([&] { tricklet::ImportLinText(session_, FromQt(text)); });
 }
 
 void Commands::PasteLin() {
@@ -63,14 +77,14 @@ void Commands::PasteLin() {
 
 void Commands::ImportFiles(const std::vector<std::filesystem::path>& files) {
   for (const std::filesystem::path& file : files) {
-    bool goOn = true;
-    Run([&] { goOn = !ImportAnyFile(session_, file).cancelled; });
+    bool goOn = false;
+    Leave([&] { goOn = !ImportAnyFile(session_, file).cancelled; });
     if (!goOn) return;
   }
 }
 
 void Commands::Export() {
-  Run([this] {
+  LeaveUnsaved([this] {
     if (!SettleChanges(session_) || !HasHandsToExport(session_)) return;
     frmExport dialog(session_, window_);
     if (dialog.exec() == QDialog::Accepted) {
@@ -88,11 +102,20 @@ void Commands::Exit() {
 }
 
 void Commands::SelectLibrary(int index) {
-  Run([&] { tricklet::SelectLibrary(session_, index); });
+  Leave([&] { tricklet::SelectLibrary(session_, index); });
+}
+
+void Commands::NewLibrary() {
+  bool begun = false;
+  Leave([&] {
+    if (play_.Unfinished()) play_.Stop();
+    begun = true;
+  });
+  if (begun) emit NewLibraryAsked();
 }
 
 void Commands::CreateLibrary(const QString& name) {
-  Run([&] { tricklet::CreateLibrary(session_, FromQt(name)); });
+  Leave([&] { tricklet::CreateLibrary(session_, FromQt(name)); });
 }
 
 void Commands::RenameLibrary() {
@@ -108,7 +131,7 @@ void Commands::RenameLibrary() {
 }
 
 void Commands::RefreshLibraries() {
-  Run([this] {
+  Leave([this] {
     if (CheckSaveChanges(session_) == Answer::Cancel) return;
     const std::string library = session_.LibraryName();
     const int boardNumber = session_.board.boardNumber;
@@ -118,11 +141,11 @@ void Commands::RefreshLibraries() {
 }
 
 void Commands::SelectBoard(int boardNumber) {
-  Run([&] { tricklet::SelectBoard(session_, boardNumber); });
+  Leave([&] { tricklet::SelectBoard(session_, boardNumber); });
 }
 
 void Commands::StepBoard(bool backward) {
-  Run([&] { tricklet::StepBoard(session_, backward); });
+  Leave([&] { tricklet::StepBoard(session_, backward); });
 }
 
 void Commands::FirstBoard() {
@@ -133,7 +156,7 @@ void Commands::LastBoard() {
 }
 
 void Commands::GoToBoard() {
-  Run([this] {
+  Leave([this] {
     QInputDialog dialog(window_);
     dialog.setObjectName(QStringLiteral("dlgGoTo"));
     dialog.setWindowTitle(tr("Go to board"));
@@ -146,7 +169,7 @@ void Commands::GoToBoard() {
 }
 
 void Commands::SetMaxBoard(int boardNumber) {
-  Run([&] { tricklet::SetMaxBoard(session_, boardNumber); });
+  Leave([&] { tricklet::SetMaxBoard(session_, boardNumber); });
 }
 
 void Commands::CopyHand() {
@@ -154,7 +177,7 @@ void Commands::CopyHand() {
 }
 
 void Commands::PasteHand() {
-  Run([this] { tricklet::PasteHand(session_); });
+  Leave([this] { tricklet::PasteHand(session_); });
 }
 
 void Commands::Bidding() {
@@ -175,7 +198,7 @@ void Commands::EnterAuction() {
 void Commands::PlayOrStop() {
   Run([this] {
     if (session_.board.playMode) {
-      play_.Stop();
+      if (play_.Leave()) play_.Stop();
       return;
     }
     edit_.Stop();

@@ -57,6 +57,8 @@ class Commands : public QObject {
   void Exit();
 
   void SelectLibrary(int index);
+  /// Leaves the play, in which no library can be named, for `NewLibraryAsked`.
+  void NewLibrary();
   void CreateLibrary(const QString& name);
   void RenameLibrary();
   void RefreshLibraries();
@@ -124,6 +126,8 @@ class Commands : public QObject {
 
  signals:
   void TableAsked();
+  /// The person wants to name a new library.
+  void NewLibraryAsked();
   /// Work that begins from now on copies whole libraries; or no longer does.
   void Waiting(bool waiting);
   void Done();
@@ -141,10 +145,14 @@ class Commands : public QObject {
   void SwapOpened(frmSwap* dialog);
 
  private:
+  using Runner = void (Commands::*)(const std::function<void()>& procedure);
+
   bool Attempt(const std::function<void()>& procedure);
   void Run(const std::function<void()>& procedure);
-  void RunCopy(const std::function<QString()>& copy);
-  void RunCopy(bool (*copy)(Session&), const QString& said);
+  void Leave(const std::function<void()>& procedure);
+  void LeaveUnsaved(const std::function<void()>& procedure);
+  void Copy(Runner run, const std::function<QString()>& copy);
+  void Copy(Runner run, bool (*copy)(Session&), const QString& said);
   void EnterAuction();
   void OpenDocument(const QString& fileName);
 

@@ -6,7 +6,7 @@
 namespace tricklet::ui {
 
 void Commands::Generate() {
-  Run([this] {
+  Leave([this] {
     frmGenerate dialog(session_, generateChoices_, window_);
     if (dialog.exec() != QDialog::Accepted) return;
     generateChoices_ = dialog.Chosen();

@@ -7,37 +7,37 @@
 
 namespace tricklet::ui {
 
-/// Runs what copies whole folders, and says what it gives.
-void Commands::RunCopy(const std::function<QString()>& copy) {
+/// Runs what copies whole folders, by `run`, and says what it gives.
+void Commands::Copy(Runner run, const std::function<QString()>& copy) {
   QString said;
   emit Waiting(true);
-  Run([&] { said = copy(); });
+  (this->*run)([&] { said = copy(); });
   emit Waiting(false);
   if (!said.isEmpty()) emit Said(said);
 }
 
-void Commands::RunCopy(bool (*copy)(Session&), const QString& said) {
-  RunCopy([&] { return copy(session_) ? said : QString(); });
+void Commands::Copy(Runner run, bool (*copy)(Session&), const QString& said) {
+  Copy(run, [&] { return copy(session_) ? said : QString(); });
 }
 
 void Commands::ExportLibrary() {
-  RunCopy(&tricklet::ExportLibrary, tr("The library has been exported"));
+  Copy(&Commands::LeaveUnsaved, &tricklet::ExportLibrary, tr("The library has been exported"));
 }
 void Commands::ExportLibraries() {
-  RunCopy(&tricklet::ExportLibraries, tr("The libraries have been exported"));
+  Copy(&Commands::LeaveUnsaved, &tricklet::ExportLibraries, tr("The libraries have been exported"));
 }
 void Commands::ImportLibrary() {
-  RunCopy(&tricklet::ImportLibrary, tr("The library has been imported"));
+  Copy(&Commands::Leave, &tricklet::ImportLibrary, tr("The library has been imported"));
 }
 void Commands::ImportLibraries() {
-  RunCopy(&tricklet::ImportLibraries, tr("The libraries have been imported"));
+  Copy(&Commands::Run, &tricklet::ImportLibraries, tr("The libraries have been imported"));
 }
 void Commands::MoveLibraries() {
-  RunCopy(&tricklet::MoveLibraries, tr("The libraries are in another folder now"));
+  Copy(&Commands::Leave, &tricklet::MoveLibraries, tr("The libraries are in another folder now"));
 }
 
 void Commands::CopyLibrary() {
-  RunCopy([this] {
+  Copy(&Commands::LeaveUnsaved, [this] {
     frmCopyLib dialog(session_, window_);
     const bool copied =
         dialog.exec() == QDialog::Accepted && tricklet::CopyLibrary(session_, dialog.Name());

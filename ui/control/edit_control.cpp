@@ -14,7 +14,7 @@ bool EditControl::Start() {
   return editing_;
 }
 
-void EditControl::Follow() {
+void EditControl::DropStaleEdits() {
   if (boardsLoaded_ != session_.boardsLoaded) {
     boardsLoaded_ = session_.boardsLoaded;
     history_ = {};

@@ -23,9 +23,9 @@ class EditControl {
   /// play on.
   bool Start();
   void Stop() { editing_ = false; }
-  /// To be called when the board in hand may be another one: the editing of a board that has been
-  /// loaded or played since is over, and nothing of a board that has been loaded can be undone.
-  void Follow();
+  /// Ends the editing of a board that has been loaded or played since, and forgets what could be
+  /// undone of one that has been loaded; to be called whenever that may have happened.
+  void DropStaleEdits();
 
   bool CanUndoClear() const;
   // While editing.

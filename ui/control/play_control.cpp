@@ -42,6 +42,17 @@ void PlayControl::Stop() {
   emit Changed();
 }
 
+bool PlayControl::Leave() {
+  if (!UnderWay()) return true;
+  const QString question = tr("Do you wish to stop the play of board %1?");
+  if (session_.host.Ask(question.arg(session_.board.boardNumber).toStdString(),
+                        std::string(kProgramName), Buttons::NoYes) != Answer::Yes) {
+    return false;
+  }
+  Stop();
+  return true;
+}
+
 bool PlayControl::EndForEditing() {
   const bool ended = play_.EndForEditing();
   emit Changed();
@@ -76,7 +87,7 @@ void PlayControl::QuitTrick() {
   emit Changed();
 }
 
-void PlayControl::Follow() {
+void PlayControl::StopClockOfEndedPlay() {
   if (!play_.PlayMode()) timer_.Stop();
 }
 

@@ -39,7 +39,9 @@ class PlayControl : public QObject {
   /// All four hands are complete: there is something to play.
   bool CanStart() const;
   /// Cards are still to be played: nothing else is done with the board meanwhile.
-  bool UnderWay() const { return play_.PlayMode() && !play_.Finished(); }
+  bool Unfinished() const { return play_.PlayMode() && !play_.Finished(); }
+  /// Some of them have been played: they would be lost with the board.
+  bool UnderWay() const { return Unfinished() && play_.UndoTop() > 0; }
   /// A finished trick lies on the table, to be gathered.
   bool TrickComplete() const;
 
@@ -48,6 +50,9 @@ class PlayControl : public QObject {
   bool Start();
   /// Leaves the play; the board is as before it.
   void Stop();
+  /// To be called before the board is left: stops a play that is under way, after a question. False
+  /// when the person wants to play on.
+  bool Leave();
   /// Leaves the play so that the cards can be edited. False when the person wants to play on.
   bool EndForEditing();
   void PlayCard(Card card);
@@ -57,9 +62,9 @@ class PlayControl : public QObject {
   void Claim();
   /// Gathers a finished trick without waiting for the clock.
   void QuitTrick();
-  /// To be called when the board in hand may be another one, or changed: the clock of a play that
-  /// has ended by that runs no longer.
-  void Follow();
+  /// Stops the clock of a play that has ended; to be called when the board may be another one, or
+  /// changed.
+  void StopClockOfEndedPlay();
 
  signals:
   void Changed();

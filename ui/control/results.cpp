@@ -4,7 +4,7 @@ namespace tricklet::ui {
 
 Results::Results(Session& session, QObject* parent) : QObject(parent), session_(session) {}
 
-void Results::Look() {
+void Results::ReadTraveller() {
   const LinFile& file = lin_.Of(session_);
   const int boardNumber = session_.board.boardNumber;
   if (edition_ > 0 && version_ == lin_.Version() && traveller_.boardNumber == boardNumber) return;
@@ -22,7 +22,7 @@ bool Results::IsStillTheBoard() const {
          board.hands == board_.hands && board.calls == board_.calls;
 }
 
-void Results::Follow(bool entering) {
+void Results::DropStaleRecord(bool entering) {
   if (replay_ && (entering || session_.board.playMode || !IsStillTheBoard())) {
     row_ = -1;
     replay_.reset();

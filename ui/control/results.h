@@ -34,11 +34,12 @@ class Results : public QObject {
   /// The record being looked at; nullptr when none is.
   const Replay* Record() const { return replay_.get(); }
 
-  /// To be called when the board or the library may be another one, or changed.
-  void Look();
-  /// Puts a record away that is not the board's any more, or that the play of the board has taken
-  /// the place of, or its auction or hands, one of which is being entered when `entering`.
-  void Follow(bool entering);
+  /// Reads the current board's traveller where it may be another than before: to be called whenever
+  /// the board, the library or its results may have changed.
+  void ReadTraveller();
+  /// Puts the record away when it is not the current board's any more, when the board is being
+  /// played, and when its auction or its hands are being entered, as `entering` says.
+  void DropStaleRecord(bool entering);
 
   /// Looks at the record of a row; not while the board is being played.
   void ShowRecord(int row);

@@ -50,9 +50,9 @@ void BoardPane::Show(const Board& board) {
 
 void BoardPane::ShowPlay(const PlayControl& play, const EditControl& edit) {
   const bool on = play.Play().PlayMode();
-  cmdBidding->setEnabled(!play.UnderWay() && !edit.Editing());
+  cmdBidding->setEnabled(!play.Unfinished() && !edit.Editing());
   cmdEdit->setText(edit.Editing() ? tr("Stop editing") : tr("Edit"));
-  cmdSwap->setEnabled(!play.UnderWay());
+  cmdSwap->setEnabled(!play.Unfinished());
   // Its table would not be seen while the hands are edited.
   cmdDDS->setEnabled(play.CanStart() && !edit.Editing());
   cmdPlay->setText(on ? tr("Stop play") : tr("Play"));

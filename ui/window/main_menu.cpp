@@ -79,9 +79,8 @@ void MainMenu::BuildLibrary() {
   QMenu* menu = AddMenu(tr("&Library"));
   Add(menu, "mnuRenameLibrary", tr("&Rename library..."), {QKeySequence(tr("F2"))},
       &Commands::RenameLibrary);
-  QAction* newLibrary = Add(menu, "mnuNewLibrary", tr("&New library..."), {QKeySequence::New});
-  connect(newLibrary, &QAction::triggered, this, &MainMenu::NewLibraryAsked);
-  leaveBoard_ << newLibrary;
+  leaveBoard_ << Add(menu, "mnuNewLibrary", tr("&New library..."), {QKeySequence::New},
+                     &Commands::NewLibrary);
   Add(menu, "mnuCopyLibrary", tr("&Copy library..."), {QKeySequence(tr("Shift+F2"))},
       &Commands::CopyLibrary);
   Add(menu, "mnuDeleteLibrary", tr("&Delete library..."), {QKeySequence(tr("Ctrl+F2"))},
@@ -217,7 +216,7 @@ void MainMenu::BuildOptionsAndHelp() {
 
 void MainMenu::Show(const Session& session, const PlayControl& play, const EditControl& edit) {
   for (QAction* action : actions_) action->setEnabled(enabled_);
-  const bool editable = enabled_ && !play.UnderWay();
+  const bool editable = enabled_ && !play.Unfinished();
   save_->setEnabled(enabled_ && session.board.handChanged);
   pasteHand_->setEnabled(editable && !session.copyLibrary.empty());
   bidding_->setEnabled(editable && !edit.Editing());
@@ -243,7 +242,7 @@ void MainMenu::ShowPlay(const PlayControl& play) {
 }
 
 void MainMenu::ShowEdit(const PlayControl& play, const EditControl& edit) {
-  const bool editable = enabled_ && !play.UnderWay();
+  const bool editable = enabled_ && !play.Unfinished();
   edit_->setText(edit.Editing() ? tr("Stop &editing") : tr("&Edit"));
   swap_->setEnabled(editable);
   randomFill_->setEnabled(editable && edit.CanFill());

@@ -33,7 +33,6 @@ class MainMenu : public QObject {
   void SetEnabled(bool enabled);
 
  signals:
-  void NewLibraryAsked();
   void TravellerAsked();
   void PresentationAsked();
   void PresentationPanesAsked(bool shown);

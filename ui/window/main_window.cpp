@@ -54,7 +54,7 @@ MainWindow::MainWindow(Session& session)
       play_(new PlayControl(session, this)),
       edit_(std::make_unique<EditControl>(session, *play_)),
       tables_(new BackgroundTables(session, this)),
-      best_(new BestCardsFinder(session, play_->Play(), this)),
+      best_(new BestCardsFinder(session, this)),
       results_(new Results(session, this)),
       commands_(new Commands(session, *play_, *edit_, this)),
       menu_(new MainMenu(*this, *commands_, *results_)),
@@ -113,14 +113,15 @@ void MainWindow::Connect() {
   connect(library_, &LibraryPane::BoardChosen, commands_, &Commands::SelectBoard);
   connect(library_, &LibraryPane::HighestChosen, commands_, &Commands::SetMaxBoard);
   connect(library_, &LibraryPane::StepAsked, commands_, &Commands::StepBoard);
-  connect(menu_, &MainMenu::NewLibraryAsked, library_, &LibraryPane::BeginNewLibrary);
+  connect(commands_, &Commands::NewLibraryAsked, library_, &LibraryPane::BeginNewLibrary);
   connect(menu_, &MainMenu::PresentationAsked, this, [this] { SetPresentation(!presentation_); });
   connect(menu_, &MainMenu::PresentationPanesAsked, this, [this](bool shown) {
     presentationPanes_ = shown;
     Display();
   });
-  connect(commands_, &Commands::TableAsked, tables_, &BackgroundTables::Ask);
+  connect(commands_, &Commands::TableAsked, tables_, &BackgroundTables::ComputeAsked);
   connect(tables_, &BackgroundTables::Changed, this, &MainWindow::Display);
+  connect(tables_, &BackgroundTables::Said, status_, &QLabel::setText);
   connect(progress_, &ProgressFrame::Begun, this, [this] { SetWorking(true); });
   connect(progress_, &ProgressFrame::Ended, this, [this] { SetWorking(false); });
 
@@ -173,21 +174,25 @@ void MainWindow::SetTabOrder() {
 }
 
 void MainWindow::Display() {
-  play_->Follow();
-  edit_->Follow();
-  results_->Look();
+  play_->StopClockOfEndedPlay();
+  edit_->DropStaleEdits();
+  results_->ReadTraveller();
   library_->Show(session_);
   editPane_->Show(session_, *edit_);
   board_->Show(session_.board);
   statistics_->Show(session_);
   makeable_->Show(session_);
   DisplayAuction();
-  if (!edit_->Editing()) tables_->Look();
+  if (!edit_->Editing()) tables_->ComputeMissing();
+  ShowTitle();
+  status_->setText(StatusText());
+}
+
+void MainWindow::ShowTitle() {
   const Board& board = session_.board;
   setWindowTitle(tr("%1 - Board %2[*] - Tricklet")
                      .arg(ToQt(session_.LibraryName()), QString::number(board.boardNumber)));
   setWindowModified(board.handChanged);
-  status_->setText(StatusText());
 }
 
 QString MainWindow::StatusText() const {
@@ -200,7 +205,7 @@ QString MainWindow::StatusText() const {
 }
 
 void MainWindow::DisplayAuction() {
-  results_->Follow(commands_->Auction() != nullptr || edit_->Editing());
+  results_->DropStaleRecord(commands_->Auction() != nullptr || edit_->Editing());
   const Replay* record = results_->Record();
   auction_->Show(session_, commands_->Auction(),
                  record != nullptr ? &record->Record().board : nullptr);
@@ -213,7 +218,7 @@ void MainWindow::DisplayPlay() {
   if (progress_->IsWorking()) return;
   menu_->Show(session_, *play_, *edit_);
   board_->ShowPlay(*play_, *edit_);
-  library_->OfferNext(play_->Play().Finished());
+  ShowLibrary();
   traveller_->Show(session_.settings);
   DisplayTable();
   HideAnswers();
@@ -242,9 +247,13 @@ void MainWindow::DisplayTable() {
     DisplayBidding(*entry);
     return;
   }
-  table_->Show(session_.board, session_.settings,
-               session_.board.playMode ? &play_->Play() : nullptr);
-  best_->Look();
+  ShowPlayOf(session_.board, play_->Play());
+}
+
+/// The hands of `board` as `play` has left them, and what each card leads to.
+void MainWindow::ShowPlayOf(const Board& board, const CardPlay& play) {
+  table_->Show(board, session_.settings, play.PlayMode() ? &play : nullptr);
+  best_->Find(play, board);
   table_->ShowBestCards(best_->Tricks());
 }
 
@@ -259,10 +268,8 @@ void MainWindow::DisplayBidding(const AuctionEntry& entry) {
 }
 
 void MainWindow::DisplayRecord(const Replay& record) {
-  const CardPlay& play = record.Play();
   contract_->ShowRecord(record, session_.settings);
-  table_->Show(record.Record().board, session_.settings, play.PlayMode() ? &play : nullptr);
-  table_->ShowBestCards({});
+  ShowPlayOf(record.Record().board, record.Play());
 }
 
 void MainWindow::BeginEditing() {
@@ -317,8 +324,15 @@ void MainWindow::ShowColumns() {
   table_->setEnabled(!working);
   left_->setVisible(!presentation_);
   right_->setVisible(panes && !working && !editing);
-  library_->setVisible(!editing);
   if (editing) statistics_->hide();
+}
+
+/// Another board is chosen neither while this one is edited nor while it is played, and after the
+/// play is what one comes to next.
+void MainWindow::ShowLibrary() {
+  KeepRoom(library_, play_->Unfinished());  // so that the buttons below stay where they are
+  library_->setVisible(!edit_->Editing() && !play_->Unfinished());
+  library_->OfferNext(play_->Play().Finished());
 }
 
 void MainWindow::SetPresentation(bool on) {
@@ -362,7 +376,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     return;
   }
-  if (!editPane_->FinishTyping() || CheckSaveChanges(session_) == Answer::Cancel) {
+  if (!editPane_->FinishTyping() || !play_->Leave() ||
+      CheckSaveChanges(session_) == Answer::Cancel) {
     event->ignore();
     return;
   }

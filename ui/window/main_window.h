@@ -13,6 +13,7 @@ class QLabel;
 
 namespace tricklet {
 class AuctionEntry;
+class CardPlay;
 class Replay;
 }  // namespace tricklet
 
@@ -74,11 +75,13 @@ class MainWindow : public QMainWindow {
   void ConnectEdit();
   void ConnectResults();
   QString StatusText() const;
+  void ShowTitle();
   void DisplayAuction();
   void DisplayPlay();
   void DisplayTable();
   void DisplayBidding(const AuctionEntry& entry);
   void DisplayRecord(const Replay& record);
+  void ShowPlayOf(const Board& board, const CardPlay& play);
   void BeginEditing();
   void PlaceBesideAuction(QWidget* dialog);
   void PlaceBesideHands(QWidget* dialog);
@@ -87,6 +90,7 @@ class MainWindow : public QMainWindow {
   void BuildStatusLine();
   void SetWorking(bool working);
   void ShowColumns();
+  void ShowLibrary();
   void HideAnswers();
 
   Session& session_;

@@ -9,6 +9,7 @@
 #include "library/board_store.h"
 #include "tests/support/fake_solver.h"
 #include "tests/support/library_fixture.h"
+#include "ui/style/text.h"
 
 namespace tricklet::ui {
 namespace {
@@ -60,8 +61,8 @@ TEST_F(BackgroundTablesTest, EveryBoardSteppedOverGetsItsOwnTable) {
   BackgroundTables tables(session);
   for (int number = 1; number <= kBoards; ++number) {
     Go(number);
-    tables.Look();
-    tables.Look();  // a second look asks nothing new
+    tables.ComputeMissing();
+    tables.ComputeMissing();  // a second look asks nothing new
     if (number % 7 == 0) QCoreApplication::processEvents();
   }
   EXPECT_TRUE(QTest::qWaitFor([this] { return OwnTables() == kBoards; }));
@@ -73,42 +74,63 @@ TEST_F(BackgroundTablesTest, EveryBoardSteppedOverGetsItsOwnTable) {
 TEST_F(BackgroundTablesTest, ABoardChangedMeanwhileKeepsNoForeignTable) {
   BackgroundTables tables(session);
   Go(3);
-  tables.Look();
+  tables.ComputeMissing();
   test::WriteFile(session.BoardPath(3), test::OneSuitEachText());
   AwaitSolved(1);
   Go(4);
-  tables.Look();
+  tables.ComputeMissing();
   Go(3);
   ASSERT_TRUE(AwaitOwnTable(4)) << "it is delivered after the table for board 3";
   EXPECT_FALSE(session.board.makeableValid);
   EXPECT_EQ(test::ReadFile(session.BoardPath(3)), test::OneSuitEachText());
 }
 
-TEST_F(BackgroundTablesTest, OnlyWhoAsksIsToldOfAFailure) {
+TEST_F(BackgroundTablesTest, ATableThatIsAskedForIsAChangeOfTheBoard) {
   BackgroundTables tables(session);
+  QString said;
+  QObject::connect(&tables, &BackgroundTables::Said, [&](const QString& text) { said = text; });
+  Go(1);
+  const std::string before = test::ReadFile(session.BoardPath(1));
+  tables.ComputeAsked();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return session.board.makeableValid; }));
+  EXPECT_TRUE(session.board.handChanged);
+  EXPECT_EQ(test::ReadFile(session.BoardPath(1)), before);
+  host.ExpectAskWith("Overwrite existing board 1", Answer::Yes);
+  ASSERT_TRUE(SaveHand(session));
+  EXPECT_TRUE(HasOwnTable(1));
+
+  Go(2);
+  tables.ComputeAsked();
+  Go(3);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !said.isEmpty(); }));
+  EXPECT_TRUE(said.contains(QStringLiteral("board 2"))) << FromQt(said);
+  EXPECT_FALSE(session.board.makeableValid || session.board.handChanged || HasOwnTable(2));
+}
+
+TEST_F(BackgroundTablesTest, AFailureIsAMessageToWhoAsksAndALineToOthers) {
+  BackgroundTables tables(session);
+  QStringList said;
+  QObject::connect(&tables, &BackgroundTables::Said, [&](const QString& text) { said += text; });
   solver.failure = "Too many tables";
   Go(1);
-  tables.Look();
-  AwaitSolved(1);
-  host.ExpectTell("Too many tables");  // once: a second message would not be expected
-  tables.Ask();
-  AwaitSolved(2);
+  tables.ComputeMissing();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !said.isEmpty(); }));
+  EXPECT_EQ(said, QStringList(QStringLiteral("No double-dummy table of board 1: Too many tables")));
+  host.ExpectTell("Too many tables");
+  tables.ComputeAsked();
   ASSERT_TRUE(QTest::qWaitFor([this] { return host.Done(); }));
   EXPECT_FALSE(session.board.makeableValid);
-  tables.Look();  // it is not tried again
+  tables.ComputeMissing();  // it is not tried again
   solver.failure.clear();
-  // The newest deal comes first: what was asked before board 2 is solved before board 3 at the
-  // latest.
-  for (const int number : {2, 3}) {
-    Go(number);
-    tables.Look();
-    ASSERT_TRUE(AwaitOwnTable(number));
-  }
-  EXPECT_EQ(solver.dealsSolved, 4U);
+  Go(2);
+  tables.ComputeMissing();
+  ASSERT_TRUE(AwaitOwnTable(2));
+  EXPECT_EQ(solver.dealsSolved, 3U);
+  EXPECT_EQ(said.size(), 1);
 
   session.board.hands[Seat::North] = {};
   host.ExpectTell("Warning - hand North - ... has 0 cards.");
-  tables.Ask();
+  tables.ComputeAsked();
 }
 
 }  // namespace

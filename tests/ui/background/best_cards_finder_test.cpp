@@ -46,13 +46,13 @@ class BestCardsFinderTest : public test::LibraryTest {
     session.settings.showBestCards = true;
   }
   bool Find() {
-    finder.Look();
+    finder.Find(play.Play(), session.board);
     return QTest::qWaitFor([this] { return !finder.Tricks().empty(); });
   }
 
   CountingSolver solver;
   PlayControl play{session};
-  BestCardsFinder finder{session, play.Play()};
+  BestCardsFinder finder{session};
 };
 
 TEST_F(BestCardsFinderTest, TellsThePositionInHandAndForgetsTheOneBefore) {
@@ -65,7 +65,7 @@ TEST_F(BestCardsFinderTest, TellsThePositionInHandAndForgetsTheOneBefore) {
       play.PlayCard(Card::FromIndex(index));
       break;
     }
-    finder.Look();
+    finder.Find(play.Play(), session.board);
     EXPECT_TRUE(finder.Tricks().empty()) << "an answer to the question before";
   }
   ASSERT_TRUE(Find());
@@ -77,7 +77,7 @@ TEST_F(BestCardsFinderTest, TellsThePositionInHandAndForgetsTheOneBefore) {
   EXPECT_TRUE(Find());
   EXPECT_EQ(solver.asked, asked);
   play.Stop();
-  finder.Look();
+  finder.Find(play.Play(), session.board);
   EXPECT_TRUE(finder.Tricks().empty());
 }
 
@@ -85,7 +85,7 @@ TEST_F(BestCardsFinderTest, TellsNothingUnlessWanted) {
   ASSERT_TRUE(play.Start());
   ASSERT_TRUE(Find());
   session.settings.showBestCards = false;
-  finder.Look();
+  finder.Find(play.Play(), session.board);
   EXPECT_TRUE(finder.Tricks().empty());
   session.settings.showBestCards = true;
   EXPECT_TRUE(Find());

@@ -34,6 +34,8 @@ TEST_F(DialogsTest, EscapeIsTheCautiousAnswerAndTextsAreNoMarkup) {
       {Buttons::YesNoCancel, Qt::Key_Escape, Answer::Cancel},
       {Buttons::OKCancel, Qt::Key_Escape, Answer::Cancel},
       {Buttons::YesNo, Qt::Key_Return, Answer::Yes},
+      {Buttons::NoYes, Qt::Key_Escape, Answer::No},
+      {Buttons::NoYes, Qt::Key_Return, Answer::No},
       {Buttons::YesNoCancel, Qt::Key_Return, Answer::Yes},
       {Buttons::OKCancel, Qt::Key_Return, Answer::OK},
   };

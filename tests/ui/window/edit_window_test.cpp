@@ -85,7 +85,7 @@ class EditWindowTest : public WindowTest {
 
   void ExpectNothingLeftOfEditing(const char* after) const {
     EXPECT_FALSE(Shown("fraEdit")) << after;
-    EXPECT_TRUE(Shown("cmbBoard")) << after;
+    EXPECT_EQ(Shown("cmbBoard"), !session.board.playMode) << after;
     EXPECT_EQ(Find<QPushButton>("cmdEdit")->text(), QStringLiteral("Edit")) << after;
     for (const char* name : {"mnuNext", "mnuGoTo", "mnuNewLibrary"}) {
       EXPECT_TRUE(Offered(name)) << name << " after " << after;

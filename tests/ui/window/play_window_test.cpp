@@ -81,6 +81,7 @@ class PlayWindowTest : public WindowTest {
     EXPECT_TRUE(Offered("mnuBidding")) << after;
     EXPECT_EQ(Find<QPushButton>("cmdPlay")->text(), QStringLiteral("Play")) << after;
     EXPECT_EQ(Shown("fraStats"), HasCards(session.board.hands)) << after;
+    EXPECT_TRUE(Shown("fraLibrary")) << after;
     const auto* next = Find<QToolButton>("lblNext");
     EXPECT_EQ(next->palette().color(QPalette::Button), window->palette().color(QPalette::Button));
     QPoint trick = Table()->rect().center();
@@ -290,6 +291,9 @@ TEST_F(PlayWindowTest, AWholeBoardIsPlayedByClicks) {
   EXPECT_EQ(Text("lblScore"), QStringLiteral("1S+6 by North : NS +260"));
   EXPECT_FALSE(Find<QPushButton>("cmdClaim")->isEnabled());
   EXPECT_TRUE(Find<QPushButton>("cmdBidding")->isEnabled());
+  Type("cmbLibs", "Autumn");  // the library is there again
+  FocusKey(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_TRUE(Shown("lblScore")) << "that was for the text alone";
   EXPECT_EQ(Find<QToolButton>("lblNext")->palette().color(QPalette::Button),
             window->palette().color(QPalette::Highlight));
 
@@ -319,14 +323,48 @@ TEST_F(PlayWindowTest, KeysPlayUndoAcrossATrickAndClaim) {
   EXPECT_FALSE(Offered("mnuUndoCard"));
 }
 
-TEST_F(PlayWindowTest, UndoInATextBoxTakesBackNoCard) {
+TEST_F(PlayWindowTest, NothingLeavesAPlayUnderWayUnasked) {
+  constexpr auto kCtrl = Qt::ControlModifier;
+  constexpr auto kShift = Qt::ShiftModifier;
+  const std::pair<Qt::Key, Qt::KeyboardModifiers> keys[] = {{Qt::Key_P, kCtrl},
+                                                            {Qt::Key_PageDown, {}},
+                                                            {Qt::Key_PageUp, {}},
+                                                            {Qt::Key_Home, kCtrl},
+                                                            {Qt::Key_End, kCtrl},
+                                                            {Qt::Key_G, kCtrl},
+                                                            {Qt::Key_N, kCtrl},
+                                                            {Qt::Key_O, kCtrl},
+                                                            {Qt::Key_I, kCtrl | kShift},
+                                                            {Qt::Key_V, kCtrl | kShift},
+                                                            {Qt::Key_G, kCtrl | kShift},
+                                                            {Qt::Key_F5, {}},
+                                                            {Qt::Key_F7, {}},
+                                                            {Qt::Key_F6, kShift}};
   Open();
+  const QRect button = Find<QWidget>("cmdPlay")->geometry();
   StartPlay();
-  ClickCards(2);
-  Type("cmbLibs", "Autumn");
-  FocusKey(Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_NE(Find<QComboBox>("cmbLibs")->currentText(), QStringLiteral("Autumn"));
-  EXPECT_EQ(Now().cardsInTrick, 2);
+  EXPECT_FALSE(Shown("fraLibrary"));
+  EXPECT_EQ(Find<QWidget>("cmdPlay")->geometry(), button) << "it stays under the mouse";
+  ClickCards(5);
+  session.board.handChanged = false;
+  const auto expectAsked = [&](const std::string& question, const std::string& way) {
+    host.ExpectAsk(question, "Tricklet", Answer::No);
+    return "by " + way;
+  };
+  const std::string question = "Do you wish to stop the play of board 1?";
+  for (const auto& [key, modifiers] : keys) {
+    const auto way = expectAsked(question, FromQt(QKeySequence(key | modifiers).toString()));
+    Key(key, modifiers);
+    ASSERT_TRUE(host.Done() && session.board.playMode) << way;
+  }
+  expectAsked(question, "a drop");
+  window->ImportFiles({"deals.pbn", "more.pbn"});
+  expectAsked(question, "closing");
+  EXPECT_FALSE(window->close());
+  expectAsked("Confirm that you wish to edit this hand", "editing");
+  Click("cmdEdit");
+  EXPECT_EQ(Now().tricksPlayed, 1);
+  EXPECT_EQ(Now().cardsInTrick, 1);
 }
 
 TEST_F(PlayWindowTest, NothingIsLeftOfAPlayThatEnds) {
@@ -337,32 +375,31 @@ TEST_F(PlayWindowTest, NothingIsLeftOfAPlayThatEnds) {
   Open();
   const struct {
     const char* name;
+    int cards;
+    bool claimed;  // nothing is asked about what is finished or has not begun
     std::function<void()> leave;
   } ways[] = {
-      {"stop", [this] { Click("cmdPlay"); }},
-      {"the key", [this] { Key(Qt::Key_P, Qt::ControlModifier); }},
-      {"the next board", [this] { Key(Qt::Key_PageDown); }},
-      {"another library",
+      {"stop", 4, false, [this] { Click("cmdPlay"); }},
+      {"stop before the lead", 0, false, [this] { Click("cmdPlay"); }},
+      {"stop after a claim", 4, true, [this] { Click("cmdPlay"); }},
+      {"the next board", 4, false, [this] { Key(Qt::Key_PageDown); }},
+      {"the next board before the lead", 0, false, [this] { Key(Qt::Key_PageUp); }},
+      {"the next board after a claim", 4, true, [this] { Click("lblNext"); }},
+      {"a new library", 4, false,
        [this] {
-         Find<QComboBox>("cmbLibs")->setCurrentIndex(1);
-         emit Find<QComboBox>("cmbLibs")->activated(1);
+         Key(Qt::Key_N, Qt::ControlModifier);
+         EXPECT_EQ(QApplication::focusWidget(), Find<QComboBox>("cmbLibs"));
        }},
-      {"an import",
+      {"an import", 4, false,
        [&] {
-         host.ExpectTell("Hand 5 has been saved to the library - Teaching");
+         host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
+         host.ExpectTell("Hand 5 has been saved to the library - Club");
          window->ImportFiles({file});
        }},
-      {"a board that is cleared",
+      {"a board that is cleared", 4, true,
+       [this] { Key(Qt::Key_Delete, Qt::ControlModifier | Qt::ShiftModifier); }},
+      {"another auction", 4, true,
        [this] {
-         Key(Qt::Key_Delete, Qt::ControlModifier | Qt::ShiftModifier);
-         EXPECT_TRUE(session.board.playMode) << "not while cards are to be played";
-         Key(Qt::Key_L, Qt::ControlModifier);
-         Key(Qt::Key_Delete, Qt::ControlModifier | Qt::ShiftModifier);
-       }},
-      {"another auction",
-       [this] {
-         Key(Qt::Key_B, Qt::ControlModifier);  // not while cards are to be played
-         Key(Qt::Key_L, Qt::ControlModifier);
          Expect([](frmBidding& dialog) {
            Press(dialog, "cmdUndo");
            FocusKeys("p");
@@ -372,10 +409,19 @@ TEST_F(PlayWindowTest, NothingIsLeftOfAPlayThatEnds) {
        }},
   };
   const Board deal = session.board;
-  for (const auto& [name, leave] : ways) {
+  for (const auto& [name, cards, claimed, leave] : ways) {
     session.board = deal;
     StartPlay();
-    ClickCards(4);
+    ClickCards(cards);
+    for (const char* action : {"mnuBidding", "mnuClearBoard", "mnuSwap", "mnuPasteHand"}) {
+      EXPECT_FALSE(Offered(action)) << action << " while cards are to be played";
+    }
+    if (claimed) Key(Qt::Key_L, Qt::ControlModifier);
+    EXPECT_EQ(Shown("fraLibrary"), claimed);
+    if (cards > 0 && !claimed) {
+      host.ExpectAsk("Do you wish to stop the play of board 1?", "Tricklet", Answer::Yes);
+    }
+    session.board.handChanged = false;
     leave();
     ExpectNothingLeftOfPlay(name);
     session.board.handChanged = false;

@@ -10,7 +10,9 @@
 
 #include "formats/results/lin_file.h"
 #include "tests/support/calls.h"
+#include "tests/support/fake_solver.h"
 #include "tests/ui/window_fixture.h"
+#include "ui/background/best_cards_finder.h"
 #include "ui/control/results.h"
 #include "ui/table/table_view.h"
 
@@ -196,6 +198,31 @@ TEST_F(TravellerWindowTest, StepsThroughARecord) {
   EXPECT_EQ(session.board.calls, before.calls);
   EXPECT_EQ(session.board.handChanged, before.handChanged);
   EXPECT_FALSE(Find<QTimer>("timQuit")->isActive());
+}
+
+TEST_F(TravellerWindowTest, BestCardsOfARecordAreThoseOfItsOwnContract) {
+  class OneCardSolver : public test::FakeSolver {
+   public:
+    std::vector<CardScore> SolveCards(const SolverPosition& position) override {
+      asked = position.trumps;
+      return {{{Suit::Hearts, Rank::Two}, 12}};
+    }
+    std::atomic<Strain> asked{Strain::NoTrump};
+  } solver;
+  session.getSolver = [&solver]() -> Solver& { return solver; };
+  session.settings.showBestCards = true;
+  Open();
+  const auto* finder = window->findChild<BestCardsFinder*>();
+  EXPECT_TRUE(finder->Tricks().empty());
+  ClickRow(0);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !finder->Tricks().empty(); }));
+  EXPECT_EQ(solver.asked, Strain::Spades);
+  session.settings.showBestCards = false;
+  window->Display();
+  EXPECT_TRUE(finder->Tricks().empty());
+  session.settings.showBestCards = true;
+  Key(Qt::Key_J, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_TRUE(finder->Tricks().empty()) << "the record has been put away";
 }
 
 TEST_F(TravellerWindowTest, RecordsWithoutAPlayOrWithOneThatBreaksTheRules) {
