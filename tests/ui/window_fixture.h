@@ -12,7 +12,7 @@
 
 #include "tests/support/library_fixture.h"
 #include "ui/style/progress_frame.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 #include "ui/window/main_window.h"
 
 namespace tricklet::ui {

@@ -12,7 +12,7 @@
 #include "ui/app/qt_host.h"
 #include "ui/background/later.h"
 #include "ui/dialogs/frmStart.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 #include "ui/style/theme.h"
 #include "ui/window/main_window.h"
 
@@ -63,7 +63,7 @@ struct Parser {
 constexpr int kSmallestSide = 200;
 constexpr int kLargestSide = 16384;
 
-/// "1280x800"; an invalid size when `text` is none.
+/// The size of a text such as "1280x800"; an invalid one when it is none.
 QSize SizeFromText(const QString& text) {
   const QStringList sides = text.split(u'x');
   if (sides.size() != 2) return {};

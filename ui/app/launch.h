@@ -21,9 +21,9 @@ struct LaunchOptions {
   QString root;                       ///< library root for this call only; empty: the stored one
   QString library;                    ///< library for this call only; empty: the stored one
   int board = 0;                      ///< board to begin with; 0: the first
-  std::optional<std::uint64_t> seed;  ///< of the random numbers; nothing: by the system
-  QString screenshot;                 ///< picture of the window to write, and then end; empty: none
-  QSize size{1280, 800};              ///< of the picture
+  std::optional<std::uint64_t> seed;  ///< of the random numbers; nothing: given by the system
+  QString screenshot;     ///< where to write a picture of the window and end; empty: nowhere
+  QSize size{1280, 800};  ///< of the picture
   std::vector<std::filesystem::path> files;  ///< to import
 
   bool help = false;

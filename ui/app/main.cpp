@@ -12,7 +12,7 @@
 #include "platform/signals.h"
 #include "ui/app/application.h"
 #include "ui/app/launch.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 
 namespace {
 

@@ -11,7 +11,7 @@
 
 #include "platform/recycle.h"
 #include "ui/background/later.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
 namespace {

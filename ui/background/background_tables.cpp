@@ -17,7 +17,7 @@ struct BackgroundTables::Job {
   MakeableTable table;
   std::string failure;
 
-  /// The same deal in the same file.
+  /// Tells one deal in one file from all others.
   std::string Key() const { return PathText(path) + " " + SolverDealText(hands); }
 };
 

@@ -11,13 +11,13 @@
 
 namespace tricklet::ui {
 
-/// One thread that does one job after another, the newest first: what the person looks at now comes
-/// before what has been left.
+/// One thread that does one job after another, the newest first: what the person looks at now goes
+/// before what was looked at earlier.
 class Worker : public QObject {
   Q_OBJECT
 
  public:
-  /// More jobs than this do not wait: the oldest of them are dropped.
+  /// The most jobs that wait: of more, the oldest are dropped.
   static constexpr std::size_t kMostWaiting = 256;
 
   explicit Worker(QObject* parent = nullptr);
@@ -28,7 +28,7 @@ class Worker : public QObject {
   void Post(std::function<void()> work, std::function<void()> done);
 
  signals:
-  /// A job has been worked off (sent from the worker's thread).
+  /// A job has been done (sent from the worker's thread).
   void Finished();
 
  private:

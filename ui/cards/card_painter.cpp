@@ -23,7 +23,7 @@ void DrawShadow(QPainter& painter, const QRectF& card, double radius, double rea
   }
 }
 
-/// Nothing yet, with room for a card and `margin` all round.
+/// An empty picture with room for a card and `margin` all round.
 QPixmap Transparent(const CardLook& look, double margin) {
   const QSizeF room = (look.size + QSizeF(2 * margin, 2 * margin)) * look.pixelRatio;
   QPixmap picture(std::max(1, static_cast<int>(std::ceil(room.width()))),
@@ -67,7 +67,7 @@ void CardPainter::DrawOnPixel(QPainter& painter, QPointF corner, const QPixmap& 
   painter.drawPixmap(QPointF(onPixel(corner.x()), onPixel(corner.y())), picture);
 }
 
-/// A card without print, the same for all; most of the work.
+/// A card without print. It is the same for all cards and takes most of the time.
 QPixmap CardPainter::RenderBlank() const {
   QPixmap blank = Transparent(look_, Margin());
   QPainter painter(&blank);
@@ -82,7 +82,7 @@ QPixmap CardPainter::RenderBlank() const {
   return blank;
 }
 
-/// Lies exactly over a card.
+/// The shade that lies exactly over a card.
 QPixmap CardPainter::RenderShade() const {
   QPixmap shade = Transparent(look_, Margin());
   QPainter painter(&shade);

@@ -33,7 +33,7 @@ class CardPainter {
   void SetLook(const CardLook& look);
   /// Draws the card, and a slight shadow round it, with its upper left corner at `corner`.
   void Draw(QPainter& painter, QPointF corner, Card card);
-  /// The same, in the shade: a card that cannot be played.
+  /// Draws the card as `Draw` does, but dimmed: it cannot be played.
   void DrawDimmed(QPainter& painter, QPointF corner, Card card);
 
  private:

@@ -4,7 +4,7 @@
 #include "analysis/online_link.h"
 #include "library/tables.h"
 #include "ui/commands/commands.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
 namespace {

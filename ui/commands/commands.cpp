@@ -19,7 +19,7 @@
 #include "ui/dialogs/frmExport.h"
 #include "ui/dialogs/frmOptions.h"
 #include "ui/dialogs/library_name_dialog.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 #include "ui/style/theme.h"
 
 namespace tricklet::ui {

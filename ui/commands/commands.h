@@ -40,7 +40,7 @@ class Commands : public QObject {
   /// `finish` takes over what is still being typed, before each command; false when that was
   /// refused, and then the command is not carried out.
   void SetFinishTyping(std::function<bool()> finish) { finishTyping_ = std::move(finish); }
-  /// Where the LIN record of the board in hand comes from; empty when it has none.
+  /// `record` gives the LIN record of the current board; an empty text when it has none.
   void SetLinRecord(std::function<std::string()> record) { linRecord_ = std::move(record); }
 
   /// The auction that is being entered; nullptr while the auction dialog is closed.
@@ -95,7 +95,7 @@ class Commands : public QObject {
   bool TypeHand(Seat seat, const QString& text);
   void SetEditMethod(EditMethod method);
 
-  /// `cmdDDS`: the double-dummy table of the board in hand, by `TableAsked`.
+  /// `cmdDDS`: has the double-dummy table of the current board computed, by `TableAsked`.
   void AnalyseBoard();
   /// `mnuAnalyse`: every missing table of the library.
   void AnalyseLibrary();
@@ -128,7 +128,7 @@ class Commands : public QObject {
   void TableAsked();
   /// The person wants to name a new library.
   void NewLibraryAsked();
-  /// Work that begins from now on copies whole libraries; or no longer does.
+  /// True before and false after work that copies whole libraries.
   void Waiting(bool waiting);
   void Done();
   /// What the last command has done, where nothing else shows it.

@@ -2,7 +2,7 @@
 #include "ui/commands/commands.h"
 #include "ui/control/edit_control.h"
 #include "ui/dialogs/frmSwap.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
 

@@ -3,7 +3,7 @@
 #include "ui/commands/commands.h"
 #include "ui/dialogs/frmCopyLib.h"
 #include "ui/dialogs/frmDeleteLib.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
 

@@ -28,13 +28,14 @@ class EditControl {
   void DropStaleEdits();
 
   bool CanUndoClear() const;
-  // While editing.
+  // These are false unless the hands are being edited.
   bool CanFill() const;
   bool CanFillFourth() const;
   bool CanUndoFill() const;
 
   void MoveCard(Card card, std::optional<Seat> to);
-  /// False when `text` was refused.
+  /// Gives the hand of `seat` the cards of `text`, such as "AKT2.QJ5.-.98"; false, after a message,
+  /// when that is refused.
   bool TypeHand(Seat seat, std::string_view text);
   void Clear();
   void UndoClear();

@@ -1,4 +1,4 @@
-// The results of the board in hand, and the play record among them that is being looked at.
+// The results of the current board, and the play record among them that is being looked at.
 #pragma once
 
 #include <functional>
@@ -14,8 +14,8 @@
 
 namespace tricklet::ui {
 
-/// A record is looked at beside the board in hand, which stays what it is. Every change by a person
-/// ends with `Changed`.
+/// Looking at a record leaves the session's board as it is. Every change by a person ends with
+/// `Changed`.
 class Results : public QObject {
   Q_OBJECT
 
@@ -24,9 +24,9 @@ class Results : public QObject {
 
   /// The library has results at all.
   bool HasLinData() const { return hasLinData_; }
-  /// Of the board in hand; without rows when there are none.
+  /// The current board's results; without rows when there are none.
   const Traveller& OfBoard() const { return traveller_; }
-  /// Another number for each traveller that `OfBoard` has given.
+  /// Grows with each traveller that `OfBoard` gives: by it a pane knows one that it has shown.
   int Edition() const { return edition_; }
 
   /// The row whose record is being looked at; -1 when none is.
@@ -68,7 +68,7 @@ class Results : public QObject {
   int row_ = -1;
   std::unique_ptr<Replay> replay_;
   Board board_;          // as it was when the record was chosen
-  std::string library_;  // likewise
+  std::string library_;  // the library's name then
 };
 
 }  // namespace tricklet::ui

@@ -6,8 +6,8 @@
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
+#include "ui/style/qt_text.h"
 #include "ui/style/symbols.h"
-#include "ui/style/text.h"
 #include "ui/style/theme.h"
 
 namespace tricklet::ui {
@@ -56,7 +56,8 @@ BidButton::BidButton(Call bid, bool fourColours, QWidget* parent)
   setText(QString::number(bid.Level()) + symbol_);
   setAccessibleName(InWords(bid));
   setAutoDefault(false);
-  // A click leaves the focus where it is: the button that is pressed is closed to the next player.
+  // A click leaves the focus where it is: the button that is pressed is disabled for the next
+  // player.
   setFocusPolicy(Qt::TabFocus);
 }
 
@@ -75,19 +76,11 @@ void BidButton::paintEvent(QPaintEvent* /*event*/) {
   QStylePainter painter(this);
   QStyleOptionButton option;
   initStyleOption(&option);
-  const QString whole = option.text;
   option.text.clear();
   painter.drawControl(QStyle::CE_PushButton, option);
 
-  const QString level = whole.chopped(symbol_.size());
-  const QFontMetrics metrics = fontMetrics();
-  QRect room = rect();
-  room.setLeft(room.left() + (room.width() - metrics.horizontalAdvance(whole)) / 2);
-  painter.setPen(palette().color(QPalette::ButtonText));
-  painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, level);
-  room.setLeft(room.left() + metrics.horizontalAdvance(level));
-  painter.setPen(SymbolColour());
-  painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, symbol_);
+  DrawWithSymbol(painter, rect(), QString::number(bid_.Level()),
+                 palette().color(QPalette::ButtonText), symbol_, SymbolColour());
 }
 
 }  // namespace tricklet::ui

@@ -53,7 +53,7 @@ CallKeys::Result CallKeys::Begin(char key) {
 }
 
 CallKeys::Result CallKeys::BeginBid(char level) {
-  // No-trump is the last bid of a level to be closed.
+  // While any bid of a level is legal, its no-trump bid is.
   if (!Enabled(Call::Bid(level - '0', BidStrain::NoTrump))) return kRefused;
   typed_ = level;
   noTrumpMade_ = false;

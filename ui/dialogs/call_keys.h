@@ -8,8 +8,8 @@
 
 namespace tricklet::ui {
 
-/// Reads "1n" and "1nt", "4s", "p", "d" or "x", "r" or "xx", in either letter case. What may be
-/// called is asked of the entry; the calls are made by whoever types.
+/// Reads calls as they are typed: "1n" and "1nt", "4s", "p", "d" or "x", "r" or "xx", in either
+/// letter case. It asks the entry which calls are legal and makes none itself.
 class CallKeys {
  public:
   struct Result {
@@ -23,7 +23,7 @@ class CallKeys {
 
   /// What has been typed of a call that is not complete yet: "4", "x" or nothing.
   const std::string& Typed() const { return typed_; }
-  /// Forgets it, also when a call is made some other way.
+  /// Forgets what has been typed; to be called too when a call is made some other way.
   void Forget();
 
  private:

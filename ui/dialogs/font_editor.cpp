@@ -11,7 +11,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 #include "ui/style/theme.h"
 
 namespace tricklet::ui {

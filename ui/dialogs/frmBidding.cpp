@@ -11,8 +11,8 @@
 #include <QVBoxLayout>
 
 #include "ui/dialogs/bid_button.h"
+#include "ui/style/qt_text.h"
 #include "ui/style/section.h"
-#include "ui/style/text.h"
 
 namespace tricklet::ui {
 namespace {
@@ -143,7 +143,7 @@ void frmBidding::ShowEnabled() {
   for (const auto& [button, enabled] : buttons) {
     if (enabled) button->setEnabled(true);
   }
-  // The focus of a button that closes would wander to the next one that is open.
+  // A button that is disabled would pass its focus on to the next one that is not.
   QPushButton* next = entry_.Over() ? cmdOK : cmdPass;
   for (const auto& [button, enabled] : buttons) {
     if (enabled) continue;

@@ -17,7 +17,7 @@ namespace tricklet::ui {
 
 class BidButton;
 
-/// Enters the auction of the board in hand, by buttons or by typing calls. Accepted: the board has
+/// Enters the auction of the current board, by buttons or by typing calls. Accepted: the board has
 /// the auction. Rejected, which is asked about first: the board has the one that it had.
 class frmBidding : public QDialog {
   Q_OBJECT

@@ -1,7 +1,7 @@
 #include "ui/dialogs/frmCopyLib.h"
 
 #include "library/session.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
 

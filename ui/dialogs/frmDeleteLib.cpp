@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 
 #include "library/library_transfer.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
 

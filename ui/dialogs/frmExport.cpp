@@ -1,16 +1,15 @@
 #include "ui/dialogs/frmExport.h"
 
-#include <QButtonGroup>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "ui/style/text.h"
+#include "ui/dialogs/option_group.h"
+#include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
 namespace {
@@ -30,8 +29,7 @@ QComboBox* MakeNumbers(const QString& name, int highest, int chosen, QWidget* pa
 
 }  // namespace
 
-frmExport::frmExport(Session& session, QWidget* parent)
-    : QDialog(parent), session_(session), optType(new QButtonGroup(this)) {
+frmExport::frmExport(Session& session, QWidget* parent) : QDialog(parent), session_(session) {
   setObjectName(QStringLiteral("frmExport"));
   setWindowTitle(tr("Export hand records"));
   const LibraryState& library = session.library;
@@ -63,14 +61,11 @@ QWidget* frmExport::MakeTypes() {
   group->setAccessibleName(tr("File type"));
   auto* row = new QHBoxLayout(group);
   row->setContentsMargins(0, 0, 0, 0);
-  int id = 0;
-  for (const std::string& type : ExportTypes()) {
-    auto* option = new QRadioButton(ToQt(type).toUpper(), group);
-    option->setObjectName(QStringLiteral("optType"));
-    option->setChecked(id == 0);
-    optType->addButton(option, id++);
-    row->addWidget(option);
-  }
+  QStringList texts;
+  for (const std::string& type : ExportTypes()) texts += ToQt(type).toUpper();
+  optType = MakeOptions(QStringLiteral("optType"), texts, group);
+  for (QAbstractButton* option : optType->buttons()) row->addWidget(option);
+  optType->button(0)->setChecked(true);
   row->addStretch(1);
   return group;
 }

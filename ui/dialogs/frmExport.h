@@ -28,7 +28,7 @@ class frmExport : public QDialog {
   ExportRange range_;
   QComboBox* cmbFrom;
   QComboBox* cmbTo;
-  QButtonGroup* optType;
+  QButtonGroup* optType = nullptr;
 };
 
 }  // namespace tricklet::ui

@@ -13,7 +13,7 @@
 #include "ui/dialogs/generate_hand.h"
 #include "ui/dialogs/number_range.h"
 #include "ui/dialogs/option_group.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
 namespace {
@@ -21,7 +21,7 @@ namespace {
 constexpr int kTwoHands = 1;    // of optnGen
 constexpr int kFromDealer = 1;  // of optSpecify
 
-/// A row of option buttons behind its caption.
+/// A row of option buttons after their caption.
 void AddOptions(QGridLayout* grid, const QString& caption, const QButtonGroup* options) {
   const int row = grid->rowCount();
   grid->addWidget(new QLabel(caption), row, 0);
@@ -64,7 +64,7 @@ frmGenerate::frmGenerate(Session& session, const GenerateChoices& choices, QWidg
   boards_->Minimum()->lineEdit()->selectAll();
 }
 
-/// What holds for both hands.
+/// The choices that hold for both hands.
 QLayout* frmGenerate::BuildRun() {
   const auto board = [this](int index, const QString& title) {
     return new NumberCombo(QStringLiteral("cmbBoards_%1").arg(index), title, kFirstBoardNumber,

@@ -44,7 +44,7 @@ frmPreview::frmPreview(const Board& board, const Settings& settings, QWidget* pa
   cmdYes->setFocus();
 }
 
-/// The hands as text, which is read quickly, with their points whatever the captions show else.
+/// The hands as text, which is read quickly, with their points whatever else the captions show.
 QWidget* frmPreview::MakeTable(const Board& board, Settings settings) {
   settings.cardsFaces = false;
   settings.captionHcp = true;

@@ -6,8 +6,8 @@
 #include <QVBoxLayout>
 
 #include "library/start_up.h"
+#include "ui/style/qt_text.h"
 #include "ui/style/section.h"
-#include "ui/style/text.h"
 
 namespace tricklet::ui {
 

@@ -7,8 +7,8 @@
 
 namespace tricklet::ui {
 
-/// Shows the program's name and version, and waits for `cmdLaunch`. With "AutoLaunch" on it is to
-/// be passed over.
+/// Shows the program's name and version, and waits for `cmdLaunch`. It is not shown while
+/// "AutoLaunch" is on.
 class frmStart : public QDialog {
   Q_OBJECT
 

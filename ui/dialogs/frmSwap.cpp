@@ -1,18 +1,17 @@
 #include "ui/dialogs/frmSwap.h"
 
-#include <QButtonGroup>
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QVBoxLayout>
 
 #include "ui/cards/card_glyphs.h"
 #include "ui/control/edit_control.h"
-#include "ui/style/text.h"
+#include "ui/dialogs/option_group.h"
+#include "ui/style/qt_text.h"
 #include "ui/style/theme.h"
 
 namespace tricklet::ui {
@@ -41,12 +40,19 @@ QIcon SymbolIcon(Suit suit, bool fourColours, const QWidget& widget) {
   return picture;
 }
 
-/// One below the other, under their caption.
-void AddOption(QGridLayout* grid, QButtonGroup* group, QRadioButton* option, int id, int chosen) {
-  option->setObjectName(QStringLiteral("%1_%2").arg(group->objectName()).arg(id));
-  option->setChecked(id == chosen);
-  group->addButton(option, id);
-  grid->addWidget(option, 1 + id, grid->columnCount() - 1);
+/// A column of options one below the other, under their caption; the one with the id `chosen` is
+/// chosen.
+QButtonGroup* AddOptions(QGridLayout* grid, const QString& name, const QString& caption,
+                         const QStringList& texts, int chosen) {
+  QButtonGroup* group = MakeOptions(name, texts, grid->parentWidget());
+  const int column = grid->count() == 0 ? 0 : grid->columnCount();
+  grid->addWidget(new QLabel(caption), 0, column);
+  for (QAbstractButton* option : group->buttons()) {
+    option->setAccessibleName(caption + u' ' + option->text());
+    grid->addWidget(option, 1 + group->id(option), column);
+  }
+  group->button(chosen)->setChecked(true);
+  return group;
 }
 
 /// The button below all options.
@@ -138,27 +144,18 @@ QGroupBox* frmSwap::MakeRotation() {
 
 QButtonGroup* frmSwap::AddSeats(QGridLayout* grid, const QString& name, const QString& caption,
                                 Seat chosen) {
-  auto* group = new QButtonGroup(this);
-  group->setObjectName(name);
-  grid->addWidget(new QLabel(caption), 0, grid->count() == 0 ? 0 : grid->columnCount());
-  for (const Seat seat : kAllSeats) {
-    auto* option = new QRadioButton(ToQt(SeatName[seat]));
-    option->setAccessibleName(caption + u' ' + option->text());
-    AddOption(grid, group, option, IndexOf(seat), IndexOf(chosen));
-  }
-  return group;
+  QStringList texts;
+  for (const Seat seat : kAllSeats) texts += ToQt(SeatName[seat]);
+  return AddOptions(grid, name, caption, texts, IndexOf(chosen));
 }
 
 QButtonGroup* frmSwap::AddSuits(QGridLayout* grid, const QString& name, const QString& caption,
                                 Suit chosen) {
-  auto* group = new QButtonGroup(this);
-  group->setObjectName(name);
-  grid->addWidget(new QLabel(caption), 0, grid->count() == 0 ? 0 : grid->columnCount());
+  QStringList texts;
+  for (const Suit suit : kAllSuits) texts += ToQt(SuitName[suit]);
+  QButtonGroup* group = AddOptions(grid, name, caption, texts, IndexOf(chosen));
   for (const Suit suit : kAllSuits) {
-    auto* option = new QRadioButton(ToQt(SuitName[suit]));
-    option->setAccessibleName(caption + u' ' + option->text());
-    option->setIcon(SymbolIcon(suit, session_.settings.suitColour, *this));
-    AddOption(grid, group, option, IndexOf(suit), IndexOf(chosen));
+    group->button(IndexOf(suit))->setIcon(SymbolIcon(suit, session_.settings.suitColour, *this));
   }
   return group;
 }

@@ -15,7 +15,7 @@ namespace tricklet::ui {
 
 class EditControl;
 
-/// Each button changes the board in hand at once; the dialog stays open until Done.
+/// Each button changes the current board at once; the dialog stays open until Done.
 class frmSwap : public QDialog {
   Q_OBJECT
 

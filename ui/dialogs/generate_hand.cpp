@@ -13,16 +13,16 @@
 
 #include "ui/dialogs/number_range.h"
 #include "ui/dialogs/option_group.h"
+#include "ui/style/qt_text.h"
 #include "ui/style/section.h"
 #include "ui/style/symbols.h"
-#include "ui/style/text.h"
 
 namespace tricklet::ui {
 namespace {
 
 constexpr int kBySuitLengths = 0;
 constexpr int kByHandType = 1;
-/// How far what belongs to an option button is set in.
+/// How far the controls that belong to an option button are indented, in pixels.
 constexpr int kIndent = 22;
 
 QFrame* MakeFrame(const QString& name, const QString& title, QWidget* parent) {
@@ -92,7 +92,7 @@ void GenerateHand::BuildDirection(QBoxLayout* column) {
   auto* row = new QHBoxLayout;
   for (const Seat seat : kAllSeats) {
     QAbstractButton* option = optSuit->button(IndexOf(seat));
-    // Nothing moves when the names change.
+    // So that nothing moves when the names change.
     for (const bool relative : {false, true}) {
       option->setText(DirectionText(seat, relative));
       option->setMinimumWidth(std::max(option->minimumWidth(), option->sizeHint().width()));

@@ -32,7 +32,7 @@ class GenerateHand : public QGroupBox {
   /// What the directions are called: seats, or steps from the dealer.
   void SetRelativeToDealer(bool relative);
 
-  /// Puts the cursor where the constraints are to be changed; where that is closed, because the
+  /// Puts the cursor where the constraints are to be changed; where that is disabled, because the
   /// lengths are those of a hand type, to the choice between the two.
   void FocusOn(ConstraintPart part, Suit suit);
 

@@ -8,7 +8,7 @@
 
 #include "library/library_store.h"
 #include "ui/dialogs/name_filter.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
 

@@ -14,13 +14,12 @@ struct Session;
 namespace tricklet::ui {
 
 /// Stays open until the engine takes the name for a new one, or Cancel. A name that was there at
-/// the beginning may stay. What is done with it comes after it.
+/// the beginning may stay. The dialog itself does nothing with the name.
 class LibraryNameDialog : public QDialog {
   Q_OBJECT
 
  public:
-  /// `prompt` is the name of the text box for who cannot see it, and stands in it while it is
-  /// empty.
+  /// `prompt` is the accessible name of the text box, and stands in it while it is empty.
   LibraryNameDialog(Session& session, const QString& label, const QString& prompt,
                     const QString& name, QWidget* parent);
 

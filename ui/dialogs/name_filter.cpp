@@ -28,11 +28,11 @@ bool NameFilter::eventFilter(QObject* watched, QEvent* event) {
   QString typed;
   if (event->type() == QEvent::KeyPress) {
     const QString text = static_cast<QKeyEvent*>(event)->text();
-    if (!text.isEmpty() && text.at(0).isPrint()) typed = text;  // keys of commands are no print
+    if (!text.isEmpty() && text.at(0).isPrint()) typed = text;  // a key of a command prints nothing
   } else if (event->type() == QEvent::InputMethod) {
     typed = static_cast<QInputMethodEvent*>(event)->commitString();
   }
-  // While the text box goes, events still come that have no text.
+  // While the text box is being destroyed, events without a text still come.
   if (typed.isEmpty() || Allows(typed)) return QObject::eventFilter(watched, event);
   host_.Beep();
   return true;

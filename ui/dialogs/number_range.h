@@ -17,12 +17,12 @@ class NumberCombo : public QComboBox {
   NumberCombo(const QString& name, const QString& title, int lowest, int highest,
               QWidget* parent = nullptr);
 
-  /// The last number that was whole.
+  /// The number that was last chosen or typed to its end.
   int Value() const { return value_; }
   void SetValue(int value);
 
  signals:
-  /// The person is through with typing or has chosen from the list.
+  /// The person has finished typing or has chosen from the list.
   void Settled();
 
  private:

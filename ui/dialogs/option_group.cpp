@@ -6,6 +6,7 @@ namespace tricklet::ui {
 
 QButtonGroup* MakeOptions(const QString& name, const QStringList& texts, QWidget* parent) {
   auto* group = new QButtonGroup(parent);
+  group->setObjectName(name);
   int id = 0;
   for (const QString& text : texts) {
     auto* option = new QRadioButton(text, parent);

@@ -9,8 +9,8 @@
 #include <QVBoxLayout>
 
 #include "ui/panes/call_delegate.h"
+#include "ui/style/qt_text.h"
 #include "ui/style/symbols.h"
-#include "ui/style/text.h"
 #include "ui/style/theme.h"
 
 namespace tricklet::ui {

@@ -8,7 +8,7 @@
 #include "ui/control/edit_control.h"
 #include "ui/control/play_control.h"
 #include "ui/panes/command_grid.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
 BoardPane::BoardPane(Commands& commands, QWidget* parent)

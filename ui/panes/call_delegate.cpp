@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+#include "ui/style/symbols.h"
+
 namespace tricklet::ui {
 
 void CallDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -13,19 +15,11 @@ void CallDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   }
   QStyleOptionViewItem cell = option;
   initStyleOption(&cell, index);
-  const QString whole = cell.text;  // "4" and the symbol
-  const QString level = whole.chopped(symbol.size());
-  const int width = cell.fontMetrics.horizontalAdvance(whole);
-  QRect room = cell.rect;
-  room.setLeft(room.left() + std::max(0, (room.width() - width) / 2));
-
   painter->save();
   painter->setFont(cell.font);
-  painter->setPen(cell.palette.color(QPalette::Text));
-  painter->drawText(room, Qt::AlignLeft | Qt::AlignVCenter, level);
-  room.setLeft(room.left() + cell.fontMetrics.horizontalAdvance(level));
-  painter->setPen(index.data(kSymbolColourRole).value<QColor>());
-  painter->drawText(room, Qt::AlignLeft | Qt::AlignVCenter, symbol);
+  DrawWithSymbol(*painter, cell.rect, cell.text.chopped(symbol.size()),
+                 cell.palette.color(QPalette::Text), symbol,
+                 index.data(kSymbolColourRole).value<QColor>());
   painter->restore();
 }
 

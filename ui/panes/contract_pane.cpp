@@ -7,9 +7,9 @@
 
 #include "core/scoring.h"
 #include "ui/commands/commands.h"
+#include "ui/style/qt_text.h"
 #include "ui/style/side_column.h"
 #include "ui/style/symbols.h"
-#include "ui/style/text.h"
 
 namespace tricklet::ui {
 namespace {

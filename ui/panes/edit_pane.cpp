@@ -14,13 +14,13 @@
 #include "ui/commands/commands.h"
 #include "ui/control/edit_control.h"
 #include "ui/panes/command_grid.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 #include "ui/table/table_edit.h"
 
 namespace tricklet::ui {
 namespace {
 
-/// More than any hand takes, blanks included.
+/// The most characters of a line: more than any hand takes, blanks included.
 constexpr int kMostCharacters = 60;
 /// After a line has been left.
 constexpr std::chrono::milliseconds kLookAgain{20};

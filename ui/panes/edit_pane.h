@@ -27,7 +27,7 @@ class EditPane : public Section {
 
   /// Takes over a hand that is being typed; false when it was refused, and the text is still there.
   bool FinishTyping();
-  /// What is being typed is not taken over any more.
+  /// From now on, what is being typed is not taken over.
   void ForgetTyping();
   /// The line to begin with; nullptr where hands are not typed.
   QWidget* FirstLine() const;

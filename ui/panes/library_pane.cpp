@@ -18,13 +18,13 @@
 #include "library/library_store.h"
 #include "ui/dialogs/name_filter.h"
 #include "ui/panes/board_list_model.h"
+#include "ui/style/qt_text.h"
 #include "ui/style/section.h"
-#include "ui/style/text.h"
 
 namespace tricklet::ui {
 namespace {
 
-/// Lets 1..999 be typed, and puts the shown number back when something else is left behind.
+/// Lets 1..999 be typed, and puts the highest board back when the text is left as something else.
 class HighestBoardValidator : public QIntValidator {
  public:
   HighestBoardValidator(const Session& session, QObject* parent)
@@ -191,7 +191,7 @@ void LibraryPane::ShowNames(const Session& session) {
   }
   cmbLibs->setCurrentIndex(session.libIndex);
   cmbLibs->setEditText(ToQt(session.LibraryName()));
-  cmbLibs->lineEdit()->setCursorPosition(0);  // of a long name the beginning
+  cmbLibs->lineEdit()->setCursorPosition(0);  // shows the beginning of a long name
   cmbLibs->setToolTip(ToQt(session.LibraryName()));
   NameTyped(cmbLibs->currentText());
 }

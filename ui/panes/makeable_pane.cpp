@@ -11,8 +11,8 @@
 
 #include "analysis/makeable_view.h"
 #include "analysis/par.h"
+#include "ui/style/qt_text.h"
 #include "ui/style/symbols.h"
-#include "ui/style/text.h"
 #include "ui/style/theme.h"
 
 namespace tricklet::ui {
@@ -65,8 +65,8 @@ MakeablePane::MakeablePane(QWidget* parent)
   cmdMake->setChecked(true);
 }
 
-/// A style sheet keeps the colours that it began with, so it names them and is set again with
-/// others: the program's, as the table's own come later.
+/// A style sheet keeps the colours that it was set with, so it is set again for other colours. They
+/// are the program's, as the table's own palette changes later.
 void MakeablePane::StyleHeads() {
   lvwMake->horizontalHeader()->setStyleSheet(
       QStringLiteral("QHeaderView, QHeaderView::section { border: none; background: %1; }")

@@ -4,8 +4,8 @@
 #include <QVBoxLayout>
 
 #include "core/statistics.h"
+#include "ui/style/qt_text.h"
 #include "ui/style/symbols.h"
-#include "ui/style/text.h"
 
 namespace tricklet::ui {
 namespace {

@@ -1,86 +1,65 @@
 #include "ui/panes/traveller_cells.h"
 
 #include <array>
-#include <cstdlib>
-#include <limits>
 #include <optional>
 
 #include <QCoreApplication>
 
 #include "core/board.h"
 #include "core/text.h"
+#include "ui/style/qt_text.h"
 #include "ui/style/symbols.h"
-#include "ui/style/text.h"
 #include "ui/style/theme.h"
 
 namespace tricklet::ui {
 namespace {
 
-constexpr double kLast = std::numeric_limits<double>::lowest();  // what there is not is the least
-
 QString Text(const char* source) {
   return QCoreApplication::translate("tricklet::ui::TravellerPane", source);
 }
 
-class Cell : public QTableWidgetItem {
- public:
-  explicit Cell(const QString& text, double key = 0) : QTableWidgetItem(text), key_(key) {}
-
-  bool operator<(const QTableWidgetItem& other) const override {
-    const auto* cell = dynamic_cast<const Cell*>(&other);
-    if (cell != nullptr && cell->key_ != key_) return key_ < cell->key_;
-    return text().localeAwareCompare(other.text()) < 0;
-  }
-
- private:
-  double key_;
-};
-
-Cell* NumberCell(std::optional<double> number, const QString& text) {
-  auto* cell = new Cell(text, number.value_or(kLast));
-  cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  return cell;
+TravellerCell NumberCell(std::optional<double> number, const QString& text) {
+  return {text, number.value_or(TravellerCell::kNothing), true};
 }
 
-Cell* PairCell(const std::string& pair) {
+TravellerCell PairCell(const std::string& pair) {
   bool number = false;
   const QString text = ToQt(pair);
   const double key = text.toDouble(&number);
-  auto* cell = new Cell(text, pair.empty() ? kLast : number ? key : 0);
-  cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  return cell;
+  return {text, pair.empty() ? TravellerCell::kNothing : number ? key : 0, true};
 }
 
 /// "4S" with the symbol of its suit; its colour is that of the suit.
-Cell* ContractCell(const TravellerRow& row, const Settings& settings, const QPalette& palette) {
+TravellerCell ContractCell(const TravellerRow& row, bool fourColours, const QPalette& palette) {
   Board contract;
   if (!SetContract(contract, row.contract)) {
-    if (row.contract == kAllPass) return new Cell(Text("Pass"), -1);
+    if (row.contract == kAllPass) return {Text("Pass"), -1};
     const std::string text = row.ContractText();
-    return new Cell(text == kNotPlayed ? Text("Not played") : ToQt(text), kLast);
+    return {text == kNotPlayed ? Text("Not played") : ToQt(text), TravellerCell::kNothing};
   }
   const int rank = contract.contractLevel * kStrains + IndexOf(ToBidStrain(contract.trumps));
-  auto* cell = new Cell(ToQt(row.contract), rank);
+  TravellerCell cell{WithSymbols(ToQt(row.contract)), static_cast<double>(rank)};
   if (contract.trumps == Strain::NoTrump) return cell;
-  const Suit suit = ToSuit(contract.trumps);
-  cell->setText(WithSymbols(ToQt(row.contract)));
-  cell->setForeground(SuitColourOnWindow(suit, settings.suitColour, palette));
-  cell->setData(Qt::AccessibleTextRole, ToQt(row.contract));
+  cell.colour = SuitColourOnWindow(ToSuit(contract.trumps), fourColours, palette);
+  cell.spoken = ToQt(row.contract);
   return cell;
 }
 
-Cell* LeadCell(const TravellerRow& row, const Settings& settings, const QPalette& palette) {
-  if (!row.lead) return new Cell(QString(), kLast);
+TravellerCell DeclarerCell(const TravellerRow& row) {
+  if (!row.declarer) return {QString(), TravellerCell::kNothing};
+  return {ToQt(SeatName[*row.declarer].substr(0, 1)), static_cast<double>(IndexOf(*row.declarer))};
+}
+
+TravellerCell LeadCell(const TravellerRow& row, bool fourColours, const QPalette& palette) {
+  if (!row.lead) return {QString(), TravellerCell::kNothing};
   const Card card = *row.lead;
-  auto* cell = new Cell(ToQt(CardText(card)), kCardsInPack - card.Index());
-  cell->setForeground(SuitColourOnWindow(card.suit, settings.suitColour, palette));
-  cell->setData(Qt::AccessibleTextRole,
-                ToQt(SuitName[card.suit]) + QLatin1Char(' ') + ToQt(RankText[card.rank]));
-  return cell;
+  return {ToQt(CardText(card)), static_cast<double>(kCardsInPack - card.Index()), false,
+          SuitColourOnWindow(card.suit, fourColours, palette),
+          ToQt(SuitName[card.suit]) + QLatin1Char(' ') + ToQt(RankText[card.rank])};
 }
 
 /// A score stands on the side that has won it, a ruling on North-South's.
-Cell* ScoreCell(const TravellerRow& row, Side side) {
+TravellerCell ScoreCell(const TravellerRow& row, Side side) {
   if (!row.score) {
     return NumberCell(std::nullopt, side == Side::NorthSouth ? ToQt(row.adjusted) : QString());
   }
@@ -89,7 +68,7 @@ Cell* ScoreCell(const TravellerRow& row, Side side) {
   return NumberCell(own, shown ? QString::number(own) : QString());
 }
 
-Cell* PointsCell(const TravellerRow& row, Side side) {
+TravellerCell PointsCell(const TravellerRow& row, Side side) {
   const auto points = row.points[side];
   if (!points) return NumberCell(std::nullopt, QString());
   return NumberCell(*points, ToQt(ShortestText(*points)));
@@ -97,20 +76,19 @@ Cell* PointsCell(const TravellerRow& row, Side side) {
 
 }  // namespace
 
-QTableWidgetItem* MakeTravellerCell(TravellerColumn column, const TravellerRow& row,
-                                    const Settings& settings, const QPalette& palette) {
+TravellerCell MakeTravellerCell(TravellerColumn column, const TravellerRow& row, bool fourColours,
+                                const QPalette& palette) {
   switch (column) {
     case TravellerColumn::PairNS:
       return PairCell(row.pair[Side::NorthSouth]);
     case TravellerColumn::PairEW:
       return PairCell(row.pair[Side::EastWest]);
     case TravellerColumn::Contract:
-      return ContractCell(row, settings, palette);
+      return ContractCell(row, fourColours, palette);
     case TravellerColumn::By:
-      return new Cell(row.declarer ? ToQt(SeatName[*row.declarer].substr(0, 1)) : QString(),
-                      row.declarer ? IndexOf(*row.declarer) : kLast);
+      return DeclarerCell(row);
     case TravellerColumn::Lead:
-      return LeadCell(row, settings, palette);
+      return LeadCell(row, fourColours, palette);
     case TravellerColumn::Tricks:
       return NumberCell(row.tricks, row.tricks ? QString::number(*row.tricks) : QString());
     case TravellerColumn::ScoreNS:
@@ -124,10 +102,10 @@ QTableWidgetItem* MakeTravellerCell(TravellerColumn column, const TravellerRow& 
     case TravellerColumn::Names:
       break;
   }
-  return new Cell(ToQt(row.NamesText()));
+  return {ToQt(row.NamesText())};
 }
 
-QTableWidgetItem* MakeTravellerHead(TravellerColumn column, const Traveller& traveller) {
+TravellerHead MakeTravellerHead(TravellerColumn column, const Traveller& traveller) {
   struct Head {
     const char* text;
     const char* tip;
@@ -162,11 +140,7 @@ QTableWidgetItem* MakeTravellerHead(TravellerColumn column, const Traveller& tra
     tip = tip.arg(ToQt(traveller.scoring));
     if (traveller.computed) tip += Text(", computed from the scores");
   }
-  auto* item = new QTableWidgetItem(text);
-  if (column == TravellerColumn::Names) item->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  item->setToolTip(tip);
-  item->setData(Qt::AccessibleTextRole, tip);
-  return item;
+  return {text, tip};
 }
 
 }  // namespace tricklet::ui

@@ -1,10 +1,12 @@
-// The cells of the traveller's grid.
+// What stands in the cells of the traveller's grid.
 #pragma once
 
-#include <QPalette>
-#include <QTableWidgetItem>
+#include <limits>
 
-#include "core/settings.h"
+#include <QColor>
+#include <QPalette>
+#include <QString>
+
 #include "formats/results/traveller.h"
 
 namespace tricklet::ui {
@@ -25,13 +27,28 @@ enum class TravellerColumn {
 };
 inline constexpr int kTravellerColumns = 11;
 
-/// The row's place in the traveller, whatever the grid is sorted by.
-inline constexpr int kTravellerRowRole = Qt::UserRole;
+/// Cells are sorted by what they mean, "10" after "9" and a contract by its rank: first by their
+/// keys, then by their texts.
+struct TravellerCell {
+  /// The key of a cell that has nothing to say: it comes before all others.
+  static constexpr double kNothing = std::numeric_limits<double>::lowest();
 
-/// A cell that is sorted by what it means: "10" behind "9", a contract by its rank.
-QTableWidgetItem* MakeTravellerCell(TravellerColumn column, const TravellerRow& row,
-                                    const Settings& settings, const QPalette& palette);
+  QString text;
+  double key = 0;
+  bool isNumber = false;  ///< stands at the right
+  QColor colour = {};     ///< invalid: that of the window's texts
+  QString spoken = {};    ///< for a screen reader; empty: the text
+};
 
-QTableWidgetItem* MakeTravellerHead(TravellerColumn column, const Traveller& traveller);
+/// The suits of contracts and leads are in two or four colours, fit for the window's `palette`.
+TravellerCell MakeTravellerCell(TravellerColumn column, const TravellerRow& row, bool fourColours,
+                                const QPalette& palette);
+
+struct TravellerHead {
+  QString text;
+  QString tip;  ///< the whole of what `text` stands for
+};
+
+TravellerHead MakeTravellerHead(TravellerColumn column, const Traveller& traveller);
 
 }  // namespace tricklet::ui

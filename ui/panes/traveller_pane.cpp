@@ -9,19 +9,19 @@
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QStyle>
-#include <QTableWidget>
+#include <QTableView>
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "ui/panes/traveller_cells.h"
+#include "ui/panes/traveller_model.h"
+#include "ui/style/qt_text.h"
 #include "ui/style/symbols.h"
-#include "ui/style/text.h"
 #include "ui/style/theme.h"
 
 namespace tricklet::ui {
 namespace {
 
-constexpr int kLeastRows = 3;  // that the grid has room for before the column scrolls
+constexpr int kLeastRows = 3;  // of the grid, before the column scrolls
 constexpr int kRowPadding = 6;
 constexpr int kCellPadding = 6;     // both sides of a text
 constexpr double kFontSize = 0.88;  // of the window's, so that the numbers fit beside each other
@@ -35,7 +35,9 @@ TravellerPane::TravellerPane(Results& results, QWidget* parent)
       results_(results),
       cmdTraveller(new QToolButton(this)),
       fraTraveller(new QWidget(this)),
-      flexTraveller(new QTableWidget(0, kTravellerColumns, fraTraveller)),
+      rows_(new TravellerModel(this)),
+      order_(new TravellerOrder(rows_)),
+      flexTraveller(new QTableView(fraTraveller)),
       cmbLinNames(new QComboBox(fraTraveller)),
       lblLinPlace_(new ElidedLabel(fraTraveller)) {
   cmdTraveller->setObjectName(QStringLiteral("cmdTraveller"));
@@ -58,7 +60,7 @@ TravellerPane::TravellerPane(Results& results, QWidget* parent)
   column->addWidget(cmbLinNames);
   BuildSteps(column);
   BuildGrid();
-  column->addWidget(flexTraveller, 1);  // below the rest, as it is what gives way
+  column->addWidget(flexTraveller, 1);  // last, as its height gives way
   Body()->addWidget(fraTraveller, 1);
   cmdTraveller->setChecked(true);
 }
@@ -69,7 +71,7 @@ void TravellerPane::BuildGrid() {
   QFont small = font();
   small.setPointSizeF(small.pointSizeF() * kFontSize);
   flexTraveller->setFont(small);
-  flexTraveller->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  flexTraveller->setModel(order_);
   flexTraveller->setSelectionBehavior(QAbstractItemView::SelectRows);
   flexTraveller->setSelectionMode(QAbstractItemView::SingleSelection);
   flexTraveller->setShowGrid(false);
@@ -88,20 +90,17 @@ void TravellerPane::BuildGrid() {
   heads->setSortIndicatorClearable(true);
   flexTraveller->setSortingEnabled(true);
   heads->setSortIndicator(-1, Qt::AscendingOrder);
-  connect(heads, &QHeaderView::sortIndicatorChanged, this, [this](int column) {
-    if (column < 0) RestoreOrder();
-    TravellerResize();
-  });
-  // What the column has left, and no less than some rows: a height of its own would make the column
-  // scroll.
+  connect(heads, &QHeaderView::sortIndicatorChanged, this, &TravellerPane::TravellerResize);
+  // The grid takes the height that the column has left, and no less than some rows: by a height of
+  // its own it would make the column scroll.
   flexTraveller->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
   const int row = flexTraveller->verticalHeader()->defaultSectionSize();
   flexTraveller->setMinimumHeight((kLeastRows + 2) * row + 2 * flexTraveller->frameWidth());
   auto* sort = new QShortcut(Qt::Key_Space, flexTraveller, nullptr, nullptr, Qt::WidgetShortcut);
   connect(sort, &QShortcut::activated, this, &TravellerPane::SortByCurrentColumn);
-  connect(flexTraveller, &QTableWidget::itemSelectionChanged, this, [this] {
+  connect(flexTraveller->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
     const auto rows = flexTraveller->selectionModel()->selectedRows();
-    if (!rows.isEmpty()) ChooseRow(rows.first().row());
+    if (!marking_ && !rows.isEmpty()) ChooseRow(order_->mapToSource(rows.first()).row());
   });
 }
 
@@ -176,35 +175,10 @@ void TravellerPane::Show(const Settings& settings) {
 }
 
 void TravellerPane::FillGrid(const Settings& settings) {
-  const QSignalBlocker blocker(flexTraveller);
   const Traveller& traveller = results_.OfBoard();
   SetTitle(traveller.rows.empty() ? tr("No traveller for this board") : tr("Traveller"));
-  flexTraveller->setSortingEnabled(false);
-  flexTraveller->clearSelection();
-  flexTraveller->setRowCount(0);
-  flexTraveller->setRowCount(static_cast<int>(traveller.rows.size()));
-  for (int column = 0; column < kTravellerColumns; ++column) {
-    flexTraveller->setHorizontalHeaderItem(
-        column, MakeTravellerHead(static_cast<TravellerColumn>(column), traveller));
-  }
-  for (int row = 0; row < flexTraveller->rowCount(); ++row) {
-    FillRow(row, traveller.rows.at(static_cast<std::size_t>(row)), settings);
-  }
-  flexTraveller->setSortingEnabled(true);
+  rows_->Show(traveller, settings.suitColour, palette());
   TravellerResize();
-}
-
-void TravellerPane::FillRow(int place, const TravellerRow& row, const Settings& settings) {
-  // Marked up, or names could be taken for mark-up themselves.
-  const QString line =
-      QStringLiteral("<span>%1</span>").arg(ToQt(ReadLinBidding(row)).toHtmlEscaped());
-  for (int column = 0; column < kTravellerColumns; ++column) {
-    QTableWidgetItem* cell =
-        MakeTravellerCell(static_cast<TravellerColumn>(column), row, settings, palette());
-    cell->setData(kTravellerRowRole, place);
-    cell->setToolTip(line);
-    flexTraveller->setItem(place, column, cell);
-  }
 }
 
 void TravellerPane::FillNames() {
@@ -216,14 +190,11 @@ void TravellerPane::FillNames() {
   cmbLinNames->setCurrentIndex(-1);
 }
 
-int TravellerPane::RowAt(int place) const {
-  return flexTraveller->item(place, 0)->data(kTravellerRowRole).toInt();
-}
-
-/// What clicks on the heading of the current cell's column do: up, down, and as it was.
+/// Does what a click on the heading of the current cell's column does: sorts upwards, then
+/// downwards, then restores the traveller's order.
 void TravellerPane::SortByCurrentColumn() {
   QHeaderView* heads = flexTraveller->horizontalHeader();
-  const int column = flexTraveller->currentColumn();
+  const int column = flexTraveller->currentIndex().column();
   if (column < 0) return;
   if (heads->sortIndicatorSection() != column) {
     heads->setSortIndicator(column, Qt::AscendingOrder);
@@ -234,29 +205,8 @@ void TravellerPane::SortByCurrentColumn() {
   }
 }
 
-/// The rows as the traveller has them: without a column to sort by the grid leaves them as they
-/// are.
-void TravellerPane::RestoreOrder() {
-  const QSignalBlocker blocker(flexTraveller);
-  std::vector<std::array<QTableWidgetItem*, kTravellerColumns>> rows(
-      static_cast<std::size_t>(flexTraveller->rowCount()));
-  for (int place = 0; place < flexTraveller->rowCount(); ++place) {
-    auto& row = rows.at(static_cast<std::size_t>(RowAt(place)));
-    for (int column = kTravellerColumns - 1; column >= 0; --column) {
-      row.at(static_cast<std::size_t>(column)) = flexTraveller->takeItem(place, column);
-    }
-  }
-  for (int row = 0; row < flexTraveller->rowCount(); ++row) {
-    for (int column = 0; column < kTravellerColumns; ++column) {
-      flexTraveller->setItem(
-          row, column, rows.at(static_cast<std::size_t>(row)).at(static_cast<std::size_t>(column)));
-    }
-  }
-  MarkRecord();
-}
-
-void TravellerPane::ChooseRow(int place) {
-  const int row = RowAt(place);
+/// `row` of the traveller, whatever the grid is sorted by.
+void TravellerPane::ChooseRow(int row) {
   const Traveller& traveller = results_.OfBoard();
   if (row >= static_cast<int>(traveller.rows.size())) return;
   const std::string names = traveller.rows.at(static_cast<std::size_t>(row)).NamesText();
@@ -265,23 +215,19 @@ void TravellerPane::ChooseRow(int place) {
 
 /// Marks the row of the record that is being looked at, by weight as well as by colour.
 void TravellerPane::MarkRecord() {
-  const QSignalBlocker grid(flexTraveller);
+  const int row = results_.Row();
   const QSignalBlocker names(cmbLinNames);
-  cmbLinNames->setCurrentIndex(results_.Row());
-  if (results_.Row() < 0) {
+  cmbLinNames->setCurrentIndex(row);
+  rows_->Mark(row);
+  marking_ = true;
+  const QModelIndex place = order_->mapFromSource(rows_->index(row, 0));
+  if (!place.isValid()) {
     flexTraveller->clearSelection();
-    flexTraveller->setCurrentCell(-1, -1);
+    flexTraveller->setCurrentIndex({});
+  } else if (flexTraveller->currentIndex().row() != place.row()) {
+    flexTraveller->selectRow(place.row());
   }
-  for (int place = 0; place < flexTraveller->rowCount(); ++place) {
-    const bool marked = RowAt(place) == results_.Row();
-    if (marked && flexTraveller->currentRow() != place) flexTraveller->selectRow(place);
-    for (int column = 0; column < kTravellerColumns; ++column) {
-      QTableWidgetItem* cell = flexTraveller->item(place, column);
-      QFont font = flexTraveller->font();
-      font.setBold(marked);
-      if (cell->font().bold() != marked) cell->setFont(font);
-    }
-  }
+  marking_ = false;
 }
 
 void TravellerPane::ShowSteps() {
@@ -305,10 +251,11 @@ void TravellerPane::TravellerResize() {
   const int arrow = head->style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, head);
   int used = 0;
   for (int column = 0; column < kTravellerColumns; ++column) {
-    int width = heads.horizontalAdvance(flexTraveller->horizontalHeaderItem(column)->text());
+    int width = heads.horizontalAdvance(order_->headerData(column, Qt::Horizontal).toString());
     if (column == head->sortIndicatorSection()) width += arrow;
-    for (int row = 0; row < flexTraveller->rowCount(); ++row) {
-      width = std::max(width, metrics.horizontalAdvance(flexTraveller->item(row, column)->text()));
+    for (int row = 0; row < rows_->rowCount(); ++row) {
+      const QString text = rows_->At(rows_->index(row, column)).text;
+      width = std::max(width, metrics.horizontalAdvance(text));
     }
     width += kCellPadding;
     if (column == static_cast<int>(TravellerColumn::Names)) {
@@ -324,7 +271,7 @@ void TravellerPane::resizeEvent(QResizeEvent* event) {
   if (shownEdition_ > 0) TravellerResize();
 }
 
-/// Another colour scheme: the cells have colours of the old one.
+/// The cells have colours of the palette: another one has them made again.
 void TravellerPane::changeEvent(QEvent* event) {
   Section::changeEvent(event);
   if (event->type() == QEvent::PaletteChange) shownEdition_ = 0;

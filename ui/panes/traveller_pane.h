@@ -7,10 +7,13 @@
 #include "ui/style/section.h"
 
 class QComboBox;
-class QTableWidget;
+class QTableView;
 class QToolButton;
 
 namespace tricklet::ui {
+
+class TravellerModel;
+class TravellerOrder;
 
 /// Visible only where the library has results.
 class TravellerPane : public Section {
@@ -42,22 +45,22 @@ class TravellerPane : public Section {
   void Expand(bool expanded);
   void SetLinVisible(bool visible);
   void FillGrid(const Settings& settings);
-  void FillRow(int place, const TravellerRow& row, const Settings& settings);
   void FillNames();
   void MarkRecord();
   void ShowSteps();
   void TravellerResize();
   void SortByCurrentColumn();
-  void RestoreOrder();
-  void ChooseRow(int place);
-  int RowAt(int place) const;
+  void ChooseRow(int row);
 
   Results& results_;
   int shownEdition_ = 0;
   bool fourColours_ = false;
+  bool marking_ = false;  // the selection is the program's, not the person's
   QToolButton* cmdTraveller;
   QWidget* fraTraveller;
-  QTableWidget* flexTraveller;
+  TravellerModel* rows_;
+  TravellerOrder* order_;
+  QTableView* flexTraveller;
   QComboBox* cmbLinNames;
   std::array<QToolButton*, kSteps> steps_{};
   ElidedLabel* lblLinPlace_;

@@ -17,7 +17,8 @@ class ProgressFrame : public QFrame {
  public:
   explicit ProgressFrame(QWidget* parent = nullptr);
 
-  /// Around long work; pairs may be nested, and only the outermost shows and hides the frame.
+  /// Begin and end long work; pairs may be nested, and only the outermost shows and hides the
+  /// frame.
   void Begin();
   void End();
   bool IsWorking() const { return depth_ > 0; }
@@ -26,7 +27,7 @@ class ProgressFrame : public QFrame {
   /// False when the person has cancelled since `Begin`.
   bool Step(const QString& text, int done, int total);
 
-  /// Shows `lblWait` with the work that begins from now on, or no longer does.
+  /// Shows `lblWait` beside the progress from now on, or hides it.
   void SetWaiting(bool waiting);
 
   /// What `cmdCancelImport` does.

@@ -16,7 +16,7 @@ class SideColumn : public QScrollArea {
   int WidthFor(double heights) const;
 };
 
-/// Whether the room of a widget is kept while it is hidden, so that nothing else moves.
+/// Sets whether the room of a widget is kept while it is hidden, so that nothing else moves.
 void KeepRoom(QWidget* widget, bool keep);
 
 }  // namespace tricklet::ui

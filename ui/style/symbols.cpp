@@ -1,8 +1,22 @@
 #include "ui/style/symbols.h"
 
+#include <algorithm>
+
 #include <QRegularExpression>
 
 namespace tricklet::ui {
+
+void DrawWithSymbol(QPainter& painter, QRect room, const QString& text, const QColor& colour,
+                    const QString& symbol, const QColor& symbolColour) {
+  const QFontMetrics metrics = painter.fontMetrics();
+  const int width = metrics.horizontalAdvance(text + symbol);
+  room.setLeft(room.left() + std::max(0, (room.width() - width) / 2));
+  painter.setPen(colour);
+  painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, text);
+  room.setLeft(room.left() + metrics.horizontalAdvance(text));
+  painter.setPen(symbolColour);
+  painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, symbol);
+}
 
 QString WithSymbols(QString text, const std::function<QString(Suit)>& symbol) {
   static const QString letters = QStringLiteral("SHDC");

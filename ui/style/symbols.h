@@ -3,11 +3,12 @@
 
 #include <functional>
 
+#include <QPainter>
 #include <QPalette>
 #include <QString>
 
 #include "core/notation.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 #include "ui/style/theme.h"
 
 namespace tricklet::ui {
@@ -19,9 +20,15 @@ inline QString ColouredSymbol(Suit suit, bool fourColours, const QPalette& palet
       .arg(colour.name(), ToQt(SuitSymbol[suit]));
 }
 
-/// A text with the suits of its contracts ("4S by South", "4Sx-1") as what `symbol` gives for them.
+/// Draws `text` and after it `symbol` in a colour of its own, in the painter's font and in the
+/// middle of `room`, or from its left where they do not fit.
+void DrawWithSymbol(QPainter& painter, QRect room, const QString& text, const QColor& colour,
+                    const QString& symbol, const QColor& symbolColour);
+
+/// `text` with what `symbol` gives in place of the suit letters of its contracts ("4S by South",
+/// "4Sx-1").
 QString WithSymbols(QString text, const std::function<QString(Suit)>& symbol);
-/// As plain symbols.
+/// With the plain symbols as text.
 QString WithSymbols(const QString& text);
 
 /// The suit that `strain` is; not for no-trump.

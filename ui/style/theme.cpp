@@ -54,7 +54,7 @@ QPalette ToPalette(const Scheme& scheme) {
 }
 
 /// The style draws the rings and boxes of option buttons and check boxes in a darker shade of the
-/// window's colour, which is lost on a dark window. Nothing else of them takes that role.
+/// window's colour, which is lost on a dark window. No other part of them has that role.
 void BrightenIndicators(const Scheme& scheme) {
   QPalette palette = ToPalette(scheme);
   palette.setColor(QPalette::Window, QColor(scheme.text));

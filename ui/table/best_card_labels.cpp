@@ -31,8 +31,8 @@ QRectF LabelRoom(const PlacedCard& placed, QSizeF card) {
 
 }  // namespace
 
-void DrawBestCards(QPainter& painter, const TableLayout& layout, std::span<const CardScore> best,
-                   const QFont& font) {
+void DrawBestCardLabels(QPainter& painter, const TableLayout& layout,
+                        std::span<const CardScore> best, const QFont& font) {
   if (best.empty()) return;
   const int most = std::max_element(best.begin(), best.end(), [](const auto& a, const auto& b) {
                      return a.tricks < b.tricks;

@@ -13,7 +13,7 @@ namespace tricklet::ui {
 
 /// A small number on each card of `best` that lies in `layout`. The cards that lead to most have a
 /// filled label, the others an empty one.
-void DrawBestCards(QPainter& painter, const TableLayout& layout, std::span<const CardScore> best,
-                   const QFont& font);
+void DrawBestCardLabels(QPainter& painter, const TableLayout& layout,
+                        std::span<const CardScore> best, const QFont& font);
 
 }  // namespace tricklet::ui

@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 
 #include "core/statistics.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
 namespace {
@@ -146,7 +146,7 @@ QString DescribeEdit(const Board& board, const TableEdit& edit) {
   return parts.join(QStringLiteral(". ")) + u'.';
 }
 
-QString DescribePlay(const Board& board, const TablePlay& play) {
+QString DescribePlay(const Board& board, const PlaySnapshot& play) {
   const PlayState& now = play.now;
   QStringList parts = BoardLine(board);
   parts << ToQt(ContractLabel(board));

@@ -41,6 +41,6 @@ QString DescribeTable(const Board& board, std::optional<Seat> toCall = std::null
 /// The deal while it is edited: what waits for a card or a hand, the hands, and the pack.
 QString DescribeEdit(const Board& board, const TableEdit& edit);
 /// The play in words: whose turn it is, the trick on the table, the tricks won and the cards left.
-QString DescribePlay(const Board& board, const TablePlay& play);
+QString DescribePlay(const Board& board, const PlaySnapshot& play);
 
 }  // namespace tricklet::ui

@@ -15,7 +15,7 @@ constexpr double kMostAcross = 0.6;
 constexpr double kLeastDown = 0.4;
 constexpr double kRowDown = 0.46;        // within a suit
 constexpr double kMostSuitDown = 1.56;   // from one suit to the next: nothing is covered
-constexpr double kLeastSuitShare = 2.2;  // the same where room is short, in rows
+constexpr double kLeastSuitShare = 2.2;  // from one suit to the next where room is short, in rows
 
 double PackWidth(QSizeF size) {
   return std::round(kPackShare * size.width());

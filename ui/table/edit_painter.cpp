@@ -25,7 +25,7 @@ QPen MarkPen(QSizeF card) {
   return {kOnPlayYellow, std::max(2.0, kFrame * card.width())};
 }
 
-/// In a strong frame.
+/// Draws a strong frame.
 void DrawMarked(QPainter& painter, CardPainter& cards, const EditedCard& card) {
   cards.Draw(painter, card.rect.topLeft(), card.card);
   DrawFrame(painter, card.rect, card.rect.width() * kCornerShare, MarkPen(card.rect.size()));

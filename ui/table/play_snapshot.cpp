@@ -1,16 +1,16 @@
 #include "ui/table/play_snapshot.h"
 
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
 
-PerSuit<Holding> TablePlay::HandOnPlay() const {
+PerSuit<Holding> PlaySnapshot::HandOnPlay() const {
   return now.onPlay ? now.cardsLeft[*now.onPlay] : PerSuit<Holding>();
 }
 
-std::optional<TablePlay> CopyOf(const CardPlay* play) {
+std::optional<PlaySnapshot> SnapshotOf(const CardPlay* play) {
   if (play == nullptr || !play->PlayMode()) return std::nullopt;
-  TablePlay copy{play->Now(), play->LegalCards(), {}, play->Finished(), ToQt(play->ScoreText())};
+  PlaySnapshot copy{play->Now(), play->LegalCards(), {}, play->Finished(), ToQt(play->ScoreText())};
   for (const Side side : {Side::NorthSouth, Side::EastWest}) {
     copy.tricks[side] = ToQt(play->TricksText(side));
   }

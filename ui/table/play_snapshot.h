@@ -9,7 +9,7 @@
 
 namespace tricklet::ui {
 
-struct TablePlay {
+struct PlaySnapshot {
   PlayState now;
   PerSuit<Holding> legal;   ///< of the hand on play
   PerSide<QString> tricks;  ///< "NS: 4", "EW: 2"
@@ -22,10 +22,10 @@ struct TablePlay {
   /// What the hand on play still holds.
   PerSuit<Holding> HandOnPlay() const;
   bool IsLegal(Card card) const { return legal[card.suit].Has(card.rank); }
-  friend bool operator==(const TablePlay&, const TablePlay&) = default;
+  friend bool operator==(const PlaySnapshot&, const PlaySnapshot&) = default;
 };
 
 /// Nothing unless a board is being played.
-std::optional<TablePlay> CopyOf(const CardPlay* play);
+std::optional<PlaySnapshot> SnapshotOf(const CardPlay* play);
 
 }  // namespace tricklet::ui

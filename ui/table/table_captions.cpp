@@ -25,7 +25,7 @@ bool HasSign(const Caption& caption) {
   return caption.mark == CaptionMark::OnPlay || caption.mark == CaptionMark::ToCall;
 }
 
-/// What a pill takes besides its text and its ends.
+/// The width that a pill takes besides its text and its ends.
 double Extras(const Caption& caption, double pixels) {
   return pixels * ((HasSign(caption) ? kSign : 0) + (caption.halfTyped ? kSuit : 0));
 }
@@ -77,7 +77,7 @@ void DrawPill(QPainter& painter, const QRectF& pill, const Caption& caption, con
     text.setRight(left);
   }
   painter.setPen(ink);
-  // Widths are sums of rounded parts.
+  // The pill's width is a sum of rounded parts, so the text may need a pixel more.
   text.adjust(-1, 0, 1, 0);
   painter.drawText(text, Qt::AlignCenter,
                    QFontMetricsF(font).elidedText(caption.text, Qt::ElideRight, text.width() + 1));
@@ -108,7 +108,7 @@ CaptionLayout LayOutCaptions(const TableLayout& table, const PerSeat<Caption>& c
     QRectF& pill = layout.pills[seat];
     const QRectF& place = table.hands[seat].caption;
     pill = PillFor(layout, captions[seat], place);
-    // Each hand's beside its cards.
+    // Each caption stands beside its hand's cards.
     if (seat == Seat::West) pill.moveLeft(place.left());
     if (seat == Seat::East) pill.moveRight(place.right());
   }

@@ -39,7 +39,7 @@ CaptionLayout LayOutCaptions(const TableLayout& table, const PerSeat<Caption>& c
 void DrawCaptions(QPainter& painter, const CaptionLayout& layout, const PerSeat<Caption>& captions,
                   const Settings& settings, const TableColours& colours, const QPalette& palette);
 
-/// One more caption of the same size in the middle of `room`, and its drawing.
+/// The pill of one more caption, in the font of `layout`, in the middle of `room`; and its drawing.
 QRectF PillFor(const CaptionLayout& layout, const Caption& caption, const QRectF& room);
 void DrawCaption(QPainter& painter, const CaptionLayout& layout, const QRectF& pill,
                  const Caption& caption, const Settings& settings, const TableColours& colours,

@@ -15,7 +15,7 @@ namespace tricklet::ui {
 void DrawCentre(QPainter& painter, const QRectF& panel, const Board& board,
                 const TableColours& colours, const QFont& font);
 
-/// The same panel while the board is being played: the marks alone, small and at the edges.
+/// Draws the panel while the board is being played: the marks alone, small and at the edges.
 void DrawCentreInPlay(QPainter& painter, const QRectF& panel, const Board& board,
                       const TableColours& colours, const QFont& font);
 /// What those marks leave free.

@@ -34,7 +34,7 @@ std::optional<HandFrame> FrameOfArrow(int key) {
   }
 }
 
-/// S is a suit until a card has been chosen, and a seat then.
+/// The key S stands for spades until a card has been chosen, and then for South.
 std::optional<HandFrame> FrameOfLetter(int key) {
   switch (key) {
     case Qt::Key_N:

@@ -50,7 +50,7 @@ Measures Measure(QSizeF size) {
   return m;
 }
 
-/// Height of the four hands' areas: the same for North and South.
+/// Heights of the four hands' areas; North's and South's are equal.
 struct Heights {
   double row;   // North and South
   double side;  // West and East

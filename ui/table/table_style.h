@@ -13,7 +13,7 @@ namespace tricklet::ui {
 struct TableColours {
   QColor feltTop;
   QColor feltBottom;
-  QColor caption;  ///< behind a caption
+  QColor caption;  ///< under a caption's text
   QColor centre;   ///< the middle panel
   QColor line;     ///< thin edges
   QColor text;     ///< on any of the above
@@ -24,7 +24,8 @@ TableColours ColoursFor(const QPalette& palette);
 /// White on it, and it on felt, can be told apart.
 inline const QColor kVulnerableRed(0xC8, 0x20, 0x2F);
 inline const QColor kDealerYellow(0xFF, 0xDD, 0x55);
-/// Behind the captions of the hand on play and of the player to call; black on them can be read.
+/// The captions of the hand on play and of the player to call lie on these; black can be read
+/// there.
 inline const QColor kOnPlayYellow(0xFF, 0xE0, 0x55);
 inline const QColor kToCallCyan(0x2E, 0xE6, 0xE6);
 

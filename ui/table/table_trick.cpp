@@ -96,7 +96,7 @@ TrickLayout LayOutTrick(const QRectF& room, QSizeF card) {
   return layout;
 }
 
-void DrawTrick(QPainter& painter, const TrickLayout& layout, const TablePlay& play,
+void DrawTrick(QPainter& painter, const TrickLayout& layout, const PlaySnapshot& play,
                CardPainter& cards, const Settings& settings, const TableColours& colours) {
   const PlayState& now = play.now;
   cards.SetLook({layout.cardSize, painter.device()->devicePixelRatioF(), settings.cardDesign,

@@ -31,7 +31,7 @@ TrickLayout LayOutTrick(const QRectF& room, QSizeF card);
 
 /// The cards on the table with their symbols, the one that wins so far in a frame, and the place
 /// that waits for its card.
-void DrawTrick(QPainter& painter, const TrickLayout& layout, const TablePlay& play,
+void DrawTrick(QPainter& painter, const TrickLayout& layout, const PlaySnapshot& play,
                CardPainter& cards, const Settings& settings, const TableColours& colours);
 
 void DrawScore(QPainter& painter, const QRectF& room, const QString& score,

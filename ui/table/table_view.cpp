@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QApplication>
 #include <QCursor>
 #include <QLinearGradient>
+#include <QMouseEvent>
 #include <QPainter>
 
 #include "ui/table/best_card_labels.h"
@@ -39,7 +41,7 @@ TableView::TableView(QWidget* parent) : QWidget(parent) {
 
 void TableView::Show(const Board& board, const Settings& settings, const CardPlay* play,
                      std::optional<Seat> toCall) {
-  std::optional<TablePlay> shown = CopyOf(play);
+  std::optional<PlaySnapshot> shown = SnapshotOf(play);
   if (shown != play_) keys_.Forget();
   board_ = board;
   settings_ = settings;
@@ -83,7 +85,7 @@ TableLayout TableView::Layout() const {
 
 /// Every card keeps the place that it had in the full hand: nothing moves under the mouse, and a
 /// card that is taken back returns to where it was.
-void TableView::PlaceCardsLeft(TableLayout& layout, const TablePlay& play) const {
+void TableView::PlaceCardsLeft(TableLayout& layout, const PlaySnapshot& play) const {
   std::erase_if(layout.cards, [&](const PlacedCard& placed) {
     return !play.now.cardsLeft[placed.seat][placed.card.suit].Has(placed.card.rank);
   });
@@ -94,11 +96,12 @@ void TableView::PlaceCardsLeft(TableLayout& layout, const TablePlay& play) const
   }
 }
 
-void TableView::PlaceRanksLeft(TableLayout& layout, const TablePlay& play) const {
-  const TextMeasures measures = MeasureText(layout, board_.hands, settings_, logicalDpiY());
+void TableView::PlaceRanksLeft(TableLayout& layout, const PlaySnapshot& play) const {
+  const TextHandMeasures measures =
+      MeasureTextHands(layout, board_.hands, settings_, logicalDpiY());
   for (const Seat seat : kAllSeats) {
     const PerSuit<Holding>& hand = board_.hands[seat];
-    const QRectF panel = TextPanel(layout, measures, hand, seat);
+    const QRectF panel = TextHandPanel(layout, measures, hand, seat);
     for (const PlacedCard& rank : PlaceRanks(panel, measures, hand, seat)) {
       const bool left = play.now.cardsLeft[seat][rank.card.suit].Has(rank.card.rank);
       if (left) layout.cards.push_back(rank);
@@ -125,7 +128,8 @@ void TableView::paintEvent(QPaintEvent* /*event*/) {
   }
   const PerSeat<Caption> captions = Captions();
   const CaptionLayout pills = LayOutCaptions(layout, captions, settings_, logicalDpiY());
-  if (play_) DrawWon(painter, LayOutWon(layout, *play_), *play_, backs_, colours, font());
+  if (play_)
+    DrawTricksWon(painter, LayOutTricksWon(layout, *play_), *play_, backs_, colours, font());
   DrawCaptions(painter, pills, captions, settings_, colours, palette());
   DrawMiddle(painter, layout, colours);
   if (settings_.cardsFaces) {
@@ -133,7 +137,7 @@ void TableView::paintEvent(QPaintEvent* /*event*/) {
   } else {
     DrawText(painter, layout);
   }
-  if (play_) DrawBestCards(painter, layout, best_, font());
+  if (play_) DrawBestCardLabels(painter, layout, best_, font());
 }
 
 void TableView::DrawEditing(QPainter& painter, const TableEdit& edit, const TableColours& colours) {
@@ -213,16 +217,137 @@ void TableView::DrawCards(QPainter& painter, const TableLayout& layout) {
 
 void TableView::DrawText(QPainter& painter, const TableLayout& layout) const {
   if (!HasCards(board_.hands)) return;
-  const TextMeasures measures = MeasureText(layout, board_.hands, settings_, logicalDpiY());
+  const TextHandMeasures measures =
+      MeasureTextHands(layout, board_.hands, settings_, logicalDpiY());
   for (const Seat seat : kAllSeats) {
     const PerSuit<Holding>& hand = board_.hands[seat];
-    const QRectF panel = TextPanel(layout, measures, hand, seat);
+    const QRectF panel = TextHandPanel(layout, measures, hand, seat);
     if (play_) {
       DrawTextHandInPlay(painter, panel, measures, hand, seat, *play_, settings_, palette());
     } else {
       DrawTextHand(painter, panel, measures, hand, settings_, palette());
     }
   }
+}
+
+// Mouse and keys. Outside of play and editing all of them are left to others.
+
+bool TableView::IsOurKey(const QKeyEvent& event) const {
+  if (edit_) return TableEdit(*edit_).Key(event.key(), event.modifiers()).ours;
+  if (!play_) return false;
+  if (event.key() == Qt::Key_Space && event.modifiers() == Qt::NoModifier) {
+    return play_->now.onPlay.has_value();
+  }
+  return keys_.WouldTake(event.key(), event.modifiers(), play_->HandOnPlay(), play_->legal);
+}
+
+bool TableView::event(QEvent* event) {
+  // A key that plays a card is not a shortcut at the same time: Escape may be one as well.
+  if (event->type() == QEvent::ShortcutOverride && IsOurKey(static_cast<QKeyEvent&>(*event))) {
+    event->accept();
+    return true;
+  }
+  return QWidget::event(event);
+}
+
+void TableView::keyPressEvent(QKeyEvent* event) {
+  if (edit_ && !event->isAutoRepeat() && EditKey(*edit_, *event)) return;
+  if (!play_ || !IsOurKey(*event)) {
+    QWidget::keyPressEvent(event);
+    return;
+  }
+  if (event->isAutoRepeat()) return;  // a key held down plays one card
+  if (event->key() == Qt::Key_Space) {
+    keys_.Forget();
+    emit OnlyCardAsked();
+  } else {
+    const auto answer =
+        keys_.Press(event->key(), event->modifiers(), play_->HandOnPlay(), play_->legal);
+    if (answer.card) emit CardAsked(*answer.card);
+  }
+  update();
+}
+
+void TableView::mousePressEvent(QMouseEvent* event) {
+  if (edit_ && event->button() == Qt::LeftButton) {
+    Ask(edit_->Press(LayOutEdit(size(), board_.hands), event->position()));
+    return;
+  }
+  if (!play_ || event->button() != Qt::LeftButton) {
+    QWidget::mousePressEvent(event);
+    return;
+  }
+  if (const auto hit = CardAt(Layout(), event->position())) {
+    emit CardAsked(hit->card);
+  } else {
+    emit TrickAsked();
+  }
+}
+
+void TableView::mouseDoubleClickEvent(QMouseEvent* event) {
+  // The second click would meet the card below the one that was just played.
+  if (edit_) {
+    mousePressEvent(event);
+  } else if (!play_) {
+    QWidget::mouseDoubleClickEvent(event);
+  }
+}
+
+void TableView::mouseMoveEvent(QMouseEvent* event) {
+  QWidget::mouseMoveEvent(event);
+  if (edit_ && (event->buttons() & Qt::LeftButton) != 0) {
+    edit_->Drag(LayOutEdit(size(), board_.hands), event->position(),
+                QApplication::startDragDistance());
+    update();
+  }
+  ShowCursor(event->position());
+}
+
+void TableView::mouseReleaseEvent(QMouseEvent* event) {
+  if (edit_ && event->button() == Qt::LeftButton) {
+    Ask(edit_->Release(LayOutEdit(size(), board_.hands), event->position()));
+  } else {
+    QWidget::mouseReleaseEvent(event);
+  }
+}
+
+/// Shows what has become of the edit, and passes on what it asks for.
+void TableView::Ask(const std::optional<CardMove>& move) {
+  Describe();
+  if (move) emit MoveAsked(move->card, SeatOf(move->to));
+}
+
+bool TableView::EditKey(TableEdit& edit, const QKeyEvent& event) {
+  const TableEdit::KeyAnswer answer = edit.Key(event.key(), event.modifiers());
+  if (answer.ours) Ask(answer.move);
+  return answer.ours;
+}
+
+void TableView::ShowEditCursor(const TableEdit& edit, QPointF mouse) {
+  const bool card = EditedCardAt(LayOutEdit(size(), board_.hands), board_.hands, mouse).has_value();
+  const EditMethod method = settings_.editMethod;
+  if (edit.Held()) {
+    setCursor(Qt::ClosedHandCursor);
+  } else if (card && method == EditMethod::Dragging) {
+    setCursor(Qt::OpenHandCursor);
+  } else if (method == EditMethod::Clicking && (card || edit.Chosen())) {
+    setCursor(Qt::PointingHandCursor);
+  } else {
+    unsetCursor();
+  }
+}
+
+void TableView::ShowCursor(QPointF mouse) {
+  if (edit_) {
+    ShowEditCursor(*edit_, mouse);
+    return;
+  }
+  bool legal = false;
+  if (play_) {
+    const auto hit = CardAt(Layout(), mouse);
+    legal = hit && play_->IsLegal(hit->card);
+  }
+  legal ? setCursor(Qt::PointingHandCursor) : unsetCursor();
 }
 
 }  // namespace tricklet::ui

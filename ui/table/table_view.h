@@ -67,8 +67,8 @@ class TableView : public QWidget {
 
  private:
   PerSeat<Caption> Captions() const;
-  void PlaceCardsLeft(TableLayout& layout, const TablePlay& play) const;
-  void PlaceRanksLeft(TableLayout& layout, const TablePlay& play) const;
+  void PlaceCardsLeft(TableLayout& layout, const PlaySnapshot& play) const;
+  void PlaceRanksLeft(TableLayout& layout, const PlaySnapshot& play) const;
   void DrawFelt(QPainter& painter, const TableLayout& layout, const TableColours& colours) const;
   void DrawMiddle(QPainter& painter, const TableLayout& layout, const TableColours& colours);
   void DrawCards(QPainter& painter, const TableLayout& layout);
@@ -83,7 +83,7 @@ class TableView : public QWidget {
 
   Board board_;
   Settings settings_;
-  std::optional<TablePlay> play_;
+  std::optional<PlaySnapshot> play_;
   std::optional<TableEdit> edit_;
   std::optional<Seat> toCall_;
   std::vector<CardScore> best_;

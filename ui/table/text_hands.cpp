@@ -5,7 +5,7 @@
 #include <QFontMetricsF>
 
 #include "ui/cards/card_glyphs.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 #include "ui/style/theme.h"
 #include "ui/table/descriptions.h"
 
@@ -19,8 +19,8 @@ constexpr double kPadding = 0.45;
 /// A symbol is as high as a capital of its size.
 constexpr double kSymbolShare = 0.75;
 
-TextMeasures MeasuresAt(const Settings& settings, double pixelsPerPoint) {
-  TextMeasures measures;
+TextHandMeasures MeasuresAt(const Settings& settings, double pixelsPerPoint) {
+  TextHandMeasures measures;
   measures.font = ToFont(settings.hgFont[0]);
   measures.font.setPixelSize(
       std::max(1, static_cast<int>(settings.hgFont[0].size * pixelsPerPoint)));
@@ -32,13 +32,13 @@ TextMeasures MeasuresAt(const Settings& settings, double pixelsPerPoint) {
   return measures;
 }
 
-double Padding(const TextMeasures& measures) {
+double Padding(const TextHandMeasures& measures) {
   return kPadding * measures.lineHeight;
 }
 
-bool Fits(const TableLayout& layout, const TextMeasures& measures, const HandTable& hands) {
+bool Fits(const TableLayout& layout, const TextHandMeasures& measures, const HandTable& hands) {
   return std::all_of(kAllSeats.begin(), kAllSeats.end(), [&](Seat seat) {
-    const QSizeF size = TextPanelSize(measures, hands[seat]);
+    const QSizeF size = TextHandSize(measures, hands[seat]);
     const QRectF& area = layout.hands[seat].area;
     return size.width() <= area.width() && size.height() <= area.height();
   });
@@ -50,14 +50,14 @@ QColor InkOf(const Settings& settings, const QPalette& palette) {
 }
 
 /// Room for the ranks of `suit`.
-QRectF LineOf(const QRectF& panel, const TextMeasures& measures, Suit suit) {
+QRectF LineOf(const QRectF& panel, const TextHandMeasures& measures, Suit suit) {
   return {panel.left() + Padding(measures) + measures.symbolWidth,
           panel.top() + Padding(measures) / 2 + IndexOf(suit) * measures.lineHeight, panel.width(),
           measures.lineHeight};
 }
 
 /// The panel itself with the column of symbols.
-void DrawPanel(QPainter& painter, const QRectF& panel, const TextMeasures& measures,
+void DrawPanel(QPainter& painter, const QRectF& panel, const TextHandMeasures& measures,
                const Settings& settings, const QPalette& palette) {
   const double radius = 0.3 * measures.lineHeight;
   painter.setPen(Qt::NoPen);
@@ -73,7 +73,7 @@ void DrawPanel(QPainter& painter, const QRectF& panel, const TextMeasures& measu
 
 }  // namespace
 
-QSizeF TextPanelSize(const TextMeasures& measures, const PerSuit<Holding>& hand) {
+QSizeF TextHandSize(const TextHandMeasures& measures, const PerSuit<Holding>& hand) {
   const QFontMetricsF metrics(measures.font);
   double widest = 0;
   for (const Suit suit : kAllSuits) {
@@ -83,12 +83,12 @@ QSizeF TextPanelSize(const TextMeasures& measures, const PerSuit<Holding>& hand)
           kSuits * measures.lineHeight + Padding(measures)};
 }
 
-TextMeasures MeasureText(const TableLayout& layout, const HandTable& hands,
-                         const Settings& settings, double dotsPerInch) {
+TextHandMeasures MeasureTextHands(const TableLayout& layout, const HandTable& hands,
+                                  const Settings& settings, double dotsPerInch) {
   const double growth = std::max(1.0, std::min(layout.felt.width() / kReferenceSize.width(),
                                                layout.felt.height() / kReferenceSize.height()));
   double scale = dotsPerInch / kPointsPerInch * growth;
-  TextMeasures measures = MeasuresAt(settings, scale);
+  TextHandMeasures measures = MeasuresAt(settings, scale);
   constexpr double kShrink = 0.94;
   constexpr int kLeastPixels = 4;
   while (!Fits(layout, measures, hands) && measures.font.pixelSize() > kLeastPixels) {
@@ -98,10 +98,10 @@ TextMeasures MeasureText(const TableLayout& layout, const HandTable& hands,
   return measures;
 }
 
-QRectF TextPanel(const TableLayout& layout, const TextMeasures& measures,
-                 const PerSuit<Holding>& hand, Seat seat) {
+QRectF TextHandPanel(const TableLayout& layout, const TextHandMeasures& measures,
+                     const PerSuit<Holding>& hand, Seat seat) {
   const QRectF& area = layout.hands[seat].area;
-  QRectF panel(area.topLeft(), TextPanelSize(measures, hand));
+  QRectF panel(area.topLeft(), TextHandSize(measures, hand));
   if (seat == Seat::North || seat == Seat::South)
     panel.moveLeft(area.center().x() - panel.width() / 2);
   if (seat == Seat::South) panel.moveBottom(area.bottom());
@@ -109,7 +109,7 @@ QRectF TextPanel(const TableLayout& layout, const TextMeasures& measures,
   return panel.intersected(area);
 }
 
-std::vector<PlacedCard> PlaceRanks(const QRectF& panel, const TextMeasures& measures,
+std::vector<PlacedCard> PlaceRanks(const QRectF& panel, const TextHandMeasures& measures,
                                    const PerSuit<Holding>& hand, Seat seat) {
   const QFontMetricsF metrics(measures.font);
   const double blank = metrics.horizontalAdvance(u' ');
@@ -131,7 +131,7 @@ std::vector<PlacedCard> PlaceRanks(const QRectF& panel, const TextMeasures& meas
   return ranks;
 }
 
-void DrawTextHand(QPainter& painter, const QRectF& panel, const TextMeasures& measures,
+void DrawTextHand(QPainter& painter, const QRectF& panel, const TextHandMeasures& measures,
                   const PerSuit<Holding>& hand, const Settings& settings, const QPalette& palette) {
   DrawPanel(painter, panel, measures, settings, palette);
   painter.setFont(measures.font);
@@ -142,8 +142,8 @@ void DrawTextHand(QPainter& painter, const QRectF& panel, const TextMeasures& me
   }
 }
 
-void DrawTextHandInPlay(QPainter& painter, const QRectF& panel, const TextMeasures& measures,
-                        const PerSuit<Holding>& hand, Seat seat, const TablePlay& play,
+void DrawTextHandInPlay(QPainter& painter, const QRectF& panel, const TextHandMeasures& measures,
+                        const PerSuit<Holding>& hand, Seat seat, const PlaySnapshot& play,
                         const Settings& settings, const QPalette& palette) {
   DrawPanel(painter, panel, measures, settings, palette);
   const bool onPlay = play.now.onPlay == seat;

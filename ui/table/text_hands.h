@@ -15,7 +15,7 @@
 namespace tricklet::ui {
 
 /// Sizes of one text display; all four hands share them.
-struct TextMeasures {
+struct TextHandMeasures {
   QFont font;
   double symbolHeight = 0;
   double symbolWidth = 0;  ///< the column of symbols, with the space after it
@@ -24,25 +24,25 @@ struct TextMeasures {
 
 /// Fonts as the settings ask, larger on a table larger than 760 x 680 and smaller where a hand
 /// would not fit otherwise. `dotsPerInch` is that of the screen.
-TextMeasures MeasureText(const TableLayout& layout, const HandTable& hands,
-                         const Settings& settings, double dotsPerInch);
+TextHandMeasures MeasureTextHands(const TableLayout& layout, const HandTable& hands,
+                                  const Settings& settings, double dotsPerInch);
 
 /// What a hand takes, and its panel inside its area.
-QSizeF TextPanelSize(const TextMeasures& measures, const PerSuit<Holding>& hand);
-QRectF TextPanel(const TableLayout& layout, const TextMeasures& measures,
-                 const PerSuit<Holding>& hand, Seat seat);
+QSizeF TextHandSize(const TextHandMeasures& measures, const PerSuit<Holding>& hand);
+QRectF TextHandPanel(const TableLayout& layout, const TextHandMeasures& measures,
+                     const PerSuit<Holding>& hand, Seat seat);
 
-void DrawTextHand(QPainter& painter, const QRectF& panel, const TextMeasures& measures,
+void DrawTextHand(QPainter& painter, const QRectF& panel, const TextHandMeasures& measures,
                   const PerSuit<Holding>& hand, const Settings& settings, const QPalette& palette);
 
 /// The ranks of a hand in its panel as `DrawTextHand` writes them: what a click may meet.
-std::vector<PlacedCard> PlaceRanks(const QRectF& panel, const TextMeasures& measures,
+std::vector<PlacedCard> PlaceRanks(const QRectF& panel, const TextHandMeasures& measures,
                                    const PerSuit<Holding>& hand, Seat seat);
 
 /// The hand during play. Cards that are gone leave their places empty. In the hand on play legal
 /// ranks are bold and underlined and all others dim.
-void DrawTextHandInPlay(QPainter& painter, const QRectF& panel, const TextMeasures& measures,
-                        const PerSuit<Holding>& hand, Seat seat, const TablePlay& play,
+void DrawTextHandInPlay(QPainter& painter, const QRectF& panel, const TextHandMeasures& measures,
+                        const PerSuit<Holding>& hand, Seat seat, const PlaySnapshot& play,
                         const Settings& settings, const QPalette& palette);
 
 }  // namespace tricklet::ui

@@ -20,7 +20,7 @@ double RightOfSouth(const TableLayout& table) {
   return table.hands[Seat::South].area.center().x() + kWidestFan / 2 * table.cardSize.width();
 }
 
-void PlaceCounts(WonLayout& layout, const TableLayout& table) {
+void PlaceCounts(TricksWonLayout& layout, const TableLayout& table) {
   const QRectF& caption = table.hands[Seat::South].caption;
   const double high = caption.height();
   const double beside = caption.right() - RightOfSouth(table) - kGap * high;
@@ -39,8 +39,8 @@ void PlaceCounts(WonLayout& layout, const TableLayout& table) {
 
 }  // namespace
 
-WonLayout LayOutWon(const TableLayout& table, const TablePlay& play) {
-  WonLayout layout;
+TricksWonLayout LayOutTricksWon(const TableLayout& table, const PlaySnapshot& play) {
+  TricksWonLayout layout;
   PlaceCounts(layout, table);
   const QRectF& caption = table.hands[Seat::South].caption;
   const double room = kWing * caption.width();
@@ -58,8 +58,8 @@ WonLayout LayOutWon(const TableLayout& table, const TablePlay& play) {
   return layout;
 }
 
-void DrawWon(QPainter& painter, const WonLayout& layout, const TablePlay& play, CardBacks& backs,
-             const TableColours& colours, const QFont& font) {
+void DrawTricksWon(QPainter& painter, const TricksWonLayout& layout, const PlaySnapshot& play,
+                   CardBacks& backs, const TableColours& colours, const QFont& font) {
   const PlayState& now = play.now;
   // A trick that still lies open on the table is counted, but not turned yet.
   const int turned = now.tricksPlayed - (now.trickGathered || now.cardsInTrick > 0 ? 0 : 1);

@@ -14,16 +14,16 @@
 namespace tricklet::ui {
 
 /// At the lower edge of the felt, on either side of South's caption.
-struct WonLayout {
+struct TricksWonLayout {
   PerSide<QRectF> counts;  ///< in the right corner; one above the other where there is room
   /// The place of each trick in its order, `picCardBackV` or `picCardBackH`; all empty where there
   /// is no room.
   std::array<QRectF, kTricks> backs;
 };
 
-WonLayout LayOutWon(const TableLayout& table, const TablePlay& play);
+TricksWonLayout LayOutTricksWon(const TableLayout& table, const PlaySnapshot& play);
 
-void DrawWon(QPainter& painter, const WonLayout& layout, const TablePlay& play, CardBacks& backs,
-             const TableColours& colours, const QFont& font);
+void DrawTricksWon(QPainter& painter, const TricksWonLayout& layout, const PlaySnapshot& play,
+                   CardBacks& backs, const TableColours& colours, const QFont& font);
 
 }  // namespace tricklet::ui

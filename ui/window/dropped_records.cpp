@@ -4,7 +4,7 @@
 #include <QUrl>
 
 #include "formats/lin/lin_reader.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
 

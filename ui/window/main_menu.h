@@ -29,7 +29,7 @@ class MainMenu : public QObject {
   /// Sets what is enabled and checked.
   void Show(const Session& session, const PlayControl& play, const EditControl& edit);
 
-  /// Off while long work runs: no command can be given then.
+  /// Enables the menus, or disables them while long work runs: no command can be given then.
   void SetEnabled(bool enabled);
 
  signals:

@@ -30,9 +30,9 @@
 #include "ui/panes/statistics_pane.h"
 #include "ui/panes/traveller_pane.h"
 #include "ui/style/progress_frame.h"
+#include "ui/style/qt_text.h"
 #include "ui/style/section.h"
 #include "ui/style/side_column.h"
-#include "ui/style/text.h"
 #include "ui/table/table_view.h"
 #include "ui/window/dropped_records.h"
 #include "ui/window/main_menu.h"
@@ -79,7 +79,7 @@ MainWindow::MainWindow(Session& session)
 }
 
 MainWindow::~MainWindow() {
-  editPane_->ForgetTyping();  // a line that goes loses the focus first
+  editPane_->ForgetTyping();  // a line of text loses the focus when it is destroyed
 }
 
 void MainWindow::LayOut() {
@@ -213,7 +213,7 @@ void MainWindow::DisplayAuction() {
   DisplayPlay();
 }
 
-/// What a card more or less on the table changes.
+/// All that changes when a card is played or taken back.
 void MainWindow::DisplayPlay() {
   if (progress_->IsWorking()) return;
   menu_->Show(session_, *play_, *edit_);
@@ -224,7 +224,7 @@ void MainWindow::DisplayPlay() {
   HideAnswers();
 }
 
-/// What a class is not to see while it bids, unless it has been switched on.
+/// Hides what a class is not to see while it bids, unless the panes have been switched on.
 void MainWindow::HideAnswers() {
   if (!presentation_ || presentationPanes_) return;
   makeable_->hide();
@@ -292,7 +292,7 @@ void MainWindow::PlaceBesideHands(QWidget* dialog) {
   PlaceAt(dialog, width() - dialog->width() - WorkArea::kMargin);
 }
 
-/// At the lower edge of the window, `left` from its own left.
+/// At the lower edge of the window, `left` pixels from its left edge.
 void MainWindow::PlaceAt(QWidget* dialog, int left) {
   const QPoint corner = mapToGlobal(QPoint(left, height() - dialog->height() - kFrameHeight));
   const QRect room = screen()->availableGeometry();
@@ -327,8 +327,8 @@ void MainWindow::ShowColumns() {
   if (editing) statistics_->hide();
 }
 
-/// Another board is chosen neither while this one is edited nor while it is played, and after the
-/// play is what one comes to next.
+/// No other board can be chosen while this one is edited or played; after the play the way to the
+/// next board stands out.
 void MainWindow::ShowLibrary() {
   KeepRoom(library_, play_->Unfinished());  // so that the buttons below stay where they are
   library_->setVisible(!edit_->Editing() && !play_->Unfinished());

@@ -43,7 +43,7 @@ void WorkArea::ShowMargin(bool shown) {
   layout()->setContentsMargins(margin, margin, margin, margin);
 }
 
-/// By the size alone, so that nothing moves from board to board.
+/// Widths depend on the window's size alone, so that nothing moves from board to board.
 void WorkArea::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   const QSize room = layout()->contentsRect().size();

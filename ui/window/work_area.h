@@ -10,7 +10,7 @@ class SideColumn;
 class TableView;
 
 /// The table between two columns of panes, with the progress of long work below. The right column
-/// is wider where the table could make nothing of the room but air.
+/// takes the width that the table, limited by its height, could not use.
 class WorkArea : public QWidget {
   Q_OBJECT
 
@@ -18,9 +18,9 @@ class WorkArea : public QWidget {
   WorkArea(SideColumn* left, TableView* table, SideColumn* right, ProgressFrame* progress,
            QWidget* parent = nullptr);
 
-  /// Round the panes, and between them.
+  /// Round the panes and between them, in pixels.
   static constexpr int kMargin = 10;
-  /// Without the margin round them for a table that fills the screen.
+  /// Shows the margin round the panes, or leaves it out for a table that fills the screen.
   void ShowMargin(bool shown);
 
  protected:

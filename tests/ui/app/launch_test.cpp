@@ -6,7 +6,7 @@
 #include "library/start_up.h"
 #include "tests/support/library_fixture.h"
 #include "ui/app/application.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
 namespace {

@@ -9,7 +9,7 @@
 #include "library/board_store.h"
 #include "tests/support/fake_solver.h"
 #include "tests/support/library_fixture.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
 namespace {

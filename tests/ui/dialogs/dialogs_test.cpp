@@ -12,7 +12,7 @@
 #include "ui/background/later.h"
 #include "ui/dialogs/frmExport.h"
 #include "ui/dialogs/frmStart.h"
-#include "ui/style/text.h"
+#include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
 namespace {
@@ -71,7 +71,7 @@ TEST_F(DialogsTest, TheExportDialogStaysUntilItsRangeIsValid) {
     dialog.findChild<QComboBox*>(QString::fromLatin1(name))->setEditText(QString::fromLatin1(text));
   };
   dialog.show();
-  EXPECT_TRUE(dialog.findChild<QRadioButton*>(QStringLiteral("optType"))->isChecked());
+  EXPECT_TRUE(dialog.findChild<QRadioButton*>(QStringLiteral("optType_0"))->isChecked());
   for (const auto& [from, to] : {std::pair("9", "3"), std::pair("x", "8"), std::pair("2", "")}) {
     set("cmbFrom", from);
     set("cmbTo", to);
@@ -87,7 +87,7 @@ TEST_F(DialogsTest, TheExportDialogStaysUntilItsRangeIsValid) {
   EXPECT_EQ(dialog.Range().first, 2);
   EXPECT_EQ(dialog.Range().last, 8);
   EXPECT_EQ(dialog.Range().type, "pbn");
-  const auto types = dialog.findChildren<QRadioButton*>(QStringLiteral("optType"));
+  const auto types = dialog.findChildren<QRadioButton*>();
   for (const char* type : {"dlm", "lin", "pbn"}) {
     for (QRadioButton* option : types) {
       if (FromQt(option->text().toLower()) == type) option->click();

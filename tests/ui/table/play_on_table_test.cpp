@@ -31,7 +31,7 @@ Board Playable() {
   return board;
 }
 
-class TablePlayTest : public testing::Test {
+class PlayOnTableTest : public testing::Test {
  protected:
   void SetUp() override {
     QObject::connect(&view_, &TableView::CardAsked, &view_, [this](Card card) { asked_ = card; });
@@ -88,7 +88,7 @@ constexpr Card kClubFour{Suit::Clubs, Rank::Four};
 constexpr Card kClubFive{Suit::Clubs, Rank::Five};
 constexpr Card kClubAce{Suit::Clubs, Rank::Ace};
 
-TEST_F(TablePlayTest, AsksForEveryCardLeftWhereItIsShown) {
+TEST_F(PlayOnTableTest, AsksForEveryCardLeftWhereItIsShown) {
   Play({kClubEight, kClubFour, kClubFive});
   for (const bool faces : {true, false}) {
     settings_.cardsFaces = faces;
@@ -105,7 +105,7 @@ TEST_F(TablePlayTest, AsksForEveryCardLeftWhereItIsShown) {
   EXPECT_EQ(tricksAsked_, 0);
 }
 
-TEST_F(TablePlayTest, AsksForTheTrickBesideTheCards) {
+TEST_F(PlayOnTableTest, AsksForTheTrickBesideTheCards) {
   Play({kClubEight, kClubFour, kClubFive, kClubAce});
   Click(view_.Layout().centre.center());
   Click({3, 340});
@@ -113,7 +113,7 @@ TEST_F(TablePlayTest, AsksForTheTrickBesideTheCards) {
   EXPECT_FALSE(asked_);
 }
 
-TEST_F(TablePlayTest, KeepsCardsInTheirPlacesAndRaisesTheLegalOnes) {
+TEST_F(PlayOnTableTest, KeepsCardsInTheirPlacesAndRaisesTheLegalOnes) {
   const TableLayout full = LayOutTable(view_.size(), board_.hands, HandDisplay::Cards);
   Play({kClubEight});
   const TableLayout now = view_.Layout();
@@ -128,7 +128,7 @@ TEST_F(TablePlayTest, KeepsCardsInTheirPlacesAndRaisesTheLegalOnes) {
   }
 }
 
-TEST_F(TablePlayTest, PlaysByKeysAndLeavesOthersToTheWindow) {
+TEST_F(PlayOnTableTest, PlaysByKeysAndLeavesOthersToTheWindow) {
   EXPECT_TRUE(Key(Qt::Key_H));
   EXPECT_TRUE(Key(Qt::Key_Q));
   EXPECT_EQ(asked_, (Card{Suit::Hearts, Rank::Queen}));
@@ -144,7 +144,7 @@ TEST_F(TablePlayTest, PlaysByKeysAndLeavesOthersToTheWindow) {
   EXPECT_EQ(asked_, kClubFour);
 }
 
-TEST_F(TablePlayTest, TakesEscapeFromTheShortcutsWhileASuitIsHalfTyped) {
+TEST_F(PlayOnTableTest, TakesEscapeFromTheShortcutsWhileASuitIsHalfTyped) {
   const auto overrides = [&] {
     QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_Escape, Qt::NoModifier);
     event.ignore();
@@ -158,7 +158,7 @@ TEST_F(TablePlayTest, TakesEscapeFromTheShortcutsWhileASuitIsHalfTyped) {
   EXPECT_FALSE(overrides());
 }
 
-TEST_F(TablePlayTest, PointsAtLegalCardsOnlyAndPlaysOneCardToADoubleClick) {
+TEST_F(PlayOnTableTest, PointsAtLegalCardsOnlyAndPlaysOneCardToADoubleClick) {
   Play({kClubEight});
   for (const PlacedCard& placed : view_.Layout().cards) {
     const QPointF index = placed.rect.topLeft() + QPointF(6, 12);
@@ -172,7 +172,7 @@ TEST_F(TablePlayTest, PointsAtLegalCardsOnlyAndPlaysOneCardToADoubleClick) {
   EXPECT_EQ(tricksAsked_, 1);
 }
 
-TEST_F(TablePlayTest, TakesNothingAndShowsNothingOutsideOfPlay) {
+TEST_F(PlayOnTableTest, TakesNothingAndShowsNothingOutsideOfPlay) {
   view_.Show(board_, settings_);
   const QImage plain = Picture();
   play_.Stop();
@@ -187,7 +187,7 @@ TEST_F(TablePlayTest, TakesNothingAndShowsNothingOutsideOfPlay) {
   EXPECT_EQ(tricksAsked_ + onlyAsked_, 0);
 }
 
-TEST_F(TablePlayTest, TellsTurnTrickAndTricksWon) {
+TEST_F(PlayOnTableTest, TellsTurnTrickAndTricksWon) {
   EXPECT_TRUE(Tells("4S by South. West to play. No card on the table. NS: 0. EW: 0."));
   Play({kClubEight, kClubFour});
   EXPECT_TRUE(Tells("East to play. On the table: North clubs 4, West clubs 8 (winning). NS: 0"));
@@ -202,7 +202,7 @@ TEST_F(TablePlayTest, TellsTurnTrickAndTricksWon) {
   EXPECT_TRUE(Tells("East to call."));
 }
 
-TEST_F(TablePlayTest, PaintsEachMomentItsOwnWay) {
+TEST_F(PlayOnTableTest, PaintsEachMomentItsOwnWay) {
   std::vector<QImage> moments{Picture()};
   Key(Qt::Key_H);
   moments.push_back(Picture());
@@ -245,7 +245,7 @@ TEST_P(TrickGeometry, KeepsTheTrickInThePanelWithEveryIndexInSight) {
 }
 
 TEST_P(TrickGeometry, KeepsTricksWonOnTheFeltBesideTheHands) {
-  const WonLayout won = LayOutWon(table_, TablePlay());
+  const TricksWonLayout won = LayOutTricksWon(table_, PlaySnapshot());
   std::vector<QRectF> parts(won.counts.begin(), won.counts.end());
   parts.insert(parts.end(), won.backs.begin(), won.backs.end());
   for (const QRectF& part : parts) {

@@ -84,9 +84,9 @@ TEST_F(TableViewTest, FitsTextIntoItsAreaWhateverTheFont) {
     settings.hgFont[0].size = settings.suitFontSize = points;
     for (const QSizeF size : {QSizeF(380, 340), QSizeF(760, 680), QSizeF(3840, 2160)}) {
       const TableLayout layout = LayOutTable(size, board.hands, HandDisplay::Text);
-      const TextMeasures measures = MeasureText(layout, board.hands, settings, 96);
+      const TextHandMeasures measures = MeasureTextHands(layout, board.hands, settings, 96);
       for (const Seat seat : kAllSeats) {
-        const QSizeF needed = TextPanelSize(measures, board.hands[seat]);
+        const QSizeF needed = TextHandSize(measures, board.hands[seat]);
         const QSizeF room = layout.hands[seat].area.size();
         EXPECT_LE(needed.width(), room.width()) << points << " " << SeatName[seat];
         EXPECT_LE(needed.height(), room.height()) << points << " " << SeatName[seat];

@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QScrollBar>
+#include <QTableView>
 #include <QTableWidget>
 #include <QTimer>
 #include <QToolButton>
@@ -45,13 +46,15 @@ class TravellerWindowTest : public WindowTest {
            played + tags;
   }
 
-  QTableWidget* Grid() const { return Find<QTableWidget>("flexTraveller"); }
+  QTableView* Grid() const { return Find<QTableView>("flexTraveller"); }
+  QString Head(int column) const {
+    return Grid()->model()->headerData(column, Qt::Horizontal).toString();
+  }
+  QModelIndex At(int row, int column) const { return Grid()->model()->index(row, column); }
+  int Rows() const { return Grid()->model()->rowCount(); }
   QString Cell(int row, const char* head) const {
-    const QTableWidget* grid = Grid();
-    for (int column = 0; column < grid->columnCount(); ++column) {
-      if (grid->horizontalHeaderItem(column)->text() == QString::fromLatin1(head)) {
-        return grid->item(row, column)->text();
-      }
+    for (int column = 0; column < Grid()->model()->columnCount(); ++column) {
+      if (Head(column) == QString::fromLatin1(head)) return At(row, column).data().toString();
     }
     ADD_FAILURE() << "no column " << head;
     return {};
@@ -59,11 +62,11 @@ class TravellerWindowTest : public WindowTest {
   /// The numbers of the pairs sitting North-South, down the grid.
   std::string Pairs() const {
     std::string pairs;
-    for (int row = 0; row < Grid()->rowCount(); ++row) pairs += FromQt(Cell(row, "NS"));
+    for (int row = 0; row < Rows(); ++row) pairs += FromQt(Cell(row, "NS"));
     return pairs;
   }
   void ClickRow(int row) const {
-    const QRect room = Grid()->visualItemRect(Grid()->item(row, 0));
+    const QRect room = Grid()->visualRect(At(row, 0));
     QTest::mouseClick(Grid()->viewport(), Qt::LeftButton, Qt::NoModifier, room.center());
   }
   void ClickHead(int column) const {
@@ -87,7 +90,7 @@ class TravellerWindowTest : public WindowTest {
   void ExpectNothingLeftOfTheRecord(const char* after) const {
     EXPECT_EQ(window->findChild<Results*>()->Record(), nullptr) << after;
     EXPECT_EQ(Find<QComboBox>("cmbLinNames")->currentIndex(), -1) << after;
-    EXPECT_TRUE(Grid()->selectedItems().isEmpty()) << after;
+    EXPECT_FALSE(Grid()->selectionModel()->hasSelection()) << after;
     EXPECT_EQ(Place(), QString()) << after;
     EXPECT_FALSE(Find<QAction>("mnuLinForward")->isEnabled()) << after;
     EXPECT_FALSE(Find<QAction>("mnuLinLeave")->isEnabled()) << after;
@@ -115,7 +118,7 @@ TEST_F(TravellerWindowTest, ShowsAndHidesTheTraveller) {
   EXPECT_EQ(Cell(2, "Cont"), QStringLiteral("Pass"));
   EXPECT_EQ(Cell(0, "Names"), QStringLiteral("Ann & Bob v Cy & Di"));
   Key(Qt::Key_PageDown);
-  EXPECT_EQ(Grid()->rowCount(), 0) << "board 2 has no results";
+  EXPECT_EQ(Rows(), 0) << "board 2 has no results";
   EXPECT_TRUE(button->isVisible());
   QComboBox* libraries = Find<QComboBox>("cmbLibs");
   libraries->setCurrentIndex(1);
@@ -128,9 +131,7 @@ TEST_F(TravellerWindowTest, IsSortedByEveryColumn) {
   Open();
   Grid()->horizontalScrollBar()->setValue(0);
   QStringList heads;
-  for (int column = 0; column < Grid()->columnCount(); ++column) {
-    heads += Grid()->horizontalHeaderItem(column)->text();
-  }
+  for (int column = 0; column < Grid()->model()->columnCount(); ++column) heads += Head(column);
   EXPECT_EQ(heads.join(QLatin1Char(' ')),
             QStringLiteral("NS EW Cont By Ld Tr NS+ EW+ MP MP Names"));
   struct Case {
@@ -150,7 +151,7 @@ TEST_F(TravellerWindowTest, IsSortedByEveryColumn) {
     EXPECT_EQ(Pairs(), "1357") << "as it was";
   }
   ClickRow(0);  // that of pair 1, the best score
-  EXPECT_EQ(Grid()->currentColumn(), 0);
+  EXPECT_EQ(Grid()->currentIndex().column(), 0);
   Grid()->setFocus();
   FocusKey(Qt::Key_Right);
   for (const char* pairs : {"3571", "1753"}) {
@@ -263,7 +264,7 @@ TEST_F(TravellerWindowTest, WhateverReplacesTheBoardEndsTheRecord) {
   EXPECT_EQ(window->findChild<Results*>()->Record(), nullptr);
   ClickRow(0);
   EXPECT_EQ(window->findChild<Results*>()->Record(), nullptr) << "the board is being played";
-  EXPECT_TRUE(Grid()->selectedItems().isEmpty());
+  EXPECT_FALSE(Grid()->selectionModel()->hasSelection());
   Click("cmdPlay");
   look();
   ASSERT_TRUE(RecycleLinData(session));
