@@ -10,7 +10,6 @@
 #include "bench/temporary_root.h"
 #include "core/text.h"
 #include "formats/exchange/import.h"
-#include "formats/exchange/import_lin.h"
 #include "library/session.h"
 
 namespace tricklet::bench {

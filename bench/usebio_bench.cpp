@@ -103,7 +103,8 @@ class Fixture : public TemporaryRoot {
     const std::string text = SessionText();
     ReplaceWholeFile(file, text);
     const auto read = std::get<UsebioResults>(ReadUsebio(text));
-    for (const Board& board : BoardsOfLinData(read.data, kFirstBoardNumber, kBoards)) {
+    LeftOut leftOut;
+    for (const Board& board : BoardsOfLinData(read.data, kFirstBoardNumber, kBoards, leftOut)) {
       boardTexts.push_back(WriteBoardText(board));
     }
   }

@@ -7,7 +7,7 @@
 #include "cli/board_commands.h"
 #include "cli/command.h"
 #include "core/text.h"
-#include "formats/exchange/import_lin.h"
+#include "formats/exchange/import.h"
 
 namespace tricklet::cli {
 namespace {

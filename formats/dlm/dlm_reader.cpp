@@ -5,6 +5,7 @@
 
 #include "core/text.h"
 #include "formats/dlm/dlm_deal.h"
+#include "formats/sink/record_text.h"
 
 namespace tricklet {
 namespace {
@@ -44,7 +45,7 @@ class DlmReader {
 
   void ReadBoard(const std::string& line) {
     const int number = LeadingNumber(std::string_view(line).substr(kBoard.size()));
-    if (!sink_.Begin(number, ThousandthsRead(text_, rest_), kWholeText)) {
+    if (!sink_.Begin(number, ThousandthsRead(text_, rest_))) {
       result_.cancelled = stopped_ = true;
       return;
     }

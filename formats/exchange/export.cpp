@@ -25,9 +25,7 @@ constexpr int kIncompleteListed = 10;  // fewer incomplete boards than this are 
 
 /// A whole text box as a board number; 0 when it is none.
 int BoardNumberFromText(std::string_view text) {
-  const std::string_view digits = Trim(text);
-  const bool number = !digits.empty() && digits.find_first_not_of("0123456789") == digits.npos;
-  return number ? LeadingNumber(digits) : 0;
+  return WholeNumber(Trim(text)).value_or(0);
 }
 
 /// Boards of a range on their way into one file.
@@ -35,6 +33,7 @@ struct ExportRun {
   std::string text;
   std::vector<int> incomplete;
   bool cancelled = false;
+  int lastWritable = kLastBoardNumber;  // what the type of file can hold
 };
 
 /// Loads board `number` of the range for writing; false when it is incomplete, which the run
@@ -67,6 +66,7 @@ void CollectPBN(Session& session, const ExportRange& range, ExportRun& run) {
 
 void CollectDLM(Session& session, const ExportRange& range, ExportRun& run) {
   run.text = DLMHeader(range.first, range.last);
+  run.lastWritable = kLastDLMBoard;
   Board board;
   for (int number = kFirstBoardNumber; number <= kLastDLMBoard; ++number) {
     run.text += DLMBoardHead(number);
@@ -98,13 +98,31 @@ std::string IncompleteText(const std::vector<int>& incomplete) {
   return text;
 }
 
-void ReportRun(Session& session, const ExportRun& run, const fs::path& path) {
+std::string BoardsText(int first, int last) {
+  return first == last ? "board " + std::to_string(first)
+                       : "boards " + std::to_string(first) + "-" + std::to_string(last);
+}
+
+/// What the file cannot hold of a range that goes beyond it.
+std::string BeyondText(const ExportRange& range, const ExportRun& run) {
+  std::string text = "The file can hold boards 1 to " + std::to_string(run.lastWritable) + ": ";
+  if (range.first > run.lastWritable) return text + "none of the range was written";
+  if (run.incomplete.empty()) text += BoardsText(range.first, run.lastWritable) + " written, ";
+  return text + BoardsText(run.lastWritable + 1, range.last) + " left out";
+}
+
+/// Tells how it went; true when all boards were written.
+bool ReportRun(Session& session, const ExportRange& range, const ExportRun& run,
+               const fs::path& path) {
   if (!run.incomplete.empty()) session.host.Tell(IncompleteText(run.incomplete));
   if (run.cancelled) {
     session.host.Tell("Export cancelled");
-  } else if (run.incomplete.empty()) {
-    session.host.Tell("File " + PathText(path) + " created");
+    return false;
   }
+  if (run.incomplete.empty()) session.host.Tell("File " + PathText(path) + " created");
+  const bool beyond = range.last > run.lastWritable;
+  if (beyond) session.host.Tell(BeyondText(range, run));
+  return run.incomplete.empty() && !beyond;
 }
 
 using Collector = void (*)(Session&, const ExportRange&, ExportRun&);
@@ -142,8 +160,7 @@ bool WriteRange(Session& session, const ExportRange& range, const fs::path& path
     ErrorReport(session.host, fault);
     return false;
   }
-  ReportRun(session, run, path);
-  return !run.cancelled && run.incomplete.empty();
+  return ReportRun(session, range, run, path);
 }
 
 }  // namespace

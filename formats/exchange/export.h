@@ -37,7 +37,8 @@ std::filesystem::path SuggestedExportPath(const std::filesystem::path& last,
 /// takes the choice or becomes empty) and writes it. True when all boards were written.
 bool Export(Session& session, const ExportRange& range, std::filesystem::path& path);
 
-/// Writes the range to a file already named; its ending selects the format.
+/// Writes the range to a file already named; its ending selects the format. True when all boards
+/// were written; what was not is told.
 bool ExportFile(Session& session, const ExportRange& range, const std::filesystem::path& path);
 
 }  // namespace tricklet

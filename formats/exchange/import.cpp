@@ -1,52 +1,108 @@
 #include "formats/exchange/import.h"
 
+#include <algorithm>
 #include <string>
-#include <utility>
+#include <vector>
 
-#include "formats/dlm/dlm_reader.h"
 #include "formats/exchange/file_type.h"
 #include "formats/exchange/import_run.h"
-#include "formats/exchange/import_xml.h"
-#include "formats/pbn/pbn_reader.h"
+#include "formats/exchange/record_reader.h"
+#include "formats/lin/lin_reader.h"
 #include "library/board_store.h"
+#include "library/library_store.h"
 
 namespace tricklet {
 namespace {
 
 namespace fs = std::filesystem;
 
-ResultsReader XmlReaderOf(Session& session, const fs::path& path) {
-  return {[&session, &path](std::string bytes, BoardSink& sink) {
-    return ReadXML(session, path, std::move(bytes), sink);
-  }};
+/// What one of the commands imports.
+struct Importable {
+  const char* description;
+  std::vector<std::string> types;
+  const char* otherType;  // told of a file of another one
+};
+
+const Importable& HandRecords() {
+  static const Importable kHandRecords{
+      "Hand Records", {"pbn", "dlm", "xml"}, "The file must be of type pbn, dlm or xml"};
+  return kHandRecords;
 }
 
-ImportOutcome ImportChosen(Session& session, const fs::path& path) {
-  const std::string type = FileTypeOf(path);
-  if (type == "pbn") return StoreFile(session, path, DealReader{ReadPBN});
-  if (type == "dlm") return StoreFile(session, path, DealReader{ReadDLM});
-  if (type == "xml") return StoreFile(session, path, XmlReaderOf(session, path));
-  session.host.Tell("The file must be of type pbn, dlm or xml");
+const Importable& LinRecords() {
+  static const Importable kLinRecords{"LIN records", {"lin"}, "The file must be of type lin"};
+  return kLinRecords;
+}
+
+bool MayOverwriteLibrary(Session& session) {
+  CountHands(session);
+  if (session.library.boardCount == 0) return true;
+  return session.host.Ask("Overwrite existing hands in library " + session.LibraryName() + "?",
+                          "Hands already in library", Buttons::YesNo) == Answer::Yes;
+}
+
+/// The questions before any file is touched. False when the person said no; the board is then as it
+/// is stored, or still has its changes.
+bool MayImport(Session& session) {
+  return SettleChanges(session) && MayOverwriteLibrary(session);
+}
+
+ImportOutcome Refused(Session& session) {
   // A board whose changes the person gave up is shown as it is stored.
   LoadHand(session);
   return {.refused = true};
 }
 
+ImportOutcome ImportChosen(Session& session, const fs::path& path, const Importable& importable) {
+  const std::string type = FileTypeOf(path);
+  const auto& types = importable.types;
+  if (std::find(types.begin(), types.end(), type) != types.end()) {
+    return StoreFile(session, path, ReaderOf(type));
+  }
+  session.host.Tell(importable.otherType);
+  return Refused(session);
+}
+
+ImportOutcome Import(Session& session, const Importable& importable) {
+  if (!MayImport(session)) return {.refused = true};
+  const auto path =
+      session.host.ChooseOpenFile({importable.description, importable.types, fs::path()});
+  if (path && !path->empty()) return ImportChosen(session, *path, importable);
+  return Refused(session);
+}
+
+ImportOutcome ImportFile(Session& session, const fs::path& path, const Importable& importable) {
+  if (!MayImport(session)) return {.refused = true};
+  return ImportChosen(session, path, importable);
+}
+
 }  // namespace
 
 ImportOutcome Import(Session& session) {
-  if (!MayImport(session)) return {.refused = true};
-  const auto path = session.host.ChooseOpenFile({"Hand Records", {"pbn", "dlm", "xml"}, {}});
-  if (!path || path->empty()) {
-    LoadHand(session);
-    return {.refused = true};
-  }
-  return ImportChosen(session, *path);
+  return Import(session, HandRecords());
+}
+ImportOutcome ImportFile(Session& session, const fs::path& path) {
+  return ImportFile(session, path, HandRecords());
+}
+ImportOutcome ImportLin(Session& session) {
+  return Import(session, LinRecords());
+}
+ImportOutcome ImportLinFile(Session& session, const fs::path& path) {
+  return ImportFile(session, path, LinRecords());
 }
 
-ImportOutcome ImportFile(Session& session, const fs::path& path) {
+ImportOutcome ImportLinText(Session& session, std::string_view text) {
+  if (!LooksLikeLin(text)) {
+    session.host.Tell("There are no LIN records in this text");
+    return {.refused = true};
+  }
   if (!MayImport(session)) return {.refused = true};
-  return ImportChosen(session, path);
+  return StoreText(session, {fs::path(), std::string(text)}, "Cannot read the LIN records",
+                   ReaderOf("lin"));
+}
+
+ImportOutcome ImportAnyFile(Session& session, const fs::path& path) {
+  return FileTypeOf(path) == "lin" ? ImportLinFile(session, path) : ImportFile(session, path);
 }
 
 }  // namespace tricklet

@@ -7,6 +7,7 @@
 
 #include "core/text.h"
 #include "formats/lin/lin_record.h"
+#include "formats/sink/record_text.h"
 
 namespace tricklet {
 namespace {
@@ -20,7 +21,7 @@ std::string DecodeAddress(std::string_view text) {
   if (parameter != std::string_view::npos) text.remove_prefix(parameter + kParameter.size());
   std::string encoded(text);
   std::replace(encoded.begin(), encoded.end(), '+', ' ');
-  return ReadLinData(encoded);
+  return DecodeLinRecords(encoded);
 }
 
 /// Before the first bar there is what leads to the records of an address, or there is no bar but an
@@ -45,16 +46,24 @@ bool HasEncodedDeal(std::string_view text) {
   return false;
 }
 
-std::string Decoded(std::string_view text) {
-  if (IsAddress(text)) return DecodeAddress(text);
-  return HasEncodedDeal(text) ? ReadLinData(text) : std::string(text);
-}
+/// The text of the records, however it came.
+struct RecordsText {
+  std::string text;      // UTF-8
+  bool decoded = false;  // it was percent-encoded
+};
 
-std::string PlainText(std::string_view text) {
-  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-  if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
-  std::string plain = Decoded(text);
-  return IsValidUtf8(plain) ? plain : Latin1ToUtf8(plain);
+RecordsText PlainText(std::string_view text) {
+  text = WithoutUtf8Mark(text);
+  RecordsText records;
+  const bool address = IsAddress(text);
+  records.decoded = address || HasEncodedDeal(text);
+  if (!records.decoded) {
+    records.text = text;
+  } else {
+    records.text = address ? DecodeAddress(text) : DecodeLinRecords(text);
+  }
+  if (!IsValidUtf8(records.text)) records.text = Latin1ToUtf8(records.text);
+  return records;
 }
 
 /// What describes the board and how it was played; chat, scores of the match and page marks do not.
@@ -100,15 +109,20 @@ std::string LineOf(const LinRecord& record, const Collected& collected) {
 
 class LinReader {
  public:
-  LinReader(std::string_view text, BoardSink& sink, std::vector<std::string>& records)
-      : text_(text), rest_(text), sink_(sink), records_(records) {}
+  LinReader(const RecordsText& source, BoardSink& sink, std::vector<std::string>& records)
+      : text_(source.text),
+        decoded_(source.decoded),
+        rest_(text_),
+        sink_(sink),
+        records_(records) {}
 
   ReadResult Read() {
-    for (LinField field; !stopped_ && NextLinField(rest_, field);) {
-      if (BeginsRecord(field)) EndRecord();
+    std::string_view before = rest_;
+    for (LinField field; !stopped_ && NextLinField(rest_, field); before = rest_) {
+      if (BeginsRecord(field)) EndRecord(text_.size() - before.size());
       if (!stopped_) Take(field);
     }
-    if (!stopped_) EndRecord();
+    if (!stopped_) EndRecord(text_.size());
     return result_;
   }
 
@@ -151,38 +165,46 @@ class LinReader {
     record_.fields += '|';
   }
 
-  /// Deals with the record in hand; the next one begins with its names.
-  void EndRecord() {
+  /// Deals with the record in hand, which ends at `end` of the text; its names stay for the next.
+  void EndRecord(std::size_t end) {
     const Collected record = std::exchange(record_, Collected());
-    record_.players = record.players;
+    const bool broken = HasBrokenEscape(begin_, end);
+    begin_ = end;
+    if (record.players.find(kBrokenEscape) == std::string_view::npos || !decoded_) {
+      record_.players = record.players;
+    }
     // A page without a deal, or one that clears the table: "md|0|".
     if (record.deal.find_first_not_of("0123456789,") == std::string_view::npos) return;
     LinRecord parsed = ParseLinRecord(LineOf(record));
-    if (!CanBeDealt(parsed)) {
-      result_.badLine = "md|" + std::string(record.deal) + "|";
-      stopped_ = true;
-      return;
-    }
     if (parsed.boardNumber == 0) parsed.boardNumber = NextNumberOf(parsed);
-    if (!Begin(parsed.boardNumber)) return;
-    if (!IsStorable(parsed.boardNumber)) return;
-    if (IsTheBoardStored(parsed)) records_.push_back(LineOf(parsed, record));
+    lastNumber_ = std::max(lastNumber_, parsed.boardNumber);
+    if (!sink_.Begin(parsed.boardNumber, ThousandthsRead(text_, rest_))) {
+      result_.cancelled = stopped_ = true;
+    } else if (broken) {
+      result_.leftOut.broken.push_back(parsed.boardNumber);
+    } else if (!CanBeDealt(parsed)) {
+      result_.leftOut.impossible.push_back(parsed.boardNumber);
+    } else if (Count(parsed.boardNumber) && IsTheBoardStored(parsed)) {
+      records_.push_back(LineOf(parsed, record));
+    }
+  }
+
+  bool HasBrokenEscape(std::size_t begin, std::size_t end) const {
+    return decoded_ && text_.substr(begin, end - begin).find(kBrokenEscape) != std::string::npos;
   }
 
   int NextNumberOf(const LinRecord& record) const {
-    int number = result_.lastBoard + 1;
+    int number = lastNumber_ + 1;
     while (record.dealer && DealerOfBoard(number) != *record.dealer) ++number;
     return number;
   }
 
-  bool Begin(int number) {
-    if (!sink_.Begin(number, ThousandthsRead(text_, rest_), kWholeText)) {
-      result_.cancelled = stopped_ = true;
-      return false;
-    }
+  /// The board takes part in the numbers of the result; false when it cannot be stored.
+  bool Count(int number) {
     if (result_.firstBoard == 0) result_.firstBoard = number;
     result_.lastBoard = std::max(result_.lastBoard, number);
-    return true;
+    if (!IsStorable(number)) result_.leftOut.unstorable.push_back(number);
+    return IsStorable(number);
   }
 
   /// Stores the first record of a board; false for a further one that is of another deal.
@@ -190,22 +212,22 @@ class LinReader {
     const auto [stored, first] = stored_.try_emplace(record.boardNumber, record.hands);
     if (!first) {
       const bool same = stored->second == record.hands;
-      if (!same) result_.repeatedBoards.push_back(record.boardNumber);
+      if (!same) result_.leftOut.repeated.push_back(record.boardNumber);
       return same;
     }
-    const bool foreign = HasForeignDealer(record) && !record.calls.empty();
-    if (foreign) record.calls.clear();
-    sink_.Store(BoardOfLinRecord(record));
-    if (foreign) result_.foreignAuctions.push_back(record.boardNumber);
+    sink_.Store(StorableBoard(record, result_.leftOut));
     ++result_.boardsSaved;
     return true;
   }
 
   std::string_view text_;
+  const bool decoded_;
   std::string_view rest_;
   BoardSink& sink_;
   std::vector<std::string>& records_;
-  Collected record_;
+  Collected record_;       // in hand
+  std::size_t begin_ = 0;  // of it in the text
+  int lastNumber_ = 0;     // the highest of the records so far
   std::map<int, HandTable> stored_;
   bool stopped_ = false;
   ReadResult result_;
@@ -221,7 +243,7 @@ bool LooksLikeLin(std::string_view text) {
 }
 
 ReadResult ReadLIN(std::string_view text, BoardSink& sink, std::vector<std::string>& records) {
-  const std::string plain = PlainText(text);
+  const RecordsText plain = PlainText(text);
   return LinReader(plain, sink, records).Read();
 }
 

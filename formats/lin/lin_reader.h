@@ -13,20 +13,19 @@ namespace tricklet {
 bool LooksLikeLin(std::string_view text);
 
 /// Reads all records of `text`, however they lie on lines; bytes that are no UTF-8 are taken as
-/// Latin-1. They may be percent-encoded, with or without their bars, behind "lin=" in an address or
-/// as they are. A record ends where the next one's board or deal begins: behind a page mark that is
-/// any field that may stand before a deal. Names stay until others are given.
+/// Latin-1. They may be percent-encoded, with or without their bars, after "lin=" in an address or
+/// as they are. A record ends where the next one's board or deal begins: after a page mark that is
+/// any field that may stand before a deal. Names stay until others are given. A record without a
+/// number takes the next that its dealer deals.
 ///
 /// The first record of a board gives its deal and auction; a further one of the same deal (the
-/// closed room, another table) is no board of its own, and one of another deal is left out. An
-/// auction whose dealer is not the board's is left out, as its calls would be other seats'. The
-/// result tells of both. A record without a number takes the next that
-/// its dealer deals.
+/// closed room, another table) is no board of its own. The result tells of what is left out: a
+/// record of another deal than its board's, of an impossible deal, or with a broken percent escape;
+/// and auctions of more than 100 calls or of a dealer who is not the board's, whose calls would be
+/// other seats'.
 ///
 /// `records` takes each record of the boards stored as a line for "LIN.txt", with the names and
-/// "|Board N|" in it. Ends at a deal that cannot be: without cards, with a card twice, or with more
-/// than 13 cards in a hand. Throws `Fault` for an auction of more than 100 calls and for encoded
-/// text with a broken escape, and what `sink` throws.
+/// "|Board N|" in it. Throws what `sink` throws.
 ReadResult ReadLIN(std::string_view text, BoardSink& sink, std::vector<std::string>& records);
 
 }  // namespace tricklet

@@ -141,7 +141,7 @@ void ReadHeader(std::string_view value, LinRecord& record) {
   if (const int number = BoardNumberOfHeader(value); number > 0) record.boardNumber = number;
 }
 
-void ReadResult(const LinField& field, LinRecord& record) {
+void ReadScorerTag(const LinField& field, LinRecord& record) {
   const auto tag = std::find(LinResultTagText.begin(), LinResultTagText.end(), field.tag);
   if (tag == LinResultTagText.end()) return;
   record.results[static_cast<LinResultTag>(tag - LinResultTagText.begin())] = field.value;
@@ -182,7 +182,7 @@ LinRecord ParseLinRecord(std::string_view text) {
     } else if (field.tag == "mc") {
       record.claim = LeadingNumber(field.value);
     } else {
-      ReadResult(field, record);
+      ReadScorerTag(field, record);
     }
   }
   ReadPlayers(players, record);
@@ -202,11 +202,17 @@ bool HasForeignDealer(const LinRecord& record) {
   return record.dealer && *record.dealer != DealerOfBoard(record.boardNumber);
 }
 
-Board BoardOfLinRecord(const LinRecord& record) {
+Board StorableBoard(const LinRecord& record, LeftOut& leftOut) {
   Board board;
   board.boardNumber = record.boardNumber;
   board.hands = record.hands;
-  for (const Call call : record.calls) board.calls.Add(call);
+  if (HasForeignDealer(record) && !record.calls.empty()) {
+    leftOut.foreign.push_back(record.boardNumber);
+  } else if (record.calls.size() > CallList::kCapacity) {
+    leftOut.endless.push_back(record.boardNumber);
+  } else {
+    for (const Call call : record.calls) board.calls.Add(call);
+  }
   GetContract(board);
   return board;
 }

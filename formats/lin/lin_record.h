@@ -9,6 +9,7 @@
 
 #include "core/board.h"
 #include "formats/lin/lin_text.h"
+#include "formats/sink/board_sink.h"
 
 namespace tricklet {
 
@@ -51,8 +52,8 @@ bool CanBeDealt(const LinRecord& record);
 /// The deal's dealer is another than the board's, so its auction would begin at the wrong seat.
 bool HasForeignDealer(const LinRecord& record);
 
-/// The board as a library stores it: number, hands, calls and the contract from them.
-/// Throws `Fault` kSubscriptOutOfRange for more than 100 calls.
-Board BoardOfLinRecord(const LinRecord& record);
+/// The board as a library stores it: number, hands, calls and the contract from them. An auction of
+/// a dealer who is not the board's, or of more than 100 calls, is left out and goes to `leftOut`.
+Board StorableBoard(const LinRecord& record, LeftOut& leftOut);
 
 }  // namespace tricklet

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "core/fault.h"
 #include "core/notation.h"
@@ -9,6 +10,8 @@
 
 namespace tricklet {
 namespace {
+
+constexpr std::string_view kNames = "pn|";
 
 std::optional<unsigned> HexDigit(char c) {
   constexpr unsigned kTen = 10;
@@ -18,9 +21,15 @@ std::optional<unsigned> HexDigit(char c) {
   return std::nullopt;
 }
 
+struct DecodedText {
+  std::string text;
+  bool broken = false;  // an escape was, and has become `kBrokenEscape`
+};
+
 /// One pass: what an escape stood for is never taken for the beginning of another.
-std::string DecodePercent(std::string_view text, std::size_t room) {
-  std::string decoded;
+DecodedText DecodePercent(std::string_view text, std::size_t room = 0) {
+  DecodedText result;
+  std::string& decoded = result.text;
   decoded.reserve(text.size() + room);
   while (!text.empty()) {
     const std::string_view plain = text.substr(0, text.find('%'));
@@ -30,11 +39,40 @@ std::string DecodePercent(std::string_view text, std::size_t room) {
     const std::string_view digits = text.substr(1, 2);
     const auto high = digits.size() == 2 ? HexDigit(digits[0]) : std::nullopt;
     const auto low = digits.size() == 2 ? HexDigit(digits[1]) : std::nullopt;
-    if (!high || !low) throw Fault(FaultNumber::TypeMismatch, "A percent escape is not complete");
-    decoded += static_cast<char>((*high << 4U) | *low);
-    text.remove_prefix(1 + digits.size());
+    if (high && low) {
+      decoded += static_cast<char>((*high << 4U) | *low);
+      text.remove_prefix(1 + digits.size());
+    } else {
+      decoded += kBrokenEscape;
+      text.remove_prefix(1);
+      result.broken = true;
+    }
   }
-  return decoded;
+  return result;
+}
+
+/// Where the next "pn" field begins, at `from` or after it; npos when there is none.
+std::size_t FindNames(std::string_view text, std::size_t from) {
+  constexpr std::string_view kBefore = "|\r\n";
+  for (auto tag = text.find(kNames, from); tag != std::string_view::npos;
+       tag = text.find(kNames, tag + 1)) {
+    if (tag == 0 || kBefore.find(text[tag - 1]) != std::string_view::npos) return tag;
+  }
+  return std::string_view::npos;
+}
+
+/// Takes from each of the first four names of the first "pn" field the part from its "#" on.
+void CleanNames(std::string& text) {
+  const std::size_t tag = FindNames(text, 0);
+  if (tag == std::string::npos) return;
+  const std::size_t begin = tag + kNames.size();
+  for (int name = 0; name < kSeats; ++name) {
+    const std::string_view names =
+        std::string_view(text).substr(begin, text.find('|', begin) - begin);
+    const auto mark = names.find('#');
+    if (mark == std::string_view::npos) return;
+    text.erase(begin + mark, std::min(names.find(',', mark), names.size()) - mark);
+  }
 }
 
 /// What stands before the next bar, which is taken too.
@@ -56,23 +94,25 @@ bool IsTag(std::string_view text) {
 }  // namespace
 
 std::string ReadLinData(std::string_view text, std::size_t room) {
-  std::string decoded = DecodePercent(text, room);
-  CleanLinNames(decoded);
-  return decoded;
+  DecodedText decoded = DecodePercent(text, room);
+  if (decoded.broken) throw Fault(FaultNumber::TypeMismatch, "A percent escape is not complete");
+  CleanNames(decoded.text);
+  return std::move(decoded.text);
 }
 
-void CleanLinNames(std::string& text) {
-  constexpr std::string_view kTag = "|pn|";
-  const auto tag = text.find(kTag.substr(0, kTag.size() - 1));
-  if (tag == std::string::npos) return;
-  const std::size_t begin = std::min(tag + kTag.size(), text.size());
-  for (int name = 0; name < kSeats; ++name) {
-    const std::string_view names =
-        std::string_view(text).substr(begin, text.find('|', begin) - begin);
-    const auto mark = names.find('#');
-    if (mark == std::string_view::npos) return;
-    text.erase(begin + mark, std::min(names.find(',', mark), names.size()) - mark);
+std::string DecodeLinRecords(std::string_view text) {
+  const std::string decoded = DecodePercent(text).text;
+  std::string cleaned;
+  cleaned.reserve(decoded.size());
+  // In pieces of one "pn" field each, so that a name that is cut moves no more than its piece.
+  for (std::size_t begin = 0; begin < decoded.size();) {
+    const std::size_t next = std::min(FindNames(decoded, begin + 1), decoded.size());
+    std::string piece = decoded.substr(begin, next - begin);
+    CleanNames(piece);
+    cleaned += piece;
+    begin = next;
   }
+  return cleaned;
 }
 
 bool NextLinField(std::string_view& rest, LinField& field) {

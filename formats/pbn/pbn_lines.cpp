@@ -28,10 +28,8 @@ void PbnLines::ReadNextLine() {
   next_ = end == std::string_view::npos ? end : end + separator_.size();
 }
 
-int PbnLines::Progress() const {
-  if (text_.empty()) return kWhole;
-  const std::size_t read = std::min(next_, text_.size());
-  return static_cast<int>(static_cast<double>(read) / static_cast<double>(text_.size()) * kWhole);
+std::string_view PbnLines::Rest() const {
+  return text_.substr(std::min(next_, text_.size()));
 }
 
 }  // namespace tricklet

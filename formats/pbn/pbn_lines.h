@@ -20,9 +20,8 @@ class PbnLines {
   bool PastEnd() const { return pastEnd_; }
   std::string_view Line() const { return line_; }
 
-  /// Thousandths of the text that have been read.
-  int Progress() const;
-  static constexpr int kWhole = 1000;
+  /// What follows the line in hand.
+  std::string_view Rest() const;
 
  private:
   std::string_view text_;

@@ -2,16 +2,20 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 
 #include "core/text.h"
 #include "formats/pbn/pbn_auction.h"
 #include "formats/pbn/pbn_lines.h"
+#include "formats/sink/record_text.h"
 
 namespace tricklet {
 namespace {
 
 /// Thrown inside this file only: the line in hand cannot be read.
-struct BadLine {};
+struct BadLine {
+  std::string reason;  // where the line does not show it
+};
 
 constexpr int kTableRows = kSeats * kStrains;
 
@@ -64,10 +68,21 @@ std::int16_t ReadTableRow(std::string_view row, MakeableTable& table) {
   return tricks;
 }
 
+/// What can stand after the last row of a table, but is no row.
+bool EndsTable(std::string_view line) {
+  const std::string_view text = Trim(line);
+  return text.empty() || text.front() == '[' || text.front() == '%';
+}
+
 void ReadOptimumResultTable(PbnLines& lines, Board& board) {
   std::int16_t lastTricks = 0;
   for (int row = 0; row < kTableRows; ++row) {
     lines.ReadNextLine();
+    if (EndsTable(lines.Line())) {
+      throw BadLine{"The double-dummy table of board " + std::to_string(board.boardNumber) +
+                    " has " + std::to_string(row) + " of its " + std::to_string(kTableRows) +
+                    " rows"};
+    }
     lastTricks = ReadTableRow(lines.Line(), board.makeable);
   }
   // Writers that have no table write twenty zeros or question marks.
@@ -90,11 +105,10 @@ void ReadDoubleDummyTricks(std::string_view line, Board& board) {
   board.makeableValid = true;
 }
 
-/// Reads one file. The board in hand has number 0 until the first Board tag, so nothing is stored
-/// before it.
+/// Reads one file. What stands before the first Board tag belongs to no board and is not stored.
 class PbnReader {
  public:
-  PbnReader(std::string_view text, BoardSink& sink) : lines_(text), sink_(sink) {
+  PbnReader(std::string_view text, BoardSink& sink) : text_(text), lines_(text), sink_(sink) {
     board_.boardNumber = 0;
   }
 
@@ -105,8 +119,9 @@ class PbnReader {
       while (!lines_.PastEnd() && !result_.cancelled) ReadItem();
       // A cancelled run has stored its board in hand already, when the next one began.
       if (!result_.cancelled) StoreBoardInHand();
-    } catch (const BadLine&) {
+    } catch (const BadLine& bad) {
       result_.badLine = std::string(lines_.Line());
+      result_.badLineReason = bad.reason;
       if (result_.lastBoard > 0) --result_.lastBoard;
     }
     return result_;
@@ -135,10 +150,11 @@ class PbnReader {
 
   void BeginBoard(int number) {
     StoreBoardInHand();
-    if (!sink_.Begin(number, lines_.Progress(), PbnLines::kWhole)) {
+    if (!sink_.Begin(number, ThousandthsRead(text_, lines_.Rest()))) {
       result_.cancelled = true;
       return;
     }
+    inBoard_ = true;
     if (result_.firstBoard == 0) result_.firstBoard = number;
     result_.lastBoard = std::max(result_.lastBoard, number);
     board_.boardNumber = number;
@@ -147,15 +163,21 @@ class PbnReader {
   }
 
   void StoreBoardInHand() {
-    if (!IsStorable(board_.boardNumber)) return;
+    if (!inBoard_) return;
+    if (!IsStorable(board_.boardNumber)) {
+      result_.leftOut.unstorable.push_back(board_.boardNumber);
+      return;
+    }
     GetContract(board_);
     sink_.Store(board_);
     ++result_.boardsSaved;
   }
 
+  std::string_view text_;
   PbnLines lines_;
   BoardSink& sink_;
   Board board_;
+  bool inBoard_ = false;  // a Board tag has come
   ReadResult result_;
 };
 

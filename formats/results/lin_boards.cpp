@@ -6,13 +6,12 @@
 #include <optional>
 #include <utility>
 
-#include "core/fault.h"
 #include "core/statistics.h"
 #include "core/text.h"
 #include "formats/lin/lin_record.h"
+#include "formats/sink/record_text.h"
 
 namespace tricklet {
-
 namespace {
 
 /// How much a record tells of the deal, the most last.
@@ -48,33 +47,8 @@ std::map<int, RankedRecord> RecordsOf(const LinFile& data, int firstBoard, int l
   return records;
 }
 
-struct LinBoard {
-  Board board;
-  bool foreignAuction = false;  // left out
-};
-
-std::vector<LinBoard> ReadBoards(const LinFile& data, int firstBoard, int lastBoard) {
-  std::vector<LinBoard> boards;
-  bool auctions = false;
-  for (auto& [number, ranked] : RecordsOf(data, firstBoard, lastBoard)) {
-    LinRecord& record = ranked.record;
-    if (ranked.rank < DealRank::Possible) {
-      throw Fault(
-          FaultNumber::TypeMismatch,
-          "Board " + std::to_string(number) + " has a card twice or more than 13 cards in a hand");
-    }
-    if (boards.empty()) auctions = record.hasAuction;
-    if (!auctions) record.calls.clear();
-    const bool foreign = HasForeignDealer(record) && !record.calls.empty();
-    if (foreign) record.calls.clear();
-    boards.push_back({BoardOfLinRecord(record), foreign});
-  }
-  return boards;
-}
-
-/// What stands behind the first "|Board ". Looks for the word, as a record has a bar every few
-/// bytes.
-std::optional<std::string_view> BehindHeader(std::string_view record) {
+/// What follows the first "|Board ". Looks for the word, as a record has a bar every few bytes.
+std::optional<std::string_view> AfterHeader(std::string_view record) {
   constexpr std::string_view kWord = "Board ";
   for (auto at = record.find(kWord); at != std::string_view::npos;
        at = record.find(kWord, at + 1)) {
@@ -86,33 +60,41 @@ std::optional<std::string_view> BehindHeader(std::string_view record) {
 }  // namespace
 
 int BoardNumberOfLin(std::string_view record) {
-  const auto number = BehindHeader(record);
+  const auto number = AfterHeader(record);
   if (!number) return ParseLinRecord(record).boardNumber;
   return std::max(LeadingNumber(*number), 0);
 }
 
-std::vector<Board> BoardsOfLinData(const LinFile& data, int firstBoard, int lastBoard) {
+std::vector<Board> BoardsOfLinData(const LinFile& data, int firstBoard, int lastBoard,
+                                   LeftOut& leftOut) {
   std::vector<Board> boards;
-  for (LinBoard& read : ReadBoards(data, firstBoard, lastBoard)) {
-    boards.push_back(std::move(read.board));
+  bool auctions = false;
+  for (auto& [number, ranked] : RecordsOf(data, firstBoard, lastBoard)) {
+    if (ranked.rank < DealRank::Possible) {
+      leftOut.impossible.push_back(number);
+      continue;
+    }
+    LinRecord& record = ranked.record;
+    if (boards.empty()) auctions = record.hasAuction;
+    if (!auctions) record.calls.clear();
+    boards.push_back(StorableBoard(record, leftOut));
   }
   return boards;
 }
 
 void ReadLinCards(const LinFile& data, int firstBoard, int lastBoard, BoardSink& sink,
                   ReadResult& result) {
-  const std::vector<LinBoard> boards = ReadBoards(data, firstBoard, lastBoard);
+  const std::vector<Board> boards = BoardsOfLinData(data, firstBoard, lastBoard, result.leftOut);
   const int total = static_cast<int>(boards.size());
-  for (const LinBoard& read : boards) {
-    const int number = read.board.boardNumber;
-    if (!sink.Begin(number, result.boardsSaved * kWholeText / total, kWholeText)) {
+  for (const Board& board : boards) {
+    const int number = board.boardNumber;
+    if (!sink.Begin(number, result.boardsSaved * kWholeText / total)) {
       result.cancelled = true;
       return;
     }
-    sink.Store(read.board);
+    sink.Store(board);
     if (++result.boardsSaved == 1) result.firstBoard = number;
     result.lastBoard = number;
-    if (read.foreignAuction) result.foreignAuctions.push_back(number);
   }
 }
 

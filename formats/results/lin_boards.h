@@ -14,14 +14,14 @@ int BoardNumberOfLin(std::string_view record);
 
 /// The boards numbered `firstBoard` to `lastBoard` of which `data` has a deal, in ascending order:
 /// of each, deal and auction of its first record with a deal of all four hands, or else with one
-/// that can be right. The first board's
-/// record decides whether auctions are read; one that begins at another dealer than the board's is
-/// left out. Numbers that cannot be stored are passed over. Throws `Fault` for an auction of more
-/// than 100 calls, and for a board of which no deal can be right.
-std::vector<Board> BoardsOfLinData(const LinFile& data, int firstBoard, int lastBoard);
+/// that can be right. The first board's record decides whether auctions are read. Numbers that
+/// cannot be stored are passed over. What else is left out goes to `leftOut`: boards of which no
+/// deal can be right, auctions of more than 100 calls or of a dealer who is not the board's.
+std::vector<Board> BoardsOfLinData(const LinFile& data, int firstBoard, int lastBoard,
+                                   LeftOut& leftOut);
 
-/// Stores those boards. `result` counts on while they are stored, so it is true when what `sink`
-/// throws ends the reading. All boards are read before the first is stored.
+/// Puts those boards into `sink`. All are read before the first is stored. `result` counts on while
+/// they are stored, so it is true when what `sink` throws ends the reading.
 void ReadLinCards(const LinFile& data, int firstBoard, int lastBoard, BoardSink& sink,
                   ReadResult& result);
 

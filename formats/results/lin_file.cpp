@@ -6,6 +6,7 @@
 
 #include "core/fault.h"
 #include "core/text.h"
+#include "formats/sink/record_text.h"
 #include "library/file_io.h"
 
 namespace tricklet {
@@ -14,7 +15,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view kLineEnd = "\r\n";
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 bool IsControl(char c) {
   return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
@@ -84,7 +84,7 @@ class LinFileParser {
  public:
   LinFile Parse(std::string_view text) {
     std::string_view header;
-    if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+    text = WithoutUtf8Mark(text);
     while (!text.empty()) {
       const std::string_view line = TakeLine(text);
       if (IsHeader(line)) {

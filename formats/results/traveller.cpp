@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
-#include <system_error>
 #include <utility>
 
 #include "core/comparison.h"
@@ -24,15 +22,11 @@ const std::string& Result(const LinRecord& record, LinResultTag tag) {
   return record.results[tag];
 }
 
-/// The number that is all of `text`; nothing for anything else.
+/// The number that is all of `text`, perhaps after a "+"; nothing for anything else.
 template <class Number>
 std::optional<Number> NumberOf(std::string_view text) {
   if (text.starts_with('+')) text.remove_prefix(1);
-  Number number{};
-  const char* const end = text.data() + text.size();
-  const auto [rest, failure] = std::from_chars(text.data(), end, number);
-  if (failure != std::errc() || rest != end) return std::nullopt;
-  return number;
+  return WholeNumber<Number>(text);
 }
 
 std::optional<float> PointsOf(std::string_view text) {

@@ -3,7 +3,6 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "core/board.h"
@@ -18,29 +17,39 @@ class BoardSink {
   BoardSink& operator=(const BoardSink&) = delete;
   virtual ~BoardSink() = default;
 
-  /// Takes a board whose number is 1..999. What it throws ends the reading.
+  /// Takes a board whose number is 1..999. What it throws ends the reading, and a reader lets it
+  /// pass.
   virtual void Store(const Board& board) = 0;
-  /// The board of this number begins; `done` of `total` thousandths of the file are read. False
-  /// ends the reading: it was cancelled.
-  virtual bool Begin(int boardNumber, int done, int total) = 0;
+  /// The board of this number, whichever it is, begins; `done` thousandths (`kWholeText`) of the
+  /// file are read. False ends the reading: it was cancelled.
+  virtual bool Begin(int boardNumber, int done) = 0;
 };
 
-/// How far a reader of `text` is when `rest` of it is left, for `BoardSink::Begin`.
-inline constexpr int kWholeText = 1000;
-int ThousandthsRead(std::string_view text, std::string_view rest);
+/// What a reader left out of a file and went on without. Board numbers in the order of the file,
+/// each as often as it was left out.
+struct LeftOut {
+  std::vector<int> repeated;    ///< deals of a number that another deal before them has
+  std::vector<int> impossible;  ///< deals with no card, a card twice or over 13 cards in a hand
+  std::vector<int> broken;      ///< LIN records with a broken percent escape
+  std::vector<int> unstorable;  ///< boards whose number is not 1..999
+  std::vector<int> foreign;     ///< auctions of a dealer who is not the board's
+  std::vector<int> endless;     ///< auctions of more than 100 calls
+
+  /// Something could not be read, where the rest is only of no use to a library.
+  bool Unreadable() const { return !impossible.empty() || !broken.empty() || !endless.empty(); }
+};
 
 /// What a reader found.
 struct ReadResult {
-  int boardsSaved = 0;
-  int firstBoard = 0;  ///< as read, 0 when none was; not always a number that can be stored
-  int lastBoard = 0;   ///< the highest as read
+  int boardsSaved = 0;  ///< as the message at the end counts them
+  int firstBoard = 0;   ///< as read, 0 when none was; not always a number that can be stored
+  int lastBoard = 0;    ///< the highest as read
   bool cancelled = false;
-  bool failed = false;                 ///< a message has said why the reading ended
+  /// Why the file, or a part of it, was not read: for the user, before the count.
+  std::vector<std::string> messages;
   std::optional<std::string> badLine;  ///< the line that could not be read and ended the reading
-  /// The number of each deal that is not stored, as another of that number came before it.
-  std::vector<int> repeatedBoards;
-  /// The boards stored without their auction, as the dealer in the record is not the board's.
-  std::vector<int> foreignAuctions;
+  std::string badLineReason;  ///< what is wrong where `badLine` does not show it, else empty
+  LeftOut leftOut;
 };
 
 }  // namespace tricklet

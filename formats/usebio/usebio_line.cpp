@@ -7,6 +7,7 @@
 #include <limits>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 #include "core/text.h"
 #include "formats/lin/lin_text.h"
@@ -29,19 +30,22 @@ bool IsShortestNumber(std::string_view text) {
          std::all_of(fraction + 1, text.end(), isDigit);
 }
 
-/// Appends the number that the element begins with, 0 when it begins with none, in shortest form.
-void AppendNumber(std::string& record, const pugi::xml_node& element) {
-  const ElementText whole(element);
-  std::string_view text = whole.View();
-  if (IsShortestNumber(text)) {
-    record += text;
-    return;
-  }
+/// The number that the text begins with, 0 when it begins with none. Never minus zero.
+float NumberOf(std::string_view text) {
   if (text.starts_with('+')) text.remove_prefix(1);
   float value = 0;
   const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (read.ec != std::errc() || !std::isfinite(value) || value == 0) value = 0;
-  record += ShortestText(value);
+  return read.ec != std::errc() || !std::isfinite(value) || value == 0 ? 0 : value;
+}
+
+/// Appends the number that the element begins with, in shortest form.
+void AppendNumber(std::string& record, const pugi::xml_node& element) {
+  const ElementText text(element);
+  if (IsShortestNumber(text.View())) {
+    record += text.View();
+  } else {
+    record += ShortestText(NumberOf(text.View()));
+  }
 }
 
 /// Appends the element's text; a bar would end its field.
@@ -52,10 +56,17 @@ void AppendField(std::string& record, const pugi::xml_node& element) {
   std::replace(record.begin() + static_cast<std::ptrdiff_t>(begin), record.end(), '|', ' ');
 }
 
-/// Cross-IMPs of North-South; Butler events give theirs under another name.
-const pugi::xml_node& Imps(const TravellerLine& line) {
-  const pugi::xml_node& imps = line.At(TravellerLine::NsCrossImps);
-  return imps ? imps : line.At(TravellerLine::NsButler);
+/// Appends the cross-IMPs of North-South, or what East-West's leave them; Butler events give theirs
+/// under another name.
+void AppendImps(std::string& record, const TravellerLine& line) {
+  const pugi::xml_node& ns = line.At(TravellerLine::NsCrossImps);
+  const pugi::xml_node& ew = line.At(TravellerLine::EwCrossImps);
+  if (!ns && ew) {
+    const float imps = NumberOf(ElementText(ew).View());
+    record += ShortestText(imps == 0 ? 0 : -imps);
+  } else {
+    AppendNumber(record, ns ? ns : line.At(TravellerLine::NsButler));
+  }
 }
 
 /// A "pn" field of the record names somebody.
@@ -68,9 +79,14 @@ bool NamesPlayers(std::string_view record) {
 
 /// The players by the numbers of their pairs: "pn|South,West,North,East|". Empty when neither pair
 /// is known.
-std::string PlayersField(const TravellerLine& line, const PairNames& pairs) {
-  PairPlayers ns = pairs.PlayersOf(TextOf(line.At(TravellerLine::NsPair)), Side::NorthSouth);
-  PairPlayers ew = pairs.PlayersOf(TextOf(line.At(TravellerLine::EwPair)), Side::EastWest);
+std::string PlayersField(const TravellerLine& line, const SessionPairs& pairs) {
+  auto nsPair = TravellerLine::NsPair;
+  auto ewPair = TravellerLine::EwPair;
+  if (pairs.oneWinner && TextOf(line.At(TravellerLine::Direction)) == "EW") {
+    std::swap(nsPair, ewPair);
+  }
+  PairPlayers ns = pairs.names.PlayersOf(TextOf(line.At(nsPair)), Side::NorthSouth);
+  PairPlayers ew = pairs.names.PlayersOf(TextOf(line.At(ewPair)), Side::EastWest);
   const std::array inOrder{&ns.second, &ew.second, &ns.first, &ew.first};
   std::string names;
   bool known = false;
@@ -84,7 +100,7 @@ std::string PlayersField(const TravellerLine& line, const PairNames& pairs) {
 
 /// The LIN record of a traveller line, decoded. It ends in a bar, and the first board that it names
 /// is the one whose line it is. Where it has no players they are those of the line's pairs.
-std::string RecordOf(const TravellerLine& line, int boardNumber, const PairNames& pairs) {
+std::string RecordOf(const TravellerLine& line, int boardNumber, const SessionPairs& pairs) {
   const ElementText data(line.At(TravellerLine::LinData));
   constexpr std::size_t kTags = 96;  // what the scorer's own tags take
   std::string record = MendUtf8(ReadLinData(data.View(), kTags));
@@ -100,11 +116,20 @@ std::string RecordOf(const TravellerLine& line, int boardNumber, const PairNames
 }  // namespace
 
 bool TravellerLine::Take(std::string_view name, pugi::xml_node child) {
-  constexpr std::array<std::string_view, EwPair + 1> kNames{
-      "LIN_DATA",         "TRICKS",          "SCORE",
-      "CONTRACT",         "PLAYED_BY",       "LEAD",
-      "NS_MATCH_POINTS",  "EW_MATCH_POINTS", "NS_CROSS_IMP_POINTS",
-      "NS_BUTLER_POINTS", "NS_PAIR_NUMBER",  "EW_PAIR_NUMBER"};
+  constexpr std::array<std::string_view, Direction + 1> kNames{"LIN_DATA",
+                                                               "TRICKS",
+                                                               "SCORE",
+                                                               "CONTRACT",
+                                                               "PLAYED_BY",
+                                                               "LEAD",
+                                                               "NS_MATCH_POINTS",
+                                                               "EW_MATCH_POINTS",
+                                                               "NS_CROSS_IMP_POINTS",
+                                                               "EW_CROSS_IMP_POINTS",
+                                                               "NS_BUTLER_POINTS",
+                                                               "NS_PAIR_NUMBER",
+                                                               "EW_PAIR_NUMBER",
+                                                               "DIRECTION"};
   const auto* const known = std::find(kNames.begin(), kNames.end(), name);
   if (known == kNames.end()) return false;
   pugi::xml_node& element = elements_.at(static_cast<std::size_t>(known - kNames.begin()));
@@ -112,11 +137,11 @@ bool TravellerLine::Take(std::string_view name, pugi::xml_node child) {
   return true;
 }
 
-std::string LinLine(const TravellerLine& line, int boardNumber, const PairNames& pairs) {
+std::string LinLine(const TravellerLine& line, int boardNumber, const SessionPairs& pairs) {
   using Line = TravellerLine;
   std::string text = RecordOf(line, boardNumber, pairs);
-  // The bars between values and tags are doubled from the second value on: readers of this layout
-  // have always met it so.
+  // The bars between values and tags are doubled from the second value on: readers of "LIN.txt"
+  // have always met them so.
   AppendField(text += "qent|", line.At(Line::Tricks));
   AppendField(text += "|qens|", line.At(Line::Score));
   AppendNumber(text += "||qenns|", line.At(Line::NsMatchPoints));
@@ -124,7 +149,7 @@ std::string LinLine(const TravellerLine& line, int boardNumber, const PairNames&
   AppendField(text += "||qenc|", line.At(Line::Contract));
   AppendField(text += "||qend|", line.At(Line::PlayedBy));
   AppendField(text += "||qenl|", line.At(Line::Lead));
-  AppendNumber(text += "||qeni|", Imps(line));
+  AppendImps(text += "||qeni|", line);
   text += '|';
   return text;
 }

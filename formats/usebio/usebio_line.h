@@ -24,9 +24,11 @@ class TravellerLine {
     NsMatchPoints,
     EwMatchPoints,
     NsCrossImps,
+    EwCrossImps,
     NsButler,
     NsPair,
     EwPair,
+    Direction,
   };
 
   /// Takes a child of the line's element, by its name; of several of a name the first counts. False
@@ -36,13 +38,27 @@ class TravellerLine {
   /// Empty when the line has none.
   const pugi::xml_node& At(Element element) const { return elements_.at(element); }
 
+  /// The line gives cross-IMPs.
+  bool HasCrossImps() const { return At(NsCrossImps) || At(EwCrossImps); }
+
+  /// From now on the line has no LIN record.
+  void ForgetLinData() { elements_.at(LinData) = {}; }
+
  private:
-  std::array<pugi::xml_node, EwPair + 1> elements_;
+  std::array<pugi::xml_node, Direction + 1> elements_;
 };
 
-/// The line's LIN record, decoded, with the scorer's own tags behind it. The first board that it
+/// The pairs of a session.
+struct SessionPairs {
+  PairNames names;
+  /// Pairs sit now this way, now that, and a line's direction is that of its first pair.
+  bool oneWinner = false;
+};
+
+/// The line's LIN record, decoded, and after it the scorer's own tags. The first board that it
 /// names is `boardNumber`; players that the record lacks are those of the line's pairs. Throws
-/// `Fault` for a percent escape that is cut short, and `UsebioRefusal`.
-std::string LinLine(const TravellerLine& line, int boardNumber, const PairNames& pairs);
+/// `Fault` FaultNumber::TypeMismatch for a broken percent escape, and `UsebioRefusal` for a text
+/// that is too long.
+std::string LinLine(const TravellerLine& line, int boardNumber, const SessionPairs& pairs);
 
 }  // namespace tricklet

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <utility>
 
-#include "formats/usebio/usebio_reader.h"
+#include "formats/usebio/usebio_limits.h"
 
 namespace tricklet {
 namespace {

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
-#include <system_error>
 #include <utility>
 
 #include <pugixml.hpp>
@@ -19,6 +17,11 @@ namespace {
 
 constexpr const char* kOneSession = "Only Single Session Imports supported";
 constexpr const char* kOneSection = "Only Single Section Imports supported";
+
+// Scoring words.
+constexpr const char* kMatchPoints = "MATCH_POINTS";
+constexpr const char* kImps = "IMPS";
+constexpr const char* kCrossImps = "CROSS_IMPS";
 
 void Keep(std::vector<std::string>& lines, std::string line) {
   if (lines.size() == kMaxUsebioLines) throw UsebioRefusal{kUnexpectedFormat};
@@ -74,10 +77,15 @@ class UsebioReader {
     for (const pugi::xml_node& list : outline_.participants) {
       for (const auto& pair : list.select_nodes(".//PAIR")) {
         Keep(results_.data.names, NamesLine(pair.node()));
+        directions_ = directions_ || !ChildText(pair.node(), "DIRECTION").empty();
       }
     }
-    const PairNames pairs(results_.data.names);
+    const SessionPairs pairs{PairNames(results_.data.names), IsOneWinner(event)};
     for (const UsebioBoard& board : outline_.boards) ReadBoard(board, pairs);
+    // A scorer's word for IMPs does not tell which.
+    if (crossImps_ && results_.data.boardScoringAbb == GetAbbreviations(kImps)) {
+      results_.data.boardScoringAbb = GetAbbreviations(kCrossImps);
+    }
     return std::move(results_);
   }
 
@@ -94,7 +102,7 @@ class UsebioReader {
   void ReadScoring(const pugi::xml_node& event) {
     LinFile& data = results_.data;
     const bool teams = std::string_view(event.attribute("EVENT_TYPE").value()) == "TEAMS";
-    const std::string usual = teams ? "IMPS" : "MATCH_POINTS";
+    const std::string usual = teams ? kImps : kMatchPoints;
     // A team event's own word says how the match is scored, a pairs event's how the boards are.
     std::string word = WordOf(event, {"BOARD_SCORING_METHOD", "PAIRWISE_SCORING_METHOD"});
     const std::string general = WordOf(event, {"SCORING_METHOD"});
@@ -112,18 +120,39 @@ class UsebioReader {
     }
   }
 
-  void ReadBoard(const UsebioBoard& board, const PairNames& pairs) {
-    const std::string text = ChildText(board.element, "BOARD_NUMBER");
-    int number = 0;
-    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (read.ec != std::errc() || read.ptr != text.data() + text.size()) {
-      throw UsebioRefusal{kUnexpectedFormat};
-    }
+  /// As the event says, or else the list of its pairs, which has no directions then.
+  bool IsOneWinner(const pugi::xml_node& event) const {
+    const std::string winners = WordOf(event, {"WINNER_TYPE"});
+    if (!winners.empty()) return LeadingNumber(winners) == 1;
+    return !results_.data.teamEvent && !directions_;
+  }
+
+  void ReadBoard(const UsebioBoard& board, const SessionPairs& pairs) {
+    const auto read = WholeNumber(ChildText(board.element, "BOARD_NUMBER"));
+    if (!read) throw UsebioRefusal{kUnexpectedFormat};
+    const int number = *read;
     results_.firstBoard = any_ ? std::min(results_.firstBoard, number) : number;
     results_.lastBoard = any_ ? std::max(results_.lastBoard, number) : number;
     any_ = true;
+    if (!IsStorable(number) && !board.lines.empty()) {
+      results_.leftOut.unstorable.push_back(number);
+    }
     for (const TravellerLine& line : board.lines) {
-      Keep(results_.data.lin, LinLine(line, number, pairs));
+      Keep(results_.data.lin, LineOf(line, number, pairs));
+      crossImps_ = crossImps_ || line.HasCrossImps();
+    }
+  }
+
+  /// A record that cannot be decoded is left out, with what the table did in its place.
+  std::string LineOf(const TravellerLine& line, int number, const SessionPairs& pairs) {
+    try {
+      return LinLine(line, number, pairs);
+    } catch (const Fault& fault) {
+      results_.leftOut.broken.push_back(number);
+      if (!results_.broken) results_.broken = fault;
+      TravellerLine bare = line;
+      bare.ForgetLinData();
+      return LinLine(bare, number, pairs);
     }
   }
 
@@ -131,6 +160,8 @@ class UsebioReader {
   const UsebioOutline& outline_;
   UsebioResults results_;
   bool any_ = false;
+  bool directions_ = false;  // a pair of the list has one
+  bool crossImps_ = false;   // a line gives some
 };
 
 }  // namespace
@@ -152,9 +183,9 @@ std::variant<UsebioResults, UsebioRefusal> ReadUsebio(std::string text) {
 
 std::string GetAbbreviations(std::string_view scoring) {
   constexpr std::array<std::pair<std::string_view, std::string_view>, 4> kWords{{
-      {"MATCH_POINTS", "MP"},
-      {"IMPS", "IMP"},
-      {"CROSS_IMPS", "XIMP"},
+      {kMatchPoints, "MP"},
+      {kImps, "IMP"},
+      {kCrossImps, "XIMP"},
       {"BUTLER_IMPS", "BIMP"},
   }};
   const auto* const word = std::find_if(kWords.begin(), kWords.end(), [scoring](const auto& entry) {
@@ -166,7 +197,7 @@ std::string GetAbbreviations(std::string_view scoring) {
 std::string GetInitials(std::string_view name) {
   std::string initials;
   while (!(name = Trim(name)).empty()) {
-    // A letter is its first byte and the continuation bytes behind it.
+    // A letter is its first byte and the continuation bytes after it.
     const auto isLead = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; };
     const auto* const next = std::find_if(name.begin() + 1, name.end(), isLead);
     initials.append(name.begin(), next);

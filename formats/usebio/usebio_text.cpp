@@ -1,7 +1,7 @@
 #include "formats/usebio/usebio_text.h"
 
 #include "core/text.h"
-#include "formats/usebio/usebio_reader.h"
+#include "formats/usebio/usebio_limits.h"
 
 namespace tricklet {
 namespace {

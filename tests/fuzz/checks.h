@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "formats/sink/board_sink.h"
+#include "formats/sink/record_text.h"
 #include "library/board_file.h"
 
 namespace tricklet::fuzz {
@@ -35,8 +36,8 @@ inline void CheckBoard(const Board& board) {
 class CheckingSink : public BoardSink {
  public:
   void Store(const Board& board) override { CheckBoard(board); }
-  bool Begin(int /*boardNumber*/, int done, int total) override {
-    if (done < 0 || done > total) std::abort();
+  bool Begin(int /*boardNumber*/, int done) override {
+    if (done < 0 || done > kWholeText) std::abort();
     return true;
   }
 };

@@ -7,15 +7,16 @@
 #include <gtest/gtest.h>
 
 #include "formats/sink/board_sink.h"
+#include "formats/sink/record_text.h"
 
 namespace tricklet::test {
 
 class Collector : public BoardSink {
  public:
   void Store(const Board& board) override { boards.push_back(board); }
-  bool Begin(int boardNumber, int done, int total) override {
+  bool Begin(int boardNumber, int done) override {
     EXPECT_GE(done, 0);
-    EXPECT_LE(done, total);
+    EXPECT_LE(done, kWholeText);
     begun.push_back(boardNumber);
     return static_cast<int>(begun.size()) != cancelAt;
   }

@@ -9,7 +9,7 @@
 
 #include "core/fault.h"
 #include "formats/exchange/export.h"
-#include "formats/exchange/import_lin.h"
+#include "formats/exchange/import.h"
 #include "library/board_store.h"
 #include "library/library_store.h"
 #include "library/start_up.h"

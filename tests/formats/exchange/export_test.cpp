@@ -258,11 +258,28 @@ TEST_F(ExportTest, WritesAllBoardsOfADealingMachine) {
 TEST_F(ExportTest, BoardsAbove99AreNotWrittenForADealingMachine) {
   path.replace_extension("dlm");
   for (int n = 95; n <= 120; ++n) PutBoard(n);
-  ExpectCreated();
-  EXPECT_TRUE(ExportFile(session, {95, 120, "dlm"}, path));
-  EXPECT_EQ(LinesOf(path, "Board ").size(), 99U);
+  const struct {
+    int first;
+    int last;
+    const char* told;
+  } kCases[] = {{95, 120, "boards 95-99 written, boards 100-120 left out"},
+                {99, 100, "board 99 written, board 100 left out"},
+                {100, 101, "none of the range was written"}};
+  for (const auto& c : kCases) {
+    ExpectCreated();
+    host.ExpectTell("The file can hold boards 1 to 99: " + std::string(c.told));
+    EXPECT_FALSE(ExportFile(session, {c.first, c.last, "dlm"}, path));
+    EXPECT_EQ(LinesOf(path, "Board ").size(), 99U);
+    EXPECT_EQ(LinesOf(path, "To board=").at(0), "To board=" + std::to_string(c.last));
+  }
   EXPECT_EQ(host.steps.back(), "Exporting board 99");
-  EXPECT_EQ(LinesOf(path, "To board="), std::vector<std::string>{"To board=120"});
+  ExpectCreated();
+  EXPECT_TRUE(ExportFile(session, {98, 99, "dlm"}, path));
+  WriteFile(session.BoardPath(98), "nothing");
+  host.ExpectTellWith("Can't read");
+  host.ExpectTellWith("1 hand is incomplete");
+  host.ExpectTell("The file can hold boards 1 to 99: boards 100-102 left out");
+  EXPECT_FALSE(ExportFile(session, {98, 102, "dlm"}, path));
 }
 
 TEST_F(ExportTest, EveryTypeReportsAndCancelsAlike) {

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "formats/exchange/export.h"
-#include "formats/exchange/import_lin.h"
+#include "formats/exchange/import.h"
 #include "generate/deal.h"
 #include "library/board_file.h"
 #include "tests/support/library_fixture.h"

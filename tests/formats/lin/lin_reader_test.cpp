@@ -142,10 +142,10 @@ TEST(ReadLIN, ReadsPercentEncodedText) {
     EXPECT_EQ(ParseLinRecord(read.records[0]).players[Seat::South], "Ann") << text;
     EXPECT_EQ(ParseLinRecord(read.records[0]).players[Seat::East], "Di") << text;
   }
-  Collector sink;
-  std::vector<std::string> records;
-  EXPECT_THROW(ReadLIN("lin=md%7C3" + kThree + "%7Cnt%7C100%", sink, records), Fault);
-  EXPECT_TRUE(sink.boards.empty());
+  const Read names("lin=pn%7CA%231,B%232,C,D%7C" + Deal() + "\npn%7CE%233,F,G,H%7C" + Deal());
+  ASSERT_EQ(names.records.size(), 2U);
+  EXPECT_EQ(ParseLinRecord(names.records[0]).players[Seat::West], "B");
+  EXPECT_EQ(ParseLinRecord(names.records[1]).players[Seat::South], "E");
   // A percent sign is one where the bars are bars.
   EXPECT_EQ(Read("nt|100% sure|qx|o1|" + Deal() + "nt|?lin=50%|").Boards(), "1 ");
 }
@@ -158,27 +158,26 @@ TEST(ReadLIN, TextIsUtf8OrLatin1) {
   }
 }
 
-TEST(ReadLIN, ADealThatCannotBeEndsTheReading) {
+TEST(ReadLIN, ARecordThatCannotBeReadIsLeftOut) {
   for (const std::string deal :
        {"3X", "hello", "3SAA,,,", "3SAKQJT98765432,SA,,", "3SA,SK,SQ,", "3SAKQJT98765432HA,,,HK"}) {
     const Read read("qx|o1|" + Deal() + "qx|o2|md|" + deal + "|qx|o3|" + Deal());
-    EXPECT_EQ(read.result.badLine, "md|" + deal + "|");
-    EXPECT_EQ(read.Boards(), "1 ") << deal;
-    EXPECT_EQ(read.result.lastBoard, 1) << deal;
-    EXPECT_EQ(read.records.size(), 1U) << deal;
+    EXPECT_EQ(read.Boards(), "1 3 ") << deal;
+    EXPECT_EQ(read.result.leftOut.impossible, std::vector<int>{2}) << deal;
+    EXPECT_EQ(read.records.size(), 2U) << deal;
   }
+  const Read last(Deal('1') + "md|2SAA|" + Deal('3') + "qx|o9|md|3SAA|");
+  EXPECT_EQ(last.Boards(), "3 5 ") << "it takes a number all the same";
+  EXPECT_EQ(last.result.leftOut.impossible, (std::vector<int>{4, 9}));
+  EXPECT_EQ(last.result.lastBoard, 5);
+  const std::string first = "pn%7CAnn%2CBob,Cy,Di%7Cqx%7Co1%7C" + Deal();
+  const Read escapes("lin=" + first + "nt|100%|qx|o2|" + Deal() + "qx|o3|pn|%4|" + Deal() +
+                     "qx|o4|" + Deal() + "mb%7");
+  EXPECT_EQ(escapes.Boards(), "2 ");
+  EXPECT_EQ(escapes.result.leftOut.broken, (std::vector<int>{1, 3, 4}));
+  ASSERT_EQ(escapes.records.size(), 1U);
+  EXPECT_EQ(ParseLinRecord(escapes.records[0]).players[Seat::East], "Di");
   EXPECT_EQ(Read("qx|o1|md|3SA,,SQ,|").Boards(), "1 ") << "part of a deal is one";
-}
-
-TEST(ReadLIN, AFaultLeavesTheBoardUnstored) {
-  std::string calls = "qx|o1|" + Deal();
-  for (int i = 0; i <= CallList::kCapacity; ++i) calls += "mb|p|";
-  for (const std::string& text : {calls, "lin=md%7C3" + kThree + "%7Cnt%7C100%"}) {
-    Collector sink;
-    std::vector<std::string> records;
-    EXPECT_THROW(ReadLIN(text, sink, records), Fault) << text;
-    EXPECT_TRUE(sink.boards.empty()) << text;
-  }
 }
 
 TEST(ReadLIN, CancelKeepsTheBoardsStoredSoFar) {

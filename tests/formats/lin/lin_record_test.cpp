@@ -46,6 +46,8 @@ TEST(ReadLinData, CleansThePlayerNames) {
       {"|pn|Ann%2312%2CBob%237|", "|pn|Ann,Bob|"},
       {"|pn|A#1#2,B|", "|pn|A,B|"},
       {"|pn|#,#,#,#,E#|", "|pn|,,,,E#|"},
+      {"pn|Ann#12,Bob|pn|Cy#3|", "pn|Ann,Bob|pn|Cy#3|"},
+      {"opn|#1|", "opn|#1|"},
       {"|pn|Ann,Bob|nt|#1, #2|", "|pn|Ann,Bob|nt|#1, #2|"},
       {"|pn|Ann#12,Bob#7", "|pn|Ann,Bob"},
       {"|pn", "|pn"},
@@ -160,11 +162,13 @@ TEST(ParseLinRecord, ReadsCalls) {
 TEST(BoardOfLinRecord, HoldsAHundredCalls) {
   std::string text = "qx|o5|md|3SA,,,|";
   for (int i = 0; i < CallList::kCapacity - 1; ++i) text += "mb|p|";
-  const Board board = BoardOfLinRecord(ParseLinRecord(text + "mb|1C|"));
+  LeftOut leftOut;
+  const Board board = StorableBoard(ParseLinRecord(text + "mb|1C|"), leftOut);
   EXPECT_EQ(board.NumCalls(), CallList::kCapacity);
   EXPECT_EQ(board.contract, "1C");
   EXPECT_EQ(board.boardNumber, 5);
-  EXPECT_THROW(BoardOfLinRecord(ParseLinRecord(text + "mb|1C|mb|p|")), Fault);
+  EXPECT_EQ(StorableBoard(ParseLinRecord(text + "mb|1C|mb|p|"), leftOut).NumCalls(), 0);
+  EXPECT_EQ(leftOut.endless, std::vector<int>{5});
 }
 
 }  // namespace

@@ -205,6 +205,58 @@ TEST(Usebio, ALineWithoutPlayersHasThoseOfItsPairs) {
   }
 }
 
+TEST(Usebio, ALineTellsWhichWayItsFirstPairSits) {
+  const std::string pairs = Pair("1", "", "Ann", "Bob") + Pair("2", "", "Cy", "Di");
+  const std::string placed = Pair("1", "NS", "Ann", "Bob") + Pair("2", "EW", "Cy", "Di");
+  const struct {
+    std::string event;
+    const char* type;
+    const char* direction;
+    const char* players;  // South, West, North, East
+  } kCases[] = {
+      {pairs, "PAIRS", "EW", "Di,Bob,Cy,Ann"},
+      {pairs, "PAIRS", "NS", "Bob,Di,Ann,Cy"},
+      {pairs, "TEAMS", "EW", "Bob,Di,Ann,Cy"},
+      {placed, "PAIRS", "EW", "Bob,Di,Ann,Cy"},
+      {placed + "</PARTICIPANTS><WINNER_TYPE>1</WINNER_TYPE><PARTICIPANTS>", "PAIRS", "EW",
+       "Di,Bob,Cy,Ann"},
+      {pairs + "</PARTICIPANTS><WINNER_TYPE>2</WINNER_TYPE><PARTICIPANTS>", "PAIRS", "EW",
+       "Bob,Di,Ann,Cy"},
+  };
+  for (const auto& c : kCases) {
+    const std::string line =
+        Element("TRAVELLER_LINE", Element("NS_PAIR_NUMBER", "1") + Element("EW_PAIR_NUMBER", "2") +
+                                      Element("DIRECTION", c.direction));
+    const LinFile data =
+        Read(UsebioText(Element("PARTICIPANTS", c.event) + BoardElement("7", line), c.type)).data;
+    EXPECT_EQ(data.lin.at(0), "rh||ah|Board 7|pn|" + std::string(c.players) +
+                                  "|qent||qens|||qenns|0||qenew|0||qenc|||qend|||qenl|||qeni|0|");
+  }
+}
+
+TEST(Usebio, CrossImpsAreShownAsSuch) {
+  const struct {
+    std::string points;
+    const char* imps;
+    const char* abbreviation;
+  } kCases[] = {
+      {Element("NS_CROSS_IMP_POINTS", "2.5") + Element("EW_CROSS_IMP_POINTS", "-2"), "2.5", "XIMP"},
+      {Element("EW_CROSS_IMP_POINTS", "-2.50"), "2.5", "XIMP"},
+      {Element("EW_CROSS_IMP_POINTS", "0"), "0", "XIMP"},
+      {Element("NS_BUTLER_POINTS", "4"), "4", "IMP"},
+  };
+  for (const auto& c : kCases) {
+    for (const std::string word : {"IMPS", "MATCH_POINTS", "VP"}) {
+      const LinFile data = Read(UsebioText(Element("SCORING_METHOD", word) +
+                                           BoardElement("7", TravellerLine("qx|o7|", c.points))))
+                               .data;
+      EXPECT_TRUE(data.lin.at(0).ends_with("|qeni|" + std::string(c.imps) + "|")) << data.lin[0];
+      EXPECT_EQ(data.boardScoringMethod, word);
+      EXPECT_EQ(data.boardScoringAbb, word == "IMPS" ? c.abbreviation : GetAbbreviations(word));
+    }
+  }
+}
+
 TEST(Usebio, BoardsOfTheSectionGiveTheRange) {
   const std::string sections =
       Element("SESSION", "<SECTION SECTION_ID=\"A\">" + OneLineBoard(5) + OneLineBoard(3) +
@@ -248,7 +300,14 @@ TEST(Usebio, RefusesWhatItCannotRepresent) {
       {UsebioText("<A>") + "</B>", kLoadFailed},
   }};
   for (const auto& [text, message] : cases) EXPECT_EQ(Refusal(text), message) << text;
-  EXPECT_THROW(ReadUsebio(UsebioText(BoardElement("1", TravellerLine("qx|o1|pn|a%2")))), Fault);
+}
+
+TEST(Usebio, ARecordThatCannotBeDecodedIsLeftOutAndItsResultStays) {
+  const UsebioResults results = Read(UsebioText(BoardElement(
+      "7", TravellerLine("qx|o7|pn|a%2", Element("TRICKS", "9")) + TravellerLine("qx|o7|"))));
+  EXPECT_EQ(results.leftOut.broken, std::vector<int>{7});
+  ASSERT_EQ(results.data.lin.size(), 2U);
+  EXPECT_TRUE(results.data.lin[0].starts_with("rh||ah|Board 7|qent|9|qens|"));
 }
 
 TEST(Usebio, HostileFilesEndWithAMessage) {

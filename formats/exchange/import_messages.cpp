@@ -1,0 +1,105 @@
+#include "formats/exchange/import_messages.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <vector>
+
+namespace tricklet {
+namespace {
+
+constexpr std::size_t kMostListed = 10;
+
+/// "2, 5, 7": of more than ten the first ten.
+std::string Listed(const std::vector<std::string>& entries) {
+  std::string text;
+  for (std::size_t i = 0; i < std::min(entries.size(), kMostListed); ++i) {
+    text += (i == 0 ? "" : ", ") + entries[i];
+  }
+  return text + (entries.size() > kMostListed ? " ..." : "");
+}
+
+/// Each number once.
+std::string NumbersText(const std::vector<int>& numbers) {
+  std::vector<std::string> entries;
+  for (const int number : std::set<int>(numbers.begin(), numbers.end())) {
+    entries.push_back(std::to_string(number));
+  }
+  return Listed(entries);
+}
+
+/// "1-3, 7".
+std::string RangesText(const std::set<int>& numbers) {
+  std::vector<std::string> entries;
+  for (auto first = numbers.begin(); first != numbers.end();) {
+    auto next = std::next(first);
+    int last = *first;
+    for (; next != numbers.end() && *next == last + 1; ++next) ++last;
+    entries.push_back(std::to_string(*first) + (last == *first ? "" : "-" + std::to_string(last)));
+    first = next;
+  }
+  return Listed(entries);
+}
+
+/// One reason for leaving something out.
+struct Reason {
+  const std::vector<int>& boards;
+  const char* what;
+  const char* why;
+  const char* whySeveral;
+};
+
+std::string ReasonText(const Reason& reason) {
+  const bool one = reason.boards.size() == 1;
+  return std::to_string(reason.boards.size()) + " " + reason.what + (one ? " was" : "s were") +
+         " left out " + (one ? reason.why : reason.whySeveral) + ": " + NumbersText(reason.boards);
+}
+
+}  // namespace
+
+std::string SavedText(const ReadResult& result, const std::string& libraryName) {
+  std::string text = "No hands have";
+  if (result.boardsSaved == 1) {
+    text = "Hand " + std::to_string(result.firstBoard) + " has";
+  } else if (result.boardsSaved > 1) {
+    text = std::to_string(result.boardsSaved) + " hands (" + std::to_string(result.firstBoard) +
+           "-" + std::to_string(result.lastBoard) + ") have";
+  }
+  return text + " been saved to the library - " + libraryName;
+}
+
+std::string StoredText(const ReadResult& result, const std::set<int>& stored) {
+  if (stored.empty()) return "";
+  const bool first = stored.contains(result.firstBoard);
+  const bool last = result.boardsSaved == 1 || stored.contains(result.lastBoard);
+  if (result.boardsSaved > 0 && first && last) return "";
+  const bool one = stored.size() == 1;
+  return (one ? "Board " : "Boards ") + RangesText(stored) +
+         (one ? " of the file is stored" : " of the file are stored");
+}
+
+std::string LeftOutText(const LeftOut& leftOut) {
+  constexpr const char* kImpossible =
+      "as impossible (no card, a card twice or more than 13 cards in a hand)";
+  constexpr const char* kBroken = "for a broken percent escape";
+  constexpr const char* kUnstorable = "because a library holds boards 1 to 999";
+  constexpr const char* kForeign = "because the dealer of the record is not the board's";
+  constexpr const char* kEndless = "for having more than 100 calls";
+  const std::array<Reason, 6> reasons{{
+      {leftOut.repeated, "deal", "because a board of the same number came before it in the file",
+       "because a board of the same number came before them in the file"},
+      {leftOut.impossible, "deal", kImpossible, kImpossible},
+      {leftOut.broken, "LIN record", kBroken, kBroken},
+      {leftOut.unstorable, "board", kUnstorable, kUnstorable},
+      {leftOut.foreign, "auction", kForeign, kForeign},
+      {leftOut.endless, "auction", kEndless, kEndless},
+  }};
+  std::string text;
+  for (const Reason& reason : reasons) {
+    if (reason.boards.empty()) continue;
+    text += (text.empty() ? "" : "\n") + ReasonText(reason);
+  }
+  return text;
+}
+
+}  // namespace tricklet

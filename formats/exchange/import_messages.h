@@ -1,0 +1,21 @@
+// What is told of an import when it has ended.
+#pragma once
+
+#include <set>
+#include <string>
+
+#include "formats/sink/board_sink.h"
+
+namespace tricklet {
+
+/// "3 hands (5-7) have been saved to the library - Club", as the reader counts them.
+std::string SavedText(const ReadResult& result, const std::string& libraryName);
+
+/// Which boards were stored; empty where `SavedText` names no others.
+std::string StoredText(const ReadResult& result, const std::set<int>& stored);
+
+/// What the file holds and the library does not, a line for each reason; empty when there is
+/// nothing to tell.
+std::string LeftOutText(const LeftOut& leftOut);
+
+}  // namespace tricklet

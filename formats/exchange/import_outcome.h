@@ -1,0 +1,13 @@
+// How an import ended.
+#pragma once
+
+namespace tricklet {
+
+struct ImportOutcome {
+  int boardsSaved = 0;     ///< as the message at the end counts them
+  bool refused = false;    ///< by the person or because of the file's type: nothing was read
+  bool cancelled = false;  ///< in mid-run
+  bool failed = false;     ///< not all could be read and stored; what was stored stays
+};
+
+}  // namespace tricklet

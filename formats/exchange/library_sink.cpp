@@ -1,0 +1,32 @@
+#include "formats/exchange/library_sink.h"
+
+#include <string>
+
+#include "formats/results/lin_file.h"
+#include "formats/sink/record_text.h"
+#include "library/board_store.h"
+#include "library/file_io.h"
+
+namespace tricklet {
+
+void LibrarySink::Store(const Board& board) {
+  session_.board = board;
+  try {
+    StoreBoard(session_);
+  } catch (const std::exception& failure) {
+    failure_ = FaultFrom(failure);
+    readOnly_ = IsReadOnly(session_.BoardPath(board.boardNumber));
+    throw;
+  }
+  ++count_;
+  stored_.insert(board.boardNumber);
+  if (firstStored_ != 0) return;
+  firstStored_ = board.boardNumber;
+  if (recyclesResults_) RecycleLinData(session_);  // the import does not depend on it
+}
+
+bool LibrarySink::Begin(int boardNumber, int done) {
+  return session_.host.Step("Importing board " + std::to_string(boardNumber), done, kWholeText);
+}
+
+}  // namespace tricklet

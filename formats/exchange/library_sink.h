@@ -1,0 +1,47 @@
+// The current library as the place where the boards of a hand-record file go.
+#pragma once
+
+#include <exception>
+#include <optional>
+#include <set>
+
+#include "core/fault.h"
+#include "formats/sink/board_sink.h"
+#include "library/session.h"
+
+namespace tricklet {
+
+/// Stores each board and shows how far the reading has come.
+class LibrarySink : public BoardSink {
+ public:
+  /// `recyclesResults`: "LIN.txt" goes to the recycle bin when the first board is stored, as its
+  /// results are of the boards that are replaced.
+  LibrarySink(Session& session, bool recyclesResults)
+      : session_(session), recyclesResults_(recyclesResults) {}
+
+  /// Throws `Fault` when the board cannot be written, and remembers it.
+  void Store(const Board& board) override;
+  bool Begin(int boardNumber, int done) override;
+
+  /// The numbers of the boards stored, and the one that was stored first (0: none was).
+  const std::set<int>& Stored() const { return stored_; }
+  int FirstStored() const { return firstStored_; }
+  /// Boards stored; one that replaced another of the same run counts as well.
+  int Count() const { return count_; }
+
+  /// What has ended the storing, if anything has.
+  const std::optional<Fault>& Failure() const { return failure_; }
+  /// It was a board that is marked read-only.
+  bool FailedAtReadOnly() const { return readOnly_; }
+
+ private:
+  Session& session_;
+  const bool recyclesResults_;
+  std::set<int> stored_;
+  int firstStored_ = 0;
+  int count_ = 0;
+  std::optional<Fault> failure_;
+  bool readOnly_ = false;
+};
+
+}  // namespace tricklet

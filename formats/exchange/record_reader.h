@@ -1,0 +1,34 @@
+// The types of files that can be imported, and how each is read.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "core/fault.h"
+#include "core/host.h"
+#include "formats/exchange/reading.h"
+
+namespace tricklet {
+
+/// What a file brings beside its deals, which decides what becomes of the library's "LIN.txt".
+enum class Brings : std::uint8_t {
+  Nothing,  ///< the results that the library has are of the deals that are replaced: it is recycled
+  Records,  ///< of its boards alone: those of other boards stay
+  Session,  ///< with its names and its scoring: it is replaced
+};
+
+struct RecordReader {
+  std::string_view type;  ///< as `FileTypeOf` gives it
+  Brings brings;
+  /// Reads a whole file. What it throws is reported and ends the import; boards stored before it
+  /// stay.
+  void (*read)(RecordSource source, BoardSink& sink, Reading& reading);
+  /// Tells that a file of the library could not be written.
+  void (*tellUnwritten)(Host& host, const Fault& fault);
+};
+
+/// The reader of a type that can be imported: "pbn", "dlm", "xml" or "lin". Throws `Fault`
+/// FaultNumber::SubscriptOutOfRange for another one.
+const RecordReader& ReaderOf(std::string_view type);
+
+}  // namespace tricklet
