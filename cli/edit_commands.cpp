@@ -35,7 +35,7 @@ ExitCode SwapHands(const Context& context, const EditArguments& arguments) {
   const auto from = SeatFromText(arguments.words.at(0));
   const auto to = SeatFromText(arguments.words.at(1));
   if (!from || !to) return End(context, "A seat is N, E, S or W", ExitCode::Usage);
-  swap(context.session.board, IndexOf(*from), IndexOf(*to));
+  swap(context.session.board, *from, *to);
   return ExitCode::Done;
 }
 

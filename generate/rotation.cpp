@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "core/fault.h"
 #include "generate/editing.h"
 
 namespace tricklet {
@@ -48,20 +47,14 @@ bool MoveCalls(CallList& calls, int steps) {
 
 }  // namespace
 
-void swap(Board& board, int from, int to) {
-  const bool seats = from >= 0 && from < kSeats && to >= 0 && to < kSeats;
-  const bool rotation = from >= kSeats && from <= IndexOf(Rotation::HalfTurn);
-  if (!seats && !rotation) throw Fault(FaultNumber::SubscriptOutOfRange, "No such seat");
+void swap(Board& board, Seat from, Seat to) {
   MarkEdited(board);
-  if (rotation) {
-    RotateHands(board.hands, static_cast<Rotation>(from));
-  } else {
-    std::swap(board.hands[static_cast<Seat>(from)], board.hands[static_cast<Seat>(to)]);
-  }
+  std::swap(board.hands[from], board.hands[to]);
 }
 
 bool Rotate(Board& board, Rotation rotation, bool takeAuction) {
-  swap(board, IndexOf(rotation), 0);
+  MarkEdited(board);
+  RotateHands(board.hands, rotation);
   if (!takeAuction) return true;
   const bool moved = MoveCalls(board.calls, StepsOf(rotation));
   if (moved) GetContract(board);

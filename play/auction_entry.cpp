@@ -71,15 +71,8 @@ void AuctionEntry::Remember() {
 
 void AuctionEntry::Bid(int index) {
   if (!BidEnabled(index) || CheckLimit()) return;
-  const auto strain = static_cast<BidStrain>(index % kStrains);
-  const Seat bidder = ToCall();
-  state_.strain = strain;
-  state_.bidLevel = index / kStrains + 1;
-  state_.bidderSeat = bidder;
-  auto& namer = state_.firstNamer[SideOf(bidder)][strain];
-  if (!namer) namer = bidder;
   EnableBids(index);
-  AddCall(Call::Bid(state_.bidLevel, strain));
+  AddCall(Call::Bid(index / kStrains + 1, static_cast<BidStrain>(index % kStrains)));
   state_.sideToDouble = SideToCall(state_.callsMade);
   state_.dblEnabled = true;
   state_.rdbEnabled = false;
@@ -164,24 +157,8 @@ bool AuctionEntry::OK() {
   board_.calls = calls_;
   board_.playMode = false;
   board_.handChanged = board_.handChanged || changed;
-  CommitContract();
+  GetContract(board_);
   return true;
-}
-
-void AuctionEntry::CommitContract() {
-  board_.contract.clear();
-  board_.contractLevel = 0;
-  if (calls_.Count() == kPassesWithoutABid && calls_[0].IsPass()) {
-    board_.contract = kAllPass;
-  } else if (state_.strain) {
-    const BidStrain strain = *state_.strain;
-    const std::string doubling = state_.redoubled ? "xx" : state_.doubled ? "x" : "";
-    board_.contractLevel = state_.bidLevel;
-    board_.contract = Call::Bid(state_.bidLevel, strain).Text() + doubling;
-    board_.declarer =
-        state_.firstNamer[SideOf(state_.bidderSeat)][strain].value_or(state_.bidderSeat);
-    board_.trumps = ToStrain(strain);
-  }
 }
 
 bool AuctionEntry::Cancel() {

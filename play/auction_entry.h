@@ -2,9 +2,6 @@
 #pragma once
 
 #include <array>
-#include <optional>
-#include <string>
-#include <vector>
 
 #include "core/board.h"
 #include "core/host.h"
@@ -23,13 +20,8 @@ class AuctionEntry {
     int sideToDouble = 0;  ///< 0 before any bid; else the last bidder's opponents, 1 dealer's side
     bool doubled = false;
     bool redoubled = false;
-    int passes = 0;                   ///< since the last bid, double or redouble
-    int lastBid = -1;                 ///< index of the last bid; -1 none; 35 when no bid can follow
-    int bidLevel = 0;                 ///< 1..7
-    std::optional<BidStrain> strain;  ///< of the last bid (the dialog's BidStrain)
-    Seat bidderSeat = Seat::North;    ///< of the last bid
-    /// The first player of each side to bid each strain.
-    PerSide<EnumArray<BidStrain, std::optional<Seat>, kStrains>> firstNamer;
+    int passes = 0;    ///< since the last bid, double or redouble
+    int lastBid = -1;  ///< index of the last bid; -1 none; 35 when no bid can follow
     bool dblEnabled = false;
     bool rdbEnabled = false;
     bool passEnabled = true;
@@ -87,7 +79,6 @@ class AuctionEntry {
   /// `AtLimit`, with its message.
   bool CheckLimit();
   void Replay(const CallList& stored);
-  void CommitContract();
 
   Board& board_;
   Host& host_;

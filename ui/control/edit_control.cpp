@@ -71,7 +71,7 @@ void EditControl::UndoFill() {
 }
 
 void EditControl::SwapHands(Seat from, Seat to) {
-  swap(ForEditing(), IndexOf(from), IndexOf(to));
+  swap(ForEditing(), from, to);
 }
 void EditControl::SwapSuits(Suit suit1, Suit suit2) {
   SwapSuit(ForEditing(), suit1, suit2);

@@ -126,7 +126,7 @@ QGroupBox* frmSwap::MakeRotation() {
   for (const QString& text : {tr("&Clockwise"), tr("&Anti-clockwise"), tr("&Half turn")}) {
     QPushButton* cmdRotate =
         MakeButton(QStringLiteral("cmdRotate_%1").arg(index), text, QString(text).remove(u'&'));
-    const auto rotation = static_cast<Rotation>(IndexOf(Rotation::Clockwise) + index);
+    const auto rotation = kAllRotations.at(static_cast<std::size_t>(index));
     connect(cmdRotate, &QPushButton::clicked, this, [this, rotation] {
       Change([&] { edit_.Rotate(rotation, chkAuction_->isChecked()); });
     });
