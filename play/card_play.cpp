@@ -68,10 +68,14 @@ bool CardPlay::Play(Card card) {
     host_.Beep();
     return false;
   }
-  undoRecords_.at(static_cast<std::size_t>(undoTop_++)) = state_;
+  Remember();
   if (state_.cardsInTrick == 0 && state_.tricksPlayed > 0) QuitTrick();
   PutOnTable(card, onPlay);
   return true;
+}
+
+void CardPlay::Remember() {
+  undoRecords_.at(static_cast<std::size_t>(undoTop_++)) = state_;
 }
 
 void CardPlay::PutOnTable(Card card, Seat seat) {
@@ -111,8 +115,9 @@ void CardPlay::QuitTrick() {
 void CardPlay::Undo() {
   if (!UndoEnabled()) return;
   timer_.Stop();
+  const bool claimed = state_.claimed;
   state_ = undoRecords_.at(static_cast<std::size_t>(--undoTop_));
-  if (state_.cardsInTrick == 0 && state_.tricksPlayed > 0) {
+  if (!claimed && state_.cardsInTrick == 0 && state_.tricksPlayed > 0) {
     // Before a lead the trick before it lies on the table again, even if it had been gathered.
     state_.trickCards = state_.lastTrick;
     state_.trickGathered = false;
@@ -127,6 +132,7 @@ void CardPlay::Claim() {
   if (!PlayMode() || !state_.onPlay) return;
   const Side side = SideOf(*state_.onPlay);
   timer_.Stop();
+  Remember();
   state_.trickCards.fill(std::nullopt);
   state_.cardsInTrick = 0;
   state_.trickGathered = true;

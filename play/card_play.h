@@ -91,8 +91,8 @@ class CardPlay {
   /// Gathers the finished trick from the table.
   void QuitTrick();
 
-  bool UndoEnabled() const { return PlayMode() && undoTop_ > 0 && !state_.claimed; }
-  /// Takes back the last card.
+  bool UndoEnabled() const { return PlayMode() && undoTop_ > 0; }
+  /// Takes back the claim, and the table is as it was before it; or else the last card.
   void Undo();
 
   bool ClaimEnabled() const { return PlayMode() && state_.onPlay.has_value(); }
@@ -108,10 +108,12 @@ class CardPlay {
   /// The result line; empty while the play goes on.
   std::string ScoreText() const;
 
-  /// Cards played so far: how often `Undo` can be called.
+  /// How often `Undo` can be called: one for each card played and one for a claim, 0..52 in all, as
+  /// a claim comes before the last card.
   int UndoTop() const { return undoTop_; }
 
  private:
+  void Remember();
   void PutOnTable(Card card, Seat seat);
   void FinishTrick();
   void WinTrick(Side side);
@@ -121,7 +123,7 @@ class CardPlay {
   TrickTimer& timer_;
   PlayState state_;
   int undoTop_ = 0;
-  std::array<PlayState, kCardsInPack> undoRecords_{};  // the state before each card
+  std::array<PlayState, kCardsInPack> undoRecords_{};  // before each card, and before the claim
 };
 
 }  // namespace tricklet

@@ -1,14 +1,15 @@
 #include "play/card_play.h"
 
 #include <algorithm>
-#include <numeric>
-#include <random>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "generate/deal.h"
 #include "tests/support/calls.h"
+#include "tests/support/hands.h"
 #include "tests/support/scripted_host.h"
+#include "tests/support/thorough.h"
 
 namespace tricklet {
 namespace {
@@ -24,22 +25,6 @@ class ManualTimer : public TrickTimer {
   void Stop() override { running = false; }
   bool running = false;
 };
-
-Board RandomBoard(std::mt19937& random, Strain trumps, Seat declarer) {
-  std::vector<int> pack(kCardsInPack);
-  std::iota(pack.begin(), pack.end(), 0);
-  std::shuffle(pack.begin(), pack.end(), random);
-  Board board;
-  for (std::size_t i = 0; i < pack.size(); ++i) {
-    AddCard(board.hands, Card::FromIndex(pack[i]), static_cast<Seat>(i % 4));
-  }
-  board.calls.Add(Call::Bid(1, ToBidStrain(trumps)));
-  board.contract = "1X";
-  board.contractLevel = 1;
-  board.trumps = trumps;
-  board.declarer = declarer;
-  return board;
-}
 
 /// The laws of play (44), stated over the plain list of the cards played.
 struct Referee {
@@ -86,15 +71,31 @@ struct Referee {
   }
 };
 
+void ClaimAndTakeBack(CardPlay& play) {
+  const PlayState before = play.Now();
+  const Side side = SideOf(*before.onPlay);
+  play.Claim();
+  ASSERT_TRUE(play.Finished());
+  ASSERT_EQ(play.Now().tricksWon[side], before.tricksWon[side] + kTricks - before.tricksPlayed);
+  ASSERT_TRUE(std::all_of(play.Now().trickSides.begin() + before.tricksPlayed,
+                          play.Now().trickSides.end(), [side](Side each) { return each == side; }));
+  play.Undo();
+  ASSERT_EQ(play.Now(), before);
+}
+
 TEST(CardPlay, RandomPlayoutsAgreeWithAnIndependentReferee) {
-  std::mt19937 random(5);
-  for (int deal = 0; deal < 10000; ++deal) {
-    Board board = RandomBoard(random, static_cast<Strain>(deal % 5), static_cast<Seat>(deal % 4));
+  RandomSource random(5);
+  for (int deal = 0; deal < test::Repetitions(10000); ++deal) {
+    Board board;
+    ASSERT_TRUE(Random(board.hands, random));
+    board.contractLevel = 1;
+    board.trumps = static_cast<Strain>(deal % 5);
+    board.declarer = static_cast<Seat>(deal % 4);
     ScriptedHost host;
     ManualTimer timer;
     CardPlay play(board, host, timer);
     ASSERT_TRUE(play.Start());
-    const PlayState atStart = play.Now();
+    std::vector<PlayState> states{play.Now()};
     Referee referee{board, {}};
     while (!play.Finished()) {
       std::vector<Card> legal;
@@ -103,36 +104,50 @@ TEST(CardPlay, RandomPlayoutsAgreeWithAnIndependentReferee) {
         ASSERT_EQ(play.IsLegal(card), referee.Legal(card)) << "deal " << deal;
         if (play.IsLegal(card)) legal.push_back(card);
       }
-      ASSERT_EQ(play.Now().onPlay, referee.ToPlay());
-      const Card card = legal[random() % legal.size()];
       const Seat seat = referee.ToPlay();
+      ASSERT_EQ(play.Now().onPlay, seat);
+      ASSERT_EQ(play.OnlyLegalCard(), legal.size() == 1 ? std::optional(legal[0]) : std::nullopt);
+      if (random.Below(8) == 0) {
+        ASSERT_NO_FATAL_FAILURE(ClaimAndTakeBack(play));
+      }
+      const Card card = legal[random.Below(static_cast<std::uint32_t>(legal.size()))];
       ASSERT_TRUE(play.Play(card));
       referee.played.emplace_back(seat, card);
+      states.push_back(play.Now());
       ASSERT_EQ(timer.running, referee.played.size() % 4 == 0);
-      if (timer.running && random() % 2 == 0) play.QuitTrick();  // else the next card gathers it
+      if (timer.running && random.Below(2) == 0) play.QuitTrick();  // else the next card gathers it
     }
     for (const Side side : {Side::NorthSouth, Side::EastWest}) {
       ASSERT_EQ(play.Now().tricksWon[side], referee.TricksOf(side));
     }
-    for (int card = 0; card < kCardsInPack; ++card) play.Undo();
-    ASSERT_EQ(play.Now(), atStart);
+    for (; !states.empty(); states.pop_back()) {
+      ASSERT_EQ(play.UndoTop() + 1, static_cast<int>(states.size()));
+      if (states.size() <= kCardsInPack) {
+        ASSERT_EQ(play.Now(), states.back());
+      }
+      play.Undo();
+    }
     ASSERT_FALSE(play.UndoEnabled());
   }
 }
 
 class PlayTest : public testing::Test {
  protected:
-  PlayTest() : play(board, host, timer) {
+  PlayTest() {
     // North holds all spades, East all hearts, South all diamonds, West all clubs.
     for (const Seat seat : kAllSeats) {
       board.hands[seat][static_cast<Suit>(seat)] = Holding::FromBits(Holding::kAllBits);
     }
     test::SetAuction(board, "1NT Pass Pass Pass");
   }
+  void PlayAll(std::initializer_list<Suit> suits) {
+    for (const Suit suit : suits) ASSERT_TRUE(play.Play({suit, Rank::Two}));
+  }
+
   Board board;
   ScriptedHost host;
   ManualTimer timer;
-  CardPlay play;
+  CardPlay play{board, host, timer};
 };
 
 TEST_F(PlayTest, StartsWithTheOpeningLead) {
@@ -140,6 +155,7 @@ TEST_F(PlayTest, StartsWithTheOpeningLead) {
   EXPECT_EQ(play.Now().onPlay, Seat::East);
   EXPECT_EQ(play.ClaimCaption(), "Claim by East");
   EXPECT_EQ(play.TricksText(Side::NorthSouth), "NS: 0");
+  EXPECT_EQ(play.TricksText(Side::EastWest), "EW: 0");
   EXPECT_EQ(play.ScoreText(), "");
 }
 
@@ -162,7 +178,7 @@ TEST_F(PlayTest, IllegalCardsBeepAndChangeNothing) {
   ASSERT_TRUE(play.Start());
   EXPECT_FALSE(play.Play({Suit::Spades, Rank::Ace}));  // not on play
   EXPECT_EQ(host.beeps, 1);
-  EXPECT_TRUE(play.Play({Suit::Hearts, Rank::Two}));
+  PlayAll({Suit::Hearts});
   EXPECT_FALSE(play.Play({Suit::Hearts, Rank::Two})) << "it is on the table already";
   EXPECT_EQ(host.beeps, 1);
   EXPECT_EQ(play.Now().cardsInTrick, 1);
@@ -170,45 +186,46 @@ TEST_F(PlayTest, IllegalCardsBeepAndChangeNothing) {
 
 TEST_F(PlayTest, UndoOfALeadShowsTheTrickBefore) {
   ASSERT_TRUE(play.Start());
-  for (const Suit suit : {Suit::Hearts, Suit::Diamonds, Suit::Clubs, Suit::Spades}) {
-    ASSERT_TRUE(play.Play({suit, Rank::Ace}));
-  }
+  PlayAll({Suit::Hearts, Suit::Diamonds, Suit::Clubs, Suit::Spades});
   EXPECT_EQ(play.Now().onPlay, Seat::East) << "nobody could follow";
   play.QuitTrick();
   EXPECT_TRUE(play.Now().trickGathered);
   EXPECT_FALSE(play.Now().trickCards[Seat::East]);
   ASSERT_TRUE(play.Play({Suit::Hearts, Rank::King}));
   play.Undo();
-  EXPECT_EQ(play.Now().trickCards[Seat::East], (Card{Suit::Hearts, Rank::Ace}));
-  EXPECT_EQ(play.Now().onPlay, Seat::East);
-  EXPECT_EQ(play.Now().tricksPlayed, 1);
+  EXPECT_EQ(play.Now().trickCards[Seat::East], (Card{Suit::Hearts, Rank::Two}));
+  EXPECT_FALSE(play.Now().trickGathered);
   play.Undo();
   EXPECT_EQ(play.Now().tricksPlayed, 0);
   EXPECT_EQ(play.Now().cardsInTrick, 3);
-  EXPECT_EQ(play.Now().onPlay, Seat::North);
 }
 
-TEST_F(PlayTest, AClaimTakesTheRestForTheSideOnPlay) {
+TEST_F(PlayTest, AClaimTakesTheRestAndIsTakenBack) {
   ASSERT_TRUE(play.Start());
   play.Claim();
   EXPECT_EQ(play.Now().tricksWon[Side::EastWest], 13);
   EXPECT_EQ(play.ScoreText(), "1NT-7 by North : EW +350");
   EXPECT_FALSE(play.ClaimEnabled());
-  EXPECT_FALSE(play.UndoEnabled());
+  EXPECT_EQ(play.ClaimCaption(), "Claim");
   EXPECT_FALSE(play.Play({Suit::Hearts, Rank::Two}));
 
   ASSERT_TRUE(play.Start());
-  for (const Suit suit : {Suit::Hearts, Suit::Diamonds, Suit::Clubs}) {
-    ASSERT_TRUE(play.Play({suit, Rank::Two}));
-  }
+  PlayAll({Suit::Hearts, Suit::Diamonds, Suit::Clubs});
+  const PlayState before = play.Now();
   play.Claim();  // in mid-trick, by North
-  EXPECT_EQ(play.Now().tricksWon[Side::NorthSouth], 13);
   EXPECT_EQ(play.ScoreText(), "1NT+6 by North : NS +270");
+  EXPECT_EQ(play.UndoTop(), 4);
+  EXPECT_TRUE(play.UndoEnabled());
+  play.Undo();
+  EXPECT_EQ(play.Now(), before);
+  EXPECT_EQ(play.ScoreText(), "");
+  play.Undo();
+  EXPECT_EQ(play.Now().cardsInTrick, 2);
 }
 
 TEST_F(PlayTest, LeavingTheBoardEndsThePlay) {
   ASSERT_TRUE(play.Start());
-  ASSERT_TRUE(play.Play({Suit::Hearts, Rank::Two}));
+  PlayAll({Suit::Hearts});
   ClearAll(board);
   EXPECT_FALSE(play.PlayMode());
   EXPECT_FALSE(play.Play({Suit::Diamonds, Rank::Two}));
@@ -224,16 +241,14 @@ TEST_F(PlayTest, EditingAsksOnlyInMidPlay) {
   EXPECT_TRUE(play.EndForEditing()) << "no card yet";
   EXPECT_FALSE(play.PlayMode());
   ASSERT_TRUE(play.Start());
-  ASSERT_TRUE(play.Play({Suit::Hearts, Rank::Two}));
+  PlayAll({Suit::Hearts});
   host.ExpectAsk(question, "Tricklet", Answer::No);
   EXPECT_FALSE(play.EndForEditing());
   EXPECT_EQ(play.Now().cardsInTrick, 1);
   play.Claim();
   EXPECT_TRUE(play.EndForEditing()) << "nothing is left to be played";
   ASSERT_TRUE(play.Start());
-  for (const Suit suit : {Suit::Hearts, Suit::Diamonds, Suit::Clubs, Suit::Spades}) {
-    ASSERT_TRUE(play.Play({suit, Rank::Two}));
-  }
+  PlayAll({Suit::Hearts, Suit::Diamonds, Suit::Clubs, Suit::Spades});
   EXPECT_TRUE(timer.running);
   host.ExpectAsk(question, "Tricklet", Answer::Yes);
   EXPECT_TRUE(play.EndForEditing());
@@ -241,67 +256,31 @@ TEST_F(PlayTest, EditingAsksOnlyInMidPlay) {
   EXPECT_FALSE(timer.running);
 }
 
-int CardsOf(const Board& board, Seat seat) {
-  int count = 0;
-  for (const Holding holding : board.hands[seat]) count += holding.Count();
-  return count;
-}
-
-/// Deals the rest of the pack so that nobody but North, and who follows suit to `cards`, holds the
-/// suit led.
-void FillHands(Board& board, const std::array<Card, 4>& cards) {
-  const Suit led = cards[0].suit;
-  for (const bool ledSuit : {true, false}) {
-    for (int index = 0; index < kCardsInPack; ++index) {
-      const Card card = Card::FromIndex(index);
-      if ((card.suit == led) != ledSuit || SeatHolding(board.hands, card) >= 0) continue;
-      for (const Seat seat : kAllSeats) {
-        const bool follows = cards.at(static_cast<std::size_t>(seat)).suit == led;
-        if (CardsOf(board, seat) == kCardsInHand || (ledSuit && !follows)) continue;
-        AddCard(board.hands, card, seat);
-        break;
-      }
-    }
-  }
-}
-
-TEST(CardPlayTrick, TrumpsAndRuffs) {
-  // One trick: four cards from North round, spades are trumps unless told otherwise.
+TEST(Trick, TrumpsAndRuffs) {
+  // Four cards from North round, by suit letter and the first character of the rank.
   const struct {
     Strain trumps;
-    std::array<const char*, 4> cards;  // suit letter and rank index in text
+    std::array<std::string_view, 4> cards;
     Seat winner;
   } kCases[] = {
       {Strain::Spades, {"H5", "HK", "HQ", "HA"}, Seat::West},
       {Strain::Spades, {"HA", "S2", "H3", "H4"}, Seat::East},
-      {Strain::Spades, {"HK", "S2", "HA", "S3"}, Seat::West},   // a ruff is over-ruffed
-      {Strain::Spades, {"HK", "S3", "HA", "S2"}, Seat::East},   // and under-ruffed
-      {Strain::Spades, {"S9", "S2", "S10", "SJ"}, Seat::West},  // led in trumps: the highest
-      {Strain::Spades, {"S9", "S2", "S3", "HA"}, Seat::North},  // a lower trump does not win
+      {Strain::Spades, {"HK", "S2", "HA", "S3"}, Seat::West},  // a ruff is over-ruffed
+      {Strain::Spades, {"HK", "S3", "HA", "S2"}, Seat::East},  // and under-ruffed
+      {Strain::Spades, {"S9", "S2", "S1", "SJ"}, Seat::West},  // led in trumps: the highest
+      {Strain::Spades, {"S9", "S2", "S3", "HA"}, Seat::North},
       {Strain::NoTrump, {"C2", "SA", "HA", "DA"}, Seat::North},
       {Strain::Hearts, {"D2", "CA", "SA", "H2"}, Seat::West},
   };
   for (const auto& c : kCases) {
-    Board board;
-    std::array<Card, 4> cards{};
-    for (std::size_t i = 0; i < 4; ++i) {
-      const std::string text = c.cards.at(i);
-      cards.at(i) = {static_cast<Suit>(std::string("SHDC").find(text[0])),
-                     static_cast<Rank>(std::string("AKQJ198765432").find(text[1]))};
-      AddCard(board.hands, cards.at(i), static_cast<Seat>(i));
+    Trick trick;
+    for (const Seat seat : kAllSeats) {
+      const std::string_view card = c.cards.at(static_cast<std::size_t>(seat));
+      trick.Add({static_cast<Suit>(std::string_view("SHDC").find(card[0])),
+                 static_cast<Rank>(std::string_view("AKQJ198765432").find(card[1]))},
+                seat, c.trumps);
     }
-    FillHands(board, cards);
-    board.calls.Add(Call::Bid(1, ToBidStrain(c.trumps)));
-    board.contract = "1";
-    board.contractLevel = 1;
-    board.trumps = c.trumps;
-    board.declarer = Seat::West;
-    ScriptedHost host;
-    ManualTimer timer;
-    CardPlay play(board, host, timer);
-    ASSERT_TRUE(play.Start()) << c.cards[0];
-    for (const Card card : cards) ASSERT_TRUE(play.Play(card)) << c.cards[0];
-    EXPECT_EQ(play.Now().trickWinner, c.winner) << c.cards[0] << c.cards[1];
+    EXPECT_EQ(trick.trickWinner, c.winner) << c.cards[0] << c.cards[1];
   }
 }
 

@@ -320,7 +320,10 @@ TEST_F(PlayWindowTest, KeysPlayUndoAcrossATrickAndClaim) {
   Key(Qt::Key_L, Qt::ControlModifier);
   EXPECT_EQ(Tricks(), QStringLiteral("NS: 13 EW: 0")) << "South was on play";
   EXPECT_EQ(Text("lblScore"), QStringLiteral("1Sxx+6 by North : NS +1720"));
-  EXPECT_FALSE(Offered("mnuUndoCard"));
+  EXPECT_TRUE(Offered("mnuUndoCard"));
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Tricks(), QStringLiteral("NS: 0 EW: 0")) << "as before the claim";
+  EXPECT_EQ(Find<QPushButton>("cmdClaim")->text(), QStringLiteral("Claim by South"));
 }
 
 TEST_F(PlayWindowTest, NothingLeavesAPlayUnderWayUnasked) {
