@@ -1,6 +1,7 @@
 #include "analysis/online_link.h"
 
 #include "analysis/deal_text.h"
+#include "core/statistics.h"
 
 namespace tricklet {
 namespace {
@@ -54,14 +55,15 @@ std::string SolverAddress(const Board& board, std::string_view libraryName, std:
 }
 
 std::string SolverAddressError(const Board& board) {
+  const PerSeat<int> cardCount = GetStats(board.hands).seatCardCount;
+  std::string errors;
   for (const Seat seat : kAllSeats) {
-    int cardCount = 0;
-    HandDealText(board.hands[seat], cardCount);
-    if (cardCount == kCardsInHand) continue;
-    return "Error - hand " + std::to_string(board.boardNumber) + " - " +
-           std::string(SeatName[seat]) + " has " + std::to_string(cardCount) + " cards.";
+    if (cardCount[seat] == kCardsInHand) continue;
+    if (!errors.empty()) errors += '\n';
+    errors += "Error - hand " + std::to_string(board.boardNumber) + " - " +
+              std::string(SeatName[seat]) + " has " + std::to_string(cardCount[seat]) + " cards.";
   }
-  return {};
+  return errors;
 }
 
 }  // namespace tricklet

@@ -13,7 +13,8 @@ namespace tricklet {
 std::string SolverAddress(const Board& board, std::string_view libraryName, std::string_view host,
                           std::string_view linRecord = {});
 
-/// "Error - hand 7 - East has 12 cards." for the first seat without 13 cards; empty otherwise.
+/// "Error - hand 7 - East has 12 cards.", a line for each seat that does not hold 13 cards; empty
+/// when all do.
 std::string SolverAddressError(const Board& board);
 
 }  // namespace tricklet
