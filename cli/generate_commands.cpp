@@ -159,10 +159,10 @@ ExitCode GenerateBoards(const Context& context, const GenerateArguments& argumen
   context.data << outcome.boardsStored << (outcome.boardsStored == 1 ? " board" : " boards")
                << " generated\n";
   if (outcome.cancelled || outcome.failed) return ExitCode::Refused;
-  if (!arguments.analyse) return ExitCode::Done;
-  session.host.Tell(AnalysisText(outcome.tables));
-  return outcome.tables.failure.empty() && !outcome.tables.cancelled ? ExitCode::Done
-                                                                     : ExitCode::Refused;
+  // Tables that were cancelled or failed have been told of already.
+  if (!outcome.tables.failure.empty() || outcome.tables.cancelled) return ExitCode::Refused;
+  if (arguments.analyse) session.host.Tell(AnalysisText(outcome.tables));
+  return ExitCode::Done;
 }
 
 }  // namespace tricklet::cli

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "core/statistics.h"
+#include "generate/hand_type.h"
+
 namespace tricklet {
 namespace {
 
@@ -89,6 +92,21 @@ std::optional<Contradiction> CheckBothHands(const Constraints& constraints) {
   return std::nullopt;
 }
 
+bool IsWithin(Limits limits, int number) {
+  return number >= limits.minimum && number <= limits.maximum;
+}
+
+/// The lengths are within the limits that are asked, or are those of the type.
+bool HasAskedShape(const Constraints& constraints, GenHand hand, const PerSuit<int>& lengths) {
+  if (!constraints.useSuitLengths[hand]) {
+    const HandType type = constraints.handTypeIndex[hand];
+    return IsOfType(type, constraints.handTypeOption[type][hand], lengths);
+  }
+  return std::all_of(kAllSuits.begin(), kAllSuits.end(), [&](Suit suit) {
+    return IsWithin(constraints.suitLimits[hand][suit], lengths[suit]);
+  });
+}
+
 }  // namespace
 
 PerSuit<Limits> AskedLengths(const Constraints& constraints, GenHand hand) {
@@ -109,6 +127,16 @@ std::optional<Contradiction> CheckConstraints(const Constraints& constraints) {
 Seat SeatOf(const Constraints& constraints, GenHand hand, Seat dealer) {
   const Seat base = constraints.relativeToDealer ? dealer : Seat::North;
   return SeatAfter(base, constraints.handDirection[hand]);
+}
+
+bool MeetsConstraints(const Constraints& constraints, const HandTable& hands, Seat dealer) {
+  const Statistics statistics = GetStats(hands);
+  return std::all_of(kGenHands.begin(), kGenHands.end(), [&](GenHand hand) {
+    if (IndexOf(hand) >= constraints.numGenHands) return true;
+    const Seat seat = SeatOf(constraints, hand, dealer);
+    return IsWithin(constraints.pointLimits[hand], statistics.seatHcp[seat]) &&
+           HasAskedShape(constraints, hand, statistics.suitLength[seat]);
+  });
 }
 
 }  // namespace tricklet

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/notation.h"
+#include "core/board.h"
 
 namespace tricklet {
 
@@ -88,5 +88,9 @@ std::optional<Contradiction> CheckConstraints(const Constraints& constraints);
 
 /// Where the constrained hand goes on a board with this dealer.
 Seat SeatOf(const Constraints& constraints, GenHand hand, Seat dealer);
+
+/// The constrained hands of a complete deal have the points, and the lengths or the type, that are
+/// asked of them on a board with this dealer.
+bool MeetsConstraints(const Constraints& constraints, const HandTable& hands, Seat dealer);
 
 }  // namespace tricklet

@@ -25,12 +25,18 @@ bool MayOverwrite(Session& session, const Constraints& constraints) {
   return true;
 }
 
-/// Deals the current board until the person takes the deal; false when the run is to end.
-bool DealBoard(Session& session, const Constraints& constraints, const GenerateOptions& options) {
+/// Deals board `number` until the person takes the deal; false when the run is to end.
+bool DealBoard(Session& session, int number, const Constraints& constraints,
+               const GenerateOptions& options) {
+  const auto [first, last] = constraints.genBoards;
   Board& board = session.board;
   while (true) {
+    board.boardNumber = number;
     ClearAll(board);
+    ++session.boardsLoaded;
     board.hands = GenerateDeal(constraints, board.Dealer(), session.random);
+    const std::string text = "Generating board " + std::to_string(number);
+    if (!session.host.Step(text, number - first, last - first + 1)) return false;
     const Answer answer = options.preview ? options.preview(board) : Answer::Yes;
     if (answer != Answer::No) return answer == Answer::Yes;
   }
@@ -40,13 +46,14 @@ void DealRange(Session& session, const Constraints& constraints, const GenerateO
                GenerateOutcome& outcome) {
   const auto [first, last] = constraints.genBoards;
   for (int number = first; number <= last; ++number) {
-    const std::string text = "Generating board " + std::to_string(number);
-    session.board.boardNumber = number;
-    outcome.cancelled = !session.host.Step(text, number - first, last - first + 1) ||
-                        !DealBoard(session, constraints, options);
+    outcome.cancelled = !DealBoard(session, number, constraints, options);
     if (outcome.cancelled) return;
     StoreBoard(session);
     ++outcome.boardsStored;
+    const Board& board = session.board;
+    if (!MeetsConstraints(constraints, board.hands, board.Dealer())) {
+      outcome.outside.push_back(number);
+    }
   }
 }
 
@@ -61,7 +68,26 @@ void DealAndAnalyse(Session& session, const Constraints& constraints,
   outcome.tables = AnalyseBoards(session, session.getSolver(), first, last, false);
 }
 
+/// "3 boards do not meet the constraints: 4, 9, 17", of many boards the first.
+std::string OutsideText(const std::vector<int>& boards) {
+  constexpr std::size_t kMostNamed = 20;
+  std::string text = std::to_string(boards.size()) +
+                     (boards.size() == 1 ? " board does" : " boards do") +
+                     " not meet the constraints: ";
+  for (std::size_t i = 0; i < std::min(boards.size(), kMostNamed); ++i) {
+    text += (i == 0 ? "" : ", ") + std::to_string(boards[i]);
+  }
+  return boards.size() > kMostNamed ? text + ", ..." : text;
+}
+
 }  // namespace
+
+std::string GenerateText(const GenerateOutcome& outcome) {
+  std::string text = outcome.outside.empty() ? "" : OutsideText(outcome.outside);
+  if (!outcome.tables.cancelled && outcome.tables.failure.empty()) return text;
+  if (!text.empty()) text += '\n';
+  return text + AnalysisText(outcome.tables);
+}
 
 GenerateOutcome Generate(Session& session, const Constraints& constraints,
                          const GenerateOptions& options) {
@@ -76,6 +102,8 @@ GenerateOutcome Generate(Session& session, const Constraints& constraints,
     ErrorReport(session.host, FaultFrom(failure));
   }
   ListAndShow(session, outcome.boardsStored > 0 ? constraints.genBoards.front() : before);
+  const std::string text = GenerateText(outcome);
+  if (!text.empty()) session.host.Tell(text);
   return outcome;
 }
 

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "core/host.h"
 #include "generate/constraints.h"
@@ -23,14 +25,21 @@ struct GenerateOutcome {
   int boardsStored = 0;
   bool refused = false;    ///< by the person, before anything was written
   bool cancelled = false;  ///< in mid-run: the boards up to then are stored
-  bool failed = false;     ///< a board could not be stored
+  bool failed = false;     ///< a board could not be stored; the person has been told why
+  /// The boards stored that do not meet the constraints, by number, the lowest first.
+  std::vector<int> outside = {};
   /// Of the analysis, where that was asked for and the run came to its end.
   AnalysisOutcome tables = {};
 };
 
+/// What there is to tell of a run at its end: the boards that do not meet the constraints, and the
+/// tables when their computation was cancelled or failed. Empty when there is nothing.
+std::string GenerateText(const GenerateOutcome& outcome);
+
 /// Fills the boards `genBoards` of the current library with deals, and then loads the first of
-/// them. Asks before about unsaved changes, and once about overwriting. The constraints must be
-/// such that `CheckConstraints` accepts them.
+/// them. Asks before about unsaved changes, and once about overwriting; tells `GenerateText` after.
+/// Each deal is the session's board while the host has its step, and is stored after that. The
+/// constraints must be such that `CheckConstraints` accepts them.
 GenerateOutcome Generate(Session& session, const Constraints& constraints,
                          const GenerateOptions& options = {});
 

@@ -1,9 +1,17 @@
 #include "generate/hand_type.h"
 
+#include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace tricklet {
 namespace {
+
+using Pattern = std::array<int, kSuits>;  // lengths, the longest first
+
+constexpr std::array<Pattern, 3> kBalancedPatterns{{{4, 4, 3, 2}, {5, 3, 3, 2}, {4, 3, 3, 3}}};
+constexpr Pattern kThreeSuiter{4, 4, 4, 1};
+constexpr int kWeakTwoLength = 6;
 
 constexpr Limits kAnyLength{0, kCardsInHand};
 
@@ -24,14 +32,12 @@ PerSuit<Limits> LongSuit(Suit suit, int length) {
 
 PerSuit<Limits> ShapeBalanced(int option, RandomSource& random) {
   constexpr int kFiveThreeThreeTwo = 1;
-  constexpr std::array<std::array<int, kSuits>, 3> kPatterns{
-      {{4, 4, 3, 2}, {5, 3, 3, 2}, {4, 3, 3, 3}}};
   // A-priori percentages of the patterns, by counting.
   std::array<double, 3> weights{21.552, 15.517, 10.536};
   const bool fiveInMinor = option == 1;
   if (fiveInMinor) weights[kFiveThreeThreeTwo] /= 2;  // half of them have the five in a major
   const int pattern = WeightedPick(weights, 0, 2, random);
-  std::array<int, kSuits> lengths = kPatterns.at(static_cast<std::size_t>(pattern));
+  Pattern lengths = kBalancedPatterns.at(static_cast<std::size_t>(pattern));
   PerSuit<Limits> limits;
   for (const Suit suit : kAllSuits) {
     const int last = kSuits - 1 - IndexOf(suit);
@@ -50,14 +56,13 @@ PerSuit<Limits> ShapeBalanced(int option, RandomSource& random) {
 
 /// In spades or hearts; with option 1 in diamonds too.
 PerSuit<Limits> ShapeWeak2(int option, RandomSource& random) {
-  constexpr int kWeakTwoLength = 6;
   return LongSuit(RandomSuit(1 + option, random), kWeakTwoLength);
 }
 
 PerSuit<Limits> Shape4441(RandomSource& random) {
   PerSuit<Limits> limits;
-  limits.fill(Exactly(4));
-  limits[RandomSuit(kSuits - 1, random)] = Exactly(1);
+  limits.fill(Exactly(kThreeSuiter.front()));
+  limits[RandomSuit(kSuits - 1, random)] = Exactly(kThreeSuiter.back());
   return limits;
 }
 
@@ -88,6 +93,27 @@ PerSuit<Limits> ChooseHandType(HandType type, int option, const PerSuit<int>& fi
       break;
   }
   return ShapePreempt(firstLengths, random);
+}
+
+bool IsOfType(HandType type, int option, const PerSuit<int>& lengths) {
+  Pattern pattern = lengths.values;
+  std::sort(pattern.begin(), pattern.end(), std::greater<>());
+  switch (type) {
+    case HandType::Balanced: {
+      const bool majorAllowed = option == 0;
+      const int longestMajor = std::max(lengths[Suit::Spades], lengths[Suit::Hearts]);
+      return std::find(kBalancedPatterns.begin(), kBalancedPatterns.end(), pattern) !=
+                 kBalancedPatterns.end() &&
+             (majorAllowed || longestMajor < 5);
+    }
+    case HandType::Weak2:
+      return std::count(lengths.begin(), lengths.begin() + 2 + option, kWeakTwoLength) > 0;
+    case HandType::FourFourFourOne:
+      return pattern == kThreeSuiter;
+    case HandType::Preempt:
+      break;
+  }
+  return pattern.front() >= kShortestPreempt;
 }
 
 }  // namespace tricklet

@@ -18,4 +18,7 @@ inline constexpr std::array<double, 7> kPreemptOdds{3.52664,    0.466761,   0.03
 PerSuit<Limits> ChooseHandType(HandType type, int option, const PerSuit<int>& firstLengths,
                                RandomSource& random);
 
+/// A hand with these lengths is one that `ChooseHandType` asks for with this type and option.
+bool IsOfType(HandType type, int option, const PerSuit<int>& lengths);
+
 }  // namespace tricklet

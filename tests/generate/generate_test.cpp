@@ -4,7 +4,6 @@
 
 #include "analysis/deal_text.h"
 #include "analysis/get_dds.h"
-#include "core/statistics.h"
 #include "library/board_store.h"
 #include "tests/support/fake_solver.h"
 #include "tests/support/library_fixture.h"
@@ -17,39 +16,52 @@ const std::string kOverwrite =
 
 class GenerateRun : public test::LibraryTest {
  protected:
-  GenerateRun() { session.random = RandomSource(1); }
+  GenerateRun() {
+    session.random = RandomSource(1);
+    constraints.numGenHands = 1;
+  }
 
   GenerateOutcome Run(int first, int last, const GenerateOptions& options = {}) {
-    Constraints constraints;
-    constraints.numGenHands = 1;
     constraints.genBoards = {first, last};
-    return Generate(session, constraints, options);
+    GenerateOutcome outcome = Generate(session, constraints, options);
+    EXPECT_EQ(host.working, 0);
+    EXPECT_FALSE(session.batchRunning);
+    return outcome;
   }
   Board Stored(int number) {
     Board board;
     board.boardNumber = number;
     bool complete = false;
-    EXPECT_TRUE(LoadHandBasic(session, board, complete));
-    EXPECT_TRUE(complete) << number;
+    EXPECT_TRUE(LoadHandBasic(session, board, complete) && complete) << number;
     return board;
   }
+  /// 12 spades and an ace beside them are 14 points.
+  void AskTheImpossible() {
+    constraints.suitLimits[GenHand::First][Suit::Spades] = {12, 13};
+    constraints.pointLimits[GenHand::First] = {19, 37};
+  }
+
+  Constraints constraints;
 };
 
-TEST_F(GenerateRun, StoresTheRangeAndShowsItsFirstBoard) {
+TEST_F(GenerateRun, ShowsEachDealBeforeItIsStored) {
+  std::vector<HandTable> shown;
+  host.onStep = [&] {
+    const int number = session.board.boardNumber;
+    EXPECT_EQ(host.steps.back(), "Generating board " + std::to_string(number));
+    EXPECT_FALSE(std::filesystem::exists(session.BoardPath(number)));
+    shown.push_back(session.board.hands);
+  };
   const GenerateOutcome outcome = Run(30, 33);
   EXPECT_EQ(outcome.boardsStored, 4);
   EXPECT_FALSE(outcome.cancelled || outcome.refused || outcome.failed);
   EXPECT_EQ(session.library.boardCount, 4);
-  EXPECT_EQ(session.library.firstBoard, 30);
   EXPECT_EQ(session.library.maxBoard, 33);
   EXPECT_EQ(session.board.boardNumber, 30);
-  EXPECT_EQ(session.board.hands, Stored(30).hands);
   EXPECT_FALSE(session.board.handChanged);
-  EXPECT_NE(Stored(31).hands, Stored(32).hands);
-  const std::vector<std::string> steps{"Generating board 30", "Generating board 31",
-                                       "Generating board 32", "Generating board 33"};
-  EXPECT_EQ(host.steps, steps);
-  EXPECT_EQ(host.working, 0);
+  for (int number = 30; number <= 33; ++number) {
+    EXPECT_EQ(Stored(number).hands, shown.at(static_cast<std::size_t>(number - 30)));
+  }
 }
 
 TEST_F(GenerateRun, AsksOnceBeforeOverwriting) {
@@ -108,6 +120,16 @@ TEST_F(GenerateRun, PreviewTakesDealsAgainOrEnds) {
   EXPECT_EQ(session.library.boardCount, 2);
 }
 
+TEST_F(GenerateRun, TellsOnceWhichBoardsAreOutsideTheConstraints) {
+  AskTheImpossible();
+  host.ExpectTell("1 board does not meet the constraints: 7");
+  EXPECT_EQ(Run(7, 7).outside, std::vector{7});
+  host.ExpectTell(
+      "25 boards do not meet the constraints: 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23, "
+      "24, 25, 26, 27, 28, 29, 30, ...");
+  EXPECT_EQ(Run(11, 35).boardsStored, 25);
+}
+
 TEST_F(GenerateRun, TablesAreComputedInBatchesOnceAllBoardsAreStored) {
   test::FakeSolver solver;
   session.getSolver = [&solver]() -> Solver& { return solver; };
@@ -119,13 +141,23 @@ TEST_F(GenerateRun, TablesAreComputedInBatchesOnceAllBoardsAreStored) {
     EXPECT_EQ(board.makeable, ToMakeable(solver.RecordOf(SolverDealText(board.hands))));
   }
   EXPECT_TRUE(session.board.makeableValid);
-  EXPECT_EQ(host.working, 0);
 
   solver.failure = "Too many tables";
-  const GenerateOutcome outcome = Run(50, 51, {.analyse = true});
-  EXPECT_EQ(outcome.boardsStored, 2) << "deals are kept though the solver fails";
-  EXPECT_EQ(outcome.tables.failure, "Too many tables");
+  AskTheImpossible();
+  host.ExpectTell("2 boards do not meet the constraints: 50, 51\nToo many tables");
+  EXPECT_EQ(Run(50, 51, {.analyse = true}).boardsStored, 2) << "though the solver fails";
   EXPECT_FALSE(session.board.makeableValid);
+
+  solver.failure.clear();
+  constraints.suitLimits[GenHand::First][Suit::Spades] = {0, 13};
+  constraints.pointLimits[GenHand::First] = {0, 37};
+  host.onStep = [this] {
+    if (host.steps.back().starts_with("Analysing")) {
+      host.cancelAtStep = static_cast<int>(host.steps.size());
+    }
+  };
+  host.ExpectTell("2 tables have been computed\nAnalysis cancelled");
+  EXPECT_TRUE(Run(60, 61, {.analyse = true}).tables.cancelled);
 }
 
 TEST_F(GenerateRun, ABoardThatCannotBeStoredEndsTheRun) {
@@ -135,7 +167,6 @@ TEST_F(GenerateRun, ABoardThatCannotBeStoredEndsTheRun) {
   EXPECT_TRUE(outcome.failed);
   EXPECT_EQ(outcome.boardsStored, 1);
   EXPECT_EQ(session.board.hands, Stored(1).hands);
-  EXPECT_FALSE(session.batchRunning);
 }
 
 }  // namespace
