@@ -1,16 +1,27 @@
-#include "cli/analysis_commands.h"
-
+// The commands for double-dummy tables and the online page.
 #include <algorithm>
+#include <memory>
+#include <optional>
 #include <ostream>
+
+#include <CLI/CLI.hpp>
 
 #include "analysis/online_link.h"
 #include "cli/board_text.h"
+#include "cli/command.h"
 #include "formats/results/traveller.h"
 #include "library/board_store.h"
 #include "library/tables.h"
 
 namespace tricklet::cli {
 namespace {
+
+struct AnalyseArguments {
+  std::optional<int> first;  ///< nothing: the whole library
+  std::optional<int> last;   ///< nothing: `first` alone
+  bool again = false;        ///< boards that have a table too
+  bool show = false;         ///< print the tables of the boards afterwards
+};
 
 void ShowTables(const Context& context, int first, int last) {
   Session& session = context.session;
@@ -23,8 +34,6 @@ void ShowTables(const Context& context, int first, int last) {
                  << TableText(board, session.settings.makeableContract) << '\n';
   }
 }
-
-}  // namespace
 
 ExitCode Analyse(const Context& context, const AnalyseArguments& arguments) {
   Session& session = context.session;
@@ -61,6 +70,26 @@ ExitCode Link(const Context& context, int boardNumber) {
                                 record)
                << '\n';
   return ExitCode::Done;
+}
+
+}  // namespace
+
+void AddAnalysisCommands(CLI::App& app, Command& command) {
+  const auto asked = std::make_shared<AnalyseArguments>();
+  const CLI::Range boards(kFirstBoardNumber, kLastBoardNumber);
+  auto* analyse = app.add_subcommand("analyse", "Compute missing double-dummy tables");
+  analyse->add_option("FIRST", asked->first, "First board; none: the whole library")->check(boards);
+  analyse->add_option("LAST", asked->last, "Last board")->check(boards);
+  analyse->add_flag("--again", asked->again, "Compute the tables that are there too");
+  analyse->add_flag("--show", asked->show, "Print the tables");
+  WhenChosen(*analyse, command, [asked](const Context& context, const ConsoleHost&) {
+    return Analyse(context, *asked);
+  });
+  const auto board = std::make_shared<int>(0);
+  auto* link = app.add_subcommand("link", "Print the address of the online double-dummy page");
+  AddBoardArgument(*link, *board);
+  WhenChosen(*link, command,
+             [board](const Context& context, const ConsoleHost&) { return Link(context, *board); });
 }
 
 }  // namespace tricklet::cli

@@ -1,17 +1,43 @@
-#include "cli/generate_commands.h"
-
+// The command that generates deals.
 #include <algorithm>
 #include <charconv>
+#include <cstdint>
+#include <memory>
+#include <optional>
 #include <ostream>
+#include <string>
 #include <string_view>
 
+#include <CLI/CLI.hpp>
+
+#include "cli/command.h"
 #include "cli/notation_text.h"
 #include "core/text.h"
+#include "generate/constraints.h"
 #include "generate/generate.h"
 #include "library/tables.h"
 
 namespace tricklet::cli {
 namespace {
+
+/// What is asked of one constrained hand, as typed.
+struct HandArguments {
+  std::optional<std::string> direction = {};  ///< a seat, "dealer", or "dealer+1" to "dealer+3"
+  std::optional<std::string> points = {};     ///< "15-17", or "16" for exactly so many
+  std::optional<std::string> lengths = {};    ///< of S, H, D, C: "5-13,0-4,2,0-13"
+  std::optional<std::string> type = {};       ///< "balanced", "weak2", "4441" or "preempt"
+  std::optional<int> option = {};             ///< of the type: 1 or 2
+
+  bool Any() const { return direction || points || lengths || type || option; }
+};
+
+struct GenerateArguments {
+  int first = 1;
+  int last = 1;
+  PerGenHand<HandArguments> hands;    ///< the second is constrained when anything is said of it
+  std::optional<std::uint64_t> seed;  ///< the same seed gives the same deals
+  bool analyse = false;               ///< computes the double-dummy tables too
+};
 
 constexpr EnumArray<HandType, std::string_view, kHandTypes> kTypeWords{
     {"balanced", "weak2", "4441", "preempt"}};
@@ -121,8 +147,6 @@ std::optional<std::string> ReadDirections(const PerGenHand<HandArguments>& hands
   return std::nullopt;
 }
 
-}  // namespace
-
 Constraints ReadConstraints(const GenerateArguments& arguments,
                             std::optional<std::string>& problem) {
   Constraints constraints;
@@ -163,6 +187,41 @@ ExitCode GenerateBoards(const Context& context, const GenerateArguments& argumen
   if (!outcome.tables.failure.empty() || outcome.tables.cancelled) return ExitCode::Refused;
   if (arguments.analyse) session.host.Tell(AnalysisText(outcome.tables));
   return ExitCode::Done;
+}
+
+void AddHand(CLI::App& generate, HandArguments& hand, const std::string& number) {
+  generate.add_option("--hand" + number, hand.direction, "Its seat, or dealer+K")
+      ->type_name("SEAT");
+  generate.add_option("--points" + number, hand.points, "Its high-card points: 15-17")
+      ->type_name("RANGE");
+  generate
+      .add_option("--lengths" + number, hand.lengths,
+                  "Its spades, hearts, diamonds and clubs: 5-13,0-13,0-13,0-13")
+      ->type_name("RANGES");
+  generate.add_option("--type" + number, hand.type, "Its shape: balanced, weak2, 4441, preempt")
+      ->type_name("TYPE");
+  generate
+      .add_option("--option" + number, hand.option,
+                  "Of balanced: 1 allows a 5-card major, 2 does not; of weak2: 2 adds diamonds")
+      ->type_name("K");
+}
+
+}  // namespace
+
+void AddGenerateCommands(CLI::App& app, Command& command) {
+  const auto asked = std::make_shared<GenerateArguments>();
+  const CLI::Range boards(kFirstBoardNumber, kLastBoardNumber);
+  auto* generate = app.add_subcommand("generate", "Fill boards with random deals");
+  generate->add_option("FIRST", asked->first, "First board")->required()->check(boards);
+  generate->add_option("LAST", asked->last, "Last board")->required()->check(boards);
+  AddHand(*generate, asked->hands[GenHand::First], "1");
+  AddHand(*generate, asked->hands[GenHand::Second], "2");
+  generate->add_option("--seed", asked->seed, "The same number gives the same deals")
+      ->type_name("N");
+  generate->add_flag("--analyse", asked->analyse, "Compute double-dummy tables");
+  WhenChosen(*generate, command, [asked](const Context& context, const ConsoleHost&) {
+    return GenerateBoards(context, *asked);
+  });
 }
 
 }  // namespace tricklet::cli

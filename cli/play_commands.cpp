@@ -1,9 +1,15 @@
-#include "cli/play_commands.h"
-
+// The commands for the auction, the play and the score.
 #include <algorithm>
+#include <memory>
+#include <optional>
 #include <ostream>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
 
 #include "cli/board_text.h"
+#include "cli/command.h"
 #include "cli/notation_text.h"
 #include "core/scoring.h"
 #include "core/text.h"
@@ -13,6 +19,22 @@
 
 namespace tricklet::cli {
 namespace {
+
+struct PlayArguments {
+  int board = 0;
+  std::vector<std::string> cards;    ///< "SA", "H10" or "HT", in any letter case
+  int undo = 0;                      ///< how often to take back the claim or else a card
+  std::optional<std::string> claim;  ///< the seat on play that claims the rest
+  bool claimFirst = false;           ///< the claim comes before the undo
+};
+
+struct ScoreArguments {
+  std::string contract;       ///< "4S", "3NTx", "1Cxx"
+  std::string declarer;       ///< first letter of the seat
+  int tricks = 0;             ///< 0..13
+  int board = 1;              ///< gives the vulnerability, unless `vulnerability` does
+  std::string vulnerability;  ///< "none", "ns", "ew", "all"; empty: the board's
+};
 
 ExitCode Refuse(const Context& context, const std::string& text) {
   context.session.host.Tell(text);
@@ -97,6 +119,22 @@ bool ClaimBy(const Context& context, CardPlay& play, const std::string& text) {
   return false;
 }
 
+bool TakeBack(const Context& context, CardPlay& play, int count) {
+  if (count > play.UndoTop()) {
+    context.session.host.Tell("Not so many cards were played");
+    return false;
+  }
+  for (; count > 0; --count) play.Undo();
+  return true;
+}
+
+/// False, with the reason, when the seat cannot claim or there is less to take back.
+bool ClaimAndTakeBack(const Context& context, CardPlay& play, const PlayArguments& arguments) {
+  const auto claims = [&] { return !arguments.claim || ClaimBy(context, play, *arguments.claim); };
+  if (arguments.claimFirst) return claims() && TakeBack(context, play, arguments.undo);
+  return TakeBack(context, play, arguments.undo) && claims();
+}
+
 void ShowTable(const Context& context, const CardPlay& play) {
   const PlayState& state = play.Now();
   Board left = context.session.board;
@@ -112,8 +150,6 @@ void ShowTable(const Context& context, const CardPlay& play) {
   if (state.onPlay) data << SeatName[*state.onPlay] << " is on play\n";
   if (play.Finished()) data << play.ScoreText() << '\n';
 }
-
-}  // namespace
 
 ExitCode Auction(const Context& context, int boardNumber, const std::vector<std::string>& calls) {
   Session& session = context.session;
@@ -148,9 +184,7 @@ ExitCode Play(const Context& context, const PlayArguments& arguments) {
                                : "The board has no contract, or not all four hands");
   }
   if (!PlayCards(context, play, arguments.cards)) return ExitCode::Refused;
-  if (arguments.undo > play.UndoTop()) return Refuse(context, "Not so many cards were played");
-  for (int card = 0; card < arguments.undo; ++card) play.Undo();
-  if (arguments.claim && !ClaimBy(context, play, *arguments.claim)) return ExitCode::Refused;
+  if (!ClaimAndTakeBack(context, play, arguments)) return ExitCode::Refused;
   ShowTable(context, play);
   return ExitCode::Done;
 }
@@ -172,6 +206,65 @@ ExitCode Score(const Context& context, const ScoreArguments& arguments) {
   if (name != kNames.end()) board.boardNumber = static_cast<int>(name - kNames.begin()) + 1;
   context.data << ResultLine(board, arguments.tricks) << '\n';
   return ExitCode::Done;
+}
+
+void AddAuction(CLI::App& app, Command& command) {
+  struct Entry {
+    int board = 0;
+    std::vector<std::string> calls;
+  };
+  const auto entry = std::make_shared<Entry>();
+  auto* auction = app.add_subcommand("auction", "Show the auction, or replace it and save");
+  AddBoardArgument(*auction, entry->board);
+  auction->add_option("CALL", entry->calls, "Calls from the dealer on: 1n 4s p x xx ap");
+  WhenChosen(*auction, command, [entry](const Context& context, const ConsoleHost&) {
+    return Auction(context, entry->board, entry->calls);
+  });
+}
+
+void AddPlay(CLI::App& app, Command& command) {
+  const auto asked = std::make_shared<PlayArguments>();
+  auto* play = app.add_subcommand("play", "Play cards and show the table after them");
+  AddBoardArgument(*play, asked->board);
+  play->add_option("CARD", asked->cards, "Cards from the opening lead on: SA h10 HT c2");
+  auto* undo = play->add_option("--undo", asked->undo, "Take back the last K cards")
+                   ->type_name("K")
+                   ->check(CLI::Range(0, kCardsInPack));
+  auto* claim = play->add_option("--claim", asked->claim, "The seat on play takes the rest")
+                    ->type_name("SEAT");
+  WhenChosen(*play, command, [=](const Context& context, const ConsoleHost&) {
+    const std::vector<CLI::Option*>& order = play->parse_order();
+    asked->claimFirst =
+        std::find(order.begin(), order.end(), claim) < std::find(order.begin(), order.end(), undo);
+    return Play(context, *asked);
+  });
+}
+
+void AddScore(CLI::App& app, Command& command) {
+  const auto asked = std::make_shared<ScoreArguments>();
+  auto* score = app.add_subcommand("score", "Score a contract");
+  score->add_option("CONTRACT", asked->contract, "4S, 3NTx, 1Cxx")->required();
+  score->add_option("DECLARER", asked->declarer, "N, E, S or W")->required();
+  score->add_option("TRICKS", asked->tricks, "Tricks of the declaring side")
+      ->required()
+      ->check(CLI::Range(0, kTricks));
+  auto* board = score->add_option("--board", asked->board, "Board that gives the vulnerability")
+                    ->type_name("N")
+                    ->check(CLI::Range(kFirstBoardNumber, kLastBoardNumber));
+  score->add_option("--vul", asked->vulnerability, "Vulnerability")
+      ->excludes(board)
+      ->check(CLI::IsMember({"none", "ns", "ew", "all"}, CLI::ignore_case));
+  WhenChosen(*score, command, [asked](const Context& context, const ConsoleHost&) {
+    return Score(context, *asked);
+  });
+}
+
+}  // namespace
+
+void AddPlayCommands(CLI::App& app, Command& command) {
+  AddAuction(app, command);
+  AddPlay(app, command);
+  AddScore(app, command);
 }
 
 }  // namespace tricklet::cli

@@ -1,12 +1,15 @@
-#include "cli/result_commands.h"
-
+// The commands for the results that a library keeps.
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <ostream>
 #include <string>
 #include <vector>
 
+#include <CLI/CLI.hpp>
+
 #include "cli/columns.h"
+#include "cli/command.h"
 #include "core/text.h"
 #include "formats/results/traveller.h"
 
@@ -59,8 +62,6 @@ std::string TravellerText(const Traveller& traveller) {
   return text;
 }
 
-}  // namespace
-
 ExitCode TravellerOf(const Context& context, int boardNumber) {
   Session& session = context.session;
   if (!OpenLibrary(context, false)) return ExitCode::Refused;
@@ -74,6 +75,17 @@ ExitCode TravellerOf(const Context& context, int boardNumber) {
   }
   context.data << TravellerText(traveller);
   return ExitCode::Done;
+}
+
+}  // namespace
+
+void AddResultCommands(CLI::App& app, Command& command) {
+  const auto board = std::make_shared<int>(0);
+  auto* traveller = app.add_subcommand("traveller", "The results of a board");
+  AddBoardArgument(*traveller, *board);
+  WhenChosen(*traveller, command, [board](const Context& context, const ConsoleHost&) {
+    return TravellerOf(context, *board);
+  });
 }
 
 }  // namespace tricklet::cli

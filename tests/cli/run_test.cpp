@@ -1,10 +1,4 @@
-#include "cli/run.h"
-
-#include <sstream>
-
-#include <gtest/gtest.h>
-
-#include "tests/support/library_fixture.h"
+#include "tests/cli/command_line.h"
 
 namespace tricklet {
 namespace {
@@ -18,33 +12,9 @@ const std::string kPbn =
     "[Deal \"N:A873.AJ83.52.Q32 95.74.AQJ84.T754 QT62.KQ62.K93.K8 KJ4.T95.T76.AJ96\"]\n"
     "[Auction \"S\"]\n1NT AP\n[DoubleDummyTricks \"7AA557AA565337753377\"]\n";
 
-class CommandLine : public testing::Test {
+class CommandLine : public test::CommandLine {
  protected:
   CommandLine() { WriteFile(folder.Path() / "in.pbn", kPbn); }
-
-  /// Runs with --root on the test's folder; `out` and `err` hold what was printed.
-  int Run(std::vector<std::string> arguments, const std::string& typed = "",
-          bool terminal = false) {
-    arguments.insert(arguments.begin(), {"--root", PathText(folder.Path() / "root")});
-    return RunBare(arguments, typed, terminal);
-  }
-  int RunBare(const std::vector<std::string>& arguments, const std::string& typed = "",
-              bool terminal = false) {
-    std::istringstream in(typed);
-    std::ostringstream data;
-    std::ostringstream messages;
-    const int code = cli::Run(arguments, store, {in, data, messages, terminal, interrupted, {}});
-    out = data.str();
-    err = messages.str();
-    return code;
-  }
-  std::string File(const char* name) { return PathText(folder.Path() / PathFromText(name)); }
-
-  test::TempFolder folder;
-  MemoryStore store;
-  std::atomic<bool> interrupted{false};
-  std::string out;
-  std::string err;
 };
 
 TEST_F(CommandLine, ImportsListsShowsAndExports) {
@@ -149,16 +119,6 @@ TEST_F(CommandLine, MakesARootThatIsNamedButNoOther) {
   EXPECT_EQ(RunBare({"--root", gone, "import", File("in.pbn")}), 0);
 }
 
-TEST_F(CommandLine, CardsCanBeGivenToANewBoard) {
-  EXPECT_EQ(Run({"import", File("in.pbn")}), 0);
-  EXPECT_EQ(Run({"edit", "8", "swap", "N", "S"}), 1);
-  EXPECT_EQ(err, "There is no board 8 in library Default\n");
-  EXPECT_EQ(Run({"edit", "8", "hand", "N", "AKQJ.AKQ.AKQ.AKQ"}), 0);
-  EXPECT_EQ(Run({"edit", "9", "fill"}), 0);
-  EXPECT_EQ(Run({"boards"}), 0);
-  EXPECT_EQ(out, "7\n8\n9\n");
-}
-
 TEST_F(CommandLine, WrongUsageIsTwo) {
   struct Case {
     std::vector<std::string> arguments;
@@ -229,6 +189,10 @@ TEST_F(CommandLine, PlaysCards) {
   EXPECT_NE(out.find("West played ♠K\nNorth is on play\n"), std::string::npos) << out;
   EXPECT_EQ(Run({"play", "7", "--claim", "west"}), 0);
   EXPECT_NE(out.find("1NT-7 by South : EW +700\n"), std::string::npos) << out;
+  EXPECT_EQ(Run({"play", "7", "sk", "--claim", "north", "--undo", "1"}), 0);
+  EXPECT_NE(out.find("West played ♠K\nNorth is on play\n"), std::string::npos) << out;
+  EXPECT_EQ(Run({"play", "7", "sk", "--claim", "north", "--undo", "3"}), 1);
+  EXPECT_EQ(err, "Not so many cards were played\n");
   EXPECT_EQ(Run({"play", "7", "--claim", "north"}), 1);
   EXPECT_EQ(err, "North is not on play\n");
 }
