@@ -1,6 +1,5 @@
 // The command that generates deals.
 #include <algorithm>
-#include <charconv>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -42,12 +41,10 @@ struct GenerateArguments {
 constexpr EnumArray<HandType, std::string_view, kHandTypes> kTypeWords{
     {"balanced", "weak2", "4441", "preempt"}};
 
+/// A number of 0 to `highest`.
 std::optional<int> NumberOf(std::string_view text, int highest) {
-  int number = 0;
-  const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
-  const bool whole = failure == std::errc() && end == text.data() + text.size();
-  if (!whole || number < 0 || number > highest) return std::nullopt;
-  return number;
+  const auto number = WholeNumber(text);
+  return number && *number >= 0 && *number <= highest ? number : std::nullopt;
 }
 
 /// "15-17" or "16".
