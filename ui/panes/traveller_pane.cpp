@@ -1,6 +1,7 @@
 #include "ui/panes/traveller_pane.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <QComboBox>
 #include <QEvent>
@@ -23,7 +24,7 @@ namespace {
 
 constexpr int kLeastRows = 3;  // of the grid, before the column scrolls
 constexpr int kRowPadding = 6;
-constexpr int kCellPadding = 6;     // both sides of a text
+constexpr int kCellPadding = 7;     // both sides of a text, and a pixel for what rounding hides
 constexpr double kFontSize = 0.88;  // of the window's, so that the numbers fit beside each other
 /// So that the pane takes the room that the column has left.
 constexpr int kStretch = 100;
@@ -245,7 +246,7 @@ void TravellerPane::ShowSteps() {
 void TravellerPane::TravellerResize() {
   QFont bold = flexTraveller->font();
   bold.setBold(true);
-  const QFontMetrics metrics(bold);  // the marked row's
+  const QFontMetricsF metrics(bold);  // the marked row's
   const QHeaderView* head = flexTraveller->horizontalHeader();
   const QFontMetrics heads(head->font());
   const int arrow = head->style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, head);
@@ -255,7 +256,7 @@ void TravellerPane::TravellerResize() {
     if (column == head->sortIndicatorSection()) width += arrow;
     for (int row = 0; row < rows_->rowCount(); ++row) {
       const QString text = rows_->At(rows_->index(row, column)).text;
-      width = std::max(width, metrics.horizontalAdvance(text));
+      width = std::max(width, static_cast<int>(std::ceil(metrics.horizontalAdvance(text))));
     }
     width += kCellPadding;
     if (column == static_cast<int>(TravellerColumn::Names)) {

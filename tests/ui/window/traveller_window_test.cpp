@@ -168,6 +168,10 @@ TEST_F(TravellerWindowTest, StepsThroughARecord) {
   const Board before = session.board;
   ClickRow(0);
   EXPECT_EQ(Find<QComboBox>("cmbLinNames")->currentText(), QStringLiteral("Ann & Bob v Cy & Di"));
+  for (int column = 0; Head(column) != QStringLiteral("Names"); ++column) {
+    EXPECT_LE(Grid()->sizeHintForIndex(At(0, column)).width(), Grid()->columnWidth(column))
+        << "in bold: " << FromQt(Head(column));
+  }
   EXPECT_EQ(Calls(), QStringLiteral(u"1\u2660 Pass Pass Pass"));
   EXPECT_EQ(Label("lblContract"), QStringLiteral("1S by North"));
   EXPECT_EQ(Place(), QStringLiteral("Card 0 of 7"));
