@@ -131,6 +131,9 @@ class Commands : public QObject {
   /// True before and false after work that copies whole libraries.
   void Waiting(bool waiting);
   void Done();
+  /// A run of the generator may begin: its deals are the session's board one after another; or it
+  /// is over.
+  void Dealing(bool dealing);
   /// What the last command has done, where nothing else shows it.
   void Said(const QString& text);
   /// Before the auction dialog appears.

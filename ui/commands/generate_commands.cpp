@@ -6,6 +6,7 @@
 namespace tricklet::ui {
 
 void Commands::Generate() {
+  emit Dealing(true);
   Leave([this] {
     frmGenerate dialog(session_, generateChoices_, window_);
     if (dialog.exec() != QDialog::Accepted) return;
@@ -18,6 +19,7 @@ void Commands::Generate() {
     }
     tricklet::Generate(session_, generateChoices_.constraints, options);
   });
+  emit Dealing(false);
 }
 
 }  // namespace tricklet::ui

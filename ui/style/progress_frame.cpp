@@ -13,7 +13,7 @@ namespace tricklet::ui {
 namespace {
 
 /// Steps can come by the thousand; drawing each would take longer than the work.
-constexpr int kMillisecondsBetweenDrawings = 33;
+constexpr int kMillisecondsBetweenDrawings = 50;
 
 }  // namespace
 
@@ -66,11 +66,13 @@ void ProgressFrame::End() {
 }
 
 bool ProgressFrame::Step(const QString& text, int done, int total) {
-  const bool due = !sinceDrawn_.isValid() || sinceDrawn_.elapsed() >= kMillisecondsBetweenDrawings;
+  const bool due = !sinceDrawn_.isValid() || done + 1 == total ||
+                   sinceDrawn_.elapsed() >= kMillisecondsBetweenDrawings;
   if (due) {
     if (!cancelled_) lblProgress->setText(text);
     bar_->setRange(0, total);
     bar_->setValue(done);
+    emit Drawn();
     sinceDrawn_.start();
   }
   QCoreApplication::processEvents();

@@ -23,7 +23,8 @@ class ProgressFrame : public QFrame {
   void End();
   bool IsWorking() const { return depth_ > 0; }
 
-  /// Shows a step (`total` 0: how many there are is not known) and lets pending events run once.
+  /// Shows a step (`total` 0: how many there are is not known), though no more of them than the eye
+  /// follows and the last, and lets pending events run once.
   /// False when the person has cancelled since `Begin`.
   bool Step(const QString& text, int done, int total);
 
@@ -35,6 +36,8 @@ class ProgressFrame : public QFrame {
 
  signals:
   void Begun();
+  /// A step has been shown, as not each is: what the work has come to can be shown beside it.
+  void Drawn();
   void Ended();
 
  private:

@@ -124,6 +124,8 @@ void MainWindow::Connect() {
   connect(tables_, &BackgroundTables::Said, status_, &QLabel::setText);
   connect(progress_, &ProgressFrame::Begun, this, [this] { SetWorking(true); });
   connect(progress_, &ProgressFrame::Ended, this, [this] { SetWorking(false); });
+  connect(commands_, &Commands::Dealing, this, [this](bool dealing) { dealing_ = dealing; });
+  connect(progress_, &ProgressFrame::Drawn, this, &MainWindow::DisplayDeal);
 
   leavePresentation_ = new QAction(tr("Leave the presentation"), this);
   leavePresentation_->setShortcut(Qt::Key_Escape);
@@ -193,6 +195,17 @@ void MainWindow::ShowTitle() {
   setWindowTitle(tr("%1 - Board %2[*] - Tricklet")
                      .arg(ToQt(session_.LibraryName()), QString::number(board.boardNumber)));
   setWindowModified(board.handChanged);
+}
+
+/// The deal that a run of the generator has come to.
+void MainWindow::DisplayDeal() {
+  if (!dealing_) return;
+  ShowTitle();
+  library_->Show(session_);
+  board_->Show(session_.board);
+  statistics_->Show(session_);
+  table_->Show(session_.board, session_.settings, nullptr);
+  table_->ShowBestCards({});
 }
 
 QString MainWindow::StatusText() const {
@@ -320,7 +333,7 @@ void MainWindow::ShowColumns() {
   KeepRoom(left_, !presentation_);
   KeepRoom(right_, !presentation_ && !editing);  // the pack needs its room
   const bool panes = !presentation_ || presentationPanes_ || commands_->Auction() != nullptr;
-  table_->setVisible(!working || presentation_);  // a projector must not go blank
+  table_->setVisible(!working || dealing_ || presentation_);  // a projector must not go blank
   table_->setEnabled(!working);
   left_->setVisible(!presentation_);
   right_->setVisible(panes && !working && !editing);

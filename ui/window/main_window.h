@@ -76,6 +76,7 @@ class MainWindow : public QMainWindow {
   void ConnectResults();
   QString StatusText() const;
   void ShowTitle();
+  void DisplayDeal();
   void DisplayAuction();
   void DisplayPlay();
   void DisplayTable();
@@ -116,6 +117,7 @@ class MainWindow : public QMainWindow {
   WorkArea* area_ = nullptr;
   QLabel* status_ = nullptr;
   QAction* leavePresentation_ = nullptr;
+  bool dealing_ = false;  // a run of the generator may be going on
   bool presentation_ = false;
   bool presentationPanes_ = false;  // the right column is part of it
   Qt::WindowStates stateBefore_;
