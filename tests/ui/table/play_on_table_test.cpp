@@ -62,6 +62,13 @@ class PlayOnTableTest : public testing::Test {
     QCoreApplication::sendEvent(&view_, &event);
     return event.isAccepted();
   }
+  /// The key is for the table before it is a shortcut.
+  bool Overrides(Qt::Key key) {
+    QKeyEvent event(QEvent::ShortcutOverride, key, Qt::NoModifier);
+    event.ignore();
+    QCoreApplication::sendEvent(&view_, &event);
+    return event.isAccepted();
+  }
   bool Tells(const char* words) const {
     return view_.accessibleDescription().contains(QString::fromLatin1(words));
   }
@@ -103,13 +110,10 @@ TEST_F(PlayOnTableTest, AsksForEveryCardLeftWhereItIsShown) {
     }
   }
   EXPECT_EQ(tricksAsked_, 0);
-}
-
-TEST_F(PlayOnTableTest, AsksForTheTrickBesideTheCards) {
-  Play({kClubEight, kClubFour, kClubFive, kClubAce});
+  asked_.reset();
   Click(view_.Layout().centre.center());
   Click({3, 340});
-  EXPECT_EQ(tricksAsked_, 2);
+  EXPECT_EQ(tricksAsked_, 2) << "beside the cards";
   EXPECT_FALSE(asked_);
 }
 
@@ -137,25 +141,13 @@ TEST_F(PlayOnTableTest, PlaysByKeysAndLeavesOthersToTheWindow) {
   EXPECT_FALSE(Key(Qt::Key_PageDown));
   EXPECT_FALSE(Key(Qt::Key_Escape));
   asked_.reset();
+  EXPECT_FALSE(Overrides(Qt::Key_Escape));
   EXPECT_TRUE(Key(Qt::Key_D));
+  EXPECT_TRUE(Overrides(Qt::Key_Escape)) << "it takes back the half-typed suit";
   Play({kClubEight});  // a half-typed suit belongs to the hand that was on play
   EXPECT_FALSE(Key(Qt::Key_9));
   EXPECT_TRUE(Key(Qt::Key_4));
   EXPECT_EQ(asked_, kClubFour);
-}
-
-TEST_F(PlayOnTableTest, TakesEscapeFromTheShortcutsWhileASuitIsHalfTyped) {
-  const auto overrides = [&] {
-    QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_Escape, Qt::NoModifier);
-    event.ignore();
-    QCoreApplication::sendEvent(&view_, &event);
-    return event.isAccepted();
-  };
-  EXPECT_FALSE(overrides());
-  Key(Qt::Key_D);
-  EXPECT_TRUE(overrides());
-  Key(Qt::Key_Escape);
-  EXPECT_FALSE(overrides());
 }
 
 TEST_F(PlayOnTableTest, PointsAtLegalCardsOnlyAndPlaysOneCardToADoubleClick) {

@@ -80,40 +80,20 @@ TEST_P(TableGeometry, LeavesAPartOfEveryCardToBeHit) {
 INSTANTIATE_TEST_SUITE_P(SizesAndDeals, TableGeometry,
                          testing::Combine(testing::ValuesIn(kSizes), testing::ValuesIn(kDeals)));
 
-std::vector<PlacedCard> CardsOfSeat(const TableLayout& layout, Seat seat) {
-  std::vector<PlacedCard> cards;
-  for (const PlacedCard& placed : layout.cards) {
-    if (placed.seat == seat) cards.push_back(placed);
-  }
-  return cards;
-}
-
-TEST(TableLayoutTest, FansNorthInOneRowBySuitsOfAlternatingColour) {
-  const TableLayout layout = LayOutTable({760, 680}, HandsOf(kOrdinary), HandDisplay::Cards);
-  std::string suits;
-  double right = 0;
-  for (const PlacedCard& placed : CardsOfSeat(layout, Seat::North)) {
-    EXPECT_EQ(placed.rect.top(), layout.hands[Seat::North].area.top());
-    EXPECT_GT(placed.rect.left(), right);
-    right = placed.rect.left();
-    suits += StrainLetter[ToStrain(placed.card.suit)];
-  }
-  EXPECT_EQ(suits, "SSSSSHHHCCDDD");
-}
-
-TEST(TableLayoutTest, GivesEastARowForEachSuitHeldAndBreaksALongOne) {
-  const auto rows = [](const std::string& east) {
+TEST(TableLayoutTest, GivesNorthOneRowAndEastOneForEachSuitHeld) {
+  const auto rows = [](const std::string& hand, char seat = 'E') {
     const TableLayout layout =
-        LayOutTable({520, 480}, HandsOf("E:" + east + " - - -"), HandDisplay::Cards);
+        LayOutTable({520, 480}, HandsOf(seat + (":" + hand + " - - -")), HandDisplay::Cards);
     std::string text;
     double y = -1;
-    for (const PlacedCard& placed : CardsOfSeat(layout, Seat::East)) {
+    for (const PlacedCard& placed : layout.cards) {
       if (placed.rect.top() != y) text += text.empty() ? "" : " ";
       y = placed.rect.top();
       text += StrainLetter[ToStrain(placed.card.suit)];
     }
     return text;
   };
+  EXPECT_EQ(rows("AQ975.K86.KT2.J4", 'N'), "SSSSSHHHCCDDD") << "in alternating colours";
   EXPECT_EQ(rows("84.10732.AQ3.10652"), "SS HHHH CCCC DDD");
   EXPECT_EQ(rows("84732..AQ3.10652"), "SSSSS CCCC DDD");
   EXPECT_EQ(rows("AQJ10987.2.A.65"), "SSS SSSS H CC D");

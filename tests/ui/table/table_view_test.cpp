@@ -96,16 +96,6 @@ TEST_F(TableViewTest, FitsTextIntoItsAreaWhateverTheFont) {
   }
 }
 
-TEST_F(TableViewTest, TellsAScreenReaderWhatItShows) {
-  TableView view;
-  EXPECT_EQ(view.accessibleName(), u"Table");
-  view.Show(LongSuits(), Settings());
-  const QString first = view.accessibleDescription();
-  EXPECT_TRUE(first.contains(QStringLiteral("North: spades A Q 9 7 5; hearts K 8 6 5 2")));
-  view.Show(Board(), Settings());
-  EXPECT_FALSE(view.accessibleDescription().contains(QStringLiteral("spades")));
-}
-
 TEST_F(TableViewTest, SwitchesColourSchemesAndBack) {
   const QColor before = QApplication::palette().color(QPalette::Window);
   ApplyColourScheme(*qApp, ColourScheme::Dark);

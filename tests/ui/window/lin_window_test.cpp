@@ -35,7 +35,9 @@ TEST_F(LinWindowTest, AreChosenPastedOrDropped) {
   const auto file = folder.Path() / "a.lin";
   test::WriteFile(file, FromQt(kRecord));
   QMimeData files;
-  files.setUrls({QUrl::fromLocalFile(PathToQt(file))});
+  const auto other = folder.Path() / "b.txt";
+  test::WriteFile(other, "Dear Ann");
+  files.setUrls({QUrl::fromLocalFile(PathToQt(file)), QUrl::fromLocalFile(PathToQt(other))});
   QMimeData text;
   text.setText(kRecord);
   const std::function<void()> ways[] = {
@@ -47,8 +49,12 @@ TEST_F(LinWindowTest, AreChosenPastedOrDropped) {
         QApplication::clipboard()->setText(kRecord);
         Key(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
       },
-      [&] { EXPECT_TRUE(Drop(files)); },
       [&] { EXPECT_TRUE(Drop(text)); },
+      [&] {
+        host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
+        host.ExpectTellWith("The file must be of type");
+        EXPECT_TRUE(Drop(files)) << "one after another, whatever comes of each";
+      },
   };
   for (const auto& way : ways) {
     if (&way != &ways[0]) host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
