@@ -12,6 +12,8 @@
 namespace tricklet {
 namespace {
 
+using test::LibraryTest;
+
 constexpr int kBatches = 11;  // of as many boards as a dealing machine takes
 constexpr int kBoards = 99;
 constexpr int kMostTricks = 13;
@@ -47,40 +49,29 @@ std::string DealText(Board board) {
   return WriteBoardText(board);
 }
 
-class RoundTrip : public test::LibraryTest {
- protected:
-  /// The boards of library Club, written as a file of `type` and read into library `type`.
-  void Carry(const std::string& type) {
-    const auto path = folder.Path() / ("boards." + type);
-    session.settings.library = "Club";
-    host.ExpectTell("File " + PathText(path) + " created");
-    ASSERT_TRUE(ExportFile(session, {1, kBoards, type}, path));
-    session.settings.library = type;
-    std::filesystem::create_directories(session.LibraryPath());
-    CountHands(session);
-    if (session.library.boardCount > 0) host.ExpectAskWith("Overwrite existing", Answer::Yes);
-    host.ExpectTell("99 hands (1-99) have been saved to the library - " + type);
-    ASSERT_EQ(ImportAnyFile(session, path).boardsSaved, kBoards);
-  }
-};
-
-TEST_F(RoundTrip, GivesIdenticalBoards) {
+TEST_F(LibraryTest, EveryTypeGivesIdenticalBoards) {
   RandomSource random{20261121};
   for (int batch = 0; batch < kBatches; ++batch) {
     std::vector<Board> boards;
-    session.settings.library = "Club";
     for (int number = 1; number <= kBoards; ++number) {
       boards.push_back(RandomBoard(number, random));
       test::WriteFile(session.BoardPath(number), WriteBoardText(boards.back()));
     }
-    for (const char* type : {"pbn", "dlm", "lin"}) {
-      Carry(type);
-      const bool whole = std::string_view(type) == "pbn";
+    for (const std::string type : {"pbn", "dlm", "lin"}) {
+      const auto path = folder.Path() / ("boards." + type);
+      host.ExpectTell("File " + PathText(path) + " created");
+      ASSERT_TRUE(ExportFile(session, {1, kBoards, type}, path));
+      session.settings.library = type;
+      std::filesystem::create_directories(session.LibraryPath());
+      if (batch > 0) host.ExpectAskWith("Overwrite existing", Answer::Yes);
+      host.ExpectTell("99 hands (1-99) have been saved to the library - " + type);
+      ASSERT_EQ(ImportAnyFile(session, path).boardsSaved, kBoards);
       for (const Board& board : boards) {
         ASSERT_EQ(test::ReadFile(session.BoardPath(board.boardNumber)),
-                  whole ? WriteBoardText(board) : DealText(board))
+                  type == "pbn" ? WriteBoardText(board) : DealText(board))
             << type << " " << board.boardNumber;
       }
+      session.settings.library = "Club";
     }
   }
 }

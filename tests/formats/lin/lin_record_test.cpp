@@ -21,16 +21,14 @@ std::string CallsOf(const LinRecord& record) {
 }
 
 TEST(ReadLinData, DecodesEachEscapeOnce) {
-  const std::pair<const char*, const char*> kCases[] = {
-      {"a%2Cb", "a,b"},
-      {"a%2cb%2c", "a,b,"},
-      {"100%25", "100%"},
-      {"%2541", "%41"},
-      {"%25%32%35", "%25"},
-      {"", ""},
-      {"%C3%A9 %E9", "\xC3\xA9 \xE9"},
-      {"ah|Board%201|", "ah|Board 1|"},
-  };
+  const std::pair<const char*, const char*> kCases[] = {{"a%2Cb", "a,b"},
+                                                        {"a%2cb%2c", "a,b,"},
+                                                        {"100%25", "100%"},
+                                                        {"%2541", "%41"},
+                                                        {"%25%32%35", "%25"},
+                                                        {"", ""},
+                                                        {"%C3%A9 %E9", "\xC3\xA9 \xE9"},
+                                                        {"ah|Board%201|", "ah|Board 1|"}};
   for (const auto& [text, decoded] : kCases) EXPECT_EQ(ReadLinData(text), decoded) << text;
 }
 
@@ -51,8 +49,7 @@ TEST(ReadLinData, CleansThePlayerNames) {
       {"|pn|Ann,Bob|nt|#1, #2|", "|pn|Ann,Bob|nt|#1, #2|"},
       {"|pn|Ann#12,Bob#7", "|pn|Ann,Bob"},
       {"|pn", "|pn"},
-      {"nt|#1|", "nt|#1|"},
-  };
+      {"nt|#1|", "nt|#1|"}};
   for (const auto& [text, cleaned] : kCases) EXPECT_EQ(ReadLinData(text), cleaned) << text;
 }
 
@@ -66,8 +63,7 @@ TEST(LinFields, AreFoundThroughDoubledBarsLineEndsAndStrayText) {
       {"", ""},
       {"|||", ""},
       {"text without a bar", ""},
-      {"md", "md= "},
-  };
+      {"md", "md= "}};
   for (const auto& [text, fields] : kCases) {
     std::string found;
     std::string_view rest = text;
@@ -113,8 +109,7 @@ TEST(ParseLinRecord, ReadsDealsLeniently) {
       {"0sakhtdc9,,,", true, {{0, 0, 4, 0}}, false},
       {"", false, {}, false},
       {"3", false, {}, false},
-      {"3,,,", false, {}, false},
-  };
+      {"3,,,", false, {}, false}};
   for (const auto& [deal, hasDeal, cards, repeats] : kCases) {
     const LinRecord record = ParseLinRecord("qx|o1|md|" + std::string(deal) + "|");
     EXPECT_EQ(record.hasDeal, hasDeal) << deal;
@@ -135,8 +130,7 @@ TEST(ParseLinRecord, FindsTheBoardAndTheRoom) {
       {"ah|Round 7|qx|8|", 8, false, ""},
       {"qx|o-3|", 0, false, ""},
       {"qx||", 0, false, ""},
-      {"ah|Board 99999999999|", 32767, false, ""},
-  };
+      {"ah|Board 99999999999|", 32767, false, ""}};
   for (const auto& [text, board, closed, south] : kCases) {
     const LinRecord record = ParseLinRecord(text);
     EXPECT_EQ(record.boardNumber, board) << text;
@@ -151,8 +145,7 @@ TEST(ParseLinRecord, ReadsCalls) {
       {"P", "Pass"}, {"d", "Dbl"},
       {"R", "Rdbl"}, {"3C!", "3C"},
       {"!3C", "3C"}, {"8C", ""},
-      {"?", ""},     {"1Cp1H!p2ndrppp", "1C Pass 1H Pass 2NT Dbl Rdbl Pass Pass Pass"},
-  };
+      {"?", ""},     {"1Cp1H!p2ndrppp", "1C Pass 1H Pass 2NT Dbl Rdbl Pass Pass Pass"}};
   for (const auto& [value, calls] : kCases) {
     EXPECT_EQ(CallsOf(ParseLinRecord("mb|" + std::string(value) + "|")), calls) << value;
   }

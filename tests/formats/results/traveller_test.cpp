@@ -1,6 +1,9 @@
 // Travellers out of a library's results.
 #include "formats/results/traveller.h"
 
+#include <tuple>
+#include <utility>
+
 #include <gtest/gtest.h>
 
 #include "formats/results/lin_data.h"
@@ -66,188 +69,163 @@ TEST(Traveller, RowAsTheScorerGaveIt) {
   EXPECT_EQ(row.record.board.hands[Seat::East][Suit::Hearts].Count(), 13) << "the fourth hand";
 }
 
+/// The tags of a result without points and lead.
+std::string Result(const char* tricks, const char* score, const char* contract,
+                   const char* declarer) {
+  return Tags(tricks, score, "", "", contract, declarer, "", "");
+}
+
 TEST(Traveller, RowsInOneLine) {
-  struct Case {
-    const char* what;
-    std::string tags;
-    const char* line;
-  };
   const std::string auction = "mb|1N|mb|p|mb|p|mb|p|";
   // East leads hearts, and all the others throw away their own suits.
   std::string play;
   for (const char rank : std::string("AKQJT98765432")) {
     for (const char suit : std::string("HDCS")) play += std::string("pc|") + suit + rank + "|";
   }
-  const std::string passes = "mb|p|mb|p|mb|p|mb|p|";
-  const std::vector<Case> cases{
-      {"made exactly", Tags("7", "90", "", "", "1N", "N", "HA", ""), "1NT by North = +90"},
-      {"down", Tags("9", "-50", "", "", "4H", "S", "", ""), "4H by South -1 -50"},
-      {"for the other side", Tags("10", "-420", "", "", "4HX", "E", "", ""), "4Hx by East = -420"},
-      {"passed out by the scorer", Tags("0", "0", "", "", "PASS", "N", "", ""), "All Pass"},
-      {"passed out in the record", passes + Tags("", "", "", "", "", "", "", ""), "All Pass"},
-      {"adjusted", Tags("", "A6040", "", "", "", "", "", ""), "A6040"},
-      {"adjusted after a play", auction + play + Tags("", "A6040", "", "", "", "", "", ""),
-       "A6040"},
-      {"adjusted after a claim", auction + "mc|9|" + Tags("", "A6040", "", "", "1N", "N", "", ""),
+  const std::tuple<const char*, std::string, const char*> kCases[] = {
+      {"made exactly", Result("7", "90", "1N", "N"), "1NT by North = +90"},
+      {"down", Result("9", "-50", "4H", "S"), "4H by South -1 -50"},
+      {"for the other side", Result("10", "-420", "4HX", "E"), "4Hx by East = -420"},
+      {"passed out by the scorer", Result("0", "0", "PASS", "N"), "All Pass"},
+      {"passed out in the record", "mb|p|mb|p|mb|p|mb|p|" + Result("", "", "", ""), "All Pass"},
+      {"adjusted", Result("", "A6040", "", ""), "A6040"},
+      {"adjusted after a play", auction + play + Result("", "A6040", "", ""), "A6040"},
+      {"adjusted after a claim", auction + "mc|9|" + Result("", "A6040", "1N", "N"),
        "1NT by North A6040"},
-      {"adjusted, with tricks", Tags("8", "A6040", "", "", "1N", "N", "", ""),
-       "1NT by North +1 A6040"},
-      {"nothing at all", Tags("", "", "", "", "", "", "", ""), "Not played"},
+      {"adjusted, with tricks", Result("8", "A6040", "1N", "N"), "1NT by North +1 A6040"},
+      {"nothing at all", Result("", "", "", ""), "Not played"},
       {"an auction without a result", auction, "Not played"},
       {"the record's contract and claim", auction + "mc|9|", "1NT by North +2 +150"},
-      {"tricks that cannot be", Tags("14", "90", "", "", "1N", "N", "", ""), "1NT by North +90"},
+      {"tricks that cannot be", Result("14", "90", "1N", "N"), "1NT by North +90"},
       {"played to the end without a claim", auction + play, "1NT by North -7 -350"},
       {"a claim before the end", auction + play + "mc|2|", "1NT by North -5 -250"},
-      {"played as the scorer's contract does not allow",
-       play + Tags("", "", "", "", "1N", "E", "", ""), "Not played"},
-      {"a contract that is none", Tags("8", "0", "", "", "42", "N", "", ""), "="},
-  };
-  for (const Case& example : cases) {
-    const auto traveller =
-        MakeTraveller(FileOf("IMPS", {Record("Bob,Di,Ann,Cy", example.tags)}), 1);
-    ASSERT_EQ(traveller.rows.size(), 1U);
-    EXPECT_EQ(ReadLinBidding(traveller.rows[0]), std::string(example.line) + " Ann & Bob v Cy & Di")
-        << example.what;
+      {"played as the scorer's contract does not allow", play + Result("", "", "1N", "E"),
+       "Not played"},
+      {"a contract that is none", Result("8", "0", "42", "N"), "="}};
+  for (const auto& [what, tags, line] : kCases) {
+    const auto traveller = MakeTraveller(FileOf("IMPS", {Record("Bob,Di,Ann,Cy", tags)}), 1);
+    EXPECT_EQ(ReadLinBidding(traveller.rows.at(0)), std::string(line) + " Ann & Bob v Cy & Di")
+        << what;
   }
 }
 
 TEST(Traveller, PairsByTheirPlayers) {
-  struct Case {
-    const char* names;  // South, West, North, East
-    const char* ns;
-    const char* ew;
-    const char* text;
-  };
-  constexpr Case kCases[] = {
+  // South, West, North, East; the pairs' numbers; all four
+  const std::tuple<const char*, const char*, const char*, const char*> kCases[] = {
       {"Ann,Cy,Bob,Di", "1", "2", "Bob & Ann v Di & Cy"},
       {"advanced BBO,Gus,Eve,Hal", "3", "4", "Eve & Robot v Hal & Gus"},
       {"Ann,Robot,Bob,Robot", "1", "", "Bob & Ann v Robot & Robot"},
       {"Cy,Ann,Di,Bob", "", "", "Di & Cy v Bob & Ann"},
       {"Ann,,Bob,Zoe", "1", "", "Bob & Ann v Zoe"},
       {"Ono Zo\u00eb,,Jim,", "7", "", "Jim & Ono Zo\u00eb v "},
-      {"", "", "", " v "},
-  };
-  for (const Case& example : kCases) {
-    const auto traveller = MakeTraveller(FileOf("IMPS", {Record(example.names, "")}), 1);
-    ASSERT_EQ(traveller.rows.size(), 1U) << example.names;
-    EXPECT_EQ(traveller.rows[0].pair[kNS], example.ns) << example.names;
-    EXPECT_EQ(traveller.rows[0].pair[kEW], example.ew) << example.names;
-    EXPECT_EQ(traveller.rows[0].NamesText(), example.text);
+      {"", "", "", " v "}};
+  for (const auto& [names, ns, ew, text] : kCases) {
+    const auto traveller = MakeTraveller(FileOf("IMPS", {Record(names, "")}), 1);
+    const TravellerRow& row = traveller.rows.at(0);
+    EXPECT_EQ(row.pair[kNS], ns) << names;
+    EXPECT_EQ(row.pair[kEW], ew) << names;
+    EXPECT_EQ(row.NamesText(), text);
   }
+}
+
+/// "3:1 0:4 -": the points of North-South and East-West, row by row.
+std::string PointsText(const Traveller& traveller) {
+  std::string text;
+  for (const TravellerRow& row : traveller.rows) {
+    const auto ns = row.points[kNS];
+    const auto ew = row.points[kEW];
+    EXPECT_EQ(ns.has_value(), ew.has_value());
+    text += (text.empty() ? "" : " ") + (ns ? ShortestText(*ns) + ":" + ShortestText(*ew) : "-");
+  }
+  return text;
 }
 
 TEST(Traveller, PointsAreComputedWhereTheFileHasNone) {
-  const auto record = [](const char* score, const char* imps = "0") {
-    return Record("", Tags("", score, "0", "0", "", "", "", imps));
-  };
-  using Points = std::vector<std::optional<float>>;
-  struct Case {
-    const char* what;
-    const char* method;
+  // What, the scoring, score and IMPs of each table; heading, whether computed, points
+  const std::tuple<const char*, const char*, std::vector<std::pair<const char*, const char*>>,
+                   const char*, bool, const char*>
+      kCases[] = {
+          {"match points",
+           "MATCH_POINTS",
+           {{"620", "0"}, {"-100", "0"}, {"620", "0"}},
+           "MP",
+           true,
+           "3:1 0:4 3:1"},
+          {"one table", "MATCH_POINTS", {{"620", "0"}}, "MP", true, "-"},
+          {"one that is not adjusted",
+           "CROSS_IMPS",
+           {{"A50", "0"}, {"620", "0"}},
+           "XIMP",
+           true,
+           "- -"},
+          {"with one that is",
+           "MATCH_POINTS",
+           {{"620", "0"}, {"A50", "0"}, {"50", "0"}},
+           "MP",
+           true,
+           "2:0 - 0:2"},
+          {"cross-IMPs",
+           "CROSS_IMPS",
+           {{"620", "0"}, {"600", "0"}, {"-100", "0"}},
+           "XIMP",
+           true,
+           "13:-13 11:-11 -24:24"},
+          {"equal scores", "CROSS_IMPS", {{"50", "0"}, {"50", "0"}}, "XIMP", true, "0:0 0:0"},
+          {"a match of teams", "IMPS", {{"420", "0"}, {"-50", "0"}}, "IMP", true, "10:-10 -10:10"},
+          {"more teams than can be told apart",
+           "IMPS",
+           {{"420", "0"}, {"-50", "0"}, {"0", "0"}},
+           "IMP",
+           true,
+           "- - -"},
+          {"the file's IMPs",
+           "CROSS_IMPS",
+           {{"420", "2.5"}, {"400", "-2.5"}, {"410", "0"}},
+           "XIMP",
+           false,
+           "2.5:-2.5 -2.5:2.5 0:0"},
+          {"Butler's, as the file calls them",
+           "BUTLER_IMPS",
+           {{"420", "4"}, {"50", "0"}},
+           "BIMP",
+           false,
+           "4:-4 0:0"},
+          {"computed against the other table, not against a datum",
+           "BUTLER_IMPS",
+           {{"420", "0"}, {"50", "0"}},
+           "XIMP",
+           true,
+           "9:-9 -9:9"}};
+  for (const auto& [what, method, tables, heading, computed, points] : kCases) {
     std::vector<std::string> records;
-    const char* heading;
-    bool computed;
-    Points ns;
-    Points ew;
-  };
-  const std::vector<Case> cases{
-      {"match points",
-       "MATCH_POINTS",
-       {record("620"), record("-100"), record("620")},
-       "MP",
-       true,
-       {3, 0, 3},
-       {1, 4, 1}},
-      {"one table", "MATCH_POINTS", {record("620")}, "MP", true, {std::nullopt}, {std::nullopt}},
-      {"one table that is not adjusted",
-       "CROSS_IMPS",
-       {record("A50"), record("620")},
-       "XIMP",
-       true,
-       {std::nullopt, std::nullopt},
-       {std::nullopt, std::nullopt}},
-      {"with one that is adjusted",
-       "MATCH_POINTS",
-       {record("620"), record("A50"), record("50")},
-       "MP",
-       true,
-       {2, std::nullopt, 0},
-       {0, std::nullopt, 2}},
-      {"cross-IMPs",
-       "CROSS_IMPS",
-       {record("620"), record("600"), record("-100")},
-       "XIMP",
-       true,
-       {13, 11, -24},
-       {-13, -11, 24}},
-      {"a match of teams",
-       "IMPS",
-       {record("420"), record("-50")},
-       "IMP",
-       true,
-       {10, -10},
-       {-10, 10}},
-      {"more teams than can be told apart",
-       "IMPS",
-       {record("420"), record("-50"), record("0")},
-       "IMP",
-       true,
-       {std::nullopt, std::nullopt, std::nullopt},
-       {std::nullopt, std::nullopt, std::nullopt}},
-      {"the file's IMPs",
-       "CROSS_IMPS",
-       {record("420", "2.5"), record("400", "-2.5")},
-       "XIMP",
-       false,
-       {2.5, -2.5},
-       {-2.5, 2.5}},
-  };
-  for (const Case& example : cases) {
-    const auto traveller = MakeTraveller(FileOf(example.method, example.records), 1);
-    EXPECT_EQ(traveller.scoring, example.heading) << example.what;
-    EXPECT_EQ(traveller.computed, example.computed) << example.what;
-    Points ns;
-    Points ew;
-    for (const TravellerRow& row : traveller.rows) {
-      ns.push_back(row.points[kNS]);
-      ew.push_back(row.points[kEW]);
+    for (const auto& [score, imps] : tables) {
+      records.push_back(Record("", Tags("", score, "0", "0", "", "", "", imps)));
     }
-    EXPECT_EQ(ns, example.ns) << example.what;
-    EXPECT_EQ(ew, example.ew) << example.what;
+    LinFile file = FileOf(method, std::move(records));
+    if (file.boardScoringMethod == "BUTLER_IMPS") file.boardScoringAbb = "BIMP";
+    const auto traveller = MakeTraveller(file, 1);
+    EXPECT_EQ(traveller.scoring, heading) << what;
+    EXPECT_EQ(traveller.computed, computed) << what;
+    EXPECT_EQ(PointsText(traveller), points) << what;
   }
 }
 
-TEST(Traveller, HeadingOfThePointsTellsWhatTheyAre) {
-  const auto heading = [](const char* imps) {
-    LinFile file = FileOf("BUTLER_IMPS", {Record("", Tags("", "420", "", "", "", "", "", imps)),
-                                          Record("", Tags("", "50", "", "", "", "", "", "0"))});
-    file.boardScoringAbb = "BIMP";
-    return MakeTraveller(file, 1).scoring;
-  };
-  EXPECT_EQ(heading("4"), "BIMP");
-  EXPECT_EQ(heading("0"), "XIMP") << "computed against the other table, not against a datum";
-}
-
-TEST(Traveller, AScorersContractStandsInForAMissingAuction) {
-  const auto of = [](const std::string& tags) {
-    return MakeTraveller(FileOf("IMPS", {Record("", tags)}), 1).rows.at(0).record.board;
-  };
-  const Board bare = of(Tags("10", "420", "", "", "4S", "S", "", ""));
-  EXPECT_EQ(bare.contract, "4S");
-  EXPECT_EQ(bare.declarer, Seat::South);
-  const Board bid = of("mb|1H|mb|p|mb|p|mb|p|" + Tags("10", "420", "", "", "4S", "S", "", ""));
-  EXPECT_EQ(bid.contract, "1H") << "the play follows the auction that was recorded";
-  EXPECT_EQ(bid.declarer, Seat::North);
-}
-
-TEST(Traveller, AnAuctionOfAnotherDealerIsNotShown) {
-  const std::string record = "qx||md|4SAK,HAK,DAK|ah|Board 1|mb|1H|mb|p|mb|p|mb|p|";
-  const auto of = [&](const std::string& tags) {
-    return MakeTraveller(FileOf("IMPS", {record + tags}), 1).rows.at(0).record.board;
-  };
-  EXPECT_EQ(of(Tags("7", "80", "", "", "1H", "E", "", "")).contract, "1H");
-  EXPECT_EQ(of(Tags("7", "80", "", "", "1H", "E", "", "")).declarer, Seat::East);
-  EXPECT_TRUE(of("").calls.Empty());
+TEST(Traveller, AScorersContractStandsInForAnAuctionThatIsNotShown) {
+  // The dealer, the auction and the tags of a record; the contract and the declarer that it shows
+  const std::string tags = Result("10", "420", "4S", "S");
+  const std::tuple<const char*, const char*, std::string, const char*, Seat> kCases[] = {
+      {"3", "", tags, "4S", Seat::South},
+      {"3", "mb|1H|mb|p|mb|p|mb|p|", tags, "1H", Seat::North},  // the play follows the auction
+      {"4", "mb|1H|mb|p|mb|p|mb|p|", tags, "4S", Seat::South},  // of another dealer
+      {"4", "mb|1H|mb|p|mb|p|mb|p|", "", "", Seat::North}};
+  for (const auto& [dealer, auction, own, contract, declarer] : kCases) {
+    const std::string record = "qx||md|" + std::string(dealer) + "SAK,HAK,DAK|ah|Board 1|";
+    const auto traveller = MakeTraveller(FileOf("IMPS", {record + auction + own}), 1);
+    const Board& board = traveller.rows.at(0).record.board;
+    EXPECT_EQ(board.contract, contract);
+    EXPECT_EQ(board.declarer, declarer) << contract;
+    EXPECT_EQ(board.calls.Empty(), std::string(contract) != "1H") << contract;
+  }
 }
 
 TEST(Traveller, MoreCallsThanABoardHolds) {
@@ -291,20 +269,14 @@ TEST(Traveller, NamesAreLookedUpByTheirFirstPart) {
 }
 
 TEST_F(LibraryTest, LinDataIsReadAgainWhenItIsAnotherFile) {
-  const auto put = [&](std::vector<std::string> records) {
-    LinFile file = FileOf("IMPS", std::move(records));
-    StoreLinData(session, file);
-  };
   LinData data;
-  EXPECT_FALSE(data.Loaded());
   EXPECT_TRUE(data.Of(session).Empty());
-  EXPECT_TRUE(data.Loaded());
-  put({Record("", "")});
+  StoreLinData(session, FileOf("IMPS", {Record("", "")}));
   EXPECT_EQ(data.Of(session).lin.size(), 1U);
   const int version = data.Version();
   EXPECT_EQ(data.Of(session).lin.size(), 1U);
   EXPECT_EQ(data.Version(), version) << "not read twice";
-  put({Record("", ""), Record("", "")});
+  StoreLinData(session, FileOf("IMPS", {Record("", ""), Record("", "")}));
   EXPECT_EQ(data.Of(session).lin.size(), 2U);
   session.settings.library = "Elsewhere";
   EXPECT_TRUE(data.Of(session).Empty());
