@@ -31,8 +31,8 @@ int DLMChecksum(int boardNumber, std::string_view dealLetters);
 std::string EncodeDLMDeal(int boardNumber, const HandTable& hands);
 std::string WithDLMChecksum(int boardNumber, std::string_view dealLetters);
 
-/// The hands of 26 letters. Throws `Fault` kSubscriptOutOfRange for a letter that is none of "a" to
-/// "p".
+/// The hands of 26 letters. Throws `Fault` FaultNumber::SubscriptOutOfRange for a letter that is
+/// none of "a" to "p".
 HandTable DecodeDLMDeal(std::string_view dealLetters);
 
 }  // namespace tricklet

@@ -12,7 +12,8 @@ namespace tricklet {
 /// verified: the deals of files whose check value is wrong are right all the same. `firstBoard` is
 /// the lowest board read. After a line that cannot be read, shown in lower case as it was read,
 /// `boardsSaved` is 0 although the boards before it are stored.
-/// Throws `Fault` for a deal with a bad letter behind its first, and what `sink` throws.
+/// Throws `Fault` FaultNumber::SubscriptOutOfRange for a deal with a bad letter after its first,
+/// and what `sink` throws.
 ReadResult ReadDLM(std::string_view text, BoardSink& sink);
 
 }  // namespace tricklet

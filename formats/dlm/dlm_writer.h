@@ -21,7 +21,7 @@ std::string DLMBoardHead(int number);
 std::string DLMBoardLine(int number, const HandTable& hands);
 std::string DLMPlaceholderLine(int number);
 
-/// The lines behind the last board.
+/// The lines after the last board.
 std::string DLMFooter();
 
 }  // namespace tricklet

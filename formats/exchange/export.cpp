@@ -225,7 +225,7 @@ bool Export(Session& session, const ExportRange& range, fs::path& path) {
 }
 
 bool ExportFile(Session& session, const ExportRange& range, const fs::path& path) {
-  // What is written is what is stored, so changes to the board in hand are settled first.
+  // What is written is what is stored, so changes to the current board are settled first.
   if (!SettleChanges(session)) return false;
   if (const Collector collect = CollectorOf(FileTypeOf(path))) {
     return WriteRange(session, range, path, collect);

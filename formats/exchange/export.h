@@ -19,14 +19,15 @@ struct ExportRange {
 /// The types that can be written, in the order of `optType`.
 const std::vector<std::string>& ExportTypes();
 
-/// The current library holds a board; else tells "There are no hands to export".
+/// True when the current library holds a board; else tells "There are no hands to export".
 bool HasHandsToExport(Session& session);
 
-/// The two texts of `frmExport` are a range; else tells "Please enter a valid range".
+/// Reads the two texts of `frmExport` into `range`. False when they are no range of 1..999: tells
+/// "Please enter a valid range" and leaves `range` alone.
 bool CheckRangeTexts(Session& session, std::string_view from, std::string_view to,
                      ExportRange& range);
 
-/// Every board of the range has its file; else tells which are missing.
+/// True when every board of the range has its file; else tells which are missing.
 bool CheckExportRange(Session& session, const ExportRange& range);
 
 /// The file name to begin with: `last` with its ending turned into the type.

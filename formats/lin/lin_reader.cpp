@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::string_view kParameter = "lin=";
 
-/// The records of a text copied from a site's address, which has them percent-encoded behind
+/// The records of a text copied from a site's address, which has them percent-encoded after
 /// "lin=", blanks as "+".
 std::string DecodeAddress(std::string_view text) {
   const auto parameter = text.find(kParameter);
@@ -72,7 +72,7 @@ bool IsKept(std::string_view tag) {
   return std::find(kKept.begin(), kKept.end(), tag) != kKept.end();
 }
 
-/// What may come before a deal. Behind the page that ends a record it belongs to the next one,
+/// What may come before a deal. After the page that ends a record it belongs to the next one,
 /// whose deal would otherwise get the number of the board after it.
 bool StandsBeforeDeal(std::string_view tag) {
   constexpr std::array<std::string_view, 5> kBefore{"pn", "st", "rh", "ah", "sv"};
@@ -165,7 +165,7 @@ class LinReader {
     record_.fields += '|';
   }
 
-  /// Deals with the record in hand, which ends at `end` of the text; its names stay for the next.
+  /// Deals with the current record, which ends at `end` of the text; its names stay for the next.
   void EndRecord(std::size_t end) {
     const Collected record = std::exchange(record_, Collected());
     const bool broken = HasBrokenEscape(begin_, end);
@@ -225,8 +225,8 @@ class LinReader {
   std::string_view rest_;
   BoardSink& sink_;
   std::vector<std::string>& records_;
-  Collected record_;       // in hand
-  std::size_t begin_ = 0;  // of it in the text
+  Collected record_;       // the current one
+  std::size_t begin_ = 0;  // of the current record in the text
   int lastNumber_ = 0;     // the highest of the records so far
   std::map<int, HandTable> stored_;
   bool stopped_ = false;

@@ -32,7 +32,7 @@ constexpr std::array kLinSeats{Seat::South, Seat::West, Seat::North, Seat::East}
 /// Cards of a text of suit and rank letters: one suit letter, then its ranks.
 class CardLetters {
  public:
-  /// The card that `c` completes; nothing when it is a suit letter or none of both.
+  /// The card that `c` completes; nothing when it is a suit letter or neither.
   std::optional<Card> Next(char c) {
     const auto letter = static_cast<unsigned char>(c);
     if (const int suit = kSuitPlaces.at(letter); suit >= 0) suit_ = suit;
@@ -128,7 +128,7 @@ void ReadPlay(std::string_view value, std::vector<Card>& play) {
   }
 }
 
-/// "o12", "c12" or "12", with or without more behind it.
+/// "o12", "c12" or "12", with or without more after it.
 void ReadRoom(std::string_view value, LinRecord& record, int& number) {
   if (value.empty()) return;
   const char room = ToUpper(value[0]);

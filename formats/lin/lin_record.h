@@ -13,7 +13,8 @@
 
 namespace tricklet {
 
-/// The tags that a scorer adds to the records of "LIN.txt", in the order in which they stand there.
+/// The tags that a scorer adds to the records of "LIN.txt", in their order there: tricks, score,
+/// match points of either side, contract, declarer, lead, IMPs of North-South.
 enum class LinResultTag : std::uint8_t { Qent, Qens, Qenns, Qenew, Qenc, Qend, Qenl, Qeni };
 inline constexpr int kLinResultTags = 8;
 inline constexpr EnumArray<LinResultTag, std::string_view, kLinResultTags> LinResultTagText{
@@ -30,7 +31,7 @@ struct LinRecord {
   bool hasAuction = false;       ///< there is an "mb" field
   std::vector<Call> calls;       ///< from the dealer on; not always legal, and of any number
   PerSeat<std::string> players;  ///< bytes as in the record; empty where none is named
-  std::vector<Card> play;        ///< the cards in the order in which they were played
+  std::vector<Card> play;        ///< the cards as they were played, the opening lead first
   std::optional<int> claim;      ///< tricks of the declarer as claimed, "mc|N|"
   EnumArray<LinResultTag, std::string, kLinResultTags> results;  ///< empty where not given
 };
@@ -46,7 +47,7 @@ std::optional<Card> CardOfLetters(char suit, char rank);
 /// no other hand holds.
 LinRecord ParseLinRecord(std::string_view text);
 
-/// It gives a deal in which no card is twice and no hand has more than 13 cards.
+/// The record gives a deal in which no card is twice and no hand has more than 13 cards.
 bool CanBeDealt(const LinRecord& record);
 
 /// The deal's dealer is another than the board's, so its auction would begin at the wrong seat.

@@ -20,7 +20,7 @@ class PbnLines {
   bool PastEnd() const { return pastEnd_; }
   std::string_view Line() const { return line_; }
 
-  /// What follows the line in hand.
+  /// What follows the current line.
   std::string_view Rest() const;
 
  private:

@@ -12,7 +12,7 @@
 namespace tricklet {
 namespace {
 
-/// Thrown inside this file only: the line in hand cannot be read.
+/// Thrown inside this file only: the current line cannot be read.
 struct BadLine {
   std::string reason;  // where the line does not show it
 };
@@ -56,7 +56,7 @@ void ReadDeal(std::string_view line, HandTable& hands) {
 
 /// One row of an optimum-result table: declarer letter, denomination letter(s), tricks.
 std::int16_t ReadTableRow(std::string_view row, MakeableTable& table) {
-  row.remove_suffix(row.size() - (row.find_last_not_of(" \t") + 1));  // behind the tricks
+  row.remove_suffix(row.size() - (row.find_last_not_of(" \t") + 1));  // blanks after the tricks
   if (row.empty()) throw BadLine{};
   const auto declarer = static_cast<TableSeat>(PositionIn("NSEW", ToUpper(row[0])));
   const std::string_view rest = Trim(row.substr(1));
@@ -117,8 +117,8 @@ class PbnReader {
     try {
       lines_.ReadNextLine();
       while (!lines_.PastEnd() && !result_.cancelled) ReadItem();
-      // A cancelled run has stored its board in hand already, when the next one began.
-      if (!result_.cancelled) StoreBoardInHand();
+      // A cancelled run has stored its last board already, when the next one began.
+      if (!result_.cancelled) StoreBoard();
     } catch (const BadLine& bad) {
       result_.badLine = std::string(lines_.Line());
       result_.badLineReason = bad.reason;
@@ -128,7 +128,7 @@ class PbnReader {
   }
 
  private:
-  /// Deals with the line in hand and moves on behind what belongs to it.
+  /// Deals with the current line and moves on past what belongs to it.
   void ReadItem() {
     constexpr std::size_t kLongestTag = 24;
     const std::string_view line = Trim(lines_.Line());
@@ -149,7 +149,7 @@ class PbnReader {
   }
 
   void BeginBoard(int number) {
-    StoreBoardInHand();
+    StoreBoard();
     if (!sink_.Begin(number, ThousandthsRead(text_, lines_.Rest()))) {
       result_.cancelled = true;
       return;
@@ -162,7 +162,7 @@ class PbnReader {
     board_.makeableValid = false;
   }
 
-  void StoreBoardInHand() {
+  void StoreBoard() {
     if (!inBoard_) return;
     if (!IsStorable(board_.boardNumber)) {
       result_.leftOut.unstorable.push_back(board_.boardNumber);

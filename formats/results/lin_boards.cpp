@@ -23,7 +23,7 @@ DealRank RankOf(const LinRecord& record) {
   return GetStats(record.hands).allHandsComplete ? DealRank::Complete : DealRank::Possible;
 }
 
-/// A record, and what there is of the deal in it.
+/// A record, and how much of the deal it tells.
 struct RankedRecord {
   DealRank rank = DealRank::None;
   LinRecord record;

@@ -9,16 +9,14 @@
 namespace tricklet {
 
 /// Reads "LIN.txt" when it is first asked for, and again when the library is another one or the
-/// file is: an import that has ended is noticed by that, and so is another program's.
+/// file has changed, by an import that has ended or by another program.
 class LinData {
  public:
-  /// That of the current library, until the next call. A file that cannot be read is reported once
-  /// and is empty.
+  /// The LIN data of the current library, valid until the next call. A file that cannot be read is
+  /// reported once and counts as empty.
   const LinFile& Of(Session& session);
 
-  /// It has been asked for.
-  bool Loaded() const { return loaded_; }
-  /// How often it has been read.
+  /// How often a file has been read: another number tells of other data.
   int Version() const { return version_; }
 
  private:

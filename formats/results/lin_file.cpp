@@ -20,7 +20,8 @@ bool IsControl(char c) {
   return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
 }
 
-/// Looks at every byte: that goes by vectors, stopping at the first would not.
+/// Looks at every byte: the compiler can do so many at a time, which it could not if the search
+/// stopped at the first.
 bool HasControl(std::string_view value) {
   unsigned char found = 0;
   for (const char c : value) found |= static_cast<unsigned char>(IsControl(c));

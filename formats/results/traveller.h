@@ -15,8 +15,8 @@ namespace tricklet {
 
 inline constexpr const char* kNotPlayed = "Not played";
 
-/// One table. What the file does not give is worked out from its record where that tells it; a
-/// ruling is not decided by the contract and the tricks of the record, so these are not.
+/// One table. What the file does not give is worked out from its record where that tells it. Of a
+/// score by ruling, contract and tricks are not: the play did not decide it.
 struct TravellerRow {
   PerSide<std::string> pair;     ///< numbers as in the file; empty where the players have none
   std::string contract;          ///< "4Sx", "All Pass"; empty where there is none
@@ -64,12 +64,13 @@ Traveller MakeTraveller(const LinFile& file, int boardNumber);
 /// or it is of another deal than `board`.
 std::string LinPlayRecord(const Traveller& traveller, const Board& board, int row = -1);
 
-/// One table in a line: "4S by South +1 +650 Ann & Bob v Cy & Di", a score of 0 as "="; "All Pass"
-/// and the names for a board that was passed out, "Not played" for one without a result. A ruling
-/// stands in the place of the score.
+/// Gives the text of one table in a line: "4S by South +1 +650 Ann & Bob v Cy & Di", a score of 0
+/// as "="; "All Pass" and the names for a board that was passed out, "Not played" for one without a
+/// result. A ruling stands in the place of the score.
 std::string ReadLinBidding(const TravellerRow& row);
 
-/// The entries of the list of play records: the names of each row, in the order of the rows.
+/// Gives the entries of the list of play records, which its caller adds to the list: the names of
+/// each row, in the order of the rows.
 std::vector<std::string> AddLinNames(const Traveller& traveller);
 
 /// The entry that holds the part of `namesText` before its first "&"; of several, the one at

@@ -162,7 +162,7 @@ std::optional<XmlEncoding> DeclaredEncoding(std::string_view bytes) {
   return std::nullopt;
 }
 
-/// The position behind the ">" that ends the declaration at `begin`: not one in quotes or in its
+/// The position after the ">" that ends the declaration at `begin`: not one in quotes or in its
 /// internal subset.
 std::optional<std::size_t> EndOfDeclaration(std::string_view text, std::size_t begin) {
   char quote = '\0';

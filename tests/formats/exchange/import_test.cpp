@@ -100,7 +100,7 @@ TEST_F(ImportTest, StoresBoardsAndShowsTheFirst) {
   EXPECT_EQ(session.board.boardNumber, 5);
   EXPECT_TRUE(HasCards(session.board.hands));
   EXPECT_FALSE(session.board.handChanged);
-  EXPECT_EQ(session.library.boardCount, 3) << "the board in hand is not imported";
+  EXPECT_EQ(session.library.boardCount, 3) << "the board that was open is not imported";
   EXPECT_EQ(session.library.maxBoard, 7);
   EXPECT_EQ(host.steps.front(), "Importing board 5");
 
@@ -118,7 +118,7 @@ TEST_F(ImportTest, StoresBoardsAndShowsTheFirst) {
   host.ExpectAskWith("Overwrite", Answer::Yes);
   host.ExpectTell("Hand 2 has been saved to the library - Club");
   ImportFile(session, File("%\n[Board \"2\"]\n[Event \"no deal\"]\n"));
-  EXPECT_FALSE(HasCards(session.board.hands)) << "nothing of the board in hand";
+  EXPECT_FALSE(HasCards(session.board.hands)) << "nothing of the board that was open";
 }
 
 constexpr const char* kUnstorable = " left out because a library holds boards 1 to 999: ";

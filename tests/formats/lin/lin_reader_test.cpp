@@ -52,7 +52,7 @@ TEST(ReadLIN, FindsTheRecordsHoweverTheyLie) {
       {"another header without a page mark",
        "ah|Board 5|" + Deal() + "ah|Board 6|" + Deal() + "ah|Board 6|ah|Board 8|" + Deal(),
        "5 6 8 "},
-      {"header and vulnerability behind pages of their own record",
+      {"header and vulnerability after pages of their own record",
        "st||" + Deal() + "rh||ah|Board 5|sv|o|mb|p|pg||pc|CA|pg||st||" + Deal() +
            "rh||ah|Board 6|sv|o|pg||",
        "5 6 "},

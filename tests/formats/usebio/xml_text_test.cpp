@@ -25,7 +25,7 @@ TEST(XmlText, DecodesEveryEncodingAndBack) {
        {"declared Latin-1", latin1 + "\xEB</a>", latin1 + "\u00eb</a>", XmlEncoding::Latin1},
        {"declared Latin-1 that could be UTF-8", latin1 + "\xC3\xAB</a>",
         latin1 + "\u00c3\u00ab</a>", XmlEncoding::Latin1},
-       {"declared Latin-1 behind the mark of UTF-8", "\xEF\xBB\xBF" + latin1 + "\xC3\xAB</a>",
+       {"declared Latin-1 after the mark of UTF-8", "\xEF\xBB\xBF" + latin1 + "\xC3\xAB</a>",
         latin1 + "\u00eb</a>", XmlEncoding::Utf8Marked},
        {"declared Latin-1 with control characters", latin1 + "\x92\x80</a>",
         latin1 + "\u0092\u0080</a>", XmlEncoding::Latin1},
