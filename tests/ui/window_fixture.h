@@ -5,10 +5,13 @@
 #include <string_view>
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QLineEdit>
 #include <QTest>
+#include <QTimer>
 
 #include "tests/support/library_fixture.h"
 #include "ui/style/progress_frame.h"
@@ -57,6 +60,30 @@ class WindowTest : public testing::Test {
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
   }
 
+  void TearDown() override { EXPECT_EQ(dialogsLeft, 0) << "expected but not opened"; }
+
+  /// Has `work` work the next dialog of the type once it is up; it has to close it.
+  template <class Dialog, class Work>
+  void Expect(const Work& work) {
+    ++dialogsLeft;
+    auto* timer = new QTimer(window.get());
+    QObject::connect(timer, &QTimer::timeout, timer, [this, timer, steps = work] {
+      auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+      if (dialog == nullptr) return;
+      timer->stop();
+      timer->deleteLater();
+      --dialogsLeft;
+      QApplication::setActiveWindow(dialog);
+      steps(*dialog);
+      EXPECT_FALSE(dialog->isVisible());
+      if (dialog->isVisible()) dialog->done(QDialog::Rejected);
+    });
+    timer->start(0);
+  }
+  static void Press(const QWidget& dialog, const char* name) {
+    dialog.findChild<QAbstractButton*>(QString::fromLatin1(name))->click();
+  }
+
   template <class Widget>
   Widget* Find(const char* name) const {
     auto* widget = window->findChild<Widget*>(QString::fromLatin1(name));
@@ -70,6 +97,7 @@ class WindowTest : public testing::Test {
     QTest::keyRelease(widget, key, modifiers);
   }
   void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
+    QApplication::setActiveWindow(window.get());  // after a dialog none is active
     PressKey(window.get(), key, modifiers);
   }
   /// To whatever has the focus, as the system delivers keys.
@@ -95,6 +123,8 @@ class WindowTest : public testing::Test {
     edit->selectAll();
     FocusKeys(text);
   }
+  bool Shown(const char* name) const { return Find<QWidget>(name)->isVisible(); }
+  bool Offered(const char* action) const { return Find<QAction>(action)->isEnabled(); }
   QString ShownBoard() const { return Find<QComboBox>("cmbBoard")->currentText(); }
 
   test::TempFolder folder;
@@ -102,6 +132,7 @@ class WindowTest : public testing::Test {
   MemoryStore store;
   Session session;
   std::unique_ptr<MainWindow> window;
+  int dialogsLeft = 0;
 };
 
 }  // namespace tricklet::ui

@@ -8,7 +8,6 @@
 #include <QPushButton>
 
 #include "tests/ui/window_fixture.h"
-#include "ui/background/later.h"
 #include "ui/dialogs/frmCopyLib.h"
 #include "ui/dialogs/frmDeleteLib.h"
 
@@ -30,17 +29,9 @@ class LibraryCommands : public WindowTest {
   /// Gives the command by its key and works the dialog that it opens.
   void WithDialog(Qt::Key key, Qt::KeyboardModifiers modifiers,
                   const std::function<void(QWidget*)>& work) {
-    bool opened = false;
-    Later(window.get(), [&] {
-      QWidget* dialog = QApplication::activeModalWidget();
-      ASSERT_NE(dialog, nullptr);
-      opened = true;
-      work(dialog);
-      if (dialog->isVisible()) QTest::keyClick(dialog, Qt::Key_Escape);
-    });
+    Expect<QDialog>([steps = work](QDialog& dialog) { steps(&dialog); });
     Key(key, modifiers);
-    EXPECT_TRUE(opened);
-    QApplication::setActiveWindow(window.get());
+    EXPECT_EQ(dialogsLeft, 0);
   }
 
   test::TempFolder other;
@@ -165,7 +156,7 @@ TEST_F(LibraryCommands, CopyingShowsThatItIsWaitedForAndCanBeCancelled) {
     host.ExpectAskWith("Do you want to copy all your libraries", Answer::Yes);
     if (cancel) host.ExpectTell("Copying cancelled");
     Key(Qt::Key_F8, Qt::ShiftModifier);
-    EXPECT_FALSE(Find<QWidget>("fraProgress")->isVisible());
+    EXPECT_FALSE(Shown("fraProgress"));
     EXPECT_EQ(fs::exists(Other() / "Club" / "024.txt"), !cancel);
     EXPECT_EQ(
         Find<QLabel>("lblStatus")->text(),

@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTimer>
 
 #include "core/statistics.h"
 #include "library/board_store.h"
@@ -57,28 +56,10 @@ class GenerateWindowTest : public WindowTest {
  protected:
   GenerateWindowTest() { session.random = RandomSource(1); }
 
-  /// Works the next dialog of the type once it is up; `work` has to close it.
-  template <class Dialog, class Work>
-  void Expect(const Work& work) {
-    ++dialogsLeft;
-    auto* timer = new QTimer(window.get());
-    QObject::connect(timer, &QTimer::timeout, timer, [this, timer, steps = work] {
-      auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-      if (dialog == nullptr) return;
-      timer->stop();
-      timer->deleteLater();
-      --dialogsLeft;
-      QApplication::setActiveWindow(dialog);
-      steps(Driven{*dialog});
-      EXPECT_FALSE(dialog->isVisible());
-      if (dialog->isVisible()) dialog->done(QDialog::Rejected);
-    });
-    timer->start(0);
-  }
   /// Generates with what `work` chooses.
   template <class Work>
   void Generate(const Work& work) {
-    Expect<frmGenerate>(work);
+    Expect<frmGenerate>([steps = work](frmGenerate& dialog) { steps(Driven{dialog}); });
     Click("cmdGenerate");
     EXPECT_EQ(dialogsLeft, 0);
   }
@@ -90,8 +71,6 @@ class GenerateWindowTest : public WindowTest {
     EXPECT_TRUE(complete) << number;
     return board;
   }
-
-  int dialogsLeft = 0;
 };
 
 TEST_F(GenerateWindowTest, TheBoardsAreStoredAsChosen) {
@@ -262,7 +241,8 @@ TEST_F(GenerateWindowTest, ThePreviewTakesADealDealsAgainOrEnds) {
   const std::array numbers{31, 31, 31, 32, 33};
   std::vector<HandTable> shown;
   const std::function<void()> expectPreview = [&] {
-    Expect<frmPreview>([&](const Driven& form) {
+    Expect<frmPreview>([&](frmPreview& dialog) {
+      const Driven form{dialog};
       const std::size_t index = shown.size();
       shown.push_back(session.board.hands);
       const QString message = form.Find<QLabel>("lblMessage")->text();

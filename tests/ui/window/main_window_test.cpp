@@ -13,7 +13,6 @@
 #include "formats/exchange/import.h"
 #include "tests/support/calls.h"
 #include "tests/ui/window_fixture.h"
-#include "ui/background/later.h"
 #include "ui/table/table_layout.h"
 
 namespace tricklet::ui {
@@ -43,7 +42,7 @@ TEST_F(MainWindowTest, EveryWayOfSteppingShowsTheBoard) {
     step();
     EXPECT_EQ(session.board.boardNumber, board) << way;
     EXPECT_EQ(FromQt(ShownBoard()), shown) << way;
-    EXPECT_EQ(Find<QWidget>("fraStats")->isVisible(), HasCards(session.board.hands)) << way;
+    EXPECT_EQ(Shown("fraStats"), HasCards(session.board.hands)) << way;
     const QString west = Find<QTableWidget>("flexBids")->horizontalHeaderItem(0)->text();
     EXPECT_EQ(FromQt(west), board == 3 || board == 4 || board == 23 ? "West (v)" : "West") << way;
   }
@@ -140,8 +139,8 @@ TEST_F(MainWindowTest, AnImportShowsProgressTakesNoCommandsAndCanBeCancelled) {
   for (const auto& cancel : cancels) {
     host.steps.clear();
     host.onStep = [&] {
-      EXPECT_TRUE(Find<QWidget>("fraProgress")->isVisible());
-      EXPECT_FALSE(Find<QWidget>("picTable")->isVisible());
+      EXPECT_TRUE(Shown("fraProgress"));
+      EXPECT_FALSE(Shown("picTable"));
       EXPECT_FALSE(Find<QWidget>("cmbLibs")->isEnabled());
       Key(Qt::Key_Delete, Qt::ControlModifier | Qt::ShiftModifier);  // not carried out
       if (host.steps.size() == 4) cancel();
@@ -151,8 +150,8 @@ TEST_F(MainWindowTest, AnImportShowsProgressTakesNoCommandsAndCanBeCancelled) {
     window->ImportFiles({file, file});
     EXPECT_EQ(host.steps.size(), 4U);
     EXPECT_TRUE(window->isVisible());
-    EXPECT_FALSE(Find<QWidget>("fraProgress")->isVisible());
-    EXPECT_TRUE(Find<QWidget>("picTable")->isVisible());
+    EXPECT_FALSE(Shown("fraProgress"));
+    EXPECT_TRUE(Shown("picTable"));
     EXPECT_TRUE(Find<QWidget>("cmbLibs")->isEnabled());
     EXPECT_FALSE(session.board.handChanged);
     EXPECT_EQ(Find<QLabel>("lblLibrary")->text(), QStringLiteral("3 boards in library"));
@@ -162,18 +161,15 @@ TEST_F(MainWindowTest, AnImportShowsProgressTakesNoCommandsAndCanBeCancelled) {
 TEST_F(MainWindowTest, OptionsTakeEffectOnlyWithOK) {
   Open();
   for (const char* button : {"cmdCancel", "cmdOK"}) {
-    Later(window.get(), [button] {
-      QWidget* dialog = QApplication::activeModalWidget();
-      ASSERT_NE(dialog, nullptr);
-      dialog->findChild<QCheckBox*>(QStringLiteral("ShowStats"))->setChecked(false);
-      dialog->findChild<QComboBox*>(QStringLiteral("CardDesign"))->setCurrentIndex(2);
-      dialog->findChild<QPushButton*>(QString::fromLatin1(button))->click();
+    Expect<QDialog>([button](const QDialog& dialog) {
+      dialog.findChild<QCheckBox*>(QStringLiteral("ShowStats"))->setChecked(false);
+      dialog.findChild<QComboBox*>(QStringLiteral("CardDesign"))->setCurrentIndex(2);
+      Press(dialog, button);
     });
     const Settings before = session.settings;
-    QApplication::setActiveWindow(window.get());
     Key(Qt::Key_Comma, Qt::ControlModifier);
     const bool taken = std::string_view(button) == "cmdOK";
-    EXPECT_EQ(Find<QWidget>("fraStats")->isVisible(), !taken);
+    EXPECT_EQ(Shown("fraStats"), !taken);
     EXPECT_EQ(store.Read("Tricklet", "CardDesign").has_value(), taken);
     Settings expected = before;
     if (taken) {
@@ -210,17 +206,17 @@ TEST_F(MainWindowTest, PresentationShowsTheTableAloneAndItsKeysStillWork) {
     EXPECT_FALSE(Find<QWidget>(name)->isVisible()) << name;
   }
   EXPECT_FALSE(window->menuBar()->isVisible());
-  EXPECT_TRUE(Find<QWidget>("picTable")->isVisible());
+  EXPECT_TRUE(Shown("picTable"));
   Key(Qt::Key_PageDown);
   EXPECT_EQ(session.board.boardNumber, 2);
   Key(Qt::Key_F11, Qt::ShiftModifier);
-  EXPECT_TRUE(Find<QWidget>("flexBids")->isVisible());
-  EXPECT_FALSE(Find<QWidget>("cmbLibs")->isVisible());
+  EXPECT_TRUE(Shown("flexBids"));
+  EXPECT_FALSE(Shown("cmbLibs"));
   Key(Qt::Key_F11, Qt::ShiftModifier);
-  EXPECT_FALSE(Find<QWidget>("flexBids")->isVisible());
+  EXPECT_FALSE(Shown("flexBids"));
   Key(Qt::Key_Escape);
   EXPECT_FALSE(window->isFullScreen());
-  EXPECT_TRUE(Find<QWidget>("cmbLibs")->isVisible());
+  EXPECT_TRUE(Shown("cmbLibs"));
 }
 
 TEST_F(MainWindowTest, TheRightColumnTakesOnlyRoomThatTheTableCannotUse) {

@@ -3,12 +3,10 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QTableWidget>
-#include <QTimer>
 #include <QToolButton>
 
 #include "tests/support/calls.h"
 #include "tests/ui/window_fixture.h"
-#include "ui/background/later.h"
 #include "ui/control/play_control.h"
 #include "ui/dialogs/frmBidding.h"
 #include "ui/table/table_view.h"
@@ -19,21 +17,6 @@ namespace {
 /// Board 1: North, the dealer, has the spades, East the hearts, South the diamonds, West the clubs.
 class PlayWindowTest : public WindowTest {
  protected:
-  /// The next auction dialog is worked by `work`, which has to close it.
-  template <class Work>
-  void Expect(const Work& work) {
-    Later(window.get(), [steps = work] {
-      auto* dialog = qobject_cast<frmBidding*>(QApplication::activeModalWidget());
-      ASSERT_NE(dialog, nullptr);
-      QApplication::setActiveWindow(dialog);
-      steps(*dialog);
-      EXPECT_FALSE(dialog->isVisible());
-      if (dialog->isVisible()) dialog->done(QDialog::Rejected);
-    });
-  }
-  static void Press(frmBidding& dialog, const char* name) {
-    dialog.findChild<QPushButton*>(QString::fromLatin1(name))->click();
-  }
   void Bid(const std::string& auction) {
     test::SetAuction(session.board, auction);
     window->Display();
@@ -66,8 +49,6 @@ class PlayWindowTest : public WindowTest {
     return Find<QLabel>("lblTricks_0")->text() + QStringLiteral(" ") +
            Find<QLabel>("lblTricks_1")->text();
   }
-  bool Shown(const char* name) const { return Find<QWidget>(name)->isVisible(); }
-  bool Offered(const char* action) const { return Find<QAction>(action)->isEnabled(); }
 
   void ExpectNothingLeftOfPlay(const char* after) const {
     EXPECT_FALSE(session.board.playMode) << after;
@@ -94,7 +75,7 @@ TEST_F(PlayWindowTest, AnAuctionIsTypedWhileGridAndTableFollow) {
   Open();
   const auto* grid = Find<QTableWidget>("flexBids");
   Click("cmdBid");  // hidden: the dialog brings it back for a while
-  Expect([&](frmBidding& dialog) {
+  Expect<frmBidding>([&](frmBidding& dialog) {
     const auto text = [&](const char* name) {
       return dialog.findChild<QLabel*>(QString::fromLatin1(name))->text();
     };
@@ -139,7 +120,7 @@ TEST_F(PlayWindowTest, FocusOfTheDialogStaysWhereItIsNotACancel) {
   Open();
   Click("lblNext");  // a board without cards can be bid, but not played
   EXPECT_FALSE(Find<QPushButton>("cmdPlay")->isEnabled() || Offered("mnuPlay"));
-  Expect([&](frmBidding& dialog) {
+  Expect<frmBidding>([&](frmBidding& dialog) {
     const auto focus = [&] { return FromQt(dialog.focusWidget()->objectName()); };
     const auto press = [&](const char* name) {
       dialog.findChild<QPushButton*>(QString::fromLatin1(name))->setFocus();
@@ -168,7 +149,7 @@ TEST_F(PlayWindowTest, LeavingTheDialogAsksAndRestores) {
   };
   const auto* grid = Find<QTableWidget>("flexBids");
   for (const auto& leave : ways) {
-    Expect([&](frmBidding& dialog) {
+    Expect<frmBidding>([&](frmBidding& dialog) {
       Press(dialog, "cmdClear");
       FocusKeys("7");
       FocusKey(Qt::Key_Return);
@@ -194,7 +175,7 @@ TEST_F(PlayWindowTest, TheDialogCoversNeitherTheAuctionNorTheMiddleOfTheTable) {
   for (const QSize size : {QSize(1024, 700), QSize(1280, 800)}) {
     window->resize(size);
     QCoreApplication::processEvents();
-    Expect([&](frmBidding& dialog) {
+    Expect<frmBidding>([&](frmBidding& dialog) {
       const auto place = [](const QWidget* widget, QRect part) {
         return part.translated(widget->mapToGlobal(QPoint()));
       };
@@ -216,7 +197,7 @@ TEST_F(PlayWindowTest, BiddingInAPresentationShowsNoAnswers) {
   session.board.makeableValid = true;
   Key(Qt::Key_F11);
   const auto look = [this](bool answers) {
-    Expect([this, answers](frmBidding& dialog) {
+    Expect<frmBidding>([this, answers](frmBidding& dialog) {
       EXPECT_TRUE(Shown("flexBids"));
       EXPECT_EQ(Shown("lvwMake"), answers);
       host.ExpectAskWith("Any bidding changes will be lost", Answer::OK);
@@ -251,8 +232,7 @@ TEST_F(PlayWindowTest, PlayComesAfterTheAuctionThatItNeeds) {
     bool plays;
   } steps[] = {{cancel, "", false}, {passOut, "All Pass : 0", false}, {bid, "", true}};
   for (const auto& [auction, score, plays] : steps) {
-    Expect(auction);
-    QApplication::setActiveWindow(window.get());
+    Expect<frmBidding>(auction);
     Key(Qt::Key_P, Qt::ControlModifier);
     EXPECT_EQ(session.board.playMode, plays);
     EXPECT_EQ(Text("lblScore"), QString::fromLatin1(score));
@@ -392,7 +372,7 @@ TEST_F(PlayWindowTest, NothingIsLeftOfAPlayThatEnds) {
        [this] { Key(Qt::Key_Delete, Qt::ControlModifier | Qt::ShiftModifier); }},
       {"another auction", 4, true,
        [this] {
-         Expect([](frmBidding& dialog) {
+         Expect<frmBidding>([](frmBidding& dialog) {
            Press(dialog, "cmdUndo");
            FocusKeys("p");
            Press(dialog, "cmdOK");

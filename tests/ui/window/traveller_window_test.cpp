@@ -274,7 +274,7 @@ TEST_F(TravellerWindowTest, WhateverReplacesTheBoardEndsTheRecord) {
   ASSERT_TRUE(RecycleLinData(session));
   window->Display();
   EXPECT_EQ(window->findChild<Results*>()->Record(), nullptr) << "the results are gone";
-  EXPECT_FALSE(Find<QWidget>("fraTraveller")->isVisible());
+  EXPECT_FALSE(Shown("fraTraveller"));
 }
 
 }  // namespace
