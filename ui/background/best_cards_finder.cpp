@@ -15,7 +15,8 @@ void BestCardsFinder::Find(const CardPlay& play, const Board& board) {
   std::optional<Question> question;
   if (session_.settings.showBestCards && session_.getSolver && play.PlayMode()) {
     const PlayState& now = play.Now();
-    if (const auto position = PositionOf(now, board.trumps)) {
+    const auto position = PositionOf(now, board.trumps);
+    if (position && now.onPlay) {
       question = Question{*position, now.tricksWon[SideOf(*now.onPlay)]};
     }
   }

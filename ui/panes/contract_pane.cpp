@@ -57,7 +57,7 @@ ContractPane::ContractPane(Commands& commands, QWidget* parent)
   }
   fraPlay_->setObjectName(QStringLiteral("fraPlay"));
   cmdUndo->setObjectName(QStringLiteral("cmdUndo"));
-  cmdUndo->setToolTip(tr("Take back the last card (Ctrl+Z)"));
+  cmdUndo->setToolTip(tr("Take back the claim or the last card (Ctrl+Z)"));
   cmdClaim->setObjectName(QStringLiteral("cmdClaim"));
   cmdClaim->setToolTip(tr("All tricks that are left go to the side on play (Ctrl+L)"));
   connect(cmdUndo, &QPushButton::clicked, &commands, &Commands::UndoCard);
