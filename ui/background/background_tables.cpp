@@ -1,5 +1,9 @@
 #include "ui/background/background_tables.h"
 
+#include <chrono>
+
+#include <QTimer>
+
 #include "analysis/deal_text.h"
 #include "analysis/get_dds.h"
 #include "core/text.h"
@@ -7,6 +11,11 @@
 #include "library/tables.h"
 
 namespace tricklet::ui {
+namespace {
+
+constexpr std::chrono::milliseconds kBetweenDeliveries{100};
+
+}  // namespace
 
 /// A deal on its way to the solver and back.
 struct BackgroundTables::Job {
@@ -49,7 +58,7 @@ void BackgroundTables::Post(bool asked) {
         const auto tables = SolveDeals(solver(), {job->hands}, job->failure);
         if (!tables.empty()) job->table = tables.front();
       },
-      [this, job] { Take(*job); });
+      [this, job] { Deliver(job); });
 }
 
 bool BackgroundTables::IsCurrent(const Job& job) const {
@@ -68,13 +77,25 @@ void BackgroundTables::TellFailure(const Job& job) {
   }
 }
 
+/// Not while a run goes on that may be at the same file. After it a missing table is asked for again
+/// by itself; what the person has asked for waits.
+void BackgroundTables::Deliver(const std::shared_ptr<const Job>& job) {
+  if (!session_.batchRunning) {
+    Take(*job);
+  } else if (job->asked) {
+    QTimer::singleShot(kBetweenDeliveries, this, [this, job] { Deliver(job); });
+  } else {
+    underWay_.erase(job->Key());
+  }
+}
+
 void BackgroundTables::Take(const Job& job) {
-  if (job.failure.empty() || session_.batchRunning) underWay_.erase(job.Key());
-  // The file may be the run's that is going on. The board is looked at again after it.
-  if (session_.batchRunning) return;
   if (!job.failure.empty()) {
-    TellFailure(job);
-  } else if (job.asked) {
+    TellFailure(job);  // it stays among those that cannot be solved
+    return;
+  }
+  underWay_.erase(job.Key());
+  if (job.asked) {
     TakeAsked(job);
   } else {
     StoreTable(job.path, job.hands, job.table);

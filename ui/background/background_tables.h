@@ -40,6 +40,7 @@ class BackgroundTables : public QObject {
   struct Job;
 
   void Post(bool asked);
+  void Deliver(const std::shared_ptr<const Job>& job);
   void Take(const Job& job);
   void TakeAsked(const Job& job);
   void Show(const MakeableTable& table);

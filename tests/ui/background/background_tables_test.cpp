@@ -100,6 +100,16 @@ TEST_F(BackgroundTablesTest, ATableThatIsAskedForIsAChangeOfTheBoard) {
   EXPECT_TRUE(HasOwnTable(1));
 
   Go(2);
+  session.batchRunning = true;
+  tables.ComputeAsked();
+  AwaitSolved(2);
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(session.board.makeableValid) << "not in the middle of a run";
+  session.batchRunning = false;
+  ASSERT_TRUE(QTest::qWaitFor([this] { return session.board.makeableValid; }));
+  session.board.handChanged = false;
+
+  Go(2);
   tables.ComputeAsked();
   Go(3);
   ASSERT_TRUE(QTest::qWaitFor([&] { return !said.isEmpty(); }));
