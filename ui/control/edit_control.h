@@ -33,6 +33,7 @@ class EditControl {
   bool CanFillFourth() const;
   bool CanUndoFill() const;
 
+  /// Into the pack when there is no `to`; beeps when there is no place for the card.
   void MoveCard(Card card, std::optional<Seat> to);
   /// Gives the hand of `seat` the cards of `text`, such as "AKT2.QJ5.-.98"; false, after a message,
   /// when that is refused.
@@ -44,6 +45,7 @@ class EditControl {
   void UndoFill();
   void SwapHands(Seat from, Seat to);
   void SwapSuits(Suit suit1, Suit suit2);
+  /// Tells the person, and changes nothing, when the auction is to be taken along but cannot be.
   void Rotate(Rotation rotation, bool takeAuction);
 
  private:

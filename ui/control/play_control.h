@@ -55,10 +55,13 @@ class PlayControl : public QObject {
   bool Leave();
   /// Leaves the play so that the cards can be edited. False when the person wants to play on.
   bool EndForEditing();
+  /// Beeps, and changes nothing, when the card is not legal.
   void PlayCard(Card card);
   /// Plays the only legal card; beeps when there is not just one.
   void PlayOnlyCard();
+  /// Takes back the claim or else the last card.
   void Undo();
+  /// Gives the tricks that are left to the side on play.
   void Claim();
   /// Gathers a finished trick without waiting for the clock.
   void QuitTrick();

@@ -45,6 +45,7 @@ class Results : public QObject {
   void ShowRecord(int row);
   /// Looks at the board itself again.
   void Leave();
+  // Steps of `Replay` in the record that is being looked at; none without one.
   void Forward();
   void Back();
   void NextTrick();

@@ -13,6 +13,8 @@ class Commands;
 class EditControl;
 class PlayControl;
 
+/// Titled by dealer and vulnerability. The buttons give `commands`; each is enabled where its
+/// command can be carried out.
 class BoardPane : public Section {
   Q_OBJECT
 
@@ -20,6 +22,7 @@ class BoardPane : public Section {
   explicit BoardPane(Commands& commands, QWidget* parent = nullptr);
 
   void Show(const Board& board);
+  /// Sets what depends on the play and the editing of the board: texts and what is enabled.
   void ShowPlay(const PlayControl& play, const EditControl& edit);
 
   /// The controls in the order of the tab key.

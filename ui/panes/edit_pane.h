@@ -23,6 +23,8 @@ class EditPane : public Section {
  public:
   explicit EditPane(Commands& commands, QWidget* parent = nullptr);
 
+  /// Visible only while the hands are edited. A line in which a hand is being typed keeps its text
+  /// unless that hand is another one.
   void Show(const Session& session, const EditControl& edit);
 
   /// Takes over a hand that is being typed; false when it was refused, and the text is still there.

@@ -24,6 +24,7 @@ class LibraryPane : public QWidget {
  public:
   explicit LibraryPane(Session& session, QWidget* parent = nullptr);
 
+  /// Shows the libraries, the boards and what is chosen; a name that is being typed is given up.
   void Show(const Session& session);
 
   /// Makes the way to the next board stand out, or not.

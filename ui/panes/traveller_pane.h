@@ -23,6 +23,8 @@ class TravellerPane : public Section {
   /// Asks `results` for records and steps.
   explicit TravellerPane(Results& results, QWidget* parent = nullptr);
 
+  /// Shows the results of the board that `results` was last read for, and its record if one is
+  /// looked at. The order that the person has sorted them by stays.
   void Show(const Settings& settings);
 
   /// `cmdTraveller`: shows or hides `fraTraveller`.
