@@ -298,42 +298,47 @@ TEST_F(PlayWindowTest, KeysPlayUndoAcrossATrickAndClaim) {
 TEST_F(PlayWindowTest, NothingLeavesAPlayUnderWayUnasked) {
   constexpr auto kCtrl = Qt::ControlModifier;
   constexpr auto kShift = Qt::ShiftModifier;
-  const std::pair<Qt::Key, Qt::KeyboardModifiers> keys[] = {{Qt::Key_P, kCtrl},
-                                                            {Qt::Key_PageDown, {}},
-                                                            {Qt::Key_PageUp, {}},
-                                                            {Qt::Key_Home, kCtrl},
-                                                            {Qt::Key_End, kCtrl},
-                                                            {Qt::Key_G, kCtrl},
-                                                            {Qt::Key_N, kCtrl},
-                                                            {Qt::Key_O, kCtrl},
-                                                            {Qt::Key_I, kCtrl | kShift},
-                                                            {Qt::Key_V, kCtrl | kShift},
-                                                            {Qt::Key_G, kCtrl | kShift},
-                                                            {Qt::Key_F5, {}},
-                                                            {Qt::Key_F7, {}},
-                                                            {Qt::Key_F6, kShift}};
+  const struct {
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+    bool unsaved = false;  // reads the board afresh when its changes are given up
+  } ways[] = {{Qt::Key_P, kCtrl},
+              {Qt::Key_PageDown, {}},
+              {Qt::Key_PageUp, {}},
+              {Qt::Key_Home, kCtrl},
+              {Qt::Key_End, kCtrl},
+              {Qt::Key_G, kCtrl},
+              {Qt::Key_N, kCtrl},
+              {Qt::Key_O, kCtrl},
+              {Qt::Key_I, kCtrl | kShift},
+              {Qt::Key_V, kCtrl | kShift},
+              {Qt::Key_G, kCtrl | kShift},
+              {Qt::Key_F5, {}},
+              {Qt::Key_F7, {}},
+              {Qt::Key_F6, kShift},
+              {Qt::Key_E, kCtrl, true},
+              {Qt::Key_D, kCtrl | kShift, true},
+              {Qt::Key_F8, {}, true},
+              {Qt::Key_F2, kShift, true}};
   Open();
   const QRect button = Find<QWidget>("cmdPlay")->geometry();
   StartPlay();
   EXPECT_FALSE(Shown("fraLibrary"));
   EXPECT_EQ(Find<QWidget>("cmdPlay")->geometry(), button) << "it stays under the mouse";
   ClickCards(5);
-  session.board.handChanged = false;
-  const auto expectAsked = [&](const std::string& question, const std::string& way) {
-    host.ExpectAsk(question, "Tricklet", Answer::No);
-    return "by " + way;
-  };
   const std::string question = "Do you wish to stop the play of board 1?";
-  for (const auto& [key, modifiers] : keys) {
-    const auto way = expectAsked(question, FromQt(QKeySequence(key | modifiers).toString()));
+  for (const auto& [key, modifiers, unsaved] : ways) {
+    session.board.handChanged = unsaved;
+    host.ExpectAsk(question, "Tricklet", Answer::No);
     Key(key, modifiers);
-    ASSERT_TRUE(host.Done() && session.board.playMode) << way;
+    ASSERT_TRUE(host.Done() && session.board.playMode)
+        << FromQt(QKeySequence(key | modifiers).toString());
   }
-  expectAsked(question, "a drop");
+  host.ExpectAsk(question, "Tricklet", Answer::No);
   window->ImportFiles({"deals.pbn", "more.pbn"});
-  expectAsked(question, "closing");
+  host.ExpectAsk(question, "Tricklet", Answer::No);
   EXPECT_FALSE(window->close());
-  expectAsked("Confirm that you wish to edit this hand", "editing");
+  host.ExpectAsk("Confirm that you wish to edit this hand", "Tricklet", Answer::No);
   Click("cmdEdit");
   EXPECT_EQ(Now().tricksPlayed, 1);
   EXPECT_EQ(Now().cardsInTrick, 1);
