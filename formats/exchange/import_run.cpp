@@ -25,13 +25,13 @@ struct Failures {
   std::optional<Fault> writing;
 };
 
-Failures ReadAndStore(Session& session, RecordSource source, const RecordReader& reader,
+Failures ReadAndStore(Session& session, RecordSource& source, const RecordReader& reader,
                       LibrarySink& sink, Reading& reading) {
   const WorkScope work(session.host);
   const BatchScope batch(session);
   Failures failures;
   try {
-    reader.read(std::move(source), sink, reading);
+    reader.read(source, sink, reading);
   } catch (const std::exception& failure) {
     failures.writing = sink.Failure();
     if (!failures.writing) failures.reading = FaultFrom(failure);
@@ -93,7 +93,7 @@ ImportOutcome StoreText(Session& session, RecordSource source, const std::string
   session.board.handChanged = false;
   LibrarySink sink(session, reader.brings == Brings::Nothing);
   Reading reading;
-  const Failures failures = ReadAndStore(session, std::move(source), reader, sink, reading);
+  const Failures failures = ReadAndStore(session, source, reader, sink, reading);
   if (failures.reading) {
     ErrorReport(session.host, *failures.reading);
     return TellUnreadable(session, unreadable, boardBefore);

@@ -22,7 +22,7 @@ std::string ErrorText(const Fault& fault) {
 }
 
 /// Nothing, and a message, when the file is not to be imported.
-std::optional<UsebioResults> ReadResults(RecordSource source, Reading& reading) {
+std::optional<UsebioResults> ReadResults(RecordSource& source, Reading& reading) {
   auto& messages = reading.result.messages;
   if (source.bytes.size() > kMaxXmlBytes) {
     messages.emplace_back(kXmlLoadFailed);
@@ -53,11 +53,11 @@ void TellXmlFailure(Host& host, const Fault& fault) {
   host.Tell(kUnable);
 }
 
-void ReadXML(RecordSource source, BoardSink& sink, Reading& reading) {
+void ReadXML(RecordSource& source, BoardSink& sink, Reading& reading) {
   ReadResult& result = reading.result;
   std::optional<UsebioResults> read;
   try {
-    read = ReadResults(std::move(source), reading);
+    read = ReadResults(source, reading);
   } catch (const std::exception& failure) {
     result.messages = {ErrorText(FaultFrom(failure)), kUnable};
   }

@@ -19,6 +19,6 @@ void TellXmlFailure(Host& host, const Fault& fault);
 /// cannot be read is said in the result's messages, and a file that cannot be read at all stores
 /// nothing. `reading.extended` becomes a file whose document type lies on a web host, with the
 /// extended document type. Throws nothing but what `sink` throws.
-void ReadXML(RecordSource source, BoardSink& sink, Reading& reading);
+void ReadXML(RecordSource& source, BoardSink& sink, Reading& reading);
 
 }  // namespace tricklet

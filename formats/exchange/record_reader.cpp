@@ -11,15 +11,15 @@
 namespace tricklet {
 namespace {
 
-void ReadPbnFile(RecordSource source, BoardSink& sink, Reading& reading) {
+void ReadPbnFile(RecordSource& source, BoardSink& sink, Reading& reading) {
   reading.result = ReadPBN(source.bytes, sink);
 }
 
-void ReadDlmFile(RecordSource source, BoardSink& sink, Reading& reading) {
+void ReadDlmFile(RecordSource& source, BoardSink& sink, Reading& reading) {
   reading.result = ReadDLM(source.bytes, sink);
 }
 
-void ReadLinFile(RecordSource source, BoardSink& sink, Reading& reading) {
+void ReadLinFile(RecordSource& source, BoardSink& sink, Reading& reading) {
   reading.result = ReadLIN(source.bytes, sink, reading.results.lin);
 }
 

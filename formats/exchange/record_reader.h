@@ -20,9 +20,9 @@ enum class Brings : std::uint8_t {
 struct RecordReader {
   std::string_view type;  ///< as `FileTypeOf` gives it
   Brings brings;
-  /// Reads a whole file. What it throws is reported and ends the import; boards stored before it
-  /// stay.
-  void (*read)(RecordSource source, BoardSink& sink, Reading& reading);
+  /// Reads a whole file, whose bytes it may use up. What it throws is reported and ends the import;
+  /// boards stored before it stay.
+  void (*read)(RecordSource& source, BoardSink& sink, Reading& reading);
   /// Tells that a file of the library could not be written.
   void (*tellUnwritten)(Host& host, const Fault& fault);
 };

@@ -266,6 +266,18 @@ TEST_F(ImportTest, EndsEarlyWithWhatIsStored) {
   }
 }
 
+TEST_F(ImportTest, AReadOnlyBoardIsToldOnceWithoutAReport) {
+  const fs::path marked = session.BoardPath(2);
+  fs::create_directories(marked);
+  fs::permissions(marked, fs::perms::owner_read | fs::perms::owner_exec);
+  host.ExpectTellWith(PathText(marked));
+  host.ExpectTell("Hand 1 has been saved to the library - Club");
+  const ImportOutcome outcome = ImportFile(session, File(PbnText({1, 2, 2, 3})));
+  EXPECT_TRUE(outcome.failed);
+  EXPECT_EQ(outcome.boardsSaved, 1);
+  fs::permissions(marked, fs::perms::owner_all);
+}
+
 TEST_F(ImportTest, WhatCannotBeReadIsSaid) {
   fs::create_directories(folder.Path() / "folder.pbn");
   for (const char* name : {"folder.pbn", "missing.lin"}) {

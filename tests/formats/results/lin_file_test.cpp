@@ -20,27 +20,24 @@ LinFile PairsEvent() {
           .lin = {"qx|o1|rh||ah|Board 1|pg||qent|9|qens|140|", "qx|c1|rh||ah|Board 1|pg||"}};
 }
 
-TEST(LinFile, PairsEventIsWrittenSectionBySection) {
-  EXPECT_EQ(LinFileText(PairsEvent()),
-            "[BoardScoringMethod]\r\nMATCH_POINTS\r\n[BoardScoringAbb]\r\nMP\r\n"
-            "[Names]\r\n1 NS Zo\u00eb & \u0141ukasz\r\n2 EW Cy & Di\r\n"
-            "[LIN]\r\nqx|o1|rh||ah|Board 1|pg||qent|9|qens|140|\r\nqx|c1|rh||ah|Board 1|pg||\r\n");
-  EXPECT_EQ(ParseLinFile(LinFileText(PairsEvent())), PairsEvent());
-}
-
-TEST(LinFile, TeamScoringMethodIsSpelledInTwoWays) {
+TEST(LinFile, IsWrittenSectionBySection) {
+  const std::string scoring = "[BoardScoringMethod]\r\nMATCH_POINTS\r\n[BoardScoringAbb]\r\nMP\r\n";
+  const std::string rest =
+      "[Names]\r\n1 NS Zo\u00eb & \u0141ukasz\r\n2 EW Cy & Di\r\n"
+      "[LIN]\r\nqx|o1|rh||ah|Board 1|pg||qent|9|qens|140|\r\nqx|c1|rh||ah|Board 1|pg||\r\n";
+  EXPECT_EQ(LinFileText(PairsEvent()), scoring + rest);
+  EXPECT_EQ(ParseLinFile(scoring + rest), PairsEvent());
   LinFile data = PairsEvent();
   data.teamEvent = {{"1 Hearts", "2 Spades"}, "IMPS", "IMP"};
-  const std::string text = LinFileText(data);
-  EXPECT_NE(text.find("MP\r\n[Teams]\r\n1 Hearts\r\n2 Spades\r\n[TeamScoringMethod]\r\nIMPS\r\n"
-                      "[TeamScoringAbb]\r\nIMP\r\n[Names]\r\n"),
-            std::string::npos)
-      << text;
+  const std::string teams = scoring +
+                            "[Teams]\r\n1 Hearts\r\n2 Spades\r\n[TeamScoringMethod]\r\n"
+                            "IMPS\r\n[TeamScoringAbb]\r\nIMP\r\n" +
+                            rest;
+  EXPECT_EQ(LinFileText(data), teams);
   data.teamEvent->teamScoringMethod.clear();
-  EXPECT_EQ(ParseLinFile(text), data) << "the written spelling is not the one that is looked for";
-  EXPECT_EQ(
-      ParseLinFile("[TeamsScoringMethod]\nVP\n").teamEvent.value_or(LinTeams()).teamScoringMethod,
-      "VP");
+  EXPECT_EQ(ParseLinFile(teams), data) << "the written spelling is not the one that is looked for";
+  const LinFile other = ParseLinFile("[TeamsScoringMethod]\nVP\n");
+  EXPECT_EQ(other.teamEvent.value_or(LinTeams()).teamScoringMethod, "VP");
 }
 
 TEST(LinFile, ReadsWhatOthersWrite) {
