@@ -16,7 +16,7 @@
 #include "formats/pbn/pbn_writer.h"
 #include "library/board_file.h"
 #include "library/file_io.h"
-#include "library/library_store.h"
+#include "library/library_choice.h"
 
 namespace tricklet::bench {
 namespace {

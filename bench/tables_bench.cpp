@@ -18,7 +18,7 @@
 #include "generate/generate.h"
 #include "library/board_file.h"
 #include "library/file_io.h"
-#include "library/library_store.h"
+#include "library/library_choice.h"
 #include "library/tables.h"
 
 namespace tricklet::bench {

@@ -19,7 +19,9 @@
 #include "formats/exchange/import.h"
 #include "library/board_store.h"
 #include "library/file_io.h"
-#include "library/library_store.h"
+#include "library/library_folders.h"
+#include "library/library_names.h"
+#include "library/library_scan.h"
 #include "library/transfer_steps.h"
 
 namespace tricklet::cli {

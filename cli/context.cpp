@@ -2,7 +2,9 @@
 
 #include "library/board_store.h"
 #include "library/file_io.h"
-#include "library/library_store.h"
+#include "library/library_folders.h"
+#include "library/library_names.h"
+#include "library/library_scan.h"
 
 namespace tricklet::cli {
 

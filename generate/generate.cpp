@@ -8,7 +8,8 @@
 #include "generate/deal.h"
 #include "library/board_store.h"
 #include "library/file_io.h"
-#include "library/library_store.h"
+#include "library/library_choice.h"
+#include "library/unsaved_changes.h"
 
 namespace tricklet {
 namespace {

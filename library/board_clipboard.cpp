@@ -4,7 +4,7 @@
 #include "library/board_file.h"
 #include "library/board_store.h"
 #include "library/file_io.h"
-#include "library/library_store.h"
+#include "library/library_scan.h"
 
 namespace tricklet {
 namespace {

@@ -6,7 +6,7 @@
 #include "core/text.h"
 #include "library/board_file.h"
 #include "library/file_io.h"
-#include "library/library_store.h"
+#include "library/library_scan.h"
 
 namespace tricklet {
 namespace {

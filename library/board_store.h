@@ -1,6 +1,9 @@
 // The only way that boards reach or leave the disk.
 #pragma once
 
+#include <filesystem>
+#include <string>
+
 #include "library/session.h"
 
 namespace tricklet {

@@ -6,6 +6,7 @@
 
 #include "core/fault.h"
 #include "core/text.h"
+#include "library/board_file.h"
 #include "library/file_io.h"
 
 namespace tricklet {

@@ -1,6 +1,7 @@
 // Whole folders copied: all of them, or none.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <vector>

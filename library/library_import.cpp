@@ -3,7 +3,9 @@
 
 #include "core/fault.h"
 #include "core/text.h"
-#include "library/library_store.h"
+#include "library/library_choice.h"
+#include "library/library_folders.h"
+#include "library/library_names.h"
 #include "library/library_transfer.h"
 #include "library/transfer_steps.h"
 

@@ -7,8 +7,10 @@
 #include "core/text.h"
 #include "library/file_io.h"
 #include "library/folder_copy.h"
-#include "library/library_store.h"
+#include "library/library_choice.h"
+#include "library/library_names.h"
 #include "library/transfer_steps.h"
+#include "library/unsaved_changes.h"
 
 namespace tricklet {
 namespace {

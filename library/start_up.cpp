@@ -5,7 +5,9 @@
 #include "core/fault.h"
 #include "core/text.h"
 #include "core/version.h"
-#include "library/library_store.h"
+#include "library/library_choice.h"
+#include "library/library_folders.h"
+#include "library/library_names.h"
 
 namespace tricklet {
 namespace {

@@ -10,10 +10,12 @@
 #include "analysis/get_dds.h"
 #include "core/fault.h"
 #include "core/statistics.h"
+#include "core/text.h"
 #include "library/board_file.h"
 #include "library/board_store.h"
 #include "library/file_io.h"
-#include "library/library_store.h"
+#include "library/library_scan.h"
+#include "library/unsaved_changes.h"
 
 namespace tricklet {
 namespace {

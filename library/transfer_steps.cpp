@@ -4,8 +4,7 @@
 
 #include "core/fault.h"
 #include "core/text.h"
-#include "library/folder_copy.h"
-#include "library/library_store.h"
+#include "library/unsaved_changes.h"
 
 namespace tricklet {
 namespace {

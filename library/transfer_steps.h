@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "library/folder_copy.h"
 #include "library/session.h"
 
 namespace tricklet {

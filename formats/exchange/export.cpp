@@ -12,8 +12,9 @@
 #include "library/board_file.h"
 #include "library/board_store.h"
 #include "library/file_io.h"
-#include "library/library_store.h"
+#include "library/library_scan.h"
 #include "library/tables.h"
+#include "library/unsaved_changes.h"
 
 namespace tricklet {
 namespace {

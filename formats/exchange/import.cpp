@@ -9,7 +9,8 @@
 #include "formats/exchange/record_reader.h"
 #include "formats/lin/lin_reader.h"
 #include "library/board_store.h"
-#include "library/library_store.h"
+#include "library/library_scan.h"
+#include "library/unsaved_changes.h"
 
 namespace tricklet {
 namespace {

@@ -9,7 +9,9 @@
 #include "formats/exchange/keep_results.h"
 #include "formats/exchange/library_sink.h"
 #include "library/file_io.h"
-#include "library/library_store.h"
+#include "library/library_choice.h"
+#include "library/library_scan.h"
+#include "library/unsaved_changes.h"
 
 namespace tricklet {
 namespace {

@@ -5,6 +5,7 @@
 #include "core/fault.h"
 #include "library/board_file.h"
 #include "library/file_io.h"
+#include "tests/support/fake_solver.h"
 #include "tests/support/library_fixture.h"
 
 namespace tricklet {

@@ -1,8 +1,10 @@
-#include "library/library_store.h"
-
 #include <gtest/gtest.h>
 
+#include "library/board_clipboard.h"
 #include "library/board_store.h"
+#include "library/library_choice.h"
+#include "library/library_names.h"
+#include "library/library_scan.h"
 #include "tests/support/library_fixture.h"
 
 namespace tricklet {

@@ -3,7 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "core/version.h"
-#include "library/library_store.h"
+#include "library/library_choice.h"
+#include "library/library_names.h"
 #include "tests/support/library_fixture.h"
 
 namespace tricklet {

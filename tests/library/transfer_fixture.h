@@ -1,7 +1,8 @@
 // Libraries to copy, and what is asked and told while they are.
 #pragma once
 
-#include "library/library_store.h"
+#include "library/library_choice.h"
+#include "library/library_names.h"
 #include "library/library_transfer.h"
 #include "tests/support/library_fixture.h"
 

@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "core/text.h"
-#include "library/library_store.h"
+#include "library/library_scan.h"
 #include "library/session.h"
 #include "tests/support/scripted_host.h"
 

@@ -13,6 +13,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "library/library_choice.h"
 #include "tests/support/library_fixture.h"
 #include "ui/style/progress_frame.h"
 #include "ui/style/qt_text.h"

@@ -6,7 +6,7 @@
 #include <QDir>
 
 #include "analysis/solver_library.h"
-#include "library/library_store.h"
+#include "library/library_choice.h"
 #include "library/start_up.h"
 #include "ui/app/application.h"
 #include "ui/app/qt_host.h"

@@ -19,7 +19,7 @@
 #include "bench/temporary_root.h"
 #include "library/board_file.h"
 #include "library/file_io.h"
-#include "library/library_store.h"
+#include "library/library_choice.h"
 #include "ui/control/play_control.h"
 #include "ui/table/table_view.h"
 #include "ui/window/main_window.h"

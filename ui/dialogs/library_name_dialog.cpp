@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "library/library_store.h"
+#include "library/library_names.h"
 #include "ui/dialogs/name_filter.h"
 #include "ui/style/qt_text.h"
 

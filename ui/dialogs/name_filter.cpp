@@ -4,7 +4,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
-#include "library/library_store.h"
+#include "library/library_names.h"
 
 namespace tricklet::ui {
 

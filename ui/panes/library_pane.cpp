@@ -15,7 +15,9 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "library/library_store.h"
+#include "library/library_choice.h"
+#include "library/library_names.h"
+#include "library/library_scan.h"
 #include "ui/dialogs/name_filter.h"
 #include "ui/panes/board_list_model.h"
 #include "ui/style/qt_text.h"

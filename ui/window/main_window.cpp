@@ -11,7 +11,8 @@
 #include <QScreen>
 #include <QStatusBar>
 
-#include "library/library_store.h"
+#include "library/library_choice.h"
+#include "library/unsaved_changes.h"
 #include "ui/background/background_tables.h"
 #include "ui/background/best_cards_finder.h"
 #include "ui/background/later.h"

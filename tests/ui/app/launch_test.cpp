@@ -3,6 +3,7 @@
 
 #include <QImage>
 
+#include "library/library_names.h"
 #include "library/start_up.h"
 #include "tests/support/library_fixture.h"
 #include "ui/app/application.h"

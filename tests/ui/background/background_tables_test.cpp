@@ -7,6 +7,7 @@
 #include "analysis/get_dds.h"
 #include "library/board_file.h"
 #include "library/board_store.h"
+#include "library/library_choice.h"
 #include "tests/support/fake_solver.h"
 #include "tests/support/library_fixture.h"
 #include "ui/style/qt_text.h"

@@ -1,0 +1,163 @@
+#include "library/library_choice.h"
+
+#include <algorithm>
+
+#include "core/fault.h"
+#include "core/text.h"
+#include "library/board_store.h"
+#include "library/file_io.h"
+#include "library/library_folders.h"
+#include "library/library_names.h"
+#include "library/library_scan.h"
+#include "library/unsaved_changes.h"
+
+namespace tricklet {
+namespace {
+
+namespace fs = std::filesystem;
+
+int PositionOf(const std::vector<std::string>& names, std::string_view name) {
+  const auto found = std::find(names.begin(), names.end(), name);
+  return found == names.end() ? -1 : static_cast<int>(found - names.begin());
+}
+
+/// Makes `name` the current library and shows its first board; the list must hold it.
+void EnterLibrary(Session& session, int index) {
+  session.libIndex = index;
+  session.settings.library = session.libraryNames.at(static_cast<std::size_t>(index));
+  SaveSetting(session, &Settings::library);
+  session.board.boardNumber = kFirstBoardNumber;
+  FindFiles(session);
+  LoadHand(session);
+}
+
+std::string TrimQuestion(int highest, int maxBoard) {
+  std::string text = "Please confirm that you wish to remove hand";
+  if (highest == maxBoard - 1) {
+    text += " " + std::to_string(maxBoard);
+  } else {
+    text += "s " + std::to_string(highest + 1) + " to " + std::to_string(maxBoard);
+  }
+  return text + "\n\nClick yes to send them to the recycle bin";
+}
+
+void RecycleBoardsAbove(Session& session, int highest) {
+  for (int number = highest + 1; number <= session.library.maxBoard; ++number) {
+    const fs::path path = session.BoardPath(number);
+    // A failure is not reported: the count afterwards shows what really remains.
+    if (FileExists(path)) session.host.Recycle(path);
+  }
+}
+
+}  // namespace
+
+void GetLibraryNames(Session& session) {
+  if (!RequireFolder(session, session.FileLocation()) ||
+      CheckSaveChanges(session) == Answer::Cancel)
+    return;
+  session.libraryNames = FoldersOf(session.FileLocation());
+  if (session.libraryNames.empty()) {
+    if (!MakeFolder(session, session.FileLocation() / "Default")) {
+      session.libIndex = -1;
+      return;
+    }
+    session.libraryNames.emplace_back("Default");
+  }
+  EnterLibrary(session, std::max(0, PositionOf(session.libraryNames, session.LibraryName())));
+}
+
+void ListAndShow(Session& session, int number) {
+  session.board.boardNumber = number;
+  FindFiles(session);
+  session.board.boardNumber = std::clamp(number, kFirstBoardNumber, session.library.maxBoard);
+  LoadHand(session);
+}
+
+bool SelectLibrary(Session& session, int index) {
+  if (index < 0 || index >= static_cast<int>(session.libraryNames.size())) return false;
+  if (CheckSaveChanges(session) == Answer::Cancel) return false;
+  EnterLibrary(session, index);
+  return true;
+}
+
+bool SelectLibrary(Session& session, std::string_view name) {
+  return SelectLibrary(session, LibraryIndex(session, name));
+}
+
+int LibraryIndex(const Session& session, std::string_view name) {
+  return PositionOf(session.libraryNames, NameMeant(session.libraryNames, name));
+}
+
+bool SelectBoard(Session& session, int boardNumber) {
+  if (boardNumber < kFirstBoardNumber || boardNumber > session.library.maxBoard) return false;
+  if (CheckSaveChanges(session) == Answer::Cancel) return false;
+  session.board.boardNumber = boardNumber;
+  LoadHand(session);
+  return true;
+}
+
+bool StepBoard(Session& session, bool backward) {
+  const int last = session.library.maxBoard;
+  if (last == 0) return false;
+  const int next = session.board.boardNumber + (backward ? -1 : 1);
+  return SelectBoard(session, next > last ? kFirstBoardNumber : next < 1 ? last : next);
+}
+
+bool SetMaxBoard(Session& session, int highest) {
+  LibraryState& library = session.library;
+  if (!IsStorable(highest)) {
+    session.host.Beep();
+    return false;
+  }
+  if (highest >= library.maxBoard) {
+    library.maxBoard = highest;
+    return true;
+  }
+  if (session.host.Ask(TrimQuestion(highest, library.maxBoard), std::string(kProgramName),
+                       Buttons::YesNo) != Answer::Yes) {
+    return false;
+  }
+  RecycleBoardsAbove(session, highest);
+  library.maxBoard = highest;
+  if (session.board.boardNumber > highest) {
+    session.board.boardNumber = highest;
+    LoadHand(session);
+  }
+  CountHands(session);
+  return true;
+}
+
+void RefreshLibraryNames(Session& session) {
+  if (!RequireFolder(session, session.FileLocation())) return;
+  session.libraryNames = FoldersOf(session.FileLocation());
+  session.libIndex = PositionOf(session.libraryNames, session.LibraryName());
+  if (session.libIndex < 0) GetLibraryNames(session);
+}
+
+bool CreateLibrary(Session& session, std::string_view name) {
+  const std::string trimmed(Trim(name));
+  if (!AcceptNewName(session, trimmed)) return false;
+  if (!SettleChanges(session)) return false;
+  if (!MakeFolder(session, session.FileLocation() / PathFromText(trimmed))) return false;
+  session.settings.library = trimmed;
+  GetLibraryNames(session);
+  return true;
+}
+
+bool RenameLibrary(Session& session, std::string_view name) {
+  const std::string trimmed(Trim(name));
+  if (!AcceptNewName(session, trimmed)) return false;
+  std::error_code failure;
+  fs::rename(session.LibraryPath(), session.FileLocation() / PathFromText(trimmed), failure);
+  if (failure) {
+    ErrorReport(session.host, Fault::OfFile(failure, PathText(session.LibraryPath())));
+    return false;
+  }
+  if (session.copyLibrary == session.LibraryName()) session.copyLibrary = trimmed;
+  session.settings.library = trimmed;
+  SaveSetting(session, &Settings::library);
+  RefreshLibraryNames(session);
+  return true;
+}
+
+}  // namespace tricklet

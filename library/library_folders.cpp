@@ -1,0 +1,45 @@
+#include "library/library_folders.h"
+
+#include "core/fault.h"
+#include "core/text.h"
+#include "library/library_names.h"
+
+namespace tricklet {
+
+namespace fs = std::filesystem;
+
+bool RequireFolder(Session& session, const fs::path& folder) {
+  std::error_code ignored;
+  if (fs::is_directory(folder, ignored)) return true;
+  session.host.Tell("There is no folder " + PathText(folder));
+  return false;
+}
+
+bool AcceptLibraryRoot(Host& host, const fs::path& folder) {
+  if (!IsDriveRoot(folder)) return true;
+  host.Tell("Please choose a folder, not " + PathText(folder));
+  return false;
+}
+
+bool MakeFolder(Session& session, const fs::path& path) {
+  std::error_code failure;
+  fs::create_directory(path, failure);
+  if (failure) ErrorReport(session.host, Fault::OfFile(failure, PathText(path)));
+  return !failure;
+}
+
+void TellNoLibrary(Session& session, const std::string& name) {
+  session.host.Tell("There is no library " + name + " in " + session.settings.filelocation);
+}
+
+bool RequireLibraryFolder(Session& session) {
+  const std::string& name = session.LibraryName();
+  if (!AcceptLibraryName(session.host, name)) return false;
+  std::error_code ignored;
+  if (fs::is_directory(session.LibraryPath(), ignored)) return true;
+  if (HasAllowedCharacters(name)) return MakeFolder(session, session.LibraryPath());
+  TellNotAName(session.host, name);
+  return false;
+}
+
+}  // namespace tricklet

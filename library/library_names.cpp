@@ -1,0 +1,107 @@
+#include "library/library_names.h"
+
+#include <algorithm>
+
+#include "core/text.h"
+#include "library/file_io.h"
+
+namespace tricklet {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Names in the order of the list: letter case counts only between names that are otherwise equal.
+bool NameBefore(const std::string& a, const std::string& b) {
+  const std::string foldedA = FoldCase(a);
+  const std::string foldedB = FoldCase(b);
+  return foldedA != foldedB ? foldedA < foldedB : a < b;
+}
+
+bool IsListed(const std::vector<std::string>& names, std::string_view name) {
+  return std::any_of(names.begin(), names.end(),
+                     [name](const std::string& taken) { return EqualFolded(taken, name); });
+}
+
+}  // namespace
+
+bool AllowedInLibraryName(char32_t character, bool first) {
+  constexpr std::u32string_view kRefused = U"/:*?\"<>|.\\";  // "\" would make a folder in a folder
+  if (character < 0x20 || character == 0x7F) return false;
+  if (first && character == U' ') return false;
+  return kRefused.find(character) == std::u32string_view::npos;
+}
+
+bool HasAllowedCharacters(std::string_view name) {
+  bool first = true;
+  for (const char c : name) {
+    // Bytes of other characters are all allowed, so a byte can stand for its character here.
+    if (!AllowedInLibraryName(static_cast<unsigned char>(c), first)) return false;
+    first = false;
+  }
+  return !name.empty() && name.size() <= kLongestLibraryName;
+}
+
+bool IsLibraryName(std::string_view name) {
+  const fs::path path = PathFromText(name);
+  return !name.empty() && !name.starts_with('.') && IsValidUtf8(name) && path == path.filename();
+}
+
+bool AcceptLibraryName(Host& host, std::string_view name) {
+  if (IsLibraryName(name)) return true;
+  TellNotAName(host, name);
+  return false;
+}
+
+void TellNotAName(Host& host, std::string_view name) {
+  constexpr std::size_t kShown = 60;
+  host.Tell(name.empty() ? "A library needs a name"
+                         : "A library cannot be named " + Showable(name, kShown));
+}
+
+std::vector<std::string> FoldersOf(const fs::path& root) {
+  std::vector<std::string> names;
+  std::error_code failure;
+  for (fs::directory_iterator entry(root, failure), end; !failure && entry != end;
+       entry.increment(failure)) {
+    std::string name = PathText(entry->path().filename());
+    std::error_code ignored;
+    if (!IsLibraryName(name) || !entry->is_directory(ignored)) continue;
+    names.push_back(std::move(name));
+  }
+  std::sort(names.begin(), names.end(), NameBefore);
+  return names;
+}
+
+std::string NameMeant(const std::vector<std::string>& names, std::string_view name) {
+  for (const std::string_view wanted : {name, Trim(name)}) {
+    const auto found = std::find(names.begin(), names.end(), wanted);
+    if (found != names.end()) return *found;
+  }
+  const auto found = std::find_if(names.begin(), names.end(), [name](const std::string& other) {
+    return EqualFolded(other, Trim(name));
+  });
+  return found != names.end() ? *found : std::string();
+}
+
+bool IsTakenInRoot(const Session& session, std::string_view name) {
+  const fs::path root = session.FileLocation();
+  return IsListed(FoldersOf(root), name) || IsTaken(root / PathFromText(name));
+}
+
+bool IsNewLibraryName(const Session& session, std::string_view name) {
+  const std::string_view trimmed = Trim(name);
+  return HasAllowedCharacters(trimmed) && !IsListed(session.libraryNames, trimmed);
+}
+
+bool AcceptNewName(Session& session, std::string_view name) {
+  if (!HasAllowedCharacters(name)) {
+    session.host.Beep();
+    TellNotAName(session.host, name);
+    return false;
+  }
+  if (!IsTakenInRoot(session, name)) return true;
+  session.host.Tell(std::string(name) + " already exists\nPlease choose a different name");
+  return false;
+}
+
+}  // namespace tricklet

@@ -1,0 +1,53 @@
+// Which names a library can have, and which are taken.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "library/session.h"
+
+namespace tricklet {
+
+/// What file systems take for a name, in bytes.
+inline constexpr std::size_t kLongestLibraryName = 255;
+
+/// `character` may be typed into the name of a library, at its beginning (`first`) or later.
+bool AllowedInLibraryName(char32_t character, bool first);
+
+/// A new library can have the name, as far as its characters go: all are allowed, there is one at
+/// least, and the name is not longer than `kLongestLibraryName`.
+bool HasAllowedCharacters(std::string_view name);
+
+/// A folder of this name, made by whatever program, is a library: the name is a single element of a
+/// path, valid UTF-8, and does not begin with a full stop.
+bool IsLibraryName(std::string_view name);
+
+/// `IsLibraryName`; tells when it is not.
+bool AcceptLibraryName(Host& host, std::string_view name);
+
+/// Tells that no library can have the name.
+void TellNotAName(Host& host, std::string_view name);
+
+/// The names of the libraries in the folder `root`, in the order of the list: by letters, whatever
+/// their case. Empty when the folder cannot be listed.
+std::vector<std::string> FoldersOf(const std::filesystem::path& root);
+
+/// The one of `names` that `name` means: just this name, or else the name without the blanks around
+/// it, or else that name in another letter case. Empty when there is none.
+std::string NameMeant(const std::vector<std::string>& names, std::string_view name);
+
+/// The library root has a folder of the name, in whatever letter case, or something else of it.
+bool IsTakenInRoot(const Session& session, std::string_view name);
+
+/// The name, without the blanks around it, can be given to a new library: its characters are
+/// allowed, and no library that is listed has it in whatever letter case.
+bool IsNewLibraryName(const Session& session, std::string_view name);
+
+/// The name can be given to a new library now, as the root is on the disk; beeps and tells when its
+/// characters are not allowed, and tells when it is taken.
+bool AcceptNewName(Session& session, std::string_view name);
+
+}  // namespace tricklet
