@@ -49,7 +49,8 @@ ExitCode Analyse(const Context& context, const AnalyseArguments& arguments) {
       AnalyseBoards(session, session.getSolver(), first, last, arguments.again);
   session.host.Tell(AnalysisText(outcome));
   if (arguments.show) ShowTables(context, first, last);
-  return outcome.failure.empty() && !outcome.cancelled ? ExitCode::Done : ExitCode::Refused;
+  const bool done = outcome.failure.empty() && !outcome.cancelled && outcome.readOnly.empty();
+  return done ? ExitCode::Done : ExitCode::Refused;
 }
 
 ExitCode Link(const Context& context, int boardNumber) {

@@ -1,4 +1,5 @@
-// Copying one board's file to another place.
+#include "library/board_clipboard.h"
+
 #include "core/fault.h"
 #include "core/text.h"
 #include "library/board_file.h"
@@ -37,14 +38,18 @@ bool PasteHand(Session& session) {
                       std::to_string(session.copyBoard) + " no longer exists");
     return false;
   }
+  const auto target = session.BoardPath(session.board.boardNumber);
+  if (IsReadOnly(target)) {
+    session.host.Tell(ReadOnlyText(target));
+    return false;
+  }
   if (HasCards(session.board.hands) &&
       session.host.Ask(OverwriteQuestion(session), OverwriteTitle(session), Buttons::YesNo) !=
           Answer::Yes) {
     return false;
   }
   try {
-    ReplaceWholeFile(session.BoardPath(session.board.boardNumber),
-                     ReadWholeFile(source, kMaxBoardFileBytes));
+    ReplaceWholeFile(target, ReadWholeFile(source, kMaxBoardFileBytes));
   } catch (const Fault& fault) {
     ErrorReport(session.host, fault);
     return false;

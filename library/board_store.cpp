@@ -13,17 +13,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Asks before a changed board replaces `path`; false when it must not.
-bool MayReplace(Session& session, const fs::path& path, Buttons style) {
+/// Asks before a changed board replaces its file.
+bool AgreesToReplace(Session& session, Buttons style) {
   const std::string question =
       "Overwrite existing board " + std::to_string(session.board.boardNumber) + "?";
   const Answer answer = session.host.Ask(question, "Hand already in library", style);
-  if (answer != Answer::Yes && answer != Answer::OK) return false;
-  if (IsReadOnly(path)) {
-    session.host.Tell("The file\n" + PathText(path) + "\nis read only so the hand cannot be saved");
-    return false;
-  }
-  return true;
+  return answer == Answer::Yes || answer == Answer::OK;
 }
 
 void TellUnreadable(Session& session, const fs::path& path) {
@@ -43,6 +38,7 @@ void AddMissingTable(Session& session, const fs::path& path, Board& board) {
   if (session.tablesInBackground || !WantsTable(session, board)) return;
   if (!GetDDS(board, session.getSolver(), session.host, false)) return;
   board.handChanged = false;
+  if (IsReadOnly(path)) return;
   try {
     ReplaceWholeFile(path, WriteBoardText(board));
   } catch (const Fault&) {
@@ -52,9 +48,17 @@ void AddMissingTable(Session& session, const fs::path& path, Board& board) {
 
 }  // namespace
 
+std::string ReadOnlyText(const fs::path& path) {
+  return "The file\n" + PathText(path) + "\nis read only so the hand cannot be saved";
+}
+
 bool SaveHand(Session& session, Buttons style) {
   const fs::path path = session.BoardPath(session.board.boardNumber);
-  if (session.board.handChanged && FileExists(path) && !MayReplace(session, path, style)) {
+  if (session.board.handChanged && FileExists(path) && !AgreesToReplace(session, style)) {
+    return false;
+  }
+  if (IsReadOnly(path)) {
+    session.host.Tell(ReadOnlyText(path));
     return false;
   }
   try {
@@ -71,7 +75,9 @@ void StoreBoard(Session& session) {
   if (!IsStorable(session.board.boardNumber)) {
     throw Fault(FaultNumber::SubscriptOutOfRange, "A library holds boards 1 to 999");
   }
-  ReplaceWholeFile(session.BoardPath(session.board.boardNumber), WriteBoardText(session.board));
+  const fs::path path = session.BoardPath(session.board.boardNumber);
+  if (IsReadOnly(path)) throw Fault(FaultNumber::PathFileAccess, ReadOnlyText(path));
+  ReplaceWholeFile(path, WriteBoardText(session.board));
   session.board.handChanged = false;
 }
 

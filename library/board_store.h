@@ -8,18 +8,23 @@
 
 namespace tricklet {
 
+/// Says that the file is marked read-only, and that its board cannot be saved therefore.
+std::string ReadOnlyText(const std::filesystem::path& path);
+
 /// Writes the current board to its file in the current library. Asks before a changed board
-/// replaces an existing file, and refuses to replace a read-only one. True when it was written; a
-/// failure is reported and leaves the old file and the unsaved flag.
+/// replaces an existing file, and then refuses to replace one that is marked read-only. True when
+/// it was written; a failure is reported and leaves the old file and the unsaved flag.
 bool SaveHand(Session& session, Buttons style = Buttons::YesNo);
 
 /// Stores the current board of a run (import, generation): no question, no rescan of the library.
-/// Throws `Fault`.
+/// Throws `Fault`: PathFileAccess with `ReadOnlyText` when the file is marked read-only,
+/// SubscriptOutOfRange when the board's number is none of a library, or that of the disk. The old
+/// file is then as it was.
 void StoreBoard(Session& session);
 
 /// Reads the current board from its file. Without a file the board is cleared and its number stays;
-/// a file that cannot be read gives a message, and the board keeps what had been read. True when
-/// the board was read.
+/// a file that cannot be read gives a message, and the board keeps what had been read. A missing
+/// table is computed as `LoadHandBasic` does it. True when the board was read.
 bool LoadHand(Session& session);
 
 /// The board is complete, lacks its table, and the settings and a solver call for one.
@@ -29,9 +34,9 @@ bool WantsTable(const Session& session, const Board& board);
 /// read. The table is read only for a complete deal.
 bool ReadBoard(Session& session, Board& board);
 
-/// The same for a writer, with a missing table computed and stored: false, with a message, when the
-/// file cannot be read. The table is read only for a complete deal; `allHandsComplete` says whether
-/// it is one.
+/// `ReadBoard` for a writer: a missing table of a complete deal is computed, where the settings and
+/// a solver call for one, and stored, unless the file is marked read-only. `allHandsComplete` says
+/// whether all four hands are complete.
 bool LoadHandBasic(Session& session, Board& board, bool& allHandsComplete);
 
 }  // namespace tricklet

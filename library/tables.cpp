@@ -55,6 +55,17 @@ std::string ProgressText(int number, const Progress& progress) {
          (left < 100 ? std::to_string(left) + " s" : std::to_string(left / 60) + " min") + " left";
 }
 
+/// Which boards were left out because their files are read-only; `files` is not empty.
+std::string LeftOutText(const std::vector<fs::path>& files) {
+  if (files.size() == 1) return ReadOnlyText(files.front());
+  std::string numbers;
+  for (const fs::path& file : files) {
+    if (!numbers.empty()) numbers += ", ";
+    numbers += std::to_string(BoardNumberOfFile(PathText(file.filename())));
+  }
+  return "The files of boards " + numbers + " are read only so the hands cannot be saved";
+}
+
 /// One run over a range of boards.
 class AnalysisRun {
  public:
@@ -102,6 +113,10 @@ class AnalysisRun {
       return false;
     }
     if (board.makeableValid && !again) return false;
+    if (IsReadOnly(session_.BoardPath(number))) {
+      outcome_.readOnly.push_back(session_.BoardPath(number));
+      return false;
+    }
     deals_.push_back(board.hands);
     return true;
   }
@@ -178,6 +193,7 @@ bool StoreTable(const fs::path& path, const HandTable& hands, const MakeableTabl
     Board board;
     const std::string text = ReadWholeFile(path, kMaxBoardFileBytes);
     if (!ReadBoardText(text, board, TableReading::Always) || !(board.hands == hands)) return false;
+    if (IsReadOnly(path)) return false;
     board.makeable = table;
     board.makeableValid = true;
     ReplaceWholeFile(path, WriteBoardText(board));
@@ -207,6 +223,7 @@ std::string AnalysisText(const AnalysisOutcome& outcome) {
     text += "\n" + std::to_string(outcome.incomplete) +
             (outcome.incomplete == 1 ? " hand is" : " hands are") + " incomplete";
   }
+  if (!outcome.readOnly.empty()) text += "\n" + LeftOutText(outcome.readOnly);
   if (outcome.cancelled) text += "\nAnalysis cancelled";
   if (!outcome.failure.empty()) text += "\n" + outcome.failure;
   return text;

@@ -11,7 +11,7 @@
 namespace tricklet {
 
 /// Puts `table` into the board file `path`, if the deal in it is still `hands`. False when it is
-/// not, or the file could not be read or written.
+/// not, or the file is marked read-only, or it could not be read or written.
 bool StoreTable(const std::filesystem::path& path, const HandTable& hands,
                 const MakeableTable& table);
 
@@ -21,19 +21,21 @@ bool RequireSolver(const Session& session);
 struct AnalysisOutcome {
   int computed = 0;    ///< tables stored
   int incomplete = 0;  ///< boards that are no complete deal, or cannot be read
+  std::vector<std::filesystem::path> readOnly;  ///< files of boards that were left for their mark
   bool cancelled = false;
   std::string failure;  ///< the solver's; empty when there was none
 };
 
 /// Computes the tables of the boards `first`..`last` that are in the current library: those that
-/// have none, or all with `again`. Solves in batches; the boards of one are stored while the next
-/// is on the solver. The current board takes its new table too.
+/// have none, or all with `again`, but for those whose files are marked read-only. Solves in
+/// batches; the boards of one are stored while the next is on the solver. The current board takes
+/// its new table too.
 AnalysisOutcome AnalyseBoards(Session& session, Solver& solver, int first, int last, bool again);
 
 /// `mnuAnalyse`: the whole library, after `CheckSaveChanges`; tells how it ended.
 void AnalyseLibrary(Session& session, Solver& solver, bool again = false);
 
-/// How an analysis ended, in words.
+/// How an analysis ended, in words, a line for each thing that there is to say.
 std::string AnalysisText(const AnalysisOutcome& outcome);
 
 }  // namespace tricklet

@@ -65,12 +65,32 @@ TEST_F(BoardStore, LeavesAReadOnlyFileAlone) {
   EXPECT_TRUE(session.board.handChanged);
 }
 
-TEST_F(BoardStore, AMarkedFileThatIsReplacedUnaskedKeepsItsMark) {
+TEST_F(BoardStore, NothingStoresABoardInAReadOnlyFile) {
+  WriteFile(path, test::OneSuitEachText());
+  fs::permissions(path, fs::perms::owner_read);
+  const std::string text =
+      "The file\n" + PathText(path) + "\nis read only so the hand cannot be saved";
+  host.ExpectTell(text);
+  EXPECT_FALSE(SaveHand(session)) << "nor without changes";
+  try {
+    StoreBoard(session);
+    FAIL();
+  } catch (const Fault& fault) {
+    EXPECT_EQ(fault.Number(), FaultNumber::PathFileAccess);
+    EXPECT_EQ(fault.Description(), text);
+  }
+  test::FakeSolver solver;
+  session.getSolver = [&]() -> Solver& { return solver; };
+  EXPECT_TRUE(LoadHand(session));
+  EXPECT_TRUE(session.board.makeableValid) << "shown, but not written";
+  EXPECT_EQ(ReadFile(path), test::OneSuitEachText());
+}
+
+TEST_F(BoardStore, AMarkedFileThatIsReplacedKeepsItsMark) {
   WriteFile(path, "old");
   fs::permissions(path, fs::perms::owner_read);
-  session.board.handChanged = false;
-  EXPECT_TRUE(SaveHand(session));
-  EXPECT_NE(ReadFile(path), "old");
+  ReplaceWholeFile(path, "new");
+  EXPECT_EQ(ReadFile(path), "new");
   EXPECT_TRUE(IsReadOnly(path));
   EXPECT_EQ(std::distance(fs::directory_iterator(session.LibraryPath()), {}), 1);
 }
@@ -78,7 +98,7 @@ TEST_F(BoardStore, AMarkedFileThatIsReplacedUnaskedKeepsItsMark) {
 TEST_F(BoardStore, AFailedSaveIsReportedAndLosesNothing) {
   fs::create_directories(path / "in the way");  // a folder where the file should be
   session.board.handChanged = true;
-  host.ExpectAskWith("Do you wish to try to continue?", Answer::Yes);
+  host.ExpectAskWith("Do you wish to try to continue?", Answer::Cancel);
   EXPECT_FALSE(SaveHand(session));
   EXPECT_TRUE(session.board.handChanged);
   EXPECT_FALSE(host.ended);

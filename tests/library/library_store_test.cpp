@@ -199,6 +199,10 @@ TEST_F(LibraryStore, PastesAFileByteForByte) {
   EXPECT_EQ(ReadFile(session.BoardPath(9)), text);
   EXPECT_TRUE(HasCards(session.board.hands));
 
+  fs::permissions(session.BoardPath(9), fs::perms::owner_read);
+  host.ExpectTellWith("is read only so the hand cannot be saved");
+  EXPECT_FALSE(PasteHand(session));
+  fs::permissions(session.BoardPath(9), fs::perms::owner_all);
   host.ExpectAsk("Do you wish to overwrite board 9\nwith board 5 from library: Club",
                  "Copy from Library Club: board 5\nto Library Club: board 9", Answer::No);
   EXPECT_FALSE(PasteHand(session));

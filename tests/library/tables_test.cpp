@@ -74,6 +74,23 @@ TEST_F(TablesTest, CancelKeepsWhatIsSolved) {
   EXPECT_EQ(AnalysisText(outcome), "4 tables have been computed\nAnalysis cancelled");
 }
 
+TEST_F(TablesTest, ReadOnlyBoardsAreLeftAndNamed) {
+  for (int number = 1; number <= 3; ++number) PutDeal(number);
+  const auto mark = [&](int number) {
+    std::filesystem::permissions(session.BoardPath(number), std::filesystem::perms::owner_read);
+  };
+  mark(2);
+  EXPECT_FALSE(StoreTable(session.BoardPath(2), Stored(2).hands, {}));
+  EXPECT_EQ(AnalysisText(AnalyseBoards(session, solver, 1, 9, false)),
+            "2 tables have been computed\nThe file\n" + PathText(session.BoardPath(2)) +
+                "\nis read only so the hand cannot be saved");
+  EXPECT_FALSE(Stored(2).makeableValid);
+  mark(3);
+  EXPECT_EQ(AnalysisText(AnalyseBoards(session, solver, 1, 9, true)),
+            "1 table has been computed\n"
+            "The files of boards 2, 3 are read only so the hands cannot be saved");
+}
+
 TEST_F(TablesTest, FailuresAreTold) {
   PutDeal(1);
   solver.failure = "Too many tables";
