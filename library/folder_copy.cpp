@@ -29,6 +29,15 @@ bool IsFolder(const fs::path& path) {
   return fs::is_directory(path, ignored);
 }
 
+/// The name under which a library has the board of the file `name`, which may have another ending
+/// in letter case; empty when it is that name already, or none of a board.
+std::string BoardNameFor(const std::string& name) {
+  constexpr std::size_t kDigits = 3;
+  const std::string board = name.substr(0, kDigits) + ".txt";
+  const bool meant = EqualNoCase(name, board) && BoardNumberOfFile(board) != 0;
+  return meant && name != board ? board : std::string();
+}
+
 /// A failure does not matter: the disk may know no such mark.
 void MarkReadOnly(const fs::path& file) {
   constexpr auto kWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
@@ -65,8 +74,8 @@ bool FoldersOverlap(const fs::path& a, const fs::path& b) {
 
 FolderCopy::FolderCopy(Host& host, fs::path into) : host_(host), into_(std::move(into)) {}
 
-void FolderCopy::Add(const fs::path& from, const std::string& name) {
-  items_.push_back({from, name, {}, {}});
+void FolderCopy::Add(const fs::path& from, const std::string& name, FileNames names) {
+  items_.push_back({from, name, names, {}, {}});
 }
 
 bool FolderCopy::Run() {
@@ -108,9 +117,21 @@ bool FolderCopy::List(Item& item) {
     throw Fault(FaultNumber::PathNotFound, "There is no folder " + PathText(item.from));
   }
   if (!ListFolder(item, {}, 0)) return false;
+  if (item.names == FileNames::OfBoards) NameAsBoards(item.files);
   CheckTarget(item);
   total_ += static_cast<int>(item.files.size());
   return true;
+}
+
+/// Only the folder itself holds boards, not the folders inside it.
+void FolderCopy::NameAsBoards(std::vector<File>& files) {
+  for (File& file : files) {
+    if (file.from.has_parent_path()) continue;
+    const fs::path board = PathFromText(BoardNameFor(PathText(file.from)));
+    const bool taken = std::any_of(files.begin(), files.end(),
+                                   [&board](const File& other) { return other.to == board; });
+    if (!board.empty() && !taken) file.to = board;
+  }
 }
 
 bool FolderCopy::ListFolder(Item& item, const fs::path& relative, int depth) {
@@ -130,7 +151,7 @@ bool FolderCopy::ListFolder(Item& item, const fs::path& relative, int depth) {
     if (fs::is_directory(status)) {
       inner.push_back(path);
     } else if (fs::is_regular_file(status)) {
-      item.files.push_back(path);
+      item.files.push_back({path, path});
     } else if (!gone) {
       ++leftOut_;
     }
@@ -154,15 +175,15 @@ void FolderCopy::CheckTarget(Item& item) const {
     if (folder.empty() || !fs::exists(status) || fs::is_directory(status)) continue;
     throw Fault(FaultNumber::PathFileAccess, "Not a folder: " + PathText(target / folder));
   }
-  for (const fs::path& file : item.files) {
+  for (const File& file : item.files) {
+    const fs::path to = target / file.to;
     std::error_code ignored;
-    if (!IsTaken(target / file)) continue;
-    if (!fs::is_regular_file(target / file, ignored)) {
-      throw Fault(FaultNumber::PathFileAccess, "Not a file: " + PathText(target / file));
+    if (!IsTaken(to)) continue;
+    if (!fs::is_regular_file(to, ignored)) {
+      throw Fault(FaultNumber::PathFileAccess, "Not a file: " + PathText(to));
     }
-    if (IsReadOnly(target / file)) {
-      throw Fault(FaultNumber::PermissionDenied,
-                  "The file is read only: " + PathText(target / file));
+    if (IsReadOnly(to)) {
+      throw Fault(FaultNumber::PermissionDenied, "The file is read only: " + PathText(to));
     }
   }
 }
@@ -196,14 +217,15 @@ bool FolderCopy::Stage(const Item& item) {
     ThrowIf(failure, made);
   }
   return std::all_of(item.files.begin(), item.files.end(),
-                     [&](const fs::path& file) { return StageFile(item, file); });
+                     [&](const File& file) { return StageFile(item, file); });
 }
 
-bool FolderCopy::StageFile(const Item& item, const fs::path& relative) {
-  const fs::path from = item.from / relative;
+bool FolderCopy::StageFile(const Item& item, const File& file) {
+  const fs::path from = item.from / file.from;
+  const fs::path to = Staged(item) / file.to;
   try {
-    if (!CopyWholeFile(from, Staged(item) / relative, [&] { return Step(item); })) return false;
-    if (IsReadOnly(from)) MarkReadOnly(Staged(item) / relative);
+    if (!CopyWholeFile(from, to, [&] { return Step(item); })) return false;
+    if (IsReadOnly(from)) MarkReadOnly(to);
   } catch (const Fault&) {
     // A file that another program has removed meanwhile is no failure; a whole folder is.
     if (IsTaken(from) || !IsFolder(from.parent_path())) throw;
@@ -236,11 +258,11 @@ void FolderCopy::Merge(const Item& item) {
     if (fs::create_directory(made, failure)) madeInside_.push_back(made);
     ThrowIf(failure, made);
   }
-  for (const fs::path& file : item.files) {
-    const fs::path target = Target(item) / file;
-    if (!IsTaken(Staged(item) / file)) continue;  // it had vanished
+  for (const File& file : item.files) {
+    const fs::path target = Target(item) / file.to;
+    if (!IsTaken(Staged(item) / file.to)) continue;  // it had vanished
     if (IsTaken(target)) KeepReplaced(target);
-    Put(Staged(item) / file, target);
+    Put(Staged(item) / file.to, target);
   }
 }
 

@@ -10,6 +10,14 @@
 
 namespace tricklet {
 
+/// What becomes of the names of the files in a folder that is copied.
+enum class FileNames : std::uint8_t {
+  Kept,
+  /// "001.TXT" becomes "001.txt", under which a library has its board; unless the folder holds that
+  /// file as well.
+  OfBoards,
+};
+
 /// Folders on their way into one folder. They are copied into a hidden folder there first, and
 /// put in their places when all is complete, so that nothing is ever left half.
 ///
@@ -22,7 +30,8 @@ class FolderCopy {
 
   /// The folder `from` will be `name` in `into`. Where that exists, its files stay but for those of
   /// the same names, which are replaced.
-  void Add(const std::filesystem::path& from, const std::string& name);
+  void Add(const std::filesystem::path& from, const std::string& name,
+           FileNames names = FileNames::Kept);
 
   /// Copies. False when the person cancelled; throws `Fault` on a failure. In both cases what was
   /// copied goes to the recycle bin and `into` is as it was.
@@ -32,12 +41,17 @@ class FolderCopy {
   int LeftOut() const { return leftOut_; }
 
  private:
-  /// Paths are relative to the folder; a folder comes before what it holds.
+  struct File {
+    std::filesystem::path from;
+    std::filesystem::path to;
+  };
+  /// Paths inside are relative to the folder; a folder comes before what it holds.
   struct Item {
     std::filesystem::path from;
     std::string name;
+    FileNames names = FileNames::Kept;
     std::vector<std::filesystem::path> folders;
-    std::vector<std::filesystem::path> files;
+    std::vector<File> files;
     bool exists = false;  ///< `into` already has a folder of the name
   };
   /// What was put somewhere, and where it goes when the copy is undone.
@@ -51,10 +65,11 @@ class FolderCopy {
   bool Step(const Item& item);
   bool List(Item& item);
   bool ListFolder(Item& item, const std::filesystem::path& relative, int depth);
+  static void NameAsBoards(std::vector<File>& files);
   void CheckTarget(Item& item) const;
   void MakeStaging();
   bool Stage(const Item& item);
-  bool StageFile(const Item& item, const std::filesystem::path& relative);
+  bool StageFile(const Item& item, const File& file);
   void PutInPlace();
   void Merge(const Item& item);
   void KeepReplaced(const std::filesystem::path& file);

@@ -126,7 +126,8 @@ bool ImportLibraryFrom(Session& session, const fs::path& folder) {
   const fs::path from = FolderNamed(folder);
   const std::string name = PathText(from.filename());
   if (!RequireFolder(session, from) || !AcceptImport(session, from) ||
-      !CopyLibraryFolder(session, from, FolderNamed(session.FileLocation()), name)) {
+      !CopyLibraryFolder(session, from, FolderNamed(session.FileLocation()), name,
+                         {.files = FileNames::OfBoards})) {
     return false;
   }
   session.libraryNames = FoldersOf(session.FileLocation());
@@ -152,7 +153,7 @@ bool ImportLibrariesFrom(Session& session, const fs::path& folder) {
   }
   if (!AskToChoose(session, QuestionText(groups, from)) ||
       !CopyLibraries(session, from, groups.toCopy, FolderNamed(session.FileLocation()),
-                     Unsaved::Stay)) {
+                     {Unsaved::Stay, FileNames::OfBoards})) {
     return false;
   }
   session.host.Tell(ReportText(groups));

@@ -71,8 +71,7 @@ bool CopyAll(Session& session, const std::vector<std::string>& names, const fs::
                       PathText(folder));
     return false;
   }
-  return MayOverwrite(session, names, folder) &&
-         CopyLibraries(session, root, names, folder, Unsaved::Settled);
+  return MayOverwrite(session, names, folder) && CopyLibraries(session, root, names, folder, {});
 }
 
 bool ExportAll(Session& session, const fs::path& folder) {
@@ -131,7 +130,7 @@ bool ExportLibraryTo(Session& session, const fs::path& folder) {
               "That folder already exists\nDo you wish to overwrite any existing boards?")) {
     return false;
   }
-  return CopyLibraryFolder(session, session.LibraryPath(), into, session.LibraryName());
+  return CopyLibraryFolder(session, session.LibraryPath(), into, session.LibraryName(), {});
 }
 
 bool ExportLibraries(Session& session) {
@@ -167,7 +166,7 @@ bool CopyLibrary(Session& session, std::string_view name) {
   const std::string trimmed(Trim(name));
   if (!AcceptNewName(session, trimmed)) return false;
   if (!CopyLibraryFolder(session, session.LibraryPath(), FolderNamed(session.FileLocation()),
-                         trimmed)) {
+                         trimmed, {})) {
     return false;
   }
   RefreshLibraryNames(session);

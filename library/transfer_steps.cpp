@@ -26,13 +26,14 @@ bool MayCopy(Session& session, const Pair& pair) {
   return false;
 }
 
-bool Copy(Session& session, const std::vector<Pair>& pairs, const fs::path& into, Unsaved unsaved) {
+bool Copy(Session& session, const std::vector<Pair>& pairs, const fs::path& into,
+          CopyManner manner) {
   FolderCopy copy(session.host, into);
   for (const Pair& pair : pairs) {
     if (!MayCopy(session, pair)) return false;
-    copy.Add(pair.from, pair.name);
+    copy.Add(pair.from, pair.name, manner.files);
   }
-  if (unsaved == Unsaved::Settled && !SettleChanges(session)) return false;
+  if (manner.unsaved == Unsaved::Settled && !SettleChanges(session)) return false;
   try {
     if (!copy.Run()) {
       session.host.Tell("Copying cancelled");
@@ -69,16 +70,16 @@ bool AskToChoose(Session& session, const std::string& text) {
 }
 
 bool CopyLibraries(Session& session, const fs::path& from, const std::vector<std::string>& names,
-                   const fs::path& to, Unsaved unsaved) {
+                   const fs::path& to, CopyManner manner) {
   std::vector<Pair> pairs;
   pairs.reserve(names.size());
   for (const std::string& name : names) pairs.push_back({from / PathFromText(name), to, name});
-  return Copy(session, pairs, to, unsaved);
+  return Copy(session, pairs, to, manner);
 }
 
 bool CopyLibraryFolder(Session& session, const fs::path& from, const fs::path& to,
-                       const std::string& name) {
-  return Copy(session, {{from, to, name}}, to, Unsaved::Settled);
+                       const std::string& name, CopyManner manner) {
+  return Copy(session, {{from, to, name}}, to, manner);
 }
 
 }  // namespace tricklet

@@ -12,14 +12,15 @@
 
 namespace tricklet {
 
-/// The folder browser, at the parent folder of the library root.
+/// The folder that the person chooses, as `FolderNamed` gives it; nothing when none was chosen. The
+/// browser begins at the parent folder of the library root.
 std::optional<std::filesystem::path> BrowseFolder(Session& session, const std::string& title);
 
 /// `folder` as an absolute path without a separator at its end (but for a drive's). Throws `Fault`
 /// when it is empty.
 std::filesystem::path FolderNamed(const std::filesystem::path& folder);
 
-/// OK to a text that announces the folder browser.
+/// The person says OK to a text that announces what is to be chosen or done.
 bool AskToChoose(Session& session, const std::string& text);
 
 /// What becomes of unsaved changes before a copy, once nothing speaks against it any more.
@@ -28,13 +29,19 @@ enum class Unsaved : std::uint8_t {
   Settled,  ///< what is copied is what is stored
 };
 
-/// Copies the folders `names` of `from` into `to`; false, reported, when that is refused, failed or
-/// was cancelled and has been undone.
+/// How folders are copied.
+struct CopyManner {
+  Unsaved unsaved = Unsaved::Settled;
+  FileNames files = FileNames::Kept;
+};
+
+/// Copies the folders `names` of `from` into `to`. False when that was refused, failed or was
+/// cancelled, which is told or reported; what was copied has then been undone.
 bool CopyLibraries(Session& session, const std::filesystem::path& from,
                    const std::vector<std::string>& names, const std::filesystem::path& to,
-                   Unsaved unsaved);
-/// The same for one folder, under another name; unsaved changes are settled.
+                   CopyManner manner);
+/// Copies the folder `from` into `to`, where its name is `name`. False as `CopyLibraries`.
 bool CopyLibraryFolder(Session& session, const std::filesystem::path& from,
-                       const std::filesystem::path& to, const std::string& name);
+                       const std::filesystem::path& to, const std::string& name, CopyManner manner);
 
 }  // namespace tricklet

@@ -29,6 +29,29 @@ TEST_F(LibraryImport, ImportsALibraryAndMakesItCurrent) {
   EXPECT_TRUE(fs::exists(Other() / place / "002.txt"));
 }
 
+TEST_F(LibraryImport, WhatCountsAsABoardIsListed) {
+  for (const char* library : {"Old", "Older"}) {
+    for (const char* name : {"001.TXT", "002.Txt", "002.txt", "LIN.TXT", "more/003.TXT"}) {
+      WriteFile(Other() / "from" / library / name, test::OneSuitEachText() + name);
+    }
+  }
+  EXPECT_TRUE(ImportLibraryFrom(session, Other() / "from" / "Old"));
+  host.ExpectAskWith("1 of the libraries in", Answer::OK);
+  host.ExpectTell("1 library has been copied");
+  EXPECT_TRUE(ImportLibrariesFrom(session, Other() / "from"));
+  for (const char* library : {"Old", "Older"}) {
+    const fs::path copy = Root() / library;
+    EXPECT_TRUE(ReadFile(copy / "001.txt").ends_with("001.TXT"));
+    EXPECT_FALSE(fs::exists(copy / "001.TXT"));
+    EXPECT_TRUE(ReadFile(copy / "002.txt").ends_with("002.txt"));
+    for (const char* name : {"002.Txt", "LIN.TXT", "more/003.TXT"}) {
+      EXPECT_TRUE(fs::exists(copy / name)) << name;
+    }
+  }
+  EXPECT_EQ(session.library.boardCount, 2);
+  EXPECT_TRUE(ExportLibraryTo(session, Other()));
+}
+
 TEST_F(LibraryImport, RefusesToImportWhatIsNoNewLibrary) {
   WriteFile(Other() / "CLUB" / "001.txt", "x");
   WriteFile(Other() / "Texts" / "notes.txt", "x");
