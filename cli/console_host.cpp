@@ -30,7 +30,7 @@ std::optional<Answer> FromLine(const std::string& line, Buttons buttons) {
   if (yesNo && (c == 'y' || c == 'Y')) return Answer::Yes;
   if (yesNo && (c == 'n' || c == 'N')) return Answer::No;
   if (!yesNo && (c == 'o' || c == 'O' || c == 'y' || c == 'Y')) return Answer::OK;
-  if (CautiousAnswer(buttons) == Answer::Cancel && (c == 'c' || c == 'C')) return Answer::Cancel;
+  if (OffersCancel(buttons) && (c == 'c' || c == 'C')) return Answer::Cancel;
   return std::nullopt;
 }
 
@@ -54,13 +54,16 @@ Answer ConsoleHost::Ask(const std::string& text, const std::string& /*title*/, B
     return FromOption(*options_.answer, buttons);
   }
   if (!options_.terminal) {
-    messages_ << " no (--yes or --no answers this)\n";
-    return CautiousAnswer(buttons);
+    messages_ << " no answer (--yes or --no gives one)\n";
+    return Answer::Cancel;
   }
   std::string line;
   for (;;) {
     messages_ << Choices(buttons) << std::flush;
-    if (!std::getline(in_, line)) return CautiousAnswer(buttons);
+    if (!std::getline(in_, line)) {
+      messages_ << '\n';
+      return Answer::Cancel;
+    }
     if (const auto answer = FromLine(line, buttons)) return *answer;
   }
 }

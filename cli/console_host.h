@@ -36,10 +36,13 @@ class ConsoleHost : public Host {
   bool Step(const std::string& text, int done, int total) override;
   void BeginWork() override {}
   void EndWork() override;
+  void FailureReported() override { failed_ = true; }
   void EndProgram() override { ended_ = true; }
 
   /// The program is to end: no further command is carried out.
   bool Ended() const { return ended_; }
+  /// A failure has been reported: the command has not been carried out in full.
+  bool Failed() const { return failed_; }
 
  private:
   std::istream& in_;
@@ -49,6 +52,7 @@ class ConsoleHost : public Host {
   std::chrono::steady_clock::time_point lastDrawn_;
   bool barShown_ = false;
   bool ended_ = false;
+  bool failed_ = false;
 };
 
 }  // namespace tricklet::cli

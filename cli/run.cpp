@@ -74,7 +74,7 @@ int Execute(const Command& command, const Arguments& arguments, SettingsStore& s
   session.getSolver = console.solver;
   try {
     const ExitCode code = command({session, console.data, !arguments.root.empty()}, host);
-    return static_cast<int>(host.Ended() ? ExitCode::Refused : code);
+    return static_cast<int>(host.Ended() || host.Failed() ? ExitCode::Refused : code);
   } catch (const std::exception& failure) {
     ErrorReport(host, FaultFrom(failure));
     return static_cast<int>(ExitCode::Refused);

@@ -38,6 +38,7 @@ void ErrorReport(Host& host, const Fault& fault) {
   const std::string text = fault.Description() + "\nError no. " +
                            std::to_string(static_cast<int>(fault.Number())) + "\nLine " +
                            std::to_string(fault.Line()) + "\nDo you wish to try to continue?";
+  host.FailureReported();
   if (host.Ask(text, std::string(kProgramName), Buttons::YesNo) == Answer::No) host.EndProgram();
 }
 

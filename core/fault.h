@@ -46,7 +46,7 @@ class Fault : public std::exception {
 };
 
 /// The shared error report: shows the failure and asks "Do you wish to try to continue?". On No the
-/// program is ended through `host`; either way the caller returns to its own clean-up.
+/// program is ended through `host`; whatever the answer, the caller returns to its own clean-up.
 void ErrorReport(Host& host, const Fault& fault);
 
 /// The fault that stands for any other exception, which does not know its line: that of the caller.

@@ -20,10 +20,9 @@ enum class Buttons {
 };
 enum class Answer { Yes, No, OK, Cancel };
 
-/// What is answered for a person who does not answer: No where there is no Cancel.
-constexpr Answer CautiousAnswer(Buttons buttons) {
-  const bool cancel = buttons == Buttons::YesNoCancel || buttons == Buttons::OKCancel;
-  return cancel ? Answer::Cancel : Answer::No;
+/// A question with these buttons can be answered with Cancel.
+constexpr bool OffersCancel(Buttons buttons) {
+  return buttons == Buttons::YesNoCancel || buttons == Buttons::OKCancel;
 }
 
 /// What a file chooser offers.
@@ -44,7 +43,9 @@ class Host {
   virtual void Tell(const std::string& text, const std::string& title) = 0;
   void Tell(const std::string& text) { Tell(text, std::string(kProgramName)); }
 
-  /// One of the answers that `buttons` offers; the cautious one when the person does not answer.
+  /// One of the answers that `buttons` offers. Cancel too, whatever they offer, when nobody
+  /// answered: the question was closed or abandoned, or there is nobody to ask. No is only what was
+  /// said.
   virtual Answer Ask(const std::string& text, const std::string& title, Buttons buttons) = 0;
 
   virtual void Beep() = 0;
@@ -68,6 +69,8 @@ class Host {
   virtual void BeginWork() = 0;
   virtual void EndWork() = 0;
 
+  /// A failure has been reported to the person: what is under way has not been done in full.
+  virtual void FailureReported() {}
   /// Ends the program as soon as the running procedure has returned.
   virtual void EndProgram() = 0;
 };

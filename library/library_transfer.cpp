@@ -47,9 +47,10 @@ std::optional<fs::path> BrowseRoot(Session& session) {
   }
 }
 
-bool AskToCopyAll(Session& session, const fs::path& folder) {
-  return AskYes(session, "Do you want to copy all your libraries from\n" +
-                             session.settings.filelocation + "\nto " + PathText(folder));
+Answer AskToCopyAll(Session& session, const fs::path& folder) {
+  return session.host.Ask("Do you want to copy all your libraries from\n" +
+                              session.settings.filelocation + "\nto " + PathText(folder),
+                          std::string(kProgramName), Buttons::YesNo);
 }
 
 /// Libraries that are there already keep their boards unless the person agrees.
@@ -75,7 +76,7 @@ bool CopyAll(Session& session, const std::vector<std::string>& names, const fs::
 }
 
 bool ExportAll(Session& session, const fs::path& folder) {
-  if (!AskToCopyAll(session, folder)) return false;
+  if (AskToCopyAll(session, folder) != Answer::Yes) return false;
   const std::vector<std::string> names = RequireLibraries(session);
   return !names.empty() && CopyAll(session, names, folder);
 }
@@ -100,11 +101,20 @@ bool SwitchRoot(Session& session, const fs::path& folder) {
   return true;
 }
 
+/// Copies the libraries if the person wants it; false when the root is not to move.
+bool PrepareMove(Session& session, const fs::path& folder) {
+  switch (AskToCopyAll(session, folder)) {
+    case Answer::Yes:
+      return CopyAll(session, FoldersOf(session.FileLocation()), folder);
+    case Answer::No:
+      return SettleChanges(session);
+    default:
+      return false;
+  }
+}
+
 bool Move(Session& session, const fs::path& folder) {
-  const bool ready = AskToCopyAll(session, folder)
-                         ? CopyAll(session, FoldersOf(session.FileLocation()), folder)
-                         : SettleChanges(session);
-  return ready && SwitchRoot(session, folder);
+  return PrepareMove(session, folder) && SwitchRoot(session, folder);
 }
 
 }  // namespace

@@ -25,7 +25,8 @@ bool ExportLibraries(Session& session);
 bool ExportLibrariesTo(Session& session, const std::filesystem::path& folder);
 
 /// `mnuMoveLibraries`: another folder becomes the library root, after all libraries were copied
-/// there if the person wants it. The old root stays as it is.
+/// there if the person wants it. Without an answer to that, nothing is done. The old root stays as
+/// it is.
 bool MoveLibraries(Session& session);
 bool MoveLibrariesTo(Session& session, const std::filesystem::path& folder);
 

@@ -67,6 +67,14 @@ TEST_F(LibraryCommand, CopiesExportsImportsAndMoves) {
   EXPECT_EQ(Run({"--yes", "import", "--all", Text("in")}), 0);
   EXPECT_NE(err.find("1 library has been copied\n"), std::string::npos);
 
+  EXPECT_EQ(Run({"move", Text("moved")}), 1) << "nobody said whether to copy";
+  EXPECT_NE(err.find(" no answer (--yes or --no gives one)\n"), std::string::npos);
+  EXPECT_EQ(store.Read("macro", "filelocation"), FolderText(Root()));
+  EXPECT_FALSE(fs::exists(folder.Path() / "moved"));
+  EXPECT_EQ(Run({"--no", "move", Text("empty")}), 0);
+  EXPECT_EQ(store.Read("macro", "filelocation"), FolderText(folder.Path() / "empty"));
+  store.Write("macro", "filelocation", FolderText(Root()));
+
   EXPECT_EQ(Run({"--yes", "move", Text("moved")}), 0);
   EXPECT_EQ(store.Read("macro", "filelocation"), FolderText(folder.Path() / "moved"));
   EXPECT_TRUE(fs::exists(folder.Path() / "moved" / "Newer"));

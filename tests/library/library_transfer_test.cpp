@@ -153,6 +153,9 @@ TEST_F(LibraryTransfer, ACopyThatFailsOrIsCancelledLeavesNothing) {
 
 TEST_F(LibraryTransfer, MovingIsACopyAndASwitchOfTheRoot) {
   session.copyLibrary = "Club";
+  ExpectCopyQuestion(Answer::Cancel);
+  EXPECT_FALSE(MoveLibrariesTo(session, Other())) << "no answer is not No";
+  ExpectNothingChanged();
   host.ExpectAsk("Your library of hands is currently stored in the folder:\n" + RootText() +
                      "\nPlease choose a different folder (new or existing)",
                  "Tricklet", Answer::OK);

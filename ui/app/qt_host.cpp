@@ -58,23 +58,20 @@ Answer QtHost::Ask(const std::string& text, const std::string& title, Buttons bu
   box.setIcon(QMessageBox::Question);
   switch (buttons) {
     case Buttons::YesNo:
-      box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-      box.setEscapeButton(QMessageBox::No);
-      break;
     case Buttons::NoYes:
-      box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-      box.setDefaultButton(QMessageBox::No);
-      box.setEscapeButton(QMessageBox::No);
+      // A button that is not shown takes Escape and the closing of the box, which are not "No".
+      box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+      box.button(QMessageBox::Cancel)->hide();
+      if (buttons == Buttons::NoYes) box.setDefaultButton(QMessageBox::No);
       break;
     case Buttons::YesNoCancel:
       box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
-      box.setEscapeButton(QMessageBox::Cancel);
       break;
     case Buttons::OKCancel:
       box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
-      box.setEscapeButton(QMessageBox::Cancel);
       break;
   }
+  box.setEscapeButton(QMessageBox::Cancel);
   switch (box.exec()) {
     case QMessageBox::Yes:
       return Answer::Yes;
@@ -83,7 +80,7 @@ Answer QtHost::Ask(const std::string& text, const std::string& title, Buttons bu
     case QMessageBox::No:
       return Answer::No;
     default:
-      return CautiousAnswer(buttons);
+      return Answer::Cancel;
   }
 }
 

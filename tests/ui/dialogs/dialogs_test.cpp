@@ -1,4 +1,6 @@
 // The message boxes of the window's host, and the dialogs.
+#include <algorithm>
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -22,31 +24,44 @@ class DialogsTest : public test::LibraryTest {
   static void Click(const QWidget& dialog, const char* name) {
     dialog.findChild<QAbstractButton*>(QString::fromLatin1(name))->click();
   }
+  static std::ptrdiff_t Visible(const QMessageBox& box) {
+    const QList<QAbstractButton*> all = box.buttons();
+    return std::count_if(all.begin(), all.end(), [](auto* each) { return each->isVisible(); });
+  }
 };
 
-TEST_F(DialogsTest, EscapeIsTheCautiousAnswerAndTextsAreNoMarkup) {
+TEST_F(DialogsTest, LeavingAQuestionIsNoAnswerAndTextsAreNoMarkup) {
   const struct {
     Buttons buttons;
     Qt::Key key;
     Answer answer;
   } cases[] = {
-      {Buttons::YesNo, Qt::Key_Escape, Answer::No},
+      {Buttons::YesNo, Qt::Key_Escape, Answer::Cancel},
+      {Buttons::YesNo, Qt::Key_Close, Answer::Cancel},
+      {Buttons::YesNo, Qt::Key_No, Answer::No},
       {Buttons::YesNoCancel, Qt::Key_Escape, Answer::Cancel},
       {Buttons::OKCancel, Qt::Key_Escape, Answer::Cancel},
       {Buttons::YesNo, Qt::Key_Return, Answer::Yes},
-      {Buttons::NoYes, Qt::Key_Escape, Answer::No},
+      {Buttons::NoYes, Qt::Key_Escape, Answer::Cancel},
       {Buttons::NoYes, Qt::Key_Return, Answer::No},
       {Buttons::YesNoCancel, Qt::Key_Return, Answer::Yes},
       {Buttons::OKCancel, Qt::Key_Return, Answer::OK},
   };
   QtHost asking;
   for (const auto& [buttons, key, answer] : cases) {
-    Later(qApp, [pressed = key] {
+    Later(qApp, [pressed = key, buttons = buttons] {
       auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
       ASSERT_NE(box, nullptr);
       EXPECT_EQ(box->textFormat(), Qt::PlainText);
       EXPECT_EQ(box->text(), QStringLiteral("<b>Club\uFFFD"));
-      QTest::keyClick(box, pressed);
+      EXPECT_EQ(Visible(*box), buttons == Buttons::YesNoCancel ? 3 : 2);
+      if (pressed == Qt::Key_Close) {
+        box->close();
+      } else if (pressed == Qt::Key_No) {
+        box->button(QMessageBox::No)->click();
+      } else {
+        QTest::keyClick(box, pressed);
+      }
     });
     EXPECT_EQ(asking.Ask("<b>Club\xFF", "Title", buttons), answer);
   }
