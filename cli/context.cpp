@@ -30,8 +30,7 @@ bool OpenLibrary(const Context& context, bool create) {
   } else {
     if (!AcceptLibraryName(session.host, session.LibraryName())) return false;
     if (!fs::is_directory(session.LibraryPath(), ignored)) {
-      session.host.Tell("There is no library " + session.LibraryName() + " in " +
-                        session.settings.filelocation);
+      TellNoLibrary(session, session.LibraryName());
       return false;
     }
   }

@@ -54,6 +54,14 @@ void MakeStoredLibraryAgain(Session& session) {
   if (HasAllowedCharacters(name)) fs::create_directory(session.LibraryPath(), ignored);
 }
 
+/// Without the library that was asked for there is no reason to make another.
+void ChooseNamedLibrary(Session& session, const std::string& named) {
+  const fs::path root = session.FileLocation();
+  const std::string meant = NameMeant(FoldersOf(root), named);
+  if (meant.empty()) TellNoLibrary(session, named);
+  session.settings.library = meant.empty() ? LibraryOfRoot(root, session.LibraryName()) : meant;
+}
+
 }  // namespace
 
 std::string VersionText() {
@@ -77,7 +85,7 @@ void ShowNotice(Session& session) {
       "Click Help > New Features to see details of the latest changes\n\n"
       "Do you want to see this message next time Tricklet starts?",
       std::string(kProgramName), Buttons::YesNo);
-  if (again == Answer::Yes) return;
+  if (again != Answer::No) return;
   session.settings.showMessage = VersionNumber();
   SaveSetting(session, &Settings::showMessage);
 }
@@ -88,9 +96,13 @@ std::string LibraryOfRoot(const fs::path& root, const std::string& stored) {
   return std::find(names.begin(), names.end(), stored) != names.end() ? stored : names.front();
 }
 
-bool OpenLibraries(Session& session) {
+bool OpenLibraries(Session& session, const std::string& named) {
   if (!FolderExists(session.FileLocation()) && !ChooseLibraryRoot(session)) return false;
-  MakeStoredLibraryAgain(session);
+  if (named.empty()) {
+    MakeStoredLibraryAgain(session);
+  } else {
+    ChooseNamedLibrary(session, named);
+  }
   GetLibraryNames(session);
   return true;
 }

@@ -17,8 +17,8 @@ int VersionNumber();
 /// What the start dialog says of updates.
 std::string UpdateText(const Settings& settings);
 
-/// Shows the notice of new features when this version's has not been seen, and remembers when the
-/// person does not want it again.
+/// Shows the notice of new features when this version's has not been seen, and stores that it has
+/// when the person says that he does not want it again.
 void ShowNotice(Session& session);
 
 /// The library to open in a root other than the stored one: of the stored name where the root has
@@ -26,8 +26,9 @@ void ShowNotice(Session& session);
 std::string LibraryOfRoot(const std::filesystem::path& root, const std::string& stored);
 
 /// Makes sure that the library root and the current library exist (asking for a root when there is
-/// none), lists libraries and boards and loads board 1. False when no root was chosen: the program
-/// ends then.
-bool OpenLibraries(Session& session);
+/// none), lists libraries and boards and loads board 1. `named` is the library that was asked for,
+/// in whatever letter case, if any: it is not made when the root does not have it, but told, and
+/// the current or the first library opens. False when no root was chosen: the program ends then.
+bool OpenLibraries(Session& session, const std::string& named = {});
 
 }  // namespace tricklet

@@ -67,6 +67,28 @@ TEST_F(StartUp, WhereAStoredLibraryCannotBeMadeAgainTheFirstIsOpened) {
   }
 }
 
+TEST_F(StartUp, ALibraryThatIsAskedForIsNotMade) {
+  fs::create_directory(folder.Path() / "\u00c9t\u00e9");
+  const struct {
+    const char* stored;
+    const char* asked;
+    const char* opened;
+  } kCases[] = {{"Club", "\u00e9t\u00e9", "\u00c9t\u00e9"},
+                {"\u00c9t\u00e9", "Clubb", "\u00c9t\u00e9"},
+                {"Gone", "../Club", "Club"},
+                {"Gone", "Gone", "Club"}};
+  for (const auto& c : kCases) {
+    session.settings.library = c.stored;
+    if (*c.asked != '\xc3') {
+      host.ExpectTell("There is no library " + std::string(c.asked) + " in " +
+                      session.settings.filelocation);
+    }
+    EXPECT_TRUE(OpenLibraries(session, c.asked));
+    EXPECT_EQ(session.LibraryName(), c.opened) << c.asked;
+    EXPECT_EQ(session.libraryNames, (std::vector<std::string>{"Club", "\u00c9t\u00e9"}));
+  }
+}
+
 TEST_F(StartUp, ARootThatGoesLaterIsNotMadeAnew) {
   EXPECT_TRUE(OpenLibraries(session));
   fs::remove_all(session.FileLocation());
@@ -79,6 +101,8 @@ TEST_F(StartUp, ARootThatGoesLaterIsNotMadeAnew) {
 TEST_F(StartUp, TheNoticeComesUntilItIsNotWantedAnyMore) {
   const std::string part = "Do you want to see this message next time Tricklet starts?";
   host.ExpectAskWith(part, Answer::Yes);
+  ShowNotice(session);
+  host.ExpectAskWith(part, Answer::Cancel);
   ShowNotice(session);
   EXPECT_FALSE(store.Read("Tricklet", "ShowMessage"));
   host.ExpectAskWith(part, Answer::No);

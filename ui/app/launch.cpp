@@ -101,16 +101,16 @@ void ReadSize(const QString& text, LaunchOptions& options) {
   options.error = QCoreApplication::translate("Launch", "Not a size: %1").arg(text);
 }
 
-/// Asks nobody: every question has its cautious answer, and messages go to the error output.
+/// Asks nobody, so that no question has an answer; messages go to the error output.
 class SilentHost : public QtHost {
  public:
   using Host::Tell;
   void Tell(const std::string& text, const std::string& /*title*/) override {
     std::fprintf(stderr, "%s\n", text.c_str());
   }
-  Answer Ask(const std::string& text, const std::string& title, Buttons buttons) override {
+  Answer Ask(const std::string& text, const std::string& title, Buttons /*buttons*/) override {
     Tell(text, title);
-    return CautiousAnswer(buttons);
+    return Answer::Cancel;
   }
   void Beep() override {}
   std::optional<std::filesystem::path> ChooseFolder(
@@ -146,12 +146,12 @@ int RunSession(Application& application, const LaunchOptions& options, Session& 
                QtHost& host) {
   const bool pictureOnly = !options.screenshot.isEmpty();
   ApplyColourScheme(application, session.settings.colourScheme);
+  if (!pictureOnly) ShowNotice(session);
   if (!pictureOnly && !session.settings.autoLaunch) {
     frmStart start(session);
     if (start.exec() != QDialog::Accepted) return 0;
   }
-  if (!pictureOnly) ShowNotice(session);
-  if (!OpenLibraries(session)) return 1;
+  if (!OpenLibraries(session, FromQt(options.library))) return 1;
   if (host.HasEnded()) return 0;
   if (options.board != 0) SelectBoard(session, options.board);
   MainWindow window(session);
@@ -196,7 +196,6 @@ int Launch(Application& application, const LaunchOptions& options, SettingsStore
     overlay.Name("filelocation", FolderText(root));
     overlay.Name("library", LibraryOfRoot(root, LoadSettings(store).library));
   }
-  if (!options.library.isEmpty()) overlay.Name("library", FromQt(options.library));
 
   QtHost asking;
   SilentHost silent;

@@ -131,7 +131,8 @@ QWidget* frmOptions::StartPage() {
   auto* page = new QWidget(this);
   QVBoxLayout* column = MakePage(page);
   AddCheck(column, "AutoLaunch", tr("Open the main window at once"), &Settings::autoLaunch);
-  AddCheck(column, "AutoUpdate", tr("Look for a newer version at start"), &Settings::autoUpdate);
+  AddCheck(column, "AutoUpdate", tr("Check for updates at start (not available yet)"),
+           &Settings::autoUpdate);
   AddCheck(column, "AutoMakeable", tr("Compute a missing makeable table"), &Settings::autoMakeable);
   AddCheck(column, "ShowBestCards", tr("In play, the tricks that each card leads to"),
            &Settings::showBestCards);

@@ -103,7 +103,10 @@ void LibraryPane::BuildLibrary(Session& session) {
 
   connect(cmbLibs, &QComboBox::activated, this, &LibraryPane::LibraryChosen);
   connect(cmbLibs->lineEdit(), &QLineEdit::textChanged, this, &LibraryPane::NameTyped);
-  connect(cmbLibs->lineEdit(), &QLineEdit::returnPressed, cmdChange, &QPushButton::click);
+  connect(cmbLibs->lineEdit(), &QLineEdit::returnPressed, this, &LibraryPane::TakeName);
+  connect(cmbLibs->lineEdit(), &QLineEdit::editingFinished, this, [this] {
+    if (!cmdChange->isEnabled()) ShowNames(session_);
+  });
   connect(cmdChange, &QPushButton::clicked, this,
           [this] { emit LibraryNamed(cmbLibs->currentText()); });
 
@@ -201,6 +204,16 @@ void LibraryPane::ShowNames(const Session& session) {
 void LibraryPane::BeginNewLibrary() {
   cmbLibs->setFocus(Qt::ShortcutFocusReason);
   cmbLibs->clearEditText();
+}
+
+/// A new name makes a library; that of another library, in whatever letter case, chooses it.
+void LibraryPane::TakeName() {
+  const int index = LibraryIndex(session_, FromQt(cmbLibs->currentText()));
+  if (cmdChange->isEnabled()) {
+    cmdChange->click();
+  } else if (index >= 0 && index != session_.libIndex) {
+    emit LibraryChosen(index);
+  }
 }
 
 void LibraryPane::NameTyped(const QString& text) {

@@ -47,6 +47,7 @@ class LibraryPane : public QWidget {
   void BuildLibrary(Session& session);
   void BuildBoard();
   void ShowNames(const Session& session);
+  void TakeName();
   void NameTyped(const QString& text);
 
   const Session& session_;

@@ -62,6 +62,14 @@ TEST_F(MainWindowTest, RefusesCharactersInALibraryNameAndCreatesTheLibrary) {
   FocusKey(Qt::Key_Escape);
   EXPECT_EQ(libraries->currentText(), QStringLiteral("Club"));
 
+  Type("cmbLibs", "TEACHING");
+  FocusKey(Qt::Key_Return);
+  EXPECT_EQ(session.LibraryName(), "Teaching");
+  EXPECT_EQ(libraries->currentText(), QStringLiteral("Teaching"));
+  Type("cmbLibs", "tEACHING");
+  Find<QWidget>("cmbBoard")->setFocus();
+  EXPECT_EQ(libraries->currentText(), QStringLiteral("Teaching")) << "nothing is left standing";
+
   Type("cmbLibs", "Autumn");
   Click("cmdChange");
   EXPECT_EQ(session.LibraryName(), "Autumn");
