@@ -17,10 +17,10 @@ struct Context {
 
 enum class ExitCode : int { Done = 0, Refused = 1, Usage = 2 };
 
-/// The library root must be there, and be none of a drive; else says so and is false.
+/// The library root exists and is not a drive; tells why not when this is false.
 bool RootExists(const Context& context);
 
-/// The current library must be there; else says so and is false. `create` makes it instead, and a
+/// The current library exists; tells when it does not. `create` makes it when it is missing, and a
 /// root that was named for this call.
 bool OpenLibrary(const Context& context, bool create);
 

@@ -1,4 +1,4 @@
-// The board record: everything that the program knows of the board in hand.
+// The board record: everything that the program knows of one board.
 #pragma once
 
 #include <cstdint>

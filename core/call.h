@@ -76,8 +76,8 @@ class CallList {
   /// The text of the call at `index`, 0..Count() - 1; of an unread call the whole of what stood in
   /// its place.
   std::string TextAt(int index) const;
-  /// The same, fit to be shown: an unread call without control characters, and with "..." after 16
-  /// bytes.
+  /// The text of the call at `index`, fit to be shown: an unread one has blanks for its control
+  /// characters, and "..." after 16 bytes.
   std::string ShownAt(int index) const;
   constexpr Call operator[](int index) const { return calls_.at(static_cast<std::size_t>(index)); }
   constexpr const Call* begin() const { return calls_.data(); }

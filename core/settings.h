@@ -45,9 +45,9 @@ struct FontSetting {
 struct Settings {
   std::string filelocation;  ///< library root, ending in the platform's separator; UTF-8
   std::string library;       ///< current library
-  bool cardsFaces = false;   ///< hands as card faces; else as text
+  bool cardsFaces = false;   ///< hands as card faces, not as text
   CardDesign cardDesign = CardDesign::IndexAndSymbol;
-  bool suitColour = false;  ///< four suit colours; else red and black
+  bool suitColour = false;  ///< four suit colours, not red and black
   double suitFontSize = 0;  ///< points
   bool captionPlayer = false;
   bool captionnCards = false;
@@ -61,7 +61,7 @@ struct Settings {
   bool showBestCards = false;  ///< in play, the tricks that each card leads to
   bool showStats = false;
   bool showMakeable = false;
-  bool makeableContract = false;  ///< makeable pane shows contracts; else tricks
+  bool makeableContract = false;  ///< makeable pane shows contracts, not tricks
   bool pbnBids = false;           ///< PBN export writes the auction
   bool pbnShark = false;          ///< PBN export writes a result tag and a board comment
   EditMethod editMethod = EditMethod::Dragging;

@@ -236,13 +236,13 @@ bool CopyWholeFile(const fs::path& from, const fs::path& to, const std::function
 
 bool IsTaken(const fs::path& path) {
   std::error_code ignored;
-  return fs::exists(fs::symlink_status(path, ignored));
+  return fs::symlink_status(path, ignored).type() != fs::file_type::not_found;
 }
 
 bool FileExists(const fs::path& path) {
   std::error_code ignored;
   const fs::file_status status = fs::status(path, ignored);
-  return fs::exists(status) && !fs::is_directory(status);
+  return status.type() != fs::file_type::not_found && !fs::is_directory(status);
 }
 
 bool IsReadOnly(const fs::path& path) {

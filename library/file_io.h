@@ -24,15 +24,15 @@ void ReplaceWholeFile(const std::filesystem::path& path, std::string_view data);
 bool CopyWholeFile(const std::filesystem::path& from, const std::filesystem::path& to,
                    const std::function<bool()>& goOn);
 
-/// A file (not a folder) of this path exists.
+/// A file (not a folder) of this path exists, or it cannot be told whether there is one.
 bool FileExists(const std::filesystem::path& path);
 
-/// Something of this path is there, if only a link to nothing. What cannot be told counts as not
-/// there.
+/// Something of this path is there, if only a link to nothing; or it cannot be told whether there
+/// is.
 bool IsTaken(const std::filesystem::path& path);
 
-/// The file is marked read-only. Asked of its permissions, not by trying to open it: an
-/// administrator may open anything, and the mark is the owner's wish all the same.
+/// The file exists and is marked read-only. Asked of its permissions, not by trying to open it: an
+/// administrator may open anything, but the mark says what the owner wants.
 bool IsReadOnly(const std::filesystem::path& path);
 
 }  // namespace tricklet

@@ -16,7 +16,7 @@ namespace tricklet {
 
 /// `mnuExportLibrary`: copies the current library into a folder that the person chooses.
 bool ExportLibrary(Session& session);
-/// The same into a folder already named.
+/// Copies the current library into `folder`, which is made when it is missing.
 bool ExportLibraryTo(Session& session, const std::filesystem::path& folder);
 
 /// `mnuExportLibraries`: copies all libraries into a folder that the person chooses. A folder that

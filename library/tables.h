@@ -15,7 +15,7 @@ namespace tricklet {
 bool StoreTable(const std::filesystem::path& path, const HandTable& hands,
                 const MakeableTable& table);
 
-/// The program has been given a solver; else says that there is none.
+/// The program has been given a solver; tells when it has not.
 bool RequireSolver(const Session& session);
 
 struct AnalysisOutcome {

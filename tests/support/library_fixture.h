@@ -16,7 +16,7 @@
 
 namespace tricklet::test {
 
-/// A folder that goes with the test. Its name has a blank and letters outside ASCII.
+/// A folder that is removed when the test ends. Its name has a blank and letters outside ASCII.
 class TempFolder {
  public:
   TempFolder() {
