@@ -1,8 +1,6 @@
 // Match points and IMPs.
 #include "core/comparison.h"
 
-#include <algorithm>
-#include <cstdlib>
 #include <limits>
 #include <random>
 
@@ -62,28 +60,27 @@ TEST(Comparison, CrossImpsOfATraveller) {
       << "far from any score";
 }
 
-/// IMPs table by table, and by ranks: the match points of a score are twice the scores below it and
-/// once its equals, and all tables together share tables * (tables - 1) of them on either side.
-TEST(Comparison, SumsAndOrderOfRandomTravellers) {
+/// Table by table: a score has the IMPs against each other one, and two match points for each that
+/// it beats and one for each equal one.
+TEST(Comparison, RandomTravellersComparedTableByTable) {
   std::mt19937 random(20251121);  // NOLINT: the same travellers each time
-  std::uniform_int_distribution<int> tables(1, 16);
-  std::uniform_int_distribution<int> tens(-30, 30);
   for (int round = 0; round < 200; ++round) {
-    std::vector<int> sorted(static_cast<std::size_t>(tables(random)));
-    for (int& score : sorted) score = 10 * tens(random);
-    const Scores scores(sorted.begin(), sorted.end());
-    const int others = static_cast<int>(sorted.size()) - 1;
-    std::sort(sorted.begin(), sorted.end());
+    Scores scores(random() % 16 + 1);
+    for (auto& score : scores) score = 10 * static_cast<int>(random() % 60) - 300;
     const auto points = MatchPoints(scores);
     const auto imps = CrossImps(scores);
     for (std::size_t table = 0; table < scores.size(); ++table) {
+      const int own = scores[table].value_or(0);
       int sum = 0;
-      for (const int other : sorted) sum += ToImps(scores[table].value_or(0) - other);
+      PerSide<int> matchPoints{{-1, -1}};  // its own score is none of the others
+      for (const auto& each : scores) {
+        const int other = each.value_or(0);
+        sum += ToImps(own - other);
+        matchPoints[Side::NorthSouth] += own < other ? 0 : own > other ? 2 : 1;
+        matchPoints[Side::EastWest] += own > other ? 0 : own < other ? 2 : 1;
+      }
       EXPECT_EQ(imps[table], sum);
-      const auto [below, above] =
-          std::equal_range(sorted.begin(), sorted.end(), scores[table].value_or(0));
-      const auto rank = static_cast<int>((below - sorted.begin()) + (above - sorted.begin())) - 1;
-      EXPECT_EQ(points[table], (PerSide<int>{{rank, 2 * others - rank}}));
+      EXPECT_EQ(points[table], matchPoints);
     }
   }
 }

@@ -18,6 +18,7 @@ Board BoardWith(int number, const std::string& auction) {
 }
 
 TEST(GetContract, DerivesContractDeclarerAndTrumps) {
+  constexpr auto kNone = Strain::NoTrump;
   const struct {
     int board;
     const char* auction;
@@ -34,6 +35,10 @@ TEST(GetContract, DerivesContractDeclarerAndTrumps) {
       {1, "1NT Dbl Rdbl Dbl", "1NTx by North", Strain::NoTrump, 1},
       {3, "1C Dbl", "1Cx by South", Strain::Clubs, 1},
       {4, "7NT", "7NT by West", Strain::NoTrump, 7},
+      {1, "", "", kNone, 0},
+      {1, "Pass Pass Pass", "", kNone, 0},
+      {1, "Pass Pass Pass Pass", "All Pass", kNone, 0},
+      {1, "Dbl Rdbl", "", kNone, 0},  // no auction, but nothing to break on
       {1, "Pass 1C Pass 1H", "1H by West", Strain::Hearts, 1},
   };
   for (const auto& c : kCases) {
@@ -42,14 +47,6 @@ TEST(GetContract, DerivesContractDeclarerAndTrumps) {
     EXPECT_EQ(board.trumps, c.trumps) << c.auction;
     EXPECT_EQ(board.contractLevel, c.level) << c.auction;
   }
-}
-
-TEST(GetContract, NoContract) {
-  EXPECT_EQ(BoardWith(1, "").contract, "");
-  EXPECT_EQ(BoardWith(1, "Pass Pass Pass").contract, "");
-  EXPECT_EQ(BoardWith(1, "Pass Pass Pass Pass").contract, "All Pass");
-  EXPECT_EQ(ContractLabel(BoardWith(1, "Pass Pass Pass Pass")), "All Pass");
-  EXPECT_EQ(BoardWith(1, "Dbl Rdbl").contract, "");  // no auction, but nothing to break on
 }
 
 TEST(Call, TextRoundTripsAndShortFormsAreTaken) {

@@ -1,36 +1,24 @@
 #include "core/notation.h"
 
+#include <string>
+#include <string_view>
+
 #include <gtest/gtest.h>
 
 #include "core/holding.h"
-#include "core/text.h"
 
 namespace tricklet {
 namespace {
 
 TEST(Notation, DealerAndVulnerabilityFollowTheBoardNumber) {
-  const struct {
-    int board;
-    Seat dealer;
-    Vulnerability vulnerability;
-  } kCases[] = {
-      {1, Seat::North, Vulnerability::None},        {2, Seat::East, Vulnerability::NorthSouth},
-      {4, Seat::West, Vulnerability::All},          {7, Seat::South, Vulnerability::All},
-      {15, Seat::South, Vulnerability::NorthSouth}, {16, Seat::West, Vulnerability::EastWest},
-      {17, Seat::North, Vulnerability::None},       {999, Seat::South, Vulnerability::All},
-  };
-  for (const auto& c : kCases) {
-    EXPECT_EQ(DealerOfBoard(c.board), c.dealer) << c.board;
-    EXPECT_EQ(VulOfBoard(c.board), c.vulnerability) << c.board;
+  // Laws of Duplicate Bridge, 2: boards 1 to 16; - none, N North-South, E East-West, B both.
+  constexpr std::string_view kVulnerable = "-NEBNEB-EB-NB-NE";
+  constexpr std::string_view kDealers = "NESW";
+  for (int board = 1; board <= 999; ++board) {
+    const auto place = static_cast<std::size_t>(board - 1);
+    EXPECT_EQ("-NEB"[IndexOf(VulOfBoard(board))], kVulnerable[place % 16]) << board;
+    EXPECT_EQ(SeatName[DealerOfBoard(board)].front(), kDealers[place % 4]) << board;
   }
-}
-
-TEST(Notation, EachVulnerabilityComesFourTimesInSixteenBoards) {
-  std::array<int, 4> count{};
-  for (int board = 1; board <= 16; ++board) {
-    ++count.at(static_cast<std::size_t>(VulOfBoard(board)));
-  }
-  EXPECT_EQ(count, (std::array<int, 4>{4, 4, 4, 4}));
 }
 
 TEST(Notation, OrdersAreConvertedByName) {
@@ -64,35 +52,6 @@ TEST(Holding, TextIsReadByFirstCharactersAndWrittenInRankOrder) {
     EXPECT_EQ(PBNFormat(AddSpace(c.given), cards), c.pbn) << c.given;
     EXPECT_EQ(cards, 100 + static_cast<int>(std::string(c.pbn).size())) << c.given;
   }
-}
-
-TEST(Text, LeadingNumber) {
-  const struct {
-    const char* text;
-    int value;
-  } kCases[] = {{"12", 12},
-                {"  7th", 7},
-                {"-3", -3},
-                {"", 0},
-                {"x1", 0},
-                {"4-1", 4},
-                {"0001 Opener", 1},
-                {"99999999999999999999", 32767},
-                {"-99999", -32768},
-                {" 9", 9},
-                {"?", 0}};
-  for (const auto& c : kCases) EXPECT_EQ(LeadingNumber(c.text), c.value) << c.text;
-}
-
-TEST(Text, ShowableMakesForeignBytesFit) {
-  EXPECT_EQ(Showable("caf\xc3\xa9"), "caf\u00e9");
-  EXPECT_EQ(Showable("caf\xe9"), "caf\u00e9");
-  EXPECT_EQ(Showable(std::string_view("a\0b\tc", 5)), "a b c");
-  EXPECT_EQ(Showable("12345678", 4), "1234...");
-  EXPECT_EQ(Showable("ab\xc3\xa9", 3), "ab...");  // never half a character
-  EXPECT_FALSE(IsValidUtf8("\xed\xa0\x80"));      // a surrogate
-  EXPECT_FALSE(IsValidUtf8("\xc0\xaf"));          // an overlong form
-  EXPECT_EQ(Utf8ToLatin1("caf\u00e9 \u2660"), "caf\xe9 ?");
 }
 
 }  // namespace

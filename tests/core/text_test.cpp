@@ -16,6 +16,27 @@ TEST(Text, SingleNumbersAreShortAndHaveNoExponent) {
   EXPECT_EQ(ShortestText(std::numeric_limits<float>::max()).size(), 39U);
 }
 
+TEST(Text, LeadingNumber) {
+  const struct {
+    const char* text;
+    int value;
+  } kCases[] = {{"  7th", 7}, {"-3", -3},         {"", 0},         {"x1", 0},
+                {"4-1", 4},   {"0001 Opener", 1}, {"+12", 12},     {"99999999999", 32767},
+                {"?", 0},     {"-99999", -32768}, {"32767", 32767}};
+  for (const auto& c : kCases) EXPECT_EQ(LeadingNumber(c.text), c.value) << c.text;
+}
+
+TEST(Text, ShowableMakesForeignBytesFit) {
+  EXPECT_EQ(Showable("caf\xc3\xa9"), "caf\u00e9");
+  EXPECT_EQ(Showable("caf\xe9"), "caf\u00e9");
+  EXPECT_EQ(Showable(std::string_view("a\0b\tc", 5)), "a b c");
+  EXPECT_EQ(Showable("12345678", 4), "1234...");
+  EXPECT_EQ(Showable("ab\xc3\xa9", 3), "ab...");  // never half a character
+  EXPECT_FALSE(IsValidUtf8("\xed\xa0\x80"));      // a surrogate
+  EXPECT_FALSE(IsValidUtf8("\xc0\xaf"));          // an overlong form
+  EXPECT_EQ(Utf8ToLatin1("caf\u00e9 \u2660"), "caf\xe9 ?");
+}
+
 TEST(Text, WholeNumbersAreNumbersToTheirEnd) {
   EXPECT_EQ(WholeNumber("-12"), -12);
   EXPECT_EQ(WholeNumber("ff", 16), 255);
