@@ -153,19 +153,13 @@ TEST(BoardFile, AnyLineEndIsTaken) {
   }
 }
 
-TEST(BoardFile, ACardNamedTwiceStaysInTheLastHand) {
-  std::string text = Lines({" A", "", "", "", " A K", "", "", "", "", "", "", "", "", "", "", ""});
+TEST(BoardFile, ACardNamedTwiceStaysInTheLastHandAndATenMustBeWrittenTen) {
+  std::string text =
+      Lines({" A", "", "", "", " A K T", "", "", "", "", "", "", "", "", "", "", ""});
   Board board;
   ASSERT_TRUE(ReadBoardText(text + "0\r\n", board, TableReading::Always));
   EXPECT_TRUE(board.hands[Seat::North][Suit::Spades].Empty());
   EXPECT_EQ(HoldingText(board.hands[Seat::East][Suit::Spades]), " A K");
-}
-
-TEST(BoardFile, ATenMustBeWrittenTen) {
-  std::string text = Lines({" K T", "", "", "", "", "", "", "", "", "", "", "", "", "", "", ""});
-  Board board;
-  ASSERT_TRUE(ReadBoardText(text + "0\r\n", board, TableReading::Always));
-  EXPECT_EQ(HoldingText(board.hands[Seat::North][Suit::Spades]), " K");
 }
 
 }  // namespace

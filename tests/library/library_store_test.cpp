@@ -25,6 +25,9 @@ class LibraryStore : public LibraryTest {
 };
 
 TEST_F(LibraryStore, CountsOnlyBoardFiles) {
+  EXPECT_EQ(session.library.maxBoard, 24) << "what an empty library offers";
+  EXPECT_EQ(session.library.firstBoard, 1000);
+  EXPECT_EQ(session.library.lastBoard, 0);
   for (const int number : {3, 30}) PutBoard(number);
   for (const char* name : {"1000.txt", "LIN.txt", "12.txt", "031.txt.99.new", "000.txt"}) {
     WriteFile(session.LibraryPath() / name, "x");
@@ -39,12 +42,6 @@ TEST_F(LibraryStore, CountsOnlyBoardFiles) {
   EXPECT_EQ(LibraryCountText(session), "2 boards in library");
 }
 
-TEST_F(LibraryStore, AnEmptyLibraryOffers24Boards) {
-  EXPECT_EQ(session.library.maxBoard, 24);
-  EXPECT_EQ(session.library.firstBoard, 1000);
-  EXPECT_EQ(session.library.lastBoard, 0);
-}
-
 TEST_F(LibraryStore, ListsFoldersAndFallsBackToTheFirst) {
   for (const char* name : {"beta", "Alpha", ".hidden", "\u00c9t\u00e9 2"}) {
     fs::create_directories(folder.Path() / PathFromText(name));
@@ -57,10 +54,9 @@ TEST_F(LibraryStore, ListsFoldersAndFallsBackToTheFirst) {
   EXPECT_EQ(session.libIndex, 0);
   EXPECT_EQ(session.LibraryName(), "Alpha");
   EXPECT_EQ(store.Read("macro", "library"), "Alpha");
-}
 
-TEST_F(LibraryStore, AnEmptyRootIsGivenADefaultLibrary) {
-  fs::remove_all(session.LibraryPath());
+  for (const std::string& name : session.libraryNames)
+    fs::remove(folder.Path() / PathFromText(name));
   GetLibraryNames(session);
   EXPECT_TRUE(fs::is_directory(folder.Path() / "Default"));
   EXPECT_EQ(session.LibraryName(), "Default");
