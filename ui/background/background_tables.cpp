@@ -77,8 +77,8 @@ void BackgroundTables::TellFailure(const Job& job) {
   }
 }
 
-/// Not while a run goes on that may be at the same file. After it a missing table is asked for again
-/// by itself; what the person has asked for waits.
+/// Not while a run goes on that may be at the same file. After it a missing table is asked for
+/// again by itself; what the person has asked for waits.
 void BackgroundTables::Deliver(const std::shared_ptr<const Job>& job) {
   if (!session_.batchRunning) {
     Take(*job);
