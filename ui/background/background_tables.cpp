@@ -2,13 +2,12 @@
 
 #include <chrono>
 
-#include <QTimer>
-
 #include "analysis/deal_text.h"
 #include "analysis/get_dds.h"
 #include "core/text.h"
 #include "library/board_store.h"
 #include "library/tables.h"
+#include "ui/background/later.h"
 
 namespace tricklet::ui {
 namespace {
@@ -83,7 +82,8 @@ void BackgroundTables::Deliver(const std::shared_ptr<const Job>& job) {
   if (!session_.batchRunning) {
     Take(*job);
   } else if (job->asked) {
-    QTimer::singleShot(kBetweenDeliveries, this, [this, job] { Deliver(job); });
+    Later(
+        this, [this, job] { Deliver(job); }, kBetweenDeliveries);
   } else {
     underWay_.erase(job->Key());
   }
