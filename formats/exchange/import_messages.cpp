@@ -84,7 +84,7 @@ std::string LeftOutText(const LeftOut& leftOut) {
   constexpr const char* kBroken = "for a broken percent escape";
   constexpr const char* kUnstorable = "because a library holds boards 1 to 999";
   constexpr const char* kForeign = "because the dealer of the record is not the board's";
-  constexpr const char* kEndless = "for having more than 100 calls";
+  constexpr const char* kOverlong = "for having more than 100 calls";
   const std::array<Reason, 6> reasons{{
       {leftOut.repeated, "deal", "because a board of the same number came before it in the file",
        "because a board of the same number came before them in the file"},
@@ -92,7 +92,7 @@ std::string LeftOutText(const LeftOut& leftOut) {
       {leftOut.broken, "LIN record", kBroken, kBroken},
       {leftOut.unstorable, "board", kUnstorable, kUnstorable},
       {leftOut.foreign, "auction", kForeign, kForeign},
-      {leftOut.endless, "auction", kEndless, kEndless},
+      {leftOut.overlong, "auction", kOverlong, kOverlong},
   }};
   std::string text;
   for (const Reason& reason : reasons) {

@@ -209,7 +209,7 @@ Board StorableBoard(const LinRecord& record, LeftOut& leftOut) {
   if (HasForeignDealer(record) && !record.calls.empty()) {
     leftOut.foreign.push_back(record.boardNumber);
   } else if (record.calls.size() > CallList::kCapacity) {
-    leftOut.endless.push_back(record.boardNumber);
+    leftOut.overlong.push_back(record.boardNumber);
   } else {
     for (const Call call : record.calls) board.calls.Add(call);
   }

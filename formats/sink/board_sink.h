@@ -17,11 +17,10 @@ class BoardSink {
   BoardSink& operator=(const BoardSink&) = delete;
   virtual ~BoardSink() = default;
 
-  /// Takes a board whose number is 1..999. What it throws ends the reading, and a reader lets it
-  /// pass.
+  /// Takes a board whose number is 1..999. What it throws ends the reading: no reader catches it.
   virtual void Store(const Board& board) = 0;
-  /// The board of this number, whichever it is, begins; `done` thousandths (`kWholeText`) of the
-  /// file are read. False ends the reading: it was cancelled.
+  /// A board begins, which may have any number; `done` thousandths of the file are read. False when
+  /// the person has cancelled the reading, which then ends.
   virtual bool Begin(int boardNumber, int done) = 0;
 };
 
@@ -33,10 +32,10 @@ struct LeftOut {
   std::vector<int> broken;      ///< LIN records with a broken percent escape
   std::vector<int> unstorable;  ///< boards whose number is not 1..999
   std::vector<int> foreign;     ///< auctions of a dealer who is not the board's
-  std::vector<int> endless;     ///< auctions of more than 100 calls
+  std::vector<int> overlong;    ///< auctions of more than 100 calls
 
-  /// Something could not be read, where the rest is only of no use to a library.
-  bool Unreadable() const { return !impossible.empty() || !broken.empty() || !endless.empty(); }
+  /// A part of the file could not be read; what else is left out has no place in a library.
+  bool Unreadable() const { return !impossible.empty() || !broken.empty() || !overlong.empty(); }
 };
 
 /// What a reader found.

@@ -126,7 +126,7 @@ constexpr const char* kBroken = " left out for a broken percent escape: ";
 constexpr const char* kImpossible =
     " left out as impossible (no card, a card twice or more than 13 cards in a hand): ";
 constexpr const char* kForeign = " left out because the dealer of the record is not the board's: ";
-constexpr const char* kEndless = " left out for having more than 100 calls: ";
+constexpr const char* kOverlong = " left out for having more than 100 calls: ";
 
 TEST_F(ImportTest, TellsWhatWasStoredOfPbn) {
   EXPECT_EQ(Import("a.pbn", PbnText({12})), "Hand 12 has #\n[12 | 1 | LIN.txt]");
@@ -187,7 +187,7 @@ TEST_F(ImportTest, TellsWhatWasStoredOfLin) {
       "2 hands (1-3) have #\n1 deal was" + std::string(kImpossible) + "2\n[1 3 | 2 failed | 3]");
   EXPECT_EQ(
       Import("a.lin", LinRecordText("o1") + LinRecordText("o2", LinPasses(101))),
-      "2 hands (1-2) have #\n1 auction was" + std::string(kEndless) + "2\n[1 2 | 2 failed | 3]");
+      "2 hands (1-2) have #\n1 auction was" + std::string(kOverlong) + "2\n[1 2 | 2 failed | 3]");
   EXPECT_EQ(Import("a.lin", "lin=" + LinRecordText("o2") + "%"),
             "No hands have #\n1 LIN record was" + std::string(kBroken) + "2\n[| 0 failed | 1]");
   EXPECT_EQ(Import("a.lin", LinRecordText("o1000")),
@@ -219,7 +219,7 @@ TEST_F(ImportTest, TellsWhatWasStoredOfASession) {
       "2 hands (1-3) have #\n1 deal was" + std::string(kImpossible) + "2\n[1 3 | 2 failed | 2]");
   EXPECT_EQ(
       Import("a.xml", UsebioText(one + board(2, LinData(2, LinPasses(101))))),
-      "2 hands (1-2) have #\n1 auction was" + std::string(kEndless) + "2\n[1 2 | 2 failed | 2]");
+      "2 hands (1-2) have #\n1 auction was" + std::string(kOverlong) + "2\n[1 2 | 2 failed | 2]");
   EXPECT_EQ(Import("a.xml", UsebioText(one + board(2, "qx|o2|pn|Ann%2") + board(3, "%"))),
             unread + "Hand 1 has #\n2 LIN records were" + kBroken + "2, 3\n[1 | 1 failed | 3]");
   EXPECT_EQ(Import("a.xml", UsebioText(board(2, "%"))),

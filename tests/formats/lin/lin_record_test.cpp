@@ -152,7 +152,7 @@ TEST(ParseLinRecord, ReadsCalls) {
   EXPECT_FALSE(ParseLinRecord("md|3SA,,,|").hasAuction);
 }
 
-TEST(BoardOfLinRecord, HoldsAHundredCalls) {
+TEST(StorableBoard, HoldsAHundredCalls) {
   std::string text = "qx|o5|md|3SA,,,|";
   for (int i = 0; i < CallList::kCapacity - 1; ++i) text += "mb|p|";
   LeftOut leftOut;
@@ -161,7 +161,7 @@ TEST(BoardOfLinRecord, HoldsAHundredCalls) {
   EXPECT_EQ(board.contract, "1C");
   EXPECT_EQ(board.boardNumber, 5);
   EXPECT_EQ(StorableBoard(ParseLinRecord(text + "mb|1C|mb|p|"), leftOut).NumCalls(), 0);
-  EXPECT_EQ(leftOut.endless, std::vector<int>{5});
+  EXPECT_EQ(leftOut.overlong, std::vector<int>{5});
 }
 
 }  // namespace
