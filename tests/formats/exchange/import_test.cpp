@@ -111,14 +111,14 @@ TEST_F(ImportTest, StoresBoardsAndShowsTheFirst) {
   EXPECT_EQ(HoldingText(session.board.hands[Seat::North][Suit::Spades]), " A 10 6 2");
 
   host.ExpectAskWith("Overwrite", Answer::Yes);
-  host.ExpectTell("No hands have been saved to the library - Club");
-  ImportFile(session, File("[Board \"3\"]"));
-  EXPECT_EQ(session.board.boardNumber, 1) << "the board before";
-
-  host.ExpectAskWith("Overwrite", Answer::Yes);
   host.ExpectTell("Hand 2 has been saved to the library - Club");
   ImportFile(session, File("%\n[Board \"2\"]\n[Event \"no deal\"]\n"));
   EXPECT_FALSE(HasCards(session.board.hands)) << "nothing of the board that was open";
+
+  host.ExpectAskWith("Overwrite", Answer::Yes);
+  host.ExpectTell("No hands have been saved to the library - Club");
+  ImportFile(session, File("[Board \"3\"]"));
+  EXPECT_EQ(session.board.boardNumber, 2) << "the board before";
 }
 
 constexpr const char* kUnstorable = " left out because a library holds boards 1 to 999: ";
@@ -144,6 +144,8 @@ TEST_F(ImportTest, TellsWhatWasStoredOfPbn) {
   EXPECT_EQ(Import("a.pbn", PbnText({1000, 999, 0, 0})),
             "Hand 1000 has #\nBoard 999 of the file is stored\n3 boards were" +
                 std::string(kUnstorable) + "0, 1000\n[999 | 1 | LIN.txt]");
+  EXPECT_EQ(Import("a.pbn", PbnText({1, 1000})),
+            "Hand 1 has #\n1 board was" + std::string(kUnstorable) + "1000\n[1 | 1 | LIN.txt]");
   EXPECT_EQ(Import("a.pbn", PbnText({1, 2, 3, 7, 1000})),
             "4 hands (1-1000) have #\nBoards 1-3, 7 of the file are stored\n1 board was" +
                 std::string(kUnstorable) + "1000\n[1 2 3 7 | 4 | LIN.txt]");

@@ -71,6 +71,7 @@ TEST(ReadLIN, FindsTheRecordsHoweverTheyLie) {
        "1 "},
       {"pages without a deal", "nt|Hello|pg||md|0|pg||qx|o1|" + Deal() + "nt|Bye|pg||", "1 "},
       {"capitals and a byte order mark", "\xEF\xBB\xBFqx|O4|" + Deal(), "4 "},
+      {"a control character that is no escape", "qx|o1|nt|\x1A|" + Deal(), "1 "},
       {"PBN", "[Board \"1\"]\n[Deal \"N:- - - -\"]\n", ""},
       {"nothing", "", ""}};
   for (const auto& [what, text, boards] : kCases) {
@@ -168,10 +169,11 @@ TEST(ReadLIN, ARecordThatCannotBeReadIsLeftOut) {
   EXPECT_EQ(last.result.lastBoard, 3);
   const std::string first = "pn%7CAnn%2CBob,Cy,Di%7Cqx%7Co1%7C" + Deal();
   const Read escapes("lin=" + first + "nt|100%|qx|o2|" + Deal() + "qx|o3|pn|%4|" + Deal() +
-                     "qx|o4|" + Deal() + "mb%7");
-  EXPECT_EQ(escapes.Boards(), "2 ");
-  EXPECT_EQ(escapes.result.leftOut.broken, (std::vector<int>{1, 3, 4}));
-  ASSERT_EQ(escapes.records.size(), 1U);
+                     "qx|o4|" + Deal() + "qx|o5|" + Deal() + "mb%7");
+  EXPECT_EQ(escapes.Boards(), "2 4 ");
+  EXPECT_EQ(escapes.result.leftOut.broken, (std::vector<int>{1, 3, 5}));
+  ASSERT_EQ(escapes.records.size(), 2U);
+  EXPECT_TRUE(escapes.records[1].starts_with("qx|o4|pn|,,,|")) << "broken names hold for none";
   EXPECT_EQ(ParseLinRecord(escapes.records[0]).players[Seat::East], "Di");
   EXPECT_EQ(Read("qx|o1|md|3SA,,SQ,|").Boards(), "1 ") << "part of a deal is one";
 }
