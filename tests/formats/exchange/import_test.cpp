@@ -268,16 +268,24 @@ TEST_F(ImportTest, EndsEarlyWithWhatIsStored) {
   }
 }
 
-TEST_F(ImportTest, AReadOnlyBoardIsToldOnceWithoutAReport) {
-  const fs::path marked = session.BoardPath(2);
-  fs::create_directories(marked);
-  fs::permissions(marked, fs::perms::owner_read | fs::perms::owner_exec);
-  host.ExpectTellWith(PathText(marked));
-  host.ExpectTell("Hand 1 has been saved to the library - Club");
-  const ImportOutcome outcome = ImportFile(session, File(PbnText({1, 2, 2, 3})));
-  EXPECT_TRUE(outcome.failed);
-  EXPECT_EQ(outcome.boardsSaved, 1);
-  fs::permissions(marked, fs::perms::owner_all);
+TEST_F(ImportTest, AReadOnlyBoardIsToldOnceAndEndsTheImport) {
+  const std::pair<const char*, std::string> kFiles[] = {
+      {"a.pbn", PbnText({1, 2, 2, 3})},
+      {"a.xml", UsebioText(OneLineBoard(1) + OneLineBoard(2) + OneLineBoard(3))}};
+  for (const auto& [name, text] : kFiles) {
+    PutBoard(2);
+    const fs::path marked = session.BoardPath(2);
+    fs::permissions(marked, fs::perms::owner_read);
+    host.ExpectAskWith("Overwrite", Answer::Yes);
+    host.ExpectTell("The file\n" + PathText(marked) + "\nis read only so the hand cannot be saved");
+    host.ExpectTell("Hand 1 has been saved to the library - Club");
+    const ImportOutcome outcome = ImportFile(session, File(text, name));
+    EXPECT_TRUE(outcome.failed);
+    EXPECT_EQ(outcome.boardsSaved, 1);
+    EXPECT_EQ(ReadFile(marked), test::OneSuitEachText());
+    EXPECT_EQ(session.library.boardCount, 2) << "board 3 is not stored";
+    fs::permissions(marked, fs::perms::owner_all);
+  }
 }
 
 TEST_F(ImportTest, WhatCannotBeReadIsSaid) {
