@@ -17,7 +17,8 @@ struct MakeableView {
   std::array<Row, kSeats> rows;  ///< clockwise from North
 };
 
-/// Tricks less six with `makeableContract` on, else tricks; "-" for 0 or less.
+/// With `contracts` the tricks beyond six, which is the level that can be made, else the tricks;
+/// "-" for 0 or less.
 MakeableView MakeMakeableView(const MakeableTable& table, bool contracts);
 
 }  // namespace tricklet

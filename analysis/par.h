@@ -10,7 +10,7 @@ namespace tricklet {
 
 /// A contract that par can be.
 struct ParContract {
-  int level = 0;
+  int level = 0;  ///< 1..7
   BidStrain strain = BidStrain::Clubs;
   bool doubled = false;
   int result = 0;               ///< overtricks, 0, or undertricks as a negative number
@@ -22,8 +22,8 @@ struct Par {
   std::vector<ParContract> contracts;  ///< none when par is to pass the board out
 };
 
-/// Par from the double-dummy table: the auction as a game in which either side may bid on as long
-/// as that does it good; a contract that fails is doubled. The dealer's side has the first bid.
+/// Par from the double-dummy table: the auction as a game in which either side bids on as long as
+/// that improves its score; a contract that fails is doubled. The dealer's side has the first bid.
 Par ComputePar(const MakeableTable& table, Seat dealer, Vulnerability vulnerability);
 
 /// The contracts, and the side that scores: "Par 4S= NS +420", "Par 5Cx-2, 5Dx-2 NS +300",

@@ -6,12 +6,12 @@
 
 namespace tricklet {
 
-/// Stays loaded until the program ends: a solver keeps threads and memory that do not survive its
-/// being taken away.
+/// Stays loaded until the program ends, also when this object is gone: a solver keeps threads and
+/// memory that unloading would pull from under it.
 class SharedLibrary {
  public:
-  /// Opens `name`, a path or a bare file name for the system to find. `IsOpen` tells whether it
-  /// did.
+  /// Opens `name`, a path or a bare file name for the system to find. `IsOpen` tells whether that
+  /// succeeded.
   explicit SharedLibrary(const std::filesystem::path& name);
 
   bool IsOpen() const { return handle_ != nullptr; }

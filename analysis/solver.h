@@ -49,7 +49,8 @@ class Solver {
   virtual std::string Solve(std::span<const std::string> deals,
                             std::span<SolverRecord> records) = 0;
 
-  /// The tricks that every card of the hand on play leads to; empty when the solver cannot tell.
+  /// The tricks that each legal card of the hand on play leads to, in no particular order; empty
+  /// when the solver cannot tell. May be called from any thread.
   virtual std::vector<CardScore> SolveCards(const SolverPosition& position) = 0;
 };
 

@@ -14,8 +14,8 @@ namespace tricklet {
 /// libdds.so.0 and then libdds.so elsewhere. Never fails: what was tried is in `Missing()`.
 std::unique_ptr<Solver> LoadSolver(const std::filesystem::path& programFolder);
 
-/// The same, but loaded when it is first asked for (from any thread): it takes memory and threads
-/// that much of the program need not pay for.
+/// A function that does `LoadSolver` at its first call, from any thread, and gives the same solver
+/// ever after: the library takes memory and threads, which most commands do without.
 std::function<Solver&()> SolverOnDemand(const std::filesystem::path& programFolder);
 
 }  // namespace tricklet

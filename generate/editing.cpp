@@ -59,7 +59,7 @@ std::optional<std::string> SetHand(Board& board, Seat seat, std::string_view tex
     for (const Suit suit : kAllSuits) {
       const Holding both = hands[other][suit] & hand[suit];
       if (!both.Empty() && take == TakeCards::FromPack) {
-        return CardText(FirstCard(suit, both)) + " is held by " + std::string(SeatName[other]);
+        return CardText(HighestCard(suit, both)) + " is held by " + std::string(SeatName[other]);
       }
       hands[other][suit] = hands[other][suit] - both;
     }

@@ -38,12 +38,12 @@ struct EditHistory {
   std::optional<Board> cardFrame;    ///< before the last `Fill` or `FillFourthHand`
 };
 
-/// There is something of this board to undo.
+/// There is a clear, or a fill, of this board to undo.
 bool CanUndoClear(const Board& board, const EditHistory& history);
 bool CanUndoFill(const Board& board, const EditHistory& history);
 
-/// `cmdClear`: takes all cards and calls from the board. Where there are none, the undo still goes
-/// back to the last ones.
+/// `cmdClear`: takes all cards and calls from the board. A clear of an empty board leaves the undo
+/// as it was.
 void Clear(Board& board, EditHistory& history);
 /// `cmdUndoClear`: cards, auction and makeable table are again as before the last `Clear`. False
 /// when there is none of this board to undo.

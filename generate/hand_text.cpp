@@ -53,7 +53,7 @@ std::optional<std::string> ReadHandText(std::string_view text, PerSuit<Holding>&
   return std::nullopt;
 }
 
-Card FirstCard(Suit suit, Holding holding) {
+Card HighestCard(Suit suit, Holding holding) {
   return {suit, static_cast<Rank>(std::countr_zero(holding.Bits()))};
 }
 

@@ -17,6 +17,6 @@ namespace tricklet {
                                                       PerSuit<Holding>& hand);
 
 /// The highest card of a holding that is not empty.
-Card FirstCard(Suit suit, Holding holding);
+Card HighestCard(Suit suit, Holding holding);
 
 }  // namespace tricklet

@@ -6,9 +6,10 @@
 
 namespace tricklet {
 
-/// How often, weighed against each other, a longest suit of 7..13 cards occurs; in percent of all
-/// hands. By counting: 4 C(13,n) C(39,13-n) / C(52,13), as only one suit can be that long.
+/// Fewest cards of a pre-empt's long suit.
 inline constexpr int kShortestPreempt = 7;
+/// How often a hand has a suit of 7..13 cards, in percent of all hands. By counting:
+/// 4 C(13,n) C(39,13-n) / C(52,13), as only one suit can be that long.
 inline constexpr std::array<double, 7> kPreemptOdds{3.52664,    0.466761,   0.0370445,  0.00164642,
                                                     3.64074e-5, 3.19363e-7, 6.29908e-10};
 

@@ -51,7 +51,7 @@ class AuctionEntry {
   void AllPass();
   void CallDbl();
   void CallRdb();
-  /// Any call; false when it is not legal now.
+  /// Makes any call; false, and nothing changed, when it is not legal now.
   bool Make(Call call);
   /// Takes back the last call.
   void UnCall();
@@ -69,7 +69,7 @@ class AuctionEntry {
   /// The player to call (`BidColour` marks it).
   Seat ToCall() const { return static_cast<Seat>(static_cast<unsigned>(state_.callIndex) & 3U); }
   bool Over() const { return !state_.passEnabled; }
-  /// No further call can be held; who tries is told.
+  /// The auction is as long as it can be: one more call is refused with a message.
   bool AtLimit() const;
 
  private:

@@ -13,7 +13,8 @@ namespace tricklet {
 std::optional<SolverPosition> PositionOf(const PlayState& state, Strain trumps);
 
 /// For every legal card of the hand on play the tricks, 0..13, that its side ends with when all go
-/// on double-dummy: `tricksWon` so far and those still to come. Empty when the solver cannot tell.
+/// on double-dummy: the `tricksWon` that it has and those to come. Empty when the solver cannot
+/// tell. May be called from any thread.
 std::vector<CardScore> BestCards(Solver& solver, const SolverPosition& position, int tricksWon);
 
 }  // namespace tricklet

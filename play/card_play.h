@@ -12,7 +12,7 @@
 
 namespace tricklet {
 
-/// The clock behind the finished trick: it lies on the table for a while and is then gathered.
+/// The clock of the finished trick, which lies on the table for a while and is then gathered.
 class TrickTimer {
  public:
   TrickTimer() = default;
@@ -24,7 +24,7 @@ class TrickTimer {
   virtual void Stop() = 0;
 };
 
-/// For who does not wait: a finished trick stays until the next card.
+/// For callers that do not wait: a finished trick stays until the next card is played.
 class NoTimer : public TrickTimer {
  public:
   void Start(std::chrono::milliseconds /*delay*/) override {}
@@ -53,7 +53,7 @@ struct PlayState : Trick {
 };
 
 /// The play of the board in hand. It is on exactly while the board's `playMode` is set: loading
-/// another board, clearing it or confirming an auction ends it without further ado.
+/// another board, clearing it or confirming an auction ends it too.
 class CardPlay {
  public:
   CardPlay(Board& board, Host& host, TrickTimer& timer)
@@ -75,17 +75,18 @@ class CardPlay {
   bool PlayMode() const { return board_.playMode; }
   const PlayState& Now() const { return state_; }
 
-  /// `seat` may play `card` now: it is on play, holds it, and follows suit if it can.
+  /// `card` may be played now: the seat on play holds it, and follows suit with it or cannot
+  /// follow.
   bool IsLegal(Card card) const;
-  /// The legal cards of the seat on play, suit by suit.
+  /// The legal cards of the seat on play, suit by suit; none when nobody is on play.
   PerSuit<Holding> LegalCards() const;
 
   /// The one legal card; nothing when there are more, or none.
   std::optional<Card> OnlyLegalCard() const;
 
-  /// Plays a card of the hand that holds it; gathers the finished trick first. A beep and no change
-  /// when it is not legal; nothing at all for a card that is not in a hand. True when it was
-  /// played.
+  /// Plays a card of the hand that holds it; gathers the finished trick first. True when it was
+  /// played. When it is not legal there is a beep and no change; for a card that is in no hand
+  /// there is not even a beep.
   bool Play(Card card);
 
   /// Gathers the finished trick from the table.
@@ -96,9 +97,9 @@ class CardPlay {
   void Undo();
 
   bool ClaimEnabled() const { return PlayMode() && state_.onPlay.has_value(); }
-  /// "Claim by South".
+  /// "Claim by South"; "Claim" when nobody is on play.
   std::string ClaimCaption() const;
-  /// The side on play takes all tricks that are left.
+  /// The side on play takes all tricks that are left. Nothing happens when nobody is on play.
   void Claim();
 
   /// 13 tricks are played or claimed.

@@ -47,7 +47,7 @@ void Replay::PreviousTrick() {
   } while (BackEnabled() && play_.Now().cardsInTrick != 0);
 }
 
-bool Replay::Follow(Card card) {
+bool Replay::ForwardBy(Card card) {
   if (!ForwardEnabled() || record_.cards.at(static_cast<std::size_t>(Shown())) != card) {
     return false;
   }

@@ -24,17 +24,17 @@ class Replay {
 
   bool ForwardEnabled() const { return Shown() < playable_; }
   bool BackEnabled() const { return Shown() > 0; }
-  /// One card on, or back.
+  /// One card on, or back; nothing happens at the record's end, or at its beginning.
   void Forward();
   void Back();
   /// To the end of the trick, or of the next one.
   void NextTrick();
   /// To the beginning of the trick, or of the one before.
   void PreviousTrick();
-  /// Goes on by `card`; false, and nothing happens, when another one was played.
-  bool Follow(Card card);
+  /// Goes forward if `card` is the next of the record; false, and nothing happens, if it is not.
+  bool ForwardBy(Card card);
 
-  /// Cards seen so far.
+  /// Cards seen so far: 0 before the opening lead, to 52.
   int Shown() const { return play_.UndoTop(); }
   /// "Card 5 of 52", and what there is to say at the record's end: a claim, an illegal card, or why
   /// there is nothing to be seen.

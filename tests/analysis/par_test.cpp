@@ -7,6 +7,7 @@
 
 #include "analysis/shared_library.h"
 #include "analysis/solver_library.h"
+#include "tests/support/thorough.h"
 
 namespace tricklet {
 namespace {
@@ -27,40 +28,29 @@ MakeableTable Table(std::array<int, 5> northSouth, std::array<int, 5> eastWest) 
 }
 
 TEST(Par, HandWorkedCases) {
+  MakeableTable oneDeclarer = Table({6, 6, 6, 6, 9}, {4, 4, 4, 4, 4});
+  oneDeclarer[TableSeat::South][TableStrain::NoTrump] = 8;
+  const MakeableTable bothMake1NT = Table({5, 5, 5, 5, 7}, {5, 5, 5, 5, 7});
+  using enum Vulnerability;
   const struct {
-    const char* what;
     MakeableTable table;
     Seat dealer;
     Vulnerability vulnerability;
     const char* text;
   } kCases[] = {
-      {"game in spades, no save", Table({6, 6, 6, 10, 7}, {6, 6, 6, 3, 6}), Seat::North,
-       Vulnerability::None, "Par 4S= NS +420"},
-      {"two games of one score", Table({11, 6, 6, 6, 9}, {2, 3, 3, 3, 3}), Seat::North,
-       Vulnerability::None, "Par 3NT=, 5C= NS +400"},
-      {"save against the vulnerable game", Table({3, 3, 4, 10, 5}, {9, 3, 8, 3, 3}), Seat::North,
-       Vulnerability::NorthSouth, "Par 5Cx-2 NS +300"},
-      {"nobody makes anything", Table({6, 6, 6, 6, 6}, {6, 6, 6, 6, 6}), Seat::South,
-       Vulnerability::All, "Par All Pass 0"},
-      {"both make 1NT: the dealer's side has it", Table({5, 5, 5, 5, 7}, {5, 5, 5, 5, 7}),
-       Seat::South, Vulnerability::All, "Par 1NT= NS +90"},
-      {"both make 1NT: the other dealer", Table({5, 5, 5, 5, 7}, {5, 5, 5, 5, 7}), Seat::West,
-       Vulnerability::All, "Par 1NT= EW +90"},
-      {"part score saved against", Table({6, 6, 8, 6, 6}, {7, 7, 5, 8, 7}), Seat::North,
-       Vulnerability::None, "Par 3Hx-1 EW +100"},
-      {"grand slam", Table({13, 13, 13, 13, 13}, {0, 0, 0, 0, 0}), Seat::East, Vulnerability::All,
-       "Par 7NT= NS +2220"},
+      {Table({6, 6, 6, 10, 7}, {6, 6, 6, 3, 6}), Seat::North, None, "Par 4S= NS +420"},
+      {Table({11, 6, 6, 6, 9}, {2, 3, 3, 3, 3}), Seat::North, None, "Par 3NT=, 5C= NS +400"},
+      {Table({3, 3, 4, 10, 5}, {9, 3, 8, 3, 3}), Seat::North, NorthSouth, "Par 5Cx-2 NS +300"},
+      {Table({6, 6, 6, 6, 6}, {6, 6, 6, 6, 6}), Seat::South, All, "Par All Pass 0"},
+      {bothMake1NT, Seat::South, All, "Par 1NT= NS +90"},
+      {bothMake1NT, Seat::West, All, "Par 1NT= EW +90"},  // the dealer's side has it
+      {Table({6, 6, 8, 6, 6}, {7, 7, 5, 8, 7}), Seat::North, None, "Par 3Hx-1 EW +100"},
+      {Table({13, 13, 13, 13, 13}, {0, 0, 0, 0, 0}), Seat::East, All, "Par 7NT= NS +2220"},
+      {oneDeclarer, Seat::North, None, "Par 3NT= by North NS +400"},
   };
   for (const auto& c : kCases) {
-    EXPECT_EQ(ParText(ComputePar(c.table, c.dealer, c.vulnerability)), c.text) << c.what;
+    EXPECT_EQ(ParText(ComputePar(c.table, c.dealer, c.vulnerability)), c.text);
   }
-}
-
-TEST(Par, NamesTheDeclarerWhenOnlyOneCanMakeIt) {
-  MakeableTable table = Table({6, 6, 6, 6, 9}, {4, 4, 4, 4, 4});
-  table[TableSeat::South][TableStrain::NoTrump] = 8;
-  EXPECT_EQ(ParText(ComputePar(table, Seat::North, Vulnerability::None)),
-            "Par 3NT= by North NS +400");
 }
 
 /// The solver library's own par, as a second opinion.
@@ -83,7 +73,7 @@ TEST(Par, AgreesWithTheSolverLibrarysOwnOnRandomTables) {
   std::mt19937 random(3);
   constexpr std::array kVulnerabilities{Vulnerability::None, Vulnerability::All,
                                         Vulnerability::NorthSouth, Vulnerability::EastWest};
-  for (int round = 0; round < 4000; ++round) {
+  for (int round = 0; round < test::Repetitions(4000); ++round) {
     MakeableTable table;
     LibraryTable theirs{};
     for (const Strain strain :

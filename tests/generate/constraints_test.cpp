@@ -1,239 +1,227 @@
 #include "generate/constraints.h"
 
-#include <cstdint>
-#include <functional>
-#include <vector>
+#include <cmath>
 
 #include <gtest/gtest.h>
 
 #include "generate/hand_type.h"
+#include "tests/support/hands.h"
 
 namespace tricklet {
 namespace {
 
-/// n over k; exact for the whole of a pack.
-std::uint64_t Choose(int n, int k) {
-  if (k < 0 || k > n) return 0;
-  std::uint64_t result = 1;
-  for (int i = 1; i <= k; ++i) {
-    result = result * static_cast<std::uint64_t>(n - k + i) / static_cast<std::uint64_t>(i);
-  }
-  return result;
+constexpr GenHand kOne = GenHand::First;
+constexpr GenHand kTwo = GenHand::Second;
+
+/// n over k.
+double Choose(int n, int k) {
+  return k < 0 ? 0 : 1 / ((n + 1) * std::beta(n - k + 1, k + 1));
 }
 
-double Percent(std::uint64_t hands) {
-  return 100.0 * static_cast<double>(hands) / static_cast<double>(Choose(52, 13));
-}
-
-TEST(HcpOdds, AreThoseOfCounting) {
-  std::array<std::uint64_t, 41> hands{};
+TEST(Odds, AreThoseOfCounting) {
+  const double all = Choose(52, 13) / 100;
+  std::array<double, 41> exact{};
   for (int code = 0; code < 625; ++code) {
     const int a = code % 5;
     const int k = code / 5 % 5;
     const int q = code / 25 % 5;
     const int j = code / 125;
-    const int points = 4 * a + 3 * k + 2 * q + j;
-    hands.at(static_cast<std::size_t>(points)) +=
-        Choose(4, a) * Choose(4, k) * Choose(4, q) * Choose(4, j) * Choose(36, 13 - a - k - q - j);
+    exact.at(static_cast<std::size_t>(4 * a + 3 * k + 2 * q + j)) +=
+        Choose(4, a) * Choose(4, k) * Choose(4, q) * Choose(4, j) * Choose(36, 13 - a - k - q - j) /
+        all;
   }
-  std::uint64_t all = 0;
-  for (std::size_t points = 0; points <= kMaxPoints; ++points) {
-    all += hands.at(points);
-    const double exact = Percent(hands.at(points));
-    // Six decimals; the rarest with six digits.
-    EXPECT_NEAR(HcpOdds.at(points), exact, points <= 30 ? 0.5e-6 : exact * 5e-6) << points;
+  for (std::size_t points = 0; points < HcpOdds.size(); ++points) {
+    const double tolerance = points <= 30 ? 0.5e-6 : exact.at(points) * 5e-6;
+    EXPECT_NEAR(HcpOdds.at(points), exact.at(points), tolerance) << points;
   }
-  EXPECT_EQ(all, Choose(52, 13));
-}
-
-TEST(PreemptOdds, AreThoseOfCounting) {
+  EXPECT_EQ(exact.at(HcpOdds.size()), 0) << "38 points there are not";
   for (int length = kShortestPreempt; length <= kCardsInHand; ++length) {
-    const double exact = Percent(4 * Choose(13, length) * Choose(39, 13 - length));
-    EXPECT_NEAR(kPreemptOdds.at(static_cast<std::size_t>(length - kShortestPreempt)), exact,
-                exact * 5e-6)
-        << length;
+    const double each = 4 * Choose(13, length) * Choose(39, 13 - length) / all;
+    EXPECT_NEAR(kPreemptOdds.at(static_cast<std::size_t>(length - 7)), each, each * 5e-6) << length;
   }
 }
 
-PerSuit<Limits> AllSuits(Limits limits) {
-  PerSuit<Limits> suits;
-  suits.fill(limits);
-  return suits;
+/// What is asked of one hand.
+struct Asked {
+  std::array<Limits, 4> suits{{{0, 13}, {0, 13}, {0, 13}, {0, 13}}};
+  Limits points{0, 37};
+  int direction = 0;
+};
+
+Constraints Asking(const Asked& first, const Asked& second) {
+  Constraints constraints;
+  constraints.suitLimits.values = {{{first.suits}, {second.suits}}};
+  constraints.pointLimits.values = {{first.points, second.points}};
+  constraints.handDirection[kOne] = first.direction;
+  return constraints;
 }
 
-TEST(CheckConstraints, TellsTheFirstContradiction) {
-  constexpr GenHand kOne = GenHand::First;
-  constexpr GenHand kTwo = GenHand::Second;
-  using Change = std::function<void(Constraints&)>;
+constexpr Asked AllSuits(Limits limits, Limits points = {0, 37}) {
+  return {.suits = {limits, limits, limits, limits}, .points = points};
+}
+
+TEST(CheckConstraints, TellsTheFirstContradictionAndItsPlace) {
+  using enum ConstraintPart;
+  const Asked twoSuits{.suits = {{{0, 10}, {0, 3}, {}, {}}}, .points = {19, 37}};
+  Asked twentyPoints = twoSuits;
+  twentyPoints.points.minimum = 20;
   const struct {
     const char* message;  // empty: accepted
-    Change change;
-  } kCases[] = {
-      {"", [](Constraints&) {}},
-      {"Suit minima add up to more than 13 in hand 1",
-       [](Constraints& c) {
-         c.suitLimits[kOne].values = {{{4, 13}, {4, 13}, {4, 13}, {2, 13}}};
-       }},
-      {"",
-       [](Constraints& c) {
-         c.suitLimits[kOne].values = {{{4, 4}, {4, 4}, {4, 4}, {1, 1}}};
-       }},
-      {"Suit minima add up to more than 13 in hand 2",
-       [](Constraints& c) {
-         c.suitLimits[kTwo] = AllSuits({4, 13});
-       }},
-      {"Suit maxima add up to less than 13 in hand 1",
-       [](Constraints& c) {
-         c.suitLimits[kOne] = AllSuits({0, 3});
-       }},
-      {"Suit maxima add up to less than 13 in hand 2",
-       [](Constraints& c) {
-         c.suitLimits[kTwo] = AllSuits({3, 3});
-       }},
-      // ten and three cards: 10 + 9 points
-      {"",
-       [](Constraints& c) {
-         c.suitLimits[kOne].values = {{{0, 10}, {0, 3}, {0, 0}, {0, 0}}};
-         c.pointLimits[kOne].minimum = 19;
-       }},
-      {"Cannot have 20 points with the distribution for hand 1",
-       [](Constraints& c) {
-         c.suitLimits[kOne].values = {{{0, 10}, {0, 3}, {0, 0}, {0, 0}}};
-         c.pointLimits[kOne].minimum = 20;
-       }},
-      // what is greyed asks for nothing
-      {"",
-       [](Constraints& c) {
-         c.suitLimits[kOne] = AllSuits({4, 4});
-         c.suitLimits[kTwo] = AllSuits({0, 3});
-         c.useSuitLengths.fill(false);
-       }},
-      // 4 + 7 + 0 + 10
-      {"Cannot have 22 points with the distribution for hand 2",
-       [](Constraints& c) {
-         c.suitLimits[kTwo].values = {{{0, 1}, {0, 2}, {0, 0}, {0, 13}}};
-         c.pointLimits[kTwo].minimum = 22;
-       }},
-      {"",
-       [](Constraints& c) {
-         c.pointLimits.fill({20, 37});
-       }},
-      {"Too many minimum points between the 2 hands",
-       [](Constraints& c) {
-         c.pointLimits.values = {{{21, 37}, {20, 37}}};
-       }},
-      {"Too many Spades between the 2 hands",
-       [](Constraints& c) {
-         c.suitLimits[kOne][Suit::Spades].minimum = 7;
-         c.suitLimits[kTwo][Suit::Spades].minimum = 7;
-       }},
-      {"Too many Clubs between the 2 hands",
-       [](Constraints& c) {
-         c.suitLimits[kOne][Suit::Clubs].minimum = 12;
-         c.suitLimits[kTwo][Suit::Clubs].minimum = 2;
-       }},
-      {"Hand 2 is the same direction as hand 1", [](Constraints& c) { c.handDirection.fill(3); }},
-      {"Hand 2 is the same direction as hand 1",
-       [](Constraints& c) {
-         c.handDirection.fill(0);
-         c.relativeToDealer = true;
-       }},
-      // one hand: nothing of the second is looked at
-      {"",
-       [](Constraints& c) {
-         c.numGenHands = 1;
-         c.handDirection.fill(0);
-         c.suitLimits[kTwo] = AllSuits({4, 4});
-         c.pointLimits.fill({30, 37});
-       }},
-      // the first that applies
-      {"Suit minima add up to more than 13 in hand 1",
-       [](Constraints& c) {
-         c.suitLimits[kOne] = AllSuits({4, 2});
-         c.handDirection.fill(0);
-         c.pointLimits.fill({37, 37});
-       }},
-      {"Too many minimum points between the 2 hands",
-       [](Constraints& c) {
-         c.handDirection.fill(0);
-         c.pointLimits.fill({37, 37});
-       }},
-  };
-  for (const auto& c : kCases) {
-    Constraints constraints;
-    c.change(constraints);
-    EXPECT_EQ(CheckConstraints(constraints).value_or(Contradiction{}).text, c.message);
-  }
-}
-
-/// The most points of any 13 cards within the limits, suit by suit.
-int MostPointsWithin(const PerSuit<Limits>& limits, int suit = 0, int cards = kCardsInHand) {
-  constexpr std::array kPoints{0, 4, 7, 9, 10};
-  if (suit == kSuits) return cards == 0 ? 0 : -100;
-  const auto [lowest, highest] = limits[static_cast<Suit>(suit)];
-  int most = -100;
-  for (int length = lowest; length <= std::min(highest, cards); ++length) {
-    const int here = kPoints.at(static_cast<std::size_t>(std::min(length, 4)));
-    most = std::max(most, here + MostPointsWithin(limits, suit + 1, cards - length));
-  }
-  return most;
-}
-
-TEST(CheckConstraints, KnowsTheMostPointsOfATypesShapes) {
-  RandomSource random(15);
-  for (const HandType type : kAllHandTypes) {
-    int most = 0;
-    for (int shape = 0; shape < 200; ++shape) {
-      most = std::max(most, MostPointsWithin(ChooseHandType(type, 0, {}, random)));
-    }
-    Constraints constraints;
-    constraints.numGenHands = 1;
-    constraints.useSuitLengths[GenHand::First] = false;
-    constraints.handTypeIndex[GenHand::First] = type;
-    constraints.pointLimits[GenHand::First].minimum = most;
-    EXPECT_FALSE(CheckConstraints(constraints)) << HandTypes[type] << most;
-    constraints.pointLimits[GenHand::First].minimum = most + 1;
-    EXPECT_TRUE(CheckConstraints(constraints)) << HandTypes[type] << most;
-  }
-}
-
-TEST(CheckConstraints, PointsAtWhatToChange) {
-  constexpr GenHand kOne = GenHand::First;
-  constexpr GenHand kTwo = GenHand::Second;
-  using enum ConstraintPart;
-  const struct {
-    std::function<void(Constraints&)> change;
     GenHand hand;
     ConstraintPart part;
     Suit suit;
+    Asked first;
+    Asked second;
+    int hands = 2;
+    bool types = false;  // both hands go by a type
   } kCases[] = {
-      {[](Constraints& c) {
-         c.suitLimits[kTwo].values = {{{3, 13}, {2, 13}, {6, 13}, {4, 13}}};
-       },
-       kTwo, SuitMinima, Suit::Diamonds},
-      {[](Constraints& c) {
-         c.suitLimits[kOne].values = {{{0, 5}, {0, 4}, {0, 3}, {0, 0}}};
-       },
-       kOne, SuitMaxima, Suit::Clubs},
-      {[](Constraints& c) {
-         c.pointLimits.fill({21, 37});
-       },
-       kTwo, Points, Suit::Spades},
-      {[](Constraints& c) {
-         c.suitLimits[kOne][Suit::Hearts].minimum = 12;
-         c.suitLimits[kTwo][Suit::Hearts].minimum = 2;
-       },
-       kTwo, SuitMinima, Suit::Hearts},
-      {[](Constraints& c) { c.handDirection.fill(2); }, kTwo, Direction, Suit::Spades},
+      {"", {}, {}, {}, {}, {}},
+      {"", {}, {}, {}, {.suits = {{{4, 13}, {4, 13}, {4, 13}, {1, 13}}}}, {}},
+      {"", {}, {}, {}, {.suits = {{{0, 4}, {0, 4}, {0, 4}, {0, 1}}}}, {}},
+      {"Suit minima add up to more than 13 in hand 1",
+       kOne,
+       SuitMinima,
+       Suit::Diamonds,
+       {.suits = {{{3, 13}, {3, 13}, {5, 13}, {3, 13}}}},
+       {}},
+      {"Suit minima add up to more than 13 in hand 2",
+       kTwo,
+       SuitMinima,
+       Suit::Spades,
+       {},
+       AllSuits({4, 13})},
+      {"Suit maxima add up to less than 13 in hand 1",
+       kOne,
+       SuitMaxima,
+       Suit::Clubs,
+       {.suits = {{{0, 5}, {0, 4}, {0, 3}, {}}}},
+       {}},
+      {"Suit maxima add up to less than 13 in hand 2",
+       kTwo,
+       SuitMaxima,
+       Suit::Spades,
+       {},
+       AllSuits({3, 3})},
+      {"", {}, {}, {}, twoSuits, {}},  // ten and three cards: 10 + 9 points
+      {"Cannot have 20 points with the distribution for hand 1",
+       kOne,
+       Points,
+       {},
+       twentyPoints,
+       {}},
+      {"Cannot have 22 points with the distribution for hand 2",
+       kTwo,
+       Points,
+       {},
+       {},
+       {.suits = {{{0, 1}, {0, 2}, {}, {0, 13}}}, .points = {22, 37}}},  // 4 + 7 + 0 + 10
+      {"", {}, {}, {}, AllSuits({4, 4}), AllSuits({0, 3}), 2, true},
+      {"", {}, {}, {}, {.points = {20, 37}}, {.points = {20, 37}}},
+      {"Too many minimum points between the 2 hands",
+       kTwo,
+       Points,
+       {},
+       {.points = {21, 37}},
+       {.points = {20, 37}}},
+      {"",
+       {},
+       {},
+       {},
+       {.suits = {{{7, 13}, {0, 13}, {0, 13}, {0, 13}}}},
+       {.suits = {{{6, 13}, {0, 13}, {0, 13}, {0, 13}}}}},
+      {"Too many Clubs between the 2 hands",
+       kTwo,
+       SuitMinima,
+       Suit::Clubs,
+       {.suits = {{{0, 13}, {0, 13}, {0, 13}, {12, 13}}}},
+       {.suits = {{{0, 13}, {0, 13}, {0, 13}, {2, 13}}}}},
+      {"Hand 2 is the same direction as hand 1", kTwo, Direction, {}, {.direction = 1}, {}},
+      {"", {}, {}, {}, {.direction = 1}, AllSuits({4, 4}, {30, 37}), 1},  // only one hand
+      {"Suit minima add up to more than 13 in hand 1",
+       kOne,
+       SuitMinima,
+       Suit::Spades,
+       AllSuits({4, 2}, {37, 37}),
+       {.points = {37, 37}}},  // before all others
   };
   for (const auto& c : kCases) {
+    Constraints constraints = Asking(c.first, c.second);
+    constraints.useSuitLengths.fill(!c.types);
+    constraints.numGenHands = c.hands;
+    const Contradiction found = CheckConstraints(constraints).value_or(Contradiction{});
+    EXPECT_EQ(found.text, c.message);
+    EXPECT_TRUE(found.hand == c.hand && found.part == c.part && found.suit == c.suit) << c.message;
+  }
+}
+
+TEST(CheckConstraints, KnowsTheMostPointsOfATypesShapes) {
+  const EnumArray<HandType, int, kHandTypes> most{{10 + 9 + 9 + 9,    // 4-3-3-3
+                                                   10 + 9 + 7 + 7,    // 6-3-2-2
+                                                   10 + 10 + 10 + 4,  // 4-4-4-1
+                                                   10 + 7 + 7 + 7}};  // 7-2-2-2
+  for (const HandType type : kAllHandTypes) {
     Constraints constraints;
-    c.change(constraints);
-    const auto found = CheckConstraints(constraints);
-    ASSERT_TRUE(found);
-    EXPECT_EQ(found->hand, c.hand) << found->text;
-    EXPECT_EQ(found->part, c.part) << found->text;
-    EXPECT_EQ(found->suit, c.suit) << found->text;
+    constraints.useSuitLengths[kTwo] = false;
+    constraints.handTypeIndex[kTwo] = type;
+    for (const int points : {most[type], most[type] + 1}) {
+      constraints.pointLimits[kTwo].minimum = points;
+      EXPECT_EQ(CheckConstraints(constraints).has_value(), points > most[type]) << HandTypes[type];
+    }
+  }
+}
+
+TEST(MeetsConstraints, LooksAtPointsAndLengthsOfTheConstrainedHands) {
+  // North has 13 points, East 17.
+  const HandTable hands =
+      test::HandsOf("N:AKQ2.A432.432.32 JT9876.KQJ.KQ.KQ 543.T98.JT98.JT4 .765.A765.A98765");
+  const struct {
+    bool meets;
+    Asked first;
+    Asked second;
+    int hands = 2;
+  } kCases[] = {
+      {true, {.points = {13, 13}}, {.points = {17, 17}}},
+      {false, {.points = {14, 37}}, {}},
+      {false, {.points = {0, 12}}, {}},
+      {false, {}, {.points = {18, 37}}},
+      {true, {}, {.points = {18, 37}}, 1},
+      {true, {.suits = {{{4, 4}, {4, 4}, {3, 3}, {2, 2}}}}, {}},
+      {false, {.suits = {{{4, 4}, {4, 4}, {3, 3}, {3, 3}}}}, {}},
+      {false, {.suits = {{{0, 3}, {0, 4}, {0, 3}, {0, 3}}}}, {}},
+  };
+  for (const auto& c : kCases) {
+    Constraints constraints = Asking(c.first, c.second);
+    constraints.numGenHands = c.hands;
+    EXPECT_EQ(MeetsConstraints(constraints, hands, Seat::West), c.meets) << &c - kCases;
+  }
+  Constraints balanced = Asking({.points = {13, 37}}, {});
+  balanced.useSuitLengths[kOne] = false;
+  EXPECT_TRUE(MeetsConstraints(balanced, hands, Seat::East));
+  balanced.relativeToDealer = true;  // East is no balanced hand
+  EXPECT_FALSE(MeetsConstraints(balanced, hands, Seat::East));
+  EXPECT_EQ(SeatOf(balanced, kTwo, Seat::West), Seat::North);
+}
+
+TEST(IsOfType, KnowsTheShapes) {
+  const struct {
+    HandType type;
+    int option;
+    PerSuit<int> lengths;
+    bool is;
+  } kCases[] = {{HandType::Balanced, 0, {{5, 3, 3, 2}}, true},
+                {HandType::Balanced, 1, {{5, 3, 3, 2}}, false},
+                {HandType::Balanced, 1, {{3, 2, 3, 5}}, true},
+                {HandType::Balanced, 0, {{4, 4, 4, 1}}, false},
+                {HandType::Weak2, 0, {{1, 6, 5, 1}}, true},
+                {HandType::Weak2, 0, {{3, 2, 6, 2}}, false},
+                {HandType::Weak2, 1, {{3, 2, 6, 2}}, true},
+                {HandType::Weak2, 1, {{3, 2, 2, 6}}, false},
+                {HandType::FourFourFourOne, 0, {{4, 1, 4, 4}}, true},
+                {HandType::FourFourFourOne, 0, {{4, 4, 3, 2}}, false},
+                {HandType::Preempt, 0, {{1, 2, 3, 7}}, true},
+                {HandType::Preempt, 0, {{6, 6, 1, 0}}, false}};
+  for (const auto& c : kCases) {
+    EXPECT_EQ(IsOfType(c.type, c.option, c.lengths), c.is) << &c - kCases;
   }
 }
 

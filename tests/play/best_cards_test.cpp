@@ -1,14 +1,15 @@
 #include "play/best_cards.h"
 
 #include <algorithm>
-#include <numeric>
-#include <random>
+#include <array>
 
 #include <gtest/gtest.h>
 
 #include "analysis/solver_library.h"
+#include "generate/deal.h"
 #include "tests/support/calls.h"
 #include "tests/support/scripted_host.h"
+#include "tests/support/thorough.h"
 
 namespace tricklet {
 namespace {
@@ -19,6 +20,11 @@ std::vector<Card> Legal(const CardPlay& play) {
     if (play.IsLegal(Card::FromIndex(index))) cards.push_back(Card::FromIndex(index));
   }
   return cards;
+}
+
+void PlayAny(CardPlay& play, RandomSource& random) {
+  const std::vector<Card> cards = Legal(play);
+  ASSERT_TRUE(play.Play(cards[random.Below(static_cast<std::uint32_t>(cards.size()))]));
 }
 
 /// Tricks of North-South in the end when both sides go on as well as can be, tried card by card.
@@ -35,42 +41,23 @@ int TricksByTrying(CardPlay& play) {
   return best;
 }
 
-class BestCardsTest : public testing::Test {
- protected:
-  void Deal(std::mt19937& random, const char* auction) {
-    std::vector<int> pack(kCardsInPack);
-    std::iota(pack.begin(), pack.end(), 0);
-    std::shuffle(pack.begin(), pack.end(), random);
-    board = Board();
-    for (std::size_t i = 0; i < pack.size(); ++i) {
-      AddCard(board.hands, Card::FromIndex(pack[i]), static_cast<Seat>(i % 4));
-    }
-    test::SetAuction(board, auction);
-    ASSERT_TRUE(play.Start());
-  }
-  void PlayAny(std::mt19937& random) {
-    const std::vector<Card> cards = Legal(play);
-    ASSERT_FALSE(cards.empty());
-    ASSERT_TRUE(play.Play(cards[random() % cards.size()]));
-  }
-
-  Board board;
-  test::ScriptedHost host;
-  NoTimer timer;
-  CardPlay play{board, host, timer};
-};
-
-TEST_F(BestCardsTest, AgreeWithTryingEveryCardInTheLastTricks) {
+TEST(BestCards, AgreeWithTryingEveryCardInTheLastTricks) {
   const auto solver = LoadSolver({});
   ASSERT_EQ(solver->Missing(), "");
-  std::mt19937 random(20);
+  RandomSource random(20);
   constexpr int kLastCards = 12;  // three tricks
-  for (int deal = 0; deal < 20; ++deal) {
-    const char* const auctions[] = {"1NT P P P", "1S P P P", "1H P P P", "P 1D P P P",
-                                    "P 1C P P P"};
-    ASSERT_NO_FATAL_FAILURE(Deal(random, auctions[deal % 5]));
-    while (play.UndoTop() < kCardsInPack - kLastCards) ASSERT_NO_FATAL_FAILURE(PlayAny(random));
-    for (; !play.Finished(); PlayAny(random)) {
+  constexpr std::array kAuctions{"1NT P P P", "1S P P P", "1H P P P", "P 1D P P P", "P 1C P P P"};
+  for (int deal = 0; deal < test::Repetitions(50); ++deal) {
+    const char* const auction = kAuctions.at(static_cast<std::size_t>(deal % 5));
+    Board board;
+    ASSERT_TRUE(Random(board.hands, random));
+    test::SetAuction(board, auction);
+    test::ScriptedHost host;
+    NoTimer timer;
+    CardPlay play(board, host, timer);
+    ASSERT_TRUE(play.Start());
+    while (play.UndoTop() < kCardsInPack - kLastCards) PlayAny(play, random);
+    for (; !play.Finished(); PlayAny(play, random)) {
       const Side side = SideOf(*play.Now().onPlay);
       const auto position = PositionOf(play.Now(), board.trumps);
       ASSERT_TRUE(position);
@@ -80,7 +67,7 @@ TEST_F(BestCardsTest, AgreeWithTryingEveryCardInTheLastTricks) {
         ASSERT_TRUE(play.Play(score.card));
         const int ours = TricksByTrying(play);
         EXPECT_EQ(score.tricks, side == Side::NorthSouth ? ours : kTricks - ours)
-            << "deal " << deal << ", card " << play.UndoTop();
+            << auction << ", card " << play.UndoTop();
         play.Undo();
       }
     }

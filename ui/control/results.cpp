@@ -70,7 +70,7 @@ void Results::PreviousTrick() {
 
 void Results::PlayCard(Card card) {
   Step([&](Replay& replay) {
-    if (!replay.Follow(card)) session_.host.Beep();
+    if (!replay.ForwardBy(card)) session_.host.Beep();
   });
 }
 
