@@ -1,5 +1,6 @@
 #include "analysis/get_dds.h"
 
+#include <algorithm>
 #include <fstream>
 #include <sstream>
 
@@ -12,6 +13,7 @@
 #include "tests/support/fake_solver.h"
 #include "tests/support/hands.h"
 #include "tests/support/scripted_host.h"
+#include "tests/support/thorough.h"
 
 namespace tricklet {
 namespace {
@@ -69,10 +71,11 @@ TEST(SolverLibrary, AgreesWithPublishedTables) {
   const auto solver = LoadSolver({});
   ASSERT_EQ(solver->Missing(), "");
   std::ifstream file(TRICKLET_TEST_DATA "/double_dummy.txt");
+  const auto most = static_cast<std::size_t>(std::max(2, test::Repetitions(10)));
   std::vector<HandTable> deals;
   std::vector<MakeableTable> expected;
   for (std::string line; std::getline(file, line);) {
-    if (line.empty() || line[0] == '#') continue;
+    if (line.empty() || line[0] == '#' || deals.size() == most) continue;
     deals.push_back(HandsOf(line.substr(0, line.find(';'))));
     std::istringstream numbers(line.substr(line.find(';') + 1));
     MakeableTable table;
@@ -83,7 +86,7 @@ TEST(SolverLibrary, AgreesWithPublishedTables) {
     ASSERT_TRUE(numbers) << line;
     expected.push_back(table);
   }
-  ASSERT_GE(deals.size(), 10U);
+  ASSERT_EQ(deals.size(), most);
   std::string failure;
   EXPECT_EQ(SolveDeals(*solver, deals, failure), expected);
   EXPECT_EQ(failure, "");
@@ -95,30 +98,6 @@ TEST(SolverLibrary, AgreesWithPublishedTables) {
   Board read;
   ASSERT_TRUE(ReadBoardText(WriteBoardText(board), read, TableReading::Always));
   EXPECT_EQ(read.makeable, expected[0]);
-}
-
-TEST(SolverLibrary, TellsTheTricksOfEachCard) {
-  const auto solver = LoadSolver({});
-  // Each seat holds one suit; spades are trumps: the lead does not matter.
-  SolverPosition position;
-  position.trumps = Strain::Spades;
-  position.leader = Seat::East;
-  for (const Seat seat : kAllSeats) {
-    position.cardsLeft[seat][static_cast<Suit>(seat)] = Holding::FromBits(Holding::kAllBits);
-  }
-  const auto leads = solver->SolveCards(position);
-  ASSERT_EQ(leads.size(), 13U);
-  for (const CardScore& lead : leads) {
-    EXPECT_EQ(lead.card.suit, Suit::Hearts);
-    EXPECT_EQ(lead.tricks, 0);
-  }
-  position.leader = Seat::West;
-  position.trick = {{Suit::Clubs, Rank::Ace}};
-  position.cardsLeft[Seat::West][Suit::Clubs].Remove(Rank::Ace);
-  const auto ruffs = solver->SolveCards(position);
-  ASSERT_EQ(ruffs.size(), 13U);
-  EXPECT_EQ(ruffs[0].card.suit, Suit::Spades);
-  EXPECT_EQ(ruffs[0].tricks, 13);
 }
 
 }  // namespace

@@ -120,26 +120,19 @@ TEST_F(CommandLine, MakesARootThatIsNamedButNoOther) {
 }
 
 TEST_F(CommandLine, WrongUsageIsTwo) {
-  struct Case {
-    std::vector<std::string> arguments;
+  const struct {
+    const char* line;
     const char* told;
-  };
-  const std::vector<Case> kWrong{{{}, "A subcommand is required"},
-                                 {{"unknown"}, "unknown"},
-                                 {{"autcion", "1"}, "autcion 1"},
-                                 {{"--unknown"}, "--unknown"},
-                                 {{"library", "unknown"}, "unknown"},
-                                 {{"import", "--unknown"}, "--unknown"},
-                                 {{"show"}, "N is required"},
-                                 {{"show", "0"}, "1 to 999"},
-                                 {{"show", "1000"}, "1 to 999"},
-                                 {{"show", "x"}, "1 to 999"},
-                                 {{"import"}, "FILE is required"},
-                                 {{"--yes", "--no", "boards"}, "excludes"},
-                                 {{"export", "1", "2"}, "FILE is required"}};
-  for (const auto& [arguments, told] : kWrong) {
-    EXPECT_EQ(Run(arguments), 2) << told;
-    EXPECT_NE(err.find(told), std::string::npos) << err;
+  } kWrong[] = {{"", "A subcommand is required"},  {"unknown", "unknown"},
+                {"autcion 1", "autcion 1"},        {"--unknown", "--unknown"},
+                {"library unknown", "unknown"},    {"import --unknown", "--unknown"},
+                {"show", "N is required"},         {"show 0", "1 to 999"},
+                {"show 1000", "1 to 999"},         {"show x", "1 to 999"},
+                {"import", "FILE is required"},    {"--yes --no boards", "excludes"},
+                {"export 1 2", "FILE is required"}};
+  for (const auto& c : kWrong) {
+    EXPECT_EQ(RunLine(c.line), 2) << c.line;
+    EXPECT_NE(err.find(c.told), std::string::npos) << err;
   }
   EXPECT_EQ(RunBare({"--help"}), 0);
   EXPECT_NE(out, "");
@@ -156,20 +149,17 @@ TEST_F(CommandLine, AuctionsAreShownReplacedOrRefused) {
   EXPECT_EQ(Run({"auction", "7"}), 0);
   EXPECT_NE(out.find("1NT by South"), std::string::npos) << out;
   const struct {
-    std::vector<std::string> calls;
+    const char* calls;
     const char* message;
-  } kRefused[] = {
-      {{"1s", "1h"}, "1H by West: the bid is not sufficient\n"},
-      {{"1s", "xx"}, "Rdbl by West: there is no double of the opponents to redouble\n"},
-      {{"x"}, "Dbl by South: there is no bid of the opponents to double\n"},
-      {{"1s", "p", "p", "p", "p"}, "Pass by South: the auction is over\n"},
-      {{"1s", "p"}, "The auction is not complete: North is to call\n"},
-      {{"1s", "huh"}, "huh is no call\n"},
-  };
+  } kRefused[] = {{"1s 1h", "1H by West: the bid is not sufficient\n"},
+                  {"1s xx", "Rdbl by West: there is no double of the opponents to redouble\n"},
+                  {"1s x x", "Dbl by North: the bid is doubled already\n"},
+                  {"x", "Dbl by South: there is no bid of the opponents to double\n"},
+                  {"1s p p p p", "Pass by South: the auction is over\n"},
+                  {"1s p", "The auction is not complete: North is to call\n"},
+                  {"1s huh", "huh is no call\n"}};
   for (const auto& c : kRefused) {
-    std::vector<std::string> arguments{"--yes", "auction", "7"};
-    arguments.insert(arguments.end(), c.calls.begin(), c.calls.end());
-    EXPECT_EQ(Run(arguments), 1);
+    EXPECT_EQ(RunLine("--yes auction 7 " + std::string(c.calls)), 1);
     EXPECT_EQ(err, c.message);
   }
   EXPECT_EQ(Run({"--yes", "auction", "7", "1h", "x", "xx", "ap"}), 0);
@@ -181,43 +171,34 @@ TEST_F(CommandLine, AuctionsAreShownReplacedOrRefused) {
 
 TEST_F(CommandLine, PlaysCards) {
   ASSERT_EQ(Run({"import", File("in.pbn")}), 0);
-  EXPECT_EQ(Run({"play", "7", "sk", "S3", "s9", "SQ", "h10", "HA"}), 0);
-  EXPECT_EQ(Run({"play", "7", "sk", "S3", "s9", "SQ", "st"}), 1);
+  EXPECT_EQ(RunLine("play 7 sk S3 s9 SQ h10 HA"), 0);
+  EXPECT_EQ(RunLine("play 7 sk S3 s9 SQ st"), 1);
   EXPECT_EQ(err, "♠10 cannot be played by West now\n");
-  EXPECT_EQ(Run({"play", "7", "sk", "S3", "s9", "SQ", "HT", "--undo", "1", "--claim", "w"}), 0);
-  EXPECT_EQ(Run({"play", "7", "sk", "S8", "--undo", "1"}), 0);
-  EXPECT_NE(out.find("West played ♠K\nNorth is on play\n"), std::string::npos) << out;
-  EXPECT_EQ(Run({"play", "7", "--claim", "west"}), 0);
+  EXPECT_EQ(RunLine("play 7 sk S3 s9 SQ HT --undo 1 --claim w"), 0);
+  const std::string oneCard = "West played ♠K\nNorth is on play\n";
+  for (const char* line : {"play 7 sk S8 --undo 1", "play 7 sk --claim north --undo 1"}) {
+    EXPECT_EQ(RunLine(line), 0);
+    EXPECT_NE(out.find(oneCard), std::string::npos) << out;
+  }
+  EXPECT_EQ(RunLine("play 7 --claim west"), 0);
   EXPECT_NE(out.find("1NT-7 by South : EW +700\n"), std::string::npos) << out;
-  EXPECT_EQ(Run({"play", "7", "sk", "--claim", "north", "--undo", "1"}), 0);
-  EXPECT_NE(out.find("West played ♠K\nNorth is on play\n"), std::string::npos) << out;
-  EXPECT_EQ(Run({"play", "7", "sk", "--claim", "north", "--undo", "3"}), 1);
+  EXPECT_EQ(RunLine("play 7 sk --claim north --undo 3"), 1);
   EXPECT_EQ(err, "Not so many cards were played\n");
-  EXPECT_EQ(Run({"play", "7", "--claim", "north"}), 1);
+  EXPECT_EQ(RunLine("play 7 --claim north"), 1);
   EXPECT_EQ(err, "North is not on play\n");
 }
 
 TEST_F(CommandLine, Scores) {
-  const struct {
-    std::vector<std::string> arguments;
-    const char* line;
-  } kCases[] = {
-      {{"4Sx", "N", "9", "--board", "5"}, "4Sx-1 by North : EW +200\n"},
-      {{"3nt", "south", "9", "--vul", "none"}, "3NT= by South : NS +400\n"},
-      {{"1c**", "e", "7"}, "1Cxx= by East : EW +230\n"},
-      {{"6N", "W", "12", "--vul", "ALL"}, "6NT= by West : EW +1440\n"},
-  };
-  for (const auto& c : kCases) {
-    std::vector<std::string> arguments{"score"};
-    arguments.insert(arguments.end(), c.arguments.begin(), c.arguments.end());
-    EXPECT_EQ(RunBare(arguments), 0) << err;
-    EXPECT_EQ(out, c.line);
+  EXPECT_EQ(RunLine("score 4Sx N 9 --board 5"), 0);
+  EXPECT_EQ(out, "4Sx-1 by North : EW +200\n");
+  EXPECT_EQ(RunLine("score 1c** e 7"), 0);
+  EXPECT_EQ(out, "1Cxx= by East : EW +230\n");
+  EXPECT_EQ(RunLine("score 6N West 12 --vul ALL"), 0);
+  EXPECT_EQ(out, "6NT= by West : EW +1440\n");
+  for (const char* refused : {"score 8S N 9", "score 4S Q 9"}) EXPECT_EQ(RunLine(refused), 1);
+  for (const char* wrong : {"score 4S N 14", "score 4S N 9 --board 1 --vul all"}) {
+    EXPECT_EQ(RunLine(wrong), 2);
   }
-  EXPECT_EQ(RunBare({"score", "8S", "N", "9"}), 1);
-  EXPECT_EQ(RunBare({"score", "4Sxxx", "N", "9"}), 1);
-  EXPECT_EQ(RunBare({"score", "4S", "Q", "9"}), 1);
-  EXPECT_EQ(RunBare({"score", "4S", "N", "14"}), 2);
-  EXPECT_EQ(RunBare({"score", "4S", "N", "9", "--board", "1", "--vul", "all"}), 2);
 }
 
 TEST_F(CommandLine, SettingsAreListedReadAndWritten) {

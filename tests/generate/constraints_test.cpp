@@ -56,101 +56,69 @@ Constraints Asking(const Asked& first, const Asked& second) {
   return constraints;
 }
 
-constexpr Asked AllSuits(Limits limits, Limits points = {0, 37}) {
-  return {.suits = {limits, limits, limits, limits}, .points = points};
+constexpr Asked Min(int spades, int hearts, int diamonds, int clubs, int points = 0) {
+  return {{{{spades, 13}, {hearts, 13}, {diamonds, 13}, {clubs, 13}}}, {points, 37}};
+}
+
+constexpr Asked Max(int spades, int hearts, int diamonds, int clubs, int points = 0) {
+  return {{{{0, spades}, {0, hearts}, {0, diamonds}, {0, clubs}}}, {points, 37}};
 }
 
 TEST(CheckConstraints, TellsTheFirstContradictionAndItsPlace) {
   using enum ConstraintPart;
-  const Asked twoSuits{.suits = {{{0, 10}, {0, 3}, {}, {}}}, .points = {19, 37}};
-  Asked twentyPoints = twoSuits;
-  twentyPoints.points.minimum = 20;
+  constexpr Suit kNone = Suit::Spades;
+  const Asked east{.direction = 1};
   const struct {
-    const char* message;  // empty: accepted
-    GenHand hand;
-    ConstraintPart part;
-    Suit suit;
     Asked first;
     Asked second;
+    Contradiction expected;  // no text: accepted
     int hands = 2;
     bool types = false;  // both hands go by a type
   } kCases[] = {
-      {"", {}, {}, {}, {}, {}},
-      {"", {}, {}, {}, {.suits = {{{4, 13}, {4, 13}, {4, 13}, {1, 13}}}}, {}},
-      {"", {}, {}, {}, {.suits = {{{0, 4}, {0, 4}, {0, 4}, {0, 1}}}}, {}},
-      {"Suit minima add up to more than 13 in hand 1",
-       kOne,
-       SuitMinima,
-       Suit::Diamonds,
-       {.suits = {{{3, 13}, {3, 13}, {5, 13}, {3, 13}}}},
-       {}},
-      {"Suit minima add up to more than 13 in hand 2",
-       kTwo,
-       SuitMinima,
-       Suit::Spades,
+      {{}, {}, {}},
+      {Min(4, 4, 4, 1), Max(4, 4, 4, 1), {}},
+      {Min(3, 3, 5, 3),
        {},
-       AllSuits({4, 13})},
-      {"Suit maxima add up to less than 13 in hand 1",
-       kOne,
-       SuitMaxima,
-       Suit::Clubs,
-       {.suits = {{{0, 5}, {0, 4}, {0, 3}, {}}}},
-       {}},
-      {"Suit maxima add up to less than 13 in hand 2",
-       kTwo,
-       SuitMaxima,
-       Suit::Spades,
+       {"Suit minima add up to more than 13 in hand 1", kOne, SuitMinima, Suit::Diamonds}},
+      {{},
+       Min(4, 4, 4, 4),
+       {"Suit minima add up to more than 13 in hand 2", kTwo, SuitMinima, Suit::Spades}},
+      {Max(5, 4, 3, 0),
        {},
-       AllSuits({3, 3})},
-      {"", {}, {}, {}, twoSuits, {}},  // ten and three cards: 10 + 9 points
-      {"Cannot have 20 points with the distribution for hand 1",
-       kOne,
-       Points,
+       {"Suit maxima add up to less than 13 in hand 1", kOne, SuitMaxima, Suit::Clubs}},
+      {{},
+       Max(3, 3, 3, 3),
+       {"Suit maxima add up to less than 13 in hand 2", kTwo, SuitMaxima, Suit::Spades}},
+      {Max(10, 3, 0, 0, 19), {}, {}},  // 10 + 9
+      {Max(10, 3, 0, 0, 20),
        {},
-       twentyPoints,
-       {}},
-      {"Cannot have 22 points with the distribution for hand 2",
-       kTwo,
-       Points,
-       {},
-       {},
-       {.suits = {{{0, 1}, {0, 2}, {}, {0, 13}}}, .points = {22, 37}}},  // 4 + 7 + 0 + 10
-      {"", {}, {}, {}, AllSuits({4, 4}), AllSuits({0, 3}), 2, true},
-      {"", {}, {}, {}, {.points = {20, 37}}, {.points = {20, 37}}},
-      {"Too many minimum points between the 2 hands",
-       kTwo,
-       Points,
-       {},
-       {.points = {21, 37}},
-       {.points = {20, 37}}},
-      {"",
-       {},
-       {},
-       {},
-       {.suits = {{{7, 13}, {0, 13}, {0, 13}, {0, 13}}}},
-       {.suits = {{{6, 13}, {0, 13}, {0, 13}, {0, 13}}}}},
-      {"Too many Clubs between the 2 hands",
-       kTwo,
-       SuitMinima,
-       Suit::Clubs,
-       {.suits = {{{0, 13}, {0, 13}, {0, 13}, {12, 13}}}},
-       {.suits = {{{0, 13}, {0, 13}, {0, 13}, {2, 13}}}}},
-      {"Hand 2 is the same direction as hand 1", kTwo, Direction, {}, {.direction = 1}, {}},
-      {"", {}, {}, {}, {.direction = 1}, AllSuits({4, 4}, {30, 37}), 1},  // only one hand
-      {"Suit minima add up to more than 13 in hand 1",
-       kOne,
-       SuitMinima,
-       Suit::Spades,
-       AllSuits({4, 2}, {37, 37}),
-       {.points = {37, 37}}},  // before all others
-  };
+       {"Cannot have 20 points with the distribution for hand 1", kOne, Points, kNone}},
+      {{},
+       Max(1, 2, 0, 13, 22),
+       {"Cannot have 22 points with the distribution for hand 2", kTwo, Points, kNone}},
+      {Min(4, 4, 4, 4), Max(3, 3, 3, 3), {}, 2, true},
+      {Min(0, 0, 0, 0, 20), Min(0, 0, 0, 0, 20), {}},
+      {Min(0, 0, 0, 0, 21),
+       Min(0, 0, 0, 0, 20),
+       {"Too many minimum points between the 2 hands", kTwo, Points, kNone}},
+      {Min(7, 0, 0, 0), Min(6, 0, 0, 0), {}},
+      {Min(0, 0, 0, 12),
+       Min(0, 0, 0, 2),
+       {"Too many Clubs between the 2 hands", kTwo, SuitMinima, Suit::Clubs}},
+      {east, {}, {"Hand 2 is the same direction as hand 1", kTwo, Direction, kNone}},
+      {east, Min(4, 4, 4, 4, 30), {}, 1},
+      {Min(4, 4, 4, 4, 37),
+       Max(3, 3, 3, 3, 37),
+       {"Suit minima add up to more than 13 in hand 1", kOne, SuitMinima, kNone}}};
   for (const auto& c : kCases) {
     Constraints constraints = Asking(c.first, c.second);
     constraints.useSuitLengths.fill(!c.types);
     constraints.numGenHands = c.hands;
     const Contradiction found = CheckConstraints(constraints).value_or(Contradiction{});
-    EXPECT_EQ(found.text, c.message);
-    EXPECT_TRUE(found.hand == c.hand && found.part == c.part && found.suit == c.suit) << c.message;
+    EXPECT_EQ(found.text, c.expected.text);
+    EXPECT_TRUE(found.hand == c.expected.hand && found.part == c.expected.part &&
+                found.suit == c.expected.suit)
+        << found.text;
   }
 }
 
@@ -179,16 +147,14 @@ TEST(MeetsConstraints, LooksAtPointsAndLengthsOfTheConstrainedHands) {
     Asked first;
     Asked second;
     int hands = 2;
-  } kCases[] = {
-      {true, {.points = {13, 13}}, {.points = {17, 17}}},
-      {false, {.points = {14, 37}}, {}},
-      {false, {.points = {0, 12}}, {}},
-      {false, {}, {.points = {18, 37}}},
-      {true, {}, {.points = {18, 37}}, 1},
-      {true, {.suits = {{{4, 4}, {4, 4}, {3, 3}, {2, 2}}}}, {}},
-      {false, {.suits = {{{4, 4}, {4, 4}, {3, 3}, {3, 3}}}}, {}},
-      {false, {.suits = {{{0, 3}, {0, 4}, {0, 3}, {0, 3}}}}, {}},
-  };
+  } kCases[] = {{true, {.points = {13, 13}}, {.points = {17, 17}}},
+                {false, {.points = {14, 37}}, {}},
+                {false, {.points = {0, 12}}, {}},
+                {false, {}, {.points = {18, 37}}},
+                {true, {}, {.points = {18, 37}}, 1},
+                {true, Min(4, 4, 3, 2), Max(6, 3, 2, 2)},
+                {false, Min(4, 4, 3, 3), {}},
+                {false, Max(3, 4, 4, 4), {}}};
   for (const auto& c : kCases) {
     Constraints constraints = Asking(c.first, c.second);
     constraints.numGenHands = c.hands;
@@ -203,23 +169,19 @@ TEST(MeetsConstraints, LooksAtPointsAndLengthsOfTheConstrainedHands) {
 }
 
 TEST(IsOfType, KnowsTheShapes) {
+  using enum HandType;
   const struct {
     HandType type;
     int option;
     PerSuit<int> lengths;
     bool is;
-  } kCases[] = {{HandType::Balanced, 0, {{5, 3, 3, 2}}, true},
-                {HandType::Balanced, 1, {{5, 3, 3, 2}}, false},
-                {HandType::Balanced, 1, {{3, 2, 3, 5}}, true},
-                {HandType::Balanced, 0, {{4, 4, 4, 1}}, false},
-                {HandType::Weak2, 0, {{1, 6, 5, 1}}, true},
-                {HandType::Weak2, 0, {{3, 2, 6, 2}}, false},
-                {HandType::Weak2, 1, {{3, 2, 6, 2}}, true},
-                {HandType::Weak2, 1, {{3, 2, 2, 6}}, false},
-                {HandType::FourFourFourOne, 0, {{4, 1, 4, 4}}, true},
-                {HandType::FourFourFourOne, 0, {{4, 4, 3, 2}}, false},
-                {HandType::Preempt, 0, {{1, 2, 3, 7}}, true},
-                {HandType::Preempt, 0, {{6, 6, 1, 0}}, false}};
+  } kCases[] = {
+      {Balanced, 0, {{5, 3, 3, 2}}, true},        {Balanced, 1, {{5, 3, 3, 2}}, false},
+      {Balanced, 1, {{3, 2, 3, 5}}, true},        {Balanced, 0, {{4, 4, 4, 1}}, false},
+      {Weak2, 0, {{1, 6, 5, 1}}, true},           {Weak2, 0, {{3, 2, 6, 2}}, false},
+      {Weak2, 1, {{3, 2, 6, 2}}, true},           {Weak2, 1, {{3, 2, 2, 6}}, false},
+      {FourFourFourOne, 0, {{4, 1, 4, 4}}, true}, {FourFourFourOne, 0, {{4, 4, 3, 2}}, false},
+      {Preempt, 0, {{1, 2, 3, 7}}, true},         {Preempt, 0, {{6, 6, 1, 0}}, false}};
   for (const auto& c : kCases) {
     EXPECT_EQ(IsOfType(c.type, c.option, c.lengths), c.is) << &c - kCases;
   }
