@@ -43,13 +43,26 @@ bool DealBoard(Session& session, int number, const Constraints& constraints,
   }
 }
 
+/// Stores the current board; a file that is marked read-only stays as it is, with a message.
+bool StoreDeal(Session& session) {
+  try {
+    StoreBoard(session);
+    return true;
+  } catch (const Fault& fault) {
+    if (!IsReadOnly(session.BoardPath(session.board.boardNumber))) throw;
+    session.host.Tell(fault.Description());
+    return false;
+  }
+}
+
 void DealRange(Session& session, const Constraints& constraints, const GenerateOptions& options,
                GenerateOutcome& outcome) {
   const auto [first, last] = constraints.genBoards;
   for (int number = first; number <= last; ++number) {
     outcome.cancelled = !DealBoard(session, number, constraints, options);
     if (outcome.cancelled) return;
-    StoreBoard(session);
+    outcome.failed = !StoreDeal(session);
+    if (outcome.failed) return;
     ++outcome.boardsStored;
     const Board& board = session.board;
     if (!MeetsConstraints(constraints, board.hands, board.Dealer())) {
@@ -64,7 +77,7 @@ void DealAndAnalyse(Session& session, const Constraints& constraints,
   const BatchScope batch(session);
   const WorkScope work(session.host);
   DealRange(session, constraints, options, outcome);
-  if (!options.analyse || outcome.cancelled || !session.getSolver) return;
+  if (!options.analyse || outcome.cancelled || outcome.failed || !session.getSolver) return;
   const auto [first, last] = constraints.genBoards;
   outcome.tables = AnalyseBoards(session, session.getSolver(), first, last, false);
 }

@@ -38,8 +38,9 @@ std::string GenerateText(const GenerateOutcome& outcome);
 
 /// Fills the boards `genBoards` of the current library with deals, and then loads the first of
 /// them. Asks before about unsaved changes, and once about overwriting; tells `GenerateText` after.
-/// Each deal is the session's board while the host has its step, and is stored after that. The
-/// constraints must be such that `CheckConstraints` accepts them.
+/// Each deal is the session's board while the host has its step, and is stored after that. A board
+/// that cannot be stored ends the run; those before it stay. The constraints must be such that
+/// `CheckConstraints` accepts them.
 GenerateOutcome Generate(Session& session, const Constraints& constraints,
                          const GenerateOptions& options = {});
 

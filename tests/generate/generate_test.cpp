@@ -149,6 +149,13 @@ TEST_F(GenerateRun, TablesAreComputedInBatchesOnceAllBoardsAreStored) {
 }
 
 TEST_F(GenerateRun, ABoardThatCannotBeStoredEndsTheRun) {
+  PutBoard(12);
+  const auto path = session.BoardPath(12);
+  std::filesystem::permissions(path, std::filesystem::perms::owner_read);
+  host.ExpectAskWith("You will overwrite existing boards", Answer::Yes);
+  host.ExpectTell("The file\n" + PathText(path) + "\nis read only so the hand cannot be saved");
+  EXPECT_EQ(Run(11, 13, {.analyse = true}).boardsStored, 1);
+  EXPECT_EQ(test::ReadFile(path), test::OneSuitEachText());
   std::filesystem::create_directory(session.BoardPath(2));  // in the place of its file
   host.ExpectAskWith("Do you wish to try to continue?", Answer::Yes);
   const GenerateOutcome outcome = Run(1, 3);
