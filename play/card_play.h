@@ -52,7 +52,7 @@ struct PlayState : Trick {
   friend bool operator==(const PlayState&, const PlayState&) = default;
 };
 
-/// The play of the board in hand. It is on exactly while the board's `playMode` is set: loading
+/// The play of the current board. It is on exactly while the board's `playMode` is set: loading
 /// another board, clearing it or confirming an auction ends it too.
 class CardPlay {
  public:

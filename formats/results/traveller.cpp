@@ -46,7 +46,7 @@ std::optional<Seat> SeatOf(std::string_view text) {
   return std::nullopt;
 }
 
-/// A card with its suit before or behind its rank; the ten is "T" or "10".
+/// A card with its suit before or after its rank; the ten is "T" or "10".
 std::optional<Card> CardOf(std::string_view text) {
   std::string card(Trim(text));
   if (const auto ten = card.find("10"); ten != std::string::npos) card.replace(ten, 2, "T");
