@@ -3,6 +3,7 @@
 
 #include <cstdlib>
 
+#include "formats/pbn/pbn_writer.h"
 #include "formats/sink/board_sink.h"
 #include "formats/sink/record_text.h"
 #include "library/board_file.h"
@@ -22,7 +23,7 @@ inline bool HasCardTwice(const HandTable& hands) {
 }
 
 /// The board can be stored, and its file gives it back; but a card that is in two hands stays in
-/// one of them.
+/// one of them. It can be written as PBN.
 inline void CheckBoard(const Board& board) {
   if (!IsStorable(board.boardNumber)) std::abort();
   Board read;
@@ -30,6 +31,7 @@ inline void CheckBoard(const Board& board) {
   if (!ReadBoardText(WriteBoardText(board), read, TableReading::Always)) std::abort();
   if (!(read.hands == board.hands) && !HasCardTwice(board.hands)) std::abort();
   if (!(read.calls == board.calls) || read.contract != board.contract) std::abort();
+  if (PbnRecord(board, "Library", {}).empty()) std::abort();
 }
 
 /// Takes boards and checks them.

@@ -8,23 +8,9 @@
 #include "core/text.h"
 #include "formats/results/lin_boards.h"
 #include "formats/results/lin_file.h"
-#include "library/board_file.h"
-
-namespace {
+#include "tests/fuzz/checks.h"
 
 using namespace tricklet;
-
-void CheckBoards(const LinFile& data) {
-  LeftOut leftOut;
-  for (const Board& board : BoardsOfLinData(data, kFirstBoardNumber, kLastBoardNumber, leftOut)) {
-    Board read;
-    read.boardNumber = board.boardNumber;
-    if (!ReadBoardText(WriteBoardText(board), read, TableReading::Always)) std::abort();
-    if (!(read.calls == board.calls) || read.contract != board.contract) std::abort();
-  }
-}
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const LinFile foreign = ParseLinFile({reinterpret_cast<const char*>(data), size});
@@ -36,6 +22,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::abort();
   }
   if (!(ParseLinFile(LinFileText(own)) == own)) std::abort();
-  CheckBoards(own);
+  fuzz::CheckingSink sink;
+  ReadResult result;
+  ReadLinCards(own, kFirstBoardNumber, kLastBoardNumber, sink, result);
   return 0;
 }

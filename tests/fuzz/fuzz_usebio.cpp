@@ -16,19 +16,15 @@ namespace {
 
 using namespace tricklet;
 
-void CheckBoards(const UsebioResults& results) {
-  fuzz::CheckingSink sink;
-  ReadResult result;
-  ReadLinCards(results.data, results.firstBoard, results.lastBoard, sink, result);
-}
-
 void CheckResults(const UsebioResults& results) {
   const std::string text = LinFileText(results.data);
   if (!IsValidUtf8(text)) std::abort();
   const LinFile read = ParseLinFile(text);
   if (read.lin.size() != results.data.lin.size()) std::abort();
   if (read.names.size() != results.data.names.size()) std::abort();
-  CheckBoards(results);
+  fuzz::CheckingSink sink;
+  ReadResult result;
+  ReadLinCards(results.data, results.firstBoard, results.lastBoard, sink, result);
 }
 
 }  // namespace

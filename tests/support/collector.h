@@ -20,14 +20,23 @@ class Collector : public BoardSink {
     begun.push_back(boardNumber);
     return static_cast<int>(begun.size()) != cancelAt;
   }
+  /// "1 2 7": the boards stored, in their order.
+  std::string Numbers() const {
+    std::string text;
+    for (const Board& board : boards) {
+      text += (text.empty() ? "" : " ") + std::to_string(board.boardNumber);
+    }
+    return text;
+  }
   std::vector<Board> boards;
   std::vector<int> begun;
   int cancelAt = 0;
 };
 
-inline std::string CallsOf(const Board& board) {
+/// The calls of a board or of a LIN record.
+inline std::string CallsOf(const auto& auction) {
   std::string text;
-  for (const Call call : board.calls) text += (text.empty() ? "" : " ") + call.Text();
+  for (const Call call : auction.calls) text += (text.empty() ? "" : " ") + call.Text();
   return text;
 }
 

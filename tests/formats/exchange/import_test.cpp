@@ -1,6 +1,9 @@
 // The road that every import takes: questions, storing, messages.
 #include "formats/exchange/import.h"
 
+#include <tuple>
+#include <utility>
+
 #include <gtest/gtest.h>
 
 #include "core/fault.h"
@@ -9,38 +12,31 @@
 #include "library/board_file.h"
 #include "library/board_store.h"
 #include "library/file_io.h"
+#include "tests/support/diary.h"
 #include "tests/support/library_fixture.h"
 #include "tests/support/records.h"
 
-namespace tricklet {
+namespace tricklet::test {
 namespace {
 
 namespace fs = std::filesystem;
-using test::BoardElement;
-using test::DlmLine;
-using test::LinData;
-using test::LinPasses;
-using test::LinRecordText;
-using test::OneLineBoard;
-using test::PbnText;
-using test::ReadFile;
-using test::TravellerLine;
-using test::UsebioText;
-using test::WriteFile;
 
-/// Writes down what it is told and asked, agrees to everything, and cancels at a step.
-class Diary : public test::ScriptedHost {
- public:
-  using Host::Tell;
-  void Tell(const std::string& text, const std::string& /*title*/) override { said += text + "\n"; }
-  Answer Ask(const std::string& text, const std::string& /*title*/, Buttons /*all*/) override {
-    if (!text.starts_with("Overwrite")) said += "? " + text + "\n";
-    return Answer::Yes;
-  }
-  std::string said;
-};
+/// The reasons for leaving something out, and by what they stand below.
+constexpr std::pair<const char*, const char*> kReasons[] = {
+    {" left out because a library holds boards 1 to 999: ", " UNSTORABLE "},
+    {" left out for a broken percent escape: ", " BROKEN "},
+    {" left out as impossible (no card, a card twice or more than 13 cards in a hand): ",
+     " IMPOSSIBLE "},
+    {" left out because the dealer of the record is not the board's: ", " FOREIGN "},
+    {" left out for having more than 100 calls: ", " OVERLONG "},
+    {"was left out because a board of the same number came before it in the file: ",
+     "was REPEATED "},
+    {"were left out because a board of the same number came before them in the file: ",
+     "were REPEATED "},
+    {"Error 13 (A percent escape is not complete) in procedure ReadFileXML of Module modXML",
+     "ERROR 13"}};
 
-class ImportTest : public test::LibraryTest {
+class ImportTest : public LibraryTest {
  protected:
   fs::path File(const std::string& text, const std::string& name = "h\u00e4nde 1.PBN") {
     fs::path path = folder.Path() / PathFromText(name);
@@ -59,7 +55,7 @@ class ImportTest : public test::LibraryTest {
     into.settings = session.settings;
     into.settings.library = "Library " + std::to_string(++libraries_);
     fs::create_directories(into.LibraryPath());
-    WriteFile(into.BoardPath(500), test::OneSuitEachText());
+    WriteFile(into.BoardPath(500), OneSuitEachText());
     const std::string old = "[LIN]\r\nqx|o500|old|\r\n";
     WriteFile(LinDataPath(into), old);
     if (blocked > 0) WriteFile(into.BoardPath(blocked) / "x", "");  // no file replaces a folder
@@ -67,134 +63,107 @@ class ImportTest : public test::LibraryTest {
     const ImportOutcome outcome = ImportAnyFile(into, path);
     std::string stored;
     for (int number = 1; number <= kLastBoardNumber; ++number) {
-      if (number != 500 && FileExists(into.BoardPath(number))) {
-        stored += std::to_string(number) + " ";
-      }
+      if (number == 500 || !FileExists(into.BoardPath(number))) continue;
+      stored += (stored.empty() ? "" : " ") + std::to_string(number);
     }
     EXPECT_TRUE(!stored.empty() || ReadFile(LinDataPath(into)) == old);
-    EXPECT_EQ(ReadFile(into.BoardPath(500)), test::OneSuitEachText());
+    EXPECT_EQ(ReadFile(into.BoardPath(500)), OneSuitEachText());
     EXPECT_FALSE(fs::exists(into.LibraryPath() / "QENXML.xml"));
     EXPECT_FALSE(into.batchRunning);
     EXPECT_EQ(diary.working, 0);
-    Replace(diary.said, "been saved to the library - " + into.LibraryName() + "\n", "#\n");
-    Replace(diary.said, PathText(path), "@");
-    if (blocked > 0) Replace(diary.said, PathText(into.BoardPath(blocked)), "@");
-    return diary.said + "[" + stored + "| " + std::to_string(outcome.boardsSaved) +
-           (outcome.failed ? " failed" : "") + (outcome.cancelled ? " cancelled | " : " | ") +
+    diary.Shorten("been saved to the library - " + into.LibraryName() + "\n", "#\n");
+    diary.Shorten(PathText(path), "@");
+    diary.Shorten(PathText(into.BoardPath(blocked)), "@");
+    for (const auto& [reason, brief] : kReasons) diary.Shorten(reason, brief);
+    return diary.said + "[" + stored + "|" + std::to_string(outcome.boardsSaved) +
+           (outcome.failed ? " failed" : "") + (outcome.cancelled ? " cancelled|" : "|") +
            (diary.recycled.empty() ? std::to_string(LoadLinData(into).lin.size())
                                    : diary.recycled.at(0)) +
            "]";
   }
+  /// What comes of the text of each file.
+  void Expect(const std::string& name,
+              const std::vector<std::pair<std::string, const char*>>& told) {
+    for (const auto& [text, result] : told) EXPECT_EQ(Import(name, text), result) << text;
+  }
 
  private:
-  static void Replace(std::string& text, const std::string& from, const std::string& to) {
-    if (const auto at = text.find(from); at != std::string::npos) text.replace(at, from.size(), to);
-  }
   int libraries_ = 0;
 };
 
 TEST_F(ImportTest, StoresBoardsAndShowsTheFirst) {
   AddCard(session.board.hands, {Suit::Spades, Rank::Ace}, Seat::North);
-  host.ExpectTell("3 hands (5-7) have been saved to the library - Club");
-  EXPECT_FALSE(ImportFile(session, File(PbnText({5, 6, 7}))).failed);
-  EXPECT_EQ(session.board.boardNumber, 5);
-  EXPECT_TRUE(HasCards(session.board.hands));
-  EXPECT_FALSE(session.board.handChanged);
-  EXPECT_EQ(session.library.boardCount, 3) << "the board that was open is not imported";
-  EXPECT_EQ(session.library.maxBoard, 7);
+  const std::tuple<fs::path, const char*, int, bool> kCases[] = {
+      {File(PbnText({5, 6, 7})), "3 hands (5-7) have", 5, true},
+      {File("To board=2\r\n" + DlmLine(2) + DlmLine(1), "two.DLM"), "2 hands (1-2) have", 1, true},
+      // nothing of the board that was open
+      {File("%\n[Board \"2\"]\n[Event \"no deal\"]\n", "no deal.pbn"), "Hand 2 has", 2, false},
+      {File("[Board \"3\"]", "none.pbn"), "No hands have", 2, false}};  // the board before
+  for (const auto& [file, told, shown, cards] : kCases) {
+    if (session.library.boardCount > 0) host.ExpectAskWith("Overwrite", Answer::Yes);
+    host.ExpectTell(told + std::string(" been saved to the library - Club"));
+    EXPECT_FALSE(ImportFile(session, file).failed);
+    EXPECT_EQ(session.board.boardNumber, shown);
+    EXPECT_EQ(HasCards(session.board.hands), cards) << shown;
+    EXPECT_FALSE(session.board.handChanged);
+  }
+  EXPECT_EQ(session.library.boardCount, 5) << "the board that was open is not imported";
   EXPECT_EQ(host.steps.front(), "Importing board 5");
-
-  host.ExpectAskWith("Overwrite", Answer::Yes);
-  host.ExpectTell("2 hands (1-2) have been saved to the library - Club");
-  ImportFile(session, File("[Document]\r\nTo board=2\r\n" + DlmLine(2) + DlmLine(1), "two.DLM"));
-  EXPECT_EQ(session.board.boardNumber, 1) << "the lowest";
-  EXPECT_EQ(HoldingText(session.board.hands[Seat::North][Suit::Spades]), " A 10 6 2");
-
-  host.ExpectAskWith("Overwrite", Answer::Yes);
-  host.ExpectTell("Hand 2 has been saved to the library - Club");
-  ImportFile(session, File("%\n[Board \"2\"]\n[Event \"no deal\"]\n"));
-  EXPECT_FALSE(HasCards(session.board.hands)) << "nothing of the board that was open";
-
-  host.ExpectAskWith("Overwrite", Answer::Yes);
-  host.ExpectTell("No hands have been saved to the library - Club");
-  ImportFile(session, File("[Board \"3\"]"));
-  EXPECT_EQ(session.board.boardNumber, 2) << "the board before";
 }
 
-constexpr const char* kUnstorable = " left out because a library holds boards 1 to 999: ";
-constexpr const char* kBroken = " left out for a broken percent escape: ";
-constexpr const char* kImpossible =
-    " left out as impossible (no card, a card twice or more than 13 cards in a hand): ";
-constexpr const char* kForeign = " left out because the dealer of the record is not the board's: ";
-constexpr const char* kOverlong = " left out for having more than 100 calls: ";
-
-TEST_F(ImportTest, TellsWhatWasStoredOfPbn) {
-  EXPECT_EQ(Import("a.pbn", PbnText({12})), "Hand 12 has #\n[12 | 1 | LIN.txt]");
-  EXPECT_EQ(Import("a.pbn", "[Board \"1\"]"), "No hands have #\n[| 0 | 1]");
-  EXPECT_EQ(Import("a.pbn", PbnText({1}) + "[Board \"2\"]\n[Deal \"caf\xe9\"]\n"),
-            "Can't read this line:\n[Deal \"caf\u00e9\"]\nHand 1 has #\n[1 | 1 failed | LIN.txt]");
-  EXPECT_EQ(Import("a.pbn", PbnText({1, 1, 1}) + "[Deal \"\"]\n"),
-            "Can't read this line:\n[Deal \"\"]\n2 hands (1-0) have #\n"
-            "Board 1 of the file is stored\n[1 | 2 failed | LIN.txt]");
-  EXPECT_EQ(Import("a.pbn", PbnText({1, 2}) + "[OptimumResultTable \"\"]\nN NT 7\n[A \"\"]\n"),
-            "Can't read this line:\n[A \"\"]\nThe double-dummy table of board 2 has 1 of its 20 "
-            "rows\nHand 1 has #\n[1 | 1 failed | LIN.txt]");
-  EXPECT_EQ(Import("a.pbn", PbnText({1, 2}) + "[OptimumResultTable \"\"]\nX NT 7\n"),
-            "Can't read this line:\nX NT 7\nHand 1 has #\n[1 | 1 failed | LIN.txt]");
-  EXPECT_EQ(Import("a.pbn", PbnText({1000, 999, 0, 0})),
-            "Hand 1000 has #\nBoard 999 of the file is stored\n3 boards were" +
-                std::string(kUnstorable) + "0, 1000\n[999 | 1 | LIN.txt]");
-  EXPECT_EQ(Import("a.pbn", PbnText({1, 1000})),
-            "Hand 1 has #\n1 board was" + std::string(kUnstorable) + "1000\n[1 | 1 | LIN.txt]");
-  EXPECT_EQ(Import("a.pbn", PbnText({1, 2, 3, 7, 1000})),
-            "4 hands (1-1000) have #\nBoards 1-3, 7 of the file are stored\n1 board was" +
-                std::string(kUnstorable) + "1000\n[1 2 3 7 | 4 | LIN.txt]");
+TEST_F(ImportTest, TellsWhatWasStoredOfPbnAndDlm) {
   std::string calls = "[Auction \"N\"]\n";
   for (int call = 0; call < 101; ++call) calls += "P ";
-  const std::string said = Import("a.pbn", PbnText({1, 2}) + calls + "\n");
-  EXPECT_NE(said.find("\nError no. 9\nLine "), std::string::npos) << said;
-  EXPECT_TRUE(said.ends_with("?\nCannot read the file @\n[1 | 0 failed | LIN.txt]")) << said;
-}
-
-TEST_F(ImportTest, TellsWhatWasStoredOfDlm) {
-  EXPECT_EQ(Import("a.dlm", DlmLine(2) + DlmLine(1) + "Board 03=aaa\r\n"),
-            "Can't read this line:\nboard 03=aaa\nNo hands have #\nBoards 1-2 of the file are "
-            "stored\n[1 2 | 0 failed | LIN.txt]");
-  const std::string said = Import("a.dlm", DlmLine(5, "blblblblblblblblblblblblbq"));
-  EXPECT_NE(said.find("\nError no. 9\nLine "), std::string::npos) << said;
-  EXPECT_TRUE(said.ends_with("?\nCannot read the file @\n[| 0 failed | 1]")) << said;
+  Expect("a.pbn",
+         {{PbnText({12}), "Hand 12 has #\n[12|1|LIN.txt]"},
+          {"[Board \"1\"]", "No hands have #\n[|0|1]"},
+          {PbnText({1, 1, 1}) + "[Deal \"\"]\n",
+           "Can't read this line:\n[Deal \"\"]\n2 hands (1-0) have #\nBoard 1 of the file is "
+           "stored\n[1|2 failed|LIN.txt]"},
+          {PbnText({1, 2}) + "[OptimumResultTable \"\"]\nN NT 7\n[caf\xe9]\n",
+           "Can't read this line:\n[caf\u00e9]\nThe double-dummy table of board 2 has 1 of its 20 "
+           "rows\nHand 1 has #\n[1|1 failed|LIN.txt]"},
+          {PbnText({1, 1000}), "Hand 1 has #\n1 board was UNSTORABLE 1000\n[1|1|LIN.txt]"},
+          {PbnText({1000, 999, 0, 0}),
+           "Hand 1000 has #\nBoard 999 of the file is stored\n3 boards were UNSTORABLE 0, 1000\n"
+           "[999|1|LIN.txt]"},
+          {PbnText({1, 2, 3, 7, 1000}),
+           "4 hands (1-1000) have #\nBoards 1-3, 7 of the file are stored\n1 board was UNSTORABLE "
+           "1000\n[1 2 3 7|4|LIN.txt]"},
+          {PbnText({1, 2}) + calls,
+           "? The auction has more than 100 calls\nError no. 9\nCannot read the file @\n[1|0 "
+           "failed|LIN.txt]"}});
+  Expect("a.dlm",
+         {{DlmLine(2) + DlmLine(1) + "Board 03=aaa\r\n",
+           "Can't read this line:\nboard 03=aaa\nNo hands have #\nBoards 1-2 of the file are "
+           "stored\n[1 2|0 failed|LIN.txt]"},
+          {DlmLine(5, "blblblblblblblblblblblblbq"),
+           "? A deal has letters from \"a\" to \"p\" only\nError no. 9\nCannot read the file "
+           "@\n[|0 failed|1]"}});
 }
 
 TEST_F(ImportTest, TellsWhatWasStoredOfLin) {
-  const std::string other = "0HAKQJT98765432,SAKQJT98765432";
-  const std::string repeated =
-      " left out because a board of the same number came before them in the file: ";
-  EXPECT_EQ(Import("a.LIN", LinRecordText("o1") + LinRecordText("o1", "", other) +
-                                LinRecordText("o1", "", other) + LinRecordText("c1")),
-            "Hand 1 has #\n2 deals were" + repeated + "1\n[1 | 1 | 3]");
-  EXPECT_EQ(Import("a.lin", LinRecordText("o1") + LinRecordText("o1", "", other)),
-            "Hand 1 has #\n1 deal was left out because a board of the same number came before it "
-            "in the file: 1\n[1 | 1 | 2]");
+  const std::string other = LinRecordText("o1", "", "0HAKQJT98765432,SAKQJT98765432");
   std::string twelve;
-  for (int board = 1; board <= 12; ++board) {
+  for (int board = 12; board >= 1; --board) {
     const std::string room = "o" + std::to_string(board);
-    twelve += LinRecordText(room, "mb|1C|", (board == 4 ? "1" : "0") + other.substr(1));
-    twelve += LinRecordText(room);
+    twelve += LinRecordText(room) + "qx|" + room + other.substr(other.find("|md"));
   }
-  EXPECT_EQ(Import("a.lin", twelve), "12 hands (1-12) have #\n12 deals were" + repeated +
-                                         "1, 2, 3, 4, 5, 6, 7, 8, 9, 10 ...\n1 auction was" +
-                                         kForeign + "4\n[1 2 3 4 5 6 7 8 9 10 11 12 | 12 | 13]");
-  EXPECT_EQ(
-      Import("a.lin", LinRecordText("o1") + "qx|o2|md|3SAA|" + LinRecordText("o3")),
-      "2 hands (1-3) have #\n1 deal was" + std::string(kImpossible) + "2\n[1 3 | 2 failed | 3]");
-  EXPECT_EQ(
-      Import("a.lin", LinRecordText("o1") + LinRecordText("o2", LinPasses(101))),
-      "2 hands (1-2) have #\n1 auction was" + std::string(kOverlong) + "2\n[1 2 | 2 failed | 3]");
-  EXPECT_EQ(Import("a.lin", "lin=" + LinRecordText("o2") + "%"),
-            "No hands have #\n1 LIN record was" + std::string(kBroken) + "2\n[| 0 failed | 1]");
-  EXPECT_EQ(Import("a.lin", LinRecordText("o1000")),
-            "No hands have #\n1 board was" + std::string(kUnstorable) + "1000\n[| 0 | 1]");
-  EXPECT_EQ(Import("a.lin", "no records"), "No hands have #\n[| 0 | 1]");
+  Expect(
+      "a.LIN",
+      {{LinRecordText("o1") + other + LinRecordText("c1"),
+        "Hand 1 has #\n1 deal was REPEATED 1\n[1|1|3]"},
+       {twelve,
+        "12 hands (12-12) have #\n12 deals were REPEATED 1, 2, 3, 4, 5, 6, 7, 8, 9, 10 ...\n"
+        "[1 2 3 4 5 6 7 8 9 10 11 12|12|13]"},
+       {LinRecordText("o1") + "qx|o2|md|3SAA|" + LinRecordText("o3", LinPasses(101)) +
+            LinRecordText("o4", "mb|p|", "1SAKQJT98765432,HAKQJT98765432") + LinRecordText("o1000"),
+        "3 hands (1-1000) have #\nBoards 1, 3-4 of the file are stored\n1 deal was IMPOSSIBLE "
+        "2\n1 board was UNSTORABLE 1000\n1 auction was FOREIGN 4\n1 auction was OVERLONG 3\n"
+        "[1 3 4|3 failed|4]"},
+       {"lin=" + LinRecordText("o2") + "%",
+        "No hands have #\n1 LIN record was BROKEN 2\n[|0 failed|1]"},
+       {"no records", "No hands have #\n[|0|1]"}});
 }
 
 TEST_F(ImportTest, TellsWhatWasStoredOfASession) {
@@ -202,69 +171,45 @@ TEST_F(ImportTest, TellsWhatWasStoredOfASession) {
     return BoardElement(std::to_string(number), TravellerLine(data));
   };
   const std::string one = OneLineBoard(1);
-  const std::string none = "No hands have #\n[| 0 failed | 1]";
-  const std::string unread =
-      "Error 13 (A percent escape is not complete) in procedure ReadFileXML of Module modXML\n";
-  EXPECT_EQ(
-      Import("a.xml", UsebioText(OneLineBoard(0) + one + OneLineBoard(999) + OneLineBoard(1000) +
-                                 board(-5, LinData(-5)) + BoardElement("1001", ""))),
-      "2 hands (1-999) have #\n3 boards were" + std::string(kUnstorable) +
-          "-5, 0, 1000\n[1 999 | 2 | 5]");
-  EXPECT_EQ(Import("a.xml", UsebioText(OneLineBoard(1000))),
-            "No hands have #\n1 board was" + std::string(kUnstorable) + "1000\n[| 0 | 1]");
-  EXPECT_EQ(
-      Import("a.xml",
-             UsebioText(board(1, LinData(2)) + board(2, LinData(2)) + board(3, LinData(4)))),
-      "3 hands (1-3) have #\n2 auctions were" + std::string(kForeign) + "1, 3\n[1 2 3 | 3 | 3]");
-  EXPECT_EQ(
-      Import("a.xml", UsebioText(one + board(2, "qx|o2|md|3SAA|") + OneLineBoard(3))),
-      "2 hands (1-3) have #\n1 deal was" + std::string(kImpossible) + "2\n[1 3 | 2 failed | 2]");
-  EXPECT_EQ(
-      Import("a.xml", UsebioText(one + board(2, LinData(2, LinPasses(101))))),
-      "2 hands (1-2) have #\n1 auction was" + std::string(kOverlong) + "2\n[1 2 | 2 failed | 2]");
-  EXPECT_EQ(Import("a.xml", UsebioText(one + board(2, "qx|o2|pn|Ann%2") + board(3, "%"))),
-            unread + "Hand 1 has #\n2 LIN records were" + kBroken + "2, 3\n[1 | 1 failed | 3]");
-  EXPECT_EQ(Import("a.xml", UsebioText(board(2, "%"))),
-            unread + "Unable to import XML file\nNo hands have #\n1 LIN record was" + kBroken +
-                "2\n[| 0 failed | 1]");
-  for (const std::string& text :
-       {UsebioText(BoardElement("1", "<TRAVELLER_LINE/>")), std::string()}) {
-    EXPECT_EQ(Import("a.xml", text), "This xml file has no LIN data:\n\n@\n" + none);
-  }
-  EXPECT_EQ(Import("a.xml", "<LIN_DATA></WRONG>"),
-            "XML File Load failed - a website might not be available or the file is in the wrong "
-            "format\n" +
-                none);
-  EXPECT_EQ(Import("a.xml", "<!DOCTYPE USEBIO SYSTEM \"http://example.org/u.dtd\">" +
-                                test::UsebioBody("<SECTION_COUNT>2</SECTION_COUNT>" + one)),
-            "Only Single Section Imports supported\n" + none);
+  const std::string noData = "This xml file has no LIN data:\n\n@\nNo hands have #\n[|0 failed|1]";
+  Expect("a.xml",
+         {{UsebioText(OneLineBoard(0) + one + OneLineBoard(999) + OneLineBoard(1000) +
+                      board(-5, LinData(-5)) + BoardElement("1001", "")),
+           "2 hands (1-999) have #\n3 boards were UNSTORABLE -5, 0, 1000\n[1 999|2|5]"},
+          {UsebioText(OneLineBoard(1000)), "No hands have #\n1 board was UNSTORABLE 1000\n[|0|1]"},
+          {UsebioText(board(1, LinData(2)) + board(2, "qx|o2|md|3SAA|") + board(3, LinData(4)) +
+                      board(5, LinData(5, LinPasses(101)))),
+           "3 hands (1-5) have #\n1 deal was IMPOSSIBLE 2\n2 auctions were FOREIGN 1, 3\n1 auction "
+           "was OVERLONG 5\n[1 3 5|3 failed|3]"},
+          {UsebioText(one + board(2, "qx|o2|pn|Ann%2") + board(3, "%")),
+           "ERROR 13\nHand 1 has #\n2 LIN records were BROKEN 2, 3\n[1|1 failed|3]"},
+          {UsebioText(board(2, "%")),
+           "ERROR 13\nUnable to import XML file\nNo hands have #\n1 LIN record was BROKEN 2\n"
+           "[|0 failed|1]"},
+          {UsebioText(BoardElement("1", "<TRAVELLER_LINE/>")), noData.c_str()},
+          {"", noData.c_str()},
+          {"<!DOCTYPE USEBIO SYSTEM \"http://example.org/u.dtd\">" +
+               UsebioBody("<SECTION_COUNT>2</SECTION_COUNT>" + one),
+           "Only Single Section Imports supported\nNo hands have #\n[|0 failed|1]"}});
 }
 
 TEST_F(ImportTest, EndsEarlyWithWhatIsStored) {
-  const struct {
-    const char* name;
-    std::string text;
-    const char* results;  // when boards 1 and 2 are stored
-  } kFiles[] = {{"a.pbn", PbnText({1, 2, 3}), "LIN.txt]"},
-                {"a.dlm", DlmLine(1) + DlmLine(2) + DlmLine(3), "LIN.txt]"},
-                {"a.lin", LinRecordText("o1") + LinRecordText("o2") + LinRecordText("o3"), "3]"},
-                {"a.xml", UsebioText(OneLineBoard(3) + OneLineBoard(1) + OneLineBoard(2)), "2]"}};
-  for (const auto& file : kFiles) {
-    EXPECT_EQ(Import(file.name, file.text, 1), "No hands have #\n[| 0 cancelled | 1]");
-    EXPECT_EQ(Import(file.name, file.text, 3),
-              "2 hands (1-2) have #\n[1 2 | 2 cancelled | " + std::string(file.results));
-    const bool xml = std::string(file.name) == "a.xml";
-    for (const int blocked : {1, 3}) {
-      const std::string said = Import(file.name, file.text, 0, blocked);
-      EXPECT_TRUE(said.starts_with(xml ? "Error 75 (Is a directory: @) in procedure ReadFileXML of "
-                                         "Module modXML\nUnable to import XML file\n"
-                                       : "? Is a directory: @\nError no. 75\nLine "))
-          << said;
-      EXPECT_TRUE(said.ends_with(blocked == 1 ? "\nNo hands have #\n[| 0 failed | 1]"
-                                              : "\n2 hands (1-2) have #\n[1 2 | 2 failed | " +
-                                                    std::string(file.results)))
-          << said;
-    }
+  const std::string error = "? Is a directory: @\nError no. 75\n";
+  const std::string xmlError =
+      "Error 75 (Is a directory: @) in procedure ReadFileXML of Module modXML\nUnable to import "
+      "XML file\n";
+  // The files, what is said when a board cannot be written, the results when 1 and 2 are stored
+  const std::tuple<const char*, std::string, std::string, const char*> kFiles[] = {
+      {"a.pbn", PbnText({1, 2, 3}), error, "LIN.txt]"},
+      {"a.dlm", DlmLine(1) + DlmLine(2) + DlmLine(3), error, "LIN.txt]"},
+      {"a.lin", LinRecordText("o1") + LinRecordText("o2") + LinRecordText("o3"), error, "3]"},
+      {"a.xml", UsebioText(OneLineBoard(3) + OneLineBoard(1) + OneLineBoard(2)), xmlError, "2]"}};
+  const std::string two = "2 hands (1-2) have #\n[1 2|2 ";
+  for (const auto& [name, text, said, results] : kFiles) {
+    EXPECT_EQ(Import(name, text, 1), "No hands have #\n[|0 cancelled|1]");
+    EXPECT_EQ(Import(name, text, 3), two + "cancelled|" + results);
+    EXPECT_EQ(Import(name, text, 0, 1), said + "No hands have #\n[|0 failed|1]");
+    EXPECT_EQ(Import(name, text, 0, 3), said + two + "failed|" + results);
   }
 }
 
@@ -279,10 +224,8 @@ TEST_F(ImportTest, AReadOnlyBoardIsToldOnceAndEndsTheImport) {
     host.ExpectAskWith("Overwrite", Answer::Yes);
     host.ExpectTell("The file\n" + PathText(marked) + "\nis read only so the hand cannot be saved");
     host.ExpectTell("Hand 1 has been saved to the library - Club");
-    const ImportOutcome outcome = ImportFile(session, File(text, name));
-    EXPECT_TRUE(outcome.failed);
-    EXPECT_EQ(outcome.boardsSaved, 1);
-    EXPECT_EQ(ReadFile(marked), test::OneSuitEachText());
+    EXPECT_TRUE(ImportFile(session, File(text, name)).failed);
+    EXPECT_EQ(ReadFile(marked), OneSuitEachText());
     EXPECT_EQ(session.library.boardCount, 2) << "board 3 is not stored";
     fs::permissions(marked, fs::perms::owner_all);
   }
@@ -299,43 +242,38 @@ TEST_F(ImportTest, WhatCannotBeReadIsSaid) {
 }
 
 TEST_F(ImportTest, AsksAndRefuses) {
-  const struct {
-    ImportOutcome (*chosen)(Session&);
-    ImportOutcome (*named)(Session&, const fs::path&);
-    fs::path file;
-    const char* otherType;
-  } kCommands[] = {{tricklet::Import, ImportFile, File(PbnText({3})),
-                    "The file must be of type pbn, dlm or xml"},
-                   {ImportLin, ImportLinFile, File(LinRecordText("o3"), "a.lin"),
-                    "The file must be of type lin"}};
   PutBoard(3);
   const std::string before = ReadFile(session.BoardPath(3));
-  for (const auto& command : kCommands) {
-    host.ExpectAsk("Overwrite existing hands in library Club?", "Hands already in library",
-                   Answer::No);
-    EXPECT_TRUE(command.named(session, command.file).refused);
+  const fs::path file = File(PbnText({3}));
+  const fs::path lin = File(LinRecordText("o3"), "a.lin");
+  host.ExpectAsk("Overwrite existing hands in library Club?", "Hands already in library",
+                 Answer::No);
+  EXPECT_TRUE(ImportFile(session, file).refused);
+  session.board.handChanged = true;
+  for (const auto& named : {file, lin}) {
+    host.ExpectAskWith("Do you want to save changes to board", Answer::Cancel);
+    EXPECT_TRUE(ImportAnyFile(session, named).refused);
+  }
+  EXPECT_TRUE(session.board.handChanged);
+  session.board.handChanged = false;
+  const std::tuple<ImportOutcome (*)(Session&), fs::path, const char*> kCommands[] = {
+      {tricklet::Import, file, "The file must be of type pbn, dlm or xml"},
+      {ImportLin, lin, "The file must be of type lin"}};
+  for (const auto& [command, right, otherType] : kCommands) {
     host.ExpectAskWith("Overwrite", Answer::Yes);
     host.Choose(std::nullopt);
-    EXPECT_TRUE(command.chosen(session).refused);
+    EXPECT_TRUE(command(session).refused);
     host.ExpectAskWith("Overwrite", Answer::Yes);
     host.Choose(File("x", "hands.doc"));
-    host.ExpectTell(command.otherType);
-    EXPECT_TRUE(command.chosen(session).refused);
-    session.board.handChanged = true;
-    host.ExpectAskWith("Do you want to save changes to board", Answer::Cancel);
-    EXPECT_TRUE(command.named(session, command.file).refused);
-    EXPECT_TRUE(session.board.handChanged);
-    session.board.handChanged = false;
+    host.ExpectTell(otherType);
+    EXPECT_TRUE(command(session).refused);
     EXPECT_EQ(ReadFile(session.BoardPath(3)), before);
     host.ExpectAskWith("Overwrite", Answer::Yes);
-    host.Choose(command.file);
+    host.Choose(right);
     host.ExpectTell("Hand 3 has been saved to the library - Club");
-    EXPECT_EQ(command.chosen(session).boardsSaved, 1);
+    EXPECT_EQ(command(session).boardsSaved, 1);
     WriteFile(session.BoardPath(3), before);
   }
-  host.ExpectAskWith("Overwrite", Answer::Yes);
-  host.ExpectTell(kCommands[0].otherType);
-  EXPECT_TRUE(ImportAnyFile(session, File("", "a.txt")).refused);
 }
 
 TEST_F(ImportTest, TakesPastedRecords) {
@@ -349,4 +287,4 @@ TEST_F(ImportTest, TakesPastedRecords) {
 }
 
 }  // namespace
-}  // namespace tricklet
+}  // namespace tricklet::test

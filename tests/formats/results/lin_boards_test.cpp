@@ -14,32 +14,30 @@ std::string Record(int board, const std::string& south, const std::string& calls
          "|" + calls + "pg||qent|9|qens|140||qenns|1|";
 }
 
-LeftOut leftOut;
-
-std::vector<Board> BoardsOf(std::vector<std::string> records, int first = 1, int last = 12) {
+/// "1:A 12:2 1NTxx !3 ~4": the boards from 1 to 12 that `records` give, South's spades, the
+/// contract of an auction; after "!" what is left out as impossible, after "~" for its dealer.
+std::string BoardsOf(std::vector<std::string> records, int first = 1, int last = 12) {
   LinFile data;
   data.lin = std::move(records);
-  leftOut = {};
-  return BoardsOfLinData(data, first, last, leftOut);
-}
-
-bool SouthHas(const Board& board, Rank rank) {
-  return board.hands[Seat::South][Suit::Spades].Has(rank);
+  LeftOut leftOut;
+  std::string text;
+  for (const Board& board : BoardsOfLinData(data, first, last, leftOut)) {
+    std::string spades = HoldingText(board.hands[Seat::South][Suit::Spades]);
+    std::erase(spades, ' ');
+    text += std::to_string(board.boardNumber) + ":" + spades + " ";
+    if (!board.calls.Empty()) text += board.contract + " ";
+  }
+  for (const int number : leftOut.impossible) text += "!" + std::to_string(number) + " ";
+  for (const int number : leftOut.foreign) text += "~" + std::to_string(number) + " ";
+  return text;
 }
 
 TEST(LinCards, ABoardHasTheDealOfItsFirstRecordThatGivesOne) {
   const std::vector<std::string> records{"rh||ah|Board 1|qent|", Record(12, "2"),
                                          Record(1, "A"),         Record(1, "K"),
                                          Record(120, "3"),       "qx|o2|md|4SQ,HA,DA,CA|pg||"};
-  const auto boards = BoardsOf(records);
-  ASSERT_EQ(boards.size(), 3U);
-  EXPECT_EQ(boards[0].boardNumber, 1);
-  EXPECT_TRUE(SouthHas(boards[0], Rank::Ace));
-  EXPECT_EQ(boards[1].boardNumber, 2) << "named by its room alone";
-  EXPECT_EQ(boards[2].boardNumber, 12);
-  EXPECT_TRUE(SouthHas(boards[2], Rank::Two));
-  EXPECT_EQ(BoardsOf(records, 2, 11).size(), 1U);
-  EXPECT_TRUE(BoardsOf({}, 1, 999).empty());
+  EXPECT_EQ(BoardsOf(records), "1:A 2:Q 12:2 ");
+  EXPECT_EQ(BoardsOf(records, 2, 11), "2:Q ");
 }
 
 TEST(LinCards, ARecordIsOfTheBoardOfItsHeader) {
@@ -47,39 +45,30 @@ TEST(LinCards, ARecordIsOfTheBoardOfItsHeader) {
       {"pn|a,Board 4,c,d|qx|o5|rh||ah|Board 7|", 7},
       {"qx|o5|nt|see Board 4|ah|Board 12 x|ah|Board 3|", 12},
       {"nt|see Board 4|qx|o5|", 5},
-      {"Board 4|", 0},
-      {"", 0}};
+      {"Board 4|", 0}};
   for (const auto& [record, board] : kCases) EXPECT_EQ(BoardNumberOfLin(record), board) << record;
 }
 
 TEST(LinCards, TheFirstBoardDecidesAboutAuctions) {
   const std::string calls = "mb|1N!|mb|p|mb|p|mb|d|mb|r|mb|p|mb|p|mb|p|";
-  const auto both = BoardsOf({Record(2, "2", calls), Record(1, "A", calls)});
-  EXPECT_EQ(both.at(0).contract, "1NTxx");
-  EXPECT_EQ(both.at(1).NumCalls(), 8);
+  EXPECT_EQ(BoardsOf({Record(2, "2", calls), Record(1, "A", calls)}), "1:A 1NTxx 2:2 1NTxx ");
   const std::vector<std::string> second{Record(2, "2", calls), Record(1, "A")};
-  EXPECT_EQ(BoardsOf(second).at(1).NumCalls(), 0);
-  EXPECT_EQ(BoardsOf(second, 2, 2).at(0).NumCalls(), 8);
-  const Board foreign = BoardsOf({"md|4SA,HA,DA,CA|ah|Board 1|mb|1S|mb|p|mb|p|mb|p|"}).at(0);
-  EXPECT_EQ(foreign.NumCalls(), 0) << "it is East who deals in the record";
-  EXPECT_EQ(leftOut.foreign, std::vector<int>{1});
-  EXPECT_TRUE(HasCards(foreign.hands));
+  EXPECT_EQ(BoardsOf(second), "1:A 2:2 ");
+  EXPECT_EQ(BoardsOf(second, 2, 2), "2:2 1NTxx ");
+  EXPECT_EQ(BoardsOf({"md|4SA,HA,DA,CA|ah|Board 1|mb|1S|mb|p|mb|p|mb|p|"}), "1:A ~1 ");
 }
 
 TEST(LinCards, ADealThatCannotBeRightGivesWayToAnotherTables) {
   const std::string twice = "qx|o1|md|3SA,SA,DA,CA|rh||ah|Board 1|pg||";
   const std::string fourteen = "qx|o1|md|3SAKQJT98765432HA,HK,DA,CA|rh||ah|Board 1|pg||";
-  std::vector<std::string> records{twice, fourteen, Record(1, "K"), Record(1, "Q"), twice};
-  EXPECT_TRUE(SouthHas(BoardsOf(records).at(0), Rank::King));
   const std::string whole = "AKQJT98765432";
-  records.push_back("md|3S" + whole + ",H" + whole + ",D" + whole + ",|ah|Board 1|");
-  records.push_back("md|3H" + whole + ",S" + whole + ",D" + whole + ",|ah|Board 1|");
-  EXPECT_EQ(BoardsOf(records).at(0).hands[Seat::South][Suit::Spades].Count(), 13)
-      << "the first complete one";
-  for (const std::string& wrong : {twice, fourteen}) {
-    EXPECT_TRUE(BoardsOf({wrong}).empty());
-    EXPECT_EQ(leftOut.impossible, std::vector<int>{1});
-  }
+  const std::string complete = "|ah|Board 1|md|3D" + whole + ",H" + whole + ",S" + whole + ",|";
+  EXPECT_EQ(BoardsOf({twice, fourteen, Record(1, "K"), Record(1, "Q"), twice}), "1:K ");
+  EXPECT_EQ(BoardsOf({twice, Record(1, "K"), complete, Record(1, "Q"),
+                      "ah|Board 1|md|3S" + whole + ",H" + whole + ",D" + whole + ",|"}),
+            "1: ");
+  EXPECT_EQ(BoardsOf({twice}), "!1 ");
+  EXPECT_EQ(BoardsOf({fourteen}), "!1 ");
 }
 
 }  // namespace

@@ -5,12 +5,10 @@
 #include "core/fault.h"
 #include "tests/support/library_fixture.h"
 
-namespace tricklet {
+namespace tricklet::test {
 namespace {
 
 namespace fs = std::filesystem;
-using test::ReadFile;
-using test::WriteFile;
 
 LinFile PairsEvent() {
   return {.boardScoringMethod = "MATCH_POINTS",
@@ -36,49 +34,47 @@ TEST(LinFile, IsWrittenSectionBySection) {
   EXPECT_EQ(LinFileText(data), teams);
   data.teamEvent->teamScoringMethod.clear();
   EXPECT_EQ(ParseLinFile(teams), data) << "the written spelling is not the one that is looked for";
-  const LinFile other = ParseLinFile("[TeamsScoringMethod]\nVP\n");
-  EXPECT_EQ(other.teamEvent.value_or(LinTeams()).teamScoringMethod, "VP");
+  data.teamEvent->teamScoringMethod = "VP";
+  EXPECT_EQ(ParseLinFile(teams + "[TeamsScoringMethod]\nVP\n"), data);
 }
 
 TEST(LinFile, ReadsWhatOthersWrite) {
   const LinFile expected = PairsEvent();
   const std::string text = LinFileText(expected);
-  std::string lf;
-  std::string cr;
-  for (const char c : text) {
-    if (c != '\r') lf += c;
-    if (c != '\n') cr += c;
+  std::string lf = text;
+  std::string cr = text;
+  std::erase(lf, '\r');
+  std::erase(cr, '\n');
+  for (const std::string& other : {lf, cr, "\xEF\xBB\xBF" + text, "lost\n[unknown]\n\n" + text}) {
+    EXPECT_EQ(ParseLinFile(other), expected) << other;
   }
-  EXPECT_EQ(ParseLinFile(lf), expected);
-  EXPECT_EQ(ParseLinFile(cr), expected);
-  EXPECT_EQ(ParseLinFile("\xEF\xBB\xBF" + text), expected) << "with a byte order mark";
-  EXPECT_EQ(ParseLinFile("lost\n[unknown]\nlost\n\n" + text), expected);
   EXPECT_EQ(ParseLinFile("[NAMES]\n1 NS Zo\xEB & Cy\n").names,
             std::vector<std::string>{"1 NS Zo\u00eb & Cy"});
   EXPECT_EQ(ParseLinFile("[boardscoring]\nIMPS\n").boardScoringMethod, "IMPS");
-  EXPECT_TRUE(ParseLinFile("").Empty());
 }
 
 TEST(LinFile, AValueCannotLeaveItsLine) {
-  LinFile data;
-  data.boardScoringMethod = "[LIN]";
-  data.names = {"1 NS Ann\r\n[LIN]\r\nqx|o9| & \tBob", ""};
-  data.lin = {"qx|o1|\n\n[Names]\n", ""};
-  const LinFile read = ParseLinFile(LinFileText(data));
-  EXPECT_EQ(read.boardScoringMethod, " [LIN]");
-  EXPECT_EQ(read.names, std::vector<std::string>{"1 NS Ann [LIN] qx|o9| &  Bob"});
-  EXPECT_EQ(read.lin, std::vector<std::string>{"qx|o1| [Names] "});
+  const LinFile data{.boardScoringMethod = "[LIN]",
+                     .boardScoringAbb = {},
+                     .teamEvent = {},
+                     .names = {"1 NS Ann\r\n[LIN]\r\nqx|o9| & \tBob", ""},
+                     .lin = {"qx|o1|\n\n[Names]\n", ""}};
+  const LinFile expected{.boardScoringMethod = " [LIN]",
+                         .boardScoringAbb = {},
+                         .teamEvent = {},
+                         .names = {"1 NS Ann [LIN] qx|o9| &  Bob"},
+                         .lin = {"qx|o1| [Names] "}};
+  EXPECT_EQ(ParseLinFile(LinFileText(data)), expected);
 }
 
-class LinDataTest : public test::LibraryTest {};
+class LinDataTest : public LibraryTest {};
 
 TEST_F(LinDataTest, StaysInTheLibraryUntilRecycled) {
-  EXPECT_EQ(LoadLinData(session), LinFile());
+  EXPECT_TRUE(LoadLinData(session).Empty());
   StoreLinData(session, PairsEvent());
   EXPECT_EQ(LoadLinData(session), PairsEvent());
   EXPECT_TRUE(RecycleLinData(session));
   EXPECT_EQ(host.recycled, std::vector<std::string>{"LIN.txt"});
-  EXPECT_TRUE(LoadLinData(session).Empty());
   EXPECT_TRUE(RecycleLinData(session)) << "nothing is left to recycle";
 }
 
@@ -91,4 +87,4 @@ TEST_F(LinDataTest, AFailureIsAFault) {
 }
 
 }  // namespace
-}  // namespace tricklet
+}  // namespace tricklet::test
