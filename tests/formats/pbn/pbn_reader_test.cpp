@@ -67,7 +67,6 @@ TEST(ReadPBN, AHundredCallsAreTheLimit) {
   EXPECT_EQ(ReadOne(calls + "AP").NumCalls(), 100) << "all-pass stops at the limit";
   Collector sink;
   EXPECT_THROW(ReadPBN("%\n[Board \"1\"]\n" + calls + "P P\n", sink), Fault);
-  EXPECT_TRUE(sink.boards.empty());
 }
 
 TEST(ReadPBN, ReadsDoubleDummyTricks) {
@@ -99,12 +98,13 @@ TEST(ReadPBN, ReadsOptimumResultTables) {
   EXPECT_EQ(board.makeable[TableSeat::East][TableStrain::Spades], 7);
   EXPECT_EQ(board.makeable[TableSeat::South][TableStrain::Hearts], 13);
   EXPECT_TRUE(HasCards(board.hands));
-  // The last row alone decides whether there is a table, unless its tricks cannot be taken.
-  const std::pair<const char*, int> kLast[] = {{"W C 6", 6},  {"W C 11 \t", 11}, {"W C 13", 13},
-                                               {"W C 14", 0}, {"W C 0", 0},      {"W C ?", 0}};
+  // The last row alone decides whether there is a table, unless its tricks cannot be taken: -1.
+  const std::pair<const char*, int> kLast[] = {{"W C 6", 6},   {"W C 11 \t", 11}, {"W C 13", 13},
+                                               {"W C 14", -1}, {"W C 0", -1},     {"W C ?", -1}};
   for (const auto& [row, tricks] : kLast) {
     const Board read = ReadOne(OptimumTable(row));
-    EXPECT_EQ(read.makeableValid ? read.makeable[TableSeat::West][TableStrain::Clubs] : 0, tricks);
+    EXPECT_EQ(read.makeableValid ? read.makeable[TableSeat::West][TableStrain::Clubs] : -1, tricks)
+        << row;
   }
   const Board cut = ReadOne("[OptimumResultTable \"\"]\nN C 7\nS H 5");
   EXPECT_EQ(cut.makeable[TableSeat::South][TableStrain::Hearts], 5) << "by the end of the file";

@@ -11,11 +11,11 @@ namespace {
 namespace fs = std::filesystem;
 
 LinFile PairsEvent() {
-  return {.boardScoringMethod = "MATCH_POINTS",
-          .boardScoringAbb = "MP",
-          .teamEvent = {},
-          .names = {"1 NS Zo\u00eb & \u0141ukasz", "2 EW Cy & Di"},
-          .lin = {"qx|o1|rh||ah|Board 1|pg||qent|9|qens|140|", "qx|c1|rh||ah|Board 1|pg||"}};
+  return {"MATCH_POINTS",
+          "MP",
+          {},
+          {"1 NS Zo\u00eb & \u0141ukasz", "2 EW Cy & Di"},
+          {"qx|o1|rh||ah|Board 1|pg||qent|9|qens|140|", "qx|c1|rh||ah|Board 1|pg||"}};
 }
 
 TEST(LinFile, IsWrittenSectionBySection) {
@@ -54,17 +54,10 @@ TEST(LinFile, ReadsWhatOthersWrite) {
 }
 
 TEST(LinFile, AValueCannotLeaveItsLine) {
-  const LinFile data{.boardScoringMethod = "[LIN]",
-                     .boardScoringAbb = {},
-                     .teamEvent = {},
-                     .names = {"1 NS Ann\r\n[LIN]\r\nqx|o9| & \tBob", ""},
-                     .lin = {"qx|o1|\n\n[Names]\n", ""}};
-  const LinFile expected{.boardScoringMethod = " [LIN]",
-                         .boardScoringAbb = {},
-                         .teamEvent = {},
-                         .names = {"1 NS Ann [LIN] qx|o9| &  Bob"},
-                         .lin = {"qx|o1| [Names] "}};
-  EXPECT_EQ(ParseLinFile(LinFileText(data)), expected);
+  const std::string name = "1 NS Ann\r\n[LIN]\r\nqx|o9| & \tBob";
+  const LinFile data{"[LIN]", "", {}, {name, ""}, {"qx|o1|\n\n[Names]\n", ""}};
+  const LinFile read{" [LIN]", "", {}, {"1 NS Ann [LIN] qx|o9| &  Bob"}, {"qx|o1| [Names] "}};
+  EXPECT_EQ(ParseLinFile(LinFileText(data)), read);
 }
 
 class LinDataTest : public LibraryTest {};
