@@ -78,22 +78,14 @@ TEST(ReadPBN, ReadsDoubleDummyTricks) {
   EXPECT_EQ(board.makeable, expected);
 }
 
-/// Rows in an order of their own, trick counts 1..19 modulo 14 and then the last row.
-std::string OptimumTable(const std::string& lastRow) {
-  std::string text = "[OptimumResultTable \"Declarer;Denomination\\2R;Result\\2R\"]\n";
-  int tricks = 0;
-  for (const char* declarer : {"N", "E", "s", "W"}) {
-    for (const char* strain : {"NT", "S", "H", "D", "C"}) {
-      if (++tricks == 20) break;
-      text += std::string(declarer) + " " + strain + (tricks % 14 > 9 ? " " : "  ") +
-              std::to_string(tricks % 14) + "\n";
-    }
-  }
-  return text + lastRow + "\n";
-}
+// All rows but the last, in an order of their own, with tricks from 1 to 13, 0 and again 1 to 5.
+const std::string kNineteen =
+    "[OptimumResultTable \"Declarer;Denomination\\2R;Result\\2R\"]\nN NT  1\nN S  2\nN H  3\n"
+    "N D  4\nN C  5\nE NT  6\nE S  7\nE H  8\nE D  9\nE C 10\ns NT 11\ns S 12\ns H 13\ns D  0\n"
+    "s C  1\nW NT  2\nW S  3\nW H  4\nW D  5\n";
 
 TEST(ReadPBN, ReadsOptimumResultTables) {
-  const Board board = ReadOne(OptimumTable("W C 6") + kPbnDeal);
+  const Board board = ReadOne(kNineteen + "W C 6\n" + kPbnDeal);
   EXPECT_EQ(board.makeable[TableSeat::North][TableStrain::NoTrump], 1);
   EXPECT_EQ(board.makeable[TableSeat::East][TableStrain::Spades], 7);
   EXPECT_EQ(board.makeable[TableSeat::South][TableStrain::Hearts], 13);
@@ -102,9 +94,8 @@ TEST(ReadPBN, ReadsOptimumResultTables) {
   const std::pair<const char*, int> kLast[] = {{"W C 6", 6},   {"W C 11 \t", 11}, {"W C 13", 13},
                                                {"W C 14", -1}, {"W C 0", -1},     {"W C ?", -1}};
   for (const auto& [row, tricks] : kLast) {
-    const Board read = ReadOne(OptimumTable(row));
-    EXPECT_EQ(read.makeableValid ? read.makeable[TableSeat::West][TableStrain::Clubs] : -1, tricks)
-        << row;
+    const Board read = ReadOne(kNineteen + row);
+    EXPECT_EQ(read.makeableValid ? read.makeable[TableSeat::West][TableStrain::Clubs] : -1, tricks);
   }
   const Board cut = ReadOne("[OptimumResultTable \"\"]\nN C 7\nS H 5");
   EXPECT_EQ(cut.makeable[TableSeat::South][TableStrain::Hearts], 5) << "by the end of the file";
@@ -112,7 +103,6 @@ TEST(ReadPBN, ReadsOptimumResultTables) {
 
 TEST(ReadPBN, StopsAtALineThatCannotBeRead) {
   const std::string table = "[OptimumResultTable \"\"]\n";
-  const std::string nineteen = OptimumTable("% Pbn").substr(0, OptimumTable("").size() - 1);
   // What comes before the line, the line, and how many rows of its table came before it
   const std::tuple<std::string, const char*, const char*> kCases[] = {
       {"", "[Deal \"AK.2.3.4 - - -\"]", ""},
@@ -121,7 +111,7 @@ TEST(ReadPBN, StopsAtALineThatCannotBeRead) {
       {"", "[DoubleDummyTricks \"746b5747b5586275862\"]", ""},
       {"", "[DoubleDummyTricks \"746b5747b5586275862e\"]", ""},
       {table + "N NT 7\n", "[Note \"\"]", "1"},
-      {nineteen, "% PBN", "19"},
+      {kNineteen, "% PBN", "19"},
       {table, "", "0"},
       {table, "N X 7", ""},
       {table, " N C 7", ""},
