@@ -155,7 +155,7 @@ TEST(Usebio, ALineWithoutPlayersHasThoseOfItsPairs) {
   const std::string together = Pair("1", "", "Ann", "Bob") + Pair("2", "NS", "Cy", "Di");
   const std::string ending = Pair("9NS", "", "Ann", "Bob") + Pair("9", "EW", "Cy", "Di");
   const std::string free = Pair("1", "", "Ann", "Bob") + Pair("2", "", "Cy", "Di");
-  const std::string placed = Pair("1", "NS", "Ann", "Bob") + Pair("2", "EW", "Cy", "Di");
+  const std::string placed = Pair("1", "NS", "Ann", "Bob") + Pair("2", "", "Cy", "Di");
   // Event and pairs, the line's numbers and direction, its LIN data; what becomes of the last
   const std::tuple<const char*, std::string, const char*, const char*, const char*> kCases[] = {
       {"PAIRS", separate, "1 1", "", "pn|Bob,Di,Ann,Cy|"},
