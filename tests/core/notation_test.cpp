@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -13,44 +14,39 @@ namespace {
 TEST(Notation, DealerAndVulnerabilityFollowTheBoardNumber) {
   // Laws of Duplicate Bridge, 2: boards 1 to 16; - none, N North-South, E East-West, B both.
   constexpr std::string_view kVulnerable = "-NEBNEB-EB-NB-NE";
-  constexpr std::string_view kDealers = "NESW";
   for (int board = 1; board <= 999; ++board) {
     const auto place = static_cast<std::size_t>(board - 1);
     EXPECT_EQ("-NEB"[IndexOf(VulOfBoard(board))], kVulnerable[place % 16]) << board;
-    EXPECT_EQ(SeatName[DealerOfBoard(board)].front(), kDealers[place % 4]) << board;
+    EXPECT_EQ(SeatName[DealerOfBoard(board)].front(), "NESW"[place % 4]) << board;
   }
 }
 
 TEST(Notation, OrdersAreConvertedByName) {
-  EXPECT_EQ(ToStrain(BidStrain::Clubs), Strain::Clubs);
-  EXPECT_EQ(ToStrain(BidStrain::Spades), Strain::Spades);
-  EXPECT_EQ(ToStrain(BidStrain::NoTrump), Strain::NoTrump);
-  EXPECT_EQ(ToTableStrain(Strain::Diamonds), TableStrain::Diamonds);
+  constexpr std::tuple<Strain, BidStrain, TableStrain> kStrainsOfOneName[] = {
+      {Strain::Clubs, BidStrain::Clubs, TableStrain::Clubs},
+      {Strain::Diamonds, BidStrain::Diamonds, TableStrain::Diamonds},
+      {Strain::Spades, BidStrain::Spades, TableStrain::Spades},
+      {Strain::NoTrump, BidStrain::NoTrump, TableStrain::NoTrump}};
+  for (const auto& [strain, bid, column] : kStrainsOfOneName) {
+    EXPECT_EQ(ToStrain(bid), strain);
+    EXPECT_EQ(ToBidStrain(strain), bid);
+    EXPECT_EQ(ToTableStrain(strain), column);
+  }
   EXPECT_EQ(ToTableSeat(Seat::East), TableSeat::East);
   EXPECT_EQ(ToTableSeat(Seat::South), TableSeat::South);
-  for (const Strain strain : {Strain::Spades, Strain::Hearts, Strain::Clubs, Strain::NoTrump}) {
-    EXPECT_EQ(ToStrain(ToBidStrain(strain)), strain);
-  }
 }
 
 TEST(Holding, TextIsReadByFirstCharactersAndWrittenInRankOrder) {
-  const struct {
-    const char* given;
-    const char* text;
-    const char* pbn;
-  } kCases[] = {
-      {"", "", ""},
-      {" A K 10 5 2", " A K 10 5 2", "AKT52"},
-      {"2510KA", " A K 10 5 2", "AKT52"},
+  const std::tuple<const char*, const char*, std::string> kCases[] = {
+      {"", "", ""},           {"2510KA", " A K 10 5 2", "AKT52"},
       {"KT9", " K 9", "K9"},  // a ten is found through its "1" only
-      {"AAxyz-A", " A", "A"},
-      {"AKQJ1098765432", " A K Q J 10 9 8 7 6 5 4 3 2", "AKQJT98765432"},
+      {"AAxyz-A", " A", "A"}, {"AKQJ1098765432", " A K Q J 10 9 8 7 6 5 4 3 2", "AKQJT98765432"},
   };
-  for (const auto& c : kCases) {
+  for (const auto& [given, text, pbn] : kCases) {
     int cards = 100;
-    EXPECT_EQ(HoldingText(AddSpace(c.given)), c.text) << c.given;
-    EXPECT_EQ(PBNFormat(AddSpace(c.given), cards), c.pbn) << c.given;
-    EXPECT_EQ(cards, 100 + static_cast<int>(std::string(c.pbn).size())) << c.given;
+    EXPECT_EQ(HoldingText(AddSpace(given)), text) << given;
+    EXPECT_EQ(PBNFormat(AddSpace(given), cards), pbn) << given;
+    EXPECT_EQ(cards, 100 + static_cast<int>(pbn.size())) << given;
   }
 }
 

@@ -52,8 +52,7 @@ TEST(WeightedPick, FollowsTheWeightsOfTheRange) {
   RandomSource random(2);
   std::array<long, 7> counts{};
   for (int i = 0; i < 100000; ++i) {
-    const int picked = WeightedPick(weights, 1, 5, random);
-    ++counts.at(static_cast<std::size_t>(picked));
+    ++counts.at(static_cast<std::size_t>(WeightedPick(weights, 1, 5, random)));
   }
   EXPECT_EQ(counts[0] + counts[2] + counts[5] + counts[6], 0);
   EXPECT_LT(ChiSquareDeviation({counts[1], counts[3], counts[4]}, {3, 1, 6}), 4);

@@ -6,6 +6,7 @@
 #include <map>
 #include <sstream>
 #include <string>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -53,27 +54,20 @@ TEST(ScoreContract, AgreesWithThePublishedTables) {
       for (int column = 0; column < 6; ++column) {
         const int expected = row.at(static_cast<std::size_t>(column)) * (result < 0 ? -1 : 1);
         const auto doubling = static_cast<Doubling>(column % 3);
-        const auto score = [&](Seat declarer, Vulnerability his, Vulnerability theirs) {
-          return ScoreContract(column < 3 ? theirs : his, level, strain, doubling, result,
-                               declarer);
-        };
-        constexpr auto kNS = Vulnerability::NorthSouth;
-        constexpr auto kEW = Vulnerability::EastWest;
-        EXPECT_EQ(score(Seat::South, kNS, kEW), expected) << bid << " " << tricks << " " << column;
-        EXPECT_EQ(score(Seat::East, kEW, kNS), -expected) << bid << " " << tricks << " " << column;
+        for (const Seat declarer : {Seat::South, Seat::East}) {
+          const auto vulnerable =
+              static_cast<Vulnerability>((declarer == Seat::South) == (column < 3) ? 2 : 1);
+          EXPECT_EQ(ScoreContract(vulnerable, level, strain, doubling, result, declarer),
+                    declarer == Seat::South ? expected : -expected)
+              << bid << " " << tricks << " " << column;
+        }
       }
     }
   }
 }
 
 TEST(ResultLine, NamesTheSideThatScores) {
-  const struct {
-    int board;
-    const char* contract;
-    Seat declarer;
-    int tricks;
-    const char* line;
-  } kCases[] = {
+  const std::tuple<int, const char*, Seat, int, const char*> kCases[] = {
       {1, "3NT", Seat::North, 9, "3NT= by North : NS +400"},
       {1, "4S", Seat::North, 11, "4S+1 by North : NS +450"},
       {3, "4Sx", Seat::East, 8, "4Sx-2 by East : NS +500"},
@@ -83,12 +77,12 @@ TEST(ResultLine, NamesTheSideThatScores) {
       {4, "All Pass", Seat::South, 0, "All Pass : 0"},
       {4, "", Seat::South, 0, ""},
   };
-  for (const auto& c : kCases) {
+  for (const auto& [number, contract, declarer, tricks, line] : kCases) {
     Board board;
-    board.boardNumber = c.board;
-    if (!SetContract(board, c.contract)) board.contract = c.contract;
-    board.declarer = c.declarer;
-    EXPECT_EQ(ResultLine(board, c.tricks), c.line);
+    board.boardNumber = number;
+    if (!SetContract(board, contract)) board.contract = contract;
+    board.declarer = declarer;
+    EXPECT_EQ(ResultLine(board, tricks), line);
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <set>
 #include <string>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -26,46 +27,36 @@ TEST(Settings, DefaultsAndRoundTrip) {
   EXPECT_EQ(LoadSettings(store), settings);
   EXPECT_EQ(store.Read("Tricklet", "PBNBids"), "False");
   EXPECT_FALSE(store.Read("macro", "library")) << "the root and library are not options";
+  EXPECT_FALSE(store.Read("Tricklet", "ShowMessage")) << "only the notice writes this";
 }
 
 TEST(Settings, WhatCannotBeReadTakesItsDefault) {
-  const struct {
-    const char* section;
-    const char* key;
-    const char* text;
-  } kCases[] = {{"Tricklet", "CardDesign", "9"},     {"Tricklet", "CardDesign", "1.5"},
-                {"Tricklet", "CardDesign", ""},      {"Tricklet", "CardsFaces", "yes"},
-                {"Tricklet", "CardDesign", "0"},     {"Tricklet", "CardsFaces", "1.5"},
-                {"Tricklet", "ColourScheme", "-1"},  {"Tricklet", "EditMethod", "4"},
-                {"Tricklet", "ShowMessage", "-1"},   {"HGFont1", "Size", "5.9"},
-                {"Tricklet", "SuitFontSize", "nan"}, {"Tricklet", "SuitFontSize", "1e99"},
-                {"HGFont0", "Forecolour", "&HXYZ"},  {"HGFont0", "Size", "14 points"}};
-  for (const auto& c : kCases) {
+  const std::tuple<const char*, const char*, const char*> kCases[] = {
+      {"Tricklet", "CardDesign", "9"},     {"Tricklet", "CardDesign", "1.5"},
+      {"Tricklet", "CardDesign", ""},      {"Tricklet", "CardsFaces", "yes"},
+      {"Tricklet", "CardDesign", "0"},     {"Tricklet", "CardsFaces", "1.5"},
+      {"Tricklet", "ColourScheme", "-1"},  {"Tricklet", "EditMethod", "4"},
+      {"Tricklet", "ShowMessage", "-1"},   {"HGFont1", "Size", "5.9"},
+      {"Tricklet", "SuitFontSize", "nan"}, {"Tricklet", "SuitFontSize", "1e99"},
+      {"HGFont0", "Forecolour", "&HXYZ"},  {"HGFont0", "Size", "14 points"}};
+  for (const auto& [section, key, text] : kCases) {
     MemoryStore store;
-    store.Write(c.section, c.key, c.text);
-    EXPECT_EQ(LoadSettings(store), Settings()) << c.key << " " << c.text;
+    store.Write(section, key, text);
+    EXPECT_EQ(LoadSettings(store), Settings()) << key << " " << text;
   }
 }
 
-TEST(Settings, BooleansAreReadAsNumbersToo) {
-  const struct {
-    const char* text;
-    bool value;
-  } kCases[] = {{"0", false}, {"-1", true}, {"1", true}, {"false", false}, {"TRUE", true}};
-  for (const auto& c : kCases) {
-    MemoryStore store;
-    store.Write("Tricklet", "AutoLaunch", c.text);
-    store.Write("Tricklet", "AutoMakeable", c.text);
-    const Settings settings = LoadSettings(store);
-    EXPECT_EQ(settings.autoLaunch, c.value) << c.text;
-    EXPECT_EQ(settings.autoMakeable, c.value) << c.text;
-  }
-}
-
-TEST(Settings, ColoursAreReadAsSignedNumbersToo) {
+TEST(Settings, BooleansAndColoursAreReadAsSignedNumbersToo) {
   MemoryStore store;
-  store.Write("HGFont0", "Forecolour", "-2147483640");
-  EXPECT_EQ(LoadSettings(store).hgFont[0].forecolour, kWindowTextColour);
+  for (const auto& [text, value] :
+       {std::pair("0", false), {"-1", true}, {"1", true}, {"false", false}, {"TRUE", true}}) {
+    store.Write("Tricklet", "AutoLaunch", text);
+    store.Write("Tricklet", "AutoMakeable", text);  // its default is the other
+    const Settings settings = LoadSettings(store);
+    EXPECT_TRUE(settings.autoLaunch == value && settings.autoMakeable == value) << text;
+  }
+  store.Write("HGFont0", "Forecolour", "-2147483639");
+  EXPECT_EQ(LoadSettings(store).hgFont[0].forecolour.value, 0x80000009U);
 }
 
 TEST(Settings, EveryKeyIsFoundAndBelongsToAFieldOfItsOwn) {

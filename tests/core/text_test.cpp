@@ -9,7 +9,6 @@ namespace tricklet {
 namespace {
 
 TEST(Text, SingleNumbersAreShortAndHaveNoExponent) {
-  EXPECT_EQ(ShortestText(7), "7");
   EXPECT_EQ(ShortestText(-0.1F), "-0.1");
   EXPECT_EQ(ShortestText(12.25F), "12.25");
   EXPECT_EQ(ShortestText(1e-5F), "0.00001");
@@ -17,31 +16,27 @@ TEST(Text, SingleNumbersAreShortAndHaveNoExponent) {
 }
 
 TEST(Text, LeadingNumber) {
-  const struct {
-    const char* text;
-    int value;
-  } kCases[] = {{"  7th", 7}, {"-3", -3},         {"", 0},         {"x1", 0},
-                {"4-1", 4},   {"0001 Opener", 1}, {"+12", 12},     {"99999999999", 32767},
-                {"?", 0},     {"-99999", -32768}, {"32767", 32767}};
-  for (const auto& c : kCases) EXPECT_EQ(LeadingNumber(c.text), c.value) << c.text;
+  constexpr std::pair<const char*, int> kCases[] = {
+      {"  7th", 7}, {"-3", -3},         {"", 0},           {"4-1", 4},
+      {"?", 0},     {"0001 Opener", 1}, {"+12", 12},       {"99999999999", 32767},
+      {"x1", 0},    {"32767", 32767},   {"-99999", -32768}};
+  for (const auto& [text, number] : kCases) EXPECT_EQ(LeadingNumber(text), number) << text;
 }
 
 TEST(Text, ShowableMakesForeignBytesFit) {
   EXPECT_EQ(Showable("caf\xc3\xa9"), "caf\u00e9");
   EXPECT_EQ(Showable("caf\xe9"), "caf\u00e9");
   EXPECT_EQ(Showable(std::string_view("a\0b\tc", 5)), "a b c");
-  EXPECT_EQ(Showable("12345678", 4), "1234...");
   EXPECT_EQ(Showable("ab\xc3\xa9", 3), "ab...");  // never half a character
   EXPECT_FALSE(IsValidUtf8("\xed\xa0\x80"));      // a surrogate
   EXPECT_FALSE(IsValidUtf8("\xc0\xaf"));          // an overlong form
-  EXPECT_EQ(Utf8ToLatin1("caf\u00e9 \u2660"), "caf\xe9 ?");
+  EXPECT_EQ(Utf8ToLatin1("caf\u00e9 \u00ff\u0100\u2660"), "caf\xe9 \xff??");
 }
 
 TEST(Text, WholeNumbersAreNumbersToTheirEnd) {
   EXPECT_EQ(WholeNumber("-12"), -12);
   EXPECT_EQ(WholeNumber("ff", 16), 255);
   EXPECT_EQ(WholeNumber<double>("1e3"), 1000);
-  EXPECT_EQ(WholeNumber<std::int16_t>("32767"), 32767);
   EXPECT_FALSE(WholeNumber<std::int16_t>("32768"));
   for (const char* none : {"", " 1", "1 ", "+1", "1.0", "-", "2x"}) {
     EXPECT_FALSE(WholeNumber(none)) << none;
@@ -54,7 +49,6 @@ TEST(Text, FoldedTextsAreEqualInEveryCaseAndComposition) {
     EXPECT_TRUE(EqualFolded("\u00fcnal \u03b4\u0436", other)) << other;
   }
   EXPECT_FALSE(EqualFolded("\u00fcnal", "unal"));
-  EXPECT_EQ(FoldCase(""), "");
 }
 
 }  // namespace
