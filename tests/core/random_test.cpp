@@ -17,16 +17,7 @@ TEST(RandomSource, ASeedGivesItsStream) {
   for (const double numerator : {1711339255655424.0, 888456430154533.0, 610767258815931.0}) {
     EXPECT_EQ(random.Rnd(), numerator / 9007199254740992.0);  // 2^53
   }
-  RandomSource again(1234567);
-  again.Rnd();
-  RandomSource other(1234568);
-  RandomSource bySystem;
-  int same = 0;
-  for (int i = 0; i < 100; ++i) {
-    const double number = again.Rnd();
-    same += other.Rnd() == number || bySystem.Rnd() == number ? 1 : 0;
-  }
-  EXPECT_EQ(same, 0);
+  EXPECT_NE(RandomSource().Rnd(), RandomSource().Rnd()) << "seeded by the system";
 }
 
 TEST(RandomSource, IntegersAreUniform) {
@@ -34,9 +25,7 @@ TEST(RandomSource, IntegersAreUniform) {
   for (const int size : {2, 3, 13, 39, 52}) {
     std::vector<long> counts(static_cast<std::size_t>(size));
     for (int i = 0; i < 100000; ++i) {
-      const int number = RandomBetween(-5, size - 6, random) + 5;
-      ASSERT_TRUE(number >= 0 && number < size);
-      ++counts.at(static_cast<std::size_t>(number));
+      ++counts.at(static_cast<std::size_t>(RandomBetween(-5, size - 6, random) + 5));
     }
     EXPECT_LT(ChiSquareDeviation(counts, std::vector<double>(counts.size(), 1.0)), 4) << size;
   }

@@ -12,57 +12,40 @@ namespace tricklet {
 namespace {
 
 namespace fs = std::filesystem;
-using test::LibraryTest;
 using test::ReadFile;
 using test::WriteFile;
 
-constexpr const char* kQuestion = "Overwrite existing board 7?";
-constexpr const char* kTitle = "Hand already in library";
-
-class BoardStore : public LibraryTest {
+class BoardStore : public test::LibraryTest {
  protected:
   BoardStore() {
     session.board.boardNumber = 7;
     path = session.BoardPath(7);
   }
+  auto FilesInLibrary() { return std::distance(fs::directory_iterator(path.parent_path()), {}); }
   fs::path path;
 };
 
-TEST_F(BoardStore, SavesANewBoardWithoutAQuestion) {
-  ClearAll(session.board);
-  EXPECT_TRUE(session.board.handChanged);
-  EXPECT_TRUE(SaveHand(session));
-  EXPECT_FALSE(session.board.handChanged);
-  EXPECT_EQ(ReadFile(path), WriteBoardText(session.board));
-  EXPECT_EQ(session.library.boardCount, 1);
-}
-
 TEST_F(BoardStore, AsksBeforeAChangedBoardReplacesAFile) {
+  ClearAll(session.board);
+  EXPECT_EQ(Shown(), "Club 7* of 24, 0 stored");
+  EXPECT_TRUE(SaveHand(session)) << "nothing is asked about a new board";
+  EXPECT_EQ(Shown(), "Club 7 of 24, 1 stored");
+  EXPECT_EQ(ReadFile(path), WriteBoardText(session.board));
+
   WriteFile(path, "old");
   session.board.handChanged = true;
-  host.ExpectAsk(kQuestion, kTitle, Answer::No);
+  host.ExpectAsk("Overwrite existing board 7?", "Hand already in library", Answer::No);
   EXPECT_FALSE(SaveHand(session));
   EXPECT_EQ(ReadFile(path), "old");
   EXPECT_TRUE(session.board.handChanged);
 
-  host.ExpectAsk(kQuestion, kTitle, Answer::Yes);
+  host.ExpectAskWith("Overwrite", Answer::Yes);
   EXPECT_TRUE(SaveHand(session));
   EXPECT_NE(ReadFile(path), "old");
 
   WriteFile(path, "old");
-  EXPECT_TRUE(SaveHand(session)) << "nothing is asked about a board without changes";
+  EXPECT_TRUE(SaveHand(session)) << "nor about a board without changes";
   EXPECT_NE(ReadFile(path), "old");
-}
-
-TEST_F(BoardStore, LeavesAReadOnlyFileAlone) {
-  WriteFile(path, "old");
-  fs::permissions(path, fs::perms::owner_read);
-  session.board.handChanged = true;
-  host.ExpectAsk(kQuestion, kTitle, Answer::Yes);
-  host.ExpectTell("The file\n" + PathText(path) + "\nis read only so the hand cannot be saved");
-  EXPECT_FALSE(SaveHand(session));
-  EXPECT_EQ(ReadFile(path), "old");
-  EXPECT_TRUE(session.board.handChanged);
 }
 
 TEST_F(BoardStore, NothingStoresABoardInAReadOnlyFile) {
@@ -71,7 +54,12 @@ TEST_F(BoardStore, NothingStoresABoardInAReadOnlyFile) {
   const std::string text =
       "The file\n" + PathText(path) + "\nis read only so the hand cannot be saved";
   host.ExpectTell(text);
-  EXPECT_FALSE(SaveHand(session)) << "nor without changes";
+  EXPECT_FALSE(SaveHand(session));
+  session.board.handChanged = true;
+  host.ExpectAskWith("Overwrite", Answer::Yes);
+  host.ExpectTell(text);
+  EXPECT_FALSE(SaveHand(session));
+  EXPECT_TRUE(session.board.handChanged);
   try {
     StoreBoard(session);
     FAIL();
@@ -86,13 +74,14 @@ TEST_F(BoardStore, NothingStoresABoardInAReadOnlyFile) {
   EXPECT_EQ(ReadFile(path), test::OneSuitEachText());
 }
 
-TEST_F(BoardStore, AMarkedFileThatIsReplacedKeepsItsMark) {
+TEST_F(BoardStore, FilesAreReplacedWholeOrNotAtAll) {
   WriteFile(path, "old");
   fs::permissions(path, fs::perms::owner_read);
   ReplaceWholeFile(path, "new");
   EXPECT_EQ(ReadFile(path), "new");
-  EXPECT_TRUE(IsReadOnly(path));
-  EXPECT_EQ(std::distance(fs::directory_iterator(session.LibraryPath()), {}), 1);
+  EXPECT_TRUE(IsReadOnly(path)) << "a file that is replaced keeps its mark";
+  EXPECT_FALSE(CopyWholeFile(path, session.BoardPath(8), [] { return false; }));
+  EXPECT_EQ(FilesInLibrary(), 1) << "nothing is left beside it";
 }
 
 TEST_F(BoardStore, AFailedSaveIsReportedAndLosesNothing) {
@@ -102,8 +91,7 @@ TEST_F(BoardStore, AFailedSaveIsReportedAndLosesNothing) {
   EXPECT_FALSE(SaveHand(session));
   EXPECT_TRUE(session.board.handChanged);
   EXPECT_FALSE(host.ended);
-  EXPECT_EQ(std::distance(fs::directory_iterator(session.LibraryPath()), {}), 1)
-      << "nothing is left beside it";
+  EXPECT_EQ(FilesInLibrary(), 1) << "nothing is left beside it";
 
   fs::remove_all(session.LibraryPath());
   host.ExpectAskWith("Error no. 53", Answer::No);
@@ -113,45 +101,34 @@ TEST_F(BoardStore, AFailedSaveIsReportedAndLosesNothing) {
 }
 
 TEST_F(BoardStore, LoadsAFileOrAnEmptyBoardOfTheNumber) {
-  WriteFile(path, test::OneSuitEachText());
-  session.board.handChanged = true;
-  EXPECT_TRUE(LoadHand(session));
-  EXPECT_FALSE(session.board.handChanged);
-  EXPECT_EQ(session.board.hands[Seat::West][Suit::Clubs].Count(), 13);
-
-  fs::remove(path);
   session.board.calls.Add(Call::Pass());
-  EXPECT_FALSE(LoadHand(session));
-  EXPECT_FALSE(HasCards(session.board.hands));
+  session.board.handChanged = true;
+  EXPECT_FALSE(LoadHand(session)) << "there is no file";
+  EXPECT_EQ(Shown(), "Club 7 of 24, 0 stored");
   EXPECT_EQ(session.board.NumCalls(), 0);
-  EXPECT_FALSE(session.board.handChanged);
-  EXPECT_EQ(session.board.boardNumber, 7);
-}
 
-TEST_F(BoardStore, AnUnreadableFileGivesItsMessageAndKeepsWhatWasRead) {
   WriteFile(path, test::OneSuitEachText().substr(0, 60));
   host.ExpectTell("Can't read the file " + PathText(path));
   EXPECT_FALSE(LoadHand(session));
-  EXPECT_EQ(session.board.hands[Seat::North][Suit::Spades].Count(), 13);
+  EXPECT_EQ(session.board.hands[Seat::North][Suit::Spades].Count(), 13) << "what could be read";
 
-  WriteFile(path, std::string(kMaxBoardFileBytes + 1, ' '));
+  WriteFile(path, test::OneSuitEachText() + std::string(kMaxBoardFileBytes, ' '));
   host.ExpectTell("Can't read the file " + PathText(path));
-  EXPECT_FALSE(LoadHand(session));
+  EXPECT_FALSE(LoadHand(session)) << "too large";
 }
 
 TEST_F(BoardStore, TheBasicLoaderTellsCompleteDeals) {
-  WriteFile(path, test::OneSuitEachText());
   Board board;
   board.boardNumber = 7;
   bool complete = false;
-  EXPECT_TRUE(LoadHandBasic(session, board, complete));
-  EXPECT_TRUE(complete);
   std::string text = test::OneSuitEachText();
-  text.replace(text.find(" A"), 2, "");
-  text.replace(text.rfind(" 0"), 2, "no number");  // not read for an incomplete deal
-  WriteFile(path, text);
-  EXPECT_TRUE(LoadHandBasic(session, board, complete));
-  EXPECT_FALSE(complete);
+  for (const bool whole : {true, false}) {
+    WriteFile(path, text);
+    EXPECT_TRUE(LoadHandBasic(session, board, complete));
+    EXPECT_EQ(complete, whole);
+    text.replace(text.find(" A"), 2, "");
+    text.replace(text.rfind(" 0"), 2, "no number");  // not read for an incomplete deal
+  }
 }
 
 }  // namespace

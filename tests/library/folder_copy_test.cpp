@@ -50,14 +50,17 @@ class FolderCopyTest : public testing::Test {
   fs::path From() const { return folder.Path() / "from"; }
   fs::path To() const { return folder.Path() / "to"; }
 
+  /// Copies `From()` under each of the names.
+  bool Copy(std::initializer_list<const char*> names, const fs::path& into) {
+    FolderCopy copy(host, into);
+    for (const char* name : names) copy.Add(From(), name);
+    return copy.Run();
+  }
   /// Copies as a new folder and over an old one; expects the fault, and that nothing has changed.
   void ExpectUndone(FaultNumber number) {
     const auto before = Contents(To());
-    FolderCopy copy(host, To());
-    copy.Add(From(), "New");
-    copy.Add(From(), "Old");
     try {
-      copy.Run();
+      Copy({"New", "Old"}, To());
       ADD_FAILURE() << "no failure";
     } catch (const Fault& fault) {
       EXPECT_EQ(fault.Number(), number) << fault.Description();
@@ -75,10 +78,7 @@ TEST_F(FolderCopyTest, CopiesNewFoldersWholeAndAddsToOldOnes) {
   fs::last_write_time(From() / "001.txt", old);
   WriteFile(From() / (std::string(250, 'n') + ".txt"), "as long as a name can be");
   fs::permissions(From() / "002.txt", fs::perms::owner_read);
-  FolderCopy copy(host, To());
-  copy.Add(From(), "New");
-  copy.Add(From(), "Old");
-  EXPECT_TRUE(copy.Run());
+  EXPECT_TRUE(Copy({"New", "Old"}, To()));
   auto expected = Contents(From());
   EXPECT_EQ(Contents(To() / "New"), expected);
   expected["009.txt"] = "nine";
@@ -87,28 +87,20 @@ TEST_F(FolderCopyTest, CopiesNewFoldersWholeAndAddsToOldOnes) {
   EXPECT_EQ(fs::last_write_time(To() / "New" / "001.txt"), old);
   EXPECT_TRUE(IsReadOnly(To() / "New" / "002.txt"));
   EXPECT_FALSE(IsReadOnly(To() / "New" / "001.txt"));
-  EXPECT_EQ(host.recycled, std::vector<std::string>{});
+  EXPECT_EQ(test::Joined(host.recycled), "");
   EXPECT_EQ(host.steps.back(), "Copying library Old");
 }
 
 TEST_F(FolderCopyTest, CancelledAtAnyStepEverythingIsAsItWas) {
   const auto before = Contents(folder.Path());
   const fs::path into = folder.Path() / "a" / "b";
-  int step = 0;
-  bool done = false;
-  while (!done && step < 100) {
+  host.cancelAtStep = 1;
+  while (!Copy({"New", "Old"}, host.cancelAtStep % 2 == 0 ? into : To())) {
+    EXPECT_EQ(Contents(folder.Path()), before) << host.cancelAtStep;
     host.steps.clear();
-    host.cancelAtStep = ++step;
-    FolderCopy copy(host, step % 2 == 0 ? into : To());
-    copy.Add(From(), "New");
-    copy.Add(From(), "Old");
-    done = copy.Run();
-    if (!done) {
-      EXPECT_EQ(Contents(folder.Path()), before) << step;
-    }
+    ASSERT_LT(++host.cancelAtStep, 100);
   }
-  EXPECT_GT(step, 10) << "folders, files and pieces of files are steps";
-  EXPECT_TRUE(done);
+  EXPECT_GT(host.cancelAtStep, 10) << "folders, files and pieces of files are steps";
 }
 
 TEST_F(FolderCopyTest, WithoutARecycleBinTheIncompleteCopyIsNamed) {
@@ -116,31 +108,24 @@ TEST_F(FolderCopyTest, WithoutARecycleBinTheIncompleteCopyIsNamed) {
   host.cancelAtStep = 8;
   host.ExpectTell("Unable to send the incomplete copy to the recycle bin:\n" +
                   PathText(To() / ".tricklet-copy-1"));
-  FolderCopy copy(host, To());
-  copy.Add(From(), "New");
-  EXPECT_FALSE(copy.Run());
+  EXPECT_FALSE(Copy({"New"}, To()));
   EXPECT_FALSE(fs::exists(To() / "New"));
 
   host.cancelAtStep = 0;
-  FolderCopy again(host, To());
-  again.Add(From(), "New");
-  EXPECT_TRUE(again.Run()) << "what was left is in nobody's way";
+  EXPECT_TRUE(Copy({"New"}, To())) << "what was left is in nobody's way";
   EXPECT_EQ(Contents(To() / "New"), Contents(From()));
 }
 
 TEST_F(FolderCopyTest, WhatIsInTheWayIsFoundBeforeAnythingIsWritten) {
-  fs::create_directories(To() / "Old" / "002.txt");
-  ExpectUndone(FaultNumber::PathFileAccess);
-  fs::remove(To() / "Old" / "002.txt");
-  WriteFile(To() / "Old" / "empty", "a file where a folder is to be");
-  ExpectUndone(FaultNumber::PathFileAccess);
-  fs::remove(To() / "Old" / "empty");
-  WriteFile(To() / "New", "a file");
-  ExpectUndone(FaultNumber::PathFileAccess);
-  fs::remove(To() / "New");
+  for (const fs::path place : {"Old/002.txt", "Old/empty", "New"}) {
+    // A folder where a file is to be, or a file where a folder.
+    WriteFile(To() / (place.has_extension() ? place / "inside" : place), "");
+    ExpectUndone(FaultNumber::PathFileAccess);
+    fs::remove_all(To() / place);
+  }
   fs::permissions(To() / "Old" / "001.txt", fs::perms::owner_read);
   ExpectUndone(FaultNumber::PermissionDenied);
-  EXPECT_EQ(host.recycled, std::vector<std::string>{});
+  EXPECT_EQ(test::Joined(host.recycled), "");
 }
 
 TEST_F(FolderCopyTest, AFolderThatAppearsMeanwhileIsNotTouched) {
@@ -160,27 +145,22 @@ TEST_F(FolderCopyTest, BoardsThatWereReplacedComeBackWhenALaterLibraryFails) {
   WriteFile(To() / "Old" / u8"notes \u00e9" / "kept", "kept");
   WriteFile(To() / "Older" / "001.txt", "older one");
   const auto before = Contents(To());
-  FolderCopy copy(host, To());
-  copy.Add(From(), "Old");
-  copy.Add(From(), "Older");
   host.onStep = [this] {  // while the last files are copied, after what is in the way was found
     if (fs::exists(To() / ".tricklet-copy-1" / "Older")) {
       fs::create_directories(To() / "Older" / u8"notes \u00e9" / "deep" / "readme");
     }
   };
-  EXPECT_THROW(copy.Run(), Fault);
+  EXPECT_THROW(Copy({"Old", "Older"}, To()), Fault);
   fs::remove_all(To() / "Older" / u8"notes \u00e9");
   EXPECT_EQ(Contents(To()), before);
-  EXPECT_EQ(host.recycled, std::vector<std::string>{".tricklet-copy-1"});
+  EXPECT_EQ(test::Joined(host.recycled), ".tricklet-copy-1");
 }
 
 TEST_F(FolderCopyTest, AFileThatVanishesIsNotCopiedAndAFolderThatVanishesFails) {
-  FolderCopy copy(host, To());
   host.onStep = [this] {
     if (host.steps.size() == 4) fs::remove(From() / "001.txt");
   };
-  copy.Add(From(), "New");
-  EXPECT_TRUE(copy.Run());
+  EXPECT_TRUE(Copy({"New"}, To()));
   EXPECT_EQ(Contents(To() / "New"), Contents(From()));
 
   fs::remove_all(To() / "New");
@@ -201,22 +181,13 @@ TEST_F(FolderCopyTest, TooManyFoldersInEachOtherAreRefused) {
 
 TEST_F(FolderCopyTest, FindsFoldersInEachOther) {
   fs::create_directory_symlink(From(), folder.Path() / "link");
-  const struct {
-    fs::path a;
-    fs::path b;
-    bool overlap;
-  } cases[] = {
-      {From(), From(), true},
-      {From(), From() / "not there" / "yet", true},
-      {From() / "empty", From(), true},
-      {From(), folder.Path() / "link" / "x", true},
-      {From(), From() / "empty" / ".." / ".." / "to", false},
-      {From(), To(), false},
-      {From(), folder.Path() / "from2", false},
-  };
-  for (const auto& [a, b, overlap] : cases) {
-    EXPECT_EQ(FoldersOverlap(a, b), overlap) << a << " " << b;
-    EXPECT_EQ(FoldersOverlap(b, a), overlap) << b << " " << a;
+  const fs::path through = folder.Path() / "link" / "x";
+  for (const fs::path& other : {From(), From() / "not there" / "yet", From() / "empty", through}) {
+    EXPECT_TRUE(FoldersOverlap(From(), other) && FoldersOverlap(other, From())) << other;
+  }
+  const fs::path roundabout = From() / "empty" / ".." / ".." / "to";
+  for (const fs::path& other : {roundabout, To(), folder.Path() / "from2"}) {
+    EXPECT_FALSE(FoldersOverlap(From(), other) || FoldersOverlap(other, From())) << other;
   }
 }
 
@@ -235,27 +206,15 @@ TEST_F(FolderCopyTest, LinksAndPipesAreLeftOut) {
   EXPECT_EQ(copy.LeftOut(), 4);
 }
 
-/// No file can grow beyond some size, as on a full disk.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t bytes) {
-    std::signal(SIGXFSZ, SIG_IGN);
-    ::getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit{bytes, before_.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &before_); }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  rlimit before_{};
-};
-
 TEST_F(FolderCopyTest, ADiskThatIsFullInMidFileUndoesTheCopy) {
-  const FullDisk disk(1'080'000);
+  std::signal(SIGXFSZ, SIG_IGN);
+  rlimit before{};
+  ::getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit limit{1'080'000, before.rlim_max};
+  ::setrlimit(RLIMIT_FSIZE, &limit);  // no file can grow beyond that, as on a full disk
   ExpectUndone(FaultNumber::DiskFull);
-  EXPECT_EQ(host.recycled, std::vector<std::string>{".tricklet-copy-1"});
+  ::setrlimit(RLIMIT_FSIZE, &before);
+  EXPECT_EQ(test::Joined(host.recycled), ".tricklet-copy-1");
 }
 
 #endif

@@ -1,5 +1,7 @@
 #include "library/start_up.h"
 
+#include <tuple>
+
 #include <gtest/gtest.h>
 
 #include "core/version.h"
@@ -32,8 +34,7 @@ TEST_F(StartUp, TheFirstStartAsksForARootAndMakesTheDefaultLibrary) {
   EXPECT_TRUE(OpenLibraries(session));
   EXPECT_EQ(store.Read("macro", "filelocation"), FolderText(folder.Path() / "hands"));
   EXPECT_TRUE(fs::is_directory(folder.Path() / "hands" / "Default"));
-  EXPECT_EQ(session.LibraryName(), "Default");
-  EXPECT_EQ(session.board.boardNumber, 1);
+  EXPECT_EQ(Shown(), "Default 1 of 24, 0 stored");
 }
 
 TEST_F(StartUp, WithoutARootTheProgramEnds) {
@@ -45,48 +46,40 @@ TEST_F(StartUp, WithoutARootTheProgramEnds) {
   EXPECT_FALSE(store.Read("macro", "filelocation"));
 }
 
-TEST_F(StartUp, AStoredLibraryThatIsGoneIsMadeAgain) {
-  for (const char* name : {"Last year", "St. Ives"}) {  // the second as a file manager named it
+TEST_F(StartUp, AStoredLibraryThatIsGoneIsMadeAgainWhereItCanBe) {
+  for (const std::string name : {"Last year", "St. Ives"}) {  // a file manager named the second
     session.settings.library = name;
     EXPECT_TRUE(OpenLibraries(session));
     EXPECT_EQ(session.LibraryName(), name);
     EXPECT_TRUE(fs::is_directory(session.LibraryPath()));
   }
-  EXPECT_EQ(session.libraryNames, (std::vector<std::string>{"Club", "Last year", "St. Ives"}));
-}
-
-TEST_F(StartUp, WhereAStoredLibraryCannotBeMadeAgainTheFirstIsOpened) {
-  for (const char* name : {"", "a:b", "../up"}) {
-    if (!IsLibraryName(name) && *name != '\0') {
-      host.ExpectTell("A library cannot be named " + std::string(name));
+  for (const std::string name : {"", "a:b", "../up"}) {
+    if (!name.empty() && !IsLibraryName(name)) {
+      host.ExpectTell("A library cannot be named " + name);
     }
     session.settings.library = name;
     EXPECT_TRUE(OpenLibraries(session));
     EXPECT_EQ(session.LibraryName(), "Club") << name;
-    EXPECT_EQ(session.libraryNames, std::vector<std::string>{"Club"});
   }
+  EXPECT_EQ(test::Joined(session.libraryNames), "Club, Last year, St. Ives");
 }
 
 TEST_F(StartUp, ALibraryThatIsAskedForIsNotMade) {
   fs::create_directory(folder.Path() / "\u00c9t\u00e9");
-  const struct {
-    const char* stored;
-    const char* asked;
-    const char* opened;
-  } kCases[] = {{"Club", "\u00e9t\u00e9", "\u00c9t\u00e9"},
-                {"\u00c9t\u00e9", "Clubb", "\u00c9t\u00e9"},
-                {"Gone", "../Club", "Club"},
-                {"Gone", "Gone", "Club"}};
-  for (const auto& c : kCases) {
-    session.settings.library = c.stored;
-    if (*c.asked != '\xc3') {
-      host.ExpectTell("There is no library " + std::string(c.asked) + " in " +
-                      session.settings.filelocation);
+  const std::tuple<const char*, std::string, const char*> kCases[] = {
+      {"Club", "\u00e9t\u00e9", "\u00c9t\u00e9"},
+      {"\u00c9t\u00e9", "Clubb", "\u00c9t\u00e9"},
+      {"Gone", "../Club", "Club"},
+      {"Gone", "Gone", "Club"}};
+  for (const auto& [stored, asked, opened] : kCases) {
+    session.settings.library = stored;
+    if (asked != "\u00e9t\u00e9") {
+      host.ExpectTell("There is no library " + asked + " in " + session.settings.filelocation);
     }
-    EXPECT_TRUE(OpenLibraries(session, c.asked));
-    EXPECT_EQ(session.LibraryName(), c.opened) << c.asked;
-    EXPECT_EQ(session.libraryNames, (std::vector<std::string>{"Club", "\u00c9t\u00e9"}));
+    EXPECT_TRUE(OpenLibraries(session, asked));
+    EXPECT_EQ(session.LibraryName(), opened) << asked;
   }
+  EXPECT_EQ(test::Joined(session.libraryNames), "Club, \u00c9t\u00e9");
 }
 
 TEST_F(StartUp, ARootThatGoesLaterIsNotMadeAnew) {
@@ -95,18 +88,15 @@ TEST_F(StartUp, ARootThatGoesLaterIsNotMadeAnew) {
   host.ExpectTell("There is no folder " + session.settings.filelocation);
   GetLibraryNames(session);
   EXPECT_FALSE(fs::exists(session.FileLocation()));
-  EXPECT_EQ(session.libraryNames, std::vector<std::string>{"Club"});
+  EXPECT_EQ(test::Joined(session.libraryNames), "Club");
 }
 
 TEST_F(StartUp, TheNoticeComesUntilItIsNotWantedAnyMore) {
-  const std::string part = "Do you want to see this message next time Tricklet starts?";
-  host.ExpectAskWith(part, Answer::Yes);
-  ShowNotice(session);
-  host.ExpectAskWith(part, Answer::Cancel);
-  ShowNotice(session);
-  EXPECT_FALSE(store.Read("Tricklet", "ShowMessage"));
-  host.ExpectAskWith(part, Answer::No);
-  ShowNotice(session);
+  for (const Answer answer : {Answer::Yes, Answer::Cancel, Answer::No}) {
+    EXPECT_FALSE(store.Read("Tricklet", "ShowMessage"));
+    host.ExpectAskWith("Do you want to see this message next time Tricklet starts?", answer);
+    ShowNotice(session);
+  }
   EXPECT_EQ(store.Read("Tricklet", "ShowMessage"),
             std::to_string(100 * kVersionMajor + kVersionMinor));
   ShowNotice(session);

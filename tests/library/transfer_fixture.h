@@ -31,7 +31,6 @@ class LibraryTransfer : public LibraryTest {
         "Do you want to copy all your libraries from\n" + RootText() + "\nto " + PathText(Other()),
         "Tricklet", answer);
   }
-  void ExpectFailure(const std::string& part) { host.ExpectAskWith(part, Answer::Yes); }
   void ExpectUnsavedQuestion(Answer answer) {
     session.board.handChanged = true;
     host.ExpectAskWith("Do you want to save changes to board 1 in library Club?", answer);
@@ -40,7 +39,7 @@ class LibraryTransfer : public LibraryTest {
   void ExpectNothingChanged() {
     EXPECT_EQ(session.settings.filelocation, RootText());
     EXPECT_EQ(session.LibraryName(), "Club");
-    EXPECT_EQ(FoldersOf(Root()), (std::vector<std::string>{"Club", "Teaching"}));
+    EXPECT_EQ(Joined(FoldersOf(Root())), "Club, Teaching");
     EXPECT_EQ(session.libraryNames, FoldersOf(Root()));
     EXPECT_TRUE(std::filesystem::is_empty(Other()));
   }

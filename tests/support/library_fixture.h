@@ -6,6 +6,7 @@
 #include <iterator>
 #include <random>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -48,6 +49,12 @@ inline void WriteFile(const std::filesystem::path& path, const std::string& data
   file << data;
 }
 
+inline std::string Joined(const std::vector<std::string>& names) {
+  std::string text;
+  for (const std::string& name : names) text += (text.empty() ? "" : ", ") + name;
+  return text;
+}
+
 /// The text of a board file whose four seats hold one suit each: North spades, East hearts and so
 /// on.
 inline std::string OneSuitEachText() {
@@ -69,6 +76,14 @@ class LibraryTest : public testing::Test {
   }
 
   void PutBoard(int number) { WriteFile(session.BoardPath(number), OneSuitEachText()); }
+
+  /// The current board, "*" where it has unsaved changes: "Club 3* of 24, 2 stored".
+  std::string Shown() const {
+    return session.LibraryName() + " " + std::to_string(session.board.boardNumber) +
+           (session.board.handChanged ? "*" : "") + " of " +
+           std::to_string(session.library.maxBoard) + ", " +
+           std::to_string(session.library.boardCount) + " stored";
+  }
 
   TempFolder folder;
   ScriptedHost host;

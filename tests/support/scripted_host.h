@@ -44,12 +44,12 @@ class ScriptedHost : public Host {
 
   using Host::Tell;
   void Tell(const std::string& text, const std::string& /*title*/) override {
-    const auto expected = Next(text);
+    const auto expected = Next(script_, text);
     EXPECT_FALSE(expected.answer) << "a message where a question was expected: " << text;
     Match(expected, text);
   }
   Answer Ask(const std::string& text, const std::string& title, Buttons buttons) override {
-    const auto expected = Next(text);
+    const auto expected = Next(script_, text);
     Match(expected, text);
     if (!expected.title.empty()) {
       EXPECT_EQ(title, expected.title);
@@ -64,14 +64,14 @@ class ScriptedHost : public Host {
                                                     const std::filesystem::path& start) override {
     folderTitle = title;
     folderStart = start;
-    return NextChoice();
+    return Next(choices_, title);
   }
-  std::optional<std::filesystem::path> ChooseOpenFile(const FileChoice& /*choice*/) override {
-    return NextChoice();
+  std::optional<std::filesystem::path> ChooseOpenFile(const FileChoice& choice) override {
+    return Next(choices_, choice.description);
   }
   std::optional<std::filesystem::path> ChooseSaveFile(const FileChoice& choice) override {
     suggested = choice.suggested;
-    return NextChoice();
+    return Next(choices_, choice.description);
   }
   /// Moves what is recycled out of the way, as a recycle bin does.
   bool Recycle(const std::filesystem::path& path) override {
@@ -120,14 +120,14 @@ class ScriptedHost : public Host {
     if (answer == Answer::Cancel) return true;
     return buttons != Buttons::OKCancel;
   }
-  Expected Next(const std::string& shown) {
-    if (script_.empty()) {
-      ADD_FAILURE() << "not expected: " << shown;
-      return {};
-    }
-    Expected expected = script_.front();
-    script_.pop_front();
-    return expected;
+  /// The first of what is left of a script, or an empty one and a failure.
+  template <class Item>
+  static Item Next(std::deque<Item>& script, const std::string& shown) {
+    EXPECT_FALSE(script.empty()) << "not expected: " << shown;
+    if (script.empty()) return {};
+    Item next = std::move(script.front());
+    script.pop_front();
+    return next;
   }
   static void Match(const Expected& expected, const std::string& shown) {
     if (expected.part) {
@@ -135,15 +135,6 @@ class ScriptedHost : public Host {
     } else {
       EXPECT_EQ(shown, expected.text);
     }
-  }
-  std::optional<std::filesystem::path> NextChoice() {
-    if (choices_.empty()) {
-      ADD_FAILURE() << "a chooser that is not expected";
-      return std::nullopt;
-    }
-    auto choice = choices_.front();
-    choices_.pop_front();
-    return choice;
   }
 
   std::deque<Expected> script_;
