@@ -25,7 +25,8 @@ TEST(RandomSource, IntegersAreUniform) {
   for (const int size : {2, 3, 13, 39, 52}) {
     std::vector<long> counts(static_cast<std::size_t>(size));
     for (int i = 0; i < 100000; ++i) {
-      ++counts.at(static_cast<std::size_t>(RandomBetween(-5, size - 6, random) + 5));
+      const int number = RandomBetween(-5, size - 6, random) + 5;
+      ++counts.at(static_cast<std::size_t>(number));
     }
     EXPECT_LT(ChiSquareDeviation(counts, std::vector<double>(counts.size(), 1.0)), 4) << size;
   }
