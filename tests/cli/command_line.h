@@ -1,6 +1,7 @@
 // Runs command lines on a library root of their own.
 #pragma once
 
+#include <iomanip>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -12,34 +13,44 @@
 
 namespace tricklet::test {
 
+/// The settings name a root, which is empty; "in.pbn" beside it has board 7.
 class CommandLine : public testing::Test {
  protected:
-  /// Runs with --root on the test's folder; `out` and `err` hold what was printed.
-  int Run(std::vector<std::string> arguments, const std::string& typed = "",
-          bool terminal = false) {
-    arguments.insert(arguments.begin(), {"--root", PathText(Root())});
-    return RunBare(arguments, typed, terminal);
+  CommandLine() {
+    std::filesystem::create_directories(Root());
+    store.Write("macro", "filelocation", FolderText(Root()));
+    WriteFile(folder.Path() / "in.pbn",
+              "% PBN 2.1\n[Board \"7\"]\n"
+              "[Deal \"N:A873.AJ83.52.Q32 95.74.AQJ84.T754 QT62.KQ62.K93.K8 KJ4.T95.T76.AJ96\"]\n"
+              "[Auction \"S\"]\n1NT AP\n[DoubleDummyTricks \"7AA557AA565337753377\"]\n");
   }
-  /// Words with blanks between them, for commands that name no file.
-  int RunLine(const std::string& line) {
+  /// The exit code of the words of `line`; `out` and `err` hold what was printed. A word with
+  /// blanks stands in single quotes; "@" is the test's folder.
+  int Run(const std::string& line, const std::string& typed = "", bool terminal = false) {
     std::istringstream words(line);
     std::vector<std::string> arguments;
-    for (std::string word; words >> word;) arguments.push_back(word);
-    return Run(arguments);
-  }
-  int RunBare(const std::vector<std::string>& arguments, const std::string& typed = "",
-              bool terminal = false) {
+    for (std::string word; words >> std::quoted(word, '\''); arguments.push_back(word)) {
+      if (const auto at = word.find('@'); at < word.size()) word.replace(at, 1, File(""));
+    }
     std::istringstream in(typed);
     std::ostringstream data;
     std::ostringstream messages;
-    const cli::Console console{in, data, messages, terminal, interrupted, solver};
-    const int code = cli::Run(arguments, store, console);
+    const int code =
+        cli::Run(arguments, store, {in, data, messages, terminal, interrupted, solver});
     out = data.str();
     err = messages.str();
     return code;
   }
+  /// The exit code and all that was printed: "1 There is no board 8\n".
+  std::string Answer(const std::string& line) {
+    const int code = Run(line);
+    return std::to_string(code) + " " + out + err;
+  }
   std::filesystem::path Root() const { return folder.Path() / "root"; }
-  std::string File(const char* name) const { return PathText(folder.Path() / PathFromText(name)); }
+  std::string File(const char* name) const { return FolderText(folder.Path()) + name; }
+  bool Exists(const char* name) const {
+    return std::filesystem::exists(folder.Path() / PathFromText(name));
+  }
 
   TempFolder folder;
   MemoryStore store;

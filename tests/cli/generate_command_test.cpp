@@ -19,7 +19,7 @@ class GenerateCommands : public test::CommandLine {
   }
   /// Board 1 after an edit that is carried out.
   HandTable Edited(const std::string& edit) {
-    EXPECT_EQ(RunLine("--yes edit 1 " + edit), 0) << err;
+    EXPECT_EQ(Run("--yes edit 1 " + edit), 0) << err;
     return Stored(1).hands;
   }
 };
@@ -28,7 +28,7 @@ TEST_F(GenerateCommands, GeneratesWhatIsAsked) {
   const std::string line =
       "--yes generate 1 8 --seed 7 --hand1 dealer+2 --points1 15-17 --type1 Balanced --option1 2 "
       "--hand2 Dealer --points2 0-7 --lengths2 5-13,0-13,0-13,0-3";
-  ASSERT_EQ(RunLine(line), 0) << err;
+  ASSERT_EQ(Run(line), 0) << err;
   EXPECT_EQ(out + err, "8 boards generated\n") << "all of them as asked";
   for (int number = 1; number <= 8; ++number) {
     const Board board = Stored(number);
@@ -40,25 +40,21 @@ TEST_F(GenerateCommands, GeneratesWhatIsAsked) {
     EXPECT_LT(statistics.suitLength[partner][Suit::Hearts], 5);
   }
   const HandTable before = Stored(5).hands;
-  ASSERT_EQ(RunLine(line), 0);
+  ASSERT_EQ(Run(line), 0);
   EXPECT_EQ(Stored(5).hands, before) << "the same seed";
-  EXPECT_EQ(RunLine("--no generate 1 8"), 1);
-  EXPECT_EQ(out, "");
-  EXPECT_EQ(RunLine("generate 11 11 --points1 19 --lengths1 12,0-1,0-1,0-1"), 0);
-  EXPECT_EQ(out + err, "1 board generated\n1 board does not meet the constraints: 11\n");
+  EXPECT_EQ(Answer("generate 11 11 --points1 19 --lengths1 12,0-1,0-1,0-1"),
+            "0 1 board generated\n1 board does not meet the constraints: 11\n");
 }
 
 TEST_F(GenerateCommands, TablesNeedASolver) {
-  EXPECT_EQ(RunLine("generate 3 4 --analyse"), 1);
-  EXPECT_EQ(out + err, "There is no double-dummy solver\n");
+  EXPECT_EQ(Answer("generate 3 4 --analyse"), "1 There is no double-dummy solver\n");
   test::FakeSolver fake;
   solver = [&fake]() -> Solver& { return fake; };
-  EXPECT_EQ(RunLine("generate 3 4 --analyse"), 0);
-  EXPECT_EQ(err, "2 tables have been computed\n");
+  EXPECT_EQ(Answer("generate 3 4 --analyse"),
+            "0 2 boards generated\n2 tables have been computed\n");
   EXPECT_TRUE(Stored(4).makeableValid);
   fake.failure = "Too many tables";
-  EXPECT_EQ(RunLine("generate 5 6 --analyse"), 1);
-  EXPECT_EQ(err, "Too many tables\n");
+  EXPECT_EQ(Answer("generate 5 6 --analyse"), "1 2 boards generated\nToo many tables\n");
 }
 
 TEST_F(GenerateCommands, RefusesWhatItCannotRead) {
@@ -82,19 +78,15 @@ TEST_F(GenerateCommands, RefusesWhatItCannotRead) {
       {"1 8 --option1 1", "An option belongs to a type"},
       {"1 8 --lengths1 13,0,0,0 --type1 weak2", "A hand has either lengths or a type"}};
   for (const auto& c : kCases) {
-    EXPECT_EQ(RunLine("generate " + std::string(c.arguments)), 2) << c.arguments;
-    EXPECT_EQ(err, std::string(c.message) + "\n");
+    EXPECT_EQ(Answer(std::string("generate ") + c.arguments), std::string("2 ") + c.message + "\n");
   }
-  for (const char* wrong : {"edit 4", "edit 4 swap N", "edit 0 clear", "generate 1 1000"}) {
-    EXPECT_EQ(RunLine(wrong), 2) << wrong;
-  }
-  EXPECT_EQ(RunLine("generate 1 8 --hand1 S --hand2 south"), 1);
-  EXPECT_EQ(err, "Hand 2 is the same direction as hand 1\n");
-  EXPECT_FALSE(std::filesystem::exists(Root()));
+  EXPECT_EQ(Answer("generate 1 8 --hand1 S --hand2 south"),
+            "1 Hand 2 is the same direction as hand 1\n");
+  EXPECT_FALSE(Exists("root/Default"));
 }
 
 TEST_F(GenerateCommands, EditsOrLeavesTheFile) {
-  ASSERT_EQ(RunLine("generate 1 1"), 0);
+  ASSERT_EQ(Run("generate 1 1"), 0);
   const HandTable start = Stored(1).hands;
   EXPECT_EQ(Edited("rotate cw --with-auction")[Seat::East], start[Seat::North]);
   EXPECT_EQ(Edited("rotate ACW"), start);
@@ -104,21 +96,15 @@ TEST_F(GenerateCommands, EditsOrLeavesTheFile) {
   EXPECT_FALSE(HasCards(Edited("clear")));
   EXPECT_EQ(Edited("hand w AKQJ.T.98.-")[Seat::West][Suit::Hearts].Count(), 1);
   EXPECT_NE(out.find("♥ 10"), std::string::npos) << out;
-  const struct {
-    int code;
-    const char* arguments;
-    const char* message;
-  } kRefused[] = {{2, "rotate left", "A rotation is cw, acw or half"},
-                  {2, "swap N X", "A seat is N, E, S or W"},
-                  {2, "swapsuit N S", "A suit is S, H, D or C"},
-                  {2, "hand 1 ...", "A seat is N, E, S or W"},
-                  {1, "hand N A...", "♠A is held by West"}};
+  const std::pair<std::string, const char*> kRefused[] = {
+      {"rotate left", "2 A rotation is cw, acw or half\n"},
+      {"swap N X", "2 A seat is N, E, S or W\n"},
+      {"swapsuit N S", "2 A suit is S, H, D or C\n"},
+      {"hand 1 ...", "2 A seat is N, E, S or W\n"},
+      {"hand N A...", "1 ♠A is held by West\n"}};
   const HandTable before = Stored(1).hands;
-  for (const auto& c : kRefused) {
-    EXPECT_EQ(RunLine("--yes edit 1 " + std::string(c.arguments)), c.code);
-    EXPECT_EQ(err, std::string(c.message) + "\n");
-  }
-  EXPECT_EQ(RunLine("--no edit 1 clear"), 1);
+  for (const auto& [edit, answer] : kRefused) EXPECT_EQ(Answer("--yes edit 1 " + edit), answer);
+  EXPECT_EQ(Run("--no edit 1 clear"), 1);
   EXPECT_EQ(Stored(1).hands, before);
   EXPECT_EQ(Edited("hand N .T..KT9 --take")[Seat::West][Suit::Hearts].Count(), 0);
   const HandTable full = Edited("fill --seed 2");
@@ -127,15 +113,13 @@ TEST_F(GenerateCommands, EditsOrLeavesTheFile) {
 }
 
 TEST_F(GenerateCommands, CardsCanBeGivenToANewBoard) {
-  ASSERT_EQ(RunLine("generate 1 1"), 0);
-  EXPECT_EQ(RunLine("edit 8 swap N S"), 1);
-  EXPECT_EQ(err, "There is no board 8 in library Default\n");
-  EXPECT_EQ(RunLine("edit 8 hand N AKQJ.AKQ.AKQ.AKQ"), 0);
-  EXPECT_EQ(RunLine("edit 9 fill --seed 4"), 0);
-  EXPECT_EQ(RunLine("edit 10 fill --seed 4"), 0);
+  ASSERT_EQ(Run("generate 1 1"), 0);
+  EXPECT_EQ(Answer("edit 8 swap N S"), "1 There is no board 8 in library Default\n");
+  EXPECT_EQ(Run("edit 8 hand N AKQJ.AKQ.AKQ.AKQ"), 0);
+  EXPECT_EQ(Run("edit 9 fill --seed 4"), 0);
+  EXPECT_EQ(Run("edit 10 fill --seed 4"), 0);
   EXPECT_EQ(Stored(9).hands, Stored(10).hands);
-  EXPECT_EQ(RunLine("boards"), 0);
-  EXPECT_EQ(out, "1\n8\n9\n10\n");
+  EXPECT_EQ(Answer("boards"), "0 1\n8\n9\n10\n");
 }
 
 }  // namespace

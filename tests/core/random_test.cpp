@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "core/random_source.h"
-#include "tests/generate/chi_square.h"
+#include "tests/support/chi_square.h"
 
 namespace tricklet {
 namespace {
