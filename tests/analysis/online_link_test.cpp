@@ -2,15 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/hands.h"
+
 namespace tricklet {
 namespace {
 
 Board OneSuitEach(int number) {
   Board board;
   board.boardNumber = number;
-  for (const Seat seat : kAllSeats) {
-    board.hands[seat][static_cast<Suit>(seat)] = Holding::FromBits(Holding::kAllBits);
-  }
+  board.hands = test::OneSuitEach();
   return board;
 }
 

@@ -13,16 +13,12 @@ namespace tricklet {
 namespace {
 
 /// Tricks of North-South and of East-West in clubs, diamonds, hearts, spades, no-trump.
-MakeableTable Table(std::array<int, 5> northSouth, std::array<int, 5> eastWest) {
+MakeableTable Table(std::array<std::int16_t, 5> northSouth, std::array<std::int16_t, 5> eastWest) {
   MakeableTable table;
   for (const TableStrain strain : kAllTableStrains) {
     const auto index = static_cast<std::size_t>(strain);
-    for (const TableSeat seat : {TableSeat::North, TableSeat::South}) {
-      table[seat][strain] = static_cast<std::int16_t>(northSouth.at(index));
-    }
-    for (const TableSeat seat : {TableSeat::East, TableSeat::West}) {
-      table[seat][strain] = static_cast<std::int16_t>(eastWest.at(index));
-    }
+    table[TableSeat::North][strain] = table[TableSeat::South][strain] = northSouth.at(index);
+    table[TableSeat::East][strain] = table[TableSeat::West][strain] = eastWest.at(index);
   }
   return table;
 }

@@ -135,8 +135,7 @@ TEST(CardPlay, RandomPlayoutsAgreeWithAnIndependentReferee) {
 class PlayTest : public testing::Test {
  protected:
   PlayTest() {
-    board.hands =
-        test::HandsOf("N:AKQJT98765432... .AKQJT98765432.. ..AKQJT98765432. ...AKQJT98765432");
+    board.hands = test::OneSuitEach();
     test::SetAuction(board, "1NT Pass Pass Pass");
   }
   void PlayAll(std::initializer_list<Suit> suits) {

@@ -20,4 +20,9 @@ inline HandTable HandsOf(std::string_view deal) {
   return hands;
 }
 
+/// North holds all spades, East all hearts, South all diamonds, West all clubs.
+inline HandTable OneSuitEach() {
+  return HandsOf("N:AKQJT98765432... .AKQJT98765432.. ..AKQJT98765432. ...AKQJT98765432");
+}
+
 }  // namespace tricklet::test
