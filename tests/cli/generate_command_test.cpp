@@ -58,10 +58,7 @@ TEST_F(GenerateCommands, TablesNeedASolver) {
 }
 
 TEST_F(GenerateCommands, RefusesWhatItCannotRead) {
-  const struct {
-    const char* arguments;
-    const char* message;
-  } kCases[] = {
+  const std::pair<std::string, std::string> kCases[] = {
       {"4 3", "The first board is above the last"},
       {"1 8 --hand1 up", "up is no seat"},
       {"1 8 --hand1 dealer+4", "dealer+4 is no seat"},
@@ -77,8 +74,8 @@ TEST_F(GenerateCommands, RefusesWhatItCannotRead) {
       {"1 8 --type1 weak2 --option1 3", "weak2 has no option 3"},
       {"1 8 --option1 1", "An option belongs to a type"},
       {"1 8 --lengths1 13,0,0,0 --type1 weak2", "A hand has either lengths or a type"}};
-  for (const auto& c : kCases) {
-    EXPECT_EQ(Answer(std::string("generate ") + c.arguments), std::string("2 ") + c.message + "\n");
+  for (const auto& [asked, told] : kCases) {
+    EXPECT_EQ(Answer("generate " + asked), "2 " + told + "\n");
   }
   EXPECT_EQ(Answer("generate 1 8 --hand1 S --hand2 south"),
             "1 Hand 2 is the same direction as hand 1\n");

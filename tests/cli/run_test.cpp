@@ -94,27 +94,25 @@ TEST_F(CommandLine, MakesARootThatIsNamedButNoOther) {
 }
 
 TEST_F(CommandLine, WrongUsageIsTwo) {
-  const struct {
-    const char* line;
-    const char* told;
-  } kWrong[] = {{"", "A subcommand is required"},
-                {"autcion 1", "autcion 1"},
-                {"--unknown", "--unknown"},
-                {"library unknown", "unknown"},
-                {"import --unknown", "--unknown"},
-                {"show", "N is required"},
-                {"show 0", "1 to 999"},
-                {"generate 1 1000", "1 to 999"},
-                {"show x", "1 to 999"},
-                {"--yes --no boards", "excludes"},
-                {"export 1 2", "FILE is required"},
-                {"score 4S N 14", "0 to 13"},
-                {"score 4S N 9 --board 1 --vul all", "excludes"},
-                {"edit 4", "subcommand"},
-                {"edit 4 swap N", "2 required"}};
-  for (const auto& c : kWrong) {
-    EXPECT_EQ(Run(c.line), 2) << c.line;
-    EXPECT_NE(err.find(c.told), std::string::npos) << err;
+  const std::pair<const char*, const char*> kWrong[] = {
+      {"", "A subcommand is required"},
+      {"autcion 1", "autcion 1"},
+      {"--unknown", "--unknown"},
+      {"library unknown", "unknown"},
+      {"import --unknown", "--unknown"},
+      {"show", "N is required"},
+      {"show 0", "1 to 999"},
+      {"generate 1 1000", "1 to 999"},
+      {"show x", "1 to 999"},
+      {"--yes --no boards", "excludes"},
+      {"export 1 2", "FILE is required"},
+      {"score 4S N 14", "0 to 13"},
+      {"score 4S N 9 --board 1 --vul all", "excludes"},
+      {"edit 4", "subcommand"},
+      {"edit 4 swap N", "2 required"}};
+  for (const auto& [line, told] : kWrong) {
+    EXPECT_EQ(Run(line), 2) << line;
+    EXPECT_NE(err.find(told), std::string::npos) << err;
   }
   EXPECT_EQ(Run("--help"), 0);
   EXPECT_NE(out, "");
@@ -124,19 +122,15 @@ TEST_F(CommandLine, AuctionsAreShownReplacedOrRefused) {
   ASSERT_EQ(Run("import @in.pbn"), 0);
   EXPECT_EQ(Run("auction 7"), 0);
   EXPECT_NE(out.find("1NT by South"), std::string::npos) << out;
-  const struct {
-    const char* calls;
-    const char* message;
-  } kRefused[] = {{"1s 1h", "1H by West: the bid is not sufficient\n"},
-                  {"1s xx", "Rdbl by West: there is no double of the opponents to redouble\n"},
-                  {"1s x x", "Dbl by North: the bid is doubled already\n"},
-                  {"x", "Dbl by South: there is no bid of the opponents to double\n"},
-                  {"1s p p p p", "Pass by South: the auction is over\n"},
-                  {"1s p", "The auction is not complete: North is to call\n"},
-                  {"1s huh", "huh is no call\n"}};
-  for (const auto& c : kRefused) {
-    EXPECT_EQ(Answer(std::string("--yes auction 7 ") + c.calls), std::string("1 ") + c.message);
-  }
+  const std::pair<std::string, std::string> kRefused[] = {
+      {"1s 1h", "1H by West: the bid is not sufficient\n"},
+      {"1s xx", "Rdbl by West: there is no double of the opponents to redouble\n"},
+      {"1s x x", "Dbl by North: the bid is doubled already\n"},
+      {"x", "Dbl by South: there is no bid of the opponents to double\n"},
+      {"1s p p p p", "Pass by South: the auction is over\n"},
+      {"1s p", "The auction is not complete: North is to call\n"},
+      {"1s huh", "huh is no call\n"}};
+  for (const auto& [calls, told] : kRefused) EXPECT_EQ(Answer("auction 7 " + calls), "1 " + told);
   EXPECT_EQ(Run("--yes auction 7 1h x xx ap"), 0);
   EXPECT_EQ(Answer("boards --long"), "0 7\tSouth\tAll vul\t1Hxx by South\tyes\n");
   EXPECT_EQ(Run("auction 7 ap"), 1) << "nobody there to say that it may be overwritten";

@@ -108,8 +108,6 @@ TEST_F(GenerateRun, PreviewTakesDealsAgainOrEnds) {
 
 TEST_F(GenerateRun, TellsOnceWhichBoardsAreOutsideTheConstraints) {
   AskTheImpossible();
-  host.ExpectTell("1 board does not meet the constraints: 7");
-  EXPECT_EQ(Run(7, 7).outside, std::vector{7});
   host.ExpectTell(
       "21 boards do not meet the constraints: 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23, "
       "24, 25, 26, 27, 28, 29, 30, ...");

@@ -1,6 +1,8 @@
 // Recorded plays, stepped through.
 #include "play/replay.h"
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "core/scoring.h"
@@ -47,45 +49,31 @@ class ReplayTest : public testing::Test {
   std::vector<PlayState> states;  // after each card
 };
 
-TEST_F(ReplayTest, StepsThroughEveryCardAndBack) {
+TEST_F(ReplayTest, StepsByCardsAndByTricksFromEveryPlace) {
+  const std::string result = ResultLine(record.board, states.back().tricksWon[Side::EastWest]);
   Replay replay(record, host);
-  EXPECT_FALSE(replay.BackEnabled());
-  for (int shown = 0; shown < kCardsInPack; ++shown) {
+  for (int shown = 0; shown <= kCardsInPack; ++shown) {
     ExpectPlace(replay, shown);
-    EXPECT_EQ(replay.ScoreText(), "");
-    replay.Forward();
-  }
-  EXPECT_FALSE(replay.ForwardEnabled());
-  EXPECT_EQ(replay.PlaceText(), "Card 52 of 52");
-  EXPECT_EQ(replay.ScoreText(), ResultLine(record.board, states.back().tricksWon[Side::EastWest]));
-  replay.Forward();
-  for (int shown = kCardsInPack; shown >= 0; --shown) {
-    ExpectPlace(replay, shown);
-    replay.Back();
-  }
-  EXPECT_EQ(host.beeps, 0);
-}
-
-TEST_F(ReplayTest, StepsByTricksAndByTheRecordedCard) {
-  Replay replay(record, host);
-  for (int trick = 1; trick <= kTricks; ++trick) {
+    EXPECT_EQ(replay.BackEnabled(), shown > 0);
+    EXPECT_EQ(replay.ForwardEnabled(), shown < kCardsInPack);
+    EXPECT_EQ(replay.ScoreText(), shown < kCardsInPack ? "" : result);
     replay.NextTrick();
-    ExpectPlace(replay, 4 * trick);
+    ExpectPlace(replay, std::min(shown / 4 * 4 + 4, kCardsInPack));
+    while (replay.Shown() > shown) replay.Back();
+    ExpectPlace(replay, shown);
+    replay.PreviousTrick();
+    ExpectPlace(replay, std::max(shown - 1, 0) / 4 * 4);
+    while (replay.Shown() <= shown && replay.ForwardEnabled()) replay.Forward();
   }
-  replay.Back();
-  replay.PreviousTrick();
-  ExpectPlace(replay, 48);
-  replay.PreviousTrick();
-  ExpectPlace(replay, 44);
+  EXPECT_EQ(replay.PlaceText(), "Card 52 of 52");
   replay.Forward();
-  replay.NextTrick();
-  ExpectPlace(replay, 48);
-  for (int trick = 0; trick < 20; ++trick) replay.PreviousTrick();
-  ExpectPlace(replay, 0);
+  while (replay.BackEnabled()) replay.Back();
+  replay.Back();
   EXPECT_FALSE(replay.ForwardBy(record.cards[1]));
   ExpectPlace(replay, 0);
   EXPECT_TRUE(replay.ForwardBy(record.cards[0]));
   ExpectPlace(replay, 1);
+  EXPECT_EQ(host.beeps, 0);
 }
 
 TEST_F(ReplayTest, StopsAtACardThatBreaksTheRules) {
@@ -101,23 +89,21 @@ TEST_F(ReplayTest, StopsAtACardThatBreaksTheRules) {
 }
 
 TEST_F(ReplayTest, EndsOfRecords) {
-  const char* const kUnplayable = "The record cannot be played: it lacks the deal or the contract";
+  const std::string kPartScore = "P 1H X 2H P P P";
+  const std::string kEnds = "Card 6 of 6: the record ends here";
+  const std::string kUnplayable = "The record cannot be played: it lacks the deal or the contract";
   const struct {
     std::size_t cards;
     std::optional<int> tricks;
-    const char* auction;
+    std::string auction;
     bool deal;
-    const char* place;
-    const char* score;
-  } kCases[] = {
-      {6, 10, "P 1H X 2H P P P", true, "Card 6 of 6: the record ends here",
-       "2H+2 by West : EW +170"},
-      {6, {}, "P 1H X 2H P P P", true, "Card 6 of 6: the record ends here", ""},
-      {0, 7, "P 1H X 2H P P P", true, "The play was not recorded", "2H-1 by West : NS +100"},
-      {0, {}, "P P P P", true, "Passed out", "All Pass : 0"},
-      {52, {}, "", true, kUnplayable, ""},
-      {52, {}, "P 1H X 2H P P P", false, kUnplayable, ""},
-  };
+    std::string told;  // place and score
+  } kCases[] = {{6, 10, kPartScore, true, kEnds + "|2H+2 by West : EW +170"},
+                {6, {}, kPartScore, true, kEnds + "|"},
+                {0, 7, kPartScore, true, "The play was not recorded|2H-1 by West : NS +100"},
+                {0, {}, "P P P P", true, "Passed out|All Pass : 0"},
+                {52, {}, "", true, kUnplayable + "|"},
+                {52, {}, kPartScore, false, kUnplayable + "|"}};
   for (const auto& c : kCases) {
     RecordedPlay changed = record;
     changed.cards.resize(c.cards);
@@ -126,9 +112,7 @@ TEST_F(ReplayTest, EndsOfRecords) {
     if (!c.deal) changed.board.hands = HandTable();
     Replay replay(changed, host);
     while (replay.ForwardEnabled()) replay.Forward();
-    replay.NextTrick();
-    EXPECT_EQ(replay.PlaceText(), c.place);
-    EXPECT_EQ(replay.ScoreText(), c.score);
+    EXPECT_EQ(replay.PlaceText() + "|" + replay.ScoreText(), c.told);
   }
 }
 
