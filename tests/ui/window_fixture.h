@@ -1,7 +1,9 @@
 // A main window on a library of its own.
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include <QAbstractButton>
@@ -15,11 +17,18 @@
 
 #include "library/library_choice.h"
 #include "tests/support/library_fixture.h"
+#include "tests/support/words.h"
 #include "ui/style/progress_frame.h"
 #include "ui/style/qt_text.h"
 #include "ui/window/main_window.h"
 
 namespace tricklet::ui {
+
+/// A file with a board of this number: North the spades, East the hearts and so on.
+inline std::string PbnBoard(int number) {
+  return "% PBN 2.1\n[Board \"" + std::to_string(number) +
+         "\"]\n[Deal \"N:AKQJT98765432... .AKQJT98765432.. ..AKQJT98765432. ...AKQJT98765432\"]\n";
+}
 
 /// Follows a script, and shows work in the window as the program does.
 class WindowHost : public test::ScriptedHost {
@@ -40,8 +49,82 @@ class WindowHost : public test::ScriptedHost {
   ProgressFrame* progress = nullptr;
 };
 
+/// A window or dialog in the hands of a test, which names controls and actions.
+struct Driven {
+  QWidget* top = nullptr;
+
+  template <class Part>
+  Part* Find(const char* name) const {
+    auto* part = top->findChild<Part*>(QString::fromLatin1(name));
+    EXPECT_NE(part, nullptr) << name;
+    return part;
+  }
+  /// By the mouse.
+  void Click(const char* name) const { QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton); }
+  /// Whatever part of the button the mouse would have to hit.
+  void Press(const char* name) const { Find<QAbstractButton>(name)->click(); }
+  /// Replaces the text of a line or an editable combo box by typing.
+  void Type(const char* name, const char* text) const {
+    auto* box = top->findChild<QComboBox*>(QString::fromLatin1(name));
+    QLineEdit* line = box != nullptr ? box->lineEdit() : Find<QLineEdit>(name);
+    line->setFocus();
+    line->selectAll();
+    QTest::keyClicks(line, QString::fromLatin1(text));
+  }
+
+  std::string Text(const char* name) const {
+    const auto* widget = Find<QWidget>(name);
+    const QVariant chosen = widget->property("currentText");
+    return FromQt((chosen.isValid() ? chosen : widget->property("text")).toString());
+  }
+  std::string Spoken(const char* name) const {
+    return FromQt(Find<QWidget>(name)->accessibleName());
+  }
+  bool Shown(const char* name) const { return Find<QWidget>(name)->isVisible(); }
+  bool Enabled(const char* name) const { return Find<QObject>(name)->property("enabled").toBool(); }
+  /// Those of the names, separated by blanks, that are shown.
+  std::string ShownOf(const char* names) const {
+    return test::WordsWhere(names, [this](const char* name) { return Shown(name); });
+  }
+  /// Those that are enabled.
+  std::string EnabledOf(const char* names) const {
+    return test::WordsWhere(names, [this](const char* name) { return Enabled(name); });
+  }
+  /// The name of the control that has the focus.
+  std::string Focus() const {
+    const QWidget* focus = top->focusWidget();
+    if (qobject_cast<const QComboBox*>(focus->parentWidget()) != nullptr) {
+      focus = focus->parentWidget();
+    }
+    return FromQt(focus->objectName());
+  }
+
+  /// Presses and lets go of keys as QKeySequence names them; the widget has to outlive it.
+  static void PressKey(QWidget* widget, const char* name) {
+    const QKeyCombination key = QKeySequence(QString::fromLatin1(name))[0];
+    QTest::keyPress(widget, key.key(), key.keyboardModifiers());
+    QTest::keyRelease(widget, key.key(), key.keyboardModifiers());
+  }
+  void Key(const char* name) const {
+    QApplication::setActiveWindow(top);  // after a dialog none is active
+    PressKey(top, name);
+  }
+  /// To whatever has the focus, as the system delivers keys.
+  static void FocusKey(const char* name) {
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    PressKey(QApplication::focusWidget(), name);
+  }
+  /// One after the other.
+  static void FocusKeys(std::string_view keys) {
+    for (const char key : keys) {
+      ASSERT_NE(QApplication::focusWidget(), nullptr);
+      QTest::keyClick(QApplication::focusWidget(), key);
+    }
+  }
+};
+
 /// Library Club with boards 1, 3, 22 and 24, and the empty library Teaching.
-class WindowTest : public testing::Test {
+class WindowTest : public testing::Test, protected Driven {
  protected:
   WindowTest() : session(host, store) {
     session.settings.filelocation = FolderText(folder.Path());
@@ -55,6 +138,7 @@ class WindowTest : public testing::Test {
 
   void Open() {
     window = std::make_unique<MainWindow>(session);
+    top = window.get();
     host.progress = window->Progress();
     window->show();
     QApplication::setActiveWindow(window.get());
@@ -64,69 +148,23 @@ class WindowTest : public testing::Test {
   void TearDown() override { EXPECT_EQ(dialogsLeft, 0) << "expected but not opened"; }
 
   /// Has `work` work the next dialog of the type once it is up; it has to close it.
-  template <class Dialog, class Work>
-  void Expect(const Work& work) {
+  template <class Dialog = QDialog>
+  void Expect(const std::function<void(const Driven&)>& work) {
     ++dialogsLeft;
     auto* timer = new QTimer(window.get());
-    QObject::connect(timer, &QTimer::timeout, timer, [this, timer, steps = work] {
+    QObject::connect(timer, &QTimer::timeout, timer, [this, timer, work] {
       auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
       if (dialog == nullptr) return;
       timer->stop();
       timer->deleteLater();
       --dialogsLeft;
       QApplication::setActiveWindow(dialog);
-      steps(*dialog);
+      work({dialog});
       EXPECT_FALSE(dialog->isVisible());
       if (dialog->isVisible()) dialog->done(QDialog::Rejected);
     });
     timer->start(0);
   }
-  static void Press(const QWidget& dialog, const char* name) {
-    dialog.findChild<QAbstractButton*>(QString::fromLatin1(name))->click();
-  }
-
-  template <class Widget>
-  Widget* Find(const char* name) const {
-    auto* widget = window->findChild<Widget*>(QString::fromLatin1(name));
-    EXPECT_NE(widget, nullptr) << name;
-    return widget;
-  }
-  /// Presses and lets go; the widget has to outlive it.
-  template <class AnyKey>
-  static void PressKey(QWidget* widget, AnyKey key, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::keyPress(widget, key, modifiers);
-    QTest::keyRelease(widget, key, modifiers);
-  }
-  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
-    QApplication::setActiveWindow(window.get());  // after a dialog none is active
-    PressKey(window.get(), key, modifiers);
-  }
-  /// To whatever has the focus, as the system delivers keys.
-  static void FocusKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QWidget* focus = QApplication::focusWidget();
-    ASSERT_NE(focus, nullptr);
-    PressKey(focus, key, modifiers);
-  }
-  static void FocusKeys(std::string_view keys) {
-    for (const char key : keys) {
-      QWidget* focus = QApplication::focusWidget();
-      ASSERT_NE(focus, nullptr);
-      PressKey(focus, key);
-    }
-  }
-  void Click(const char* name) const {
-    QTest::mouseClick(Find<QAbstractButton>(name), Qt::LeftButton);
-  }
-  /// Replaces the text of an editable combo box by typing.
-  void Type(const char* name, const char* text) const {
-    QLineEdit* edit = Find<QComboBox>(name)->lineEdit();
-    edit->setFocus();
-    edit->selectAll();
-    FocusKeys(text);
-  }
-  bool Shown(const char* name) const { return Find<QWidget>(name)->isVisible(); }
-  bool Offered(const char* action) const { return Find<QAction>(action)->isEnabled(); }
-  QString ShownBoard() const { return Find<QComboBox>("cmbBoard")->currentText(); }
 
   test::TempFolder folder;
   WindowHost host;

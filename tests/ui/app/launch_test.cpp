@@ -43,13 +43,14 @@ TEST(LaunchTest, RefusesWhatMakesNoSense) {
   }
 }
 
-TEST(LaunchTest, AnotherRootOpensALibraryThatItHas) {
+TEST(LaunchTest, DrawsTheWindowOnALibraryThatTheRootHasAndLeavesTheStoredOneAlone) {
   const test::TempFolder folder;
   for (const char* name : {"Autumn", "Club"}) {
     std::filesystem::create_directories(folder.Path() / "root" / name);
   }
   MemoryStore store;
   LaunchOptions options;
+  options.size = QSize(1024, 700);
   options.root = PathToQt(folder.Path() / "root");
   options.screenshot = PathToQt(folder.Path() / "window.png");
   for (const auto& [stored, opened] : {std::pair("Spring", "Autumn"), std::pair("Club", "Club")}) {
@@ -59,25 +60,14 @@ TEST(LaunchTest, AnotherRootOpensALibraryThatItHas) {
     EXPECT_EQ(store.Read("macro", "library"), stored);
     EXPECT_EQ(LibraryOfRoot(folder.Path() / "root", stored), opened);
   }
-}
-
-TEST(LaunchTest, DrawsTheWindowAndLeavesTheStoredLibraryAlone) {
-  const test::TempFolder folder;
-  std::filesystem::create_directories(folder.Path() / "Club");
-  LaunchOptions options;
-  options.root = PathToQt(folder.Path());
-  options.library = QStringLiteral("Club");
-  options.screenshot = PathToQt(folder.Path() / "window.png");
-  options.size = QSize(1024, 700);
-  MemoryStore store;
-  EXPECT_EQ(Launch(TheApplication(), options, store), 0);
-  const QImage image(options.screenshot);
-  EXPECT_EQ(image.deviceIndependentSize().toSize(), options.size);
-  EXPECT_FALSE(store.Read("macro", "library").has_value());
+  EXPECT_EQ(QImage(options.screenshot).deviceIndependentSize().toSize(), options.size);
   EXPECT_FALSE(store.Read("macro", "filelocation").has_value());
 
+  MemoryStore fresh;
+  options.library = QStringLiteral("Club");
   options.screenshot = PathToQt(folder.Path() / "no such folder" / "window.png");
-  EXPECT_EQ(Launch(TheApplication(), options, store), 1);
+  EXPECT_EQ(Launch(TheApplication(), options, fresh), 1);
+  EXPECT_FALSE(fresh.Read("macro", "library").has_value());
 }
 
 TEST(LaunchTest, WhatAnEventThrowsIsReported) {

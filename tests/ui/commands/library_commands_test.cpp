@@ -1,15 +1,10 @@
 // The commands for whole libraries in the window, and their dialogs.
 #include <set>
 
-#include <QAction>
-#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPushButton>
 
 #include "tests/ui/window_fixture.h"
-#include "ui/dialogs/frmCopyLib.h"
-#include "ui/dialogs/frmDeleteLib.h"
 
 namespace tricklet::ui {
 namespace {
@@ -18,21 +13,14 @@ namespace fs = std::filesystem;
 
 class LibraryCommands : public WindowTest {
  protected:
-  fs::path Other() const { return other.Path(); }
-
-  template <class Widget>
-  static Widget* In(const QWidget* dialog, const char* name) {
-    auto* widget = dialog->findChild<Widget*>(QString::fromLatin1(name));
-    EXPECT_NE(widget, nullptr) << name;
-    return widget;
-  }
   /// Gives the command by its key and works the dialog that it opens.
-  void WithDialog(Qt::Key key, Qt::KeyboardModifiers modifiers,
-                  const std::function<void(QWidget*)>& work) {
-    Expect<QDialog>([steps = work](QDialog& dialog) { steps(&dialog); });
-    Key(key, modifiers);
+  void WithDialog(const char* key, const std::function<void(const Driven&)>& work) {
+    Expect(work);
+    Key(key);
     EXPECT_EQ(dialogsLeft, 0);
   }
+  int Count(const char* name) const { return Find<QComboBox>(name)->count(); }
+  fs::path Other() const { return other.Path(); }
 
   test::TempFolder other;
 };
@@ -67,102 +55,90 @@ TEST_F(LibraryCommands, EveryCommandOfTheMenuHasAKeyAndALetterOfItsOwn) {
 
 TEST_F(LibraryCommands, CopiesUnderANameThatTheBoxLetsPass) {
   Open();
-  WithDialog(Qt::Key_F2, Qt::ShiftModifier, [this](QWidget* dialog) {
-    EXPECT_EQ(In<QLabel>(dialog, "lblCopy")->text(), QStringLiteral("Copy library Club"));
-    const auto* ok = In<QPushButton>(dialog, "cmdOK");
-    EXPECT_FALSE(ok->isEnabled());
-    QTest::keyClicks(In<QLineEdit>(dialog, "txtLibName"), QStringLiteral(" te/a:c*h\"i<n>|\\.g"));
+  WithDialog("Shift+F2", [this](const Driven& form) {
+    EXPECT_EQ(form.Text("lblCopy"), "Copy library Club");
+    EXPECT_FALSE(form.Enabled("cmdOK"));
+    form.Type("txtLibName", " te/a:c*h\"i<n>|\\.g");
     EXPECT_EQ(host.beeps, 10);
     host.ExpectTell("teaching already exists\nPlease choose a different name");
-    QTest::keyClick(dialog, Qt::Key_Return);
-    EXPECT_TRUE(dialog->isVisible());
-    QTest::keyClicks(In<QLineEdit>(dialog, "txtLibName"), QStringLiteral("A & B"));
-    QTest::mouseClick(In<QPushButton>(dialog, "cmdOK"), Qt::LeftButton);
-    EXPECT_FALSE(dialog->isVisible());
+    PressKey(form.top, "Return");
+    EXPECT_TRUE(form.top->isVisible());
+    QTest::keyClicks(form.Find<QLineEdit>("txtLibName"), QStringLiteral("A & B"));
+    form.Click("cmdOK");
   });
   EXPECT_EQ(session.LibraryName(), "Club");
-  EXPECT_EQ(Find<QComboBox>("cmbLibs")->count(), 3);
+  EXPECT_EQ(Count("cmbLibs"), 3);
   EXPECT_TRUE(fs::exists(folder.Path() / "A & B" / "024.txt"));
-  EXPECT_EQ(Find<QLabel>("lblStatus")->text(),
-            QStringLiteral("The library has been copied to A & B"));
+  EXPECT_EQ(Text("lblStatus"), "The library has been copied to A & B");
 }
 
 TEST_F(LibraryCommands, RecyclesTheChosenLibraryButNotTheCurrentOne) {
   fs::create_directories(folder.Path() / "R & D");
   Open();
-  WithDialog(Qt::Key_F2, Qt::ControlModifier, [this](QWidget* dialog) {
-    auto* libraries = In<QComboBox>(dialog, "cmbLibs");
-    const auto* ok = In<QPushButton>(dialog, "cmdOK");
+  WithDialog("Ctrl+F2", [this](const Driven& form) {
+    auto* libraries = form.Find<QComboBox>("cmbLibs");
     EXPECT_EQ(libraries->count(), 3);
-    EXPECT_FALSE(ok->isEnabled()) << "nothing is chosen yet";
-    QTest::keyClick(dialog, Qt::Key_Return);
+    EXPECT_FALSE(form.Enabled("cmdOK")) << "nothing is chosen yet";
+    PressKey(form.top, "Return");
     EXPECT_TRUE(host.recycled.empty());
     libraries->setCurrentText(QStringLiteral("Club"));
-    EXPECT_EQ(ok->text(), QStringLiteral("Recycle Club"));
+    EXPECT_EQ(form.Text("cmdOK"), "Recycle Club");
     host.ExpectTell("Cannot delete the library currently in use");
-    QTest::keyClick(dialog, Qt::Key_Return);
-    EXPECT_TRUE(dialog->isVisible());
+    PressKey(form.top, "Return");
+    EXPECT_TRUE(form.top->isVisible());
     libraries->setCurrentText(QStringLiteral("R & D"));
-    EXPECT_EQ(ok->text(), QStringLiteral("Recycle R && D")) << "no key of the button";
+    EXPECT_EQ(form.Text("cmdOK"), "Recycle R && D") << "no key of the button";
     host.hasRecycleBin = false;
     host.ExpectTell("Unable to delete the library R & D");
-    QTest::keyClick(dialog, Qt::Key_Return);
-    EXPECT_TRUE(dialog->isVisible());
+    PressKey(form.top, "Return");
+    EXPECT_TRUE(form.top->isVisible());
     host.hasRecycleBin = true;
-    QTest::keyClick(dialog, Qt::Key_Return);
-    EXPECT_FALSE(dialog->isVisible());
+    PressKey(form.top, "Return");
   });
   EXPECT_EQ(host.recycled, std::vector<std::string>{"R & D"});
-  EXPECT_EQ(Find<QComboBox>("cmbLibs")->count(), 2);
-  EXPECT_EQ(Find<QComboBox>("cmbLibs")->currentText(), QStringLiteral("Club"));
+  EXPECT_EQ(Count("cmbLibs"), 2);
+  EXPECT_EQ(Text("cmbLibs"), "Club");
 
   fs::remove_all(folder.Path());
   host.ExpectTell("There are no libraries in " + session.settings.filelocation);
-  Key(Qt::Key_F2, Qt::ControlModifier);
+  Key("Ctrl+F2");
 }
 
 TEST_F(LibraryCommands, RenamingStaysUntilANameIsTaken) {
   Open();
-  WithDialog(Qt::Key_F2, Qt::NoModifier, [this](QWidget* dialog) {
-    auto* name = In<QLineEdit>(dialog, "txtLibName");
-    EXPECT_EQ(name->text(), QStringLiteral("Club"));
-    name->setText(QStringLiteral("teaching"));
+  WithDialog("F2", [this](const Driven& form) {
+    EXPECT_EQ(form.Text("txtLibName"), "Club");
+    form.Type("txtLibName", "teaching");
     host.ExpectTell("teaching already exists\nPlease choose a different name");
-    QTest::keyClick(dialog, Qt::Key_Return);
-    EXPECT_TRUE(dialog->isVisible());
-    QTest::keyClicks(name, QStringLiteral("Tuesday"));
-    QTest::keyClick(dialog, Qt::Key_Return);
-    EXPECT_FALSE(dialog->isVisible());
+    PressKey(form.top, "Return");
+    EXPECT_TRUE(form.top->isVisible());
+    QTest::keyClicks(form.Find<QLineEdit>("txtLibName"), QStringLiteral("Tuesday"));
+    PressKey(form.top, "Return");
   });
   EXPECT_TRUE(fs::exists(folder.Path() / "Tuesday" / "024.txt"));
-  WithDialog(Qt::Key_F2, Qt::NoModifier, [](QWidget* dialog) {
-    QTest::keyClick(dialog, Qt::Key_Return);  // the name as it is
-    EXPECT_FALSE(dialog->isVisible());
-  });
+  WithDialog("F2", [](const Driven& form) { PressKey(form.top, "Return"); });  // as it is
   EXPECT_EQ(session.LibraryName(), "Tuesday");
 }
 
 TEST_F(LibraryCommands, CopyingShowsThatItIsWaitedForAndCanBeCancelled) {
   Open();
-  EXPECT_FALSE(Find<QLabel>("lblWait")->isVisible());
+  EXPECT_FALSE(Shown("lblWait"));
   for (const bool cancel : {true, false}) {
     host.steps.clear();
     host.onStep = [&, cancel] {
-      EXPECT_TRUE(Find<QLabel>("lblWait")->isVisible());
+      EXPECT_TRUE(Shown("lblWait"));
       if (cancel && host.steps.size() == 4) Click("cmdCancelImport");
     };
     host.ExpectAskWith("to copy your libraries to", Answer::OK);
     host.Choose(Other());
     host.ExpectAskWith("Do you want to copy all your libraries", Answer::Yes);
     if (cancel) host.ExpectTell("Copying cancelled");
-    Key(Qt::Key_F8, Qt::ShiftModifier);
+    Key("Shift+F8");
     EXPECT_FALSE(Shown("fraProgress"));
     EXPECT_EQ(fs::exists(Other() / "Club" / "024.txt"), !cancel);
-    EXPECT_EQ(
-        Find<QLabel>("lblStatus")->text(),
-        cancel ? QStringLiteral("Ready") : QStringLiteral("The libraries have been exported"));
+    EXPECT_EQ(Text("lblStatus"), cancel ? "Ready" : "The libraries have been exported");
   }
-  host.onStep = [&] { EXPECT_FALSE(Find<QLabel>("lblWait")->isVisible()); };
+  host.onStep = [&] { EXPECT_FALSE(Shown("lblWait")); };
   host.BeginWork();
   host.Step("Importing board 1", 0, 1);
   host.EndWork();
@@ -174,27 +150,27 @@ TEST_F(LibraryCommands, TheOtherCommandsReachTheEngine) {
   const fs::path moved = Other() / "moved";
   Open();
   host.Choose(Other() / "New");
-  Key(Qt::Key_F7);
-  EXPECT_EQ(Find<QComboBox>("cmbLibs")->currentText(), QStringLiteral("New"));
-  EXPECT_EQ(Find<QComboBox>("cmbBoard")->count(), 2);
+  Key("F7");
+  EXPECT_EQ(Text("cmbLibs"), "New");
+  EXPECT_EQ(Count("cmbBoard"), 2);
 
   host.ExpectAskWith("containing the libraries to import", Answer::OK);
   host.Choose(Other() / "More");
   host.ExpectAskWith("1 library will be copied from", Answer::OK);
   host.ExpectTell("1 library has been copied");
-  Key(Qt::Key_F7, Qt::ShiftModifier);
-  EXPECT_EQ(Find<QComboBox>("cmbLibs")->count(), 4);
+  Key("Shift+F7");
+  EXPECT_EQ(Count("cmbLibs"), 4);
 
   host.ExpectAskWith("to copy your library (New) to", Answer::OK);
   host.Choose(moved);
-  Key(Qt::Key_F8);
+  Key("F8");
   EXPECT_TRUE(fs::exists(moved / "New" / "002.txt"));
 
   host.ExpectAskWith("Your library of hands is currently stored in the folder:", Answer::OK);
   host.Choose(moved);
   host.ExpectAskWith("Do you want to copy all your libraries", Answer::No);
-  Key(Qt::Key_F6, Qt::ShiftModifier);
-  EXPECT_EQ(Find<QComboBox>("cmbLibs")->count(), 1);
+  Key("Shift+F6");
+  EXPECT_EQ(Count("cmbLibs"), 1);
   EXPECT_EQ(store.Read("macro", "filelocation"), FolderText(moved));
 }
 

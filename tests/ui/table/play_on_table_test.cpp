@@ -9,7 +9,7 @@
 
 #include "tests/support/hands.h"
 #include "tests/support/scripted_host.h"
-#include "tests/ui/print.h"
+#include "tests/ui/geometry.h"
 #include "ui/table/table_centre.h"
 #include "ui/table/table_trick.h"
 #include "ui/table/table_view.h"
@@ -57,15 +57,10 @@ class PlayOnTableTest : public testing::Test {
   void Click(QPointF point) {
     QTest::mouseClick(&view_, Qt::LeftButton, Qt::NoModifier, point.toPoint());
   }
-  bool Key(Qt::Key key) {
-    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
-    QCoreApplication::sendEvent(&view_, &event);
-    return event.isAccepted();
-  }
-  /// The key is for the table before it is a shortcut.
-  bool Overrides(Qt::Key key) {
-    QKeyEvent event(QEvent::ShortcutOverride, key, Qt::NoModifier);
-    event.ignore();
+  /// Whether the table takes the key; asked with ShortcutOverride, before it is a shortcut.
+  bool Key(Qt::Key key, QEvent::Type type = QEvent::KeyPress) {
+    QKeyEvent event(type, key, Qt::NoModifier);
+    event.setAccepted(type == QEvent::KeyPress);
     QCoreApplication::sendEvent(&view_, &event);
     return event.isAccepted();
   }
@@ -111,13 +106,16 @@ TEST_F(PlayOnTableTest, AsksForEveryCardLeftWhereItIsShown) {
   }
   EXPECT_EQ(tricksAsked_, 0);
   asked_.reset();
-  Click(view_.Layout().centre.center());
+  const QPoint felt = view_.Layout().centre.center().toPoint();
+  Click(felt);
+  QTest::mouseDClick(&view_, Qt::LeftButton, Qt::NoModifier, felt);  // its second press
+  EXPECT_EQ(tricksAsked_, 1) << "one card to a double click";
   Click({3, 340});
   EXPECT_EQ(tricksAsked_, 2) << "beside the cards";
   EXPECT_FALSE(asked_);
 }
 
-TEST_F(PlayOnTableTest, KeepsCardsInTheirPlacesAndRaisesTheLegalOnes) {
+TEST_F(PlayOnTableTest, KeepsCardsInTheirPlacesAndRaisesAndPointsAtTheLegalOnes) {
   const TableLayout full = LayOutTable(view_.size(), board_.hands, HandDisplay::Cards);
   Play({kClubEight});
   const TableLayout now = view_.Layout();
@@ -129,6 +127,10 @@ TEST_F(PlayOnTableTest, KeepsCardsInTheirPlacesAndRaisesTheLegalOnes) {
     EXPECT_EQ(placed.rect.left(), before->rect.left());
     EXPECT_EQ(placed.rect.top() < before->rect.top(), legal) << placed.card.Index();
     EXPECT_FALSE(placed.rect.intersects(now.hands[placed.seat].caption));
+    const QPointF index = placed.rect.topLeft() + QPointF(6, 12);
+    QMouseEvent move(QEvent::MouseMove, index, index, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&view_, &move);
+    EXPECT_EQ(view_.cursor().shape() == Qt::PointingHandCursor, legal);
   }
 }
 
@@ -141,27 +143,13 @@ TEST_F(PlayOnTableTest, PlaysByKeysAndLeavesOthersToTheWindow) {
   EXPECT_FALSE(Key(Qt::Key_PageDown));
   EXPECT_FALSE(Key(Qt::Key_Escape));
   asked_.reset();
-  EXPECT_FALSE(Overrides(Qt::Key_Escape));
+  EXPECT_FALSE(Key(Qt::Key_Escape, QEvent::ShortcutOverride));
   EXPECT_TRUE(Key(Qt::Key_D));
-  EXPECT_TRUE(Overrides(Qt::Key_Escape)) << "it takes back the half-typed suit";
+  EXPECT_TRUE(Key(Qt::Key_Escape, QEvent::ShortcutOverride)) << "it takes back the half-typed suit";
   Play({kClubEight});  // a half-typed suit belongs to the hand that was on play
   EXPECT_FALSE(Key(Qt::Key_9));
   EXPECT_TRUE(Key(Qt::Key_4));
   EXPECT_EQ(asked_, kClubFour);
-}
-
-TEST_F(PlayOnTableTest, PointsAtLegalCardsOnlyAndPlaysOneCardToADoubleClick) {
-  Play({kClubEight});
-  for (const PlacedCard& placed : view_.Layout().cards) {
-    const QPointF index = placed.rect.topLeft() + QPointF(6, 12);
-    QMouseEvent move(QEvent::MouseMove, index, index, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&view_, &move);
-    EXPECT_EQ(view_.cursor().shape() == Qt::PointingHandCursor, play_.IsLegal(placed.card));
-  }
-  const QPoint felt = view_.Layout().centre.center().toPoint();
-  Click(felt);
-  QTest::mouseDClick(&view_, Qt::LeftButton, Qt::NoModifier, felt);  // its second press
-  EXPECT_EQ(tricksAsked_, 1);
 }
 
 TEST_F(PlayOnTableTest, TakesNothingAndShowsNothingOutsideOfPlay) {
@@ -205,13 +193,11 @@ TEST_F(PlayOnTableTest, PaintsEachMomentItsOwnWay) {
   play_.QuitTrick();
   Show();
   moments.push_back(Picture());
-  view_.Show(board_, settings_, nullptr, Seat::West);
-  moments.push_back(Picture());
-  view_.Show(board_, settings_);
-  moments.push_back(Picture());
-  for (std::size_t i = 0; i < moments.size(); ++i) {
-    for (std::size_t j = 0; j < i; ++j) EXPECT_NE(moments[i], moments[j]) << i << " and " << j;
+  for (const auto caller : {std::optional(Seat::West), std::optional<Seat>()}) {
+    view_.Show(board_, settings_, nullptr, caller);
+    moments.push_back(Picture());
   }
+  ExpectDifferent(moments);
 }
 
 class TrickGeometry : public testing::TestWithParam<QSizeF> {
@@ -239,14 +225,13 @@ TEST_P(TrickGeometry, KeepsTheTrickInThePanelWithEveryIndexInSight) {
 TEST_P(TrickGeometry, KeepsTricksWonOnTheFeltBesideTheHands) {
   const TricksWonLayout won = LayOutTricksWon(table_, PlaySnapshot());
   std::vector<QRectF> parts(won.counts.begin(), won.counts.end());
+  for (const QRectF& back : won.backs) EXPECT_FALSE(back.isEmpty());
+  parts.push_back(won.backs.back());
+  ExpectApart(table_.felt, parts);
   parts.insert(parts.end(), won.backs.begin(), won.backs.end());
   for (const QRectF& part : parts) {
-    EXPECT_FALSE(part.isEmpty());
-    EXPECT_TRUE(table_.felt.contains(part));
     for (const PlacedCard& placed : table_.cards) EXPECT_FALSE(placed.rect.intersects(part));
   }
-  EXPECT_FALSE(won.counts[Side::NorthSouth].intersects(won.counts[Side::EastWest]));
-  EXPECT_FALSE(won.backs.back().intersects(won.counts[Side::NorthSouth]));
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, TrickGeometry,

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <functional>
-#include <sstream>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -10,6 +9,8 @@
 #include "core/text.h"
 #include "generate/editing.h"
 #include "tests/support/hands.h"
+#include "tests/support/words.h"
+#include "tests/ui/geometry.h"
 
 namespace tricklet::ui {
 namespace {
@@ -35,14 +36,7 @@ class Editing {
   }
 
   EditLayout Layout() const { return LayOutEdit(kSize, board.hands); }
-  /// Where the card can be seized: no other one lies over its index.
-  QPointF At(Card card) const {
-    const EditLayout layout = Layout();
-    for (const PlacedCard& placed : layout.table.cards) {
-      if (placed.card == card) return placed.rect.topLeft() + QPointF(4, 4);
-    }
-    return layout.packPlaces.at(static_cast<std::size_t>(card.Index())).topLeft() + QPointF(4, 4);
-  }
+  QPointF At(Card card) const { return SeizePoint(Layout(), card); }
   QPointF At(HandFrame frame) const { return Layout().Caption(frame).center(); }
 
   void Seize(Card card) { Take(edit.Press(Layout(), At(card))); }
@@ -65,8 +59,7 @@ class Editing {
 
   /// Each of the words "SA:N" tells where a card lies.
   void Expect(const char* places, const char* after) const {
-    std::istringstream words(places);
-    for (std::string word; words >> word;) {
+    for (const std::string& word : test::Words(places)) {
       EXPECT_EQ(FrameHolding(board.hands, CardOf(word)), FrameOfText(word.at(3)))
           << word << " after " << after;
     }
@@ -116,40 +109,31 @@ TEST(TableEditTest, LetsACardGoHome) {
   Editing table(EditMethod::Dragging, kSuitEach);
   const Card ten = CardOf("CT");
   const QPointF pack = table.At(HandFrame::Pack);
-  const struct {
-    const char* name;
-    std::function<void()> drop;
-  } ways[] = {
+  const auto dragTo = [&](QPointF place, QPointF drop) {
+    table.Drag(place);
+    table.Drop(drop);
+  };
+  const auto escape = [&] {
+    table.Drag(pack);
+    EXPECT_TRUE(table.Key(Qt::Key_Escape));
+    table.Drop(pack);
+  };
+  const auto dealAnew = [&] {
+    table.Drag(pack);
+    table.edit.Show(test::HandsOf(kEmpty), EditMethod::Dragging);
+    table.edit.Show(table.board.hands, EditMethod::Dragging);
+    table.Drop(pack);
+  };
+  const std::pair<const char*, std::function<void()>> ways[] = {
       {"a click", [&] { table.Drop(table.At(ten)); }},
-      {"a hand that trembles",
-       [&] {
-         table.Drag(table.At(ten) + QPointF(kTremble / 2, 0));
-         table.Drop(pack);
-       }},
-      {"the middle",
-       [&] {
-         table.Drag(pack);
-         table.Drop(table.Layout().table.centre.center());
-       }},
+      {"a hand that trembles", [&] { dragTo(table.At(ten) + QPointF(kTremble / 2, 0), pack); }},
+      {"the middle", [&] { dragTo(pack, table.Layout().table.centre.center()); }},
       {"outside",
        [&] {
-         table.Drag(pack);
-         table.Drop({-50, 40});
+         dragTo(pack, {-50, 40});
        }},
-      {"Escape",
-       [&] {
-         table.Drag(pack);
-         EXPECT_TRUE(table.Key(Qt::Key_Escape));
-         table.Drop(pack);
-       }},
-      {"another deal under the mouse",
-       [&] {
-         table.Drag(pack);
-         const HandTable before = table.board.hands;
-         table.edit.Show(test::HandsOf(kEmpty), EditMethod::Dragging);
-         table.edit.Show(before, EditMethod::Dragging);
-         table.Drop(pack);
-       }},
+      {"Escape", escape},
+      {"another deal under the mouse", dealAnew},
   };
   for (const auto& [name, drop] : ways) {
     table.Seize(ten);
@@ -171,8 +155,7 @@ TEST(TableEditTest, ClicksACardAndItsHandOrAHandAndItsCards) {
                {"S SA P SK", "SA:S SK:P"}};  // P takes the place of S
   for (const auto& [clicks, places] : cases) {
     Editing table(EditMethod::Clicking, kEmpty);
-    std::istringstream words(clicks);
-    for (std::string word; words >> word;) {
+    for (const std::string& word : test::Words(clicks)) {
       table.Click(word.size() == 1 ? table.At(FrameOfText(word[0])) : table.At(CardOf(word)));
     }
     table.Expect(places, clicks);

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/hands.h"
+#include "tests/ui/geometry.h"
 #include "ui/style/theme.h"
 #include "ui/table/text_hands.h"
 
@@ -55,9 +56,7 @@ TEST_F(TableViewTest, PaintsEachDesignColouringAndDisplayItsOwnWay) {
     pictures.push_back(Picture(LongSuits(), settings, {560, 560}));
   }
   pictures.push_back(Picture(Board(), Settings(), {560, 560}));
-  for (std::size_t i = 0; i < pictures.size(); ++i) {
-    for (std::size_t j = 0; j < i; ++j) EXPECT_NE(pictures[i], pictures[j]) << i << " and " << j;
-  }
+  ExpectDifferent(pictures);
 }
 
 TEST_F(TableViewTest, ForgetsThePicturesOfCardsWhenSettingsOrSizeChange) {
@@ -96,21 +95,13 @@ TEST_F(TableViewTest, FitsTextIntoItsAreaWhateverTheFont) {
   }
 }
 
-TEST_F(TableViewTest, SwitchesColourSchemesAndBack) {
-  const QColor before = QApplication::palette().color(QPalette::Window);
-  ApplyColourScheme(*qApp, ColourScheme::Dark);
-  EXPECT_TRUE(IsDark(QApplication::palette()));
-  ApplyColourScheme(*qApp, ColourScheme::Light);
-  EXPECT_FALSE(IsDark(QApplication::palette()));
-  ApplyColourScheme(*qApp, ColourScheme::System);
-  EXPECT_EQ(QApplication::palette().color(QPalette::Window), before);
-}
-
-TEST_F(TableViewTest, CanReadSuitsAndTextOnEveryBackground) {
+TEST_F(TableViewTest, CanReadSuitsAndTextInEveryColourScheme) {
   constexpr double kLeast = 3.0;  // WCAG 2.1, large text
-  for (const ColourScheme scheme : {ColourScheme::Light, ColourScheme::Dark}) {
+  const QColor before = QApplication::palette().color(QPalette::Window);
+  for (const ColourScheme scheme : {ColourScheme::Dark, ColourScheme::Light}) {
     ApplyColourScheme(*qApp, scheme);
     const QPalette palette = QApplication::palette();
+    EXPECT_EQ(IsDark(palette), scheme == ColourScheme::Dark);
     for (const auto role : {QPalette::Window, QPalette::Base, QPalette::AlternateBase}) {
       const QColor background = palette.color(role);
       EXPECT_GE(Contrast(background, palette.color(QPalette::Text)), 7.0);
@@ -123,6 +114,8 @@ TEST_F(TableViewTest, CanReadSuitsAndTextOnEveryBackground) {
       }
     }
   }
+  ApplyColourScheme(*qApp, ColourScheme::System);
+  EXPECT_EQ(QApplication::palette().color(QPalette::Window), before);
 }
 
 TEST_F(TableViewTest, ReadsColourNumbersWithRedInTheLowestByte) {

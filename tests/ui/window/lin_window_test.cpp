@@ -18,14 +18,18 @@ class LinWindowTest : public WindowTest {
     SelectLibrary(session, "Teaching");
     Open();
   }
+  void Paste(const QString& text) const {
+    QApplication::clipboard()->setText(text);
+    Key("Ctrl+Shift+V");
+  }
   /// Whether the window takes `data` when it is dragged over it; then drops it.
-  bool Drop(const QMimeData& data) {
+  bool Drop(const QMimeData& data) const {
     QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     enter.ignore();
-    QCoreApplication::sendEvent(window.get(), &enter);
+    QCoreApplication::sendEvent(top, &enter);
     if (!enter.isAccepted()) return false;
     QDropEvent drop(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(window.get(), &drop);
+    QCoreApplication::sendEvent(top, &drop);
     QTest::qWait(1);
     return true;
   }
@@ -33,42 +37,36 @@ class LinWindowTest : public WindowTest {
 
 TEST_F(LinWindowTest, AreChosenPastedOrDropped) {
   const auto file = folder.Path() / "a.lin";
-  test::WriteFile(file, FromQt(kRecord));
-  QMimeData files;
   const auto other = folder.Path() / "b.txt";
+  test::WriteFile(file, FromQt(kRecord));
   test::WriteFile(other, "Dear Ann");
+  QMimeData files;
   files.setUrls({QUrl::fromLocalFile(PathToQt(file)), QUrl::fromLocalFile(PathToQt(other))});
   QMimeData text;
   text.setText(kRecord);
-  const std::function<void()> ways[] = {
-      [&] {
-        host.Choose(file);
-        Key(Qt::Key_I, Qt::ControlModifier | Qt::ShiftModifier);
-      },
-      [this] {
-        QApplication::clipboard()->setText(kRecord);
-        Key(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
-      },
-      [&] { EXPECT_TRUE(Drop(text)); },
-      [&] {
-        host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
-        host.ExpectTellWith("The file must be of type");
-        EXPECT_TRUE(Drop(files)) << "one after another, whatever comes of each";
-      },
+  const auto choose = [&] {
+    host.Choose(file);
+    Key("Ctrl+Shift+I");
   };
+  const auto dropFiles = [&] {
+    host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
+    host.ExpectTellWith("The file must be of type");
+    EXPECT_TRUE(Drop(files)) << "one after another, whatever comes of each";
+  };
+  const std::function<void()> ways[] = {choose, [this] { Paste(kRecord); },
+                                        [&] { EXPECT_TRUE(Drop(text)); }, dropFiles};
   for (const auto& way : ways) {
     if (&way != &ways[0]) host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
     host.ExpectTell("Hand 7 has been saved to the library - Teaching");
     way();
-    EXPECT_EQ(FromQt(ShownBoard()), "Board 7");
+    EXPECT_EQ(Text("cmbBoard"), "Board 7");
     EXPECT_EQ(session.board.contract, "1C");
   }
 }
 
 TEST_F(LinWindowTest, OtherTextIsRefused) {
-  QApplication::clipboard()->setText(QStringLiteral("Dear Ann"));
   host.ExpectTell("There are no LIN records in this text");
-  Key(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+  Paste(QStringLiteral("Dear Ann"));
   QMimeData text;
   text.setText(QStringLiteral("Dear Ann"));
   EXPECT_FALSE(Drop(text));

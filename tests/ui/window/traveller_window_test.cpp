@@ -1,13 +1,7 @@
 // Travellers and play records in the real main window.
-#include <QAction>
-#include <QComboBox>
 #include <QHeaderView>
-#include <QLabel>
-#include <QScrollBar>
 #include <QTableView>
 #include <QTableWidget>
-#include <QTimer>
-#include <QToolButton>
 
 #include "formats/results/lin_file.h"
 #include "tests/support/calls.h"
@@ -47,22 +41,24 @@ class TravellerWindowTest : public WindowTest {
   }
 
   QTableView* Grid() const { return Find<QTableView>("flexTraveller"); }
-  QString Head(int column) const {
-    return Grid()->model()->headerData(column, Qt::Horizontal).toString();
-  }
   QModelIndex At(int row, int column) const { return Grid()->model()->index(row, column); }
-  int Rows() const { return Grid()->model()->rowCount(); }
-  QString Cell(int row, const char* head) const {
-    for (int column = 0; column < Grid()->model()->columnCount(); ++column) {
-      if (Head(column) == QString::fromLatin1(head)) return At(row, column).data().toString();
+  int Columns() const { return Grid()->model()->columnCount(); }
+  /// The head of the grid or, from 0, one of its rows.
+  std::string Row(int row = -1) const {
+    QStringList cells;
+    for (int column = 0; column < Columns(); ++column) {
+      cells +=
+          (row < 0 ? Grid()->model()->headerData(column, Qt::Horizontal) : At(row, column).data())
+              .toString();
     }
-    ADD_FAILURE() << "no column " << head;
-    return {};
+    return FromQt(cells.join(QLatin1Char('|')));
   }
   /// The numbers of the pairs sitting North-South, down the grid.
   std::string Pairs() const {
     std::string pairs;
-    for (int row = 0; row < Rows(); ++row) pairs += FromQt(Cell(row, "NS"));
+    for (int row = 0; row < Grid()->model()->rowCount(); ++row) {
+      pairs += FromQt(At(row, 0).data().toString());
+    }
     return pairs;
   }
   void ClickRow(int row) const {
@@ -75,133 +71,112 @@ class TravellerWindowTest : public WindowTest {
     QTest::mouseClick(heads->viewport(), Qt::LeftButton, Qt::NoModifier,
                       QPoint(middle, heads->height() / 2));
   }
-  QString Place() const { return Find<QLabel>("lblLinPlace")->text(); }
-  QString Label(const char* name) const { return Find<QLabel>(name)->accessibleName(); }
-  QString Calls() const {
+  std::string Calls() const {
     const auto* grid = Find<QTableWidget>("flexBids");
     QStringList calls;
     for (int place = 0; place < grid->rowCount() * kSeats; ++place) {
       const auto* item = grid->item(place / kSeats, place % kSeats);
       if (item != nullptr) calls += item->text();
     }
-    return calls.join(QLatin1Char(' '));
+    return FromQt(calls.join(QLatin1Char(' ')));
   }
-  const PlayState& Now() const { return window->findChild<Results*>()->Record()->Play().Now(); }
+  const Replay* Record() const { return window->findChild<Results*>()->Record(); }
   void ExpectNothingLeftOfTheRecord(const char* after) const {
-    EXPECT_EQ(window->findChild<Results*>()->Record(), nullptr) << after;
+    EXPECT_EQ(Record(), nullptr) << after;
     EXPECT_EQ(Find<QComboBox>("cmbLinNames")->currentIndex(), -1) << after;
     EXPECT_FALSE(Grid()->selectionModel()->hasSelection()) << after;
-    EXPECT_EQ(Place(), QString()) << after;
-    EXPECT_FALSE(Find<QAction>("mnuLinForward")->isEnabled()) << after;
-    EXPECT_FALSE(Find<QAction>("mnuLinLeave")->isEnabled()) << after;
-    EXPECT_FALSE(Find<QLabel>("lblTricks_0")->isVisible()) << after;
+    EXPECT_EQ(Text("lblLinPlace"), "") << after;
+    EXPECT_EQ(EnabledOf("mnuLinForward mnuLinLeave"), "") << after;
+    EXPECT_FALSE(Shown("lblTricks_0")) << after;
   }
 };
 
 TEST_F(TravellerWindowTest, ShowsAndHidesTheTraveller) {
   Open();
-  const auto* frame = Find<QWidget>("fraTraveller");
-  const auto* button = Find<QToolButton>("cmdTraveller");
-  EXPECT_TRUE(frame->isVisible());
-  EXPECT_EQ(button->text(), QStringLiteral("v"));
+  EXPECT_TRUE(Shown("fraTraveller"));
+  EXPECT_EQ(Text("cmdTraveller"), "v");
   Click("cmdTraveller");
-  EXPECT_FALSE(frame->isVisible());
-  EXPECT_EQ(button->text(), QStringLiteral("^"));
-  Key(Qt::Key_J, Qt::ControlModifier);
-  EXPECT_TRUE(frame->isVisible());
-  EXPECT_EQ(Pairs(), "1357");
-  EXPECT_EQ(Cell(0, "EW"), QStringLiteral("12"));
-  EXPECT_EQ(Cell(0, "Cont"), QStringLiteral(u"1\u2660"));
-  EXPECT_EQ(Cell(0, "NS+"), QStringLiteral("260"));
-  EXPECT_EQ(Cell(0, "MP"), QStringLiteral("6"));
-  EXPECT_EQ(Cell(1, "EW+"), QStringLiteral("1510"));
-  EXPECT_EQ(Cell(2, "Cont"), QStringLiteral("Pass"));
-  EXPECT_EQ(Cell(0, "Names"), QStringLiteral("Ann & Bob v Cy & Di"));
-  Key(Qt::Key_PageDown);
-  EXPECT_EQ(Rows(), 0) << "board 2 has no results";
-  EXPECT_TRUE(button->isVisible());
-  QComboBox* libraries = Find<QComboBox>("cmbLibs");
-  libraries->setCurrentIndex(1);
-  emit libraries->activated(1);
-  EXPECT_FALSE(button->isVisible()) << "the other library has none at all";
-  EXPECT_FALSE(Find<QAction>("mnuTraveller")->isEnabled());
+  EXPECT_FALSE(Shown("fraTraveller"));
+  EXPECT_EQ(Text("cmdTraveller"), "^");
+  Key("Ctrl+J");
+  EXPECT_TRUE(Shown("fraTraveller"));
+  EXPECT_EQ(Row(), "NS|EW|Cont|By|Ld|Tr|NS+|EW+|MP|MP|Names");
+  EXPECT_EQ(Row(0), "1|12|1\u2660|N|\u26652|13|260||6|0|Ann & Bob v Cy & Di");
+  EXPECT_EQ(Row(1), "3|4|7\u2665|E|\u26662|13||1510|0|6|Eve & Fay v Gus & Hal");
+  EXPECT_EQ(Row(2), "5|6|Pass||||0||4|2|Ida & Jo v Kim & Lee");
+  Key("PgDown");
+  EXPECT_EQ(Pairs(), "") << "board 2 has no results";
+  EXPECT_TRUE(Shown("cmdTraveller"));
+  Type("cmbLibs", "Teaching");
+  FocusKey("Return");
+  EXPECT_FALSE(Shown("cmdTraveller")) << "the other library has none at all";
+  EXPECT_FALSE(Enabled("mnuTraveller"));
 }
 
 TEST_F(TravellerWindowTest, IsSortedByEveryColumn) {
   Open();
-  Grid()->horizontalScrollBar()->setValue(0);
-  QStringList heads;
-  for (int column = 0; column < Grid()->model()->columnCount(); ++column) heads += Head(column);
-  EXPECT_EQ(heads.join(QLatin1Char(' ')),
-            QStringLiteral("NS EW Cont By Ld Tr NS+ EW+ MP MP Names"));
-  struct Case {
-    int column;
-    std::string pairs;
-  };
-  const std::vector<Case> cases{{0, "1357"},  // numbers, and no texts
-                                {1, "3571"},
-                                {2, "5173"},   // Pass, 1S, 1NT, 7H
-                                {6, "3751"}};  // the score of North-South
-  for (const Case& example : cases) {
-    ClickHead(example.column);
-    EXPECT_EQ(Pairs(), example.pairs) << example.column;
-    ClickHead(example.column);
-    EXPECT_EQ(Pairs(), std::string(example.pairs.rbegin(), example.pairs.rend())) << example.column;
-    ClickHead(example.column);
+  const std::pair<int, std::string> cases[] = {{0, "1357"},  // numbers, and no texts
+                                               {1, "3571"},
+                                               {2, "5173"},   // Pass, 1S, 1NT, 7H
+                                               {6, "3751"}};  // the score of North-South
+  for (const auto& [column, pairs] : cases) {
+    for (const std::string& order : {pairs, std::string(pairs.rbegin(), pairs.rend())}) {
+      ClickHead(column);
+      EXPECT_EQ(Pairs(), order) << column;
+    }
+    ClickHead(column);
     EXPECT_EQ(Pairs(), "1357") << "as it was";
   }
   ClickRow(0);  // that of pair 1, the best score
   EXPECT_EQ(Grid()->currentIndex().column(), 0);
   Grid()->setFocus();
-  FocusKey(Qt::Key_Right);
+  FocusKey("Right");
   for (const char* pairs : {"3571", "1753"}) {
-    FocusKey(Qt::Key_Space);
+    FocusKey("Space");
     EXPECT_EQ(Pairs(), pairs);
   }
-  EXPECT_EQ(Find<QComboBox>("cmbLinNames")->currentText(), QStringLiteral("Ann & Bob v Cy & Di"));
+  EXPECT_EQ(Text("cmbLinNames"), "Ann & Bob v Cy & Di");
 }
 
 TEST_F(TravellerWindowTest, StepsThroughARecord) {
   Open();
   test::SetAuction(session.board, "P 2H P P P");
   window->Display();
-  const Board before = session.board;
   ClickRow(0);
-  EXPECT_EQ(Find<QComboBox>("cmbLinNames")->currentText(), QStringLiteral("Ann & Bob v Cy & Di"));
-  for (int column = 0; Head(column) != QStringLiteral("Names"); ++column) {
+  EXPECT_EQ(Text("cmbLinNames"), "Ann & Bob v Cy & Di");
+  for (int column = 0; column < Columns() - 1; ++column) {  // all but the names
     EXPECT_LE(Grid()->sizeHintForIndex(At(0, column)).width(), Grid()->columnWidth(column))
-        << "in bold: " << FromQt(Head(column));
+        << "in bold: " << column;
   }
-  EXPECT_EQ(Calls(), QStringLiteral(u"1\u2660 Pass Pass Pass"));
-  EXPECT_EQ(Label("lblContract"), QStringLiteral("1S by North"));
-  EXPECT_EQ(Place(), QStringLiteral("Card 0 of 7"));
-  Key(Qt::Key_Right, Qt::AltModifier);
-  EXPECT_EQ(Place(), QStringLiteral("Card 1 of 7"));
-  EXPECT_EQ(Now().trickCards[Seat::East], (Card{Suit::Hearts, Rank::Two}));
-  EXPECT_EQ(Now().onPlay, Seat::South);
-  Key(Qt::Key_Right, Qt::AltModifier | Qt::ShiftModifier);
-  EXPECT_EQ(Place(), QStringLiteral("Card 4 of 7"));
-  EXPECT_EQ(Find<QLabel>("lblTricks_0")->text(), QStringLiteral("NS: 1"));
-  window->findChild<TableView*>()->setFocus();
-  FocusKey(Qt::Key_Space);
-  EXPECT_EQ(Place(), QStringLiteral("Card 5 of 7"));
-  FocusKeys("ha");  // the two of clubs' suit aside, East played the three
+  EXPECT_EQ(Calls(), "1\u2660 Pass Pass Pass");
+  EXPECT_EQ(Spoken("lblContract"), "1S by North");
+  const auto onTable = [this] {
+    window->findChild<TableView*>()->setFocus();
+    FocusKey("Space");
+  };
+  const std::pair<std::function<void()>, const char*> steps[] = {
+      {[] {}, "Card 0 of 7 NS: 0"},
+      {[this] { Key("Alt+Right"); }, "Card 1 of 7 NS: 0"},
+      {[this] { Key("Alt+Shift+Right"); }, "Card 4 of 7 NS: 1"},
+      {onTable, "Card 5 of 7 NS: 1"},
+      {[] { FocusKeys("ha"); }, "Card 5 of 7 NS: 1"},  // East played the three
+      {[] { FocusKeys("h3"); }, "Card 6 of 7 NS: 1"},
+      {[this] { Click("cmdLinNextTrick"); }, "Card 7 of 7: the record ends here NS: 1"},
+      {[this] { Click("cmdLinPreviousTrick"); }, "Card 4 of 7 NS: 1"},
+      {[this] { Key("Alt+Left"); }, "Card 3 of 7 NS: 0"}};
+  for (const auto& [step, told] : steps) {
+    step();
+    EXPECT_EQ(Text("lblLinPlace") + " " + Text("lblTricks_0"), told);
+    const bool ends = std::string_view(told).starts_with("Card 7");
+    EXPECT_EQ(Enabled("cmdLinForward"), !ends) << told;
+    EXPECT_EQ(Spoken("lblScore"), ends ? "1S+6 by North : NS +260" : "") << told;
+  }
   EXPECT_EQ(host.beeps, 1);
-  FocusKeys("h3");
-  EXPECT_EQ(Place(), QStringLiteral("Card 6 of 7"));
-  Click("cmdLinNextTrick");
-  EXPECT_EQ(Place(), QStringLiteral("Card 7 of 7: the record ends here"));
-  EXPECT_EQ(Label("lblScore"), QStringLiteral("1S+6 by North : NS +260"));
-  EXPECT_FALSE(Find<QToolButton>("cmdLinForward")->isEnabled());
-  Click("cmdLinPreviousTrick");
-  Key(Qt::Key_Left, Qt::AltModifier);
-  EXPECT_EQ(Place(), QStringLiteral("Card 3 of 7"));
-  Key(Qt::Key_J, Qt::ControlModifier | Qt::ShiftModifier);
+  Key("Ctrl+Shift+J");
   ExpectNothingLeftOfTheRecord("putting it away");
-  EXPECT_EQ(Calls(), QStringLiteral(u"Pass 2\u2665 Pass Pass Pass"));
-  EXPECT_EQ(Label("lblContract"), QStringLiteral("2H by East"));
-  EXPECT_EQ(session.board.calls, before.calls);
-  EXPECT_EQ(session.board.handChanged, before.handChanged);
+  EXPECT_EQ(Calls(), "Pass 2\u2665 Pass Pass Pass");
+  EXPECT_EQ(Spoken("lblContract"), "2H by East");
+  EXPECT_FALSE(session.board.handChanged);
   EXPECT_FALSE(Find<QTimer>("timQuit")->isActive());
 }
 
@@ -222,11 +197,7 @@ TEST_F(TravellerWindowTest, BestCardsOfARecordAreThoseOfItsOwnContract) {
   ClickRow(0);
   ASSERT_TRUE(QTest::qWaitFor([&] { return !finder->Tricks().empty(); }));
   EXPECT_EQ(solver.asked, Strain::Spades);
-  session.settings.showBestCards = false;
-  window->Display();
-  EXPECT_TRUE(finder->Tricks().empty());
-  session.settings.showBestCards = true;
-  Key(Qt::Key_J, Qt::ControlModifier | Qt::ShiftModifier);
+  Key("Ctrl+Shift+J");
   EXPECT_TRUE(finder->Tricks().empty()) << "the record has been put away";
 }
 
@@ -234,15 +205,14 @@ TEST_F(TravellerWindowTest, RecordsWithoutAPlayOrWithOneThatBreaksTheRules) {
   Open();
   ClickRow(1);
   Click("cmdLinNextTrick");
-  EXPECT_EQ(Place(),
-            QStringLiteral(u"Card 3 of 4: the record ends here, as East cannot play \u26664"));
+  EXPECT_EQ(Text("lblLinPlace"), "Card 3 of 4: the record ends here, as East cannot play \u26664");
   Find<QComboBox>("cmbLinNames")->setFocus();
-  FocusKey(Qt::Key_Down);
-  EXPECT_EQ(Place(), QStringLiteral("Passed out"));
-  EXPECT_EQ(Label("lblScore"), QStringLiteral("All Pass : 0"));
-  FocusKey(Qt::Key_Down);
-  EXPECT_EQ(Place(), QStringLiteral("The play was not recorded"));
-  EXPECT_EQ(Label("lblContract"), QStringLiteral("1NT by North"));
+  FocusKey("Down");
+  EXPECT_EQ(Text("lblLinPlace"), "Passed out");
+  EXPECT_EQ(Spoken("lblScore"), "All Pass : 0");
+  FocusKey("Down");
+  EXPECT_EQ(Text("lblLinPlace"), "The play was not recorded");
+  EXPECT_EQ(Spoken("lblContract"), "1NT by North");
   EXPECT_EQ(Grid()->selectionModel()->selectedRows().value(0).row(), 3);
 }
 
@@ -250,13 +220,13 @@ TEST_F(TravellerWindowTest, WhateverReplacesTheBoardEndsTheRecord) {
   Open();
   const auto look = [&] {
     ClickRow(0);
-    Key(Qt::Key_Right, Qt::AltModifier);
-    ASSERT_NE(window->findChild<Results*>()->Record(), nullptr);
+    Key("Alt+Right");
+    ASSERT_NE(Record(), nullptr);
   };
   look();
-  Key(Qt::Key_PageDown);
+  Key("PgDown");
   ExpectNothingLeftOfTheRecord("the next board");
-  Key(Qt::Key_PageUp);
+  Key("PgUp");
   ExpectNothingLeftOfTheRecord("coming back");
   look();
   test::SetAuction(session.board, "1C P P P");
@@ -265,15 +235,15 @@ TEST_F(TravellerWindowTest, WhateverReplacesTheBoardEndsTheRecord) {
   look();
   Click("cmdPlay");
   EXPECT_TRUE(session.board.playMode);
-  EXPECT_EQ(window->findChild<Results*>()->Record(), nullptr);
+  EXPECT_EQ(Record(), nullptr);
   ClickRow(0);
-  EXPECT_EQ(window->findChild<Results*>()->Record(), nullptr) << "the board is being played";
+  EXPECT_EQ(Record(), nullptr) << "the board is being played";
   EXPECT_FALSE(Grid()->selectionModel()->hasSelection());
   Click("cmdPlay");
   look();
   ASSERT_TRUE(RecycleLinData(session));
   window->Display();
-  EXPECT_EQ(window->findChild<Results*>()->Record(), nullptr) << "the results are gone";
+  EXPECT_EQ(Record(), nullptr) << "the results are gone";
   EXPECT_FALSE(Shown("fraTraveller"));
 }
 
