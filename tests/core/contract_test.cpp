@@ -22,7 +22,8 @@ TEST(GetContract, DerivesContractDeclarerAndTrumps) {
       {4, "1C X XX 1D", "1D by South", 1, Strain::Diamonds},
       {1, "P P P", "", 0, Strain::NoTrump},
       {1, "P P P P", "All Pass", 0, Strain::NoTrump},
-      {1, "X XX", "", 0, Strain::NoTrump},  // no auction, but nothing to break on
+      {1, "P 1C P 1H", "1H by West", 1, Strain::Hearts},  // four calls, but not four passes
+      {1, "X XX", "", 0, Strain::NoTrump},                // no auction, but nothing to break on
   };
   for (const auto& [number, auction, label, level, trumps] : kCases) {
     Board board;
@@ -31,6 +32,18 @@ TEST(GetContract, DerivesContractDeclarerAndTrumps) {
     EXPECT_EQ(ContractLabel(board), label) << auction;
     EXPECT_EQ(board.contractLevel, level) << auction;
     EXPECT_EQ(board.trumps, trumps) << auction;
+  }
+}
+
+TEST(SetContract, TakesATextThatIsOneAndNoOther) {
+  for (const auto& [text, contract] : {std::pair{"4S", "4S"}, {"3NTx", "3NTx"}, {"1C**", "1Cxx"}}) {
+    Board board;
+    EXPECT_TRUE(SetContract(board, text));
+    EXPECT_EQ(board.contract, contract);
+    for (const char* none : {"4SXXX", "8C", "4Sy", "S", ""}) {
+      EXPECT_FALSE(SetContract(board, none)) << none;
+      EXPECT_EQ(board.contract, contract) << none;
+    }
   }
 }
 
