@@ -28,9 +28,10 @@ TEST(Odds, AreThoseOfCounting) {
     const int k = code / 5 % 5;
     const int q = code / 25 % 5;
     const int j = code / 125;
-    exact.at(static_cast<std::size_t>(4 * a + 3 * k + 2 * q + j)) +=
-        Choose(4, a) * Choose(4, k) * Choose(4, q) * Choose(4, j) * Choose(36, 13 - a - k - q - j) /
-        all;
+    const int points = 4 * a + 3 * k + 2 * q + j;
+    exact.at(static_cast<std::size_t>(points)) += Choose(4, a) * Choose(4, k) * Choose(4, q) *
+                                                  Choose(4, j) * Choose(36, 13 - a - k - q - j) /
+                                                  all;
   }
   for (std::size_t points = 0; points < HcpOdds.size(); ++points) {
     const double tolerance = points <= 30 ? 0.5e-6 : exact.at(points) * 5e-6;
