@@ -1,9 +1,9 @@
 #include "generate/generate.h"
 
-#include <algorithm>
 #include <exception>
 #include <string>
 
+#include "core/bounded_list.h"
 #include "core/fault.h"
 #include "generate/deal.h"
 #include "library/board_store.h"
@@ -84,14 +84,8 @@ void DealAndAnalyse(Session& session, const Constraints& constraints,
 
 /// "3 boards do not meet the constraints: 4, 9, 17", of many boards the first.
 std::string OutsideText(const std::vector<int>& boards) {
-  constexpr std::size_t kMostNamed = 20;
-  std::string text = std::to_string(boards.size()) +
-                     (boards.size() == 1 ? " board does" : " boards do") +
-                     " not meet the constraints: ";
-  for (std::size_t i = 0; i < std::min(boards.size(), kMostNamed); ++i) {
-    text += (i == 0 ? "" : ", ") + std::to_string(boards[i]);
-  }
-  return boards.size() > kMostNamed ? text + ", ..." : text;
+  return std::to_string(boards.size()) + (boards.size() == 1 ? " board does" : " boards do") +
+         " not meet the constraints: " + BoundedList(boards);
 }
 
 }  // namespace

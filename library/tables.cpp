@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "analysis/get_dds.h"
+#include "core/bounded_list.h"
 #include "core/fault.h"
 #include "core/statistics.h"
 #include "core/text.h"
@@ -58,12 +59,12 @@ std::string ProgressText(int number, const Progress& progress) {
 /// Which boards were left out because their files are read-only; `files` is not empty.
 std::string LeftOutText(const std::vector<fs::path>& files) {
   if (files.size() == 1) return ReadOnlyText(files.front());
-  std::string numbers;
+  std::vector<int> numbers;
   for (const fs::path& file : files) {
-    if (!numbers.empty()) numbers += ", ";
-    numbers += std::to_string(BoardNumberOfFile(PathText(file.filename())));
+    numbers.push_back(BoardNumberOfFile(PathText(file.filename())));
   }
-  return "The files of boards " + numbers + " are read only so the hands cannot be saved";
+  return "The files of boards " + BoundedList(numbers) +
+         " are read only so the hands cannot be saved";
 }
 
 /// One run over a range of boards.

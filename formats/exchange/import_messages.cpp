@@ -1,31 +1,18 @@
 #include "formats/exchange/import_messages.h"
 
-#include <algorithm>
 #include <array>
 #include <iterator>
 #include <vector>
 
+#include "core/bounded_list.h"
+
 namespace tricklet {
 namespace {
 
-constexpr std::size_t kMostListed = 10;
-
-/// "2, 5, 7": of more than ten the first ten.
-std::string Listed(const std::vector<std::string>& entries) {
-  std::string text;
-  for (std::size_t i = 0; i < std::min(entries.size(), kMostListed); ++i) {
-    text += (i == 0 ? "" : ", ") + entries[i];
-  }
-  return text + (entries.size() > kMostListed ? " ..." : "");
-}
-
 /// Each number once.
 std::string NumbersText(const std::vector<int>& numbers) {
-  std::vector<std::string> entries;
-  for (const int number : std::set<int>(numbers.begin(), numbers.end())) {
-    entries.push_back(std::to_string(number));
-  }
-  return Listed(entries);
+  const std::set<int> once(numbers.begin(), numbers.end());
+  return BoundedList(std::vector<int>(once.begin(), once.end()));
 }
 
 /// "1-3, 7".
@@ -38,7 +25,7 @@ std::string RangesText(const std::set<int>& numbers) {
     entries.push_back(std::to_string(*first) + (last == *first ? "" : "-" + std::to_string(last)));
     first = next;
   }
-  return Listed(entries);
+  return BoundedList(entries);
 }
 
 /// One reason for leaving something out.

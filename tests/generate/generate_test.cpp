@@ -109,9 +109,8 @@ TEST_F(GenerateRun, PreviewTakesDealsAgainOrEnds) {
 TEST_F(GenerateRun, TellsOnceWhichBoardsAreOutsideTheConstraints) {
   AskTheImpossible();
   host.ExpectTell(
-      "21 boards do not meet the constraints: 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23, "
-      "24, 25, 26, 27, 28, 29, 30, ...");
-  EXPECT_EQ(Run(11, 31).boardsStored, 21);
+      "11 boards do not meet the constraints: 11, 12, 13, 14, 15, 16, 17, 18, 19, 20 ...");
+  EXPECT_EQ(Run(11, 21).boardsStored, 11);
 }
 
 TEST_F(GenerateRun, TablesAreComputedInBatchesOnceAllBoardsAreStored) {
