@@ -60,6 +60,7 @@ std::string ProgressText(int number, const Progress& progress) {
 std::string LeftOutText(const std::vector<fs::path>& files) {
   if (files.size() == 1) return ReadOnlyText(files.front());
   std::vector<int> numbers;
+  numbers.reserve(files.size());
   for (const fs::path& file : files) {
     numbers.push_back(BoardNumberOfFile(PathText(file.filename())));
   }
