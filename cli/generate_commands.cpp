@@ -43,7 +43,7 @@ constexpr EnumArray<HandType, std::string_view, kHandTypes> kTypeWords{
 
 /// A number of 0 to `highest`.
 std::optional<int> NumberOf(std::string_view text, int highest) {
-  const auto number = WholeNumber(text);
+  const auto number = NumberFromText(text);
   return number && *number >= 0 && *number <= highest ? number : std::nullopt;
 }
 

@@ -71,12 +71,12 @@ struct Reader {
       *field = EqualNoCase(text, "True");
       return true;
     }
-    const auto number = WholeNumber<std::int64_t>(text);
+    const auto number = NumberFromText<std::int64_t>(text);
     if (number) *field = *number != 0;
     return number.has_value();
   }
   bool operator()(double* field) const {
-    const auto value = WholeNumber<double>(text);
+    const auto value = NumberFromText<double>(text);
     if (!value || !std::isfinite(*value) || *value < entry.lowest || *value > entry.highest) {
       return false;
     }
@@ -107,7 +107,7 @@ struct Reader {
     constexpr int kDecimal = 10;
     const bool hex = text.size() > 2 && EqualNoCase(text.substr(0, 2), "&H");
     const std::string_view digits = hex ? text.substr(2) : text;
-    const auto value = WholeNumber<std::int64_t>(digits, hex ? kHexadecimal : kDecimal);
+    const auto value = NumberFromText<std::int64_t>(digits, hex ? kHexadecimal : kDecimal);
     if (!value || *value < INT32_MIN || *value > UINT32_MAX) return false;
     field->value = static_cast<std::uint32_t>(*value);
     return true;

@@ -40,7 +40,7 @@ int LeadingNumber(std::string_view text);
 /// 10 or another of 2..36. Nothing for anything else, and for a number that the type cannot hold.
 /// Floating point is always in base 10, may have an exponent, and may be "inf" or "nan".
 template <class Number = int>
-std::optional<Number> WholeNumber(std::string_view text, [[maybe_unused]] int base = 10) {
+std::optional<Number> NumberFromText(std::string_view text, [[maybe_unused]] int base = 10) {
   Number number{};
   const char* const end = text.data() + text.size();
   std::from_chars_result read{};

@@ -28,7 +28,7 @@ class LineReader {
   std::optional<int> NextNumber() {
     const auto line = Next();
     if (!line) return std::nullopt;
-    return WholeNumber<std::int16_t>(Trim(*line));
+    return NumberFromText<std::int16_t>(Trim(*line));
   }
 
   /// Only blanks and empty lines are left.

@@ -26,7 +26,7 @@ constexpr int kIncompleteListed = 10;  // fewer incomplete boards than this are 
 
 /// A whole text box as a board number; 0 when it is none.
 int BoardNumberFromText(std::string_view text) {
-  return WholeNumber(Trim(text)).value_or(0);
+  return NumberFromText(Trim(text)).value_or(0);
 }
 
 /// Boards of a range on their way into one file.

@@ -26,7 +26,7 @@ const std::string& Result(const LinRecord& record, LinResultTag tag) {
 template <class Number>
 std::optional<Number> NumberOf(std::string_view text) {
   if (text.starts_with('+')) text.remove_prefix(1);
-  return WholeNumber<Number>(text);
+  return NumberFromText<Number>(text);
 }
 
 std::optional<float> PointsOf(std::string_view text) {

@@ -128,7 +128,7 @@ class UsebioReader {
   }
 
   void ReadBoard(const UsebioBoard& board, const SessionPairs& pairs) {
-    const auto read = WholeNumber(ChildText(board.element, "BOARD_NUMBER"));
+    const auto read = NumberFromText(ChildText(board.element, "BOARD_NUMBER"));
     if (!read) throw UsebioRefusal{kUnexpectedFormat};
     const int number = *read;
     results_.firstBoard = any_ ? std::min(results_.firstBoard, number) : number;

@@ -34,12 +34,12 @@ TEST(Text, ShowableMakesForeignBytesFit) {
 }
 
 TEST(Text, WholeNumbersAreNumbersToTheirEnd) {
-  EXPECT_EQ(WholeNumber("-12"), -12);
-  EXPECT_EQ(WholeNumber("ff", 16), 255);
-  EXPECT_EQ(WholeNumber<double>("1e3"), 1000);
-  EXPECT_FALSE(WholeNumber<std::int16_t>("32768"));
+  EXPECT_EQ(NumberFromText("-12"), -12);
+  EXPECT_EQ(NumberFromText("ff", 16), 255);
+  EXPECT_EQ(NumberFromText<double>("1e3"), 1000);
+  EXPECT_FALSE(NumberFromText<std::int16_t>("32768"));
   for (const char* none : {"", " 1", "1 ", "+1", "1.0", "-", "2x"}) {
-    EXPECT_FALSE(WholeNumber(none)) << none;
+    EXPECT_FALSE(NumberFromText(none)) << none;
   }
 }
 
