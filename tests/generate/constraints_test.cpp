@@ -2,18 +2,23 @@
 
 #include <algorithm>
 #include <cmath>
-#include <sstream>
 
 #include <gtest/gtest.h>
 
 #include "generate/hand_type.h"
+#include "tests/support/asked.h"
 #include "tests/support/hands.h"
+#include "tests/support/words.h"
 
 namespace tricklet {
 namespace {
 
-constexpr GenHand kOne = GenHand::First;
-constexpr GenHand kTwo = GenHand::Second;
+using test::Asked;
+using test::Asking;
+using test::Max;
+using test::Min;
+using test::OfType;
+using test::Points;
 
 /// n over k.
 double Choose(int n, int k) {
@@ -38,37 +43,6 @@ TEST(Odds, AreThoseOfCounting) {
     EXPECT_NEAR(HcpOdds.at(points), exact.at(points), tolerance) << points;
   }
   EXPECT_EQ(exact.at(HcpOdds.size()), 0) << "no hand has 38 points";
-  for (int length = kShortestPreempt; length <= kCardsInHand; ++length) {
-    const double each = 4 * Choose(13, length) * Choose(39, 13 - length) / all;
-    EXPECT_NEAR(kPreemptOdds.at(static_cast<std::size_t>(length - 7)), each, each * 5e-6) << length;
-  }
-}
-
-/// What is asked of one hand.
-struct Asked {
-  std::array<Limits, 4> suits{{{0, 13}, {0, 13}, {0, 13}, {0, 13}}};
-  Limits points{0, 37};
-  int direction = 0;
-};
-
-Constraints Asking(const Asked& first, const Asked& second) {
-  Constraints constraints;
-  constraints.suitLimits.values = {{{first.suits}, {second.suits}}};
-  constraints.pointLimits.values = {{first.points, second.points}};
-  constraints.handDirection[kOne] = first.direction;
-  return constraints;
-}
-
-constexpr Asked Points(int least, int most = 37) {
-  return {.points = {least, most}};
-}
-
-constexpr Asked Min(int spades, int hearts, int diamonds, int clubs) {
-  return {{{{spades, 13}, {hearts, 13}, {diamonds, 13}, {clubs, 13}}}};
-}
-
-constexpr Asked Max(int spades, int hearts, int diamonds, int clubs, int points = 0) {
-  return {{{{0, spades}, {0, hearts}, {0, diamonds}, {0, clubs}}}, {points, 37}};
 }
 
 /// "2 minimum of C: Too many Clubs": the hand, where it shows, and what is told.
@@ -82,27 +56,21 @@ std::string Told(const std::optional<Contradiction>& found) {
 
 TEST(CheckConstraints, TellsTheFirstContradictionAndItsPlace) {
   const Asked east{.direction = 1};
+  constexpr HandType kBalanced = HandType::Balanced;
   const struct {
     Asked first;
     Asked second;
     const char* told;
     int hands = 2;
-    bool types = false;  // both hands go by a type
   } kCases[] = {
-      {{}, {}, ""},
       {Min(4, 4, 4, 1), Max(4, 4, 4, 1), ""},
-      {Min(3, 3, 5, 3), {}, "1 minimum of D: Suit minima add up to more than 13 in hand 1"},
-      {{}, Min(4, 4, 4, 4), "2 minimum of S: Suit minima add up to more than 13 in hand 2"},
+      {{}, Min(3, 3, 5, 3), "2 minimum of D: Suit minima add up to more than 13 in hand 2"},
       {Max(5, 4, 3, 0), {}, "1 maximum of C: Suit maxima add up to less than 13 in hand 1"},
-      {{}, Max(3, 3, 3, 3), "2 maximum of S: Suit maxima add up to less than 13 in hand 2"},
-      {Max(10, 3, 0, 0, 19), {}, ""},  // 10 + 9
-      {Max(10, 3, 0, 0, 20),
-       {},
-       "1 points: Cannot have 20 points with the distribution for hand 1"},
+      {Max(10, 3, 0, 0, {19, 37}), {}, ""},  // 10 + 9
       {{},
-       Max(1, 2, 0, 13, 22),
-       "2 points: Cannot have 22 points with the distribution for hand 2"},
-      {Min(4, 4, 4, 4), Max(3, 3, 3, 3), "", 2, true},
+       Max(10, 3, 0, 0, {20, 37}),
+       "2 points: Cannot have 20 points with the distribution for hand 2"},
+      {OfType(kBalanced, Min(4, 4, 4, 4)), OfType(kBalanced, Max(3, 3, 3, 3)), ""},
       {Points(20), Points(20), ""},
       {Points(21), Points(20), "2 points: Too many minimum points between the 2 hands"},
       {Min(7, 0, 0, 0), Min(6, 0, 0, 0), ""},
@@ -111,7 +79,6 @@ TEST(CheckConstraints, TellsTheFirstContradictionAndItsPlace) {
       {east, Min(4, 4, 4, 4), "", 1}};
   for (const auto& c : kCases) {
     Constraints constraints = Asking(c.first, c.second);
-    constraints.useSuitLengths.fill(!c.types);
     constraints.numGenHands = c.hands;
     EXPECT_EQ(Told(CheckConstraints(constraints)), c.told) << &c - kCases;
   }
@@ -123,11 +90,8 @@ TEST(CheckConstraints, KnowsTheMostPointsOfATypesShapes) {
                                                    10 + 10 + 10 + 4,  // 4-4-4-1
                                                    10 + 7 + 7 + 7}};  // 7-2-2-2
   for (const HandType type : kAllHandTypes) {
-    Constraints constraints;
-    constraints.useSuitLengths[kTwo] = false;
-    constraints.handTypeIndex[kTwo] = type;
     for (const int points : {most[type], most[type] + 1}) {
-      constraints.pointLimits[kTwo].minimum = points;
+      const Constraints constraints = Asking({}, OfType(type, Points(points)));
       EXPECT_EQ(CheckConstraints(constraints).has_value(), points > most[type]) << HandTypes[type];
     }
   }
@@ -155,34 +119,34 @@ TEST(MeetsConstraints, LooksAtPointsAndLengthsOfTheConstrainedHands) {
     constraints.numGenHands = c.hands;
     EXPECT_EQ(MeetsConstraints(constraints, hands, Seat::West), c.meets) << &c - kCases;
   }
-  Constraints balanced = Asking(Points(13), {});
-  balanced.useSuitLengths[kOne] = false;
+  Constraints balanced = Asking(OfType(HandType::Balanced, Points(13)), {});
   EXPECT_TRUE(MeetsConstraints(balanced, hands, Seat::East));
   balanced.relativeToDealer = true;  // East is no balanced hand
   EXPECT_FALSE(MeetsConstraints(balanced, hands, Seat::East));
-  EXPECT_EQ(SeatOf(balanced, kTwo, Seat::West), Seat::North);
+  EXPECT_EQ(SeatOf(balanced, GenHand::Second, Seat::West), Seat::North);
 }
 
 TEST(IsOfType, KnowsTheShapes) {
   using enum HandType;
+  const std::string kShapes =
+      "5332 2533 2353 4432 3433 4441 1444 5422 6322 3262 3226 1651 7222 2722 1237 8311";
   const struct {
     HandType type;
     int option;
-    const char* shapes;  // "!" before what is none
-  } kCases[] = {{Balanced, 0, "5332 3235 4432 3433 !4441 !5422 !6322"},
-                {Balanced, 1, "3235 2353 4432 !5332 !3523"},
-                {Weak2, 0, "1651 6322 !3262 !5332 !7222"},
-                {Weak2, 1, "3262 !3226"},
-                {FourFourFourOne, 0, "4144 !4432"},
-                {Preempt, 0, "1237 8311 !6610"}};
+    const char* shapes;
+  } kCases[] = {{Balanced, 0, "5332 2533 2353 4432 3433"},
+                {Balanced, 1, "2353 4432 3433"},
+                {Weak2, 0, "6322 1651"},
+                {Weak2, 1, "6322 3262 1651"},
+                {FourFourFourOne, 0, "4441 1444"},
+                {Preempt, 0, "7222 2722 1237 8311"}};
   for (const auto& c : kCases) {
-    std::istringstream words(c.shapes);
-    for (std::string word; words >> word;) {
+    const auto isOfType = [&c](const char* shape) {
       PerSuit<int> lengths;
-      std::transform(word.end() - 4, word.end(), lengths.begin(),
-                     [](char digit) { return digit - '0'; });
-      EXPECT_EQ(IsOfType(c.type, c.option, lengths), word[0] != '!') << word;
-    }
+      std::transform(shape, shape + 4, lengths.begin(), [](char digit) { return digit - '0'; });
+      return IsOfType(c.type, c.option, lengths);
+    };
+    EXPECT_EQ(test::WordsWhere(kShapes, isOfType), c.shapes) << HandTypes[c.type] << c.option;
   }
 }
 

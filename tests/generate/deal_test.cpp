@@ -9,18 +9,21 @@
 
 #include "core/statistics.h"
 #include "generate/hand_type.h"
+#include "tests/support/asked.h"
 #include "tests/support/chi_square.h"
 #include "tests/support/thorough.h"
 
 namespace tricklet {
 namespace {
 
+using test::Asking;
+using test::Max;
+using test::Min;
+using test::OfType;
+using test::Points;
 using test::Repetitions;
 using Odds = std::map<std::string, double>;
 using Counts = std::map<std::string, long>;
-
-constexpr GenHand kOne = GenHand::First;
-constexpr GenHand kTwo = GenHand::Second;
 
 /// Percent of all hands with the commonest patterns, as the Encyclopedia of Bridge prints them.
 const Odds kPatternOdds{{"4432", 21.5512}, {"5332", 15.5168}, {"5431", 12.9307}, {"5422", 10.5797},
@@ -41,9 +44,7 @@ double Deviation(Counts counts, const Odds& odds) {
 
 /// All four seats hold 13 cards and none is missing, so that none is held twice either.
 bool IsWholeDeal(const Statistics& statistics) {
-  return statistics.allHandsComplete &&
-         std::all_of(statistics.missingCards.begin(), statistics.missingCards.end(),
-                     [](Holding missing) { return missing.Empty(); });
+  return statistics.allHandsComplete && statistics.missingCards == PerSuit<Holding>();
 }
 
 TEST(GenerateDeal, AHandWithoutLimitsComesByTheKnownOdds) {
@@ -80,23 +81,20 @@ TEST(Random, GivesEveryFreeCardToEveryFreePlaceAlike) {
   start[Seat::North][Suit::Spades] = Holding::FromBits(Holding::kAllBits);
   start[Seat::East][Suit::Hearts] = Holding::FromBits(0x1F);
   start[Seat::South][Suit::Clubs] = Holding::FromBits(0xFFF);
-  std::array<PerSeat<long>, kCardsInPack> counts{};
+  std::map<int, PerSeat<long>> counts;  // by the free card: the seats that got it
   RandomSource random(4);
   for (int i = 0; i < Repetitions(40000); ++i) {
     HandTable hands = start;
     ASSERT_TRUE(Random(hands, random));
-    for (int card = 0; card < kCardsInPack; ++card) {
-      const int before = SeatHolding(start, Card::FromIndex(card));
-      const int seat = SeatHolding(hands, Card::FromIndex(card));
-      ASSERT_TRUE(seat >= 0 && (before < 0 || seat == before)) << card;
-      if (before < 0) ++counts.at(static_cast<std::size_t>(card))[static_cast<Seat>(seat)];
+    for (int index = 0; index < kCardsInPack; ++index) {
+      const int before = SeatHolding(start, Card::FromIndex(index));
+      const int seat = SeatHolding(hands, Card::FromIndex(index));
+      ASSERT_TRUE(seat >= 0 && (before < 0 || seat == before)) << index;
+      if (before < 0) ++counts[index][static_cast<Seat>(seat)];
     }
   }
-  for (const auto& card : counts) {
-    const auto [north, east, south, west] = card.values;
-    EXPECT_EQ(north, 0);
-    if (east + south + west == 0) continue;
-    EXPECT_LT(test::ChiSquareDeviation({east, south, west}, {8, 1, 13}), 4);
+  for (const auto& [card, seats] : counts) {
+    EXPECT_LT(test::ChiSquareDeviation({seats.begin(), seats.end()}, {0, 8, 1, 13}), 4) << card;
   }
 }
 
@@ -118,9 +116,8 @@ TEST(Random, LeavesAFullDealAndRefusesAnImpossibleOne) {
 }
 
 TEST(GenerateDeal, LengthsAboveAMinimumAreThoseOfChance) {
-  Constraints constraints;
+  Constraints constraints = Asking(Min(5, 0, 0, 0), {});
   constraints.numGenHands = 1;
-  constraints.suitLimits[kOne][Suit::Spades].minimum = 5;
   RandomSource random(13);
   Counts counts;
   for (int i = 0; i < Repetitions(50000); ++i) {
@@ -133,53 +130,28 @@ TEST(GenerateDeal, LengthsAboveAMinimumAreThoseOfChance) {
   EXPECT_LT(Deviation(counts, odds), 4);
 }
 
-constexpr Limits kAny{0, 13};
-constexpr std::array kAnyLengths{kAny, kAny, kAny, kAny};
-
-/// South and East, with these points and lengths.
-Constraints Asking(Limits points1, Limits points2, std::array<Limits, 4> suits1 = kAnyLengths,
-                   std::array<Limits, 4> suits2 = kAnyLengths) {
-  Constraints constraints;
-  constraints.pointLimits.values = {{points1, points2}};
-  constraints.handDirection.values = {{2, 1}};
-  constraints.suitLimits.values = {{{suits1}, {suits2}}};
-  return constraints;
-}
-
-Constraints OfType(HandType type) {
-  Constraints constraints = Asking({0, 37}, {0, 37});
-  constraints.useSuitLengths.fill(false);
-  constraints.handTypeIndex.fill(type);
-  return constraints;
-}
-
 TEST(GenerateDeal, MeetsTheConstraintsAndDealsTheRest) {
-  // the second hand goes by its type, so that its lengths leave the first hand alone
-  Constraints sixSpades = Asking({0, 37}, {0, 37}, {{{6, 13}, kAny, kAny, kAny}}, {{{8, 13}}});
-  sixSpades.useSuitLengths[kTwo] = false;
+  using enum HandType;
   const struct {
     const char* name;
     Constraints constraints;
     double least;  // share of the deals that meet them
   } kRequests[] = {
-      {"points", Asking({15, 17}, {0, 5}), 0.999},
-      {"exactly", Asking({20, 20}, {20, 20}), 0.5},
-      {"lengths", Asking({11, 15}, {8, 10}, {{{5, 13}, kAny, kAny, {0, 2}}}), 0.99},
-      {"4-4-4-1", Asking({0, 37}, {0, 37}, kAnyLengths, {{{4, 13}, {4, 13}, {4, 13}, {1, 13}}}),
-       0.999},
-      {"all maxima", Asking({0, 37}, {0, 37}, {{{0, 3}, {0, 3}, {0, 3}, {0, 4}}}), 0.999},
+      {"points", Asking(Points(15, 17), Points(0, 5)), 0.999},
+      {"exactly", Asking(Points(20, 20), Points(20, 20)), 0.5},
+      {"lengths", Asking({{{{5, 13}, {0, 13}, {0, 13}, {0, 2}}}, {11, 15}}, Points(8, 10)), 0.99},
+      {"4-4-4-1", Asking({}, Min(4, 4, 4, 1)), 0.999},
+      {"all maxima", Asking(Max(3, 3, 3, 4), {}), 0.999},
       // the second hand needs every spade that the first leaves, honours too, whatever it aims at
-      {"room for the second",
-       Asking({0, 37}, {0, 37}, {{{4, 13}, kAny, kAny, kAny}}, {{{9, 13}, kAny, kAny, kAny}}), 0.7},
+      {"room for the second", Asking(Min(4, 0, 0, 0), Min(9, 0, 0, 0)), 0.7},
       // consistent, and met by no deal or hardly any: the deals must be whole all the same
-      {"40 points", Asking({37, 37}, {3, 3}), 0},
-      {"no room",
-       Asking({0, 0}, {0, 0}, {{kAny, {0, 4}, {0, 4}, {0, 4}}}, {{{13, 13}, {}, {}, {}}}), 0},
-      {"pointless", Asking({0, 0}, {0, 0}, {{{10, 13}, kAny, kAny, kAny}}), 0},
-      {"upside down", Asking({30, 20}, {0, 37}, {{{5, 3}, {5, 3}, kAny, kAny}}), 0},
-      {"six spades beside lengths that do not count", sixSpades, 0.99},
-      {"two pre-empts", OfType(HandType::Preempt), 0.99},
-      {"two three-suiters", OfType(HandType::FourFourFourOne), 0.99},
+      {"40 points", Asking(Points(37, 37), Points(3, 3)), 0},
+      {"no room", Asking(Max(13, 4, 4, 4, {0, 0}), Min(13, 0, 0, 0, {0, 0})), 0},
+      {"pointless", Asking(Min(10, 0, 0, 0, {0, 0}), Points(0, 0)), 0},
+      {"upside down", Asking({{{{5, 3}, {5, 3}, {0, 13}, {0, 13}}}, {30, 20}}, {}), 0},
+      // the second hand goes by its type, so that its lengths leave the first hand alone
+      {"six spades", Asking(Min(6, 0, 0, 0), OfType(Balanced, Min(8, 0, 0, 0))), 0.99},
+      {"two pre-empts", Asking(OfType(Preempt), OfType(Preempt)), 0.99},
   };
   RandomSource random(7);
   const int deals = Repetitions(10000);
@@ -201,14 +173,12 @@ TEST(GenerateDeal, MeetsTheConstraintsAndDealsTheRest) {
 Odds InAllOrders(const Odds& patterns) {
   Odds odds;
   for (const auto& [pattern, percent] : patterns) {
+    Odds orders;
     std::string order = pattern;
     std::sort(order.begin(), order.end());
-    std::vector<std::string> orders;
-    do orders.push_back(order);
+    do orders[order] = percent;
     while (std::next_permutation(order.begin(), order.end()));
-    for (const std::string& each : orders) {
-      odds[each] = percent / static_cast<double>(orders.size());
-    }
+    for (const auto& each : orders) odds[each.first] = percent / static_cast<double>(orders.size());
   }
   return odds;
 }
@@ -216,27 +186,26 @@ Odds InAllOrders(const Odds& patterns) {
 TEST(HandTypes, ComeInEverySuitByTheirOdds) {
   // Lengths of the suits in their order; "-" where any will do.
   const Odds balanced = InAllOrders({{"4432", 21.552}, {"5332", 15.517}, {"4333", 10.536}});
-  Odds minors = InAllOrders({{"4432", 21.552}, {"4333", 10.536}});
-  for (const char* order : {"3352", "3253", "2353", "3325", "3235", "2335"}) {
-    minors[order] = 15.517 / 12;  // half of them, in half of the orders
-  }
+  Odds noFiveCardMajor = balanced;
+  std::erase_if(noFiveCardMajor, [](const auto& each) { return each.first.find('5') < 2; });
   const Odds preempts =
       InAllOrders({{"7---", 3.5266}, {"8---", 0.4668}, {"9---", 0.0370}, {":---", 0.00165}});
   Odds notInDiamonds = preempts;
   std::erase_if(notInDiamonds, [](const auto& each) { return each.first[2] != '-'; });
+  using enum HandType;
   const struct {
     HandType type;
     int option;
     PerSuit<int> first;  // lengths of the other hand
     Odds odds;
   } kCases[] = {
-      {HandType::Balanced, 0, {}, balanced},
-      {HandType::Balanced, 1, {}, minors},
-      {HandType::Weak2, 0, {}, {{"6---", 1}, {"-6--", 1}}},
-      {HandType::Weak2, 1, {}, {{"6---", 1}, {"-6--", 1}, {"--6-", 1}}},
-      {HandType::FourFourFourOne, 0, {}, InAllOrders({{"4441", 1}})},
-      {HandType::Preempt, 0, {{6, 0, 0, 0}}, preempts},
-      {HandType::Preempt, 0, {{0, 0, 7, 0}}, notInDiamonds},
+      {Balanced, 0, {}, balanced},
+      {Balanced, 1, {}, noFiveCardMajor},
+      {Weak2, 0, {}, {{"6---", 1}, {"-6--", 1}}},
+      {Weak2, 1, {}, {{"6---", 1}, {"-6--", 1}, {"--6-", 1}}},
+      {FourFourFourOne, 0, {}, InAllOrders({{"4441", 1}})},
+      {Preempt, 0, {{6, 0, 0, 0}}, preempts},
+      {Preempt, 0, {{0, 0, 7, 0}}, notInDiamonds},
   };
   RandomSource random(9);
   for (const auto& c : kCases) {

@@ -1,5 +1,7 @@
 #include "generate/editing.h"
 
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include "core/statistics.h"
@@ -32,6 +34,20 @@ class Editing : public testing::Test {
     EXPECT_EQ(board.handChanged, edited);
     EXPECT_EQ(board.makeableValid, !edited);
     Settle();
+  }
+  /// What the settled board shows after `act`: "refused: empty, 0 calls, changed, table".
+  std::string After(const std::string& act) {
+    Settle();
+    bool done = true;
+    if (act == "clear") Clear(board, history);
+    if (act == "fill") done = Fill(board, history, random);
+    if (act == "undo clear") done = UndoClear(board, history);
+    if (act == "undo fill") done = UndoFill(board, history);
+    std::string hands = HasCards(board.hands) ? "other" : "empty";
+    if (GetStats(board.hands).allHandsComplete) hands = "full";
+    if (board.hands == before) hands = "start";
+    return (done ? "" : "refused: ") + hands + ", " + std::to_string(board.NumCalls()) + " calls" +
+           (board.handChanged ? ", changed" : "") + (board.makeableValid ? ", table" : "");
   }
 
   RandomSource random{1};
@@ -92,14 +108,12 @@ TEST_F(Editing, RotatesWithTheAuctionWhereItCan) {
   test::SetAuction(board, "1S");
   while (!board.calls.Full()) board.calls.Add(Call::Pass());
   EXPECT_FALSE(Rotate(board, Clockwise, true)) << "no room";
-  EXPECT_TRUE(board.calls.Full());
 }
 
 TEST_F(Editing, MovesACardBetweenHandsAndPack) {
   const Card ace{Suit::Hearts, Rank::Ace};
   board.hands = HandsOf("N:- AKQJT98765432... - -");
-  for (const std::optional<Seat> to :
-       {std::optional(Seat::West), std::optional(Seat::North), std::optional<Seat>()}) {
+  for (const auto to : std::vector<std::optional<Seat>>{Seat::West, Seat::North, std::nullopt}) {
     for (const bool moves : {true, false}) {
       EXPECT_TRUE(MoveCard(board, ace, to));
       EXPECT_EQ(SeatHolding(board.hands, ace), to ? IndexOf(*to) : -1);
@@ -124,13 +138,9 @@ TEST_F(Editing, ReadsAHandOrRefusesItWithTheReason) {
     }
   }
   const std::pair<const char*, const char*> kRefused[] = {
-      {"AK.QJ.T", "four suits"},
-      {"AK.QJ.T.9.8", "four suits"},
-      {"AK1.-.-.-", "1 does not begin with a rank"},
-      {"A\xFF.-.-.-", "ÿ does not begin"},
-      {"-.10T.-.-", "♥10 is named twice"},
-      {"AKQJT98765432.A.-.-", "not 14"},
-      {"3.-.-.KT98", "♣9 is held by South"}};
+      {"AK.QJ.T", "four suits"},           {"AK1.-.-.-", "1 does not begin with a rank"},
+      {"A\xFF.-.-.-", "ÿ does not begin"}, {"-.10T.-.-", "♥10 is named twice"},
+      {"AKQJT98765432.A.-.-", "not 14"},   {"3.-.-.KT98", "♣9 is held by South"}};
   for (const auto& [text, told] : kRefused) {
     const std::string reason = SetHand(board, Seat::North, text).value_or("");
     EXPECT_NE(reason.find(told), std::string::npos) << text << ": " << reason;
@@ -162,44 +172,33 @@ TEST_F(Editing, FillsTheFourthHand) {
 
 TEST_F(Editing, UndoesClearAndFill) {
   test::SetAuction(board, "1C P P P");
-  const CallList calls = board.calls;
-  EXPECT_FALSE(UndoFill(board, history) || UndoClear(board, history));
-  ASSERT_TRUE(Fill(board, history, random));
-  ExpectEdited();
-  const HandTable filled = board.hands;
-  EXPECT_TRUE(GetStats(filled).allHandsComplete);
-  EXPECT_TRUE(Fill(board, history, random)) << "a full deal";
-  EXPECT_EQ(board.hands, filled);
-  EXPECT_TRUE(board.makeableValid && board.handChanged);
-  board.handChanged = false;
-  ASSERT_TRUE(UndoFill(board, history));
-  EXPECT_EQ(board.hands, before);
-  EXPECT_TRUE(board.makeableValid && board.handChanged);
-  EXPECT_FALSE(UndoFill(board, history)) << "once only";
-
-  Clear(board, history);
-  ExpectEdited();
-  EXPECT_FALSE(HasCards(board.hands) || board.NumCalls() > 0);
-  Board other = board;
-  other.boardNumber = 2;
-  EXPECT_FALSE(UndoClear(other, history)) << "another board";
-  Clear(board, history);  // of nothing
-  ASSERT_TRUE(Fill(board, history, random));
-  board.playMode = true;
-  board.handChanged = false;
-  ASSERT_TRUE(UndoClear(board, history));
-  EXPECT_EQ(board.hands, before);
-  EXPECT_EQ(board.calls, calls);
-  EXPECT_EQ(board.contract, "1C");
-  EXPECT_TRUE(board.makeableValid && board.handChanged && !board.playMode);
-  EXPECT_FALSE(UndoFill(board, history)) << "that fill is gone";
-
+  const std::pair<const char*, const char*> kSteps[] = {
+      {"undo clear", "refused: start, 4 calls, table"},
+      {"undo fill", "refused: start, 4 calls, table"},
+      {"fill", "full, 4 calls, changed"},
+      {"fill", "full, 4 calls, changed, table"},  // it was full
+      {"undo fill", "start, 4 calls, changed, table"},
+      {"undo fill", "refused: start, 4 calls, table"},
+      {"clear", "empty, 0 calls, changed"},
+      {"clear", "empty, 0 calls, changed"},  // it was empty
+      {"fill", "full, 0 calls, changed"},
+      {"undo clear", "start, 4 calls, changed, table"},
+      {"undo fill", "refused: start, 4 calls, table"},  // that fill is gone
+  };
+  for (const auto& [act, shown] : kSteps) {
+    EXPECT_EQ(After(act), shown) << act;
+  }
   board.hands = {};
-  Clear(board, history);  // of calls alone
-  ASSERT_TRUE(UndoClear(board, history));
-  EXPECT_EQ(board.calls, calls);
+  EXPECT_EQ(After("clear"), "empty, 0 calls, changed");  // of calls alone
+  board.boardNumber = 2;
+  EXPECT_EQ(After("undo clear"), "refused: empty, 0 calls, table") << "another board";
+  board.boardNumber = 1;
+  board.playMode = true;
+  EXPECT_EQ(After("undo clear"), "empty, 4 calls, changed, table");
+  EXPECT_FALSE(board.playMode);
+  EXPECT_EQ(ContractLabel(board), "1C by North");
   board.hands = HandsOf("N:AKQJT98765432.A.. - - -");
-  EXPECT_FALSE(Fill(board, history, random)) << "North has fourteen cards";
+  EXPECT_EQ(After("fill"), "refused: other, 4 calls, table") << "North has fourteen cards";
 }
 
 }  // namespace

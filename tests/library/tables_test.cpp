@@ -29,11 +29,6 @@ class TablesTest : public test::LibraryTest {
     east.values = {spade, east[Suit::Hearts] - heart, {}, {}};
     WriteFile(session.BoardPath(number), WriteBoardText(board));
   }
-  Board Stored(int number) {
-    Board board;
-    EXPECT_TRUE(ReadBoardText(ReadFile(session.BoardPath(number)), board, TableReading::Always));
-    return board;
-  }
   void ExpectOwnTable(int number) {
     const Board board = Stored(number);
     EXPECT_TRUE(board.makeableValid) << number;

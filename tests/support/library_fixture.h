@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "core/text.h"
+#include "library/board_file.h"
 #include "library/library_scan.h"
 #include "library/session.h"
 #include "tests/support/scripted_host.h"
@@ -76,6 +77,13 @@ class LibraryTest : public testing::Test {
   }
 
   void PutBoard(int number) { WriteFile(session.BoardPath(number), OneSuitEachText()); }
+
+  /// The board in the library's file of this number.
+  Board Stored(int number) const {
+    Board board;
+    EXPECT_TRUE(ReadBoardText(ReadFile(session.BoardPath(number)), board, TableReading::Always));
+    return board;
+  }
 
   /// The current board, "*" where it has unsaved changes: "Club 3* of 24, 2 stored".
   std::string Shown() const {
