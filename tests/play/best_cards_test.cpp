@@ -5,23 +5,15 @@
 #include <gtest/gtest.h>
 
 #include "analysis/solver_library.h"
-#include "generate/deal.h"
+#include "tests/support/plays.h"
 #include "tests/support/scripted_host.h"
 #include "tests/support/thorough.h"
 
 namespace tricklet {
 namespace {
 
-std::vector<Card> Legal(const CardPlay& play) {
-  std::vector<Card> cards;
-  for (int index = 0; index < kCardsInPack; ++index) {
-    if (play.IsLegal(Card::FromIndex(index))) cards.push_back(Card::FromIndex(index));
-  }
-  return cards;
-}
-
 void PlayAny(CardPlay& play, RandomSource& random) {
-  const std::vector<Card> cards = Legal(play);
+  const std::vector<Card> cards = test::LegalCards(play);
   ASSERT_TRUE(play.Play(cards[random.Below(static_cast<std::uint32_t>(cards.size()))]));
 }
 
@@ -30,7 +22,7 @@ int TricksByTrying(CardPlay& play) {
   if (play.Finished()) return play.Now().tricksWon[Side::NorthSouth];
   const bool ours = SideOf(*play.Now().onPlay) == Side::NorthSouth;
   int best = ours ? 0 : kTricks;
-  for (const Card card : Legal(play)) {
+  for (const Card card : test::LegalCards(play)) {
     play.Play(card);
     const int tricks = TricksByTrying(play);
     best = ours ? std::max(best, tricks) : std::min(best, tricks);
@@ -45,11 +37,7 @@ TEST(BestCards, AgreeWithTryingEveryCardInTheLastTricks) {
   RandomSource random(20);
   constexpr int kLastCards = 12;  // three tricks
   for (int deal = 0; deal < test::Repetitions(50); ++deal) {
-    Board board;
-    ASSERT_TRUE(Random(board.hands, random));
-    board.contractLevel = 1;
-    board.trumps = static_cast<Strain>(deal % 5);
-    board.declarer = static_cast<Seat>(deal % 4);
+    Board board = test::RandomBoard(deal, random);
     test::ScriptedHost host;
     NoTimer timer;
     CardPlay play(board, host, timer);
@@ -60,7 +48,7 @@ TEST(BestCards, AgreeWithTryingEveryCardInTheLastTricks) {
       const auto position = PositionOf(play.Now(), board.trumps);
       ASSERT_TRUE(position);
       const auto scores = BestCards(*solver, *position, play.Now().tricksWon[side]);
-      ASSERT_EQ(scores.size(), Legal(play).size());
+      ASSERT_EQ(scores.size(), test::LegalCards(play).size());
       for (const CardScore& score : scores) {
         ASSERT_TRUE(play.Play(score.card));
         const int ours = TricksByTrying(play);
