@@ -43,8 +43,8 @@ class ParGame {
     return best;
   }
 
-  /// Bids at which the auction ends, when `side` is to bid from `from` on and both sides go for
-  /// `par`.
+  /// Marks in `ends` the bids at which the auction may end when `side` is to bid, from `from` on,
+  /// and both sides play for `par`. `seen` keeps a bid from being followed twice.
   void CollectEnds(Side side, std::size_t from, int par, PerSide<std::array<bool, kBids>>& ends,
                    PerSide<std::array<bool, kBids>>& seen) const {
     for (std::size_t bid = from; bid < kBids; ++bid) {
@@ -57,8 +57,9 @@ class ParGame {
     }
   }
 
-  /// The other side has a higher contract that, left alone, is better for it than par. Nobody would
-  /// stop in such a bid, even where bidding on comes to the same: a save is made over the game.
+  /// The other side has a higher contract that would score better than par for it if it were passed
+  /// out. Then nobody stops at `bid`, even where the auction still comes to par in the end: one
+  /// saves over the opponents' game, not below it.
   bool CanBeOutbid(Side side, std::size_t bid, int par) const {
     for (std::size_t higher = bid + 1; higher < kBids; ++higher) {
       const int score = passed_[Other(side)].at(higher).score;

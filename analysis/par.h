@@ -8,7 +8,7 @@
 
 namespace tricklet {
 
-/// A contract that par can be.
+/// A contract that results in par.
 struct ParContract {
   int level = 0;  ///< 1..7
   BidStrain strain = BidStrain::Clubs;

@@ -6,7 +6,7 @@
 
 namespace tricklet {
 
-/// Stays loaded until the program ends, also when this object is gone: a solver keeps threads and
+/// Stays loaded until the program ends, even when this object is gone: a solver keeps threads and
 /// memory that unloading would pull from under it.
 class SharedLibrary {
  public:

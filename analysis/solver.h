@@ -21,14 +21,14 @@ struct SolverPosition {
   Strain trumps = Strain::NoTrump;
   Seat leader = Seat::North;  ///< of the current trick
   std::vector<Card> trick;    ///< its cards in order, 0..3
-  HandTable cardsLeft;        ///< the hands without them
+  HandTable cardsLeft;        ///< cards still in the hands
   friend bool operator==(const SolverPosition&, const SolverPosition&) = default;
 };
 
 /// Double-dummy tricks of the side on play for one card of the hand on play.
 struct CardScore {
   Card card;
-  int tricks = 0;  ///< with the current trick, 0..13
+  int tricks = 0;  ///< the current trick included, 0..13
 };
 
 class Solver {

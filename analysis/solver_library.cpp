@@ -123,7 +123,7 @@ class LibrarySolver : public Solver {
                         : text;
   }
 
-  std::mutex mutex_;  // the library is not made for two callers at a time
+  std::mutex mutex_;  // the library serves one caller at a time
   CalcTableVB* calcTableVB_;
   CalcTable* calcTable_;
   CalcAllTables* calcAllTables_;
@@ -160,7 +160,7 @@ std::vector<CardScore> LibrarySolver::SolveCards(const SolverPosition& position)
   record.cardsLeft = ToBuffer(SolverDealText(position.cardsLeft));
   constexpr std::int32_t kBestScore = -1;
   constexpr std::int32_t kAllCards = 3;
-  constexpr std::int32_t kMode = 1;  // look at a single card too
+  constexpr std::int32_t kMode = 1;  // search even when only one card is legal
   dds::CardTricks answer{};
   const std::lock_guard lock(mutex_);
   std::vector<CardScore> scores;
@@ -189,7 +189,7 @@ class MissingSolver : public Solver {
 
 /// When the process ends, version 2.9 of the library clears up memory that its own static objects
 /// have given back already, and may crash there. Handlers run last in, first out, so this one ends
-/// the process before that; by then main() has returned and all that is written is written.
+/// the process before that, after flushing what main() has left to be written.
 void EndBeforeLibraryCleansUp() {
 #ifdef __GLIBC__
   static const bool registered = [] {

@@ -14,8 +14,8 @@ namespace tricklet {
 /// libdds.so.0 and then libdds.so elsewhere. Never fails: what was tried is in `Missing()`.
 std::unique_ptr<Solver> LoadSolver(const std::filesystem::path& programFolder);
 
-/// A function that does `LoadSolver` at its first call, from any thread, and gives the same solver
-/// ever after: the library takes memory and threads, which most commands do without.
+/// A function that calls `LoadSolver` when it is first called, from any thread, and gives the same
+/// solver from then on: the library takes memory and threads, which most commands do not need.
 std::function<Solver&()> SolverOnDemand(const std::filesystem::path& programFolder);
 
 }  // namespace tricklet
