@@ -22,9 +22,8 @@ int MostPoints(const PerSuit<Limits>& suits) {
   return points;
 }
 
-/// Most points of a hand of each type: the honours of its suits, the long one's four before those
-/// of the shorter ones. A pre-empt has six cards beside seven, which is best 2-2-2; a weak two
-/// seven beside six, 3-2-2.
+/// Most points of a hand of each type: with 4-3-3-3; 6-3-2-2 for a weak two; 4-4-4-1; 7-2-2-2 for a
+/// pre-empt.
 constexpr EnumArray<HandType, int, kHandTypes> kMostPointsOfType{{37, 33, 34, 31}};
 
 int MostPoints(const Constraints& constraints, GenHand hand) {

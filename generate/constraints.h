@@ -17,7 +17,7 @@ inline constexpr std::array kGenHands{GenHand::First, GenHand::Second};
 template <class Value>
 using PerGenHand = EnumArray<GenHand, Value, 2>;
 
-/// Both ends belong to the range.
+/// A range, both ends included.
 struct Limits {
   int minimum = 0;
   int maximum = 0;
@@ -60,7 +60,7 @@ struct Constraints {
   PerGenHand<Limits> pointLimits;          ///< high-card points, 0..37
   /// A seat's index, or with `relativeToDealer` the steps from the dealer: 0..3.
   PerGenHand<int> handDirection{{0, 1}};
-  PerGenHand<bool> useSuitLengths{{true, true}};  ///< else the hand type makes the lengths
+  PerGenHand<bool> useSuitLengths{{true, true}};  ///< else the hand type gives the lengths
   PerGenHand<HandType> handTypeIndex;
   EnumArray<HandType, PerGenHand<int>, kHandTypes> handTypeOption;
   int numGenHands = 2;  ///< 1 or 2
@@ -68,7 +68,7 @@ struct Constraints {
   std::array<int, 2> genBoards{1, 24};  ///< first and last board
 };
 
-/// The lengths that are asked of a hand: any where it goes by a hand type, whatever its limits are.
+/// The lengths that are asked of a hand: any where it has a hand type, whatever its limits say.
 PerSuit<Limits> AskedLengths(const Constraints& constraints, GenHand hand);
 
 enum class ConstraintPart : std::uint8_t { SuitMinima, SuitMaxima, Points, Direction };
@@ -76,10 +76,10 @@ enum class ConstraintPart : std::uint8_t { SuitMinima, SuitMaxima, Points, Direc
 /// Constraints that no deal can meet.
 struct Contradiction {
   std::string text;  ///< what the person is told
-  /// Where it shows first; of two hands that contradict each other, in the second.
+  /// The hand in which it shows; of two that contradict each other, the second.
   GenHand hand = GenHand::First;
   ConstraintPart part = ConstraintPart::SuitMinima;
-  Suit suit = Suit::Spades;  ///< of the minima and maxima the one that is furthest out
+  Suit suit = Suit::Spades;  ///< for minima and maxima: the suit most at fault
 };
 
 /// The first contradiction; nothing when the constraints agree. Constraints that agree may still be

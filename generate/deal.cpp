@@ -11,7 +11,7 @@
 namespace tricklet {
 namespace {
 
-/// A set of cards: the bits are `Card::Index`.
+/// A set of cards: bit n is the card of index n (`Card::Index`).
 using CardSet = std::uint64_t;
 
 constexpr CardSet kPack = (CardSet{1} << kCardsInPack) - 1;
@@ -115,7 +115,7 @@ PerSuit<int> ChooseLengths(const PerSuit<Limits>& limits, RandomSource& random) 
     const int spades = weights[Suit::Spades];
     const int majors = spades + weights[Suit::Hearts];
     const int notClubs = majors + weights[Suit::Diamonds];
-    // Without branches, which nobody could predict.
+    // Without branches, which the processor could not predict.
     const auto suit =
         static_cast<Suit>(static_cast<int>(drawn >= spades) + static_cast<int>(drawn >= majors) +
                           static_cast<int>(drawn >= notClubs));
@@ -220,7 +220,8 @@ class HandBuilder {
   PerSuit<int> firstLengths_;  // lengths chosen for the hand already built
 };
 
-/// Four hands; the last that is not full gets the cards that are left.
+/// Deals the cards that no hand holds to the hands with fewer than 13. False, and nothing dealt,
+/// when they do not fit: a hand holds more than 13, or there are more or fewer cards than places.
 bool DealRest(std::array<CardSet, kSeats>& hands, RandomSource& random) {
   CardSet left = kPack;
   for (const CardSet hand : hands) left &= ~hand;

@@ -17,13 +17,13 @@ inline constexpr std::string_view kRandomisationError = "error in randomisation"
 /// differ in number (a card is held twice, or a seat holds more than 13).
 bool Random(HandTable& hands, RandomSource& random);
 
-/// Attempts to build a hand before it stands as it is.
+/// How often a hand is built until it meets the constraints; the last attempt is kept as it is.
 inline constexpr int kMaxAttempts = 11;
 
 /// A complete deal to constraints that `CheckConstraints` accepts. Shapes are drawn first, with
 /// the weight of a suit being the number of its cards still outside the hand; then the points,
-/// by `HcpOdds` within their range; then honours worth as many points, and spot cards. Constraints
-/// that are hardly ever met may end in a hand outside of them: the attempts are limited.
+/// by `HcpOdds` within their range; then honours worth as many points, and spot cards. A hand
+/// may fail to meet constraints that are hardly ever met, as the attempts are limited.
 HandTable GenerateDeal(const Constraints& constraints, Seat dealer, RandomSource& random);
 
 }  // namespace tricklet

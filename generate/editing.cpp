@@ -14,7 +14,7 @@ bool IsOf(const std::optional<Board>& kept, const Board& board) {
   return kept && kept->boardNumber == board.boardNumber;
 }
 
-/// A board to go back to; nothing when none was kept, or one of another number.
+/// The board to go back to; nothing when none was kept, or one with another number.
 std::optional<Board> TakeKept(std::optional<Board>& kept, const Board& board) {
   if (!IsOf(kept, board)) return std::nullopt;
   return std::exchange(kept, std::nullopt);

@@ -17,7 +17,7 @@ namespace tricklet {
 void MarkEdited(Board& board);
 
 /// Gives the card to a seat, or back to the pack. False, and nothing changed, when the seat already
-/// holds 13 other cards. A card that lies there already leaves the board as it is.
+/// holds 13 other cards. When the card is there already, the board stays as it is.
 bool MoveCard(Board& board, Card card, std::optional<Seat> to);
 
 enum class TakeCards : std::uint8_t {
@@ -26,13 +26,13 @@ enum class TakeCards : std::uint8_t {
 };
 
 /// Gives the seat the hand that `text` writes (see `ReadHandText`) in place of its cards, which go
-/// back to the pack. Returns why not, for the person to read, and then nothing changed; nothing
-/// when it was done. The hand that the seat has already leaves the board as it is.
+/// back to the pack. Returns nothing when that was done; else the reason, for the person to read,
+/// and nothing has changed. When the seat has that hand already, the board stays as it is.
 [[nodiscard]] std::optional<std::string> SetHand(Board& board, Seat seat, std::string_view text,
                                                  TakeCards take = TakeCards::FromPack);
 
-/// The boards to which the undo of a clear and of a random fill go back. To be emptied when
-/// another board is loaded.
+/// The boards that undoing a clear and undoing a fill go back to. To be emptied when another board
+/// is loaded.
 struct EditHistory {
   std::optional<Board> clearFrames;  ///< before the last `Clear`
   std::optional<Board> cardFrame;    ///< before the last `Fill` or `FillFourthHand`

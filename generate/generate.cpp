@@ -82,7 +82,7 @@ void DealAndAnalyse(Session& session, const Constraints& constraints,
   outcome.tables = AnalyseBoards(session, session.getSolver(), first, last, false);
 }
 
-/// "3 boards do not meet the constraints: 4, 9, 17", of many boards the first.
+/// "3 boards do not meet the constraints: 4, 9, 17", when there are many, only the first ones.
 std::string OutsideText(const std::vector<int>& boards) {
   return std::to_string(boards.size()) + (boards.size() == 1 ? " board does" : " boards do") +
          " not meet the constraints: " + BoundedList(boards);

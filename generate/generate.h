@@ -32,15 +32,15 @@ struct GenerateOutcome {
   AnalysisOutcome tables = {};
 };
 
-/// What there is to tell of a run at its end: the boards that do not meet the constraints, and the
-/// tables when their computation was cancelled or failed. Empty when there is nothing.
+/// What the person is told at the end of a run: which boards do not meet the constraints, and what
+/// became of the tables when their computation was cancelled or failed. Empty when all went well.
 std::string GenerateText(const GenerateOutcome& outcome);
 
 /// Fills the boards `genBoards` of the current library with deals, and then loads the first of
-/// them. Asks before about unsaved changes, and once about overwriting; tells `GenerateText` after.
-/// Each deal is the session's board while the host has its step, and is stored after that. A board
-/// that cannot be stored ends the run; those before it stay. The constraints must be such that
-/// `CheckConstraints` accepts them.
+/// them. Asks first about unsaved changes, and once about overwriting; tells `GenerateText` at the
+/// end. Each deal is the session's board during the host's step, and is stored after it. A board
+/// that cannot be stored ends the run; those before it stay. `CheckConstraints` must accept the
+/// constraints.
 GenerateOutcome Generate(Session& session, const Constraints& constraints,
                          const GenerateOptions& options = {});
 

@@ -11,8 +11,8 @@ namespace tricklet {
 
 /// Reads a hand of at most 13 cards: spades, hearts, diamonds and clubs with "." between them, as
 /// in "AKT2.QJ5.-.98". The ten is "T" or "10"; a void is "-" or nothing; ranks come in any order
-/// and letter case. Returns why not, for the person to read, and then `hand` is as it was; nothing
-/// when it was read.
+/// and letter case. Returns nothing when it was read; else the reason, for the person to read, and
+/// `hand` is as it was.
 [[nodiscard]] std::optional<std::string> ReadHandText(std::string_view text,
                                                       PerSuit<Holding>& hand);
 

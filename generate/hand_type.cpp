@@ -67,7 +67,7 @@ PerSuit<Limits> Shape4441(RandomSource& random) {
 }
 
 PerSuit<Limits> ShapePreempt(const PerSuit<int>& firstLengths, RandomSource& random) {
-  // A hand of 13 cards is longer than six in one suit at the most, so that three are left.
+  // A hand of 13 cards has at most one suit longer than six, so that three are left.
   std::array<Suit, kSuits> allowed{};
   int count = 0;
   for (const Suit suit : kAllSuits) {

@@ -26,15 +26,15 @@ void RotateHands(HandTable& hands, Rotation rotation) {
   for (const Seat seat : kAllSeats) hands[SeatAfter(seat, StepsOf(rotation))] = before[seat];
 }
 
-/// Moves every call `steps` seats on. A player who opened `steps` seats after the dealer either has
-/// that many passes before him, or leaves out the passes that led round to the dealer.
+/// Moves every call `steps` seats on, clockwise: by as many passes before the auction or, where the
+/// opening passes would then go round the whole table, by taking the rest of the round away.
 bool MoveCalls(CallList& calls, int steps) {
   const auto* const opening =
       std::find_if(calls.begin(), calls.end(), [](Call call) { return !call.IsPass(); });
   const int passes = static_cast<int>(opening - calls.begin());
   if (calls.Empty() || (passes == kSeats && calls.Count() == kSeats)) return true;
   if (passes >= kSeats) return false;
-  // Nobody has opened: passes led round to the dealer would end the auction.
+  // Nobody has opened, and four passes would end the auction.
   if (opening == calls.end() && passes + steps >= kSeats) return false;
   const int added = passes + steps < kSeats ? steps : steps - kSeats;
   if (calls.Count() + added > CallList::kCapacity) return false;
