@@ -7,8 +7,8 @@ constexpr int kNoMoreBids = Call::kBids;
 constexpr int kPassesAfterABid = 3;
 constexpr int kPassesWithoutABid = 4;
 
-/// The grid's limit: it is tied to the position in the grid, so it comes a few calls early when the
-/// dealer is not North.
+/// The grid's limit: it is tied to the position in the grid, so it comes a call or two early when
+/// the dealer is East or South.
 constexpr int kCallIndexLimit = 100;
 
 /// 1: the dealer's side is to call; 2: the other side is.
@@ -33,7 +33,7 @@ void AuctionEntry::Replay(const CallList& stored) {
   for (int i = 0; i < stored.Count(); ++i) {
     const bool read = !stored[i].IsUnread();
     if (read && Make(stored[i])) continue;
-    if (read && AtLimit()) return;  // which has been told
+    if (read && AtLimit()) return;  // the message has been shown
     host_.Tell("The auction of this board breaks the rules at call " + std::to_string(i + 1) +
                " (" + stored.ShownAt(i) + " by " + std::string(SeatName[ToCall()]) +
                ").\nOnly the calls before it are shown.");

@@ -17,7 +17,7 @@ class AuctionEntry {
   struct State {
     int callIndex = 0;  ///< modulo 4: the seat to call, and the column of the last call (W N E S)
     int callsMade = 0;
-    int sideToDouble = 0;  ///< 0 before any bid; else the last bidder's opponents, 1 dealer's side
+    int sideToDouble = 0;  ///< opponents of the last bidder: 1 dealer's side, 2 the other; 0 none
     bool doubled = false;
     bool redoubled = false;
     int passes = 0;    ///< since the last bid, double or redouble
@@ -29,8 +29,8 @@ class AuctionEntry {
     friend bool operator==(const State&, const State&) = default;
   };
 
-  /// Opens on the board's stored calls, as far as they were read and are legal; where they stop
-  /// being so is told.
+  /// Begins with the board's stored calls, up to the first that was not read or is not legal; that
+  /// one is told.
   AuctionEntry(Board& board, Host& host);
 
   // The buttons.
@@ -59,9 +59,9 @@ class AuctionEntry {
   void Clear();
 
   /// Commits: the board has these calls and their contract, play in progress ends, and the board
-  /// counts as changed when its auction is another than before. False when not enabled.
+  /// counts as changed when its auction differs from before. False when not enabled.
   bool OK();
-  /// Asks "Any bidding changes will be lost"; true when the person agrees. The board is as it was.
+  /// Asks "Any bidding changes will be lost"; true when the person agrees. The board is unchanged.
   bool Cancel();
 
   const CallList& Calls() const { return calls_; }

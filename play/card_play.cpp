@@ -118,7 +118,7 @@ void CardPlay::Undo() {
   const bool claimed = state_.claimed;
   state_ = undoRecords_.at(static_cast<std::size_t>(--undoTop_));
   if (!claimed && state_.cardsInTrick == 0 && state_.tricksPlayed > 0) {
-    // Before a lead the trick before it lies on the table again, even if it had been gathered.
+    // Before a lead, the previous trick lies on the table again, even if it had been gathered.
     state_.trickCards = state_.lastTrick;
     state_.trickGathered = false;
   }

@@ -59,7 +59,7 @@ class CardPlay {
   CardPlay(Board& board, Host& host, TrickTimer& timer)
       : board_(board), host_(host), timer_(timer) {}
 
-  /// The board has no auction that could be played: the auction dialog comes first.
+  /// The board has no contract to play: the auction dialog comes first.
   static bool NeedsAuction(const Board& board);
 
   /// `cmdPlay` after the auction dialog: starts at the opening lead. False, with "The bidding was
@@ -75,8 +75,8 @@ class CardPlay {
   bool PlayMode() const { return board_.playMode; }
   const PlayState& Now() const { return state_; }
 
-  /// `card` may be played now: the seat on play holds it, and follows suit with it or cannot
-  /// follow.
+  /// `card` may be played now: the seat on play holds it, and it follows suit or the seat
+  /// is void.
   bool IsLegal(Card card) const;
   /// The legal cards of the seat on play, suit by suit; none when nobody is on play.
   PerSuit<Holding> LegalCards() const;

@@ -24,7 +24,7 @@ class Replay {
 
   bool ForwardEnabled() const { return Shown() < playable_; }
   bool BackEnabled() const { return Shown() > 0; }
-  /// One card on, or back; nothing happens at the record's end, or at its beginning.
+  /// One card forward, or back; nothing happens at the record's end, or at its beginning.
   void Forward();
   void Back();
   /// To the end of the trick, or of the next one.
@@ -36,8 +36,8 @@ class Replay {
 
   /// Cards seen so far: 0 before the opening lead, to 52.
   int Shown() const { return play_.UndoTop(); }
-  /// "Card 5 of 52", and what there is to say at the record's end: a claim, an illegal card, or why
-  /// there is nothing to be seen.
+  /// "Card 5 of 52", at the record's end with a remark when the play is not complete; or why there
+  /// is nothing to be seen.
   std::string PlaceText() const;
   /// The result line at the end of the record; empty before, and where the result is not known.
   std::string ScoreText() const;
