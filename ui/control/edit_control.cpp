@@ -36,7 +36,7 @@ bool EditControl::CanUndoFill() const {
   return editing_ && tricklet::CanUndoFill(session_.board, history_);
 }
 
-/// A play that is over is left by an edit.
+/// The board to edit. A finished play ends with the first edit.
 Board& EditControl::ForEditing() {
   if (session_.board.playMode) play_.Stop();
   return session_.board;

@@ -11,20 +11,20 @@ namespace tricklet::ui {
 
 class PlayControl;
 
-/// Whether the session's board is being edited, and what has been kept to undo. Each edit is the
-/// engine's; a refusal is told to the person, with a beep or a message, and changes nothing.
+/// Whether the session's board is being edited, and what can be undone. The engine makes each edit;
+/// when it refuses, the person is told by a beep or a message, and nothing changes.
 class EditControl {
  public:
   EditControl(Session& session, PlayControl& play);
 
   bool Editing() const { return editing_; }
 
-  /// `cmdEdit`: begins, and ends the play, which may be asked about. False when the person wants to
-  /// play on.
+  /// `cmdEdit`: begins editing and ends the play, in mid-play after a question. False when the
+  /// person wants to play on.
   bool Start();
   void Stop() { editing_ = false; }
-  /// Ends the editing of a board that has been loaded or played since, and forgets what could be
-  /// undone of one that has been loaded; to be called whenever that may have happened.
+  /// Ends editing when a board has been loaded, which also leaves nothing to undo, or when the play
+  /// has begun; to be called whenever either may have happened.
   void DropStaleEdits();
 
   bool CanUndoClear() const;
@@ -33,7 +33,7 @@ class EditControl {
   bool CanFillFourth() const;
   bool CanUndoFill() const;
 
-  /// Into the pack when there is no `to`; beeps when there is no place for the card.
+  /// Moves the card into the pack when there is no `to`; beeps when the seat has no room for it.
   void MoveCard(Card card, std::optional<Seat> to);
   /// Gives the hand of `seat` the cards of `text`, such as "AKT2.QJ5.-.98"; false, after a message,
   /// when that is refused.
@@ -45,7 +45,7 @@ class EditControl {
   void UndoFill();
   void SwapHands(Seat from, Seat to);
   void SwapSuits(Suit suit1, Suit suit2);
-  /// Tells the person, and changes nothing, when the auction is to be taken along but cannot be.
+  /// When the auction is to be taken along but cannot be, tells the person and changes nothing.
   void Rotate(Rotation rotation, bool takeAuction);
 
  private:

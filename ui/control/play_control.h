@@ -40,7 +40,7 @@ class PlayControl : public QObject {
   bool CanStart() const;
   /// Cards are still to be played: nothing else is done with the board meanwhile.
   bool Unfinished() const { return play_.PlayMode() && !play_.Finished(); }
-  /// Some of them have been played: they would be lost with the board.
+  /// Some cards have been played, but not all: leaving the board would lose them.
   bool UnderWay() const { return Unfinished() && play_.UndoTop() > 0; }
   /// A finished trick lies on the table, to be gathered.
   bool TrickComplete() const;
@@ -57,7 +57,7 @@ class PlayControl : public QObject {
   bool EndForEditing();
   /// Beeps, and changes nothing, when the card is not legal.
   void PlayCard(Card card);
-  /// Plays the only legal card; beeps when there is not just one.
+  /// Plays the only legal card; beeps when there are more, or none.
   void PlayOnlyCard();
   /// Takes back the claim or else the last card.
   void Undo();

@@ -26,7 +26,7 @@ class Results : public QObject {
   bool HasLinData() const { return hasLinData_; }
   /// The current board's results; without rows when there are none.
   const Traveller& OfBoard() const { return traveller_; }
-  /// Grows with each traveller that `OfBoard` gives: by it a pane knows one that it has shown.
+  /// Grows with each new traveller of `OfBoard`, so that a pane knows when to show it afresh.
   int Edition() const { return edition_; }
 
   /// The row whose record is being looked at; -1 when none is.
@@ -34,11 +34,11 @@ class Results : public QObject {
   /// The record being looked at; nullptr when none is.
   const Replay* Record() const { return replay_.get(); }
 
-  /// Reads the current board's traveller where it may be another than before: to be called whenever
-  /// the board, the library or its results may have changed.
+  /// Reads the current board's traveller again where it may have changed: to be called whenever the
+  /// board, the library or its results may be others.
   void ReadTraveller();
-  /// Puts the record away when it is not the current board's any more, when the board is being
-  /// played, and when its auction or its hands are being entered, as `entering` says.
+  /// Puts the record away when it no longer belongs to the current board, when the board is being
+  /// played, and when its auction or its hands are being entered (`entering`).
   void DropStaleRecord(bool entering);
 
   /// Looks at the record of a row; not while the board is being played.
@@ -50,7 +50,7 @@ class Results : public QObject {
   void Back();
   void NextTrick();
   void PreviousTrick();
-  /// A card that was clicked or typed: the recorded one is played, another one refused.
+  /// Plays a card that was clicked or typed when it is the next of the record; else refuses it.
   void PlayCard(Card card);
 
  signals:
