@@ -50,7 +50,7 @@ void BackgroundTables::Post(bool asked) {
   job->path = session_.BoardPath(job->boardNumber);
   job->hands = session_.board.hands;
   job->asked = asked;
-  // A deal that could not be solved stays in the list, so that it is not tried at every look.
+  // A deal that could not be solved stays in the list, so that it is not tried again and again.
   if (!underWay_.insert(job->Key()).second && !asked) return;
   worker_.Post(
       [job, solver = session_.getSolver] {
@@ -76,8 +76,8 @@ void BackgroundTables::TellFailure(const Job& job) {
   }
 }
 
-/// Not while a run goes on that may be at the same file. After it a missing table is asked for
-/// again by itself; what the person has asked for waits.
+/// Keeps off the board files during a run, which may be writing the same one. A missing table is
+/// then dropped, as it is asked for again after the run; one that the person asked for waits.
 void BackgroundTables::Deliver(const std::shared_ptr<const Job>& job) {
   if (!session_.batchRunning) {
     Take(*job);
@@ -91,7 +91,7 @@ void BackgroundTables::Deliver(const std::shared_ptr<const Job>& job) {
 
 void BackgroundTables::Take(const Job& job) {
   if (!job.failure.empty()) {
-    TellFailure(job);  // it stays among those that cannot be solved
+    TellFailure(job);  // its key stays among those that cannot be solved
     return;
   }
   underWay_.erase(job.Key());

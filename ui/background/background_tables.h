@@ -1,4 +1,4 @@
-// Double-dummy tables computed while the window goes on.
+// Double-dummy tables, computed in the background.
 #pragma once
 
 #include <filesystem>
@@ -13,27 +13,27 @@
 
 namespace tricklet::ui {
 
-/// Computes the table of the current board when it lacks one, and puts it into the file of that
-/// board, whichever is the current one by then. A table that the person asks for becomes a change
-/// of the board instead, to be saved with it.
+/// Computes the table of the current board when it lacks one, and puts it into that board's file,
+/// even when another board is the current one by then. A table that the person asks for becomes a
+/// change of the board instead, to be saved with it.
 class BackgroundTables : public QObject {
   Q_OBJECT
 
  public:
   explicit BackgroundTables(Session& session, QObject* parent = nullptr);
 
-  /// Begins to compute the current board's table where settings ask for one that it lacks; to be
-  /// called whenever the board may be another or have other hands.
+  /// Begins to compute the current board's table when it lacks one and the settings ask for it; to
+  /// be called whenever the board or its hands may have changed.
   void ComputeMissing();
 
-  /// `cmdDDS`: computes the current board's table, even if it has one, and says why when that
-  /// cannot be.
+  /// `cmdDDS`: computes the current board's table, even if it has one, or tells why that is not
+  /// possible.
   void ComputeAsked();
 
  signals:
   /// The current board has its table.
   void Changed();
-  /// What became of a table that nothing else tells of.
+  /// A table has failed or was not kept, and no message has said so.
   void Said(const QString& text);
 
  private:

@@ -1,4 +1,4 @@
-// What each card leads to, found while the window goes on.
+// What each card leads to, found in the background.
 #pragma once
 
 #include <atomic>
@@ -16,7 +16,7 @@ namespace tricklet::ui {
 class Worker;
 
 /// For the board that is played and for play records alike, where the setting `showBestCards` asks
-/// for it. An answer that comes when the play has gone on is thrown away.
+/// for it. An answer that comes after the play has gone on is thrown away.
 class BestCardsFinder : public QObject {
   Q_OBJECT
 
@@ -24,8 +24,8 @@ class BestCardsFinder : public QObject {
   explicit BestCardsFinder(Session& session, QObject* parent = nullptr);
   ~BestCardsFinder() override;
 
-  /// Begins to find them for the position that `play` has reached in the contract of `board`; to be
-  /// called whenever that may be another one. Forgets the tricks where nothing is played.
+  /// Begins to find the tricks for the position that `play` has reached in the contract of `board`;
+  /// to be called whenever that may have changed. Forgets them when nothing is being played.
   void Find(const CardPlay& play, const Board& board);
 
   /// As `BestCards` tells them; empty while they are not known.

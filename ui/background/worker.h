@@ -17,7 +17,7 @@ class Worker : public QObject {
   Q_OBJECT
 
  public:
-  /// The most jobs that wait: of more, the oldest are dropped.
+  /// The most jobs that wait: beyond that, the oldest are dropped.
   static constexpr std::size_t kMostWaiting = 256;
 
   explicit Worker(QObject* parent = nullptr);
