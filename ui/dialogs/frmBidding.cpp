@@ -21,7 +21,7 @@ constexpr int kGap = 4;          // between buttons
 constexpr int kTextMargin = 12;  // of a button, both sides together
 constexpr int kCallColumns = 4;  // of the buttons below the bids
 
-/// A key that stands for a character and gives no command; the blank presses buttons.
+/// A key that types a character and is no command; the space bar presses buttons.
 bool IsTyped(const QKeyEvent& event) {
   constexpr auto kCommands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
   const QString text = event.text();
@@ -99,7 +99,7 @@ QGridLayout* frmBidding::MakeCalls() {
   cmdUndo->setToolTip(tr("Take back the last call"));
   cmdClear->setToolTip(tr("Take back every call"));
   cmdOK->setDefault(true);
-  cmdCancel->setAutoDefault(true);  // Enter does not mean OK there
+  cmdCancel->setAutoDefault(true);  // Enter on it must not mean OK
   connect(cmdOK, &QPushButton::clicked, this, &frmBidding::OK);
   connect(cmdCancel, &QPushButton::clicked, this, &frmBidding::reject);
   return grid;

@@ -17,8 +17,8 @@ namespace tricklet::ui {
 
 class BidButton;
 
-/// Enters the auction of the current board, by buttons or by typing calls. Accepted: the board has
-/// the auction. Rejected, which is asked about first: the board has the one that it had.
+/// Enters the auction of the current board, by buttons or by typing calls. Once accepted, the board
+/// has the auction; once rejected, after a question, the one that it had before.
 class frmBidding : public QDialog {
   Q_OBJECT
 
@@ -30,7 +30,7 @@ class frmBidding : public QDialog {
   void reject() override;
 
  signals:
-  /// The entry has other calls than before.
+  /// The calls entered may have changed.
   void AuctionChanged();
 
  protected:

@@ -45,7 +45,7 @@ void frmDeleteLib::ShowChoice() {
   const bool chosen = cmbLibs->currentIndex() >= 0;
   QString name = chosen ? cmbLibs->currentText() : QString();
   cmdOK->setToolTip(chosen ? tr("Recycle %1").arg(name) : QString());
-  // The button keeps to the width of the list, and "&" in a name is no key.
+  // The button stays as narrow as the list, and "&" in a name marks no key.
   name = fontMetrics().elidedText(name, Qt::ElideRight, fontMetrics().averageCharWidth() * 24);
   name.replace(u'&', QStringLiteral("&&"));
   cmdOK->setText(chosen ? tr("Recycle %1").arg(name) : tr("Recycle"));

@@ -31,7 +31,7 @@ class frmGenerate : public QDialog {
   /// Begins with `choices`.
   frmGenerate(Session& session, const GenerateChoices& choices, QWidget* parent);
 
-  /// As they stand in the dialog.
+  /// The choices as they stand in the dialog.
   GenerateChoices Chosen() const;
 
  private:

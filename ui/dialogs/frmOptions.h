@@ -34,7 +34,7 @@ class frmOptions : public QDialog {
     QCheckBox* box;
     bool Settings::*setting;
   };
-  /// A choice of the settings; its entries are numbered as in the list.
+  /// A setting chosen from a list; `get` and `set` go by the number of its entry.
   struct Choice {
     QComboBox* combo;
     std::function<int(const Settings&)> get;
@@ -55,7 +55,7 @@ class frmOptions : public QDialog {
   void Preview();
 
   Board board_;
-  Settings before_;  ///< gives what is not edited here
+  Settings before_;  ///< for what is not edited here
   std::vector<Check> checks_;
   std::vector<Choice> choices_;
   QDoubleSpinBox* suitFontSize_ = nullptr;

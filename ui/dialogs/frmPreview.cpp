@@ -33,7 +33,7 @@ frmPreview::frmPreview(const Board& board, const Settings& settings, QWidget* pa
   QPushButton* cmdCancel =
       Add("cmdCancel", tr("Cancel"), tr("Deal no more boards (Esc)"), Answer::Cancel);
   for (QPushButton* button : {cmdYes, cmdNo, cmdCancel}) row->addWidget(button);
-  // As in a question, the letter alone will do.
+  // As in a message box, the letter will do without Alt.
   new QShortcut(Qt::Key_Y, this, cmdYes, &QPushButton::click);
   new QShortcut(Qt::Key_N, this, cmdNo, &QPushButton::click);
 

@@ -17,7 +17,7 @@ namespace tricklet::ui {
 class NumberRange;
 
 /// Shows and takes what is asked of one hand: direction, points, and suit lengths or a hand type.
-/// Control arrays are named with their index: by hand, or by suit and then hand.
+/// Names of controls end in their indices: that of the hand, or those of the suit and the hand.
 class GenerateHand : public QGroupBox {
   Q_OBJECT
 
@@ -50,7 +50,7 @@ class GenerateHand : public QGroupBox {
   void ShowTypeOptions();
   HandType Type() const;
 
-  /// A hand type has as many options to choose from.
+  /// How many options a hand type has, if it has any.
   static constexpr int kTypeOptions = 2;
 
   GenHand hand_;
@@ -63,7 +63,7 @@ class GenerateHand : public QGroupBox {
   QComboBox* cmbHandType;
   QFrame* fraOptions;
   QButtonGroup* optHandType;
-  EnumArray<HandType, int, kHandTypes> typeOptions_;  ///< chosen of each type
+  EnumArray<HandType, int, kHandTypes> typeOptions_;  ///< the option chosen for each type
 };
 
 }  // namespace tricklet::ui

@@ -13,8 +13,8 @@ struct Session;
 
 namespace tricklet::ui {
 
-/// Stays open until the engine takes the name for a new one, or Cancel. A name that was there at
-/// the beginning may stay. The dialog itself does nothing with the name.
+/// Stays open until the engine accepts the name as a new one, or Cancel. The name that was there at
+/// the beginning may be kept. The dialog itself does nothing with the name.
 class LibraryNameDialog : public QDialog {
   Q_OBJECT
 

@@ -28,7 +28,7 @@ bool NameFilter::eventFilter(QObject* watched, QEvent* event) {
   QString typed;
   if (event->type() == QEvent::KeyPress) {
     const QString text = static_cast<QKeyEvent*>(event)->text();
-    if (!text.isEmpty() && text.at(0).isPrint()) typed = text;  // a key of a command prints nothing
+    if (!text.isEmpty() && text.at(0).isPrint()) typed = text;  // command keys print nothing
   } else if (event->type() == QEvent::InputMethod) {
     typed = static_cast<QInputMethodEvent*>(event)->commitString();
   }

@@ -9,7 +9,7 @@
 namespace tricklet::ui {
 namespace {
 
-/// Refuses numbers that are too high; puts the number before in the place of a text that is none.
+/// Refuses numbers that are too high; puts the number before in place of an unfinished one.
 class NumberValidator : public QIntValidator {
  public:
   NumberValidator(int lowest, int highest, NumberCombo* combo)
@@ -37,7 +37,7 @@ NumberCombo::NumberCombo(const QString& name, const QString& title, int lowest, 
   setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(3);
   auto* list = new QListView(this);
-  list->setUniformItemSizes(true);  // 999 boards are quick to measure
+  list->setUniformItemSizes(true);  // so that 999 boards are measured quickly
   setView(list);
   QStringList numbers;
   for (int number = lowest; number <= highest; ++number) numbers += QString::number(number);

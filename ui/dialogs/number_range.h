@@ -7,8 +7,8 @@
 
 namespace tricklet::ui {
 
-/// A number to be chosen or typed. What is no number of the range cannot be typed, and when the
-/// text is left unfinished the number before comes back.
+/// A number to be chosen or typed. Numbers above the range cannot be typed, and text that is left
+/// unfinished goes back to the number before.
 class NumberCombo : public QComboBox {
   Q_OBJECT
 
@@ -29,7 +29,7 @@ class NumberCombo : public QComboBox {
   int value_;
 };
 
-/// The lower and the upper end. The end that was changed last counts: the other one follows it, so
+/// The lower and the upper end. The end that was changed last wins: the other one follows it, so
 /// that the lower is never above the upper.
 class NumberRange : public QObject {
   Q_OBJECT
