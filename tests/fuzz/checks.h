@@ -1,37 +1,45 @@
-// What must hold of every board that a reader hands over, whatever it has read.
+// What a fuzz target does with its bytes, and what must hold of all that a reader hands over,
+// whatever it has read.
 #pragma once
 
 #include <cstdlib>
+#include <string_view>
 
+#include "core/statistics.h"
+#include "core/text.h"
 #include "formats/pbn/pbn_writer.h"
+#include "formats/results/lin_boards.h"
 #include "formats/sink/board_sink.h"
 #include "formats/sink/record_text.h"
 #include "library/board_file.h"
 
 namespace tricklet::fuzz {
 
+/// Each target's own: reads the bytes, and ends the program when something does not hold.
+void Check(std::string_view bytes);
+
+inline void Require(bool holds) {
+  if (!holds) std::abort();
+}
+
 inline bool HasCardTwice(const HandTable& hands) {
-  for (const Suit suit : kAllSuits) {
-    Holding seen;
-    for (const Seat seat : kAllSeats) {
-      const Holding held = hands[seat][suit];
-      if ((seen | held).Count() < seen.Count() + held.Count()) return true;
-      seen = seen | held;
-    }
-  }
-  return false;
+  const Statistics statistics = GetStats(hands);
+  int cards = 0;
+  for (const int count : statistics.seatCardCount) cards += count;
+  for (const Holding missing : statistics.missingCards) cards += missing.Count();
+  return cards > kCardsInPack;
 }
 
 /// The board can be stored, and its file gives it back; but a card that is in two hands stays in
 /// one of them. It can be written as PBN.
 inline void CheckBoard(const Board& board) {
-  if (!IsStorable(board.boardNumber)) std::abort();
+  Require(IsStorable(board.boardNumber));
   Board read;
   read.boardNumber = board.boardNumber;
-  if (!ReadBoardText(WriteBoardText(board), read, TableReading::Always)) std::abort();
-  if (!(read.hands == board.hands) && !HasCardTwice(board.hands)) std::abort();
-  if (!(read.calls == board.calls) || read.contract != board.contract) std::abort();
-  if (PbnRecord(board, "Library", {}).empty()) std::abort();
+  Require(ReadBoardText(WriteBoardText(board), read, TableReading::Always));
+  Require(read.hands == board.hands || HasCardTwice(board.hands));
+  Require(read.calls == board.calls && read.contract == board.contract);
+  Require(!PbnRecord(board, "Library", {}).empty());
 }
 
 /// Takes boards and checks them.
@@ -39,9 +47,23 @@ class CheckingSink : public BoardSink {
  public:
   void Store(const Board& board) override { CheckBoard(board); }
   bool Begin(int /*boardNumber*/, int done) override {
-    if (done < 0 || done > kWholeText) std::abort();
+    Require(done >= 0 && done <= kWholeText);
     return true;
   }
 };
+
+/// The results come back from their "LIN.txt" line by line, and without change from the second one
+/// on. Each of their boards comes back from its own file.
+inline void CheckLinFile(const LinFile& results) {
+  const std::string text = LinFileText(results);
+  Require(IsValidUtf8(text));
+  const LinFile read = ParseLinFile(text);
+  Require(read.lin.size() == results.lin.size() && read.names.size() == results.names.size());
+  Require(read.teamEvent.has_value() == results.teamEvent.has_value());
+  Require(ParseLinFile(LinFileText(read)) == read);
+  CheckingSink sink;
+  ReadResult result;
+  ReadLinCards(read, kFirstBoardNumber, kLastBoardNumber, sink, result);
+}
 
 }  // namespace tricklet::fuzz

@@ -1,36 +1,31 @@
 // Any bytes as a DLM file: nothing but boards, a bad line or a fault may come of them, and every
 // board that is stored has the letters that it was read from.
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <string>
-#include <string_view>
-
 #include "core/fault.h"
 #include "formats/dlm/dlm_deal.h"
 #include "formats/dlm/dlm_reader.h"
 #include "tests/fuzz/checks.h"
 
+namespace tricklet::fuzz {
 namespace {
 
-class LettersSink : public tricklet::fuzz::CheckingSink {
+class LettersSink : public CheckingSink {
  public:
-  void Store(const tricklet::Board& board) override {
+  void Store(const Board& board) override {
     CheckingSink::Store(board);
-    const std::string deal = tricklet::EncodeDLMDeal(board.boardNumber, board.hands);
-    const std::string_view letters = std::string_view(deal).substr(0, tricklet::kDLMDealLetters);
-    if (!(tricklet::DecodeDLMDeal(letters) == board.hands)) std::abort();
+    const std::string deal = EncodeDLMDeal(board.boardNumber, board.hands);
+    Require(DecodeDLMDeal(std::string_view(deal).substr(0, kDLMDealLetters)) == board.hands);
   }
 };
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void Check(std::string_view bytes) {
   LettersSink sink;
   try {
-    tricklet::ReadDLM({reinterpret_cast<const char*>(data), size}, sink);
-  } catch (const tricklet::Fault&) {
+    ReadDLM(bytes, sink);
+  } catch (const Fault&) {
     // a deal with a bad letter
   }
-  return 0;
 }
+
+}  // namespace tricklet::fuzz
