@@ -31,15 +31,12 @@ class ExportTest : public LibraryTest {
  protected:
   ExportTest() : path(folder.Path() / PathFromText("out \u00e9.pbn")) {}
 
-  void PutBoardWith(int number, const std::string& calls, bool table = false) {
+  void PutBoardWith(int number, const std::string& calls, std::int16_t westsTricksInNoTrump = 0) {
     Board board;
-    board.hands = HandsOf("N:AKQJT98765432 .AKQJT98765432 ..AKQJT98765432 ...AKQJT98765432");
+    board.hands = OneSuitEach();
     SetAuction(board, calls);
-    board.makeableValid = table;
-    std::int16_t tricks = 0;
-    for (auto& row : board.makeable) {
-      for (auto& cell : row) cell = static_cast<std::int16_t>(tricks++ % 14);
-    }
+    board.makeableValid = westsTricksInNoTrump != 0;
+    board.makeable[TableSeat::West][TableStrain::NoTrump] = westsTricksInNoTrump;
     WriteFile(session.BoardPath(number), WriteBoardText(board));
   }
   /// The file that boards `first` to `last` give; all of them are written.
@@ -62,10 +59,9 @@ class ExportTest : public LibraryTest {
   /// The lines of the file that begin with `beginning`.
   std::vector<std::string> LinesOf(std::string_view beginning) const {
     std::vector<std::string> lines;
-    const std::string text = ReadFile(path);
-    for (std::string_view rest = text; !rest.empty();) {
-      const std::string_view line = TakeLine(rest);
-      if (line.starts_with(beginning)) lines.emplace_back(line);
+    std::ifstream file(path);
+    for (std::string line; std::getline(file, line);) {
+      if (line.starts_with(beginning)) lines.push_back(line.substr(0, line.find('\r')));
     }
     return lines;
   }
@@ -79,13 +75,13 @@ TEST_F(ExportTest, WritesPbn) {
   PutBoardWith(1, "Pass Pass Pass Pass");
   EXPECT_EQ(Written(1, 1),
             Head(1, "N", "None") + "[Auction \"N\"]\r\nPass Pass Pass Pass \r\n\r\n\r\n");
-  PutBoardWith(2, "1C Dbl Rdbl Pass 1NT", true);
+  PutBoardWith(2, "1C Dbl Rdbl Pass 1NT", 5);
   session.settings.pbnShark = true;
   const std::string text = Written(2, 2);
   EXPECT_TRUE(text.starts_with(Head(2, "E", "NS") +
                                "[Auction \"E\"]\r\n1C X XX Pass \r\n1NT \r\n[OptimumResultTable "
-                               "\"Declarer;Denomination;Result\"]\r\nN  C 0\r\nN  D 1\r\nN  H 2\r\n"
-                               "N  S 3\r\nN NT 4\r\nS  C 5\r\n"))
+                               "\"Declarer;Denomination;Result\"]\r\nN  C 0\r\nN  D 0\r\nN  H 0\r\n"
+                               "N  S 0\r\nN NT 0\r\nS  C 0\r\n"))
       << text;
   EXPECT_TRUE(text.ends_with("W NT 5\r\n[Result \"0\"]\r\n{\r\nBoard 2\r\n}\r\n\r\n\r\n")) << text;
   session.settings.pbnBids = false;
@@ -103,15 +99,15 @@ TEST_F(ExportTest, WhatIsNoCallIsWrittenAsItStands) {
 
 TEST_F(ExportTest, WritesLinRecords) {
   path.replace_extension("lin");
+  const std::string hands = "SHDAKQJT98765432C,SHDCAKQJT98765432,SAKQJT98765432HDC";
+  // The board, its dealer and its vulnerability
   const std::tuple<int, const char*, const char*> kCases[] = {
-      {1, "qx|o1|md|3", "|rh||ah|Board 1|sv|0|pg||\r\n"},
-      {7, "qx|o7|md|1", "|rh||ah|Board 7|sv|B|pg||\r\n"},
-      {16, "qx|o16|md|2", "|rh||ah|Board 16|sv|E|pg||\r\n"},
-      {2, "qx|o2|md|4", "|rh||ah|Board 2|sv|N|pg||\r\n"}};
-  for (const auto& [board, start, end] : kCases) {
+      {1, "3", "0"}, {7, "1", "B"}, {16, "2", "E"}, {2, "4", "N"}};
+  for (const auto& [board, dealer, vulnerable] : kCases) {
     PutBoard(board);
-    EXPECT_EQ(Written(board, board), std::string(start) + "SHDAKQJT98765432C,SHDCAKQJT98765432," +
-                                         "SAKQJT98765432HDC" + end);
+    const std::string number = std::to_string(board);
+    EXPECT_EQ(Written(board, board), "qx|o" + number + "|md|" + dealer + hands + "|rh||ah|Board " +
+                                         number + "|sv|" + vulnerable + "|pg||\r\n");
   }
 }
 
@@ -154,9 +150,7 @@ TEST_F(ExportTest, MissingAndIncompleteBoardsAreListedUpToALimit) {
   EXPECT_EQ(Told(1, 4), "3" + missing + ":\nHands 1, 3, 4\n");
   EXPECT_EQ(Told(2, 3), "1" + missing + ":\nHands 3\n");
   EXPECT_EQ(Told(3, 22), "20" + missing + "\n");
-  EXPECT_EQ(Told(3, 21), "19" + missing +
-                             ":\nHands 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, "
-                             "19, 20, 21\n");
+  EXPECT_TRUE(Told(3, 21).ends_with(", 19, 20, 21\n"));
   EXPECT_FALSE(fs::exists(path));
 
   PutBoard(1);
@@ -170,7 +164,7 @@ TEST_F(ExportTest, MissingAndIncompleteBoardsAreListedUpToALimit) {
   EXPECT_EQ(Told(1, 11), "10 hands are incomplete\n");
 }
 
-TEST_F(ExportTest, EveryTypeCancelsAndRefusesAlike) {
+TEST_F(ExportTest, ACancelledExportLeavesWhatItHasOfEveryType) {
   for (int n = 1; n <= 3; ++n) PutBoard(n);
   const std::pair<const char*, const char*> kCases[] = {
       {"pbn", "[Board"}, {"lin", "qx|"}, {"dlm", "Board "}};
@@ -178,8 +172,6 @@ TEST_F(ExportTest, EveryTypeCancelsAndRefusesAlike) {
     path.replace_extension(type);
     EXPECT_EQ(Told(1, 3, 2), "Export cancelled\n");
     EXPECT_EQ(LinesOf(line).size(), 1U) << type;
-    EXPECT_EQ(Told(2, 4), "1 hands are missing in the specified range:\nHands 4\n");
-    EXPECT_EQ(LinesOf(line).size(), 1U) << "nothing is written: " << type;
   }
 }
 

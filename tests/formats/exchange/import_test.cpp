@@ -1,6 +1,8 @@
 // The road that every import takes: questions, storing, messages.
 #include "formats/exchange/import.h"
 
+#include <cstdint>
+#include <optional>
 #include <tuple>
 #include <utility>
 
@@ -8,9 +10,10 @@
 
 #include "core/fault.h"
 #include "formats/exchange/record_reader.h"
+#include "formats/results/lin_boards.h"
 #include "formats/results/lin_file.h"
-#include "library/board_file.h"
-#include "library/board_store.h"
+#include "formats/usebio/usebio_limits.h"
+#include "formats/usebio/xml_text.h"
 #include "library/file_io.h"
 #include "tests/support/diary.h"
 #include "tests/support/library_fixture.h"
@@ -44,44 +47,50 @@ class ImportTest : public LibraryTest {
     return path;
   }
 
-  /// Imports a file into a new library that holds board 500 and a record of it; from `blocked` on
-  /// its boards cannot be written. Gives what was said and, in brackets, what came of it: the
-  /// boards stored, how many are said to be, and the records in "LIN.txt" with their scoring, or
-  /// that it was recycled.
-  std::string Import(const std::string& name, const std::string& text, int cancelAt = 0,
-                     int blocked = 0) {
+  /// What stops an import: the person, a folder where a board goes, or a board that is read-only.
+  enum class Stop : std::uint8_t { Nowhere, Cancelled, Folder, ReadOnly };
+
+  /// Imports a file into a new library that holds board 500 and a record of it. Gives what was said
+  /// and, in brackets, what came of it: the boards stored, how many are said to be, and the records
+  /// in "LIN.txt" with their scoring, or that it was recycled.
+  std::string Import(const std::string& name, const std::string& text, Stop stop = Stop::Nowhere,
+                     int board = 0) {
     Diary diary;
-    diary.cancelAtStep = cancelAt;
     Session into(diary, store);
     into.settings = session.settings;
     into.settings.library = "Library " + std::to_string(++libraries_);
-    fs::create_directories(into.LibraryPath());
-    WriteFile(into.BoardPath(500), OneSuitEachText());
+    const fs::path results = LinDataPath(into);
     const std::string old = "[LIN]\r\nqx|o500|old|\r\n";
-    WriteFile(LinDataPath(into), old);
-    if (blocked > 0) WriteFile(into.BoardPath(blocked) / "x", "");  // no file replaces a folder
+    WriteFile(results, old);
+    diary.onStep = [&] { EXPECT_EQ(FileExists(results) ? ReadFile(results) : old, old); };
+    WriteFile(into.BoardPath(500), OneSuitEachText());
+    const fs::path stopped = into.BoardPath(board);
+    if (stop == Stop::Cancelled) diary.cancelAtStep = board;
+    if (stop == Stop::Folder) WriteFile(stopped / "x", "");  // no file replaces a folder
+    if (stop == Stop::ReadOnly) WriteFile(stopped, OneSuitEachText());
+    if (stop == Stop::ReadOnly) fs::permissions(stopped, fs::perms::owner_read);
     const fs::path path = File(text, name);
     const ImportOutcome outcome = ImportAnyFile(into, path);
     std::string stored;
     for (int number = 1; number <= kLastBoardNumber; ++number) {
-      if (number == 500 || !FileExists(into.BoardPath(number))) continue;
+      const fs::path file = into.BoardPath(number);
+      if (!FileExists(file) || ReadFile(file) == OneSuitEachText()) continue;
       stored += (stored.empty() ? "" : " ") + std::to_string(number);
     }
-    EXPECT_TRUE(!stored.empty() || ReadFile(LinDataPath(into)) == old);
+    EXPECT_TRUE(!stored.empty() || ReadFile(results) == old);
     EXPECT_EQ(ReadFile(into.BoardPath(500)), OneSuitEachText());
     EXPECT_FALSE(fs::exists(into.LibraryPath() / "QENXML.xml"));
     EXPECT_FALSE(into.batchRunning);
     EXPECT_EQ(diary.working, 0);
     diary.Shorten("been saved to the library - " + into.LibraryName() + "\n", "#\n");
     diary.Shorten(PathText(path), "@");
-    diary.Shorten(PathText(into.BoardPath(blocked)), "@");
+    diary.Shorten(PathText(stopped), "@");
     for (const auto& [reason, brief] : kReasons) diary.Shorten(reason, brief);
-    const LinFile results = LoadLinData(into);
+    const LinFile kept = LoadLinData(into);
+    const std::string records = std::to_string(kept.lin.size()) + " " + kept.boardScoringMethod;
     return diary.said + "[" + stored + "|" + std::to_string(outcome.boardsSaved) +
            (outcome.failed ? " failed" : "") + (outcome.cancelled ? " cancelled|" : "|") +
-           (diary.recycled.empty() ? std::to_string(results.lin.size()) + " " +
-                                         results.boardScoringMethod + "/" + results.boardScoringAbb
-                                   : diary.recycled.at(0)) +
+           (diary.recycled.empty() ? records + "/" + kept.boardScoringAbb : diary.recycled.at(0)) +
            "]";
   }
   /// What comes of the text of each file.
@@ -90,7 +99,6 @@ class ImportTest : public LibraryTest {
     for (const auto& [text, result] : told) EXPECT_EQ(Import(name, text), result) << text;
   }
 
- private:
   int libraries_ = 0;
 };
 
@@ -101,7 +109,9 @@ TEST_F(ImportTest, StoresBoardsAndShowsTheFirst) {
       {File("To board=2\r\n" + DlmLine(2) + DlmLine(1), "two.DLM"), "2 hands (1-2) have", 1, true},
       // nothing of the board that was open
       {File("%\n[Board \"2\"]\n[Event \"no deal\"]\n", "no deal.pbn"), "Hand 2 has", 2, false},
-      {File("[Board \"3\"]", "none.pbn"), "No hands have", 2, false}};  // the board before
+      {File("[Board \"3\"]", "none.pbn"), "No hands have", 2, false},  // the board before
+      {File(UsebioText(OneLineBoard(12) + OneLineBoard(4)), "a.xml"), "2 hands (4-12) have", 4,
+       true}};
   for (const auto& [file, told, shown, cards] : kCases) {
     if (session.library.boardCount > 0) host.ExpectAskWith("Overwrite", Answer::Yes);
     host.ExpectTell(told + std::string(" been saved to the library - Club"));
@@ -110,8 +120,10 @@ TEST_F(ImportTest, StoresBoardsAndShowsTheFirst) {
     EXPECT_EQ(HasCards(session.board.hands), cards) << shown;
     EXPECT_FALSE(session.board.handChanged);
   }
-  EXPECT_EQ(session.library.boardCount, 5) << "the board that was open is not imported";
+  EXPECT_EQ(session.library.boardCount, 7) << "the board that was open is not imported";
   EXPECT_EQ(host.steps.front(), "Importing board 5");
+  EXPECT_TRUE(host.recycled.empty()) << "there were no results";
+  EXPECT_EQ(session.board.contract, "1S");
 }
 
 TEST_F(ImportTest, TellsWhatWasStoredOfPbnAndDlm) {
@@ -127,9 +139,9 @@ TEST_F(ImportTest, TellsWhatWasStoredOfPbnAndDlm) {
            "Can't read this line:\n[caf\u00e9]\nThe double-dummy table of board 2 has 1 of its 20 "
            "rows\nHand 1 has #\n[1|1 failed|LIN.txt]"},
           {PbnText({1, 1000}), "Hand 1 has #\n1 board was UNSTORABLE 1000\n[1|1|LIN.txt]"},
-          {PbnText({1000, 999, 0, 0}),
-           "Hand 1000 has #\nBoard 999 of the file is stored\n3 boards were UNSTORABLE 0, 1000\n"
-           "[999|1|LIN.txt]"},
+          {PbnText({1010, 999, 0, 0, 1009, 1008, 1007, 1006, 1005, 1004, 1003, 1002, 1001}),
+           "Hand 1010 has #\nBoard 999 of the file is stored\n12 boards were UNSTORABLE 0, 1001, "
+           "1002, 1003, 1004, 1005, 1006, 1007, 1008, 1009 ...\n[999|1|LIN.txt]"},
           {PbnText({1, 2, 3, 7, 1000}),
            "4 hands (1-1000) have #\nBoards 1-3, 7 of the file are stored\n1 board was UNSTORABLE "
            "1000\n[1 2 3 7|4|LIN.txt]"},
@@ -147,18 +159,12 @@ TEST_F(ImportTest, TellsWhatWasStoredOfPbnAndDlm) {
 
 TEST_F(ImportTest, TellsWhatWasStoredOfLin) {
   const std::string other = LinRecordText("o1", "", "0HAKQJT98765432,SAKQJT98765432");
-  std::string twelve;
-  for (int board = 12; board >= 1; --board) {
-    const std::string room = "o" + std::to_string(board);
-    twelve += LinRecordText(room) + "qx|" + room + other.substr(other.find("|md"));
-  }
   Expect(
       "a.LIN",
       {{LinRecordText("o1") + other + LinRecordText("c1"),
         "Hand 1 has #\n1 deal was REPEATED 1\n[1|1|3 IMPS/IMP]"},
-       {twelve,
-        "12 hands (12-12) have #\n12 deals were REPEATED 1, 2, 3, 4, 5, 6, 7, 8, 9, 10 ...\n"
-        "[1 2 3 4 5 6 7 8 9 10 11 12|12|13 MATCH_POINTS/MP]"},
+       {LinRecordText("o2") + LinRecordText("o1") + other + other,
+        "2 hands (2-2) have #\n2 deals were REPEATED 1\n[1 2|2|3 MATCH_POINTS/MP]"},
        {LinRecordText("o1") + "qx|o2|md|3SAA|" + LinRecordText("o3", LinPasses(101)) +
             LinRecordText("o4", "mb|p|", "1SAKQJT98765432,HAKQJT98765432") + LinRecordText("o1000"),
         "3 hands (1-1000) have #\nBoards 1, 3-4 of the file are stored\n1 deal was IMPOSSIBLE "
@@ -204,9 +210,10 @@ TEST_F(ImportTest, EndsEarlyWithWhatIsStored) {
   const std::string xmlError =
       "Error 75 (Is a directory: @) in procedure ReadFileXML of Module modXML\nUnable to import "
       "XML file\n";
+  const std::string readOnly = "The file\n@\nis read only so the hand cannot be saved\n";
   // The files, what is said when a board cannot be written, the results when 1 and 2 are stored
   const std::tuple<const char*, std::string, std::string, const char*> kFiles[] = {
-      {"a.pbn", PbnText({1, 2, 3}), error, "LIN.txt]"},
+      {"a.pbn", PbnText({1, 2, 3, 4}), error, "LIN.txt]"},
       {"a.dlm", DlmLine(1) + DlmLine(2) + DlmLine(3), error, "LIN.txt]"},
       {"a.lin", LinRecordText("o1") + LinRecordText("o2") + LinRecordText("o3"), error,
        "3 MATCH_POINTS/MP]"},
@@ -214,28 +221,11 @@ TEST_F(ImportTest, EndsEarlyWithWhatIsStored) {
        "2 MATCH_POINTS/MP]"}};
   const std::string two = "2 hands (1-2) have #\n[1 2|2 ";
   for (const auto& [name, text, said, results] : kFiles) {
-    EXPECT_EQ(Import(name, text, 1), "No hands have #\n[|0 cancelled|1 /]");
-    EXPECT_EQ(Import(name, text, 3), two + "cancelled|" + results);
-    EXPECT_EQ(Import(name, text, 0, 1), said + "No hands have #\n[|0 failed|1 /]");
-    EXPECT_EQ(Import(name, text, 0, 3), said + two + "failed|" + results);
-  }
-}
-
-TEST_F(ImportTest, AReadOnlyBoardIsToldOnceAndEndsTheImport) {
-  const std::pair<const char*, std::string> kFiles[] = {
-      {"a.pbn", PbnText({1, 2, 2, 3})},
-      {"a.xml", UsebioText(OneLineBoard(1) + OneLineBoard(2) + OneLineBoard(3))}};
-  for (const auto& [name, text] : kFiles) {
-    PutBoard(2);
-    const fs::path marked = session.BoardPath(2);
-    fs::permissions(marked, fs::perms::owner_read);
-    host.ExpectAskWith("Overwrite", Answer::Yes);
-    host.ExpectTell("The file\n" + PathText(marked) + "\nis read only so the hand cannot be saved");
-    host.ExpectTell("Hand 1 has been saved to the library - Club");
-    EXPECT_TRUE(ImportFile(session, File(text, name)).failed);
-    EXPECT_EQ(ReadFile(marked), OneSuitEachText());
-    EXPECT_EQ(session.library.boardCount, 2) << "board 3 is not stored";
-    fs::permissions(marked, fs::perms::owner_all);
+    EXPECT_EQ(Import(name, text, Stop::Cancelled, 1), "No hands have #\n[|0 cancelled|1 /]");
+    EXPECT_EQ(Import(name, text, Stop::Cancelled, 3), two + "cancelled|" + results);
+    EXPECT_EQ(Import(name, text, Stop::Folder, 1), said + "No hands have #\n[|0 failed|1 /]");
+    EXPECT_EQ(Import(name, text, Stop::Folder, 3), said + two + "failed|" + results);
+    EXPECT_EQ(Import(name, text, Stop::ReadOnly, 3), readOnly + two + "failed|" + results);
   }
 }
 
@@ -251,7 +241,6 @@ TEST_F(ImportTest, WhatCannotBeReadIsSaid) {
 
 TEST_F(ImportTest, AsksAndRefuses) {
   PutBoard(3);
-  const std::string before = ReadFile(session.BoardPath(3));
   const fs::path file = File(PbnText({3}));
   const fs::path lin = File(LinRecordText("o3"), "a.lin");
   host.ExpectAsk("Overwrite existing hands in library Club?", "Hands already in library",
@@ -264,23 +253,25 @@ TEST_F(ImportTest, AsksAndRefuses) {
   }
   EXPECT_TRUE(session.board.handChanged);
   session.board.handChanged = false;
-  const std::tuple<ImportOutcome (*)(Session&), fs::path, const char*> kCommands[] = {
-      {tricklet::Import, file, "The file must be of type pbn, dlm or xml"},
-      {ImportLin, lin, "The file must be of type lin"}};
-  for (const auto& [command, right, otherType] : kCommands) {
+  const fs::path other = File("x", "hands.doc");
+  const char* stored = "Hand 3 has been saved to the library - Club";
+  // The command, the file chosen, what is said, and how many boards are stored
+  const std::tuple<ImportOutcome (*)(Session&), fs::path, const char*, int> kChoices[] = {
+      {tricklet::Import, "", "", 0},
+      {tricklet::Import, other, "The file must be of type pbn, dlm or xml", 0},
+      {tricklet::Import, file, stored, 1},
+      {ImportLin, "", "", 0},
+      {ImportLin, other, "The file must be of type lin", 0},
+      {ImportLin, lin, stored, 1}};
+  for (const auto& [command, chosen, said, boards] : kChoices) {
+    PutBoard(3);
     host.ExpectAskWith("Overwrite", Answer::Yes);
-    host.Choose(std::nullopt);
-    EXPECT_TRUE(command(session).refused);
-    host.ExpectAskWith("Overwrite", Answer::Yes);
-    host.Choose(File("x", "hands.doc"));
-    host.ExpectTell(otherType);
-    EXPECT_TRUE(command(session).refused);
-    EXPECT_EQ(ReadFile(session.BoardPath(3)), before);
-    host.ExpectAskWith("Overwrite", Answer::Yes);
-    host.Choose(right);
-    host.ExpectTell("Hand 3 has been saved to the library - Club");
-    EXPECT_EQ(command(session).boardsSaved, 1);
-    WriteFile(session.BoardPath(3), before);
+    host.Choose(chosen.empty() ? std::nullopt : std::optional(chosen));
+    if (*said != '\0') host.ExpectTell(said);
+    const ImportOutcome outcome = command(session);
+    EXPECT_EQ(outcome.boardsSaved, boards);
+    EXPECT_EQ(outcome.refused, boards == 0);
+    EXPECT_EQ(ReadFile(session.BoardPath(3)) == OneSuitEachText(), boards == 0);
   }
 }
 
@@ -292,6 +283,56 @@ TEST_F(ImportTest, TakesPastedRecords) {
   session.board.handChanged = true;
   host.ExpectAskWith("Do you want to save changes to board 2", Answer::Cancel);
   EXPECT_TRUE(ImportLinText(session, LinRecordText("o1")).refused);
+}
+
+TEST_F(ImportTest, RecordsStandBesideThoseOfOtherBoards) {
+  const auto kept = [this] {
+    const LinFile file = LoadLinData(session);
+    std::string text = file.boardScoringAbb + " " + Joined(file.names);
+    if (file.teamEvent) text += " " + Joined(file.teamEvent->teams);
+    for (const auto& line : file.lin) text += " " + std::to_string(BoardNumberOfLin(line));
+    return text;
+  };
+  const std::vector<std::string> records{"qx|o1|", "ah|Board 2|", "x|y|ah|Board 1|", "qx|o3|"};
+  StoreLinData(session, {"CROSS_IMPS", "XIMP", LinTeams{{"Hearts"}, "", ""}, {"1 Ann"}, records});
+  host.ExpectTell("2 hands (1-4) have been saved to the library - Club");
+  ImportLinText(session, LinRecordText("o1") + LinRecordText("o4"));
+  EXPECT_EQ(kept(), "XIMP 1 Ann Hearts 2 3 1 4");
+  host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
+  host.ExpectTell("4 hands (1-4) have been saved to the library - Club");
+  ImportLinText(session, LinRecordText("o1") + LinRecordText("o2") + LinRecordText("o3") +
+                             LinRecordText("o4"));
+  EXPECT_EQ(kept(), "MP  1 2 3 4") << "nothing of the session is left";
+}
+
+TEST_F(ImportTest, ADocumentTypeOnAWebHostIsReplacedInACopy) {
+  const std::string type = "<!DOCTYPE USEBIO SYSTEM \"http://dtd.example.org/u.dtd\">";
+  const std::string body = UsebioBody(Element("CLUB_NAME", "Zo\u00eb") + OneLineBoard(1));
+  const std::string bytes = EncodeXml({type + body, XmlEncoding::Utf16Big});
+  const fs::path file = File(bytes, "r\u00e9sultats.XML");
+  host.ExpectTell("Hand 1 has been saved to the library - Club");
+  ImportFile(session, file);
+  EXPECT_EQ(ReadFile(session.LibraryPath() / "QENXML.xml"),
+            EncodeXml({"<!DOCTYPE USEBIO SYSTEM \"/dtd/usebio_v1_2_ext.dtd\">" + body,
+                       XmlEncoding::Utf16Big}));
+  EXPECT_EQ(ReadFile(file), bytes);
+  EXPECT_EQ(session.library.boardCount, 1) << "the copy is no board";
+}
+
+TEST_F(ImportTest, ResultsThatCannotBeKeptAreSaid) {
+  fs::create_directories(LinDataPath(session) / "in the way");
+  host.ExpectTellWith("Is a directory: " + PathText(LinDataPath(session)));
+  host.ExpectTell("Unable to import XML file");
+  host.ExpectTell("Hand 1 has been saved to the library - Club");
+  EXPECT_TRUE(ImportFile(session, File(UsebioText(OneLineBoard(1)), "a.xml")).failed);
+}
+
+TEST_F(ImportTest, AFileOfAClubsResultsThatIsTooLargeIsNotRead) {
+  const fs::path file = File("", "a.xml");
+  fs::resize_file(file, kMaxXmlBytes + 1);
+  host.ExpectTell(kXmlLoadFailed);
+  host.ExpectTell("No hands have been saved to the library - Club");
+  EXPECT_TRUE(ImportFile(session, file).failed);
 }
 
 }  // namespace

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include "core/statistics.h"
-#include "formats/lin/lin_record.h"
 #include "tests/support/collector.h"
 
 namespace tricklet {
@@ -45,9 +44,8 @@ struct Read {
   std::string Names() const {
     std::string text;
     for (const std::string& record : records) {
-      const auto names = ParseLinRecord(record).players;
-      text += names[Seat::South] + "," + names[Seat::West] + "," + names[Seat::North] + "," +
-              names[Seat::East] + "; ";
+      const auto names = record.find("pn|") + 3;
+      text += record.substr(names, record.find('|', names) - names) + "; ";
     }
     return text;
   }

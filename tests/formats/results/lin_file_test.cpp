@@ -2,13 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "core/fault.h"
-#include "tests/support/library_fixture.h"
-
-namespace tricklet::test {
+namespace tricklet {
 namespace {
-
-namespace fs = std::filesystem;
 
 LinFile PairsEvent() {
   return {"MATCH_POINTS",
@@ -60,24 +55,5 @@ TEST(LinFile, AValueCannotLeaveItsLine) {
   EXPECT_EQ(ParseLinFile(LinFileText(data)), read);
 }
 
-class LinDataTest : public LibraryTest {};
-
-TEST_F(LinDataTest, StaysInTheLibraryUntilRecycled) {
-  EXPECT_TRUE(LoadLinData(session).Empty());
-  StoreLinData(session, PairsEvent());
-  EXPECT_EQ(LoadLinData(session), PairsEvent());
-  EXPECT_TRUE(RecycleLinData(session));
-  EXPECT_EQ(host.recycled, std::vector<std::string>{"LIN.txt"});
-  EXPECT_TRUE(RecycleLinData(session)) << "nothing is left to recycle";
-}
-
-TEST_F(LinDataTest, AFailureIsAFault) {
-  fs::remove_all(session.LibraryPath());
-  EXPECT_THROW(StoreLinData(session, PairsEvent()), Fault);
-  WriteFile(LinDataPath(session), "");
-  fs::resize_file(LinDataPath(session), kMaxLinFileBytes + 1);
-  EXPECT_THROW(LoadLinData(session), Fault);
-}
-
 }  // namespace
-}  // namespace tricklet::test
+}  // namespace tricklet
