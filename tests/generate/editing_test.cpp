@@ -41,6 +41,7 @@ class Editing : public testing::Test {
     bool done = true;
     if (act == "clear") Clear(board, history);
     if (act == "fill") done = Fill(board, history, random);
+    if (act == "fill fourth") done = FillFourthHand(board, history);
     if (act == "undo clear") done = UndoClear(board, history);
     if (act == "undo fill") done = UndoFill(board, history);
     std::string hands = HasCards(board.hands) ? "other" : "empty";
@@ -152,19 +153,15 @@ TEST_F(Editing, ReadsAHandOrRefusesItWithTheReason) {
 }
 
 TEST_F(Editing, FillsTheFourthHand) {
-  for (const HandTable& hands : {full, before}) {
-    board.hands = hands;
-    EXPECT_FALSE(FillFourthHand(board, history));
-    ExpectEdited(false);
-  }
+  EXPECT_EQ(After("fill fourth"), "refused: start, 0 calls, table");
+  board.hands = full;
+  EXPECT_EQ(After("fill fourth"), "refused: full, 0 calls, table");
   EXPECT_FALSE(CanUndoFill(board, history));
   for (const Seat seat : kAllSeats) {
     board.hands = full;
     board.hands[seat][Suit::Hearts] = board.hands[seat][Suit::Clubs] = Holding();
     const HandTable open = board.hands;
-    ASSERT_TRUE(FillFourthHand(board, history));
-    EXPECT_EQ(board.hands, full);
-    ExpectEdited();
+    EXPECT_EQ(After("fill fourth"), "full, 0 calls, changed");
     ASSERT_TRUE(UndoFill(board, history));
     EXPECT_EQ(board.hands, open);
   }
