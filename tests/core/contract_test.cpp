@@ -4,10 +4,10 @@
 #include <gtest/gtest.h>
 
 #include "core/board.h"
-#include "core/fault.h"
 #include "tests/support/calls.h"
+#include "tests/support/hands.h"
 
-namespace tricklet {
+namespace tricklet::test {
 namespace {
 
 TEST(GetContract, DerivesContractDeclarerAndTrumps) {
@@ -28,7 +28,7 @@ TEST(GetContract, DerivesContractDeclarerAndTrumps) {
   for (const auto& [number, auction, label, level, trumps] : kCases) {
     Board board;
     board.boardNumber = number;
-    test::SetAuction(board, auction);
+    SetAuction(board, auction);
     EXPECT_EQ(ContractLabel(board), label) << auction;
     EXPECT_EQ(board.contractLevel, level) << auction;
     EXPECT_EQ(board.trumps, trumps) << auction;
@@ -84,25 +84,12 @@ TEST(CallList, KeepsWhatIsNoCallInItsPlace) {
   EXPECT_EQ(others.TextAt(0), "1!");
 }
 
-TEST(CallList, HoldsAHundred) {
-  CallList calls;
-  for (int i = 0; i < 100; ++i) calls.Add(Call::Pass());
-  EXPECT_THROW(calls.Add(Call::Pass()), Fault);
-}
-
-TEST(GetHand, TakesOneHandFromTheFront) {
-  HandTable hands;
-  hands[Seat::East][Suit::Clubs].Add(Rank::Two);
-  std::string_view text = "AK10..J5.9 - 2.3";
-  for (const Seat seat : {Seat::North, Seat::East, Seat::South, Seat::West}) {
-    GetHand(text, hands, seat);
-  }
-  std::string read;
-  for (const auto& hand : hands) {
-    for (const Holding holding : hand) read += HoldingText(holding) + ".";
-  }
-  EXPECT_EQ(read, " A K 10.. J 5. 9..... 2. 3.......") << "an unknown hand is an empty one";
+TEST(GetHand, EmptiesAHandThatIsUnknown) {
+  HandTable hands = HandsOf("N:2... - - -");
+  std::string_view text = "- 3...";
+  GetHand(text, hands, Seat::North);
+  EXPECT_FALSE(HasCards(hands));
 }
 
 }  // namespace
-}  // namespace tricklet
+}  // namespace tricklet::test

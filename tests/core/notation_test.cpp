@@ -21,17 +21,6 @@ TEST(Notation, DealerAndVulnerabilityFollowTheBoardNumber) {
   }
 }
 
-TEST(Notation, OrdersAreConvertedByName) {
-  EXPECT_EQ(ToStrain(BidStrain::Clubs), Strain::Clubs);
-  EXPECT_EQ(ToStrain(BidStrain::Spades), Strain::Spades);
-  EXPECT_EQ(ToTableStrain(Strain::Diamonds), TableStrain::Diamonds);
-  EXPECT_EQ(ToTableSeat(Seat::East), TableSeat::East);
-  EXPECT_EQ(ToTableSeat(Seat::South), TableSeat::South);
-  for (const Strain strain : {Strain::Spades, Strain::Hearts, Strain::Clubs, Strain::NoTrump}) {
-    EXPECT_EQ(ToStrain(ToBidStrain(strain)), strain);
-  }
-}
-
 TEST(Holding, TextIsReadByFirstCharactersAndWrittenInRankOrder) {
   const std::tuple<const char*, const char*, std::string> kCases[] = {
       {"", "", ""},           {"2510KA", " A K 10 5 2", "AKT52"},

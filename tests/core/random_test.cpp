@@ -6,10 +6,8 @@
 #include "core/random_source.h"
 #include "tests/support/chi_square.h"
 
-namespace tricklet {
+namespace tricklet::test {
 namespace {
-
-using test::ChiSquareDeviation;
 
 TEST(RandomSource, ASeedGivesItsStream) {
   // By a program of its own, checked against the outputs that the generators' authors publish.
@@ -51,4 +49,4 @@ TEST(WeightedPick, FollowsTheWeightsOfTheRange) {
 }
 
 }  // namespace
-}  // namespace tricklet
+}  // namespace tricklet::test

@@ -5,15 +5,14 @@
 #include "tests/support/calls.h"
 #include "tests/support/hands.h"
 
-namespace tricklet {
+namespace tricklet::test {
 namespace {
 
 TEST(DeclarerTricks, CountsThoseOfBothHandsOfALegalPlayToItsEnd) {
   Board board;
   board.boardNumber = 3;  // South deals; dummy has the trumps, ruffs the lead and wins the rest
-  board.hands =
-      test::HandsOf("N:AKQJT98765432... .AKQJT98765432.. ..AKQJT98765432. ...AKQJT98765432");
-  test::SetAuction(board, "1S P P P");
+  board.hands = OneSuitEach();
+  SetAuction(board, "1S P P P");
   std::vector<Card> cards;
   for (int card = 0; card < kCardsInPack; ++card) {
     const Seat seat = SeatAfter(card < kSeats ? Seat::West : Seat::North, card % kSeats);
@@ -22,11 +21,10 @@ TEST(DeclarerTricks, CountsThoseOfBothHandsOfALegalPlayToItsEnd) {
   EXPECT_EQ(DeclarerTricks(board, cards), 13);
   EXPECT_FALSE(DeclarerTricks(board, std::span(cards).first(51)));
   // East and West change their twos, so East has a club at the first lead.
-  board.hands =
-      test::HandsOf("N:AKQJT98765432... .AKQJT9876543..2 ..AKQJT98765432. .2..AKQJT9876543");
+  board.hands = HandsOf("N:AKQJT98765432... .AKQJT9876543..2 ..AKQJT98765432. .2..AKQJT9876543");
   std::swap(cards[49], cards[51]);
   EXPECT_FALSE(DeclarerTricks(board, cards)) << "a revoke";
 }
 
 }  // namespace
-}  // namespace tricklet
+}  // namespace tricklet::test

@@ -16,41 +16,33 @@ namespace {
 /// Not vulnerable, vulnerable; each undoubled, doubled, redoubled.
 using Row = std::array<int, 6>;
 
-/// A table of the data folder: rows of as many words as its key has, and six scores.
-std::map<std::string, Row> ReadTable(const std::string& name, int wordsOfKey) {
-  std::map<std::string, Row> rows;
+/// By "1m", "3N" and the tricks over book, or by "down" and the undertricks.
+using ScoreTable = std::map<std::pair<std::string, int>, Row>;
+
+void ReadTable(const std::string& name, ScoreTable& table) {
   std::ifstream file(std::string(TRICKLET_TEST_DATA) + "/" + name);
   for (std::string line; std::getline(file, line);) {
     if (line.empty() || line[0] == '#') continue;
     std::istringstream cells(line);
-    std::string key;
-    for (int i = 0; i < wordsOfKey; ++i) {
-      std::string word;
-      cells >> word;
-      key += word + " ";
-    }
-    for (int& score : rows[key]) cells >> score;
+    std::pair<std::string, int> key;
+    cells >> key.first >> key.second;
+    for (int& score : table[key]) cells >> score;
     EXPECT_TRUE(cells) << line;
   }
-  return rows;
 }
 
 TEST(ScoreContract, AgreesWithThePublishedTables) {
-  const auto made = ReadTable("scores_made.tsv", 2);
-  const auto defeated = ReadTable("scores_defeated.tsv", 1);
-  ASSERT_EQ(made.size(), 84U);
-  ASSERT_EQ(defeated.size(), 13U);
+  ScoreTable table;
+  for (const char* name : {"scores_made.tsv", "scores_defeated.tsv"}) ReadTable(name, table);
+  ASSERT_EQ(table.size(), 84U + 13U);
   for (int tricks = 0; tricks <= 13; ++tricks) {
     for (int bid = 0; bid < 35; ++bid) {
       const int level = bid / kStrains + 1;
       const auto strain = static_cast<Strain>(bid % kStrains);
       const int result = tricks - 6 - level;
-      const char* kind = strain == Strain::NoTrump    ? "N "
-                         : strain >= Strain::Diamonds ? "m "
-                                                      : "M ";
-      const Row& row =
-          result < 0 ? defeated.at(std::to_string(-result) + " ")
-                     : made.at(std::to_string(level) + kind + std::to_string(tricks - 6) + " ");
+      const char* kind = strain == Strain::NoTrump ? "N" : strain >= Strain::Diamonds ? "m" : "M";
+      const Row& row = result < 0 ? table.at({"down", -result})
+                                  : table.at({std::to_string(level) + kind, tricks - 6});
       for (int column = 0; column < 6; ++column) {
         const int expected = row.at(static_cast<std::size_t>(column)) * (result < 0 ? -1 : 1);
         const auto doubling = static_cast<Doubling>(column % 3);

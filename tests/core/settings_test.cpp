@@ -13,10 +13,6 @@ TEST(Settings, DefaultsAndRoundTrip) {
   MemoryStore store;
   Settings settings = LoadSettings(store);
   EXPECT_EQ(settings, Settings());
-  EXPECT_EQ(settings.library, "Default");
-  EXPECT_TRUE(settings.autoMakeable);
-  EXPECT_EQ(settings.hgFont[0].size, 24);
-  EXPECT_EQ(settings.hgFont[1].forecolour, kWindowTextColour);
 
   settings.cardDesign = CardDesign::LargeIndex;
   settings.suitFontSize = 14.5;

@@ -6,7 +6,7 @@
 
 #include "tests/support/hands.h"
 
-namespace tricklet {
+namespace tricklet::test {
 namespace {
 
 TEST(Statistics, LosersOfASuit) {
@@ -18,8 +18,7 @@ TEST(Statistics, LosersOfASuit) {
 }
 
 TEST(Statistics, CountsPointsLengthsAndMissingCards) {
-  HandTable hands =
-      test::HandsOf("N:AKQ2.AJT5..K43 J3.K2.A98765.QT8 T98.Q87.KQJ.AJ75 7654.9643.T432.9");
+  HandTable hands = HandsOf("N:AKQ2.AJT5..K43 J3.K2.A98765.QT8 T98.Q87.KQJ.AJ75 7654.9643.T432.9");
   const Statistics statistics = GetStats(hands);
   EXPECT_EQ(statistics.seatHcp.values, (std::array{17, 10, 13, 0}));
   EXPECT_EQ(statistics.seatLtc[Seat::North], 3);  // 0 spades, 1 hearts (A J 10), 2 clubs
@@ -56,4 +55,4 @@ TEST(Captions, FollowTheFourSwitches) {
 }
 
 }  // namespace
-}  // namespace tricklet
+}  // namespace tricklet::test
