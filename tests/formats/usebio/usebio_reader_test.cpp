@@ -7,7 +7,7 @@
 
 #include "formats/lin/lin_record.h"
 #include "formats/results/lin_boards.h"
-#include "tests/support/usebio.h"
+#include "tests/support/records.h"
 #include "tests/support/words.h"
 
 namespace tricklet::test {
