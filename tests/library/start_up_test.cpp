@@ -9,25 +9,22 @@
 #include "library/library_names.h"
 #include "tests/support/library_fixture.h"
 
-namespace tricklet {
+namespace tricklet::test {
 namespace {
 
 namespace fs = std::filesystem;
 
-class StartUp : public test::LibraryTest {
- protected:
-  void ExpectRootMessage() {
-    host.ExpectTell(
-        "Please choose a folder (new or existing)\nwhere you will keep your library of hands");
-  }
-};
+class StartUp : public LibraryTest {};
+
+const std::string kNoRoot =
+    "Please choose a folder (new or existing)\nwhere you will keep your library of hands";
 
 TEST_F(StartUp, TheFirstStartAsksForARootAndMakesTheDefaultLibrary) {
   session.settings = Settings();
-  ExpectRootMessage();
+  host.ExpectTell(kNoRoot);
   host.Choose(folder.Path().root_path());
   host.ExpectTell("Please choose a folder, not " + PathText(folder.Path().root_path()));
-  test::WriteFile(folder.Path() / "file", "in the way");
+  WriteFile(folder.Path() / "file", "in the way");
   host.Choose(folder.Path() / "file" / "hands");
   host.ExpectTellWith(PathText(folder.Path() / "file"));
   host.Choose(folder.Path() / "hands");
@@ -39,7 +36,7 @@ TEST_F(StartUp, TheFirstStartAsksForARootAndMakesTheDefaultLibrary) {
 
 TEST_F(StartUp, WithoutARootTheProgramEnds) {
   session.settings.filelocation = FolderText(folder.Path() / "deleted");
-  ExpectRootMessage();
+  host.ExpectTell(kNoRoot);
   host.Choose(std::nullopt);
   host.ExpectTell("You must choose a folder");
   EXPECT_FALSE(OpenLibraries(session));
@@ -61,7 +58,7 @@ TEST_F(StartUp, AStoredLibraryThatIsGoneIsMadeAgainWhereItCanBe) {
     EXPECT_TRUE(OpenLibraries(session));
     EXPECT_EQ(session.LibraryName(), "Club") << name;
   }
-  EXPECT_EQ(test::Joined(session.libraryNames), "Club, Last year, St. Ives");
+  EXPECT_EQ(Joined(session.libraryNames), "Club, Last year, St. Ives");
 }
 
 TEST_F(StartUp, ALibraryThatIsAskedForIsNotMade) {
@@ -79,7 +76,7 @@ TEST_F(StartUp, ALibraryThatIsAskedForIsNotMade) {
     EXPECT_TRUE(OpenLibraries(session, asked));
     EXPECT_EQ(session.LibraryName(), opened) << asked;
   }
-  EXPECT_EQ(test::Joined(session.libraryNames), "Club, \u00c9t\u00e9");
+  EXPECT_EQ(Joined(session.libraryNames), "Club, \u00c9t\u00e9");
 }
 
 TEST_F(StartUp, ARootThatGoesLaterIsNotMadeAnew) {
@@ -88,7 +85,7 @@ TEST_F(StartUp, ARootThatGoesLaterIsNotMadeAnew) {
   host.ExpectTell("There is no folder " + session.settings.filelocation);
   GetLibraryNames(session);
   EXPECT_FALSE(fs::exists(session.FileLocation()));
-  EXPECT_EQ(test::Joined(session.libraryNames), "Club");
+  EXPECT_EQ(Joined(session.libraryNames), "Club");
 }
 
 TEST_F(StartUp, TheNoticeComesUntilItIsNotWantedAnyMore) {
@@ -109,4 +106,4 @@ TEST_F(StartUp, SaysWhenUpdatesAreNotLookedFor) {
 }
 
 }  // namespace
-}  // namespace tricklet
+}  // namespace tricklet::test

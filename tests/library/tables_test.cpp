@@ -4,29 +4,21 @@
 
 #include "analysis/deal_text.h"
 #include "analysis/get_dds.h"
+#include "generate/deal.h"
 #include "library/board_file.h"
 #include "library/board_store.h"
 #include "tests/support/fake_solver.h"
 #include "tests/support/library_fixture.h"
 
-namespace tricklet {
+namespace tricklet::test {
 namespace {
 
-using test::FakeSolver;
-using test::ReadFile;
-using test::WriteFile;
-
-class TablesTest : public test::LibraryTest {
+class TablesTest : public LibraryTest {
  protected:
-  /// Boards that differ: two cards of the one-suit deal change hands, by the number.
+  /// Stores a deal of its own under the number.
   void PutDeal(int number) {
     Board board;
-    ReadBoardText(test::OneSuitEachText(), board, TableReading::Always);
-    const auto spade = Holding::FromBits(1U << static_cast<unsigned>(number % kRanks));
-    const auto heart = Holding::FromBits(1U << static_cast<unsigned>(number / kRanks % kRanks));
-    auto& [north, east, south, west] = board.hands.values;
-    north.values = {north[Suit::Spades] - spade, heart, {}, {}};
-    east.values = {spade, east[Suit::Hearts] - heart, {}, {}};
+    EXPECT_TRUE(Random(board.hands, random));
     WriteFile(session.BoardPath(number), WriteBoardText(board));
   }
   void ExpectOwnTable(int number) {
@@ -36,6 +28,7 @@ class TablesTest : public test::LibraryTest {
         << number;
   }
   FakeSolver solver;
+  RandomSource random{1};
 };
 
 TEST_F(TablesTest, EveryBoardGetsItsOwnTableInBatches) {
@@ -43,12 +36,11 @@ TEST_F(TablesTest, EveryBoardGetsItsOwnTableInBatches) {
   WriteFile(session.BoardPath(200), "nothing");
   session.board.boardNumber = 40;
   LoadHand(session);
-  const AnalysisOutcome outcome = AnalyseBoards(session, solver, 1, 999, false);
-  EXPECT_EQ(outcome.computed, 100);
-  EXPECT_EQ(outcome.incomplete, 1);
+  EXPECT_EQ(AnalysisText(AnalyseBoards(session, solver, 1, 999, false)),
+            "100 tables have been computed\n1 hand is incomplete");
   EXPECT_EQ(solver.batches, (std::vector<std::size_t>{4, 32, 32, 32}));
   for (int number = 1; number <= 100; ++number) ExpectOwnTable(number);
-  EXPECT_TRUE(session.board.makeableValid) << "the board in hand has it too";
+  EXPECT_TRUE(session.board.makeableValid) << "the current board has it too";
   EXPECT_EQ(host.working, 0);
 
   solver.batches.clear();
@@ -67,16 +59,13 @@ TEST_F(TablesTest, CancelKeepsWhatIsSolved) {
 
 TEST_F(TablesTest, ReadOnlyBoardsAreLeftAndNamed) {
   for (int number = 1; number <= 3; ++number) PutDeal(number);
-  const auto mark = [&](int number) {
-    std::filesystem::permissions(session.BoardPath(number), std::filesystem::perms::owner_read);
-  };
-  mark(2);
+  std::filesystem::permissions(session.BoardPath(2), std::filesystem::perms::owner_read);
   EXPECT_FALSE(StoreTable(session.BoardPath(2), Stored(2).hands, {}));
   EXPECT_EQ(AnalysisText(AnalyseBoards(session, solver, 1, 9, false)),
             "2 tables have been computed\nThe file\n" + PathText(session.BoardPath(2)) +
                 "\nis read only so the hand cannot be saved");
   EXPECT_FALSE(Stored(2).makeableValid);
-  mark(3);
+  std::filesystem::permissions(session.BoardPath(3), std::filesystem::perms::owner_read);
   EXPECT_EQ(AnalysisText(AnalyseBoards(session, solver, 1, 9, true)),
             "1 table has been computed\n"
             "The files of boards 2, 3 are read only so the hands cannot be saved");
@@ -131,4 +120,4 @@ TEST_F(TablesTest, LoadingABoardAddsItsMissingTable) {
 }
 
 }  // namespace
-}  // namespace tricklet
+}  // namespace tricklet::test

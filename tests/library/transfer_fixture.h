@@ -31,10 +31,6 @@ class LibraryTransfer : public LibraryTest {
         "Do you want to copy all your libraries from\n" + RootText() + "\nto " + PathText(Other()),
         "Tricklet", answer);
   }
-  void ExpectUnsavedQuestion(Answer answer) {
-    session.board.handChanged = true;
-    host.ExpectAskWith("Do you want to save changes to board 1 in library Club?", answer);
-  }
   /// The root and the current library are what they were.
   void ExpectNothingChanged() {
     EXPECT_EQ(session.settings.filelocation, RootText());

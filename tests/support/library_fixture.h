@@ -14,6 +14,7 @@
 #include "library/board_file.h"
 #include "library/library_scan.h"
 #include "library/session.h"
+#include "tests/support/hands.h"
 #include "tests/support/scripted_host.h"
 
 namespace tricklet::test {
@@ -56,15 +57,11 @@ inline std::string Joined(const std::vector<std::string>& names) {
   return text;
 }
 
-/// The text of a board file whose four seats hold one suit each: North spades, East hearts and so
-/// on.
+/// The text of a board file with the hands of `OneSuitEach`.
 inline std::string OneSuitEachText() {
-  const std::string suit = " A K Q J 10 9 8 7 6 5 4 3 2";
-  std::string text;
-  for (int seat = 0; seat < 4; ++seat) {
-    for (int line = 0; line < 4; ++line) text += (line == seat ? suit : "") + "\r\n";
-  }
-  return text + " 0\r\n 0\r\n";
+  Board board;
+  board.hands = OneSuitEach();
+  return WriteBoardText(board);
 }
 
 class LibraryTest : public testing::Test {
@@ -76,6 +73,13 @@ class LibraryTest : public testing::Test {
     FindFiles(session);
   }
 
+  /// Changes the current board; the next question is whether to save that.
+  void ExpectUnsavedQuestion(Answer answer) {
+    session.board.handChanged = true;
+    host.ExpectAsk("Do you want to save changes to board " +
+                       std::to_string(session.board.boardNumber) + " in library Club?",
+                   "Save changes?", answer);
+  }
   void PutBoard(int number) { WriteFile(session.BoardPath(number), OneSuitEachText()); }
 
   /// The board in the library's file of this number.
