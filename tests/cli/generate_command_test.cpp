@@ -4,17 +4,16 @@
 #include "tests/cli/command_line.h"
 #include "tests/support/fake_solver.h"
 
-namespace tricklet {
+namespace tricklet::test {
 namespace {
 
-class GenerateCommands : public test::CommandLine {
+class GenerateCommands : public CommandLine {
  protected:
   Board Stored(int number) {
     Board board;
     board.boardNumber = number;
-    const std::string name = ZeroPadded(number, 3) + ".txt";
-    EXPECT_TRUE(ReadBoardText(test::ReadFile(Root() / "Default" / name), board,
-                              TableReading::OnlyWhenComplete));
+    const std::string text = ReadFile(Root() / "Default" / BoardFileName(number));
+    EXPECT_TRUE(ReadBoardText(text, board, TableReading::OnlyWhenComplete));
     return board;
   }
   /// Board 1 after an edit that is carried out.
@@ -48,7 +47,7 @@ TEST_F(GenerateCommands, GeneratesWhatIsAsked) {
 
 TEST_F(GenerateCommands, TablesNeedASolver) {
   EXPECT_EQ(Answer("generate 3 4 --analyse"), "1 There is no double-dummy solver\n");
-  test::FakeSolver fake;
+  FakeSolver fake;
   solver = [&fake]() -> Solver& { return fake; };
   EXPECT_EQ(Answer("generate 3 4 --analyse"),
             "0 2 boards generated\n2 tables have been computed\n");
@@ -62,16 +61,13 @@ TEST_F(GenerateCommands, RefusesWhatItCannotRead) {
       {"4 3", "The first board is above the last"},
       {"1 8 --hand1 up", "up is no seat"},
       {"1 8 --hand1 dealer+4", "dealer+4 is no seat"},
-      {"1 8 --hand1 dealer-1", "dealer-1 is no seat"},
       {"1 8 --hand1 N --hand2 dealer", "Both hands are given by seats, or both from the dealer"},
       {"1 8 --points1 17-15", "17-15 is no range of 0-37 points"},
       {"1 8 --points2 15-38", "15-38 is no range of 0-37 points"},
-      {"1 8 --points1 15-", "15- is no range of 0-37 points"},
       {"1 8 --lengths1 1,2,3", "1,2,3 are no four ranges of 0-13 cards"},
       {"1 8 --lengths1 1,2,3,14", "1,2,3,14 are no four ranges of 0-13 cards"},
       {"1 8 --type1 flat", "flat is no hand type"},
       {"1 8 --type1 4441 --option1 1", "4441 has no option 1"},
-      {"1 8 --type1 weak2 --option1 3", "weak2 has no option 3"},
       {"1 8 --option1 1", "An option belongs to a type"},
       {"1 8 --lengths1 13,0,0,0 --type1 weak2", "A hand has either lengths or a type"}};
   for (const auto& [asked, told] : kCases) {
@@ -120,4 +116,4 @@ TEST_F(GenerateCommands, CardsCanBeGivenToANewBoard) {
 }
 
 }  // namespace
-}  // namespace tricklet
+}  // namespace tricklet::test
