@@ -14,8 +14,8 @@ namespace tricklet {
 /// The holdings of all four seats: `hands[seat][suit]`.
 using HandTable = PerSeat<PerSuit<Holding>>;
 
-/// Double-dummy tricks of each declarer in each strain. What a foreign file has is kept as it is,
-/// but a table of other than 0..13 tricks is none (`Board::makeableValid`).
+/// Double-dummy tricks of each declarer in each strain. The values of a foreign file are kept as
+/// they are; with one outside 0..13 the table does not count (`Board::makeableValid`).
 using MakeableTable = EnumArray<TableSeat, EnumArray<TableStrain, std::int16_t, kStrains>, kSeats>;
 bool IsPossible(const MakeableTable& table);
 
@@ -51,7 +51,7 @@ void AddCard(HandTable& hands, Card card, Seat seat);
 
 /// Reads the hand at the front of `text` (ranks of spades, hearts, diamonds, clubs with "." between
 /// them, the ten written "10", up to the first blank) into `seat` and leaves in `text` what follows
-/// that blank. Suits that are not given become void; so does a hand given as "-".
+/// that blank. Suits that are not given become void, and a hand given as "-" has no cards.
 void GetHand(std::string_view& text, HandTable& hands, Seat seat);
 
 bool HasCards(const HandTable& hands);
@@ -62,7 +62,7 @@ bool HasCards(const HandTable& hands);
 void GetContract(Board& board);
 
 /// Sets `contract`, `contractLevel` and `trumps` from a text: "4S", "3NTx", "5nXX", "1C**". False,
-/// and nothing changed, when it is no contract. The calls are not asked.
+/// and nothing changed, when it is no contract. The calls play no part in it.
 bool SetContract(Board& board, std::string_view text);
 
 /// "4Sx by South", "All Pass", or empty when there is no contract.

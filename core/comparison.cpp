@@ -8,8 +8,8 @@
 namespace tricklet {
 namespace {
 
-/// The scores of the tables that have one, in order. A board may have thousands of them; so what a
-/// table gets comes from counting, not from going through all others.
+/// The scores of the tables that have one, in ascending order. A board may have thousands of them,
+/// so what a table gets is found by counting, not by going through all the others.
 class SortedScores {
  public:
   explicit SortedScores(BoardScores scores) {
@@ -20,7 +20,7 @@ class SortedScores {
   }
 
   int Count() const { return static_cast<int>(sorted_.size()); }
-  /// Scores of at most, and of less than, `score`.
+  /// How many scores are at most, and how many below, `score`.
   int UpTo(std::int64_t score) const {
     return static_cast<int>(std::upper_bound(sorted_.begin(), sorted_.end(), score) -
                             sorted_.begin());
@@ -31,7 +31,7 @@ class SortedScores {
   std::vector<std::int64_t> sorted_;
 };
 
-/// Two for each score beaten and one for each equal one but the score itself.
+/// Two for each score beaten and one for each equal one other than the score itself.
 int PointsOf(int score, const SortedScores& scores) {
   return scores.Below(score) + scores.UpTo(score) - 1;
 }
@@ -46,8 +46,8 @@ int ImpsOf(int score, const SortedScores& scores) {
   return imps;
 }
 
-/// `sumOf` for each score, worked out once for each that occurs: a board has far fewer different
-/// scores than tables.
+/// `sumOf` of every score. Each different score is worked out only once: a board has far fewer of
+/// them than tables.
 template <class Sum>
 std::vector<std::optional<int>> SumAgainstOthers(BoardScores scores, Sum sumOf) {
   const SortedScores sorted(scores);

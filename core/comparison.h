@@ -17,7 +17,7 @@ namespace tricklet {
 using BoardScores = std::span<const std::optional<int>>;
 
 /// Match points (Laws of Duplicate Bridge, 78A) on the scale of two for each score beaten and one
-/// for each equal one: 0..2 * (scores - 1), and both sides of a table together have just that.
+/// for each equal one: 0..2 * (scores - 1), and the two sides of a table add up to the upper bound.
 /// Scores that are missing are not factored in.
 std::vector<std::optional<PerSide<int>>> MatchPoints(BoardScores scores);
 

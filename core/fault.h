@@ -49,7 +49,7 @@ class Fault : public std::exception {
 /// program is ended through `host`; whatever the answer, the caller returns to its own clean-up.
 void ErrorReport(Host& host, const Fault& fault);
 
-/// The fault that stands for any other exception, which does not know its line: that of the caller.
+/// The fault that stands for any exception; one that does not know its line gets the caller's.
 Fault FaultFrom(const std::exception& failure,
                 std::source_location where = std::source_location::current());
 

@@ -1,4 +1,4 @@
-// The one port through which the engine asks for the person and the platform.
+// The one port through which the engine reaches the person and the platform.
 #pragma once
 
 #include <filesystem>
@@ -44,8 +44,8 @@ class Host {
   void Tell(const std::string& text) { Tell(text, std::string(kProgramName)); }
 
   /// One of the answers that `buttons` offers. Cancel too, whatever they offer, when nobody
-  /// answered: the question was closed or abandoned, or there is nobody to ask. No is only what was
-  /// said.
+  /// answered: the question was closed or abandoned, or there is nobody to ask. No always means
+  /// that somebody said No.
   virtual Answer Ask(const std::string& text, const std::string& title, Buttons buttons) = 0;
 
   virtual void Beep() = 0;
@@ -65,7 +65,7 @@ class Host {
   /// One step of long work: shows `text` and `done` of `total` (0: not known) and lets pending
   /// events run. False when the person has cancelled the work.
   virtual bool Step(const std::string& text, int done, int total) = 0;
-  /// Around long work: the progress display appears, and is gone again.
+  /// The beginning and the end of long work: the progress display appears, and goes.
   virtual void BeginWork() = 0;
   virtual void EndWork() = 0;
 

@@ -151,7 +151,7 @@ inline constexpr EnumArray<Vulnerability, std::string_view, 4> PBNVul{{"None", "
 inline constexpr int kFirstBoardNumber = 1;
 inline constexpr int kLastBoardNumber = 999;
 
-/// A number under which a board can be stored, as against one merely read from a file.
+/// A number under which a board can be stored, as opposed to one merely read from a file.
 constexpr bool IsStorable(int boardNumber) {
   return boardNumber >= kFirstBoardNumber && boardNumber <= kLastBoardNumber;
 }

@@ -33,7 +33,7 @@ int WeightedPick(std::span<const double> weights, int low, int high, RandomSourc
     const int index = low + i++;
     if (weight <= 0) continue;
     sum += weight;
-    picked = index;  // stands at the end, should rounding have made x as large as the total
+    picked = index;  // stays at the end if rounding has made x as large as the total
     if (sum > x) break;
   }
   return picked;

@@ -13,7 +13,7 @@ namespace tricklet {
 struct RecordedPlay {
   tricklet::Board board;    ///< deal, calls and contract; not the current board
   std::vector<Card> cards;  ///< in the order in which they were played; not necessarily legal
-  /// Of the declarer, 0..13; known beside the cards, since a claim ends their record.
+  /// Declarer's tricks, 0..13; kept beside `cards`, which end where somebody claimed.
   std::optional<int> tricks;
 };
 

@@ -15,7 +15,7 @@ constexpr std::string_view kMacro = "macro";
 constexpr std::string_view kOptions = "Tricklet";
 constexpr std::string_view kWindowText = "&H80000008";
 
-/// A table row for a member of `Settings`, or of one of its two fonts.
+/// The accessor of a table row, for a member of `Settings` or of one of its two fonts.
 #define TRICKLET_FIELD(member) [](Settings& settings) -> SettingField { return &settings.member; }
 
 constexpr std::array kTable{

@@ -85,7 +85,7 @@ class SettingsStore {
   /// Nothing when the key has never been written.
   virtual std::optional<std::string> Read(std::string_view section, std::string_view key) const = 0;
   virtual void Write(std::string_view section, std::string_view key, const std::string& value) = 0;
-  /// Makes what was written last beyond this program's end. False when it could not be.
+  /// Makes sure that what was written outlasts this program. False when that failed.
   virtual bool Sync() { return true; }
 };
 
@@ -99,7 +99,7 @@ class MemoryStore : public SettingsStore {
   std::vector<std::pair<std::string, std::string>> values_;  // "section/key" to value
 };
 
-/// Another store, but for the section "macro" (root and library), which stays in memory. Used when
+/// Lies over another store and keeps the section "macro" (root and library) in memory. Used when
 /// a root or library is named for one call only. A root that was not named is the stored one, and
 /// another root that is chosen instead reaches the store below.
 class OverlayStore : public SettingsStore {

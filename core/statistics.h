@@ -27,8 +27,9 @@ struct Statistics {
 
 Statistics GetStats(const HandTable& hands);
 
-/// Losers of one suit: one for each of ace, king and queen, as far as the suit is long, that is not
-/// held. A holding headed by ace, jack, ten without king and queen counts exactly one.
+/// Losers of one suit: of the ace, king and queen, but of no more of them than the suit has cards,
+/// each one that is missing. A holding headed by ace, jack, ten without king and queen counts
+/// exactly one.
 int SuitLosers(Holding holding);
 
 /// The caption of each hand from the four caption switches of `settings`, for example

@@ -44,8 +44,7 @@ std::size_t SequenceLength(std::string_view bytes) {
   return length;
 }
 
-/// Length of the ASCII text that `bytes` begins with, in whole words: what is left of the last word
-/// is not counted.
+/// Length of the ASCII text that `bytes` begins with, rounded down to whole machine words.
 std::size_t AsciiLength(std::string_view bytes) {
   constexpr std::uint64_t kHighBits = 0x8080808080808080;
   std::size_t length = 0;
@@ -128,7 +127,7 @@ std::string ZeroPadded(int number, std::size_t digits) {
 }
 
 std::string ShortestText(float number) {
-  constexpr std::size_t kLongest = 64;  // the digits of the largest or smallest, point and sign
+  constexpr std::size_t kLongest = 64;  // more than any finite float needs without an exponent
   std::array<char, kLongest> digits{};
   const auto written =
       std::to_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed);
