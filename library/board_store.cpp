@@ -42,7 +42,7 @@ void AddMissingTable(Session& session, const fs::path& path, Board& board) {
   try {
     ReplaceWholeFile(path, WriteBoardText(board));
   } catch (const Fault&) {
-    // The table is on the screen all the same; where the folder is read-only it stays there.
+    // The table is on the screen all the same; it just cannot be kept in a read-only folder.
   }
 }
 

@@ -8,7 +8,7 @@
 
 namespace tricklet {
 
-/// Says that the file is marked read-only, and that its board cannot be saved therefore.
+/// The message that the file is marked read-only, so that its board cannot be saved.
 std::string ReadOnlyText(const std::filesystem::path& path);
 
 /// Writes the current board to its file in the current library. Asks before a changed board
@@ -18,8 +18,8 @@ bool SaveHand(Session& session, Buttons style = Buttons::YesNo);
 
 /// Stores the current board of a run (import, generation): no question, no rescan of the library.
 /// Throws `Fault`: PathFileAccess with `ReadOnlyText` when the file is marked read-only,
-/// SubscriptOutOfRange when the board's number is none of a library, or that of the disk. The old
-/// file is then as it was.
+/// SubscriptOutOfRange when no library can hold a board of that number, or the number of the disk's
+/// own failure. The old file is then as it was.
 void StoreBoard(Session& session);
 
 /// Reads the current board from its file. Without a file the board is cleared and its number stays;

@@ -152,8 +152,8 @@ int OpenBeside(const fs::path& path, fs::path& beside) {
   }
 }
 
-/// Puts `beside` in the place of `path`, which may be marked read-only: who may use a file is its
-/// owner's wish, and the new one keeps to it.
+/// Puts `beside` in the place of `path`, which may be marked read-only. The owner has decided who
+/// may use the file, so the new one keeps the permissions of the old.
 std::error_code PutInPlace(const fs::path& beside, const fs::path& path) {
   std::error_code failure;
   std::error_code ignored;
@@ -161,15 +161,15 @@ std::error_code PutInPlace(const fs::path& beside, const fs::path& path) {
   if (fs::exists(old)) fs::permissions(beside, old.permissions() & fs::perms::all, ignored);
   fs::rename(beside, path, failure);
   if (!failure || !IsReadOnly(path)) return failure;
-  // Here the mark protects the name as well.
+  // On this system the mark protects the name as well.
   fs::permissions(path, fs::perms::owner_write, fs::perm_options::add, ignored);
   fs::rename(beside, path, failure);
   if (failure) fs::permissions(path, fs::perms::owner_write, fs::perm_options::remove, ignored);
   return failure;
 }
 
-/// Lets `write` fill a new file beside `path` and puts it in its place; unless `write` says no or
-/// throws, and then nothing has changed.
+/// Lets `write` fill a new file beside `path` and puts it in its place. When `write` says no or
+/// throws, nothing has changed.
 bool ReplaceBy(const fs::path& path, const std::function<bool(int)>& write) {
   fs::path beside;
   std::error_code ignored;

@@ -18,7 +18,7 @@ std::string ReadWholeFile(const std::filesystem::path& path, std::size_t maxByte
 /// `Fault`, and then the old file is as it was.
 void ReplaceWholeFile(const std::filesystem::path& path, std::string_view data);
 
-/// Copies the regular file `from` to the place of `to`, whole or not at all, with its time of
+/// Copies the regular file `from` to the place of `to`, whole or not at all, with its time of last
 /// change. `goOn` is asked between pieces; when it says no, nothing was copied and false comes
 /// back. Throws `Fault`, also when `from` is a link or no regular file; `to` is then as it was.
 bool CopyWholeFile(const std::filesystem::path& from, const std::filesystem::path& to,

@@ -29,8 +29,8 @@ bool IsFolder(const fs::path& path) {
   return fs::is_directory(path, ignored);
 }
 
-/// The name under which a library has the board of the file `name`, which may have another ending
-/// in letter case; empty when it is that name already, or none of a board.
+/// The name that a library needs for the board file `name`, whose ending may be in another letter
+/// case. Empty when the name is right already, or is not that of a board.
 std::string BoardNameFor(const std::string& name) {
   constexpr std::size_t kDigits = 3;
   const std::string board = name.substr(0, kDigits) + ".txt";
@@ -45,7 +45,7 @@ void MarkReadOnly(const fs::path& file) {
   fs::permissions(file, kWrite, fs::perm_options::remove, ignored);
 }
 
-/// From one place to another, whole, also where that is another disk.
+/// Moves a whole file, also to another disk.
 void MoveFile(const fs::path& from, const fs::path& to) {
   std::error_code failure;
   fs::rename(from, to, failure);
@@ -111,7 +111,7 @@ bool FolderCopy::Step(const Item& item) {
   return host_.Step("Copying library " + item.name, done_, total_);
 }
 
-/// What there is to copy, before anything is written.
+/// Lists what there is to copy, before anything is written.
 bool FolderCopy::List(Item& item) {
   if (!IsFolder(item.from)) {
     throw Fault(FaultNumber::PathNotFound, "There is no folder " + PathText(item.from));

@@ -19,7 +19,7 @@ enum class FileNames : std::uint8_t {
 };
 
 /// Folders on their way into one folder. They are copied into a hidden folder there first, and
-/// put in their places when all is complete, so that nothing is ever left half.
+/// put in their places when all is complete, so that nothing is ever left half-copied.
 ///
 /// Files and folders are copied, with their times of change and read-only marks. Links inside a
 /// folder and special files are not.
@@ -83,7 +83,7 @@ class FolderCopy {
   std::vector<std::filesystem::path> madeAbove_;  // `into` and what was missing above it
   std::vector<Item> items_;
   std::vector<Placed> placed_;
-  std::vector<std::filesystem::path> madeInside_;  // folders in folders that were there
+  std::vector<std::filesystem::path> madeInside_;  // in folders that existed before
   int replaced_ = 0;
   int done_ = 0;
   int total_ = 0;

@@ -21,7 +21,7 @@ int PositionOf(const std::vector<std::string>& names, std::string_view name) {
   return found == names.end() ? -1 : static_cast<int>(found - names.begin());
 }
 
-/// Makes `name` the current library and shows its first board; the list must hold it.
+/// Makes the library at `index` of the list the current one and loads its board 1.
 void EnterLibrary(Session& session, int index) {
   session.libIndex = index;
   session.settings.library = session.libraryNames.at(static_cast<std::size_t>(index));

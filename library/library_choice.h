@@ -1,5 +1,4 @@
-// Choosing a library and a board, and what may become of a library then: a new one, another name,
-// fewer boards.
+// Choosing a library and a board; creating, renaming and trimming libraries.
 #pragma once
 
 #include <string_view>

@@ -11,18 +11,18 @@ namespace tricklet {
 /// The folder exists; tells when it does not.
 bool RequireFolder(Session& session, const std::filesystem::path& folder);
 
-/// The folder can be the root of libraries. A drive cannot, which is told.
+/// The folder can be the library root. A drive cannot be, and the person is told so.
 bool AcceptLibraryRoot(Host& host, const std::filesystem::path& folder);
 
-/// Makes the folder in one that must be there: a drive that is gone is not to be made anew out of
-/// folders. True too when it exists; a failure is reported.
+/// Makes the folder, but none above it: a folder must not take the place of a drive that is gone.
+/// True too when it exists; a failure is reported.
 bool MakeFolder(Session& session, const std::filesystem::path& path);
 
 /// Tells that the root has no library of the name.
 void TellNoLibrary(Session& session, const std::string& name);
 
-/// The folder of the current library exists, or has been made, which needs a name that is fit for a
-/// new one. Tells when it does not, and reports when it could not be made.
+/// The folder of the current library exists, or has been made, provided that its name is fit for a
+/// new library. Tells when the name is not, and reports when the folder could not be made.
 bool RequireLibraryFolder(Session& session);
 
 }  // namespace tricklet

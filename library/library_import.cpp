@@ -21,7 +21,7 @@ bool IsNamedLikeABoard(const std::string& name) {
   if (name.size() < kEnding.size()) return false;
   const std::string_view stem = std::string_view(name).substr(0, name.size() - kEnding.size());
   const auto characters = std::count_if(stem.begin(), stem.end(), [](char c) {
-    return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;  // not in the middle of one
+    return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;  // the first byte of one
   });
   return characters == kCharacters &&
          EqualNoCase(std::string_view(name).substr(stem.size()), kEnding);

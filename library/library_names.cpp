@@ -34,7 +34,7 @@ bool AllowedInLibraryName(char32_t character, bool first) {
 bool HasAllowedCharacters(std::string_view name) {
   bool first = true;
   for (const char c : name) {
-    // Bytes of other characters are all allowed, so a byte can stand for its character here.
+    // All characters outside ASCII are allowed, so each of their bytes may pass as a character.
     if (!AllowedInLibraryName(static_cast<unsigned char>(c), first)) return false;
     first = false;
   }

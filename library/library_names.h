@@ -11,14 +11,14 @@
 
 namespace tricklet {
 
-/// What file systems take for a name, in bytes.
+/// The longest name that file systems take, in bytes.
 inline constexpr std::size_t kLongestLibraryName = 255;
 
 /// `character` may be typed into the name of a library, at its beginning (`first`) or later.
 bool AllowedInLibraryName(char32_t character, bool first);
 
-/// A new library can have the name, as far as its characters go: all are allowed, there is one at
-/// least, and the name is not longer than `kLongestLibraryName`.
+/// A new library can have the name, as far as its characters go: all are allowed, there is at least
+/// one, and the name is not longer than `kLongestLibraryName`.
 bool HasAllowedCharacters(std::string_view name);
 
 /// A folder of this name, made by whatever program, is a library: the name is a single element of a
@@ -39,7 +39,8 @@ std::vector<std::string> FoldersOf(const std::filesystem::path& root);
 /// it, or else that name in another letter case. Empty when there is none.
 std::string NameMeant(const std::vector<std::string>& names, std::string_view name);
 
-/// The library root has a folder of the name, in whatever letter case, or something else of it.
+/// The library root has a folder of the name, in whatever letter case, or anything else of just
+/// this name.
 bool IsTakenInRoot(const Session& session, std::string_view name);
 
 /// The name, without the blanks around it, can be given to a new library: its characters are

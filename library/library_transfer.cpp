@@ -26,7 +26,7 @@ bool SameFolder(const fs::path& a, const fs::path& b) {
   return a == b || fs::equivalent(a, b, ignored);
 }
 
-/// A folder can be another root: no drive, and not the root that there is; else says so.
+/// The folder can become the root: it is neither a drive nor the root already. Else says so.
 bool AcceptRoot(Session& session, const fs::path& folder) {
   if (IsDriveRoot(folder)) {
     session.host.Tell("Please choose a sub-folder, not " + PathText(folder));
@@ -81,7 +81,7 @@ bool ExportAll(Session& session, const fs::path& folder) {
   return !names.empty() && CopyAll(session, names, folder);
 }
 
-/// Makes `folder` the library root, with the current library when it has that.
+/// Makes `folder` the library root and keeps to the current library if the folder has it.
 bool SwitchRoot(Session& session, const fs::path& folder) {
   std::error_code failure;
   const std::string library =

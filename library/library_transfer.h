@@ -35,8 +35,8 @@ bool MoveLibrariesTo(Session& session, const std::filesystem::path& folder);
 bool ImportLibrary(Session& session);
 bool ImportLibraryFrom(Session& session, const std::filesystem::path& folder);
 
-/// `mnuImportLibraries`: copies each library of a folder into the root, but those whose names are
-/// taken and those without boards. The current library stays the current one.
+/// `mnuImportLibraries`: copies each library of a folder into the root, except those whose names
+/// are taken and those without boards. The current library stays the current one.
 bool ImportLibraries(Session& session);
 bool ImportLibrariesFrom(Session& session, const std::filesystem::path& folder);
 

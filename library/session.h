@@ -34,7 +34,7 @@ struct Session {
   Settings settings;
 
   Board board;                            ///< the current board
-  int boardsLoaded = 0;                   ///< counts the loads of `board`: it may be another one
+  int boardsLoaded = 0;                   ///< counts up whenever `board` is loaded afresh
   LibraryState library;                   ///< the current library
   std::vector<std::string> libraryNames;  ///< all libraries of the root, in the order of the list
   int libIndex = -1;                      ///< the current library's position in it, -1 when none

@@ -45,7 +45,7 @@ bool ChooseLibraryRoot(Session& session) {
 }
 
 /// A library that is gone is made again. Where it cannot be, the first of the root will take its
-/// place: without a word, unless the name is none that a library can have had.
+/// place: without a word, unless no library can ever have had the name.
 void MakeStoredLibraryAgain(Session& session) {
   std::string name = session.LibraryName();
   if (name.empty() || !AcceptLibraryName(session.host, name)) return;

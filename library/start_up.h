@@ -21,14 +21,15 @@ std::string UpdateText(const Settings& settings);
 /// when the person says that he does not want it again.
 void ShowNotice(Session& session);
 
-/// The library to open in a root other than the stored one: of the stored name where the root has
-/// it, else its first; "Default" where it has none.
+/// The library to open in a root other than the stored one: the library of the stored name if the
+/// root has it, else its first; "Default" when it has none.
 std::string LibraryOfRoot(const std::filesystem::path& root, const std::string& stored);
 
 /// Makes sure that the library root and the current library exist (asking for a root when there is
 /// none), lists libraries and boards and loads board 1. `named` is the library that was asked for,
-/// in whatever letter case, if any: it is not made when the root does not have it, but told, and
-/// the current or the first library opens. False when no root was chosen: the program ends then.
+/// if any, in whatever letter case. When the root does not have it, the person is told, it is not
+/// made, and the current or the first library opens. False when no root was chosen: the program
+/// ends then.
 bool OpenLibraries(Session& session, const std::string& named = {});
 
 }  // namespace tricklet

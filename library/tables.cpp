@@ -36,11 +36,11 @@ struct SolvedBatch {
   std::string failure;
 };
 
-/// How far a run is.
+/// How far a run has got.
 struct Progress {
   int done = 0;
   int total = 0;
-  Clock::duration taken{};  // for those that are done
+  Clock::duration taken{};  // for the boards done
   Clock::duration since{};
 };
 

@@ -1,4 +1,4 @@
-// Makeable tables of boards that lie in their files.
+// Makeable tables of stored boards.
 #pragma once
 
 #include <filesystem>
@@ -21,7 +21,7 @@ bool RequireSolver(const Session& session);
 struct AnalysisOutcome {
   int computed = 0;    ///< tables stored
   int incomplete = 0;  ///< boards that are no complete deal, or cannot be read
-  std::vector<std::filesystem::path> readOnly;  ///< files of boards that were left for their mark
+  std::vector<std::filesystem::path> readOnly;  ///< left alone, as they are marked read-only
   bool cancelled = false;
   std::string failure;  ///< the solver's; empty when there was none
 };
@@ -35,7 +35,7 @@ AnalysisOutcome AnalyseBoards(Session& session, Solver& solver, int first, int l
 /// `mnuAnalyse`: the whole library, after `CheckSaveChanges`; tells how it ended.
 void AnalyseLibrary(Session& session, Solver& solver, bool again = false);
 
-/// How an analysis ended, in words, a line for each thing that there is to say.
+/// How an analysis ended, in words: a line for each thing to report.
 std::string AnalysisText(const AnalysisOutcome& outcome);
 
 }  // namespace tricklet

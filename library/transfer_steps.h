@@ -23,10 +23,10 @@ std::filesystem::path FolderNamed(const std::filesystem::path& folder);
 /// The person says OK to a text that announces what is to be chosen or done.
 bool AskToChoose(Session& session, const std::string& text);
 
-/// What becomes of unsaved changes before a copy, once nothing speaks against it any more.
+/// What becomes of unsaved changes before a copy, once nothing stands in its way.
 enum class Unsaved : std::uint8_t {
-  Stay,     ///< what is copied does not hold them
-  Settled,  ///< what is copied is what is stored
+  Stay,     ///< they are kept: the board is not among what is copied
+  Settled,  ///< the person is asked: what is copied is what is stored
 };
 
 /// How folders are copied.
