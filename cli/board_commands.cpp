@@ -56,7 +56,7 @@ ExitCode WriteSetting(const Context& context, const SettingEntry& entry, std::st
   return ExitCode::Refused;
 }
 
-/// An empty library that this call has made for boards that then did not come.
+/// Removes the library that this call made for boards when none of them arrived.
 void RemoveIfEmpty(const Session& session) {
   std::error_code ignored;
   fs::remove(session.LibraryPath(), ignored);  // only an empty folder goes

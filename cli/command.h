@@ -19,8 +19,8 @@ using Command = std::function<ExitCode(const Context&, const ConsoleHost&)>;
 /// What `app` carries out when it is chosen.
 void WhenChosen(CLI::App& app, Command& command, Command procedure);
 
-/// For the checks of options that are names or folders: a script's empty variable must not mean
-/// another library. The complaint, empty when there is none.
+/// A check for options that are names or folders: an empty variable of a script must not lead to
+/// another library. Returns the complaint, empty when there is none.
 std::string NotEmpty(const std::string& text);
 
 /// Adds the argument N, a board number 1..999.

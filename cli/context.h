@@ -12,7 +12,7 @@ namespace tricklet::cli {
 struct Context {
   Session& session;
   std::ostream& data;
-  bool rootNamed = false;  ///< for this call: it may be a new one
+  bool rootNamed = false;  ///< the root was named for this call, and may be a new folder
 };
 
 enum class ExitCode : int { Done = 0, Refused = 1, Usage = 2 };

@@ -92,7 +92,7 @@ ExitCode ClearBoard(const Context& context, const EditArguments& /*arguments*/) 
   return ExitCode::Done;
 }
 
-/// Loads the board, or begins it where it is not there yet and need not be.
+/// Loads the board, or begins a new one where the edit allows that.
 bool LoadOrBegin(const Context& context, const EditArguments& arguments) {
   Session& session = context.session;
   if (!arguments.mayBegin) return LoadBoard(context, arguments.board);

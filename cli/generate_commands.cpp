@@ -33,7 +33,7 @@ struct HandArguments {
 struct GenerateArguments {
   int first = 1;
   int last = 1;
-  PerGenHand<HandArguments> hands;    ///< the second is constrained when anything is said of it
+  PerGenHand<HandArguments> hands;    ///< the second counts only when it has an option
   std::optional<std::uint64_t> seed;  ///< the same seed gives the same deals
   bool analyse = false;               ///< computes the double-dummy tables too
 };
@@ -180,7 +180,7 @@ ExitCode GenerateBoards(const Context& context, const GenerateArguments& argumen
   context.data << outcome.boardsStored << (outcome.boardsStored == 1 ? " board" : " boards")
                << " generated\n";
   if (outcome.cancelled || outcome.failed) return ExitCode::Refused;
-  // Tables that were cancelled or failed have been told of already.
+  // That tables were cancelled or failed has been reported already.
   if (!outcome.tables.failure.empty() || outcome.tables.cancelled) return ExitCode::Refused;
   if (arguments.analyse) session.host.Tell(AnalysisText(outcome.tables));
   return ExitCode::Done;

@@ -1,4 +1,4 @@
-// The command line program: gives the command line its process.
+// The command-line program: connects `cli::Run` to the process.
 #include <filesystem>
 #include <iostream>
 

@@ -23,7 +23,7 @@ namespace {
 struct PlayArguments {
   int board = 0;
   std::vector<std::string> cards;    ///< "SA", "H10" or "HT", in any letter case
-  int undo = 0;                      ///< how often to take back the claim or else a card
+  int undo = 0;                      ///< how many times to take back the last card or claim
   std::optional<std::string> claim;  ///< the seat on play that claims the rest
   bool claimFirst = false;           ///< the claim comes before the undo
 };

@@ -48,8 +48,8 @@ ConsoleOptions OptionsFrom(const Arguments& arguments, const Console& console) {
   return options;
 }
 
-/// Tells what is wrong with the arguments. An unknown word is told of before a missing command or
-/// file: most likely it is that one, misspelt.
+/// Tells what is wrong with the arguments. An unknown word is reported before a missing command or
+/// file: most likely it is the missing one, misspelt.
 int Tell(const CLI::App& app, const CLI::ParseError& error, const Console& console) {
   std::vector<std::string> unknown = app.remaining(true);
   if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError) &&

@@ -17,7 +17,7 @@ struct Console {
   std::istream& in;
   std::ostream& data;      ///< standard output
   std::ostream& messages;  ///< standard error
-  bool terminal = false;   ///< both ends of the conversation are a person's
+  bool terminal = false;   ///< a person reads the messages and types the answers
   const std::atomic<bool>& interrupted;
   /// The double-dummy solver, asked for when it is first needed; empty: none.
   std::function<Solver&()> solver;
