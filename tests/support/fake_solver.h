@@ -3,6 +3,7 @@
 #pragma once
 
 #include <atomic>
+#include <functional>
 #include <mutex>
 #include <string>
 #include <vector>
@@ -24,7 +25,9 @@ class FakeSolver : public Solver {
     dealsSolved += deals.size();
     return failure;
   }
-  std::vector<CardScore> SolveCards(const SolverPosition& /*position*/) override { return {}; }
+  std::vector<CardScore> SolveCards(const SolverPosition& position) override {
+    return solveCards ? solveCards(position) : std::vector<CardScore>();
+  }
 
   /// Numbers 0..13 that differ from deal to deal.
   static SolverRecord RecordOf(const std::string& deal) {
@@ -37,6 +40,7 @@ class FakeSolver : public Solver {
     return record;
   }
 
+  std::function<std::vector<CardScore>(const SolverPosition&)> solveCards;
   std::string missing;
   std::string failure;
   std::vector<std::size_t> batches;

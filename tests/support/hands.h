@@ -8,6 +8,12 @@
 
 namespace tricklet::test {
 
+/// The card that "SA" or "CT" names.
+inline Card CardOf(std::string_view text) {
+  return {static_cast<Suit>(std::string_view("SHDC").find(text[0])),
+          static_cast<Rank>(std::string_view("AKQJT98765432").find(text[1]))};
+}
+
 /// The hands of a PBN deal, "N:AQ5.K86.. - - -": the seat of the first hand, then the hands
 /// clockwise. The ten may also be written "10".
 inline HandTable HandsOf(std::string_view deal) {

@@ -64,9 +64,10 @@ inline std::string OneSuitEachText() {
   return WriteBoardText(board);
 }
 
-class LibraryTest : public testing::Test {
+template <class TestHost>
+class LibraryTestBy : public testing::Test {
  protected:
-  LibraryTest() : session(host, store) {
+  LibraryTestBy() : session(host, store) {
     session.settings.filelocation = FolderText(folder.Path());
     session.settings.library = "Club";
     std::filesystem::create_directories(session.LibraryPath());
@@ -98,9 +99,10 @@ class LibraryTest : public testing::Test {
   }
 
   TempFolder folder;
-  ScriptedHost host;
+  TestHost host;
   MemoryStore store;
   Session session;
 };
+using LibraryTest = LibraryTestBy<ScriptedHost>;
 
 }  // namespace tricklet::test

@@ -12,23 +12,21 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QLineEdit>
+#include <QTableWidget>
 #include <QTest>
 #include <QTimer>
 
 #include "library/library_choice.h"
+#include "tests/support/calls.h"
 #include "tests/support/library_fixture.h"
+#include "tests/support/records.h"
 #include "tests/support/words.h"
 #include "ui/style/progress_frame.h"
 #include "ui/style/qt_text.h"
+#include "ui/table/table_view.h"
 #include "ui/window/main_window.h"
 
 namespace tricklet::ui {
-
-/// A file with a board of this number: North the spades, East the hearts and so on.
-inline std::string PbnBoard(int number) {
-  return "% PBN 2.1\n[Board \"" + std::to_string(number) +
-         "\"]\n[Deal \"N:AKQJT98765432... .AKQJT98765432.. ..AKQJT98765432. ...AKQJT98765432\"]\n";
-}
 
 /// Follows a script, and shows work in the window as the program does.
 class WindowHost : public test::ScriptedHost {
@@ -63,6 +61,10 @@ struct Driven {
   void Click(const char* name) const { QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton); }
   /// Whatever part of the button the mouse would have to hit.
   void Press(const char* name) const { Find<QAbstractButton>(name)->click(); }
+  /// The buttons of a list, in turn.
+  void PressAll(const char* names) const {
+    for (const std::string& name : test::Words(names)) Press(name.c_str());
+  }
   /// Replaces the text of a line or an editable combo box by typing.
   void Type(const char* name, const char* text) const {
     auto* box = top->findChild<QComboBox*>(QString::fromLatin1(name));
@@ -70,6 +72,10 @@ struct Driven {
     line->setFocus();
     line->selectAll();
     QTest::keyClicks(line, QString::fromLatin1(text));
+  }
+  void TypeAndEnter(const char* name, const char* text) const {
+    Type(name, text);
+    FocusKey("Return");
   }
 
   std::string Text(const char* name) const {
@@ -116,25 +122,45 @@ struct Driven {
   }
   /// One after the other.
   static void FocusKeys(std::string_view keys) {
-    for (const char key : keys) {
-      ASSERT_NE(QApplication::focusWidget(), nullptr);
-      QTest::keyClick(QApplication::focusWidget(), key);
-    }
+    for (const char key : keys) FocusKey(std::string(1, key).c_str());
   }
 };
 
 /// Library Club with boards 1, 3, 22 and 24, and the empty library Teaching.
-class WindowTest : public testing::Test, protected Driven {
+class WindowTest : public test::LibraryTestBy<WindowHost>, protected Driven {
  protected:
-  WindowTest() : session(host, store) {
-    session.settings.filelocation = FolderText(folder.Path());
-    session.settings.library = "Club";
+  using Driven::Shown;
+
+  WindowTest() {
     for (const int number : {1, 3, 22, 24}) PutBoard(number);
     std::filesystem::create_directories(folder.Path() / "Teaching");
     GetLibraryNames(session);
   }
 
-  void PutBoard(int number) { test::WriteFile(session.BoardPath(number), test::OneSuitEachText()); }
+  TableView* Table() const { return window->findChild<TableView*>(); }
+  void ClickAt(QPointF at) const {
+    QTest::mouseClick(Table(), Qt::LeftButton, Qt::NoModifier, at.toPoint());
+  }
+  void Bid(const std::string& auction) {
+    test::SetAuction(session.board, auction);
+    window->Display();
+  }
+  /// The auction pane's, "1\u2660 Dbl".
+  std::string Calls() const {
+    const auto* grid = Find<QTableWidget>("flexBids");
+    QStringList calls;
+    for (int place = 0; place < grid->rowCount() * kSeats; ++place) {
+      const auto* item = grid->item(place / kSeats, place % kSeats);
+      if (item != nullptr) calls += item->text();
+    }
+    return FromQt(calls.join(QLatin1Char(' ')));
+  }
+  void ImportBoardFive() {
+    test::WriteFile(folder.Path() / "five.pbn", test::PbnText({5}));
+    host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
+    host.ExpectTell("Hand 5 has been saved to the library - Club");
+    window->ImportFiles({folder.Path() / "five.pbn"});
+  }
 
   void Open() {
     window = std::make_unique<MainWindow>(session);
@@ -147,13 +173,12 @@ class WindowTest : public testing::Test, protected Driven {
 
   void TearDown() override { EXPECT_EQ(dialogsLeft, 0) << "expected but not opened"; }
 
-  /// Has `work` work the next dialog of the type once it is up; it has to close it.
-  template <class Dialog = QDialog>
+  /// Has `work` work the next dialog once it is up; it has to close it.
   void Expect(const std::function<void(const Driven&)>& work) {
     ++dialogsLeft;
     auto* timer = new QTimer(window.get());
     QObject::connect(timer, &QTimer::timeout, timer, [this, timer, work] {
-      auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+      auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
       if (dialog == nullptr) return;
       timer->stop();
       timer->deleteLater();
@@ -165,11 +190,13 @@ class WindowTest : public testing::Test, protected Driven {
     });
     timer->start(0);
   }
+  /// Gives the command by its key and works the dialog that it opens.
+  void WithDialog(const char* key, const std::function<void(const Driven&)>& work) {
+    Expect(work);
+    Key(key);
+    EXPECT_EQ(dialogsLeft, 0);
+  }
 
-  test::TempFolder folder;
-  WindowHost host;
-  MemoryStore store;
-  Session session;
   std::unique_ptr<MainWindow> window;
   int dialogsLeft = 0;
 };

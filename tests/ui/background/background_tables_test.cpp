@@ -5,6 +5,7 @@
 
 #include "analysis/deal_text.h"
 #include "analysis/get_dds.h"
+#include "generate/deal.h"
 #include "library/board_file.h"
 #include "library/board_store.h"
 #include "library/library_choice.h"
@@ -22,16 +23,14 @@ class BackgroundTablesTest : public test::LibraryTest {
   BackgroundTablesTest() {
     for (int number = 1; number <= kBoards; ++number) {
       Board board;
-      for (int card = 0; card < kCardsInPack; ++card) {
-        // another deal for every number: the pack dealt round, cut at the number
-        AddCard(board.hands, Card::FromIndex((card * 7 + number) % kCardsInPack),
-                static_cast<Seat>((card / 13 + number) % kSeats));
-      }
+      Random(board.hands, session.random);
       test::WriteFile(session.BoardPath(number), WriteBoardText(board));
     }
     FindFiles(session);
     session.getSolver = [this]() -> Solver& { return solver; };
     session.tablesInBackground = true;
+    QObject::connect(&tables, &BackgroundTables::Said,
+                     [this](const QString& text) { said += text; });
   }
   void Go(int number) { ASSERT_TRUE(SelectBoard(session, number)); }
   /// The worker has had this many deals; their tables are delivered with the next events.
@@ -56,10 +55,11 @@ class BackgroundTablesTest : public test::LibraryTest {
   }
 
   test::FakeSolver solver;
+  BackgroundTables tables{session};
+  QStringList said;
 };
 
 TEST_F(BackgroundTablesTest, EveryBoardSteppedOverGetsItsOwnTable) {
-  BackgroundTables tables(session);
   for (int number = 1; number <= kBoards; ++number) {
     Go(number);
     tables.ComputeMissing();
@@ -73,7 +73,6 @@ TEST_F(BackgroundTablesTest, EveryBoardSteppedOverGetsItsOwnTable) {
 }
 
 TEST_F(BackgroundTablesTest, ABoardChangedMeanwhileKeepsNoForeignTable) {
-  BackgroundTables tables(session);
   Go(3);
   tables.ComputeMissing();
   test::WriteFile(session.BoardPath(3), test::OneSuitEachText());
@@ -87,9 +86,6 @@ TEST_F(BackgroundTablesTest, ABoardChangedMeanwhileKeepsNoForeignTable) {
 }
 
 TEST_F(BackgroundTablesTest, ATableThatIsAskedForIsAChangeOfTheBoard) {
-  BackgroundTables tables(session);
-  QString said;
-  QObject::connect(&tables, &BackgroundTables::Said, [&](const QString& text) { said = text; });
   Go(1);
   const std::string before = test::ReadFile(session.BoardPath(1));
   tables.ComputeAsked();
@@ -114,14 +110,11 @@ TEST_F(BackgroundTablesTest, ATableThatIsAskedForIsAChangeOfTheBoard) {
   tables.ComputeAsked();
   Go(3);
   ASSERT_TRUE(QTest::qWaitFor([&] { return !said.isEmpty(); }));
-  EXPECT_TRUE(said.contains(QStringLiteral("board 2"))) << FromQt(said);
+  EXPECT_TRUE(said.front().contains(QStringLiteral("board 2"))) << FromQt(said.front());
   EXPECT_FALSE(session.board.makeableValid || session.board.handChanged || HasOwnTable(2));
 }
 
 TEST_F(BackgroundTablesTest, AFailureIsAMessageToWhoAsksAndALineToOthers) {
-  BackgroundTables tables(session);
-  QStringList said;
-  QObject::connect(&tables, &BackgroundTables::Said, [&](const QString& text) { said += text; });
   solver.failure = "Too many tables";
   Go(1);
   tables.ComputeMissing();

@@ -10,12 +10,8 @@
 namespace tricklet::ui {
 namespace {
 
-// The table of a window of 1024 x 700, smaller, wide, tall, and up to 4K.
-const std::array kSizes{QSizeF(780, 640),  QSizeF(560, 420),  QSizeF(520, 900),
-                        QSizeF(1600, 600), QSizeF(1600, 980), QSizeF(3600, 2100)};
-
 TEST(EditLayout, KeepsHandsPackAndCentreApartAndEveryCardOfAFullPackInSight) {
-  for (const QSizeF size : kSizes) {
+  for (const QSizeF size : kTableSizes) {
     SCOPED_TRACE(testing::PrintToString(size));
     const EditLayout layout = LayOutEdit(size, {});
     std::vector<QRectF> parts{layout.table.centre};

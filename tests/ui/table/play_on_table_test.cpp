@@ -7,43 +7,27 @@
 #include <QtTest>
 #include <gtest/gtest.h>
 
-#include "tests/support/hands.h"
+#include "tests/support/calls.h"
 #include "tests/support/scripted_host.h"
+#include "tests/support/words.h"
 #include "tests/ui/geometry.h"
-#include "ui/table/table_centre.h"
-#include "ui/table/table_trick.h"
 #include "ui/table/table_view.h"
-#include "ui/table/tricks_won.h"
 
 namespace tricklet::ui {
 namespace {
-
-/// Four spades by South: West leads.
-Board Playable() {
-  Board board;
-  board.boardNumber = 7;
-  board.hands =
-      test::HandsOf("N:AQ975.K86.KT2.J4 84.T732.AQ3.T652 KJT3.A4.9654.AK7 62.QJ95.J87.Q983");
-  board.contract = "4S";
-  board.contractLevel = 4;
-  board.declarer = Seat::South;
-  board.trumps = Strain::Spades;
-  return board;
-}
 
 class PlayOnTableTest : public testing::Test {
  protected:
   void SetUp() override {
     QObject::connect(&view_, &TableView::CardAsked, &view_, [this](Card card) { asked_ = card; });
-    QObject::connect(&view_, &TableView::TrickAsked, &view_, [this] { ++tricksAsked_; });
-    QObject::connect(&view_, &TableView::OnlyCardAsked, &view_, [this] { ++onlyAsked_; });
     view_.resize(760, 680);
+    test::SetAuction(board_, "4S P P P");  // West leads
     ASSERT_TRUE(play_.Start());
     Show();
   }
   void Show() { view_.Show(board_, settings_, &play_); }
-  void Play(std::initializer_list<Card> cards) {
-    for (const Card card : cards) ASSERT_TRUE(play_.Play(card)) << card.Index();
+  void Play(const char* cards) {
+    for (const auto& card : test::Words(cards)) ASSERT_TRUE(play_.Play(test::CardOf(card))) << card;
     Show();
   }
   void PlayLegalCards(int count) {
@@ -67,31 +51,20 @@ class PlayOnTableTest : public testing::Test {
   bool Tells(const char* words) const {
     return view_.accessibleDescription().contains(QString::fromLatin1(words));
   }
-  QImage Picture() {
-    QImage picture(view_.size(), QImage::Format_RGB32);
-    picture.fill(Qt::black);
-    view_.render(&picture);
-    return picture;
-  }
 
-  Board board_ = Playable();
+  Board board_ = OrdinaryBoard();
   Settings settings_;
   test::ScriptedHost host_;
   NoTimer timer_;
   CardPlay play_{board_, host_, timer_};
   TableView view_;
   std::optional<Card> asked_;
-  int tricksAsked_ = 0;
-  int onlyAsked_ = 0;
+  QSignalSpy tricksAsked_{&view_, &TableView::TrickAsked};
+  QSignalSpy onlyAsked_{&view_, &TableView::OnlyCardAsked};
 };
 
-constexpr Card kClubEight{Suit::Clubs, Rank::Eight};
-constexpr Card kClubFour{Suit::Clubs, Rank::Four};
-constexpr Card kClubFive{Suit::Clubs, Rank::Five};
-constexpr Card kClubAce{Suit::Clubs, Rank::Ace};
-
 TEST_F(PlayOnTableTest, AsksForEveryCardLeftWhereItIsShown) {
-  Play({kClubEight, kClubFour, kClubFive});
+  Play("C8 C4 C5");
   for (const bool faces : {true, false}) {
     settings_.cardsFaces = faces;
     Show();
@@ -104,20 +77,20 @@ TEST_F(PlayOnTableTest, AsksForEveryCardLeftWhereItIsShown) {
       EXPECT_EQ(asked_, placed.card);
     }
   }
-  EXPECT_EQ(tricksAsked_, 0);
+  EXPECT_EQ(tricksAsked_.size(), 0);
   asked_.reset();
   const QPoint felt = view_.Layout().centre.center().toPoint();
   Click(felt);
   QTest::mouseDClick(&view_, Qt::LeftButton, Qt::NoModifier, felt);  // its second press
-  EXPECT_EQ(tricksAsked_, 1) << "one card to a double click";
+  EXPECT_EQ(tricksAsked_.size(), 1) << "one card to a double click";
   Click({3, 340});
-  EXPECT_EQ(tricksAsked_, 2) << "beside the cards";
+  EXPECT_EQ(tricksAsked_.size(), 2) << "beside the cards";
   EXPECT_FALSE(asked_);
 }
 
 TEST_F(PlayOnTableTest, KeepsCardsInTheirPlacesAndRaisesAndPointsAtTheLegalOnes) {
   const TableLayout full = LayOutTable(view_.size(), board_.hands, HandDisplay::Cards);
-  Play({kClubEight});
+  Play("C8");
   const TableLayout now = view_.Layout();
   EXPECT_EQ(now.cardSize, full.cardSize);
   for (const PlacedCard& placed : now.cards) {
@@ -137,42 +110,40 @@ TEST_F(PlayOnTableTest, KeepsCardsInTheirPlacesAndRaisesAndPointsAtTheLegalOnes)
 TEST_F(PlayOnTableTest, PlaysByKeysAndLeavesOthersToTheWindow) {
   EXPECT_TRUE(Key(Qt::Key_H));
   EXPECT_TRUE(Key(Qt::Key_Q));
-  EXPECT_EQ(asked_, (Card{Suit::Hearts, Rank::Queen}));
+  EXPECT_EQ(asked_, test::CardOf("HQ"));
   EXPECT_TRUE(Key(Qt::Key_Space));
-  EXPECT_EQ(onlyAsked_, 1);
+  EXPECT_EQ(onlyAsked_.size(), 1);
   EXPECT_FALSE(Key(Qt::Key_PageDown));
-  EXPECT_FALSE(Key(Qt::Key_Escape));
-  asked_.reset();
   EXPECT_FALSE(Key(Qt::Key_Escape, QEvent::ShortcutOverride));
   EXPECT_TRUE(Key(Qt::Key_D));
   EXPECT_TRUE(Key(Qt::Key_Escape, QEvent::ShortcutOverride)) << "it takes back the half-typed suit";
-  Play({kClubEight});  // a half-typed suit belongs to the hand that was on play
+  Play("C8");  // a half-typed suit belongs to the hand that was on play
   EXPECT_FALSE(Key(Qt::Key_9));
   EXPECT_TRUE(Key(Qt::Key_4));
-  EXPECT_EQ(asked_, kClubFour);
+  EXPECT_EQ(asked_, test::CardOf("C4"));
 }
 
 TEST_F(PlayOnTableTest, TakesNothingAndShowsNothingOutsideOfPlay) {
   view_.Show(board_, settings_);
-  const QImage plain = Picture();
+  const QImage plain = PictureOf(view_);
   play_.Stop();
   Show();
-  EXPECT_EQ(Picture(), plain);
+  EXPECT_EQ(PictureOf(view_), plain);
   for (const auto key : {Qt::Key_S, Qt::Key_A, Qt::Key_Space, Qt::Key_Escape, Qt::Key_1}) {
     EXPECT_FALSE(Key(key)) << key;
   }
   Click(view_.Layout().cards.front().rect.center());
   Click({3, 340});
   EXPECT_FALSE(asked_);
-  EXPECT_EQ(tricksAsked_ + onlyAsked_, 0);
+  EXPECT_EQ(tricksAsked_.size() + onlyAsked_.size(), 0);
 }
 
 TEST_F(PlayOnTableTest, TellsTurnTrickAndTricksWon) {
   EXPECT_TRUE(Tells("4S by South. West to play. No card on the table. NS: 0. EW: 0."));
-  Play({kClubEight, kClubFour});
+  Play("C8 C4");
   EXPECT_TRUE(Tells("East to play. On the table: North clubs 4, West clubs 8 (winning). NS: 0"));
   EXPECT_TRUE(Tells("West: spades 6 2; hearts Q J 9 5; diamonds J 8 7; clubs Q 9 3"));
-  Play({kClubFive, kClubAce});
+  Play("C5 CA");
   EXPECT_TRUE(Tells("South to play. On the table: North clubs 4"));
   EXPECT_TRUE(Tells("NS: 1. EW: 0."));
   play_.Claim();
@@ -183,61 +154,22 @@ TEST_F(PlayOnTableTest, TellsTurnTrickAndTricksWon) {
 }
 
 TEST_F(PlayOnTableTest, PaintsEachMomentItsOwnWay) {
-  std::vector<QImage> moments{Picture()};
+  std::vector<QImage> moments{PictureOf(view_)};
   Key(Qt::Key_H);
-  moments.push_back(Picture());
+  moments.push_back(PictureOf(view_));
   for (const int cards : {1, 3, 44, 4}) {
     PlayLegalCards(cards);
-    moments.push_back(Picture());
+    moments.push_back(PictureOf(view_));
   }
   play_.QuitTrick();
   Show();
-  moments.push_back(Picture());
+  moments.push_back(PictureOf(view_));
   for (const auto caller : {std::optional(Seat::West), std::optional<Seat>()}) {
     view_.Show(board_, settings_, nullptr, caller);
-    moments.push_back(Picture());
+    moments.push_back(PictureOf(view_));
   }
   ExpectDifferent(moments);
 }
-
-class TrickGeometry : public testing::TestWithParam<QSizeF> {
- protected:
-  TableLayout table_ = LayOutTable(GetParam(), Playable().hands, HandDisplay::Cards);
-};
-
-TEST_P(TrickGeometry, KeepsTheTrickInThePanelWithEveryIndexInSight) {
-  const QRectF room = TrickRoom(table_.centre);
-  const TrickLayout trick = LayOutTrick(room, table_.cardSize);
-  EXPECT_GE(trick.cardSize.width(), 0.6 * table_.cardSize.width());
-  for (std::size_t i = 0; i < kTrickOrder.size(); ++i) {
-    const QRectF& card = trick.cards[kTrickOrder.at(i)];
-    EXPECT_TRUE(room.adjusted(-1, -1, 1, 1).contains(card));
-    const QRectF rank(card.topLeft(), card.size() * 0.3);
-    for (std::size_t later = i + 1; later < kTrickOrder.size(); ++later) {
-      EXPECT_FALSE(rank.intersects(trick.cards[kTrickOrder.at(later)])) << i << " " << later;
-    }
-    const QRectF& symbol = trick.symbols[kTrickOrder.at(i)];
-    EXPECT_TRUE(symbol.isEmpty() || table_.centre.contains(symbol));
-    for (const PlacedCard& placed : table_.cards) EXPECT_FALSE(placed.rect.intersects(card));
-  }
-}
-
-TEST_P(TrickGeometry, KeepsTricksWonOnTheFeltBesideTheHands) {
-  const TricksWonLayout won = LayOutTricksWon(table_, PlaySnapshot());
-  std::vector<QRectF> parts(won.counts.begin(), won.counts.end());
-  for (const QRectF& back : won.backs) EXPECT_FALSE(back.isEmpty());
-  parts.push_back(won.backs.back());
-  ExpectApart(table_.felt, parts);
-  parts.insert(parts.end(), won.backs.begin(), won.backs.end());
-  for (const QRectF& part : parts) {
-    for (const PlacedCard& placed : table_.cards) EXPECT_FALSE(placed.rect.intersects(part));
-  }
-}
-
-INSTANTIATE_TEST_SUITE_P(Sizes, TrickGeometry,
-                         testing::Values(QSizeF(380, 340), QSizeF(520, 480), QSizeF(760, 680),
-                                         QSizeF(520, 900), QSizeF(900, 680), QSizeF(1600, 600),
-                                         QSizeF(1600, 1000), QSizeF(3840, 2160)));
 
 }  // namespace
 }  // namespace tricklet::ui

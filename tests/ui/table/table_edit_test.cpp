@@ -15,14 +15,12 @@
 namespace tricklet::ui {
 namespace {
 
+using test::CardOf;
+
 constexpr QSizeF kSize(900, 680);
 constexpr double kTremble = 10;
 constexpr std::string_view kFrameLetters = "NESWP";
 
-Card CardOf(std::string_view text) {
-  return {static_cast<Suit>(std::string_view("SHDC").find(text[0])),
-          static_cast<Rank>(std::string_view("AKQJT98765432").find(text[1]))};
-}
 HandFrame FrameOfText(char letter) {
   return static_cast<HandFrame>(kFrameLetters.find(letter));
 }
@@ -109,50 +107,45 @@ TEST(TableEditTest, LetsACardGoHome) {
   Editing table(EditMethod::Dragging, kSuitEach);
   const Card ten = CardOf("CT");
   const QPointF pack = table.At(HandFrame::Pack);
-  const auto dragTo = [&](QPointF place, QPointF drop) {
-    table.Drag(place);
-    table.Drop(drop);
-  };
-  const auto escape = [&] {
-    table.Drag(pack);
-    EXPECT_TRUE(table.Key(Qt::Key_Escape));
-    table.Drop(pack);
-  };
+  const QPointF home = table.At(ten);
+  const auto escape = [&] { EXPECT_TRUE(table.Key(Qt::Key_Escape)); };
   const auto dealAnew = [&] {
-    table.Drag(pack);
     table.edit.Show(test::HandsOf(kEmpty), EditMethod::Dragging);
     table.edit.Show(table.board.hands, EditMethod::Dragging);
-    table.Drop(pack);
   };
-  const std::pair<const char*, std::function<void()>> ways[] = {
-      {"a click", [&] { table.Drop(table.At(ten)); }},
-      {"a hand that trembles", [&] { dragTo(table.At(ten) + QPointF(kTremble / 2, 0), pack); }},
-      {"the middle", [&] { dragTo(pack, table.Layout().table.centre.center()); }},
-      {"outside",
-       [&] {
-         dragTo(pack, {-50, 40});
-       }},
-      {"Escape", escape},
-      {"another deal under the mouse", dealAnew},
+  const struct {
+    const char* name;
+    QPointF over;
+    QPointF drop;
+    std::function<void()> between = [] {};
+  } ways[] = {
+      {"a click", home, home},
+      {"a hand that trembles", home + QPointF(kTremble / 2, 0), pack},
+      {"the middle", pack, table.Layout().table.centre.center()},
+      {"outside", pack, QPointF(-50, 40)},
+      {"Escape", pack, pack, escape},
+      {"another deal under the mouse", pack, pack, dealAnew},
   };
-  for (const auto& [name, drop] : ways) {
+  for (const auto& [name, over, drop, between] : ways) {
     table.Seize(ten);
-    drop();
+    table.Drag(over);
+    between();
+    table.Drop(drop);
     table.Expect("CT:W", name);
     EXPECT_FALSE(table.edit.Held()) << name;
   }
 }
 
 TEST(TableEditTest, ClicksACardAndItsHandOrAHandAndItsCards) {
-  const struct {
-    const char* clicks;  // cards and, by one letter, hands and the pack
-    const char* places;
-  } cases[] = {{"SA W", "SA:W"},          {"SA W SA P", "SA:P"}, {"S SA SK", "SA:S SK:S"},
-               {"CT HA N", "CT:P HA:N"},     // another card is chosen instead
-               {"CT CT N", "CT:P"},          // chosen no more
-               {"S S SA N", "SA:N"},         // nor is the hand
-               {"S SA SA P", "SA:P"},        // a card of the hand itself is chosen
-               {"S SA P SK", "SA:S SK:P"}};  // P takes the place of S
+  // Clicks on cards and, by one letter, on hands and the pack.
+  const std::pair<const char*, const char*> cases[] = {
+      {"SA W", "SA:W"},           {"SA W SA P", "SA:P"},
+      {"S SA SK", "SA:S SK:S"},   {"CT HA N", "CT:P HA:N"},  // another card is chosen instead
+      {"CT CT N", "CT:P"},                                   // chosen no more
+      {"S S SA N", "SA:N"},                                  // nor is the hand
+      {"S SA SA P", "SA:P"},                                 // a card of the hand itself is chosen
+      {"S SA P SK", "SA:S SK:P"},                            // P takes the place of S
+  };
   for (const auto& [clicks, places] : cases) {
     Editing table(EditMethod::Clicking, kEmpty);
     for (const std::string& word : test::Words(clicks)) {
@@ -164,19 +157,13 @@ TEST(TableEditTest, ClicksACardAndItsHandOrAHandAndItsCards) {
 }
 
 TEST(TableEditTest, TypesACardAndItsHandOrAHandAndItsCards) {
-  const struct {
-    const char* keys;  // "<>^v" for the arrows, "!" for Escape, "#" for Delete
-    const char* places;
-  } cases[] = {{"SAN", "SA:N"},
-               {"SAS", "SA:S"},
-               {"H10S", "HT:S"},
-               {"sk<", "SK:W"},
-               {">DAKQcT", "DA:E DK:E DQ:E CT:E"},
-               {"SANSA#", "SA:P"},
-               {"SANSAP", "SA:P"},
-               {"^SA!SK", "SA:N SK:P"},
-               {"SA!v", "SA:P"},
-               {"SAHKE", "SA:P HK:E"}};
+  // "<>^v" for the arrows, "!" for Escape, "#" for Delete.
+  const std::pair<const char*, const char*> cases[] = {
+      {"SAS", "SA:S"},         {"H10S", "HT:S"},
+      {"sk<", "SK:W"},         {">DAKQcT", "DA:E DK:E DQ:E CT:E"},
+      {"SANSA#", "SA:P"},      {"SANSAP", "SA:P"},
+      {"^SA!SK", "SA:N SK:P"}, {"SA!v", "SA:P"},
+      {"SAHKE", "SA:P HK:E"}};
   for (const auto& [keys, places] : cases) {
     Editing table(EditMethod::Dragging, kEmpty);
     for (const char key : std::string_view(keys)) {

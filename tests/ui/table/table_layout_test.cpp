@@ -12,27 +12,24 @@
 #include "tests/ui/geometry.h"
 #include "ui/style/symbols.h"
 #include "ui/table/descriptions.h"
+#include "ui/table/table_centre.h"
+#include "ui/table/table_trick.h"
+#include "ui/table/tricks_won.h"
 
 namespace tricklet::ui {
 namespace {
 
 using test::HandsOf;
 
-const std::string kOrdinary =
-    "N:AQ975.K86.KT2.J4 84.T732.AQ3.T652 KJT3.A4.9654.AK7 62.QJ95.J87.Q983";
 const std::string kWholePack = "N:AKQJT98765432.AKQJT98765432.AKQJT98765432.AKQJT98765432 - - -";
 
 const std::array kDeals{
-    kOrdinary,
+    kOrdinaryDeal,
     std::string("N:AQ975.K8652.KT2. 84.A73.AQ3.AJ652 KJT3.QJT94..KT87 .J98765.Q943.962"),
     std::string("N:K2..KQJ2.AKQJ987 AQJT9876543.2.A. ..T987654.6543210 ..5.AKQJT98765432"),
     std::string("N:A - -.2 -.-.-.T"),
     kWholePack,
     "W" + kWholePack.substr(1)};
-
-// Down to the view's minimum size, square, wide, tall, and up to 4K.
-const std::array kSizes{QSizeF(380, 340),  QSizeF(520, 480),   QSizeF(760, 680),  QSizeF(520, 900),
-                        QSizeF(1600, 600), QSizeF(1600, 1000), QSizeF(3840, 2160)};
 
 class TableGeometry : public testing::TestWithParam<std::tuple<QSizeF, std::string>> {
  protected:
@@ -66,8 +63,38 @@ TEST_P(TableGeometry, KeepsHandsCaptionsAndCentreApartAndOnTheFelt) {
   }
 }
 
+TEST_P(TableGeometry, KeepsTheTrickInThePanelWithEveryIndexInSight) {
+  const QRectF room = TrickRoom(layout_.centre);
+  const TrickLayout trick = LayOutTrick(room, layout_.cardSize);
+  EXPECT_GE(trick.cardSize.width(), 0.6 * layout_.cardSize.width());
+  for (std::size_t i = 0; i < kTrickOrder.size(); ++i) {
+    const QRectF& card = trick.cards[kTrickOrder.at(i)];
+    EXPECT_TRUE(room.adjusted(-1, -1, 1, 1).contains(card));
+    const QRectF rank(card.topLeft(), card.size() * 0.3);
+    for (std::size_t later = i + 1; later < kTrickOrder.size(); ++later) {
+      EXPECT_FALSE(rank.intersects(trick.cards[kTrickOrder.at(later)])) << i << " " << later;
+    }
+    const QRectF& symbol = trick.symbols[kTrickOrder.at(i)];
+    EXPECT_TRUE(symbol.isEmpty() || layout_.centre.contains(symbol));
+    for (const PlacedCard& placed : layout_.cards) EXPECT_FALSE(placed.rect.intersects(card));
+  }
+}
+
+TEST_P(TableGeometry, KeepsTricksWonOnTheFeltBesideTheHands) {
+  const TricksWonLayout won = LayOutTricksWon(layout_, PlaySnapshot());
+  std::vector<QRectF> parts(won.counts.begin(), won.counts.end());
+  for (const QRectF& back : won.backs) EXPECT_FALSE(back.isEmpty());
+  parts.push_back(won.backs.back());
+  ExpectApart(layout_.felt, parts);
+  parts.insert(parts.end(), won.backs.begin(), won.backs.end());
+  for (const QRectF& part : parts) {
+    for (const PlacedCard& placed : layout_.cards) EXPECT_FALSE(placed.rect.intersects(part));
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(SizesAndDeals, TableGeometry,
-                         testing::Combine(testing::ValuesIn(kSizes), testing::ValuesIn(kDeals)));
+                         testing::Combine(testing::ValuesIn(kTableSizes),
+                                          testing::ValuesIn(kDeals)));
 
 TEST(TableLayoutTest, GivesNorthOneRowAndEastOneForEachSuitHeld) {
   const auto rows = [](const std::string& hand, char seat = 'E') {
@@ -93,7 +120,8 @@ TEST(TableLayoutTest, GrowsCardsWithTheTableButNotWithTheDeal) {
   double last = 0;
   for (const double scale : {1.0, 1.5, 2.0, 4.0}) {
     const QSizeF size = QSizeF(520, 480) * scale;
-    const double width = LayOutTable(size, HandsOf(kOrdinary), HandDisplay::Cards).cardSize.width();
+    const double width =
+        LayOutTable(size, HandsOf(kOrdinaryDeal), HandDisplay::Cards).cardSize.width();
     EXPECT_GT(width, last * 1.2);
     EXPECT_EQ(width, LayOutTable(size, HandsOf(kWholePack), HandDisplay::Cards).cardSize.width());
     last = width;
@@ -107,13 +135,6 @@ TEST(TableLayoutTest, SurvivesATableWithoutRoom) {
       EXPECT_GE(layout.cardSize.width(), 1);
     }
   }
-}
-
-Board OrdinaryBoard() {
-  Board board;
-  board.boardNumber = 7;
-  board.hands = HandsOf(kOrdinary);
-  return board;
 }
 
 TEST(TableWordsTest, TellsDeclarerAndDummyInTheCaptions) {
@@ -138,8 +159,6 @@ TEST(TableWordsTest, ShowsContractsWithTheirSuits) {
       {"4Sx-1 by South : EW +100", u"4\u2660x-1 by South : EW +100"},
       {"Par 3H= or 3D+1 NS +140", u"Par 3\u2665= or 3\u2666+1 NS +140"},
       {"7Cxx", u"7\u2663xx"},
-      {"3NT by East", u"3NT by East"},
-      {"All Pass", u"All Pass"},
       {"40% 5Suits", u"40% 5Suits"}};
   for (const auto& [text, shown] : kCases) {
     EXPECT_EQ(WithSymbols(QString::fromLatin1(text)), QString::fromUtf16(shown)) << text;

@@ -35,10 +35,7 @@ class TableViewTest : public testing::Test {
   static QImage Picture(TableView& view, const Board& board, const Settings& settings, QSize size) {
     view.resize(size);
     view.Show(board, settings);
-    QImage picture(size, QImage::Format_RGB32);
-    picture.fill(view.palette().color(QPalette::Window));
-    view.render(&picture);
-    return picture;
+    return PictureOf(view);
   }
 };
 

@@ -9,8 +9,7 @@
 namespace tricklet::ui {
 namespace {
 
-const QString kRecord =
-    QStringLiteral("qx|o7|md|1SAKQJT98765432,HAKQJT98765432,DAKQJT98765432,|mb|1C|pg||\n");
+const QString kRecord = ToQt(test::LinRecordText("o7", "mb|1C|"));
 
 class LinWindowTest : public WindowTest {
  protected:

@@ -1,12 +1,6 @@
 // The auction dialog and the play in the real main window.
-#include <QMenuBar>
-#include <QTableWidget>
-
-#include "tests/support/calls.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/control/play_control.h"
-#include "ui/dialogs/frmBidding.h"
-#include "ui/table/table_view.h"
 
 namespace tricklet::ui {
 namespace {
@@ -14,26 +8,17 @@ namespace {
 /// Board 1: North, the dealer, has the spades, East the hearts, South the diamonds, West the clubs.
 class PlayWindowTest : public WindowTest {
  protected:
-  void Bid(const std::string& auction) {
-    test::SetAuction(session.board, auction);
-    window->Display();
-  }
   void StartPlay(const std::string& auction = "1S P P P") {
     Bid(auction);
     Click("cmdPlay");
     ASSERT_TRUE(session.board.playMode);
   }
-  /// Has the next auction dialog worked.
-  void ExpectBidding(const std::function<void(const Driven&)>& work) { Expect<frmBidding>(work); }
   void ExpectLosingBids(Answer answer = Answer::OK) {
     host.ExpectAskWith("Any bidding changes will be lost", answer);
   }
 
   const CardPlay& Play() const { return window->findChild<PlayControl*>()->Play(); }
-  TableView* Table() const { return window->findChild<TableView*>(); }
-  void ClickTrick() const {
-    QTest::mouseClick(Table(), Qt::LeftButton, Qt::NoModifier, Table()->rect().center());
-  }
+  void ClickTrick() const { ClickAt(Table()->rect().center()); }
   /// Clicks each time on the first card of the hand on play that may be played.
   void ClickCards(int count) const {
     for (; count > 0; --count) {
@@ -42,8 +27,7 @@ class PlayWindowTest : public WindowTest {
         return Play().IsLegal(placed.card);
       });
       ASSERT_NE(legal, cards.end()) << "no legal card lies on the table";
-      const QPointF corner = legal->rect.topLeft() + QPointF(4, 4);  // no other card lies over it
-      QTest::mouseClick(Table(), Qt::LeftButton, Qt::NoModifier, corner.toPoint());
+      ClickAt(legal->rect.topLeft() + QPointF(4, 4));  // no other card lies over the corner
     }
   }
 
@@ -53,15 +37,6 @@ class PlayWindowTest : public WindowTest {
     if (Enabled("cmdClaim")) told += " " + Text("cmdClaim");
     if (Shown("lblScore")) told += " " + Spoken("lblScore");
     return told;
-  }
-  /// The calls in the grid's first row, "1\u2660 Dbl".
-  std::string FirstRound() const {
-    QStringList calls;
-    for (int column = 0; column < kSeats; ++column) {
-      const auto* item = Find<QTableWidget>("flexBids")->item(0, column);
-      if (item != nullptr) calls += item->text();
-    }
-    return FromQt(calls.join(QLatin1Char(' ')));
   }
 
   void ExpectNothingLeftOfPlay(const char* after) const {
@@ -80,20 +55,18 @@ class PlayWindowTest : public WindowTest {
 TEST_F(PlayWindowTest, AnAuctionIsTypedWhileGridAndTableFollow) {
   Open();
   Click("cmdBid");  // hidden: the dialog brings it back for a while
-  ExpectBidding([&](const Driven& form) {
+  WithDialog("Ctrl+B", [&](const Driven& form) {
     EXPECT_TRUE(Shown("flexBids"));
     EXPECT_EQ(form.Text("lblModifyBidding"), "North to call");
-    FocusKeys("1");
-    EXPECT_EQ(form.Text("lblTyped"), "1...");
-    FocusKey("Backspace");
-    EXPECT_EQ(form.Text("lblTyped"), "");
     FocusKeys("1sx2");
-    EXPECT_EQ(FirstRound(), "1\u2660 Dbl");
+    EXPECT_EQ(form.Text("lblTyped"), "2...");
+    EXPECT_EQ(Calls(), "1\u2660 Dbl");
     EXPECT_EQ(form.Text("lblModifyBidding"), "South to call");
     EXPECT_TRUE(form.Enabled("cmdRdb"));
     FocusKey("Backspace");  // the half-typed call
+    EXPECT_EQ(form.Text("lblTyped"), "");
     FocusKey("Backspace");  // the double
-    EXPECT_EQ(FirstRound(), "1\u2660");
+    EXPECT_EQ(Calls(), "1\u2660");
     EXPECT_EQ(host.beeps, 0);
     FocusKey("Return");
     FocusKeys("1c");
@@ -106,7 +79,6 @@ TEST_F(PlayWindowTest, AnAuctionIsTypedWhileGridAndTableFollow) {
     EXPECT_TRUE(session.board.calls.Empty()) << "the board changes with OK only";
     FocusKey("Return");
   });
-  Key("Ctrl+B");
   EXPECT_TRUE(session.board.handChanged);
   EXPECT_EQ(Spoken("lblContract"), "2NT by East");
   EXPECT_FALSE(Shown("flexBids"));
@@ -116,7 +88,7 @@ TEST_F(PlayWindowTest, FocusOfTheDialogStaysWhereItIsNotACancel) {
   Open();
   Click("lblNext");  // a board without cards can be bid, but not played
   EXPECT_EQ(EnabledOf("cmdPlay mnuPlay cmdBidding"), "cmdBidding");
-  ExpectBidding([&](const Driven& form) {
+  Expect([&](const Driven& form) {
     const auto press = [&](const char* name) {
       form.Find<QWidget>(name)->setFocus();
       FocusKey("Space");
@@ -143,7 +115,7 @@ TEST_F(PlayWindowTest, LeavingTheDialogAsksAndRestores) {
       [](const Driven& form) { form.top->close(); },
   };
   for (const auto& leave : ways) {
-    ExpectBidding([&](const Driven& form) {
+    WithDialog("Ctrl+B", [&](const Driven& form) {
       form.Press("cmdClear");
       FocusKeys("7");
       FocusKey("Return");
@@ -152,13 +124,12 @@ TEST_F(PlayWindowTest, LeavingTheDialogAsksAndRestores) {
       ExpectLosingBids(Answer::Cancel);
       leave(form);
       EXPECT_TRUE(form.top->isVisible());
-      EXPECT_EQ(FirstRound(), "7\u2663");
+      EXPECT_EQ(Calls(), "7\u2663");
       ExpectLosingBids();
       leave(form);
     });
-    Click("cmdBidding");
     EXPECT_EQ(session.board.contract, "1S");
-    EXPECT_EQ(FirstRound(), "1\u2660 Pass Pass");
+    EXPECT_EQ(Calls(), "1\u2660 Pass Pass Pass");
     EXPECT_FALSE(session.board.handChanged);
   }
 }
@@ -168,7 +139,7 @@ TEST_F(PlayWindowTest, TheDialogCoversNeitherTheAuctionNorTheMiddleOfTheTable) {
   for (const QSize size : {QSize(1024, 700), QSize(1280, 800)}) {
     window->resize(size);
     QCoreApplication::processEvents();
-    ExpectBidding([&](const Driven& form) {
+    WithDialog("Ctrl+B", [&](const Driven& form) {
       const auto covers = [&](const QWidget* widget, QRect part) {
         return form.top->frameGeometry().intersects(part.translated(widget->mapToGlobal(QPoint())));
       };
@@ -179,7 +150,6 @@ TEST_F(PlayWindowTest, TheDialogCoversNeitherTheAuctionNorTheMiddleOfTheTable) {
       ExpectLosingBids();
       form.top->close();
     });
-    Click("cmdBidding");
   }
 }
 
@@ -189,57 +159,53 @@ TEST_F(PlayWindowTest, BiddingInAPresentationShowsNoAnswersUnlessTheyAreSwitched
   for (const auto& [key, shown] :
        {std::pair("F11", "flexBids"), {"Shift+F11", "flexBids lvwMake"}}) {
     Key(key);
-    ExpectBidding([&](const Driven& form) {
+    ExpectLosingBids();
+    WithDialog("Ctrl+B", [&](const Driven& form) {
       EXPECT_EQ(ShownOf("flexBids lvwMake"), shown);
-      ExpectLosingBids();
       form.Press("cmdCancel");
     });
-    Key("Ctrl+B");
   }
 }
 
 TEST_F(PlayWindowTest, PlayComesAfterTheAuctionThatItNeeds) {
   Open();
-  const auto cancel = [this](const Driven& form) {
-    ExpectLosingBids();
-    form.Press("cmdCancel");
+  const auto play = [this](const char* buttons) {
+    WithDialog("Ctrl+P", [&](const Driven& form) { form.PressAll(buttons); });
+    return Text("cmdPlay") + ". " + Spoken("lblScore");
   };
-  const auto passOut = [this](const Driven& form) {
-    form.Press("cmdAllPass");
-    host.ExpectTell("The bidding was All Pass");
-    form.Press("cmdOK");
-  };
-  const auto bid = [](const Driven& form) {
-    form.Press("cmdClear");
-    FocusKeys("1nppp");
-    form.Press("cmdOK");
-  };
-  const std::tuple<std::function<void(const Driven&)>, const char*, bool> steps[] = {
-      {cancel, "", false}, {passOut, "All Pass : 0", false}, {bid, "", true}};
-  for (const auto& [auction, score, plays] : steps) {
-    ExpectBidding(auction);
-    Key("Ctrl+P");
-    EXPECT_EQ(session.board.playMode, plays);
-    EXPECT_EQ(Spoken("lblScore"), score);
-    EXPECT_EQ(Shown("lblTricks_0"), plays);
-  }
-  EXPECT_EQ(Text("cmdPlay"), "Stop play");
+  ExpectLosingBids();
+  EXPECT_EQ(play("cmdCancel"), "Play. ");
+  host.ExpectTell("The bidding was All Pass");
+  EXPECT_EQ(play("cmdAllPass cmdOK"), "Play. All Pass : 0");
+  EXPECT_EQ(play("cmdClear cmdBid_4 cmdPass cmdPass cmdPass cmdOK"), "Stop play. ");
+  EXPECT_EQ(Told(), "NS: 0 EW: 0 Claim by East");
   EXPECT_EQ(window->focusWidget(), Table());
 }
 
-TEST_F(PlayWindowTest, AWholeBoardIsPlayedByClicks) {
+TEST_F(PlayWindowTest, AWholeBoardIsPlayedByKeysAndClicks) {
   Open();
-  StartPlay();
+  StartPlay("1S X P P XX P P P");
   EXPECT_EQ(ShownOf("fraStats fraPlay"), "fraPlay");
   EXPECT_EQ(EnabledOf("cmdBidding cmdUndo"), "");
   EXPECT_EQ(Told(), "NS: 0 EW: 0 Claim by East");
-  ClickCards(4);
+  FocusKeys("HAD2C3S4SA");
+  EXPECT_EQ(Told(), "NS: 1 EW: 0 Claim by East");
+  const std::pair<const char*, const char*> steps[] = {
+      {"Ctrl+Z", "NS: 1 EW: 0 Claim by North"},
+      {"Ctrl+Z", "NS: 0 EW: 0 Claim by North"},
+      {"Ctrl+L", "NS: 13 EW: 0 1Sxx+6 by North : NS +1720"},
+      {"Ctrl+Z", "NS: 0 EW: 0 Claim by North"}};
+  for (const auto& [key, told] : steps) {
+    Key(key);
+    EXPECT_EQ(Told(), told);
+  }
+  ClickCards(1);
   EXPECT_EQ(Told(), "NS: 1 EW: 0 Claim by North") << "North ruffs the first heart";
   EXPECT_TRUE(Find<QTimer>("timQuit")->isActive());
   ClickTrick();
   EXPECT_TRUE(Play().Now().trickGathered) << "no need to wait";
   ClickCards(48);
-  EXPECT_EQ(Told(), "NS: 13 EW: 0 1S+6 by North : NS +260");
+  EXPECT_EQ(Told(), "NS: 13 EW: 0 1Sxx+6 by North : NS +1720");
   EXPECT_TRUE(Enabled("cmdBidding"));
   Type("cmbLibs", "Autumn");  // the library is there again
   FocusKey("Ctrl+Z");
@@ -252,26 +218,6 @@ TEST_F(PlayWindowTest, AWholeBoardIsPlayedByClicks) {
   EXPECT_TRUE(Shown("lblScore"));
   Click("lblNext");
   ExpectNothingLeftOfPlay("the next board");
-}
-
-TEST_F(PlayWindowTest, KeysPlayUndoAcrossATrickAndClaim) {
-  Open();
-  StartPlay("1S X P P XX P P P");
-  FocusKeys("HAD2C3S4SA");
-  EXPECT_EQ(Told(), "NS: 1 EW: 0 Claim by East");
-  const struct {
-    const char* key;
-    const char* told;
-  } steps[] = {{"Ctrl+Z", "NS: 1 EW: 0 Claim by North"},
-               {"Ctrl+Z", "NS: 0 EW: 0 Claim by North"},
-               {"Ctrl+Z", "NS: 0 EW: 0 Claim by West"},
-               {"Ctrl+Z", "NS: 0 EW: 0 Claim by South"},
-               {"Ctrl+L", "NS: 13 EW: 0 1Sxx+6 by North : NS +1720"},
-               {"Ctrl+Z", "NS: 0 EW: 0 Claim by South"}};
-  for (const auto& [key, told] : steps) {
-    Key(key);
-    EXPECT_EQ(Told(), told);
-  }
 }
 
 TEST_F(PlayWindowTest, NothingLeavesAPlayUnderWayUnasked) {
@@ -304,41 +250,22 @@ TEST_F(PlayWindowTest, NothingLeavesAPlayUnderWayUnasked) {
 }
 
 TEST_F(PlayWindowTest, NothingIsLeftOfAPlayThatEnds) {
-  const auto file = folder.Path() / "one.pbn";
-  test::WriteFile(file, PbnBoard(5));
   Open();
-  const auto stop = [this] { Click("cmdPlay"); };
   const auto newLibrary = [this] {
     Key("Ctrl+N");
     EXPECT_EQ(QApplication::focusWidget(), Find<QComboBox>("cmbLibs"));
   };
-  const auto import = [&] {
-    host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
-    host.ExpectTell("Hand 5 has been saved to the library - Club");
-    window->ImportFiles({file});
-  };
   const auto bid = [this] {
-    ExpectBidding([](const Driven& form) {
-      form.Press("cmdUndo");
-      FocusKeys("p");
-      form.Press("cmdOK");
-    });
-    Key("Ctrl+B");
+    WithDialog("Ctrl+B", [](const Driven& form) { form.PressAll("cmdUndo cmdPass cmdOK"); });
   };
-  const struct {
-    const char* name;
-    int cards;
-    bool claimed;  // nothing is asked about what is finished or has not begun
-    std::function<void()> leave;
-  } ways[] = {
-      {"stop", 4, false, stop},
-      {"stop before the lead", 0, false, stop},
-      {"stop after a claim", 4, true, stop},
+  // Cards played; whether the rest was claimed. Before the lead and after a claim nothing is asked.
+  const std::tuple<const char*, int, bool, std::function<void()>> ways[] = {
+      {"stop", 4, false, [this] { Click("cmdPlay"); }},
+      {"stop after a claim", 4, true, [this] { Click("cmdPlay"); }},
       {"the next board", 4, false, [this] { Key("PgDown"); }},
       {"the next board before the lead", 0, false, [this] { Key("PgUp"); }},
-      {"the next board after a claim", 4, true, [this] { Click("lblNext"); }},
       {"a new library", 4, false, newLibrary},
-      {"an import", 4, false, import},
+      {"an import", 4, false, [this] { ImportBoardFive(); }},
       {"a board that is cleared", 4, true, [this] { Key("Ctrl+Shift+Del"); }},
       {"another auction", 4, true, bid},
   };

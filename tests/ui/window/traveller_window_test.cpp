@@ -1,15 +1,12 @@
 // Travellers and play records in the real main window.
 #include <QHeaderView>
 #include <QTableView>
-#include <QTableWidget>
 
 #include "formats/results/lin_file.h"
-#include "tests/support/calls.h"
 #include "tests/support/fake_solver.h"
 #include "tests/ui/window_fixture.h"
 #include "ui/background/best_cards_finder.h"
 #include "ui/control/results.h"
-#include "ui/table/table_view.h"
 
 namespace tricklet::ui {
 namespace {
@@ -71,15 +68,6 @@ class TravellerWindowTest : public WindowTest {
     QTest::mouseClick(heads->viewport(), Qt::LeftButton, Qt::NoModifier,
                       QPoint(middle, heads->height() / 2));
   }
-  std::string Calls() const {
-    const auto* grid = Find<QTableWidget>("flexBids");
-    QStringList calls;
-    for (int place = 0; place < grid->rowCount() * kSeats; ++place) {
-      const auto* item = grid->item(place / kSeats, place % kSeats);
-      if (item != nullptr) calls += item->text();
-    }
-    return FromQt(calls.join(QLatin1Char(' ')));
-  }
   const Replay* Record() const { return window->findChild<Results*>()->Record(); }
   void ExpectNothingLeftOfTheRecord(const char* after) const {
     EXPECT_EQ(Record(), nullptr) << after;
@@ -87,7 +75,7 @@ class TravellerWindowTest : public WindowTest {
     EXPECT_FALSE(Grid()->selectionModel()->hasSelection()) << after;
     EXPECT_EQ(Text("lblLinPlace"), "") << after;
     EXPECT_EQ(EnabledOf("mnuLinForward mnuLinLeave"), "") << after;
-    EXPECT_FALSE(Shown("lblTricks_0")) << after;
+    EXPECT_EQ(Shown("lblTricks_0"), session.board.playMode) << after;
   }
 };
 
@@ -107,8 +95,7 @@ TEST_F(TravellerWindowTest, ShowsAndHidesTheTraveller) {
   Key("PgDown");
   EXPECT_EQ(Pairs(), "") << "board 2 has no results";
   EXPECT_TRUE(Shown("cmdTraveller"));
-  Type("cmbLibs", "Teaching");
-  FocusKey("Return");
+  TypeAndEnter("cmbLibs", "Teaching");
   EXPECT_FALSE(Shown("cmdTraveller")) << "the other library has none at all";
   EXPECT_FALSE(Enabled("mnuTraveller"));
 }
@@ -140,8 +127,7 @@ TEST_F(TravellerWindowTest, IsSortedByEveryColumn) {
 
 TEST_F(TravellerWindowTest, StepsThroughARecord) {
   Open();
-  test::SetAuction(session.board, "P 2H P P P");
-  window->Display();
+  Bid("P 2H P P P");
   ClickRow(0);
   EXPECT_EQ(Text("cmbLinNames"), "Ann & Bob v Cy & Di");
   for (int column = 0; column < Columns() - 1; ++column) {  // all but the names
@@ -151,7 +137,7 @@ TEST_F(TravellerWindowTest, StepsThroughARecord) {
   EXPECT_EQ(Calls(), "1\u2660 Pass Pass Pass");
   EXPECT_EQ(Spoken("lblContract"), "1S by North");
   const auto onTable = [this] {
-    window->findChild<TableView*>()->setFocus();
+    Table()->setFocus();
     FocusKey("Space");
   };
   const std::pair<std::function<void()>, const char*> steps[] = {
@@ -181,14 +167,12 @@ TEST_F(TravellerWindowTest, StepsThroughARecord) {
 }
 
 TEST_F(TravellerWindowTest, BestCardsOfARecordAreThoseOfItsOwnContract) {
-  class OneCardSolver : public test::FakeSolver {
-   public:
-    std::vector<CardScore> SolveCards(const SolverPosition& position) override {
-      asked = position.trumps;
-      return {{{Suit::Hearts, Rank::Two}, 12}};
-    }
-    std::atomic<Strain> asked{Strain::NoTrump};
-  } solver;
+  test::FakeSolver solver;
+  std::atomic<Strain> asked{Strain::NoTrump};
+  solver.solveCards = [&](const SolverPosition& position) -> std::vector<CardScore> {
+    asked = position.trumps;
+    return {{{Suit::Hearts, Rank::Two}, 12}};
+  };
   session.getSolver = [&solver]() -> Solver& { return solver; };
   session.settings.showBestCards = true;
   Open();
@@ -196,7 +180,7 @@ TEST_F(TravellerWindowTest, BestCardsOfARecordAreThoseOfItsOwnContract) {
   EXPECT_TRUE(finder->Tricks().empty());
   ClickRow(0);
   ASSERT_TRUE(QTest::qWaitFor([&] { return !finder->Tricks().empty(); }));
-  EXPECT_EQ(solver.asked, Strain::Spades);
+  EXPECT_EQ(asked, Strain::Spades);
   Key("Ctrl+Shift+J");
   EXPECT_TRUE(finder->Tricks().empty()) << "the record has been put away";
 }
@@ -223,22 +207,23 @@ TEST_F(TravellerWindowTest, WhateverReplacesTheBoardEndsTheRecord) {
     Key("Alt+Right");
     ASSERT_NE(Record(), nullptr);
   };
-  look();
-  Key("PgDown");
-  ExpectNothingLeftOfTheRecord("the next board");
-  Key("PgUp");
-  ExpectNothingLeftOfTheRecord("coming back");
-  look();
-  test::SetAuction(session.board, "1C P P P");
-  window->Display();
-  ExpectNothingLeftOfTheRecord("another auction");
-  look();
-  Click("cmdPlay");
-  EXPECT_TRUE(session.board.playMode);
-  EXPECT_EQ(Record(), nullptr);
+  const auto nextAndBack = [this] {
+    Key("PgDown");
+    ExpectNothingLeftOfTheRecord("the next board");
+    Key("PgUp");
+  };
+  const std::pair<const char*, std::function<void()>> ways[] = {
+      {"the next board and back", nextAndBack},
+      {"another auction", [this] { Bid("1C P P P"); }},
+      {"playing", [this] { Click("cmdPlay"); }},
+  };
+  for (const auto& [name, leave] : ways) {
+    look();
+    leave();
+    ExpectNothingLeftOfTheRecord(name);
+  }
   ClickRow(0);
-  EXPECT_EQ(Record(), nullptr) << "the board is being played";
-  EXPECT_FALSE(Grid()->selectionModel()->hasSelection());
+  ExpectNothingLeftOfTheRecord("playing goes on");
   Click("cmdPlay");
   look();
   ASSERT_TRUE(RecycleLinData(session));
