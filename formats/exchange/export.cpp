@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 constexpr int kMissingListed = 20;     // fewer missing boards than this are listed
 constexpr int kIncompleteListed = 10;  // fewer incomplete boards than this are listed
 
-/// A whole text box as a board number; 0 when it is none.
+/// The number that is all of a text box, blanks aside; 0 when it holds anything else.
 int BoardNumberFromText(std::string_view text) {
   return NumberFromText(Trim(text)).value_or(0);
 }
@@ -34,7 +34,7 @@ struct ExportRun {
   std::string text;
   std::vector<int> incomplete;
   bool cancelled = false;
-  int lastWritable = kLastBoardNumber;  // what the type of file can hold
+  int lastWritable = kLastBoardNumber;  // the highest board that the type of file can hold
 };
 
 /// Loads board `number` of the range for writing; false when it is incomplete, which the run
@@ -104,7 +104,7 @@ std::string BoardsText(int first, int last) {
                        : "boards " + std::to_string(first) + "-" + std::to_string(last);
 }
 
-/// What the file cannot hold of a range that goes beyond it.
+/// The message for a range that goes beyond what the file can hold.
 std::string BeyondText(const ExportRange& range, const ExportRun& run) {
   std::string text = "The file can hold boards 1 to " + std::to_string(run.lastWritable) + ": ";
   if (range.first > run.lastWritable) return text + "none of the range was written";
@@ -128,15 +128,15 @@ bool ReportRun(Session& session, const ExportRange& range, const ExportRun& run,
 
 using Collector = void (*)(Session&, const ExportRange&, ExportRun&);
 
-/// Nothing when no file of the type is written.
+/// Null for a type that cannot be written.
 Collector CollectorOf(const std::string& type) {
   if (type == "pbn") return CollectPBN;
   if (type == "dlm") return CollectDLM;
   return type == "lin" ? CollectLIN : nullptr;
 }
 
-/// All missing tables together take the solver's batches; one by one they would not. False when
-/// it was cancelled.
+/// Computes the missing tables all at once, so that the solver gets full batches. False when the
+/// person cancelled.
 bool AddMissingTables(Session& session, const ExportRange& range) {
   if (!session.settings.autoMakeable || !session.getSolver) return true;
   if (!AnalyseBoards(session, session.getSolver(), range.first, range.last, false).cancelled) {

@@ -22,15 +22,15 @@ const std::vector<std::string>& ExportTypes();
 /// True when the current library holds a board; else tells "There are no hands to export".
 bool HasHandsToExport(Session& session);
 
-/// Reads the two texts of `frmExport` into `range`. False when they are no range of 1..999: tells
-/// "Please enter a valid range" and leaves `range` alone.
+/// Reads the two texts of `frmExport` into `range`. False when they are not a range within 1..999:
+/// tells "Please enter a valid range" and leaves `range` alone.
 bool CheckRangeTexts(Session& session, std::string_view from, std::string_view to,
                      ExportRange& range);
 
 /// True when every board of the range has its file; else tells which are missing.
 bool CheckExportRange(Session& session, const ExportRange& range);
 
-/// The file name to begin with: `last` with its ending turned into the type.
+/// The file name to offer first: `last` with its ending replaced by `type`.
 std::filesystem::path SuggestedExportPath(const std::filesystem::path& last,
                                           const std::string& type);
 
@@ -39,7 +39,7 @@ std::filesystem::path SuggestedExportPath(const std::filesystem::path& last,
 bool Export(Session& session, const ExportRange& range, std::filesystem::path& path);
 
 /// Writes the range to a file already named; its ending selects the format. True when all boards
-/// were written; what was not is told.
+/// were written; else tells which were not.
 bool ExportFile(Session& session, const ExportRange& range, const std::filesystem::path& path);
 
 }  // namespace tricklet

@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 struct Importable {
   const char* description;
   std::vector<std::string> types;
-  const char* otherType;  // told of a file of another one
+  const char* otherType;  // the message for a file of any other type
 };
 
 const Importable& HandRecords() {

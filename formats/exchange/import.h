@@ -17,8 +17,9 @@ ImportOutcome Import(Session& session);
 /// with a message when its name ends in none of the three types.
 ImportOutcome ImportFile(Session& session, const std::filesystem::path& path);
 
-/// `mnuImportLin`: as `Import`, for a LIN file. The records themselves go to "LIN.txt", where those
-/// of boards that are not stored now stay; if there are any, so do the names and the scoring.
+/// `mnuImportLin`: as `Import`, for a LIN file. The records themselves go to "LIN.txt", where they
+/// replace earlier records of the same boards. Records of other boards stay, and if there are any,
+/// so do the names and the scoring.
 ImportOutcome ImportLin(Session& session);
 
 /// `mnuImportLin` for a file already named. Refused with a message when its name does not end in
@@ -26,7 +27,7 @@ ImportOutcome ImportLin(Session& session);
 ImportOutcome ImportLinFile(Session& session, const std::filesystem::path& path);
 
 /// `mnuImportLin` for a text: pasted records, or the address of a page that shows some. Refused
-/// with a message, and nothing asked, when it holds none.
+/// with a message, before any question, when it holds none.
 ImportOutcome ImportLinText(Session& session, std::string_view text);
 
 /// A file dropped on the window or given to it, of any type that can be imported.

@@ -1,4 +1,4 @@
-// What is told of an import when it has ended.
+// The messages about an import that has ended.
 #pragma once
 
 #include <set>
@@ -11,7 +11,7 @@ namespace tricklet {
 /// "3 hands (5-7) have been saved to the library - Club", as the reader counts them.
 std::string SavedText(const ReadResult& result, const std::string& libraryName);
 
-/// Which boards were stored; empty where `SavedText` names no others.
+/// Which boards were stored; empty when none was, or when those that `SavedText` names were.
 std::string StoredText(const ReadResult& result, const std::set<int>& stored);
 
 /// What the file holds and the library does not, a line for each reason; empty when there is

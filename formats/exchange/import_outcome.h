@@ -6,7 +6,7 @@ namespace tricklet {
 struct ImportOutcome {
   int boardsSaved = 0;     ///< as the message at the end counts them
   bool refused = false;    ///< by the person or because of the file's type: nothing was read
-  bool cancelled = false;  ///< in mid-run
+  bool cancelled = false;  ///< by the person, while it was running
   bool failed = false;     ///< not all could be read and stored; what was stored stays
 };
 

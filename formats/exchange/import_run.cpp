@@ -46,7 +46,7 @@ Failures ReadAndStore(Session& session, RecordSource& source, const RecordReader
   return failures;
 }
 
-/// What was stored before a board could not be.
+/// Makes the result count what was stored before a board could not be.
 void CountStored(const LibrarySink& sink, ReadResult& result) {
   result.boardsSaved = sink.Count();
   result.firstBoard = sink.FirstStored();

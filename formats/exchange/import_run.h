@@ -15,7 +15,7 @@ namespace tricklet {
 ImportOutcome StoreFile(Session& session, const std::filesystem::path& path,
                         const RecordReader& reader);
 
-/// Stores the boards of bytes at hand likewise; `unreadable` is told when the reader throws. A
+/// Does so with bytes that have been read already; tells `unreadable` when the reader throws. A
 /// board that cannot be written ends the import with the reason and the count of those before it.
 ImportOutcome StoreText(Session& session, RecordSource source, const std::string& unreadable,
                         const RecordReader& reader);

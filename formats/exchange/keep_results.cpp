@@ -22,7 +22,7 @@ void SetScoring(LinFile& results) {
   results.boardScoringAbb = match ? "IMP" : "MP";
 }
 
-/// Without the records of the boards that `stored` has records of.
+/// Takes out the records of every board of which `stored` has one.
 void LeaveOutStored(LinFile& results, const std::vector<std::string>& stored) {
   std::set<int> boards;
   for (const std::string& record : stored) boards.insert(BoardNumberOfLin(record));
@@ -31,8 +31,8 @@ void LeaveOutStored(LinFile& results, const std::vector<std::string>& stored) {
   });
 }
 
-/// Keeps the records of the boards stored where those of club results are kept. Those of other
-/// boards that are kept there stay, with their names and their scoring.
+/// Adds the records of the boards stored to "LIN.txt", where they replace earlier ones of the same
+/// boards. Records of other boards stay, with their names and their scoring.
 void KeepRecords(const Session& session, std::vector<std::string> records) {
   LinFile results = LoadLinData(session);
   LeaveOutStored(results, records);
@@ -43,9 +43,9 @@ void KeepRecords(const Session& session, std::vector<std::string> records) {
   StoreLinData(session, results);
 }
 
-/// Results of boards that were not stored would stand beside older deals of the same numbers, so
-/// they are left out: of boards whose deal was, and of those after the last one when the storing
-/// ended early.
+/// Leaves out the results of boards that were not stored, which would stand beside older deals of
+/// the same numbers: boards whose deal was impossible and, when the storing ended early, all above
+/// the last one stored.
 void LeaveOutUnstored(const LibrarySink& sink, Reading& reading) {
   const ReadResult& result = reading.result;
   const bool early = result.cancelled || sink.Failure();

@@ -7,9 +7,9 @@
 namespace tricklet {
 
 /// Puts the results of the boards that `sink` has stored into the current library's "LIN.txt", and
-/// leaves an extended file there as "QENXML.xml". The old file stays until then and is replaced
-/// whole, so there is always one of the two. When no board was stored, nothing is changed. Throws
-/// `Fault` when a file cannot be written.
+/// writes a file with the extended document type, if there is one, to "QENXML.xml" beside it. The
+/// old "LIN.txt" stays until then and is replaced whole, so there is always one of the two. When no
+/// board was stored, nothing is changed. Throws `Fault` when a file cannot be written.
 void KeepResults(const Session& session, Brings brings, const LibrarySink& sink, Reading& reading);
 
 }  // namespace tricklet

@@ -22,7 +22,7 @@ void LibrarySink::Store(const Board& board) {
   stored_.insert(board.boardNumber);
   if (firstStored_ != 0) return;
   firstStored_ = board.boardNumber;
-  if (recyclesResults_) RecycleLinData(session_);  // the import does not depend on it
+  if (recyclesResults_) RecycleLinData(session_);  // the import goes on even if this fails
 }
 
 bool LibrarySink::Begin(int boardNumber, int done) {

@@ -15,7 +15,7 @@ namespace tricklet {
 class LibrarySink : public BoardSink {
  public:
   /// `recyclesResults`: "LIN.txt" goes to the recycle bin when the first board is stored, as its
-  /// results are of the boards that are replaced.
+  /// results belong to the boards that are replaced.
   LibrarySink(Session& session, bool recyclesResults)
       : session_(session), recyclesResults_(recyclesResults) {}
 
@@ -31,7 +31,7 @@ class LibrarySink : public BoardSink {
 
   /// What has ended the storing, if anything has.
   const std::optional<Fault>& Failure() const { return failure_; }
-  /// It was a board that is marked read-only.
+  /// What ended it was a board file that is marked read-only.
   bool FailedAtReadOnly() const { return readOnly_; }
 
  private:

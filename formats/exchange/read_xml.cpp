@@ -21,7 +21,7 @@ std::string ErrorText(const Fault& fault) {
          ") in procedure ReadFileXML of Module modXML";
 }
 
-/// Nothing, and a message, when the file is not to be imported.
+/// Nothing, and a message in `reading`, when the file cannot be imported.
 std::optional<UsebioResults> ReadResults(RecordSource& source, Reading& reading) {
   auto& messages = reading.result.messages;
   if (source.bytes.size() > kMaxXmlBytes) {

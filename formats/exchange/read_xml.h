@@ -17,8 +17,8 @@ void TellXmlFailure(Host& host, const Fault& fault);
 
 /// Reads a whole results file. Everything is read before the first board goes to `sink`; what
 /// cannot be read is said in the result's messages, and a file that cannot be read at all stores
-/// nothing. `reading.extended` becomes a file whose document type lies on a web host, with the
-/// extended document type. Throws nothing but what `sink` throws.
+/// nothing. When the document type lies on a web host, `reading.extended` becomes the file with the
+/// extended document type in its place. Throws nothing but what `sink` throws.
 void ReadXML(RecordSource& source, BoardSink& sink, Reading& reading);
 
 }  // namespace tricklet

@@ -19,7 +19,7 @@ struct RecordSource {
 struct Reading {
   ReadResult result;
   LinFile results;       ///< of the boards, for "LIN.txt"
-  std::string extended;  ///< bytes for "QENXML.xml"; empty when there is no need of it
+  std::string extended;  ///< bytes for "QENXML.xml"; empty when none is needed
 };
 
 }  // namespace tricklet

@@ -12,9 +12,9 @@ namespace tricklet {
 
 /// What a file brings beside its deals, which decides what becomes of the library's "LIN.txt".
 enum class Brings : std::uint8_t {
-  Nothing,  ///< the results that the library has are of the deals that are replaced: it is recycled
-  Records,  ///< of its boards alone: those of other boards stay
-  Session,  ///< with its names and its scoring: it is replaced
+  Nothing,  ///< "LIN.txt" belongs to the deals that are replaced, so it is recycled
+  Records,  ///< records of its own boards: those of other boards stay
+  Session,  ///< a whole session with names and scoring: "LIN.txt" is replaced
 };
 
 struct RecordReader {
@@ -28,7 +28,7 @@ struct RecordReader {
 };
 
 /// The reader of a type that can be imported: "pbn", "dlm", "xml" or "lin". Throws `Fault`
-/// FaultNumber::SubscriptOutOfRange for another one.
+/// FaultNumber::SubscriptOutOfRange for any other.
 const RecordReader& ReaderOf(std::string_view type);
 
 }  // namespace tricklet
