@@ -19,22 +19,23 @@ class BoardSink {
 
   /// Takes a board whose number is 1..999. What it throws ends the reading: no reader catches it.
   virtual void Store(const Board& board) = 0;
-  /// A board begins, which may have any number; `done` thousandths of the file are read. False when
-  /// the person has cancelled the reading, which then ends.
+  /// Announces a board, whose number may be any; `done` thousandths of the file have been read.
+  /// False when the person has cancelled the reading, which then ends.
   virtual bool Begin(int boardNumber, int done) = 0;
 };
 
 /// What a reader left out of a file and went on without. Board numbers in the order of the file,
 /// each as often as it was left out.
 struct LeftOut {
-  std::vector<int> repeated;    ///< deals of a number that another deal before them has
+  std::vector<int> repeated;    ///< deals whose number an earlier, different deal has
   std::vector<int> impossible;  ///< deals with no card, a card twice or over 13 cards in a hand
   std::vector<int> broken;      ///< LIN records with a broken percent escape
   std::vector<int> unstorable;  ///< boards whose number is not 1..999
   std::vector<int> foreign;     ///< auctions of a dealer who is not the board's
   std::vector<int> overlong;    ///< auctions of more than 100 calls
 
-  /// A part of the file could not be read; what else is left out has no place in a library.
+  /// A part of the file could not be read. What is left out for other reasons could be read, but
+  /// has no place in a library.
   bool Unreadable() const { return !impossible.empty() || !broken.empty() || !overlong.empty(); }
 };
 

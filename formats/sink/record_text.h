@@ -11,7 +11,8 @@ std::string_view WithoutUtf8Mark(std::string_view text);
 /// Progress is counted in thousandths of a text.
 inline constexpr int kWholeText = 1000;
 
-/// How far a reader of `text` is when `rest` of it is left: 0..`kWholeText`. An empty text is read.
+/// How far a reader of `text` is when `rest` of it is left: 0..`kWholeText`. An empty text counts
+/// as read.
 int ThousandthsRead(std::string_view text, std::string_view rest);
 
 }  // namespace tricklet
