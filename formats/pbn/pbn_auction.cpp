@@ -12,7 +12,8 @@ namespace {
 constexpr std::string_view kBlanks = " \t\r\n\v\f";
 constexpr int kPassesOfAllPass = 3;
 
-/// `line` without its comments; `insideBraces` tells whether a {comment} is open, before and after.
+/// Appends `line` without its comments. `insideBraces`: a {comment} is open, before the line and
+/// then after it.
 void AppendWithoutComments(std::string_view line, bool& insideBraces, std::string& text) {
   if (!insideBraces && line.starts_with('%')) return;
   while (!line.empty()) {

@@ -14,7 +14,7 @@ namespace {
 
 /// Thrown inside this file only: the current line cannot be read.
 struct BadLine {
-  std::string reason;  // where the line does not show it
+  std::string reason;  // set where the line does not show it
 };
 
 constexpr int kTableRows = kSeats * kStrains;
@@ -68,7 +68,7 @@ std::int16_t ReadTableRow(std::string_view row, MakeableTable& table) {
   return tricks;
 }
 
-/// What can stand after the last row of a table, but is no row.
+/// The line is no row of a table, but one that can follow its last row.
 bool EndsTable(std::string_view line) {
   const std::string_view text = Trim(line);
   return text.empty() || text.front() == '[' || text.front() == '%';
@@ -128,7 +128,7 @@ class PbnReader {
   }
 
  private:
-  /// Deals with the current line and moves on past what belongs to it.
+  /// Reads the current line and moves on past what belongs to it.
   void ReadItem() {
     constexpr std::size_t kLongestTag = 24;
     const std::string_view line = Trim(lines_.Line());
@@ -143,7 +143,7 @@ class PbnReader {
       ReadDoubleDummyTricks(line, board_);
     } else if (tag.starts_with("[AUCTION ")) {
       ReadAuction(lines_, board_.calls);
-      return;  // it has moved on to the line that ended it
+      return;  // the line that ended the section is now the current one
     }
     lines_.ReadNextLine();
   }

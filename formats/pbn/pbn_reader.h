@@ -10,8 +10,8 @@ namespace tricklet {
 
 /// Reads all games of `text`. The line end is chosen once for the whole file: CR LF if it holds one
 /// anywhere, else CR, else LF; a text without any of them holds no boards. The first line is the
-/// file's header and is not examined. A board is stored when the next one begins, or at the end.
-/// The hands stay as they were when a game gives none; calls and table are each game's own.
+/// file's header and is not examined. A board is stored when the next one begins, or at the end. A
+/// game without a deal has the hands of the game before it; calls and table are each game's own.
 /// Throws `Fault` for an auction of more than 100 calls, and what `sink` throws.
 ReadResult ReadPBN(std::string_view text, BoardSink& sink);
 
