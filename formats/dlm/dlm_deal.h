@@ -1,4 +1,4 @@
-// A deal as the boards of a DLM file (the hand records of dealing machines) have it.
+// A deal as it is written in a DLM file (the hand records of dealing machines).
 //
 // 26 letters, "a" to "p": letter k stands for the cards 2k and 2k + 1, numbered suit x 13 + rank.
 // Its place in the alphabet (from 0) is 4 times the seat of the first plus the seat of the second.
@@ -14,7 +14,7 @@ namespace tricklet {
 
 inline constexpr std::size_t kDLMDealLetters = kCardsInPack / 2;
 
-/// What stands for a board that is not part of a file: one suit each.
+/// The deal written for a board outside the range of a file: each seat holds one suit.
 inline constexpr std::string_view kDLMPlaceholderDeal = "aaaaaabffffffkkkkkklpppppp";
 
 /// `letter` stands for two seats.
@@ -31,8 +31,8 @@ int DLMChecksum(int boardNumber, std::string_view dealLetters);
 std::string EncodeDLMDeal(int boardNumber, const HandTable& hands);
 std::string WithDLMChecksum(int boardNumber, std::string_view dealLetters);
 
-/// The hands of 26 letters. Throws `Fault` FaultNumber::SubscriptOutOfRange for a letter that is
-/// none of "a" to "p".
+/// The hands of 26 letters. Throws `Fault` FaultNumber::SubscriptOutOfRange for a letter outside
+/// "a" to "p".
 HandTable DecodeDLMDeal(std::string_view dealLetters);
 
 }  // namespace tricklet

@@ -37,7 +37,7 @@ class DlmReader {
  private:
   static constexpr std::string_view kBoard = "board";
 
-  /// The next line in lower case; what a line has beyond any use is left out.
+  /// The next line in lower case, cut off where nothing of use can follow.
   std::string ReadLine() {
     constexpr std::size_t kLongestLine = 1024;
     return ToLower(TakeLine(rest_).substr(0, kLongestLine));

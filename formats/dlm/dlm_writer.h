@@ -15,9 +15,9 @@ inline constexpr int kLastDLMBoard = 99;
 /// The lines before the first board. `first` and `last` are the range as asked for.
 std::string DLMHeader(int first, int last);
 
-/// The lines before a board's deal, of a number 1..99.
+/// The lines before a board's deal. `number`: 1..99.
 std::string DLMBoardHead(int number);
-/// A board's line "Board NN=" with its deal, or with the placeholder for boards out of the range.
+/// A board's line "Board NN=" with its deal, or with the placeholder for boards outside the range.
 std::string DLMBoardLine(int number, const HandTable& hands);
 std::string DLMPlaceholderLine(int number);
 
