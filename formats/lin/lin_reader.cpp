@@ -24,8 +24,7 @@ std::string DecodeAddress(std::string_view text) {
   return DecodeLinRecords(encoded);
 }
 
-/// Before the first bar there is what leads to the records of an address, or there is no bar but an
-/// encoded one.
+/// The text is an address: "lin=" stands before its first bar, or all its bars are percent-encoded.
 bool IsAddress(std::string_view text) {
   constexpr std::string_view kEncodedBar = "%7C";
   const auto bar = text.find('|');
@@ -33,7 +32,7 @@ bool IsAddress(std::string_view text) {
   return bar == std::string_view::npos && ToUpper(text).find(kEncodedBar) != std::string::npos;
 }
 
-/// Its bars stand as they are, but what separates the hands of a deal is encoded.
+/// The bars stand as they are, but the commas between the hands of a deal are percent-encoded.
 bool HasEncodedDeal(std::string_view text) {
   constexpr std::string_view kDeal = "md|";
   constexpr std::string_view kEncodedComma = "%2C";
@@ -46,7 +45,7 @@ bool HasEncodedDeal(std::string_view text) {
   return false;
 }
 
-/// The text of the records, however it came.
+/// The text of the records, decoded if it was encoded.
 struct RecordsText {
   std::string text;      // UTF-8
   bool decoded = false;  // it was percent-encoded
@@ -66,14 +65,14 @@ RecordsText PlainText(std::string_view text) {
   return records;
 }
 
-/// What describes the board and how it was played; chat, scores of the match and page marks do not.
+/// The tag describes the board or its play; chat, scores of the match and page marks do not.
 bool IsKept(std::string_view tag) {
   constexpr std::array<std::string_view, 8> kKept{"st", "md", "sv", "mb", "an", "pc", "mc", "zz"};
   return std::find(kKept.begin(), kKept.end(), tag) != kKept.end();
 }
 
-/// What may come before a deal. After the page that ends a record it belongs to the next one,
-/// whose deal would otherwise get the number of the board after it.
+/// The tag may come before a deal. After the page mark that ends a record it belongs to the next
+/// one: a header there would otherwise number the deal before it.
 bool StandsBeforeDeal(std::string_view tag) {
   constexpr std::array<std::string_view, 5> kBefore{"pn", "st", "rh", "ah", "sv"};
   return std::find(kBefore.begin(), kBefore.end(), tag) != kBefore.end();
@@ -88,7 +87,7 @@ struct Collected {
   bool hasRoom = false;
   bool hasPlayers = false;
   bool hasDeal = false;
-  bool pageEnded = false;  // since the deal
+  bool pageEnded = false;  // a page mark has come since the deal
   std::string fields;      // those that are kept as they stand
 };
 
@@ -165,7 +164,8 @@ class LinReader {
     record_.fields += '|';
   }
 
-  /// Deals with the current record, which ends at `end` of the text; its names stay for the next.
+  /// Stores or leaves out the current record, which ends at offset `end` of the text; its names
+  /// hold for the next.
   void EndRecord(std::size_t end) {
     const Collected record = std::exchange(record_, Collected());
     const bool broken = HasBrokenEscape(begin_, end);
@@ -199,7 +199,7 @@ class LinReader {
     return number;
   }
 
-  /// The board takes part in the numbers of the result; false when it cannot be stored.
+  /// Counts the board among the first and last of the result; false when it cannot be stored.
   bool Count(int number) {
     if (result_.firstBoard == 0) result_.firstBoard = number;
     result_.lastBoard = std::max(result_.lastBoard, number);
@@ -207,7 +207,7 @@ class LinReader {
     return IsStorable(number);
   }
 
-  /// Stores the first record of a board; false for a further one that is of another deal.
+  /// Stores the board of its first record; false for a later record with another deal.
   bool IsTheBoardStored(LinRecord& record) {
     const auto [stored, first] = stored_.try_emplace(record.boardNumber, record.hands);
     if (!first) {

@@ -12,17 +12,17 @@ namespace tricklet {
 /// The text holds a LIN deal, as it stands or percent-encoded in an address.
 bool LooksLikeLin(std::string_view text);
 
-/// Reads all records of `text`, however they lie on lines; bytes that are no UTF-8 are taken as
-/// Latin-1. They may be percent-encoded, with or without their bars, after "lin=" in an address or
-/// as they are. A record ends where the next one's board or deal begins: after a page mark that is
-/// any field that may stand before a deal. Names stay until others are given. A record without a
-/// number takes the next that its dealer deals.
+/// Reads all records of `text`, however they are broken into lines; a text that is not UTF-8 is
+/// taken as Latin-1. Records may be percent-encoded, with or without their bars, after "lin=" in an
+/// address or on their own. A record ends where the next one's board or deal begins; after a page
+/// mark, any field that may stand before a deal begins the next one. Names hold until others are
+/// given. A record without a number takes the next one that its dealer deals.
 ///
 /// The first record of a board gives its deal and auction; a further one of the same deal (the
-/// closed room, another table) is no board of its own. The result tells of what is left out: a
-/// record of another deal than its board's, of an impossible deal, or with a broken percent escape;
-/// and auctions of more than 100 calls or of a dealer who is not the board's, whose calls would be
-/// other seats'.
+/// closed room, another table) adds no board. The result lists what is left out: a record of
+/// another deal than its board's, of an impossible deal, or with a broken percent escape; and
+/// auctions of more than 100 calls or of a dealer who is not the board's, whose calls would be
+/// given to the wrong seats.
 ///
 /// `records` takes each record of the boards stored as a line for "LIN.txt", with the names and
 /// "|Board N|" in it. Throws what `sink` throws.

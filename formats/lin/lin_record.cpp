@@ -60,7 +60,7 @@ bool IsEmpty(const PerSuit<Holding>& hand) {
   return std::all_of(hand.begin(), hand.end(), [](Holding holding) { return holding.Empty(); });
 }
 
-/// Gives the one hand that is not given what the other three leave.
+/// Gives the one empty hand all cards that the other three do not hold.
 void CompleteDeal(HandTable& hands) {
   if (std::count_if(hands.begin(), hands.end(), IsEmpty) != 1) return;
   PerSuit<Holding>& fourth = *std::find_if(hands.begin(), hands.end(), IsEmpty);

@@ -47,10 +47,10 @@ std::optional<Card> CardOfLetters(char suit, char rank);
 /// no other hand holds.
 LinRecord ParseLinRecord(std::string_view text);
 
-/// The record gives a deal in which no card is twice and no hand has more than 13 cards.
+/// The record gives a deal in which no card occurs twice and no hand has more than 13 cards.
 bool CanBeDealt(const LinRecord& record);
 
-/// The deal's dealer is another than the board's, so its auction would begin at the wrong seat.
+/// The record's dealer is not the board's, so its auction would begin at the wrong seat.
 bool HasForeignDealer(const LinRecord& record);
 
 /// The board as a library stores it: number, hands, calls and the contract from them. An auction of

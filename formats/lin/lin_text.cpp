@@ -23,10 +23,10 @@ std::optional<unsigned> HexDigit(char c) {
 
 struct DecodedText {
   std::string text;
-  bool broken = false;  // an escape was, and has become `kBrokenEscape`
+  bool broken = false;  // an escape was broken and has become `kBrokenEscape`
 };
 
-/// One pass: what an escape stood for is never taken for the beginning of another.
+/// One pass: a decoded character never begins another escape.
 DecodedText DecodePercent(std::string_view text, std::size_t room = 0) {
   DecodedText result;
   std::string& decoded = result.text;
@@ -61,7 +61,7 @@ std::size_t FindNames(std::string_view text, std::size_t from) {
   return std::string_view::npos;
 }
 
-/// Takes from each of the first four names of the first "pn" field the part from its "#" on.
+/// Cuts each of the first four names of the first "pn" field off at its "#".
 void CleanNames(std::string& text) {
   const std::size_t tag = FindNames(text, 0);
   if (tag == std::string::npos) return;
@@ -75,7 +75,7 @@ void CleanNames(std::string& text) {
   }
 }
 
-/// What stands before the next bar, which is taken too.
+/// Takes what stands before the next bar, and the bar itself.
 std::string_view TakeToBar(std::string_view& rest) {
   const auto bar = rest.find('|');
   const std::string_view taken = rest.substr(0, bar);
@@ -104,7 +104,7 @@ std::string DecodeLinRecords(std::string_view text) {
   const std::string decoded = DecodePercent(text).text;
   std::string cleaned;
   cleaned.reserve(decoded.size());
-  // In pieces of one "pn" field each, so that a name that is cut moves no more than its piece.
+  // In pieces of one "pn" field each, so that cutting a name moves no more than its piece.
   for (std::size_t begin = 0; begin < decoded.size();) {
     const std::size_t next = std::min(FindNames(decoded, begin + 1), decoded.size());
     std::string piece = decoded.substr(begin, next - begin);
