@@ -14,7 +14,7 @@
 namespace tricklet {
 namespace {
 
-/// How much a record tells of the deal, the most last.
+/// How much a record tells of the deal, in ascending order.
 enum class DealRank : std::uint8_t { None, Any, Possible, Complete };
 
 DealRank RankOf(const LinRecord& record) {
@@ -29,8 +29,8 @@ struct RankedRecord {
   LinRecord record;
 };
 
-/// Of each board of the range the first record with the most of a deal: of all four hands, else one
-/// that can be right, else one at all.
+/// For each board of the range, the first record with the best deal: all four hands complete, else
+/// a possible deal, else any.
 std::map<int, RankedRecord> RecordsOf(const LinFile& data, int firstBoard, int lastBoard) {
   std::map<int, RankedRecord> records;
   for (const std::string& text : data.lin) {
@@ -47,7 +47,8 @@ std::map<int, RankedRecord> RecordsOf(const LinFile& data, int firstBoard, int l
   return records;
 }
 
-/// What follows the first "|Board ". Looks for the word, as a record has a bar every few bytes.
+/// What follows the first "|Board ". Searches for the word, not for the bar, of which a record has
+/// one every few bytes.
 std::optional<std::string_view> AfterHeader(std::string_view record) {
   constexpr std::string_view kWord = "Board ";
   for (auto at = record.find(kWord); at != std::string_view::npos;

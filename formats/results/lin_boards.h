@@ -13,15 +13,15 @@ namespace tricklet {
 int BoardNumberOfLin(std::string_view record);
 
 /// The boards numbered `firstBoard` to `lastBoard` of which `data` has a deal, in ascending order:
-/// of each, deal and auction of its first record with a deal of all four hands, or else with one
-/// that can be right. The first board's record decides whether auctions are read. Numbers that
-/// cannot be stored are passed over. What else is left out goes to `leftOut`: boards of which no
-/// deal can be right, auctions of more than 100 calls or of a dealer who is not the board's.
+/// each with the deal and the auction of its first record in which all four hands are complete, or
+/// else in which the deal is possible. Auctions are read only if the first board's record has one.
+/// Numbers that cannot be stored are passed over. What else is left out goes to `leftOut`: boards
+/// without a possible deal, auctions of more than 100 calls or of a dealer who is not the board's.
 std::vector<Board> BoardsOfLinData(const LinFile& data, int firstBoard, int lastBoard,
                                    LeftOut& leftOut);
 
-/// Puts those boards into `sink`. All are read before the first is stored. `result` counts on while
-/// they are stored, so it is true when what `sink` throws ends the reading.
+/// Puts those boards into `sink`. All are read before the first is stored. `result` counts each as
+/// it is stored, so it is right even when an exception of `sink` ends the reading.
 void ReadLinCards(const LinFile& data, int firstBoard, int lastBoard, BoardSink& sink,
                   ReadResult& result);
 

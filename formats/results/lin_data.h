@@ -16,7 +16,7 @@ class LinData {
   /// reported once and counts as empty.
   const LinFile& Of(Session& session);
 
-  /// How often a file has been read: another number tells of other data.
+  /// How often a file has been read: when the number has changed, so may the data have.
   int Version() const { return version_; }
 
  private:

@@ -20,8 +20,8 @@ bool IsControl(char c) {
   return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
 }
 
-/// Looks at every byte: the compiler can do so many at a time, which it could not if the search
-/// stopped at the first.
+/// Looks at every byte, even after it has found one, so that the compiler can look at many at a
+/// time.
 bool HasControl(std::string_view value) {
   unsigned char found = 0;
   for (const char c : value) found |= static_cast<unsigned char>(IsControl(c));

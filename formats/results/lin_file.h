@@ -13,8 +13,8 @@
 //   [LIN]                 a line per traveller line: the decoded LIN record, then the private tags
 //
 // Headers are known in any letter case. [TeamScoringMethod] is written so but looked for as
-// [TeamsScoringMethod], so a file that Tricklet wrote gives no team scoring method back; nothing
-// that is shown depends on it. [BoardScoring] is an older spelling of [BoardScoringMethod].
+// [TeamsScoringMethod], so the team scoring method of a file that Tricklet wrote is not read back;
+// nothing that is shown depends on it. [BoardScoring] is an older spelling of [BoardScoringMethod].
 #pragma once
 
 #include <cstddef>
@@ -32,7 +32,7 @@ namespace tricklet {
 /// MiB.
 inline constexpr std::size_t kMaxLinFileBytes = std::size_t{128} * 1024 * 1024;
 
-/// What a team event has beside a pairs event.
+/// What a team event has and a pairs event has not.
 struct LinTeams {
   std::vector<std::string> teams;  ///< a line per team
   std::string teamScoringMethod;

@@ -15,7 +15,7 @@ namespace tricklet {
 using PairPlayers = std::pair<std::string, std::string>;
 
 /// The name under which a player is shown: the robot of an online table as "Robot", and any other
-/// made fit to be shown.
+/// made fit for display.
 std::string PlayerName(std::string_view name);
 
 /// "Ann & Bob"; a name alone where the other is not known.
@@ -40,7 +40,7 @@ class PairNames {
  private:
   void Add(const std::string& number, std::string direction, const PairPlayers& players);
 
-  /// Of the pair of these players on one side.
+  /// The number of a pair on one side.
   struct Number {
     std::string text;  // empty when several pairs have these names
     bool known = false;

@@ -15,7 +15,7 @@
 namespace tricklet {
 namespace {
 
-constexpr std::string_view kOwnTags = "qent|";  // the first of the scorer's own
+constexpr std::string_view kOwnTags = "qent|";  // where the scorer's own tags begin
 constexpr int kMostTricks = kCardsInHand;
 
 const std::string& Result(const LinRecord& record, LinResultTag tag) {
@@ -56,7 +56,8 @@ std::optional<Card> CardOf(std::string_view text) {
 }
 
 /// The deal, the calls as far as a board holds them, and the contract. Where the record has no
-/// auction, or one that another than the board's dealer began, the scorer's contract stands in.
+/// auction, or one that began with another dealer than the board's, the scorer's contract stands
+/// in.
 Board BoardOf(const LinRecord& record, int boardNumber) {
   Board board;
   board.boardNumber = boardNumber;
@@ -86,7 +87,8 @@ bool IsAdjusted(const LinRecord& record) {
   return !score.empty() && !NumberOf<int>(score);
 }
 
-/// Contract and declarer, the scorer's before the auction's. Returns what `ScoreContract` needs.
+/// Reads contract and declarer: the scorer's if given, else the auction's. Returns what
+/// `ScoreContract` needs.
 Board ReadContractOf(const LinRecord& record, TravellerRow& row) {
   Board scored;
   scored.boardNumber = row.record.board.boardNumber;
@@ -105,8 +107,7 @@ Board ReadContractOf(const LinRecord& record, TravellerRow& row) {
   return scored;
 }
 
-/// Of a contract: the scorer's tricks before those of the record, which ends with a claim or with
-/// the last card.
+/// For a contract: the scorer's tricks, else those claimed, else those of the cards played.
 void ReadTricks(const LinRecord& record, Board scored, TravellerRow& row) {
   if (!row.declarer) return;
   row.tricks = TricksOf(Result(record, LinResultTag::Qent));
@@ -205,7 +206,7 @@ void ComputePoints(Traveller& traveller, bool matchPoints, bool teams) {
   }
   const auto played = std::count_if(scores.begin(), scores.end(),
                                     [](const auto& score) { return score.has_value(); });
-  if (played < 2) return;  // a score beside nobody's is neither good nor bad
+  if (played < 2) return;  // a single score has nothing to be compared with
   if (matchPoints) {
     GiveMatchPoints(scores, traveller);
   } else if (!teams || played == 2) {
@@ -213,7 +214,8 @@ void ComputePoints(Traveller& traveller, bool matchPoints, bool teams) {
   }
 }
 
-/// What the points are: the file's word for its own, and for computed ones what was computed.
+/// The heading of the points: the file's word for its own points, and for computed ones what was
+/// computed.
 std::string ScoringOf(const LinFile& file, bool matchPoints, bool teams, bool computed) {
   constexpr std::size_t kLongest = 8;
   if (matchPoints) return "MP";

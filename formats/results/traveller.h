@@ -15,8 +15,8 @@ namespace tricklet {
 
 inline constexpr const char* kNotPlayed = "Not played";
 
-/// One table. What the file does not give is worked out from its record where that tells it. Of a
-/// score by ruling, contract and tricks are not: the play did not decide it.
+/// One table. What the file does not give is worked out from the record as far as that tells it;
+/// but not contract and tricks when the score is a ruling, since the play did not decide it.
 struct TravellerRow {
   PerSide<std::string> pair;     ///< numbers as in the file; empty where the players have none
   std::string contract;          ///< "4Sx", "All Pass"; empty where there is none
@@ -25,7 +25,7 @@ struct TravellerRow {
   std::optional<int> tricks;  ///< of the declarer, 0..13
   std::optional<int> score;   ///< from North-South's point of view
   std::string adjusted;       ///< the score's text where it is a ruling: "A5050"
-  /// Match points or IMPs, after the traveller's `scoring`.
+  /// Match points or IMPs, as the traveller's `scoring` says.
   PerSide<std::optional<float>> points;
   PerSide<std::string> names;  ///< "Ann & Bob": North and South, East and West
   RecordedPlay record;
@@ -55,13 +55,13 @@ inline constexpr std::size_t kMaxTravellerRows = 10'000;
 
 /// The traveller of `boardNumber`; without rows where the file has no record of the board.
 ///
-/// Where all points of the board are 0 or missing they are computed from two scores on: match
-/// points, or IMPs against every other table. In a match of teams only two tables can be compared,
-/// as the file does not say which of more belong together.
+/// Where all points of the board are 0 or missing they are computed when there are at least two
+/// scores: match points, or IMPs against every other table. In a match of teams only two tables can
+/// be compared, as the file does not say which of more belong together.
 Traveller MakeTraveller(const LinFile& file, int boardNumber);
 
-/// The LIN record of a row, of the first with a play where `row` is -1; empty where there is none,
-/// or it is of another deal than `board`.
+/// The LIN record of `row`, or of the first row with a play when `row` is -1. Rows of another deal
+/// than that of `board` do not count; empty when none is left.
 std::string LinPlayRecord(const Traveller& traveller, const Board& board, int row = -1);
 
 /// Gives the text of one table in a line: "4S by South +1 +650 Ann & Bob v Cy & Di", a score of 0
@@ -69,12 +69,11 @@ std::string LinPlayRecord(const Traveller& traveller, const Board& board, int ro
 /// result. A ruling stands in the place of the score.
 std::string ReadLinBidding(const TravellerRow& row);
 
-/// Gives the entries of the list of play records, which its caller adds to the list: the names of
-/// each row, in the order of the rows.
+/// The entries for the list of play records: the names of each row, in the order of the rows.
 std::vector<std::string> AddLinNames(const Traveller& traveller);
 
-/// The entry that holds the part of `namesText` before its first "&"; of several, the one at
-/// `preferred`, else the first. -1 when none does.
+/// The index of the entry that contains the part of `namesText` before its first "&"; of several,
+/// the one at `preferred`, else the first. -1 when none does.
 int FindLinName(const std::vector<std::string>& entries, std::string_view namesText, int preferred);
 
 }  // namespace tricklet
