@@ -9,7 +9,8 @@ namespace tricklet {
 /// Largest XML file that is read, in bytes: a session of 30 boards at 15 tables takes some 1 MiB,
 /// and the document in memory may take twenty times its file.
 inline constexpr std::size_t kMaxXmlBytes = std::size_t{64} * 1024 * 1024;
-/// Elements inside one another that are read, the outermost included; a results file has some ten.
+/// How many elements may be nested inside one another, the outermost included; a results file has
+/// some ten.
 inline constexpr int kMaxXmlDepth = 64;
 /// Longest name, word or record that is read, in bytes.
 inline constexpr std::size_t kMaxUsebioText = std::size_t{64} * 1024;

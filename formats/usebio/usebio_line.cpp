@@ -17,8 +17,9 @@
 namespace tricklet {
 namespace {
 
-/// Nearly every number of a results file: digits and perhaps a fraction, without zeros that could
-/// go. Single precision keeps any six digits apart (FLT_DIG), so none is shorter.
+/// The text is in shortest form already, as nearly every number of a results file is: digits and
+/// perhaps a fraction, without superfluous zeros. Single precision keeps any six digits apart
+/// (FLT_DIG), so no shorter text stands for the same number.
 bool IsShortestNumber(std::string_view text) {
   constexpr auto kMostCharacters = std::size_t{std::numeric_limits<float>::digits10};
   const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
@@ -48,7 +49,7 @@ void AppendNumber(std::string& record, const pugi::xml_node& element) {
   }
 }
 
-/// Appends the element's text; a bar would end its field.
+/// Appends the element's text, with blanks for bars, which would end its field.
 void AppendField(std::string& record, const pugi::xml_node& element) {
   const ElementText text(element);
   const std::size_t begin = record.size();
@@ -56,8 +57,8 @@ void AppendField(std::string& record, const pugi::xml_node& element) {
   std::replace(record.begin() + static_cast<std::ptrdiff_t>(begin), record.end(), '|', ' ');
 }
 
-/// Appends the cross-IMPs of North-South, or what East-West's leave them; Butler events give theirs
-/// under another name.
+/// Appends the cross-IMPs of North-South, or else those of East-West with the opposite sign. Butler
+/// events give their IMPs under another name.
 void AppendImps(std::string& record, const TravellerLine& line) {
   const pugi::xml_node& ns = line.At(TravellerLine::NsCrossImps);
   const pugi::xml_node& ew = line.At(TravellerLine::EwCrossImps);
@@ -69,7 +70,7 @@ void AppendImps(std::string& record, const TravellerLine& line) {
   }
 }
 
-/// A "pn" field of the record names somebody.
+/// The first "pn" field of the record names somebody.
 bool NamesPlayers(std::string_view record) {
   for (LinField field; NextLinField(record, field);) {
     if (field.tag == "pn") return field.value.find_first_not_of(" ,") != std::string_view::npos;
@@ -102,7 +103,7 @@ std::string PlayersField(const TravellerLine& line, const SessionPairs& pairs) {
 /// is the one whose line it is. Where it has no players they are those of the line's pairs.
 std::string RecordOf(const TravellerLine& line, int boardNumber, const SessionPairs& pairs) {
   const ElementText data(line.At(TravellerLine::LinData));
-  constexpr std::size_t kTags = 96;  // what the scorer's own tags take
+  constexpr std::size_t kTags = 96;  // bytes that the scorer's own tags take
   std::string record = MendUtf8(ReadLinData(data.View(), kTags));
   if (!record.empty() && !record.ends_with('|')) record += '|';
   if (!NamesPlayers(record)) record += PlayersField(line, pairs);
@@ -140,8 +141,8 @@ bool TravellerLine::Take(std::string_view name, pugi::xml_node child) {
 std::string LinLine(const TravellerLine& line, int boardNumber, const SessionPairs& pairs) {
   using Line = TravellerLine;
   std::string text = RecordOf(line, boardNumber, pairs);
-  // The bars between values and tags are doubled from the second value on: readers of "LIN.txt"
-  // have always met them so.
+  // The bars between values and tags are doubled from the second value on: programs that read
+  // "LIN.txt" expect them so.
   AppendField(text += "qent|", line.At(Line::Tricks));
   AppendField(text += "|qens|", line.At(Line::Score));
   AppendNumber(text += "||qenns|", line.At(Line::NsMatchPoints));

@@ -51,7 +51,7 @@ class TravellerLine {
 /// The pairs of a session.
 struct SessionPairs {
   PairNames names;
-  /// Pairs sit now this way, now that, and a line's direction is that of its first pair.
+  /// Pairs change direction from board to board, and a line's direction is that of its first pair.
   bool oneWinner = false;
 };
 

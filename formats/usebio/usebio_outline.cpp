@@ -30,7 +30,7 @@ class Walker : public pugi::xml_tree_walker {
     int level;
   };
 
-  /// What begins on this level ends all that began there or deeper.
+  /// An element on this level ends all those that began there or deeper.
   void Leave(int level) {
     if (level <= line_) line_ = kNowhere;
     if (level <= list_) list_ = kNowhere;

@@ -18,9 +18,9 @@ struct UsebioBoard {
 /// What may lie anywhere in a document.
 struct UsebioOutline {
   std::vector<UsebioBoard> boards;
-  /// Only the outermost lists: the pairs of lists in lists would come more than once.
+  /// Only the outermost lists: the pairs of nested lists would come more than once.
   std::vector<pugi::xml_node> participants;
-  int sessions = 0;  ///< right inside an event
+  int sessions = 0;  ///< directly inside an event
   int sections = 0;
 };
 

@@ -82,7 +82,7 @@ class UsebioReader {
     }
     const SessionPairs pairs{PairNames(results_.data.names), IsOneWinner(event)};
     for (const UsebioBoard& board : outline_.boards) ReadBoard(board, pairs);
-    // A scorer's word for IMPs does not tell which.
+    // The word "IMPS" does not tell which kind of IMPs.
     if (crossImps_ && results_.data.boardScoringAbb == GetAbbreviations(kImps)) {
       results_.data.boardScoringAbb = GetAbbreviations(kCrossImps);
     }
@@ -103,7 +103,8 @@ class UsebioReader {
     LinFile& data = results_.data;
     const bool teams = std::string_view(event.attribute("EVENT_TYPE").value()) == "TEAMS";
     const std::string usual = teams ? kImps : kMatchPoints;
-    // A team event's own word says how the match is scored, a pairs event's how the boards are.
+    // The general word says how the match is scored in a team event, and how the boards are in a
+    // pairs event.
     std::string word = WordOf(event, {"BOARD_SCORING_METHOD", "PAIRWISE_SCORING_METHOD"});
     const std::string general = WordOf(event, {"SCORING_METHOD"});
     if (word.empty() && !teams) word = general;
@@ -120,7 +121,8 @@ class UsebioReader {
     }
   }
 
-  /// As the event says, or else the list of its pairs, which has no directions then.
+  /// As the event says; if it does not, pairs have one winner when no pair of the list has a
+  /// direction.
   bool IsOneWinner(const pugi::xml_node& event) const {
     const std::string winners = WordOf(event, {"WINNER_TYPE"});
     if (!winners.empty()) return LeadingNumber(winners) == 1;
@@ -143,7 +145,8 @@ class UsebioReader {
     }
   }
 
-  /// A record that cannot be decoded is left out, with what the table did in its place.
+  /// A record that cannot be decoded is left out; the line then has the rest of what is known of
+  /// the table.
   std::string LineOf(const TravellerLine& line, int number, const SessionPairs& pairs) {
     try {
       return LinLine(line, number, pairs);
@@ -167,7 +170,8 @@ class UsebioReader {
 }  // namespace
 
 std::variant<UsebioResults, UsebioRefusal> ReadUsebio(std::string text) {
-  // Text as the value of its element: half the nodes of a file whose elements hold one text each.
+  // An element's text becomes its value instead of a node of its own, which halves the nodes of a
+  // file whose elements hold one text each.
   constexpr unsigned kParsing = pugi::parse_default | pugi::parse_embed_pcdata;
   pugi::xml_document document;
   if (!document.load_buffer_inplace(text.data(), text.size(), kParsing, pugi::encoding_utf8)) {

@@ -6,7 +6,7 @@
 namespace tricklet {
 namespace {
 
-/// `text` as a value to keep; longer ones are in no results file.
+/// `text` without blanks at both ends. Refuses one longer than any in a results file.
 std::string_view Kept(std::string_view text) {
   const std::string_view value = TrimLines(text);
   if (value.size() > kMaxUsebioText) throw UsebioRefusal{kUnexpectedFormat};
@@ -16,7 +16,7 @@ std::string_view Kept(std::string_view text) {
 }  // namespace
 
 ElementText::ElementText(const pugi::xml_node& element) : view_(element.value()) {
-  // The first piece is the element's own value, by the parsing option.
+  // The parsing option has made the first piece the element's own value.
   for (auto piece = element.first_child(); piece; piece = piece.next_sibling()) {
     if (piece.type() != pugi::node_pcdata && piece.type() != pugi::node_cdata) continue;
     if (joined_.empty()) joined_ = view_;

@@ -27,7 +27,7 @@ class ElementText {
 };
 
 std::string TextOf(const pugi::xml_node& element);
-/// That of the first child of this name.
+/// The text of the first child of this name.
 std::string ChildText(const pugi::xml_node& element, const char* name);
 /// The value of the attribute, else of the child element of that name.
 std::string NamedText(const pugi::xml_node& element, const char* name);

@@ -140,7 +140,7 @@ std::string Utf8ToWindows1252(std::string_view text) {
   return bytes;
 }
 
-/// The encoding of one byte a character that the declaration at the front of the file names.
+/// The single-byte encoding that the declaration at the front of the file names.
 std::optional<XmlEncoding> DeclaredEncoding(std::string_view bytes) {
   if (!bytes.starts_with("<?xml")) return std::nullopt;
   const std::string declaration = ToUpper(bytes.substr(0, bytes.find_first_of("<>", 1)));
@@ -162,8 +162,8 @@ std::optional<XmlEncoding> DeclaredEncoding(std::string_view bytes) {
   return std::nullopt;
 }
 
-/// The position after the ">" that ends the declaration at `begin`: not one in quotes or in its
-/// internal subset.
+/// The position after the ">" that ends the declaration at `begin`. One in quotes or in the
+/// internal subset does not end it.
 std::optional<std::size_t> EndOfDeclaration(std::string_view text, std::size_t begin) {
   char quote = '\0';
   bool subset = false;

@@ -30,13 +30,13 @@ XmlText DecodeXml(std::string file);
 /// Characters that the encoding lacks become "?".
 std::string EncodeXml(const XmlText& xml);
 
-/// Where the online document type lives; none is given, so the declaration names the path alone.
+/// The host of the online document type. It is empty, so the declaration names the path alone.
 /// Nothing is ever fetched from it.
 inline constexpr std::string_view kDtdHost;
 inline constexpr std::string_view kDtdPath = "/dtd/usebio_v1_2_ext.dtd";
 
 /// Replaces the declaration "<!DOCTYPE USEBIO ...>", its internal subset with it, by one that names
-/// the extended document type, when it names one on some web host. True when it was replaced.
+/// the extended document type, when it names one on a web host. True when it was replaced.
 bool RewriteDocumentType(std::string& text);
 
 }  // namespace tricklet
