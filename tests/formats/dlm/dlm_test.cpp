@@ -64,7 +64,7 @@ TEST(ReadDLM, ReadsBoardLinesUpToTheLast) {
       {"Checksum=999\nBoard 03" + line + "\nBoard 04" + line + "999 and more", "3 4, 3-4"},
       {"Board 1=AAAAAABFFFFFFKKKKKKLPPPPPP", "1, 1-1"},
       {"Duplicates 01=0\nProperty 01=1\nHeadline=Board 1\n Board 1=\n", ", 0-0"},
-      {"To board=x\n" + BoardLine("01"), ", 0-0"}};  // no number is no board to stop at
+      {"To board=x\n" + BoardLine("01"), ", 0-0"}};  // no number counts as 0
   for (const auto& [text, boards] : kCases) {
     test::Collector sink;
     const ReadResult result = ReadDLM(text, sink);

@@ -1,4 +1,4 @@
-// The road that every import takes: questions, storing, messages.
+// What every import goes through: questions, storing, messages, and what becomes of the results.
 #include "formats/exchange/import.h"
 
 #include <cstdint>
@@ -24,7 +24,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The reasons for leaving something out, and by what they stand below.
+/// The reasons for leaving something out, and what stands for them below.
 constexpr std::pair<const char*, const char*> kReasons[] = {
     {" left out because a library holds boards 1 to 999: ", " UNSTORABLE "},
     {" left out for a broken percent escape: ", " BROKEN "},

@@ -32,7 +32,7 @@ Board RandomBoard(int number, RandomSource& random) {
   for (auto& row : board.makeable) {
     for (auto& tricks : row) tricks = static_cast<std::int16_t>(RandomBetween(0, 13, random));
   }
-  // The last row alone tells whether a table is there, and 0 tricks there say that it is not.
+  // A table whose last row has 0 tricks counts as none.
   board.makeable[TableSeat::West][TableStrain::NoTrump] = 13;
   return board;
 }

@@ -58,7 +58,7 @@ TEST(ReadLIN, FindsTheRecordsHoweverTheyLie) {
   const std::pair<std::string, const char*> kCases[] = {
       {"qx|o1|@3pg||\nqx|o2|@4pg||\n", "1 2 "},
       {"qx|o1|@3qx|o2|md|3" + kThree + ",CAKQJT98765432|", "1 2 "},
-      // by the deal alone, and by a header before it, with a page mark at its end or none
+      // without a room: the header after the deal or before it, with page marks or without
       {"@3ah|Board 5|@4ah|Board 6|", "5 6 "},
       {"rh||ah|Board 5|st||@3mb|p|pg||\nrh||ah|Board 6|st||@3pg||ah|Board 7|@3", "5(Pass) 6 7 "},
       {"ah|Board 5|@3ah|Board 6|@3ah|Board 6|ah|Board 8|@3", "5 6 8 "},
@@ -68,7 +68,7 @@ TEST(ReadLIN, FindsTheRecordsHoweverTheyLie) {
        "7(1C) "},
       {"qx|o9|@3qx|o3|@3", "9 3 "},
       {"qx|o9|ah|Board 3|@3", "3 "},
-      {"@1@2@1@0", "3 4 7 8 "},  // no numbers: what the dealer deals next
+      {"@1@2@1@0", "3 4 7 8 "},  // no numbers: the next board that the dealer deals
       {"qx|o1000|@3qx|o999|@3", "999 "},
       {"vg|A,B,I,1,2,X,0,Y,0|\nrs|1N=,,|\npn|,,,,,,,|pg||\nqx|o1|@3", "1 "},
       {"nt|Hello|pg||md|0|pg||qx|o1|@3nt|Bye|pg||", "1 "},
@@ -76,11 +76,11 @@ TEST(ReadLIN, FindsTheRecordsHoweverTheyLie) {
       {"qx|o1|md|3SA,,SQ,|", "1? "},
       {"qx|o1|nt|\x1A|@3", "1 "},  // a control character that is no escape
       {"[Board \"1\"]\n[Deal \"N:- - - -\"]\n", ""},
-      // The first record of a board counts; one of another deal is none of this board.
+      // The first record of a board counts; one of another deal is left out.
       {"qx|o1|@3mb|1C|mb|p|qx|c1|@3mb|7N|qx|o1|md|3," + kThree + "|", "1(1C Pass) =1 "},
-      // Another dealer's calls are left out; 0 names none.
+      // Another dealer's calls are left out; 0 names no dealer.
       {"qx|o1|@1mb|1C|qx|o2|@4mb|1C|qx|o3|@0mb|1C|", "1 2(1C) 3(1C) ~1 "},
-      // A percent sign is one where the bars are bars.
+      // Where the bars are not encoded, a percent sign is just that.
       {"nt|100% sure|qx|o1|@3nt|?lin=50%|", "1 "}};
   for (const auto& [text, boards] : kCases) {
     const Read read(text);
@@ -134,7 +134,7 @@ TEST(ReadLIN, ARecordThatCannotBeReadIsLeftOut) {
   const Read escapes(
       "lin=pn%7CAnn%2CBob,Cy,Di%7Cqx%7Co1%7C@3nt|100%|qx|o2|@3qx|o3|pn|%4|@3qx|o4|@3qx|o5|@3mb%7");
   EXPECT_EQ(escapes.Boards(), "2 4 %1 %3 %5 ");
-  EXPECT_EQ(escapes.Names(), "Ann,Bob,Cy,Di; ,,,; ") << "broken names hold for none";
+  EXPECT_EQ(escapes.Names(), "Ann,Bob,Cy,Di; ,,,; ") << "broken names do not stay";
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ struct Read {
   ReadResult result;
 };
 
-/// The one board of a file of a header line, Board 5, and `body`.
+/// The one board of a file that has a header line, a tag for board 5, and `body`.
 Board ReadOne(const std::string& body) {
   const Read read("% PBN\n[Board \"5\"]\n" + body);
   EXPECT_EQ(read.result.badLine.value_or(""), "");
@@ -48,7 +48,7 @@ TEST(ReadPBN, ReadsAuctions) {
       {"1H Pass 1S =1= Pass\n2C ! Pass 2H $5 Pass", "1H Pass 1S Pass 2C Pass 2H Pass"},
       {"1NT! - ? * +", "1NT"},
       {"1C {promises a club; Pass} 1D ; Pass Pass\n% Pass\n{\nAP\n}2D", "1C 1D 2D"},
-      {"1S {so\n%it was} X\nP P", "1S Dbl Pass Pass"},  // no escaped line inside a comment
+      {"1S {so\n%it was} X\nP P", "1S Dbl Pass Pass"},  // "%" escapes no line inside a comment
       {"7 1 1X 8C 3", ""},
       {"\t Pass\t\tAll Pass ", "Pass Pass Pass Pass Pass"}};
   for (const auto& [section, calls] : kCases) {
@@ -95,7 +95,7 @@ TEST(ReadPBN, ReadsOptimumResultTables) {
     EXPECT_EQ(read.makeableValid ? read.makeable[TableSeat::West][TableStrain::Clubs] : -1, tricks);
   }
   const Board cut = ReadOne("[OptimumResultTable \"\"]\nN C 7\nS H 5");
-  EXPECT_EQ(cut.makeable[TableSeat::South][TableStrain::Hearts], 5) << "by the end of the file";
+  EXPECT_EQ(cut.makeable[TableSeat::South][TableStrain::Hearts], 5) << "at the end of the file";
 }
 
 TEST(ReadPBN, StopsAtALineThatCannotBeRead) {

@@ -28,7 +28,7 @@ TEST(LinFile, IsWrittenSectionBySection) {
                             rest;
   EXPECT_EQ(LinFileText(data), teams);
   data.teamEvent->teamScoringMethod.clear();
-  EXPECT_EQ(ParseLinFile(teams), data) << "the written spelling is not the one that is looked for";
+  EXPECT_EQ(ParseLinFile(teams), data) << "it is written in one spelling and looked for in another";
   data.teamEvent->teamScoringMethod = "VP";
   EXPECT_EQ(ParseLinFile(teams + "[TeamsScoringMethod]\nVP\n"), data);
 }

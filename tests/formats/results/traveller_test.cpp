@@ -102,7 +102,7 @@ TEST(Traveller, RowsInOneLine) {
       {LinPasses(99) + "mb|1C|mb|p|mc|7|", "1C by West = -70"},  // more calls than a board holds
       {auction + play, "1NT by North -7 -350"},
       {auction + play + "mc|2|", "1NT by North -5 -250"},
-      {play + Tags("- - - - 1N E"), "Not played"},  // against the rules in this contract
+      {play + Tags("- - - - 1N E"), "Not played"},  // the play breaks the rules in this contract
       {Tags("14 90 - - 1N N"), "1NT by North +90"},
       {Tags("8 0 - - 42 N"), "="}};
   for (const auto& [tags, line] : kCases) {
@@ -192,7 +192,7 @@ TEST(Traveller, TheBoardsRecordIsTheOneLookedAtElseTheFirstWithAPlay) {
   EXPECT_EQ(LinPlayRecord(traveller, board, 0), Record("e,f,g,h", ""));
   EXPECT_EQ(LinPlayRecord(Traveller(), board), "");
   board.hands[Seat::East][Suit::Hearts].Remove(Rank::Two);
-  EXPECT_EQ(LinPlayRecord(traveller, board), "") << "it is another deal by now";
+  EXPECT_EQ(LinPlayRecord(traveller, board), "") << "the deal is another one now";
 }
 
 TEST(Traveller, NamesAreLookedUpByTheirFirstPart) {

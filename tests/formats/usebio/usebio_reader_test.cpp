@@ -49,7 +49,7 @@ std::string FileOf(const std::string& event, const std::string& more) {
 }
 
 TEST(Usebio, TravellerLineBecomesARecordWithPrivateTags) {
-  // No value leaves its field, and the first of a name counts.
+  // A bar in a value does not end its field, and of several elements of a name the first counts.
   const std::string fields = Elements(
       "CONTRACT=4Sx|qens|9 PLAYED_BY=N LEAD=H2 TRICKS=10 SCORE=+590 NS_MATCH_POINTS=6.50 "
       "EW_MATCH_POINTS=1.5 TRICKS=11 NS_CROSS_IMP_POINTS=-12.10 LEAD=H3");
@@ -177,7 +177,7 @@ TEST(Usebio, ALineIsOfTheBoardThatItIsRightInside) {
   EXPECT_EQ(boards, "1 1 2 ");
 }
 
-/// So many elements inside one another, two of them those of every file.
+/// A file of `levels` elements inside one another, USEBIO and EVENT included.
 std::string Deep(int levels, const std::string& name) {
   std::string text;
   for (int level = 2; level < levels; ++level) text += "<" + name + ">";

@@ -14,7 +14,7 @@ using namespace std::string_literals;
 TEST(XmlText, DecodesEveryEncodingAndBack) {
   const std::string latin1 = "<?xml version='1.0' encoding='iso-8859-1'?><a>Zo";
   const std::string windows = "<?xml version='1.0' encoding='Windows-1252'?><a>";
-  const std::string none = "<?xml <a encoding='latin1'?>";  // a declaration of something else
+  const std::string none = "<?xml <a encoding='latin1'?>";  // not in the declaration
   const std::tuple<std::string, std::string, XmlEncoding> kCases[] = {
       {"<a>Zo\u00eb \u0141", "<a>Zo\u00eb \u0141", XmlEncoding::Utf8},
       {latin1 + "\xEB", latin1 + "\u00eb", XmlEncoding::Latin1},
@@ -38,13 +38,13 @@ TEST(XmlText, DecodesEveryEncodingAndBack) {
 }
 
 TEST(XmlText, DecodesWithoutAMarkAndWhatIsBroken) {
-  EXPECT_EQ(DecodeXml("\xEF\xBB\xBF<a>\xEB</a>").text, "<a>\u00eb</a>") << "a mark of other bytes";
+  EXPECT_EQ(DecodeXml("\xEF\xBB\xBF<a>\xEB</a>").text, "<a>\u00eb</a>") << "marked, yet no UTF-8";
   EXPECT_EQ(EncodeXml({"\u0141\u2019", XmlEncoding::Windows1252}), "?\x92");
   EXPECT_EQ(DecodeXml("<\0a\0>\0"s).text, "<a>");
   EXPECT_EQ(DecodeXml("\0<\0a\0>"s).text, "<a>");
   EXPECT_EQ(DecodeXml("\xFF\xFE<\0\x00\xDC\x3D\xD8<\0\x3D\xD8\x41"s).text, "<\uFFFD\uFFFD<\uFFFD")
       << "surrogates without their partner, and half a unit";
-  EXPECT_EQ(DecodeXml("\xFF\xFE\x00\xDC\x01\xDC"s).text, "\uFFFD\uFFFD") << "two low ones";
+  EXPECT_EQ(DecodeXml("\xFF\xFE\x00\xDC\x01\xDC"s).text, "\uFFFD\uFFFD") << "two low surrogates";
   EXPECT_EQ(DecodeXml("\xFF\xFE"s).text, "");
   EXPECT_EQ(DecodeXml("").text, "");
 }
