@@ -23,9 +23,9 @@ class ProgressFrame : public QFrame {
   void End();
   bool IsWorking() const { return depth_ > 0; }
 
-  /// Shows a step (`total` 0: how many there are is not known), though no more of them than the eye
-  /// follows and the last, and lets pending events run once.
-  /// False when the person has cancelled since `Begin`.
+  /// Shows a step and lets pending events run once. `total` is 0 where the number of steps is not
+  /// known. Steps may come faster than the eye can follow: not each of them is drawn, but the last
+  /// one is. False when the person has cancelled since `Begin`.
   bool Step(const QString& text, int done, int total);
 
   /// Shows `lblWait` beside the progress from now on, or hides it.
@@ -36,7 +36,7 @@ class ProgressFrame : public QFrame {
 
  signals:
   void Begun();
-  /// A step has been shown, as not each is: what the work has come to can be shown beside it.
+  /// A step has been drawn, which not every step is: what the work has reached can be shown too.
   void Drawn();
   void Ended();
 

@@ -9,8 +9,8 @@ class QVBoxLayout;
 
 namespace tricklet::ui {
 
-/// A line of plain text that gives way: what does not fit is cut with "...", and the whole text is
-/// in the tool tip then.
+/// A line of plain text that can shrink: a text that does not fit ends in "...", and the tool tip
+/// then has the whole of it.
 class ElidedLabel : public QLabel {
   Q_OBJECT
 

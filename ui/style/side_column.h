@@ -12,7 +12,7 @@ class SideColumn : public QScrollArea {
  public:
   SideColumn(const QString& name, const QList<QWidget*>& panes, QWidget* parent = nullptr);
 
-  /// Pixels for so many heights of the window's font.
+  /// The width in pixels of a column that is to be `heights` of the window's font wide.
   int WidthFor(double heights) const;
 };
 

@@ -25,13 +25,13 @@ inline QString ColouredSymbol(Suit suit, bool fourColours, const QPalette& palet
 void DrawWithSymbol(QPainter& painter, QRect room, const QString& text, const QColor& colour,
                     const QString& symbol, const QColor& symbolColour);
 
-/// `text` with what `symbol` gives in place of the suit letters of its contracts ("4S by South",
-/// "4Sx-1").
+/// `text` with the suit letter of each contract in it ("4S by South", "4Sx-1") replaced by what
+/// `symbol` gives.
 QString WithSymbols(QString text, const std::function<QString(Suit)>& symbol);
-/// With the plain symbols as text.
+/// The same with the plain text symbols.
 QString WithSymbols(const QString& text);
 
-/// The suit that `strain` is; not for no-trump.
+/// `strain` as a suit. It must not be no-trump.
 constexpr Suit ToSuit(Strain strain) {
   return static_cast<Suit>(IndexOf(strain));
 }

@@ -11,7 +11,7 @@ namespace tricklet::ui {
 namespace {
 
 constexpr std::uint32_t kSystemColourBit = 0x80000000U;
-/// WCAG 2.1, success criterion 1.4.3: the least contrast of large text.
+/// WCAG 2.1, success criterion 1.4.3: the minimum contrast of large text.
 constexpr double kLeastContrast = 3.0;
 
 struct Scheme {
@@ -54,7 +54,7 @@ QPalette ToPalette(const Scheme& scheme) {
 }
 
 /// The style draws the rings and boxes of option buttons and check boxes in a darker shade of the
-/// window's colour, which is lost on a dark window. No other part of them has that role.
+/// window's colour, which is lost on a dark window. Nothing else in them is drawn in that role.
 void BrightenIndicators(const Scheme& scheme) {
   QPalette palette = ToPalette(scheme);
   palette.setColor(QPalette::Window, QColor(scheme.text));

@@ -17,7 +17,7 @@ namespace tricklet::ui {
 QColor SuitColourOnCard(Suit suit, bool fourColours);
 QColor SuitColourOnWindow(Suit suit, bool fourColours, const QPalette& palette);
 
-/// The window's background is dark.
+/// True when the window's background is dark.
 bool IsDark(const QPalette& palette);
 
 /// Gives the whole program its colours.
