@@ -9,10 +9,11 @@
 
 namespace tricklet::ui {
 
-/// Drawn once for each size and way of lying.
+/// Keeps one picture of an upright back and one of a lying back, each drawn anew when its size
+/// changes.
 class CardBacks {
  public:
-  /// A back that fills `place`, which is higher than wide for an upright card.
+  /// A back that fills `place`, which is taller than wide for an upright card.
   void Draw(QPainter& painter, const QRectF& place);
 
  private:

@@ -31,8 +31,8 @@ void DrawTurned(QPainter& painter, auto draw) {
   painter.restore();
 }
 
-// Places of the pips in the field: columns -1, 0, 1 and height -1 (top) to 1. The lower half stands
-// on its head, as on any pack of English pattern.
+// Places of the pips in the field: columns -1, 0, 1 and height -1 (top) to 1. The lower half is
+// upside down, as in any pack of English pattern.
 struct Pip {
   double column;
   double row;

@@ -12,8 +12,8 @@ namespace {
 constexpr double kBox = 1000;
 
 // Each symbol fills a box from (-500, -500) to (500, 500), fine enough for the set operations
-// on paths to keep curves smooth; y grows downwards. The right half is written down, a little
-// across the middle, and the left half is its mirror image.
+// on paths to keep curves smooth; y grows downwards. The right half is written down, reaching
+// a little across the middle, and the left half is its mirror image.
 
 QPainterPath WithMirrorImage(const QPainterPath& half) {
   const QTransform mirror = QTransform::fromScale(-1, 1);

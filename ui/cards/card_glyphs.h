@@ -13,8 +13,8 @@ namespace tricklet::ui {
 /// `middle`.
 QPainterPath SuitOutline(Suit suit, QPointF middle, double height);
 
-/// The display text of `rank` in `box`: as high as the box, on its lower edge, in the middle; made
-/// narrower where it would be wider than the box.
+/// The display text of `rank` in `box`: as high as the box, on its lower edge and centred; narrowed
+/// where it would be wider than the box.
 QPainterPath RankOutline(Rank rank, const QRectF& box);
 
 }  // namespace tricklet::ui

@@ -67,7 +67,7 @@ void CardPainter::DrawOnPixel(QPainter& painter, QPointF corner, const QPixmap& 
   painter.drawPixmap(QPointF(onPixel(corner.x()), onPixel(corner.y())), picture);
 }
 
-/// A card without print. It is the same for all cards and takes most of the time.
+/// A blank card: the same for all cards, and what takes the most time to draw.
 QPixmap CardPainter::RenderBlank() const {
   QPixmap blank = Transparent(look_, Margin());
   QPainter painter(&blank);

@@ -13,7 +13,7 @@
 
 namespace tricklet::ui {
 
-/// Of a card's width.
+/// Radius of the corners, as a share of a card's width.
 inline constexpr double kCornerShare = 0.07;
 /// What cards are printed on.
 inline const QColor kPaper(0xFF, 0xFE, 0xF9);
