@@ -14,8 +14,8 @@ const QColor kEdge(0x17, 0x6B, 0x3A);
 constexpr QSizeF kLabelOnCard(0.32, 0.2);
 constexpr QSizeF kLabelUnderRank(0.66, 0.44);
 
-/// On the upper edge of a card, over its index, where neither the cards that lie over it nor those
-/// above it have anything to show; under a rank.
+/// On the upper edge of a card, above its index, where the label hides nothing that is printed on
+/// the cards over it or above it; in the text display below the rank.
 QRectF LabelRoom(const PlacedCard& placed, QSizeF card) {
   const bool written = placed.rect.height() < card.height() * 0.7;
   const QSizeF size =

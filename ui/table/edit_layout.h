@@ -36,7 +36,7 @@ struct EditLayout {
   /// so that nothing moves under the mouse.
   std::array<QRectF, kCardsInPack> packPlaces;
 
-  /// Room of a hand's or the pack's caption and cards. The ten do not overlap.
+  /// Room for the caption and for the cards of a hand or the pack. The ten rooms do not overlap.
   const QRectF& Caption(HandFrame frame) const;
   const QRectF& Area(HandFrame frame) const;
 };

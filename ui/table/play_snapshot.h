@@ -16,8 +16,8 @@ struct PlaySnapshot {
   bool finished = false;
   QString score;  ///< the result line once the play is finished
 
-  /// The last trick has been played and gathered: nothing is left to be done. A claim leaves cards
-  /// in the hands and is not meant.
+  /// The last trick has been played and gathered, and nothing is left to be done. A claim, which
+  /// leaves cards in the hands, does not count.
   bool PlayedOut() const { return finished && now.trickGathered && !now.claimed; }
   /// What the hand on play still holds.
   PerSuit<Holding> HandOnPlay() const;

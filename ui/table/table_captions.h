@@ -39,7 +39,7 @@ CaptionLayout LayOutCaptions(const TableLayout& table, const PerSeat<Caption>& c
 void DrawCaptions(QPainter& painter, const CaptionLayout& layout, const PerSeat<Caption>& captions,
                   const Settings& settings, const TableColours& colours, const QPalette& palette);
 
-/// The pill of one more caption, in the font of `layout`, in the middle of `room`; and its drawing.
+/// Where the pill of one more caption lies, in the font of `layout` and the middle of `room`.
 QRectF PillFor(const CaptionLayout& layout, const Caption& caption, const QRectF& room);
 void DrawCaption(QPainter& painter, const CaptionLayout& layout, const QRectF& pill,
                  const Caption& caption, const Settings& settings, const TableColours& colours,

@@ -18,7 +18,7 @@ void DrawCentre(QPainter& painter, const QRectF& panel, const Board& board,
 /// Draws the panel while the board is being played: the marks alone, small and at the edges.
 void DrawCentreInPlay(QPainter& painter, const QRectF& panel, const Board& board,
                       const TableColours& colours, const QFont& font);
-/// What those marks leave free.
+/// The room that those marks leave free.
 QRectF TrickRoom(const QRectF& panel);
 
 }  // namespace tricklet::ui

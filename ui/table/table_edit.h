@@ -23,17 +23,17 @@ struct CardMove {
 class TableEdit {
  public:
   struct KeyAnswer {
-    bool ours = false;  ///< else the key is someone else's
+    bool ours = false;  ///< false: the key is left to others
     std::optional<CardMove> move;
   };
 
-  /// The hands as they are now. Where they are others than before, a card in mid-air is dropped.
+  /// Takes over the hands as they are now. When they have changed, a card in the air goes back.
   void Show(const HandTable& hands, EditMethod method);
 
   // The left button. Dragging: a card is in the air from the first movement on. Clicking: a card
   // and then its hand, or a hand and then the cards that it gets.
   std::optional<CardMove> Press(const EditLayout& layout, QPointF at);
-  /// `distance` is how far the mouse may tremble in a click.
+  /// `distance`, in pixels, is the least movement that is more than an unsteady click.
   void Drag(const EditLayout& layout, QPointF at, double distance);
   std::optional<CardMove> Release(const EditLayout& layout, QPointF at);
 
@@ -42,7 +42,7 @@ class TableEdit {
   /// ranks alone being of the suit typed last. Escape forgets.
   KeyAnswer Key(int key, Qt::KeyboardModifiers modifiers);
 
-  /// Nothing is in the air, chosen or half typed any more.
+  /// Forgets what is in the air, chosen or half typed.
   void Forget();
 
   const HandTable& Hands() const { return hands_; }
@@ -52,7 +52,7 @@ class TableEdit {
   std::optional<Card> Chosen() const { return chosen_; }
   /// The hand, or the pack, that waits for cards.
   std::optional<HandFrame> Receiver() const { return receiver_; }
-  /// Where the card in the air would go now. Not where there is no room for it.
+  /// Where the card in the air would go now; nothing where there is no room for it.
   std::optional<HandFrame> Target() const { return target_; }
   std::optional<Suit> HalfTyped() const { return keys_.HalfTyped(); }
 

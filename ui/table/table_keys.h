@@ -15,7 +15,7 @@ namespace tricklet::ui {
 class TableKeys {
  public:
   struct Answer {
-    bool ours = false;  ///< else the key is someone else's
+    bool ours = false;  ///< false: the key is left to others
     std::optional<Card> card;
     friend bool operator==(const Answer&, const Answer&) = default;
   };
@@ -24,7 +24,7 @@ class TableKeys {
   /// the hand that is not legal is given when its suit was typed, so that it can be refused aloud.
   Answer Press(int key, Qt::KeyboardModifiers modifiers, const PerSuit<Holding>& hand,
                const PerSuit<Holding>& legal);
-  /// What `Press` would say, without typing the key.
+  /// Whether `Press` would take the key; types nothing.
   bool WouldTake(int key, Qt::KeyboardModifiers modifiers, const PerSuit<Holding>& hand,
                  const PerSuit<Holding>& legal) const;
 

@@ -20,7 +20,7 @@ TableColours ColoursFor(const QPalette& palette) {
 }
 
 QFont Fitted(QFont font, const QStringList& texts, QSizeF room, double mostPixels) {
-  // Widths grow as the size does, nearly; the loop takes back what hinting adds.
+  // Widths grow almost in proportion to the size; the loop makes up for what hinting adds.
   constexpr int kProbe = 64;
   constexpr int kLeast = 5;
   font.setPixelSize(kProbe);

@@ -21,11 +21,11 @@ struct TableColours {
 };
 TableColours ColoursFor(const QPalette& palette);
 
-/// White on it, and it on felt, can be told apart.
+/// Stands out from the felt, and white text from it.
 inline const QColor kVulnerableRed(0xC8, 0x20, 0x2F);
 inline const QColor kDealerYellow(0xFF, 0xDD, 0x55);
-/// The captions of the hand on play and of the player to call lie on these; black can be read
-/// there.
+/// Behind the captions of the hand on play and of the player to call; black text can be read on
+/// both.
 inline const QColor kOnPlayYellow(0xFF, 0xE0, 0x55);
 inline const QColor kToCallCyan(0x2E, 0xE6, 0xE6);
 

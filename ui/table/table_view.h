@@ -36,7 +36,7 @@ class TableView : public QWidget {
   /// what is moved, so they are shown as faces whatever the settings say.
   void ShowEdit(const Board& board, const Settings& settings);
 
-  /// Writes on cards of the hand on play the tricks that they lead to; none to write nothing.
+  /// Writes on cards of the hand on play the tricks that they lead to; without any, writes nothing.
   void ShowBestCards(std::vector<CardScore> best);
 
   /// Where everything lies at the present size. During play these are the cards left, the legal

@@ -11,10 +11,10 @@ constexpr double kLeastBack = 12;  // height; below it upright and lying look th
 constexpr double kGap = 0.4;
 constexpr double kCountWidth = 3.1;
 constexpr double kMostCountHeight = 1.5;  // beside South's cards
-/// Of its room, what South's caption leaves free on either side at its widest.
+/// What South's caption, at its widest, leaves free on either side, as a share of its room.
 constexpr double kWing = 0.3;
 
-/// A full hand of South's cards ends here; a text's panel is narrower.
+/// Where a full hand of South's cards ends on the right; a hand shown as text is narrower.
 double RightOfSouth(const TableLayout& table) {
   constexpr double kWidestFan = 1 + (kCardsInHand - 1) * kFanStep;
   return table.hands[Seat::South].area.center().x() + kWidestFan / 2 * table.cardSize.width();
