@@ -29,7 +29,7 @@ namespace tricklet::ui {
 Commands::Commands(Session& session, PlayControl& play, EditControl& edit, QWidget* window)
     : QObject(window), session_(session), play_(play), edit_(edit), window_(window) {}
 
-/// False when another command is running, and nothing was done.
+/// False, with nothing done, when another command is running.
 bool Commands::Attempt(const std::function<void()>& procedure) {
   if (running_) return false;
   running_ = true;

@@ -57,7 +57,7 @@ class Commands : public QObject {
   void Exit();
 
   void SelectLibrary(int index);
-  /// Leaves the play, in which no library can be named, for `NewLibraryAsked`.
+  /// Leaves the play, during which no library can be named, and emits `NewLibraryAsked`.
   void NewLibrary();
   void CreateLibrary(const QString& name);
   void RenameLibrary();
@@ -95,11 +95,12 @@ class Commands : public QObject {
   bool TypeHand(Seat seat, const QString& text);
   void SetEditMethod(EditMethod method);
 
-  /// `cmdDDS`: has the double-dummy table of the current board computed, by `TableAsked`.
+  /// `cmdDDS`: asks by `TableAsked` for the double-dummy table of the current board.
   void AnalyseBoard();
-  /// `mnuAnalyse`: every missing table of the library.
+  /// `mnuAnalyse`: computes every missing table of the library.
   void AnalyseLibrary();
-  /// `cmdBSOL`: the board on the online double-dummy page; its host is asked for once.
+  /// `cmdBSOL`: opens the online double-dummy page on the board; asks for the page's host first
+  /// when it is not known yet.
   void OnlineSolver();
 
   /// `cmdGenerate`: fills boards of the library with random deals.
@@ -115,7 +116,7 @@ class Commands : public QObject {
   void Claim();
   void QuitTrick();
 
-  /// Turns a switch of the settings over and stores it.
+  /// Flips a switch of the settings and stores it.
   void Toggle(bool Settings::*setting);
   void SetColourScheme(ColourScheme scheme);
   void Options();
@@ -131,8 +132,8 @@ class Commands : public QObject {
   /// True before and false after work that copies whole libraries.
   void Waiting(bool waiting);
   void Done();
-  /// A run of the generator may begin: its deals are the session's board one after another; or it
-  /// is over.
+  /// True before a run of the generator may begin, whose deals become the session's board one
+  /// after another; false when it is over.
   void Dealing(bool dealing);
   /// What the last command has done, where nothing else shows it.
   void Said(const QString& text);
@@ -142,7 +143,7 @@ class Commands : public QObject {
   void AuctionChanged();
   void PlayStarted();
   void EditStarted();
-  /// By a dialog that is still open.
+  /// A dialog that is still open has changed the hands.
   void HandsChanged();
   /// Before the dialog appears.
   void SwapOpened(frmSwap* dialog);
@@ -167,7 +168,7 @@ class Commands : public QObject {
   const AuctionEntry* auction_ = nullptr;
   QPointer<QWidget> window_;
   std::filesystem::path exportPath_;  // of the last export, where the next one begins
-  GenerateChoices generateChoices_;   // those before
+  GenerateChoices generateChoices_;   // of the last run, where the next one begins
   bool running_ = false;
 };
 

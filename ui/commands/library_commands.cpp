@@ -7,7 +7,7 @@
 
 namespace tricklet::ui {
 
-/// Runs what copies whole folders, by `run`, and says what it gives.
+/// Runs `copy`, which copies whole folders, by `run`; says the text that it returns, if any.
 void Commands::Copy(Runner run, const std::function<QString()>& copy) {
   QString said;
   emit Waiting(true);
