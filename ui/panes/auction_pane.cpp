@@ -17,7 +17,8 @@ namespace tricklet::ui {
 namespace {
 
 constexpr int kLeastRows = 3;  // so that the pane below does not jump from board to board
-// A longer auction scrolls: beyond a third of the window's height, but not before so many rows.
+// An auction scrolls when it takes more than a third of the window's height and has more rows than
+// these.
 constexpr int kMostRows = 8;
 constexpr int kPartOfWindow = 3;
 

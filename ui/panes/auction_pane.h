@@ -17,8 +17,8 @@ class AuctionPane : public Section {
  public:
   explicit AuctionPane(QWidget* parent = nullptr);
 
-  /// Shows the board's auction; while one is being entered, that one, and opens up for it; while a
-  /// play record is looked at, that of `recorded`.
+  /// Shows the board's auction. While one is being entered, shows that one and opens up for it;
+  /// while a play record is looked at, shows the auction of `recorded`.
   void Show(const Session& session, const AuctionEntry* entry, const Board* recorded = nullptr);
 
   /// The controls in the order of the tab key.

@@ -22,7 +22,7 @@ namespace {
 
 /// The most characters of a line: more than any hand takes, blanks included.
 constexpr int kMostCharacters = 60;
-/// After a line has been left.
+/// How long after a line has been left its text is looked at again.
 constexpr std::chrono::milliseconds kLookAgain{20};
 
 /// "AKT2.QJ5.-.98"; nothing for a hand without cards.
@@ -160,7 +160,7 @@ void EditPane::ShowMethod(const Settings& settings) {
   lines_->setVisible(settings.editMethod == EditMethod::Typing);
 }
 
-/// What is being typed stays, until the hand is another one.
+/// What is being typed stays until the hand changes.
 void EditPane::ShowLines(const Board& board) {
   for (const Seat seat : kAllSeats) {
     const QString text = HandLine(board.hands[seat]);

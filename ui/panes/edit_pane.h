@@ -24,7 +24,7 @@ class EditPane : public Section {
   explicit EditPane(Commands& commands, QWidget* parent = nullptr);
 
   /// Visible only while the hands are edited. A line in which a hand is being typed keeps its text
-  /// unless that hand is another one.
+  /// unless that hand has changed.
   void Show(const Session& session, const EditControl& edit);
 
   /// Takes over a hand that is being typed; false when it was refused, and the text is still there.

@@ -65,8 +65,8 @@ MakeablePane::MakeablePane(QWidget* parent)
   cmdMake->setChecked(true);
 }
 
-/// A style sheet keeps the colours that it was set with, so it is set again for other colours. They
-/// are the program's, as the table's own palette changes later.
+/// A style sheet keeps the colours that it was set with, so it is set again when they change. The
+/// colours are the program's, as the table's own palette changes later.
 void MakeablePane::StyleHeads() {
   lvwMake->horizontalHeader()->setStyleSheet(
       QStringLiteral("QHeaderView, QHeaderView::section { border: none; background: %1; }")

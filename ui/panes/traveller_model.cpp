@@ -20,7 +20,7 @@ void TravellerModel::Show(const Traveller& traveller, bool fourColours, const QP
     }
   }
   for (std::size_t row = 0; row < rows_.size(); ++row) {
-    // Marked up, or names could be taken for mark-up themselves.
+    // As rich text with everything escaped, so that no part of it is taken for mark-up.
     rows_[row].tip = QStringLiteral("<span>%1</span>")
                          .arg(ToQt(ReadLinBidding(traveller.rows[row])).toHtmlEscaped());
   }

@@ -24,7 +24,7 @@ namespace {
 
 constexpr int kLeastRows = 3;  // of the grid, before the column scrolls
 constexpr int kRowPadding = 6;
-constexpr int kCellPadding = 7;     // both sides of a text, and a pixel for what rounding hides
+constexpr int kCellPadding = 7;     // on both sides of a text, with a pixel for rounding
 constexpr double kFontSize = 0.88;  // of the window's, so that the numbers fit beside each other
 /// So that the pane takes the room that the column has left.
 constexpr int kStretch = 100;
@@ -92,8 +92,8 @@ void TravellerPane::BuildGrid() {
   flexTraveller->setSortingEnabled(true);
   heads->setSortIndicator(-1, Qt::AscendingOrder);
   connect(heads, &QHeaderView::sortIndicatorChanged, this, &TravellerPane::TravellerResize);
-  // The grid takes the height that the column has left, and no less than some rows: by a height of
-  // its own it would make the column scroll.
+  // The grid takes the height that is left in the column, but at least a few rows; with a preferred
+  // height of its own it would make the column scroll.
   flexTraveller->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
   const int row = flexTraveller->verticalHeader()->defaultSectionSize();
   flexTraveller->setMinimumHeight((kLeastRows + 2) * row + 2 * flexTraveller->frameWidth());
@@ -272,7 +272,7 @@ void TravellerPane::resizeEvent(QResizeEvent* event) {
   if (shownEdition_ > 0) TravellerResize();
 }
 
-/// The cells have colours of the palette: another one has them made again.
+/// The cells take colours from the palette, so they are made again when it changes.
 void TravellerPane::changeEvent(QEvent* event) {
   Section::changeEvent(event);
   if (event->type() == QEvent::PaletteChange) shownEdition_ = 0;
