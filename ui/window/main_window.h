@@ -56,7 +56,7 @@ class MainWindow : public QMainWindow {
   /// Full screen with nothing but the table and what has been switched on beside it.
   void SetPresentation(bool on);
 
-  /// The window's place and size, from one run to the next.
+  /// Restore and save the window's place and size from one run of the program to the next.
   void RestorePlace();
   void SavePlace();
 

@@ -18,7 +18,7 @@ class WorkArea : public QWidget {
   WorkArea(SideColumn* left, TableView* table, SideColumn* right, ProgressFrame* progress,
            QWidget* parent = nullptr);
 
-  /// Round the panes and between them, in pixels.
+  /// Room round the panes and between them, in pixels.
   static constexpr int kMargin = 10;
   /// Shows the margin round the panes, or leaves it out for a table that fills the screen.
   void ShowMargin(bool shown);
