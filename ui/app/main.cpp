@@ -18,7 +18,7 @@ namespace {
 
 using tricklet::ui::LaunchOptions;
 
-/// Help and version are asked for: they need no screen.
+/// True when help or the version is asked for, which need no screen.
 bool AsksForTextOnly(int count, char** values) {
   return std::any_of(values, values + count, [](std::string_view value) {
     return value == "-h" || value == "--help" || value == "-v" || value == "--version";

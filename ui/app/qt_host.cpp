@@ -59,7 +59,7 @@ Answer QtHost::Ask(const std::string& text, const std::string& title, Buttons bu
   switch (buttons) {
     case Buttons::YesNo:
     case Buttons::NoYes:
-      // A button that is not shown takes Escape and the closing of the box, which are not "No".
+      // The hidden button is what Escape and closing the box mean, as neither of them means "No".
       box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
       box.button(QMessageBox::Cancel)->hide();
       if (buttons == Buttons::NoYes) box.setDefaultButton(QMessageBox::No);

@@ -29,11 +29,11 @@ class QtHost : public Host {
   void EndWork() override;
   void EndProgram() override;
 
-  /// `EndProgram` has been called: an event loop that has not begun yet should not begin.
+  /// True once `EndProgram` has been called: an event loop should then not be started.
   bool HasEnded() const { return ended_; }
 
  private:
-  /// Over the dialog in front, when there is one.
+  /// What a new dialog stands over: the dialog in front, or else the window.
   QWidget* Parent() const;
 
   QPointer<QWidget> window_;
