@@ -264,7 +264,7 @@ TEST_F(PlayWindowTest, NothingIsLeftOfAPlayThatEnds) {
       {"stop after a claim", 4, true, [this] { Click("cmdPlay"); }},
       {"the next board", 4, false, [this] { Key("PgDown"); }},
       {"the next board before the lead", 0, false, [this] { Key("PgUp"); }},
-      {"a new library", 4, false, newLibrary},
+      {"a new library before the lead", 0, false, newLibrary},
       {"an import", 4, false, [this] { ImportBoardFive(); }},
       {"a board that is cleared", 4, true, [this] { Key("Ctrl+Shift+Del"); }},
       {"another auction", 4, true, bid},
