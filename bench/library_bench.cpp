@@ -11,11 +11,11 @@
 #include "bench/random_board.h"
 #include "bench/temporary_root.h"
 #include "core/text.h"
+#include "disk/file_io.h"
 #include "formats/exchange/export.h"
 #include "formats/exchange/import.h"
 #include "formats/pbn/pbn_writer.h"
 #include "library/board_file.h"
-#include "library/file_io.h"
 #include "library/library_choice.h"
 
 namespace tricklet::bench {

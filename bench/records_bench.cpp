@@ -4,11 +4,11 @@
 #include <vector>
 
 #include "bench/import_measure.h"
+#include "disk/file_io.h"
 #include "formats/dlm/dlm_writer.h"
 #include "formats/lin/lin_writer.h"
 #include "generate/deal.h"
 #include "library/board_file.h"
-#include "library/file_io.h"
 
 namespace tricklet::bench {
 namespace {

@@ -15,9 +15,9 @@
 #include "bench/measure.h"
 #include "bench/quiet_host.h"
 #include "bench/temporary_root.h"
+#include "disk/file_io.h"
 #include "generate/generate.h"
 #include "library/board_file.h"
-#include "library/file_io.h"
 #include "library/library_choice.h"
 #include "library/tables.h"
 

@@ -11,11 +11,11 @@
 #include <vector>
 
 #include "bench/import_measure.h"
+#include "disk/file_io.h"
 #include "formats/results/lin_boards.h"
 #include "formats/results/lin_file.h"
 #include "formats/usebio/usebio_reader.h"
 #include "library/board_file.h"
-#include "library/file_io.h"
 
 namespace tricklet::bench {
 namespace {

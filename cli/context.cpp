@@ -1,7 +1,7 @@
 #include "cli/context.h"
 
+#include "disk/file_io.h"
 #include "library/board_store.h"
-#include "library/file_io.h"
 #include "library/library_folders.h"
 #include "library/library_names.h"
 #include "library/library_scan.h"

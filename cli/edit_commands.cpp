@@ -12,11 +12,11 @@
 #include "cli/command.h"
 #include "cli/notation_text.h"
 #include "core/text.h"
+#include "disk/file_io.h"
 #include "generate/deal.h"
 #include "generate/editing.h"
 #include "generate/rotation.h"
 #include "library/board_store.h"
-#include "library/file_io.h"
 
 namespace tricklet::cli {
 namespace {

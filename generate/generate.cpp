@@ -5,9 +5,9 @@
 
 #include "core/bounded_list.h"
 #include "core/fault.h"
+#include "disk/file_io.h"
 #include "generate/deal.h"
 #include "library/board_store.h"
-#include "library/file_io.h"
 #include "library/library_choice.h"
 #include "library/unsaved_changes.h"
 

@@ -2,9 +2,9 @@
 
 #include "core/fault.h"
 #include "core/text.h"
+#include "disk/file_io.h"
 #include "library/board_file.h"
 #include "library/board_store.h"
-#include "library/file_io.h"
 #include "library/library_scan.h"
 
 namespace tricklet {

@@ -4,8 +4,8 @@
 #include "core/fault.h"
 #include "core/statistics.h"
 #include "core/text.h"
+#include "disk/file_io.h"
 #include "library/board_file.h"
-#include "library/file_io.h"
 #include "library/library_scan.h"
 
 namespace tricklet {

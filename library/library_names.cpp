@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "core/text.h"
-#include "library/file_io.h"
+#include "disk/file_io.h"
 
 namespace tricklet {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "core/fault.h"
 #include "core/text.h"
-#include "library/file_io.h"
+#include "disk/file_io.h"
 #include "library/folder_copy.h"
 #include "library/library_choice.h"
 #include "library/library_names.h"

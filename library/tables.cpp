@@ -12,9 +12,9 @@
 #include "core/fault.h"
 #include "core/statistics.h"
 #include "core/text.h"
+#include "disk/file_io.h"
 #include "library/board_file.h"
 #include "library/board_store.h"
-#include "library/file_io.h"
 #include "library/library_scan.h"
 #include "library/unsaved_changes.h"
 

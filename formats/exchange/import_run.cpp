@@ -5,10 +5,10 @@
 
 #include "core/fault.h"
 #include "core/text.h"
+#include "disk/file_io.h"
 #include "formats/exchange/import_messages.h"
 #include "formats/exchange/keep_results.h"
 #include "formats/exchange/library_sink.h"
-#include "library/file_io.h"
 #include "library/library_choice.h"
 #include "library/library_scan.h"
 #include "library/unsaved_changes.h"

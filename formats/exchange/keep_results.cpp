@@ -7,9 +7,9 @@
 #include <utility>
 #include <vector>
 
+#include "disk/file_io.h"
 #include "formats/results/lin_boards.h"
 #include "formats/results/lin_file.h"
-#include "library/file_io.h"
 
 namespace tricklet {
 namespace {

@@ -2,10 +2,10 @@
 
 #include <string>
 
+#include "disk/file_io.h"
 #include "formats/results/lin_file.h"
 #include "formats/sink/record_text.h"
 #include "library/board_store.h"
-#include "library/file_io.h"
 
 namespace tricklet {
 

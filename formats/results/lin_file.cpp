@@ -6,8 +6,8 @@
 
 #include "core/fault.h"
 #include "core/text.h"
+#include "disk/file_io.h"
 #include "formats/sink/record_text.h"
-#include "library/file_io.h"
 
 namespace tricklet {
 namespace {

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "core/fault.h"
+#include "disk/file_io.h"
 #include "library/board_file.h"
-#include "library/file_io.h"
 #include "tests/support/fake_solver.h"
 #include "tests/support/library_fixture.h"
 

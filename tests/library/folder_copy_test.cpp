@@ -13,7 +13,7 @@
 #endif
 
 #include "core/fault.h"
-#include "library/file_io.h"
+#include "disk/file_io.h"
 #include "tests/support/library_fixture.h"
 
 namespace tricklet::test {

@@ -9,12 +9,12 @@
 #include <gtest/gtest.h>
 
 #include "core/fault.h"
+#include "disk/file_io.h"
 #include "formats/exchange/record_reader.h"
 #include "formats/results/lin_boards.h"
 #include "formats/results/lin_file.h"
 #include "formats/usebio/usebio_limits.h"
 #include "formats/usebio/xml_text.h"
-#include "library/file_io.h"
 #include "tests/support/diary.h"
 #include "tests/support/library_fixture.h"
 #include "tests/support/records.h"

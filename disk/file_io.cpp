@@ -1,4 +1,4 @@
-#include "library/file_io.h"
+#include "disk/file_io.h"
 
 #include <algorithm>
 #include <atomic>
