@@ -15,7 +15,7 @@
 #include "cli/command.h"
 #include "core/fault.h"
 #include "core/text.h"
-#include "disk/file_io.h"
+#include "disk/presence.h"
 #include "formats/exchange/export.h"
 #include "formats/exchange/import.h"
 #include "library/board_store.h"
@@ -65,10 +65,17 @@ void RemoveIfEmpty(const Session& session) {
 ExitCode Libraries(const Context& context) {
   if (!RootExists(context)) return ExitCode::Refused;
   const fs::path root = context.session.FileLocation();
+  bool allListed = true;
   for (const std::string& name : FoldersOf(root)) {
-    context.data << name << '\t' << ScanLibrary(root / PathFromText(name)).boardCount << '\n';
+    try {
+      const int boards = ScanLibrary(root / PathFromText(name)).boardCount;
+      context.data << name << '\t' << boards << '\n';
+    } catch (const Fault& fault) {
+      context.session.host.Tell(fault.Description());
+      allListed = false;
+    }
   }
-  return ExitCode::Done;
+  return allListed ? ExitCode::Done : ExitCode::Refused;
 }
 
 ExitCode Boards(const Context& context, bool longForm) {

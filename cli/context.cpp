@@ -1,6 +1,7 @@
 #include "cli/context.h"
 
-#include "disk/file_io.h"
+#include "disk/native_file.h"
+#include "disk/presence.h"
 #include "library/board_store.h"
 #include "library/library_folders.h"
 #include "library/library_names.h"
@@ -23,13 +24,15 @@ bool RootExists(const Context& context) {
 bool OpenLibrary(const Context& context, bool create) {
   Session& session = context.session;
   std::error_code ignored;
-  if (create && context.rootNamed) fs::create_directory(session.FileLocation(), ignored);
+  if (create && context.rootNamed && fs::create_directory(session.FileLocation(), ignored)) {
+    FlushFolder(session.FileLocation() / "..");
+  }
   if (!RootExists(context)) return false;
   if (create) {
     if (!RequireLibraryFolder(session)) return false;
   } else {
     if (!AcceptLibraryName(session.host, session.LibraryName())) return false;
-    if (!fs::is_directory(session.LibraryPath(), ignored)) {
+    if (!FolderExists(session.LibraryPath())) {
       TellNoLibrary(session, session.LibraryName());
       return false;
     }

@@ -12,7 +12,7 @@
 #include "cli/command.h"
 #include "cli/notation_text.h"
 #include "core/text.h"
-#include "disk/file_io.h"
+#include "disk/presence.h"
 #include "generate/deal.h"
 #include "generate/editing.h"
 #include "generate/rotation.h"

@@ -5,10 +5,11 @@
 
 #include "core/bounded_list.h"
 #include "core/fault.h"
-#include "disk/file_io.h"
+#include "disk/presence.h"
 #include "generate/deal.h"
 #include "library/board_store.h"
 #include "library/library_choice.h"
+#include "library/library_write.h"
 #include "library/unsaved_changes.h"
 
 namespace tricklet {
@@ -44,9 +45,9 @@ bool DealBoard(Session& session, int number, const Constraints& constraints,
 }
 
 /// Stores the current board; a file that is marked read-only stays as it is, with a message.
-bool StoreDeal(Session& session) {
+bool StoreDeal(Session& session, LibraryWrite& write) {
   try {
-    StoreBoard(session);
+    StoreBoard(session, write);
     return true;
   } catch (const Fault& fault) {
     if (!IsReadOnly(session.BoardPath(session.board.boardNumber))) throw;
@@ -56,12 +57,12 @@ bool StoreDeal(Session& session) {
 }
 
 void DealRange(Session& session, const Constraints& constraints, const GenerateOptions& options,
-               GenerateOutcome& outcome) {
+               LibraryWrite& write, GenerateOutcome& outcome) {
   const auto [first, last] = constraints.genBoards;
   for (int number = first; number <= last; ++number) {
     outcome.cancelled = !DealBoard(session, number, constraints, options);
     if (outcome.cancelled) return;
-    outcome.failed = !StoreDeal(session);
+    outcome.failed = !StoreDeal(session, write);
     if (outcome.failed) return;
     ++outcome.boardsStored;
     const Board& board = session.board;
@@ -73,10 +74,11 @@ void DealRange(Session& session, const Constraints& constraints, const GenerateO
 
 /// The whole run under one progress display.
 void DealAndAnalyse(Session& session, const Constraints& constraints,
-                    const GenerateOptions& options, GenerateOutcome& outcome) {
+                    const GenerateOptions& options, LibraryWrite& write, GenerateOutcome& outcome) {
   const BatchScope batch(session);
   const WorkScope work(session.host);
-  DealRange(session, constraints, options, outcome);
+  DealRange(session, constraints, options, write, outcome);
+  write.Finish();
   if (!options.analyse || outcome.cancelled || outcome.failed || !session.getSolver) return;
   const auto [first, last] = constraints.genBoards;
   outcome.tables = AnalyseBoards(session, session.getSolver(), first, last, false);
@@ -102,9 +104,11 @@ GenerateOutcome Generate(Session& session, const Constraints& constraints,
   if (!SettleChanges(session)) return {.refused = true};
   const int before = session.board.boardNumber;
   if (!MayOverwrite(session, constraints)) return {.refused = true};
+  auto write = LibraryWrite::Begin(session);
+  if (!write) return {.refused = true};
   GenerateOutcome outcome;
   try {
-    DealAndAnalyse(session, constraints, options, outcome);
+    DealAndAnalyse(session, constraints, options, *write, outcome);
   } catch (const std::exception& failure) {
     outcome.failed = true;
     ErrorReport(session.host, FaultFrom(failure));

@@ -3,9 +3,11 @@
 #include "core/fault.h"
 #include "core/text.h"
 #include "disk/file_io.h"
+#include "disk/presence.h"
 #include "library/board_file.h"
 #include "library/board_store.h"
 #include "library/library_scan.h"
+#include "library/library_write.h"
 
 namespace tricklet {
 namespace {
@@ -48,8 +50,11 @@ bool PasteHand(Session& session) {
           Answer::Yes) {
     return false;
   }
+  auto write = LibraryWrite::Begin(session);
+  if (!write) return false;
   try {
-    ReplaceWholeFile(target, ReadWholeFile(source, kMaxBoardFileBytes));
+    write->Replace(target, ReadWholeFile(source, kMaxBoardFileBytes));
+    write->Finish();
   } catch (const Fault& fault) {
     ErrorReport(session.host, fault);
     return false;

@@ -5,6 +5,7 @@
 #include "core/statistics.h"
 #include "core/text.h"
 #include "disk/file_io.h"
+#include "disk/presence.h"
 #include "library/board_file.h"
 #include "library/library_scan.h"
 
@@ -21,8 +22,28 @@ bool AgreesToReplace(Session& session, Buttons style) {
   return answer == Answer::Yes || answer == Answer::OK;
 }
 
+/// There is no file of the path; what cannot be seen is tried to be read, and fails so.
+bool IsKnownAbsent(const fs::path& path) {
+  try {
+    return !FileExists(path);
+  } catch (const Fault&) {
+    return false;
+  }
+}
+
 void TellUnreadable(Session& session, const fs::path& path) {
   session.host.Tell("Can't read the file " + PathText(path));
+}
+
+/// The person agrees, and the file is not marked read-only.
+bool MaySave(Session& session, Buttons style) {
+  const fs::path path = session.BoardPath(session.board.boardNumber);
+  if (session.board.handChanged && FileExists(path) && !AgreesToReplace(session, style)) {
+    return false;
+  }
+  if (!IsReadOnly(path)) return true;
+  session.host.Tell(ReadOnlyText(path));
+  return false;
 }
 
 bool ReadBoardFile(const fs::path& path, Board& board, TableReading tables) {
@@ -38,9 +59,13 @@ void AddMissingTable(Session& session, const fs::path& path, Board& board) {
   if (session.tablesInBackground || !WantsTable(session, board)) return;
   if (!GetDDS(board, session.getSolver(), session.host, false)) return;
   board.handChanged = false;
-  if (IsReadOnly(path)) return;
   try {
-    ReplaceWholeFile(path, WriteBoardText(board));
+    if (IsReadOnly(path)) return;
+    // What another program is changing is not to be waited for.
+    auto write = LibraryWrite::BeginAtOnce(session);
+    if (!write) return;
+    write->Replace(path, WriteBoardText(board));
+    write->Finish();
   } catch (const Fault&) {
     // The table is on the screen all the same; it just cannot be kept in a read-only folder.
   }
@@ -53,31 +78,29 @@ std::string ReadOnlyText(const fs::path& path) {
 }
 
 bool SaveHand(Session& session, Buttons style) {
-  const fs::path path = session.BoardPath(session.board.boardNumber);
-  if (session.board.handChanged && FileExists(path) && !AgreesToReplace(session, style)) {
-    return false;
-  }
-  if (IsReadOnly(path)) {
-    session.host.Tell(ReadOnlyText(path));
-    return false;
-  }
   try {
-    StoreBoard(session);
+    if (!MaySave(session, style)) return false;
+    auto write = LibraryWrite::Begin(session);
+    if (!write) return false;
+    StoreBoard(session, *write);
+    session.board.handChanged = true;  // until it is sure to last
+    write->Finish();
+    session.board.handChanged = false;
+    CountHands(session);
   } catch (const Fault& fault) {
     ErrorReport(session.host, fault);
     return false;
   }
-  CountHands(session);
   return true;
 }
 
-void StoreBoard(Session& session) {
+void StoreBoard(Session& session, LibraryWrite& write) {
   if (!IsStorable(session.board.boardNumber)) {
     throw Fault(FaultNumber::SubscriptOutOfRange, "A library holds boards 1 to 999");
   }
   const fs::path path = session.BoardPath(session.board.boardNumber);
   if (IsReadOnly(path)) throw Fault(FaultNumber::PathFileAccess, ReadOnlyText(path));
-  ReplaceWholeFile(path, WriteBoardText(session.board));
+  write.Replace(path, WriteBoardText(session.board));
   session.board.handChanged = false;
 }
 
@@ -86,7 +109,7 @@ bool LoadHand(Session& session) {
   ++session.boardsLoaded;
   ClearAll(session.board);
   session.board.handChanged = false;
-  if (!FileExists(path)) return false;
+  if (IsKnownAbsent(path)) return false;
   const bool readable = ReadBoardFile(path, session.board, TableReading::Always);
   if (readable) {
     AddMissingTable(session, path, session.board);

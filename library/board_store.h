@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <string>
 
+#include "library/library_write.h"
 #include "library/session.h"
 
 namespace tricklet {
@@ -16,11 +17,11 @@ std::string ReadOnlyText(const std::filesystem::path& path);
 /// it was written; a failure is reported and leaves the old file and the unsaved flag.
 bool SaveHand(Session& session, Buttons style = Buttons::YesNo);
 
-/// Stores the current board of a run (import, generation): no question, no rescan of the library.
+/// Stores the current board in a run (import, generation): no question, no rescan of the library.
 /// Throws `Fault`: PathFileAccess with `ReadOnlyText` when the file is marked read-only,
 /// SubscriptOutOfRange when no library can hold a board of that number, or the number of the disk's
 /// own failure. The old file is then as it was.
-void StoreBoard(Session& session);
+void StoreBoard(Session& session, LibraryWrite& write);
 
 /// Reads the current board from its file. Without a file the board is cleared and its number stays;
 /// a file that cannot be read gives a message, and the board keeps what had been read. A missing

@@ -6,7 +6,8 @@
 
 #include "core/fault.h"
 #include "core/text.h"
-#include "disk/file_io.h"
+#include "disk/leftovers.h"
+#include "disk/presence.h"
 #include "library/board_file.h"
 
 namespace tricklet {
@@ -22,11 +23,6 @@ constexpr const char* kReplaced = ".replaced";
 void ThrowIf(std::error_code failure, const fs::path& path,
              std::source_location where = std::source_location::current()) {
   if (failure) throw Fault::OfFile(failure, PathText(path), where);
-}
-
-bool IsFolder(const fs::path& path) {
-  std::error_code ignored;
-  return fs::is_directory(path, ignored);
 }
 
 /// The name that a library needs for the board file `name`, whose ending may be in another letter
@@ -46,14 +42,14 @@ void MarkReadOnly(const fs::path& file) {
 }
 
 /// Moves a whole file, also to another disk.
-void MoveFile(const fs::path& from, const fs::path& to) {
-  std::error_code failure;
-  fs::rename(from, to, failure);
+void MoveFile(const fs::path& from, const fs::path& to, UnflushedFolders& unflushed) {
+  std::error_code failure = RenameOver(from, to);
   if (failure == std::errc::cross_device_link) {
-    CopyWholeFile(from, to, [] { return true; });
+    CopyWholeFile(from, to, unflushed, [] { return true; });
     fs::remove(from, failure);
   }
   ThrowIf(failure, to);
+  unflushed.Add(to.parent_path());
 }
 
 }  // namespace
@@ -87,6 +83,7 @@ bool FolderCopy::Run() {
     if (eachItem([this](Item& item) { return List(item); })) {
       MakeStaging();
       if (eachItem([this](const Item& item) { return Stage(item); })) {
+        unflushed_.Flush();  // while the folders still have the names under which they are known
         PutInPlace();
         return true;
       }
@@ -113,7 +110,7 @@ bool FolderCopy::Step(const Item& item) {
 
 /// Lists what there is to copy, before anything is written.
 bool FolderCopy::List(Item& item) {
-  if (!IsFolder(item.from)) {
+  if (!FolderExists(item.from)) {
     throw Fault(FaultNumber::PathNotFound, "There is no folder " + PathText(item.from));
   }
   if (!ListFolder(item, {}, 0)) return false;
@@ -142,44 +139,52 @@ bool FolderCopy::ListFolder(Item& item, const fs::path& relative, int depth) {
   if (!host_.Step("Copying library " + item.name, 0, 0)) return false;
   item.folders.push_back(relative);
   std::vector<fs::path> inner;
-  std::error_code failure;
-  fs::directory_iterator entry(item.from / relative, failure);
-  for (const fs::directory_iterator end; !failure && entry != end; entry.increment(failure)) {
-    std::error_code gone;  // what is gone by now is not copied
-    const fs::file_status status = entry->symlink_status(gone);
-    const fs::path path = relative / entry->path().filename();
-    if (fs::is_directory(status)) {
-      inner.push_back(path);
-    } else if (fs::is_regular_file(status)) {
-      item.files.push_back({path, path});
-    } else if (!gone) {
-      ++leftOut_;
-    }
-  }
-  ThrowIf(failure, item.from / relative);
+  ForEachEntry(item.from / relative,
+               [&](const fs::directory_entry& entry) { TakeEntry(item, entry, relative, inner); });
   return std::all_of(inner.begin(), inner.end(),
                      [&](const fs::path& folder) { return ListFolder(item, folder, depth + 1); });
+}
+
+void FolderCopy::TakeEntry(Item& item, const fs::directory_entry& entry, const fs::path& relative,
+                           std::vector<fs::path>& inner) {
+  std::error_code failure;
+  const fs::file_status status = entry.symlink_status(failure);
+  const fs::path path = relative / entry.path().filename();
+  switch (status.type()) {
+    case fs::file_type::directory:
+      inner.push_back(path);
+      break;
+    case fs::file_type::regular:
+      item.files.push_back({path, path});
+      break;
+    case fs::file_type::not_found:  // it has gone since
+      break;
+    case fs::file_type::none:
+      ThrowIf(failure, entry.path());
+      break;
+    default:
+      ++leftOut_;
+  }
 }
 
 /// What is in the way is found before anything is written, too.
 void FolderCopy::CheckTarget(Item& item) const {
   const fs::path target = Target(item);
-  item.exists = IsFolder(target);
+  item.exists = FolderExists(target);
   if (!item.exists) {
     if (!IsTaken(target)) return;
     throw Fault(FaultNumber::PathFileAccess, "Not a folder: " + PathText(target));
   }
   for (const fs::path& folder : item.folders) {
-    std::error_code ignored;
-    const fs::file_status status = fs::symlink_status(target / folder, ignored);
-    if (folder.empty() || !fs::exists(status) || fs::is_directory(status)) continue;
-    throw Fault(FaultNumber::PathFileAccess, "Not a folder: " + PathText(target / folder));
+    const fs::path to = target / folder;
+    if (folder.empty() || !IsTaken(to)) continue;
+    if (fs::is_directory(fs::symlink_status(to))) continue;
+    throw Fault(FaultNumber::PathFileAccess, "Not a folder: " + PathText(to));
   }
   for (const File& file : item.files) {
     const fs::path to = target / file.to;
-    std::error_code ignored;
     if (!IsTaken(to)) continue;
-    if (!fs::is_regular_file(to, ignored)) {
+    if (!fs::is_regular_file(fs::symlink_status(to))) {
       throw Fault(FaultNumber::PathFileAccess, "Not a file: " + PathText(to));
     }
     if (IsReadOnly(to)) {
@@ -188,33 +193,40 @@ void FolderCopy::CheckTarget(Item& item) const {
   }
 }
 
-void FolderCopy::MakeStaging() {
+/// Makes a folder that must not be there yet.
+void FolderCopy::MakeFolder(const fs::path& folder) {
   std::error_code failure;
+  if (!fs::create_directory(folder, failure) && !failure) {
+    failure = std::make_error_code(std::errc::file_exists);
+  }
+  ThrowIf(failure, folder);
+  unflushed_.Add(folder.parent_path());
+}
+
+void FolderCopy::MakeStaging() {
   std::vector<fs::path> missing;
   for (fs::path at = into_; !at.empty() && !IsTaken(at) && at != at.parent_path();
        at = at.parent_path()) {
     missing.push_back(at);
   }
   for (; !missing.empty(); missing.pop_back()) {
-    if (fs::create_directory(missing.back(), failure)) madeAbove_.push_back(missing.back());
-    ThrowIf(failure, missing.back());
+    MakeFolder(missing.back());
+    madeAbove_.push_back(missing.back());
   }
-  // A name of its own, also beside what a program that was killed has left.
-  for (int number = 1; staging_.empty(); ++number) {
-    const fs::path path = into_ / (".tricklet-copy-" + std::to_string(number));
-    if (fs::create_directory(path, failure)) staging_ = path;
-    ThrowIf(IsFolder(path) ? std::error_code() : failure, path);
+  SweepLeftovers(host_, into_);
+  // A process of this number may have had the name before, and not have been swept.
+  while (staging_.empty()) {
+    const fs::path path = into_ / NewFolderName();
+    if (IsTaken(path)) continue;
+    MakeFolder(path);
+    staging_ = path;
   }
 }
 
 bool FolderCopy::Stage(const Item& item) {
   for (const fs::path& folder : item.folders) {
-    std::error_code failure;
-    const fs::path made = folder.empty() ? Staged(item) : Staged(item) / folder;
-    if (!fs::create_directory(made, failure) && !failure) {
-      failure = std::make_error_code(std::errc::file_exists);  // names that are one to this disk
-    }
-    ThrowIf(failure, made);
+    // Names that differ may be one to this disk, and so be taken.
+    MakeFolder(folder.empty() ? Staged(item) : Staged(item) / folder);
   }
   return std::all_of(item.files.begin(), item.files.end(),
                      [&](const File& file) { return StageFile(item, file); });
@@ -224,11 +236,11 @@ bool FolderCopy::StageFile(const Item& item, const File& file) {
   const fs::path from = item.from / file.from;
   const fs::path to = Staged(item) / file.to;
   try {
-    if (!CopyWholeFile(from, to, [&] { return Step(item); })) return false;
+    if (!CopyWholeFile(from, to, unflushed_, [&] { return Step(item); })) return false;
     if (IsReadOnly(from)) MarkReadOnly(to);
   } catch (const Fault&) {
     // A file that another program has removed meanwhile is no failure; a whole folder is.
-    if (IsTaken(from) || !IsFolder(from.parent_path())) throw;
+    if (IsTaken(from) || !FolderExists(from.parent_path())) throw;
   }
   ++done_;
   return Step(item);
@@ -237,14 +249,15 @@ bool FolderCopy::StageFile(const Item& item, const File& file) {
 void FolderCopy::PutInPlace() {
   for (const Item& item : items_) {
     if (item.exists) continue;
-    ThrowIf(
-        IsTaken(Target(item)) ? std::make_error_code(std::errc::file_exists) : std::error_code(),
-        Target(item));
+    if (IsTaken(Target(item))) {
+      ThrowIf(std::make_error_code(std::errc::file_exists), Target(item));
+    }
     Put(Staged(item), Target(item));
   }
   for (const Item& item : items_) {
     if (item.exists) Merge(item);
   }
+  unflushed_.Flush();
   // All that is left in it is empty folders and what was replaced.
   std::error_code ignored;
   fs::remove_all(staging_, ignored);
@@ -253,10 +266,10 @@ void FolderCopy::PutInPlace() {
 void FolderCopy::Merge(const Item& item) {
   for (const fs::path& folder : item.folders) {
     if (folder.empty()) continue;
-    std::error_code failure;
     const fs::path made = Target(item) / folder;
-    if (fs::create_directory(made, failure)) madeInside_.push_back(made);
-    ThrowIf(failure, made);
+    if (FolderExists(made)) continue;
+    MakeFolder(made);
+    madeInside_.push_back(made);
   }
   for (const File& file : item.files) {
     const fs::path target = Target(item) / file.to;
@@ -274,12 +287,12 @@ void FolderCopy::KeepReplaced(const fs::path& file) {
   ThrowIf(failure, staging_ / kReplaced);
   const fs::path kept = staging_ / kReplaced / std::to_string(replaced_++);
   fs::create_hard_link(file, kept, failure);
-  if (failure) CopyWholeFile(file, kept, [] { return true; });
+  if (failure) CopyWholeFile(file, kept, unflushed_, [] { return true; });
   placed_.push_back({kept, file});
 }
 
 void FolderCopy::Put(const fs::path& from, const fs::path& to) {
-  MoveFile(from, to);
+  MoveFile(from, to, unflushed_);
   placed_.push_back({to, from});
 }
 
@@ -287,7 +300,7 @@ void FolderCopy::Put(const fs::path& from, const fs::path& to) {
 void FolderCopy::PutBack() {
   for (; !placed_.empty(); placed_.pop_back()) {
     try {
-      MoveFile(placed_.back().at, placed_.back().back);
+      MoveFile(placed_.back().at, placed_.back().back, unflushed_);
     } catch (const Fault& fault) {
       host_.Tell("Unable to undo the copy: " + fault.Description());
     }
@@ -304,7 +317,7 @@ void FolderCopy::Undo() {
   if (!staging_.empty()) {
     fs::remove(staging_ / kReplaced, ignored);  // only when it is empty
     fs::remove(staging_, ignored);              // likewise
-    if (IsTaken(staging_) && !host_.Recycle(staging_)) {
+    if (fs::exists(staging_, ignored) && !host_.Recycle(staging_)) {
       host_.Tell("Unable to send the incomplete copy to the recycle bin:\n" + PathText(staging_));
     }
   }

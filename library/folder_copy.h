@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/host.h"
+#include "disk/file_io.h"
 
 namespace tricklet {
 
@@ -22,7 +23,7 @@ enum class FileNames : std::uint8_t {
 /// put in their places when all is complete, so that nothing is ever left half-copied.
 ///
 /// Files and folders are copied, with their times of change and read-only marks. Links inside a
-/// folder and special files are not.
+/// folder and special files are not, and what cannot be seen is a failure of the whole.
 class FolderCopy {
  public:
   /// `into` is an absolute path; it is made when it is missing.
@@ -33,8 +34,8 @@ class FolderCopy {
   void Add(const std::filesystem::path& from, const std::string& name,
            FileNames names = FileNames::Kept);
 
-  /// Copies. False when the person cancelled; throws `Fault` on a failure. In both cases what was
-  /// copied goes to the recycle bin and `into` is as it was.
+  /// Copies; the copy outlasts a power cut then. False when the person cancelled; throws `Fault` on
+  /// a failure. In both cases what was copied goes to the recycle bin and `into` is as it was.
   bool Run();
 
   /// Links and special files that were not copied.
@@ -66,7 +67,10 @@ class FolderCopy {
   bool List(Item& item);
   bool ListFolder(Item& item, const std::filesystem::path& relative, int depth);
   static void NameAsBoards(std::vector<File>& files);
+  void TakeEntry(Item& item, const std::filesystem::directory_entry& entry,
+                 const std::filesystem::path& relative, std::vector<std::filesystem::path>& inner);
   void CheckTarget(Item& item) const;
+  void MakeFolder(const std::filesystem::path& folder);
   void MakeStaging();
   bool Stage(const Item& item);
   bool StageFile(const Item& item, const File& file);
@@ -78,6 +82,7 @@ class FolderCopy {
   void PutBack();
 
   Host& host_;
+  UnflushedFolders unflushed_;
   std::filesystem::path into_;
   std::filesystem::path staging_;                 // empty until it has been made
   std::vector<std::filesystem::path> madeAbove_;  // `into` and what was missing above it

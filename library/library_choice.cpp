@@ -4,11 +4,13 @@
 
 #include "core/fault.h"
 #include "core/text.h"
-#include "disk/file_io.h"
+#include "disk/native_file.h"
+#include "disk/presence.h"
 #include "library/board_store.h"
 #include "library/library_folders.h"
 #include "library/library_names.h"
 #include "library/library_scan.h"
+#include "library/library_write.h"
 #include "library/unsaved_changes.h"
 
 namespace tricklet {
@@ -21,14 +23,29 @@ int PositionOf(const std::vector<std::string>& names, std::string_view name) {
   return found == names.end() ? -1 : static_cast<int>(found - names.begin());
 }
 
-/// Makes the library at `index` of the list the current one and loads its board 1.
+/// Makes the library at `index` of the list the current one and loads its board 1. Throws `Fault`
+/// when the library cannot be listed; nothing has changed then.
 void EnterLibrary(Session& session, int index) {
+  const std::string& name = session.libraryNames.at(static_cast<std::size_t>(index));
+  const LibraryState scanned = ScanLibrary(session.FileLocation() / PathFromText(name));
   session.libIndex = index;
-  session.settings.library = session.libraryNames.at(static_cast<std::size_t>(index));
+  session.settings.library = name;
   SaveSetting(session, &Settings::library);
   session.board.boardNumber = kFirstBoardNumber;
-  FindFiles(session);
+  session.library = scanned;
   LoadHand(session);
+}
+
+/// At the start, and after the root has moved: where the library cannot be entered, none is.
+void EnterOrReport(Session& session, int index) {
+  try {
+    EnterLibrary(session, index);
+  } catch (const Fault& fault) {
+    session.libIndex = -1;
+    session.library = {};
+    ClearAll(session.board);
+    ErrorReport(session.host, fault);
+  }
 }
 
 std::string TrimQuestion(int highest, int maxBoard) {
@@ -41,12 +58,18 @@ std::string TrimQuestion(int highest, int maxBoard) {
   return text + "\n\nClick yes to send them to the recycle bin";
 }
 
-void RecycleBoardsAbove(Session& session, int highest) {
+/// False, after a message, when another program is changing the library.
+bool RecycleBoardsAbove(Session& session, int highest) {
+  auto write = LibraryWrite::Begin(session);
+  if (!write) return false;
   for (int number = highest + 1; number <= session.library.maxBoard; ++number) {
     const fs::path path = session.BoardPath(number);
     // A failure is not reported: the count afterwards shows what really remains.
     if (FileExists(path)) session.host.Recycle(path);
   }
+  write->Unflushed().Add(session.LibraryPath());
+  write->Finish();
+  return true;
 }
 
 }  // namespace
@@ -63,7 +86,7 @@ void GetLibraryNames(Session& session) {
     }
     session.libraryNames.emplace_back("Default");
   }
-  EnterLibrary(session, std::max(0, PositionOf(session.libraryNames, session.LibraryName())));
+  EnterOrReport(session, std::max(0, PositionOf(session.libraryNames, session.LibraryName())));
 }
 
 void ListAndShow(Session& session, int number) {
@@ -117,7 +140,7 @@ bool SetMaxBoard(Session& session, int highest) {
                        Buttons::YesNo) != Answer::Yes) {
     return false;
   }
-  RecycleBoardsAbove(session, highest);
+  if (!RecycleBoardsAbove(session, highest)) return false;
   library.maxBoard = highest;
   if (session.board.boardNumber > highest) {
     session.board.boardNumber = highest;
@@ -147,12 +170,14 @@ bool CreateLibrary(Session& session, std::string_view name) {
 bool RenameLibrary(Session& session, std::string_view name) {
   const std::string trimmed(Trim(name));
   if (!AcceptNewName(session, trimmed)) return false;
+  if (!RequireUnused(session.host, session.LibraryPath())) return false;
   std::error_code failure;
   fs::rename(session.LibraryPath(), session.FileLocation() / PathFromText(trimmed), failure);
   if (failure) {
     ErrorReport(session.host, Fault::OfFile(failure, PathText(session.LibraryPath())));
     return false;
   }
+  FlushFolder(session.FileLocation());
   if (session.copyLibrary == session.LibraryName()) session.copyLibrary = trimmed;
   session.settings.library = trimmed;
   SaveSetting(session, &Settings::library);

@@ -2,6 +2,8 @@
 
 #include "core/fault.h"
 #include "core/text.h"
+#include "disk/native_file.h"
+#include "disk/presence.h"
 #include "library/library_names.h"
 
 namespace tricklet {
@@ -9,8 +11,7 @@ namespace tricklet {
 namespace fs = std::filesystem;
 
 bool RequireFolder(Session& session, const fs::path& folder) {
-  std::error_code ignored;
-  if (fs::is_directory(folder, ignored)) return true;
+  if (FolderExists(folder)) return true;
   session.host.Tell("There is no folder " + PathText(folder));
   return false;
 }
@@ -22,10 +23,16 @@ bool AcceptLibraryRoot(Host& host, const fs::path& folder) {
 }
 
 bool MakeFolder(Session& session, const fs::path& path) {
-  std::error_code failure;
-  fs::create_directory(path, failure);
-  if (failure) ErrorReport(session.host, Fault::OfFile(failure, PathText(path)));
-  return !failure;
+  try {
+    std::error_code failure;
+    fs::create_directory(path, failure);
+    if (failure) throw Fault::OfFile(failure, PathText(path));
+    FlushFolder(path.parent_path());
+    return true;
+  } catch (const Fault& fault) {
+    ErrorReport(session.host, fault);
+    return false;
+  }
 }
 
 void TellNoLibrary(Session& session, const std::string& name) {
@@ -35,8 +42,7 @@ void TellNoLibrary(Session& session, const std::string& name) {
 bool RequireLibraryFolder(Session& session) {
   const std::string& name = session.LibraryName();
   if (!AcceptLibraryName(session.host, name)) return false;
-  std::error_code ignored;
-  if (fs::is_directory(session.LibraryPath(), ignored)) return true;
+  if (FolderExists(session.LibraryPath())) return true;
   if (HasAllowedCharacters(name)) return MakeFolder(session, session.LibraryPath());
   TellNotAName(session.host, name);
   return false;

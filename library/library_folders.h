@@ -8,7 +8,7 @@
 
 namespace tricklet {
 
-/// The folder exists; tells when it does not.
+/// The folder exists; tells when it does not. Throws `Fault` when that cannot be seen.
 bool RequireFolder(Session& session, const std::filesystem::path& folder);
 
 /// The folder can be the library root. A drive cannot be, and the person is told so.

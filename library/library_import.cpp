@@ -3,6 +3,7 @@
 
 #include "core/fault.h"
 #include "core/text.h"
+#include "disk/presence.h"
 #include "library/library_choice.h"
 #include "library/library_folders.h"
 #include "library/library_names.h"
@@ -29,17 +30,13 @@ bool IsNamedLikeABoard(const std::string& name) {
 
 /// The folder counts as a library with boards. Throws `Fault` when it cannot be read.
 bool HasBoards(const fs::path& folder) {
-  std::error_code failure;
-  fs::directory_iterator entry(folder, failure);
-  for (const fs::directory_iterator end; !failure && entry != end; entry.increment(failure)) {
+  bool found = false;
+  ForEachEntry(folder, [&found](const fs::directory_entry& entry) {
     std::error_code ignored;
-    if (IsNamedLikeABoard(PathText(entry->path().filename())) &&
-        fs::is_regular_file(entry->symlink_status(ignored))) {
-      return true;
-    }
-  }
-  if (failure) throw Fault::OfFile(failure, PathText(folder));
-  return false;
+    found = found || (IsNamedLikeABoard(PathText(entry.path().filename())) &&
+                      fs::is_regular_file(entry.symlink_status(ignored)));
+  });
+  return found;
 }
 
 /// What a folder holds, in the order of the list.

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "core/text.h"
-#include "disk/file_io.h"
+#include "disk/presence.h"
 
 namespace tricklet {
 namespace {
@@ -38,7 +38,7 @@ bool HasAllowedCharacters(std::string_view name) {
     if (!AllowedInLibraryName(static_cast<unsigned char>(c), first)) return false;
     first = false;
   }
-  return !name.empty() && name.size() <= kLongestLibraryName;
+  return !name.empty() && name.size() <= kLongestLibraryName && IsValidUtf8(name);
 }
 
 bool IsLibraryName(std::string_view name) {
@@ -60,14 +60,13 @@ void TellNotAName(Host& host, std::string_view name) {
 
 std::vector<std::string> FoldersOf(const fs::path& root) {
   std::vector<std::string> names;
-  std::error_code failure;
-  for (fs::directory_iterator entry(root, failure), end; !failure && entry != end;
-       entry.increment(failure)) {
-    std::string name = PathText(entry->path().filename());
-    std::error_code ignored;
-    if (!IsLibraryName(name) || !entry->is_directory(ignored)) continue;
+  if (!FolderExists(root)) return names;
+  ForEachEntry(root, [&names](const fs::directory_entry& entry) {
+    std::string name = PathText(entry.path().filename());
+    std::error_code ignored;  // a link to nothing is no folder
+    if (!IsLibraryName(name) || !entry.is_directory(ignored)) return;
     names.push_back(std::move(name));
-  }
+  });
   std::sort(names.begin(), names.end(), NameBefore);
   return names;
 }

@@ -17,8 +17,8 @@ inline constexpr std::size_t kLongestLibraryName = 255;
 /// `character` may be typed into the name of a library, at its beginning (`first`) or later.
 bool AllowedInLibraryName(char32_t character, bool first);
 
-/// A new library can have the name, as far as its characters go: all are allowed, there is at least
-/// one, and the name is not longer than `kLongestLibraryName`.
+/// A new library can have the name, as far as its characters go: they are valid UTF-8 and all are
+/// allowed, there is at least one, and the name is not longer than `kLongestLibraryName`.
 bool HasAllowedCharacters(std::string_view name);
 
 /// A folder of this name, made by whatever program, is a library: the name is a single element of a
@@ -32,7 +32,7 @@ bool AcceptLibraryName(Host& host, std::string_view name);
 void TellNotAName(Host& host, std::string_view name);
 
 /// The names of the libraries in the folder `root`, in the order of the list: by letters, whatever
-/// their case. Empty when the folder cannot be listed.
+/// their case; none when there is no such folder. Throws `Fault` when it cannot be listed.
 std::vector<std::string> FoldersOf(const std::filesystem::path& root);
 
 /// The one of `names` that `name` means: just this name, or else the name without the blanks around

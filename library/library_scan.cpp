@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/text.h"
+#include "disk/presence.h"
 #include "library/board_file.h"
 
 namespace tricklet {
@@ -11,17 +12,17 @@ namespace fs = std::filesystem;
 
 LibraryState ScanLibrary(const fs::path& folder) {
   LibraryState library;
-  std::error_code failure;
-  for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end;
-       entry.increment(failure)) {
-    const int number = BoardNumberOfFile(PathText(entry->path().filename()));
+  const auto take = [&library](const fs::directory_entry& entry) {
+    const int number = BoardNumberOfFile(PathText(entry.path().filename()));
     std::error_code ignored;
-    if (!IsStorable(number) || entry->is_directory(ignored)) continue;
+    if (!IsStorable(number) || entry.is_directory(ignored)) return;
     library.boardPresent.at(static_cast<std::size_t>(number)) = true;
     ++library.boardCount;
     library.firstBoard = std::min(library.firstBoard, number);
     library.lastBoard = std::max(library.lastBoard, number);
-  }
+  };
+  if (FolderExists(folder)) ForEachEntry(folder, take);
+  library.maxBoard = library.boardCount == 0 ? kBoardsOfEmptyLibrary : library.lastBoard;
   return library;
 }
 
@@ -32,9 +33,7 @@ void CountHands(Session& session) {
 }
 
 void FindFiles(Session& session) {
-  CountHands(session);
-  LibraryState& library = session.library;
-  library.maxBoard = library.boardCount == 0 ? kBoardsOfEmptyLibrary : library.lastBoard;
+  session.library = ScanLibrary(session.LibraryPath());
 }
 
 std::string LibraryCaption(const Session& session) {

@@ -11,15 +11,16 @@ namespace tricklet {
 /// Boards that an empty library offers.
 inline constexpr int kBoardsOfEmptyLibrary = 24;
 
-/// Scans a library's folder, once; `maxBoard` is left at 0. A folder that cannot be listed holds no
-/// boards.
+/// Scans a library's folder, once. `maxBoard` is up to its last board, or `kBoardsOfEmptyLibrary`.
+/// Throws `Fault` when it cannot be listed; one that is not there holds no boards.
 LibraryState ScanLibrary(const std::filesystem::path& folder);
 
-/// Scans the current library and leaves the number of boards that are offered as it is.
+/// Scans the current library and leaves the number of boards that are offered as it is. Throws
+/// `Fault`, and then all is as it was.
 void CountHands(Session& session);
 
-/// Scans the current library and sets the number of boards that are offered: up to its last one, or
-/// `kBoardsOfEmptyLibrary`.
+/// Scans the current library and offers as many boards as `ScanLibrary` says. Throws `Fault`, and
+/// then all is as it was.
 void FindFiles(Session& session);
 
 /// "Library - NAME" and "N boards in library".

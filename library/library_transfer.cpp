@@ -6,9 +6,11 @@
 #include "core/fault.h"
 #include "core/text.h"
 #include "disk/file_io.h"
+#include "disk/presence.h"
 #include "library/folder_copy.h"
 #include "library/library_choice.h"
 #include "library/library_names.h"
+#include "library/library_write.h"
 #include "library/transfer_steps.h"
 #include "library/unsaved_changes.h"
 
@@ -83,14 +85,12 @@ bool ExportAll(Session& session, const fs::path& folder) {
 
 /// Makes `folder` the library root and keeps to the current library if the folder has it.
 bool SwitchRoot(Session& session, const fs::path& folder) {
-  std::error_code failure;
-  const std::string library =
-      fs::is_directory(folder / PathFromText(session.LibraryName()), failure)
-          ? session.LibraryName()
-          : "Default";
-  fs::create_directories(folder / PathFromText(library), failure);
-  if (failure) {
-    ErrorReport(session.host, Fault::OfFile(failure, PathText(folder)));
+  const bool hasCurrent = FolderExists(folder / PathFromText(session.LibraryName()));
+  const std::string library = hasCurrent ? session.LibraryName() : "Default";
+  try {
+    MakeFolders(folder / PathFromText(library));
+  } catch (const Fault& fault) {
+    ErrorReport(session.host, fault);
     return false;
   }
   session.settings.filelocation = FolderText(folder);
@@ -199,10 +199,13 @@ bool DeleteLibrary(Session& session, std::string_view name) {
     return false;
   }
   // Only what is listed can be named, so no name leads out of the root.
-  if (std::find(names.begin(), names.end(), name) == names.end() || !session.host.Recycle(folder)) {
+  const bool listed = std::find(names.begin(), names.end(), name) != names.end();
+  if (listed && !RequireUnused(session.host, folder)) return false;
+  if (!listed || !session.host.Recycle(folder)) {
     session.host.Tell("Unable to delete the library " + std::string(name));
     return false;
   }
+  FlushFolder(session.FileLocation());
   RefreshLibraryNames(session);
   return true;
 }

@@ -4,6 +4,7 @@
 #include <array>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,14 @@
 #include "core/settings.h"
 
 namespace tricklet {
+
+class WriteLock;
+
+/// The library that was changed last, whose lock is shared by all that changes it at the same time.
+struct WriteState {
+  std::filesystem::path folder;
+  std::weak_ptr<WriteLock> lock;
+};
 
 /// What is known of the current library from its last scan.
 struct LibraryState {
@@ -49,6 +58,8 @@ struct Session {
   std::function<Solver&()> getSolver;
   /// A missing table is not computed while a board is loaded but later, by the window's worker.
   bool tablesInBackground = false;
+
+  WriteState writing;
 
   /// An import, export or the like is running: nothing is asked about unsaved changes.
   bool batchRunning = false;

@@ -5,6 +5,8 @@
 #include "core/fault.h"
 #include "core/text.h"
 #include "core/version.h"
+#include "disk/file_io.h"
+#include "disk/presence.h"
 #include "library/library_choice.h"
 #include "library/library_folders.h"
 #include "library/library_names.h"
@@ -13,11 +15,6 @@ namespace tricklet {
 namespace {
 
 namespace fs = std::filesystem;
-
-bool FolderExists(const fs::path& path) {
-  std::error_code ignored;
-  return !path.empty() && fs::is_directory(path, ignored);
-}
 
 /// Asks until a folder that can be a library root is chosen; false when none is.
 bool ChooseLibraryRoot(Session& session) {
@@ -31,10 +28,10 @@ bool ChooseLibraryRoot(Session& session) {
       return false;
     }
     if (!AcceptLibraryRoot(session.host, *chosen)) continue;
-    std::error_code failure;
-    fs::create_directories(*chosen, failure);
-    if (failure) {
-      session.host.Tell(Fault::OfFile(failure, PathText(*chosen)).Description());
+    try {
+      MakeFolders(*chosen);
+    } catch (const Fault& fault) {
+      session.host.Tell(fault.Description());
       continue;
     }
     session.settings.filelocation = FolderText(*chosen);
@@ -50,8 +47,12 @@ void MakeStoredLibraryAgain(Session& session) {
   std::string name = session.LibraryName();
   if (name.empty() || !AcceptLibraryName(session.host, name)) return;
   std::erase(name, '.');  // another program may have named it so
-  std::error_code ignored;
-  if (HasAllowedCharacters(name)) fs::create_directory(session.LibraryPath(), ignored);
+  if (!HasAllowedCharacters(name)) return;
+  try {
+    MakeFolders(session.LibraryPath());
+  } catch (const Fault&) {
+    return;
+  }
 }
 
 /// Without the library that was asked for there is no reason to make another.
@@ -97,7 +98,8 @@ std::string LibraryOfRoot(const fs::path& root, const std::string& stored) {
 }
 
 bool OpenLibraries(Session& session, const std::string& named) {
-  if (!FolderExists(session.FileLocation()) && !ChooseLibraryRoot(session)) return false;
+  const fs::path root = session.FileLocation();
+  if ((root.empty() || !FolderExists(root)) && !ChooseLibraryRoot(session)) return false;
   if (named.empty()) {
     MakeStoredLibraryAgain(session);
   } else {

@@ -13,9 +13,11 @@
 #include "core/statistics.h"
 #include "core/text.h"
 #include "disk/file_io.h"
+#include "disk/presence.h"
 #include "library/board_file.h"
 #include "library/board_store.h"
 #include "library/library_scan.h"
+#include "library/library_write.h"
 #include "library/unsaved_changes.h"
 
 namespace tricklet {
@@ -68,10 +70,25 @@ std::string LeftOutText(const std::vector<fs::path>& files) {
          " are read only so the hands cannot be saved";
 }
 
+/// Puts the table into the file, if the deal in it is still this one and it is not marked
+/// read-only.
+bool PutTable(const fs::path& path, const HandTable& hands, const MakeableTable& table,
+              UnflushedFolders& unflushed) {
+  Board board;
+  const std::string text = ReadWholeFile(path, kMaxBoardFileBytes);
+  if (!ReadBoardText(text, board, TableReading::Always) || !(board.hands == hands)) return false;
+  if (IsReadOnly(path)) return false;
+  board.makeable = table;
+  board.makeableValid = true;
+  ReplaceWholeFile(path, WriteBoardText(board), unflushed);
+  return true;
+}
+
 /// One run over a range of boards.
 class AnalysisRun {
  public:
-  AnalysisRun(Session& session, Solver& solver) : session_(session), solver_(solver) {}
+  AnalysisRun(Session& session, Solver& solver, LibraryWrite& write)
+      : session_(session), solver_(solver), write_(write) {}
 
   AnalysisOutcome Run(int first, int last, bool again) {
     FindWork(first, last, again);
@@ -154,7 +171,7 @@ class AnalysisRun {
   }
 
   void Keep(SolvedBatch answer, Batch batch) {
-    outcome_.failure = answer.failure;
+    if (outcome_.failure.empty()) outcome_.failure = answer.failure;
     solved_ += static_cast<int>(answer.tables.size());
     solvedAt_ = Clock::now();
     pending_ = std::move(batch);
@@ -162,9 +179,22 @@ class AnalysisRun {
   }
 
   void StorePending() {
+    try {
+      StoreTables();
+      write_.Finish();
+    } catch (const Fault& fault) {
+      outcome_.failure = fault.Description();
+    }
+    pendingTables_.clear();
+  }
+
+  void StoreTables() {
     for (std::size_t i = 0; i < pendingTables_.size(); ++i) {
       const int number = pending_.numbers[i];
-      if (!StoreTable(session_.BoardPath(number), pending_.deals[i], pendingTables_[i])) continue;
+      if (!PutTable(session_.BoardPath(number), pending_.deals[i], pendingTables_[i],
+                    write_.Unflushed())) {
+        continue;
+      }
       ++outcome_.computed;
       Board& board = session_.board;
       if (board.boardNumber == number && board.hands == pending_.deals[i]) {
@@ -172,11 +202,11 @@ class AnalysisRun {
         board.makeableValid = true;
       }
     }
-    pendingTables_.clear();
   }
 
   Session& session_;
   Solver& solver_;
+  LibraryWrite& write_;
   AnalysisOutcome outcome_;
   std::vector<int> numbers_;      // of the boards to be solved
   std::vector<HandTable> deals_;  // theirs
@@ -191,15 +221,14 @@ class AnalysisRun {
 }  // namespace
 
 bool StoreTable(const fs::path& path, const HandTable& hands, const MakeableTable& table) {
+  std::string holder;
+  const auto lock = WriteLock::Take(path.parent_path(), std::chrono::milliseconds(0), holder);
+  if (!lock) return false;
   try {
-    Board board;
-    const std::string text = ReadWholeFile(path, kMaxBoardFileBytes);
-    if (!ReadBoardText(text, board, TableReading::Always) || !(board.hands == hands)) return false;
-    if (IsReadOnly(path)) return false;
-    board.makeable = table;
-    board.makeableValid = true;
-    ReplaceWholeFile(path, WriteBoardText(board));
-    return true;
+    UnflushedFolders unflushed;
+    const bool stored = PutTable(path, hands, table, unflushed);
+    unflushed.Flush();
+    return stored;
   } catch (const Fault&) {
     return false;
   }
@@ -214,7 +243,8 @@ AnalysisOutcome AnalyseBoards(Session& session, Solver& solver, int first, int l
   AnalysisOutcome outcome;
   outcome.failure = solver.Missing();
   if (!outcome.failure.empty()) return outcome;
-  return AnalysisRun(session, solver).Run(first, last, again);
+  auto write = LibraryWrite::Begin(session, outcome.failure);
+  return write ? AnalysisRun(session, solver, *write).Run(first, last, again) : outcome;
 }
 
 std::string AnalysisText(const AnalysisOutcome& outcome) {

@@ -11,7 +11,8 @@
 namespace tricklet {
 
 /// Puts `table` into the board file `path`, if the deal in it is still `hands`. False when it is
-/// not, or the file is marked read-only, or it could not be read or written.
+/// not, or the file is marked read-only, or it could not be read or written, or another program is
+/// changing the library just now.
 bool StoreTable(const std::filesystem::path& path, const HandTable& hands,
                 const MakeableTable& table);
 
@@ -23,7 +24,9 @@ struct AnalysisOutcome {
   int incomplete = 0;  ///< boards that are no complete deal, or cannot be read
   std::vector<std::filesystem::path> readOnly;  ///< left alone, as they are marked read-only
   bool cancelled = false;
-  std::string failure;  ///< the solver's; empty when there was none
+  /// The solver's, or that of the disk, or that another program is changing the library; empty when
+  /// there was none.
+  std::string failure;
 };
 
 /// Computes the tables of the boards `first`..`last` that are in the current library: those that

@@ -1,9 +1,12 @@
 #include "library/transfer_steps.h"
 
+#include <memory>
 #include <utility>
 
 #include "core/fault.h"
 #include "core/text.h"
+#include "disk/presence.h"
+#include "library/library_write.h"
 #include "library/unsaved_changes.h"
 
 namespace tricklet {
@@ -26,6 +29,21 @@ bool MayCopy(Session& session, const Pair& pair) {
   return false;
 }
 
+/// Takes the locks of folders into which there is to be copied.
+bool LockTargets(Session& session, const std::vector<Pair>& pairs,
+                 std::vector<std::unique_ptr<WriteLock>>& locks) {
+  for (const Pair& pair : pairs) {
+    const fs::path to = pair.into / PathFromText(pair.name);
+    if (!FolderExists(to)) continue;
+    std::string holder;
+    locks.push_back(WriteLock::Take(to, WriteLock::kPatience, holder));
+    if (locks.back()) continue;
+    session.host.Tell(BusyText(pair.name, holder));
+    return false;
+  }
+  return true;
+}
+
 bool Copy(Session& session, const std::vector<Pair>& pairs, const fs::path& into,
           CopyManner manner) {
   FolderCopy copy(session.host, into);
@@ -34,6 +52,8 @@ bool Copy(Session& session, const std::vector<Pair>& pairs, const fs::path& into
     copy.Add(pair.from, pair.name, manner.files);
   }
   if (manner.unsaved == Unsaved::Settled && !SettleChanges(session)) return false;
+  std::vector<std::unique_ptr<WriteLock>> locks;
+  if (!LockTargets(session, pairs, locks)) return false;
   try {
     if (!copy.Run()) {
       session.host.Tell("Copying cancelled");

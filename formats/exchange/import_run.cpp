@@ -9,6 +9,8 @@
 #include "formats/exchange/import_messages.h"
 #include "formats/exchange/keep_results.h"
 #include "formats/exchange/library_sink.h"
+#include "formats/results/lin_file.h"
+#include "library/board_store.h"
 #include "library/library_choice.h"
 #include "library/library_scan.h"
 #include "library/unsaved_changes.h"
@@ -40,6 +42,7 @@ Failures ReadAndStore(Session& session, RecordSource& source, const RecordReader
   }
   try {
     KeepResults(session, reader.brings, sink, reading);
+    sink.Write().Finish();
   } catch (const std::exception& failure) {
     if (!failures.writing) failures.writing = FaultFrom(failure);
   }
@@ -74,6 +77,7 @@ void TellResult(Session& session, const LibrarySink& sink, const ReadResult& res
   host.Tell(SavedText(result, session.LibraryName()));
   TellIfAny(host, StoredText(result, sink.Stored()));
   TellIfAny(host, LeftOutText(result.leftOut));
+  if (sink.ResultsStayed()) host.Tell(kResultsNotRecycled);
 }
 
 ImportOutcome TellUnreadable(Session& session, const std::string& unreadable, int boardBefore) {
@@ -93,7 +97,12 @@ ImportOutcome StoreText(Session& session, RecordSource source, const std::string
                         const RecordReader& reader) {
   const int boardBefore = session.board.boardNumber;
   session.board.handChanged = false;
-  LibrarySink sink(session, reader.brings == Brings::Nothing);
+  auto write = LibraryWrite::Begin(session);
+  if (!write) {
+    LoadHand(session);
+    return {.refused = true};
+  }
+  LibrarySink sink(session, std::move(*write), reader.brings == Brings::Nothing);
   Reading reading;
   const Failures failures = ReadAndStore(session, source, reader, sink, reading);
   if (failures.reading) {
@@ -108,7 +117,7 @@ ImportOutcome StoreText(Session& session, RecordSource source, const std::string
   return {.boardsSaved = result.boardsSaved,
           .cancelled = result.cancelled,
           .failed = failures.writing || result.badLine || !result.messages.empty() ||
-                    result.leftOut.Unreadable()};
+                    result.leftOut.Unreadable() || sink.ResultsStayed()};
 }
 
 ImportOutcome StoreFile(Session& session, const fs::path& path, const RecordReader& reader) {

@@ -7,7 +7,6 @@
 #include <utility>
 #include <vector>
 
-#include "disk/file_io.h"
 #include "formats/results/lin_boards.h"
 #include "formats/results/lin_file.h"
 
@@ -33,14 +32,14 @@ void LeaveOutStored(LinFile& results, const std::vector<std::string>& stored) {
 
 /// Adds the records of the boards stored to "LIN.txt", where they replace earlier ones of the same
 /// boards. Records of other boards stay, with their names and their scoring.
-void KeepRecords(const Session& session, std::vector<std::string> records) {
+void KeepRecords(const Session& session, std::vector<std::string> records, LibraryWrite& write) {
   LinFile results = LoadLinData(session);
   LeaveOutStored(results, records);
   if (results.Empty()) results = LinFile();
   results.lin.insert(results.lin.end(), std::move_iterator(records.begin()),
                      std::move_iterator(records.end()));
   if (results.boardScoringMethod.empty()) SetScoring(results);
-  StoreLinData(session, results);
+  StoreLinData(session, results, write);
 }
 
 /// Leaves out the results of boards that were not stored, which would stand beside older deals of
@@ -61,16 +60,16 @@ void LeaveOutUnstored(const LibrarySink& sink, Reading& reading) {
 
 }  // namespace
 
-void KeepResults(const Session& session, Brings brings, const LibrarySink& sink, Reading& reading) {
+void KeepResults(Session& session, Brings brings, LibrarySink& sink, Reading& reading) {
   if (sink.Stored().empty() || brings == Brings::Nothing) return;
   if (brings == Brings::Records) {
-    KeepRecords(session, std::move(reading.results.lin));
+    KeepRecords(session, std::move(reading.results.lin), sink.Write());
     return;
   }
   LeaveOutUnstored(sink, reading);
-  StoreLinData(session, reading.results);
+  RenewLinData(session, reading.results, sink.Write());
   if (!reading.extended.empty()) {
-    ReplaceWholeFile(session.LibraryPath() / "QENXML.xml", reading.extended);
+    sink.Write().Replace(session.LibraryPath() / "QENXML.xml", reading.extended);
   }
 }
 

@@ -8,8 +8,9 @@ namespace tricklet {
 
 /// Puts the results of the boards that `sink` has stored into the current library's "LIN.txt", and
 /// writes a file with the extended document type, if there is one, to "QENXML.xml" beside it. The
-/// old "LIN.txt" stays until then and is replaced whole, so there is always one of the two. When no
-/// board was stored, nothing is changed. Throws `Fault` when a file cannot be written.
-void KeepResults(const Session& session, Brings brings, const LibrarySink& sink, Reading& reading);
+/// old "LIN.txt" stays until then: LIN records are merged with those of other boards in it, and
+/// club results send it to the recycle bin. When no board was stored, nothing is changed. Throws
+/// `Fault` when a file cannot be written.
+void KeepResults(Session& session, Brings brings, LibrarySink& sink, Reading& reading);
 
 }  // namespace tricklet

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "disk/file_io.h"
+#include "disk/presence.h"
 #include "formats/results/lin_file.h"
 #include "formats/sink/record_text.h"
 #include "library/board_store.h"
@@ -12,7 +12,7 @@ namespace tricklet {
 void LibrarySink::Store(const Board& board) {
   session_.board = board;
   try {
-    StoreBoard(session_);
+    StoreBoard(session_, write_);
   } catch (const std::exception& failure) {
     failure_ = FaultFrom(failure);
     readOnly_ = IsReadOnly(session_.BoardPath(board.boardNumber));
@@ -22,7 +22,8 @@ void LibrarySink::Store(const Board& board) {
   stored_.insert(board.boardNumber);
   if (firstStored_ != 0) return;
   firstStored_ = board.boardNumber;
-  if (recyclesResults_) RecycleLinData(session_);  // the import goes on even if this fails
+  // The import goes on even if this fails.
+  resultsStayed_ = recyclesResults_ && !RecycleLinData(session_);
 }
 
 bool LibrarySink::Begin(int boardNumber, int done) {

@@ -4,9 +4,11 @@
 #include <exception>
 #include <optional>
 #include <set>
+#include <utility>
 
 #include "core/fault.h"
 #include "formats/sink/board_sink.h"
+#include "library/library_write.h"
 #include "library/session.h"
 
 namespace tricklet {
@@ -16,8 +18,8 @@ class LibrarySink : public BoardSink {
  public:
   /// `recyclesResults`: "LIN.txt" goes to the recycle bin when the first board is stored, as its
   /// results belong to the boards that are replaced.
-  LibrarySink(Session& session, bool recyclesResults)
-      : session_(session), recyclesResults_(recyclesResults) {}
+  LibrarySink(Session& session, LibraryWrite write, bool recyclesResults)
+      : session_(session), write_(std::move(write)), recyclesResults_(recyclesResults) {}
 
   /// Throws `Fault` when the board cannot be written, and remembers it.
   void Store(const Board& board) override;
@@ -29,6 +31,11 @@ class LibrarySink : public BoardSink {
   /// Boards stored; one that replaced another of the same run counts as well.
   int Count() const { return count_; }
 
+  /// For what is stored beside the boards.
+  LibraryWrite& Write() { return write_; }
+  /// "LIN.txt" was to be recycled and could not be.
+  bool ResultsStayed() const { return resultsStayed_; }
+
   /// What has ended the storing, if anything has.
   const std::optional<Fault>& Failure() const { return failure_; }
   /// What ended it was a board file that is marked read-only.
@@ -36,12 +43,14 @@ class LibrarySink : public BoardSink {
 
  private:
   Session& session_;
+  LibraryWrite write_;
   const bool recyclesResults_;
   std::set<int> stored_;
   int firstStored_ = 0;
   int count_ = 0;
   std::optional<Fault> failure_;
   bool readOnly_ = false;
+  bool resultsStayed_ = false;
 };
 
 }  // namespace tricklet

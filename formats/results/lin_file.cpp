@@ -7,6 +7,7 @@
 #include "core/fault.h"
 #include "core/text.h"
 #include "disk/file_io.h"
+#include "disk/presence.h"
 #include "formats/sink/record_text.h"
 
 namespace tricklet {
@@ -126,6 +127,13 @@ class LinFileParser {
   LinFile data_;
 };
 
+/// Throws when it is more than is read back.
+std::string BoundedText(const LinFile& data, const fs::path& path) {
+  std::string text = LinFileText(data);
+  if (text.size() <= kMaxLinFileBytes) return text;
+  throw Fault(FaultNumber::DeviceError, "The file would be too large: " + PathText(path));
+}
+
 }  // namespace
 
 std::string LinFileText(const LinFile& data) {
@@ -159,13 +167,21 @@ LinFile LoadLinData(const Session& session) {
   return ParseLinFile(ReadWholeFile(path, kMaxLinFileBytes));
 }
 
-void StoreLinData(const Session& session, const LinFile& data) {
+void StoreLinData(const Session& session, const LinFile& data, LibraryWrite& write) {
   const fs::path path = LinDataPath(session);
-  const std::string text = LinFileText(data);
-  if (text.size() > kMaxLinFileBytes) {
-    throw Fault(FaultNumber::DeviceError, "The file would be too large: " + PathText(path));
-  }
-  ReplaceWholeFile(path, text);
+  write.Replace(path, BoundedText(data, path));
+}
+
+void RenewLinData(Session& session, const LinFile& data, LibraryWrite& write) {
+  const fs::path path = LinDataPath(session);
+  const std::string text = BoundedText(data, path);
+  if (FileExists(path) && ReadWholeFile(path, kMaxLinFileBytes) == text) return;
+  // The new file is complete before the old one goes.
+  Replacement renewed(path);
+  renewed.File().Write(text);
+  renewed.Complete();
+  if (!RecycleLinData(session)) throw Fault(FaultNumber::PathFileAccess, kResultsNotRecycled);
+  renewed.PutInPlace(write.Unflushed());
 }
 
 bool RecycleLinData(Session& session) {

@@ -24,6 +24,7 @@
 #include <string_view>
 #include <vector>
 
+#include "library/library_write.h"
 #include "library/session.h"
 
 namespace tricklet {
@@ -69,9 +70,17 @@ std::filesystem::path LinDataPath(const Session& session);
 /// be read.
 LinFile LoadLinData(const Session& session);
 
-/// Puts `data` in the place of the current library's "LIN.txt", whole or not at all. Throws
-/// `Fault`, and then the old file is as it was.
-void StoreLinData(const Session& session, const LinFile& data);
+/// Puts `data`, which holds what is to be kept of the old file, in the place of the current
+/// library's "LIN.txt", whole or not at all. Throws `Fault`, and then the old file is as it was.
+void StoreLinData(const Session& session, const LinFile& data, LibraryWrite& write);
+
+/// Puts `data` in the place of the current library's "LIN.txt", whose old file goes to the recycle
+/// bin. Throws `Fault`, also when it does not go there, and then the old file is as it was.
+void RenewLinData(Session& session, const LinFile& data, LibraryWrite& write);
+
+/// Told when `RecycleLinData` has failed.
+inline constexpr const char* kResultsNotRecycled =
+    "Unable to send the old LIN.txt of the library to the recycle bin";
 
 /// Sends the current library's "LIN.txt" to the recycle bin, where there is one. True when none is
 /// left.

@@ -4,6 +4,7 @@
 
 #include "core/fault.h"
 #include "disk/file_io.h"
+#include "disk/presence.h"
 #include "library/board_file.h"
 #include "tests/support/fake_solver.h"
 #include "tests/support/library_fixture.h"
@@ -58,7 +59,9 @@ TEST_F(BoardStore, NothingStoresABoardInAReadOnlyFile) {
   host.ExpectTell(text);
   EXPECT_FALSE(SaveHand(session));
   EXPECT_TRUE(session.board.handChanged);
-  EXPECT_THROW(StoreBoard(session), Fault);
+  auto write = LibraryWrite::Begin(session);
+  EXPECT_THROW(StoreBoard(session, *write), Fault);
+  write.reset();
   FakeSolver solver;
   session.getSolver = [&]() -> Solver& { return solver; };
   EXPECT_TRUE(LoadHand(session));
@@ -72,7 +75,8 @@ TEST_F(BoardStore, FilesAreReplacedWholeOrNotAtAll) {
   ReplaceWholeFile(path, "new");
   EXPECT_EQ(ReadFile(path), "new");
   EXPECT_TRUE(IsReadOnly(path)) << "a file that is replaced keeps its mark";
-  EXPECT_FALSE(CopyWholeFile(path, session.BoardPath(8), [] { return false; }));
+  UnflushedFolders unflushed;
+  EXPECT_FALSE(CopyWholeFile(path, session.BoardPath(8), unflushed, [] { return false; }));
   EXPECT_EQ(FilesInLibrary(), 1) << "nothing is left beside it";
 }
 

@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "core/fault.h"
-#include "disk/file_io.h"
+#include "disk/presence.h"
 #include "formats/exchange/record_reader.h"
 #include "formats/results/lin_boards.h"
 #include "formats/results/lin_file.h"
@@ -52,7 +52,7 @@ class ImportTest : public LibraryTest {
 
   /// Imports a file into a new library that holds board 500 and a record of it. Gives what was said
   /// and, in brackets, what came of it: the boards stored, how many are said to be, and the records
-  /// in "LIN.txt" with their scoring, or that it was recycled.
+  /// in "LIN.txt" with their scoring, or that it was recycled and there is no other.
   std::string Import(const std::string& name, const std::string& text, Stop stop = Stop::Nowhere,
                      int board = 0) {
     Diary diary;
@@ -90,8 +90,7 @@ class ImportTest : public LibraryTest {
     const std::string records = std::to_string(kept.lin.size()) + " " + kept.boardScoringMethod;
     return diary.said + "[" + stored + "|" + std::to_string(outcome.boardsSaved) +
            (outcome.failed ? " failed" : "") + (outcome.cancelled ? " cancelled|" : "|") +
-           (diary.recycled.empty() ? records + "/" + kept.boardScoringAbb : diary.recycled.at(0)) +
-           "]";
+           (kept.Empty() ? diary.recycled.at(0) : records + "/" + kept.boardScoringAbb) + "]";
   }
   /// What comes of the text of each file.
   void Expect(const std::string& name,
@@ -294,7 +293,8 @@ TEST_F(ImportTest, RecordsStandBesideThoseOfOtherBoards) {
     return text;
   };
   const std::vector<std::string> records{"qx|o1|", "ah|Board 2|", "x|y|ah|Board 1|", "qx|o3|"};
-  StoreLinData(session, {"CROSS_IMPS", "XIMP", LinTeams{{"Hearts"}, "", ""}, {"1 Ann"}, records});
+  const LinFile before{"CROSS_IMPS", "XIMP", LinTeams{{"Hearts"}, "", ""}, {"1 Ann"}, records};
+  WriteFile(LinDataPath(session), LinFileText(before));
   host.ExpectTell("2 hands (1-4) have been saved to the library - Club");
   ImportLinText(session, LinRecordText("o1") + LinRecordText("o4"));
   EXPECT_EQ(kept(), "XIMP 1 Ann Hearts 2 3 1 4");

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "core/fault.h"
+#include "tests/support/library_fixture.h"
+
 namespace tricklet {
 namespace {
 
@@ -53,6 +56,20 @@ TEST(LinFile, AValueCannotLeaveItsLine) {
   const LinFile data{"[LIN]", "", {}, {name, ""}, {"qx|o1|\n\n[Names]\n", ""}};
   const LinFile read{" [LIN]", "", {}, {"1 NS Ann [LIN] qx|o9| &  Bob"}, {"qx|o1| [Names] "}};
   EXPECT_EQ(ParseLinFile(LinFileText(data)), read);
+}
+
+class LinDataTest : public test::LibraryTest {};
+
+TEST_F(LinDataTest, TheOldFileGoesToTheRecycleBinOrStays) {
+  auto write = LibraryWrite::Begin(session);
+  RenewLinData(session, PairsEvent(), *write);
+  RenewLinData(session, PairsEvent(), *write);
+  EXPECT_TRUE(host.recycled.empty()) << "it is the same";
+  RenewLinData(session, LinFile(), *write);
+  EXPECT_EQ(host.recycled, std::vector<std::string>{"LIN.txt"});
+  host.hasRecycleBin = false;
+  EXPECT_THROW(RenewLinData(session, PairsEvent(), *write), Fault);
+  EXPECT_EQ(LoadLinData(session), LinFile());
 }
 
 }  // namespace

@@ -206,12 +206,12 @@ TEST(Traveller, NamesAreLookedUpByTheirFirstPart) {
 
 TEST_F(LibraryTest, LinDataIsReadAgainWhenItIsAnotherFile) {
   tricklet::LinData data;
-  StoreLinData(session, FileOf("IMPS", {Record("", "")}));
+  WriteFile(LinDataPath(session), LinFileText(FileOf("IMPS", {Record("", "")})));
   EXPECT_EQ(data.Of(session).lin.size(), 1U);
   const int version = data.Version();
   EXPECT_EQ(data.Of(session).lin.size(), 1U);
   EXPECT_EQ(data.Version(), version) << "not read twice";
-  StoreLinData(session, FileOf("IMPS", {Record("", ""), Record("", "")}));
+  WriteFile(LinDataPath(session), LinFileText(FileOf("IMPS", {Record("", ""), Record("", "")})));
   EXPECT_EQ(data.Of(session).lin.size(), 2U);
   fs::resize_file(LinDataPath(session), kMaxLinFileBytes + 1);
   host.ExpectAskWith("The file is too large", Answer::Yes);

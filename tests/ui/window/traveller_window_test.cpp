@@ -29,7 +29,7 @@ class TravellerWindowTest : public WindowTest {
         Record("Jo,Lee,Ida,Kim", "mb|p|mb|p|mb|p|mb|p|", "qens|0||qenc|PASS|"),
         Record("Ned,Pat,Mia,Oz", "mb|1N|mb|p|mb|p|mb|p|", "qent|0||qens|-350||qenc|1N||qend|N|"),
     };
-    StoreLinData(session, file);
+    test::WriteFile(LinDataPath(session), LinFileText(file));
   }
   static std::string Record(const std::string& names, const std::string& played,
                             const std::string& tags) {

@@ -1,0 +1,64 @@
+#include "disk/leftovers.h"
+
+#include <atomic>
+#include <optional>
+#include <system_error>
+#include <vector>
+
+#include "core/text.h"
+#include "disk/native_file.h"
+
+namespace tricklet {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kOwn = ".tricklet-";
+constexpr std::string_view kFolder = ".tricklet-copy-";
+constexpr std::string_view kFileEnding = ".new";
+
+std::string NumberedName(std::string_view begin) {
+  static std::atomic<unsigned> next{0};
+  return std::string(begin) + std::to_string(ProcessId()) + "-" + std::to_string(next++);
+}
+
+/// The process that made what has this name; nothing when the name does not say.
+std::optional<int> MakerOf(std::string_view name) {
+  const bool folder = name.starts_with(kFolder);
+  if (!folder && !(name.starts_with(kOwn) && name.ends_with(kFileEnding))) return std::nullopt;
+  name.remove_prefix(folder ? kFolder.size() : kOwn.size());
+  const std::size_t dash = name.find('-');
+  if (dash == std::string_view::npos) return std::nullopt;
+  return NumberFromText(name.substr(0, dash));
+}
+
+}  // namespace
+
+std::string NewFileName() {
+  return NumberedName(kOwn) + std::string(kFileEnding);
+}
+
+std::string NewFolderName() {
+  return NumberedName(kFolder);
+}
+
+bool IsOwnName(std::string_view name) {
+  return name.starts_with(kOwn);
+}
+
+void SweepLeftovers(Host& host, const fs::path& folder) {
+  std::vector<fs::directory_entry> stale;
+  std::error_code failure;
+  fs::directory_iterator entry(folder, failure);
+  for (const fs::directory_iterator end; !failure && entry != end; entry.increment(failure)) {
+    const auto maker = MakerOf(PathText(entry->path().filename()));
+    if (maker && *maker > 0 && !ProcessRuns(*maker)) stale.push_back(*entry);
+  }
+  for (const fs::directory_entry& left : stale) {
+    const fs::file_status status = left.symlink_status(failure);
+    if (fs::is_regular_file(status)) fs::remove(left.path(), failure);
+    if (fs::is_directory(status)) host.Recycle(left.path());
+  }
+}
+
+}  // namespace tricklet

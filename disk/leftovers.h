@@ -1,0 +1,27 @@
+// Files and folders that the program makes on the way to what was asked for. Each bears the number
+// of its process, so that what a killed program has left is known from what one is working on.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "core/host.h"
+
+namespace tricklet {
+
+/// ".tricklet-PROCESS-N.new", a name for a file that is to be put in its place when complete.
+std::string NewFileName();
+
+/// ".tricklet-copy-PROCESS-N", a name for a folder of things on their way.
+std::string NewFolderName();
+
+/// The name is one that the program gives to what is not complete, or to its lock. No such thing is
+/// listed or copied.
+bool IsOwnName(std::string_view name);
+
+/// Removes incomplete files from the folder whose process is gone; a folder goes to the recycle
+/// bin, as it may hold files that were being replaced. What cannot be removed stays.
+void SweepLeftovers(Host& host, const std::filesystem::path& folder);
+
+}  // namespace tricklet

@@ -1,0 +1,67 @@
+#include "library/library_write.h"
+
+#include "core/fault.h"
+#include "core/text.h"
+#include "disk/leftovers.h"
+
+namespace tricklet {
+
+namespace fs = std::filesystem;
+
+std::optional<LibraryWrite> LibraryWrite::Wait(Session& session, std::chrono::milliseconds patience,
+                                               std::string& holder) {
+  const fs::path folder = session.LibraryPath();
+  WriteState& state = session.writing;
+  if (auto held = state.lock.lock(); held && state.folder == folder) return LibraryWrite(held);
+  std::shared_ptr<WriteLock> lock = WriteLock::Take(folder, patience, holder);
+  if (!lock) return std::nullopt;
+  if (state.folder != folder) SweepLeftovers(session.host, folder);
+  state.folder = folder;
+  state.lock = lock;
+  return LibraryWrite(std::move(lock));
+}
+
+std::optional<LibraryWrite> LibraryWrite::Begin(Session& session) {
+  std::string busy;
+  auto write = Begin(session, busy);
+  if (!write) session.host.Tell(busy);
+  return write;
+}
+
+std::optional<LibraryWrite> LibraryWrite::Begin(Session& session, std::string& busy) {
+  std::string holder;
+  auto write = Wait(session, WriteLock::kPatience, holder);
+  if (!write) busy = BusyText(session.LibraryName(), holder);
+  return write;
+}
+
+std::optional<LibraryWrite> LibraryWrite::BeginAtOnce(Session& session) {
+  std::string holder;
+  return Wait(session, std::chrono::milliseconds(0), holder);
+}
+
+LibraryWrite::~LibraryWrite() {
+  try {
+    Finish();
+  } catch (const Fault&) {
+    // Whoever wanted to know has called Finish.
+  }
+}
+
+void LibraryWrite::Replace(const fs::path& file, std::string_view data) {
+  ReplaceWholeFile(file, data, unflushed_);
+}
+
+std::string BusyText(const std::string& library, const std::string& holder) {
+  return "The library " + library + " is being changed by " + holder +
+         "\nPlease try again when it has finished";
+}
+
+bool RequireUnused(Host& host, const fs::path& folder) {
+  std::string holder;
+  if (WriteLock::Take(folder, WriteLock::kPatience, holder)) return true;
+  host.Tell(BusyText(PathText(folder.filename()), holder));
+  return false;
+}
+
+}  // namespace tricklet

@@ -1,0 +1,58 @@
+// Changes to the files of the current library: by one program at a time, and lasting.
+#pragma once
+
+#include <chrono>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "disk/file_io.h"
+#include "disk/write_lock.h"
+#include "library/session.h"
+
+namespace tricklet {
+
+/// Holds the current library's write lock, and knows which folders are still to be flushed. One may
+/// be begun while another of the same session lives.
+class LibraryWrite {
+ public:
+  /// Nothing, after a message, when another program is changing the library and does not finish
+  /// soon. Else what a killed program has left in it is swept away.
+  static std::optional<LibraryWrite> Begin(Session& session);
+  /// `Begin` for a caller that has its own way to tell: the message comes in `busy`.
+  static std::optional<LibraryWrite> Begin(Session& session, std::string& busy);
+  /// Begins unless another program is changing the library just now; says nothing.
+  static std::optional<LibraryWrite> BeginAtOnce(Session& session);
+
+  LibraryWrite(LibraryWrite&&) noexcept = default;
+  LibraryWrite& operator=(LibraryWrite&&) = delete;
+  LibraryWrite(const LibraryWrite&) = delete;
+  LibraryWrite& operator=(const LibraryWrite&) = delete;
+  /// Flushes what has not been; a failure of that is not told.
+  ~LibraryWrite();
+
+  void Replace(const std::filesystem::path& file, std::string_view data);
+  /// For what puts files into the library by itself.
+  UnflushedFolders& Unflushed() { return unflushed_; }
+  /// All that was written outlasts a power cut. To be called before anyone is told that it is done.
+  /// Throws `Fault`.
+  void Finish() { unflushed_.Flush(); }
+
+ private:
+  explicit LibraryWrite(std::shared_ptr<WriteLock> lock) : lock_(std::move(lock)) {}
+  static std::optional<LibraryWrite> Wait(Session& session, std::chrono::milliseconds patience,
+                                          std::string& holder);
+
+  std::shared_ptr<WriteLock> lock_;
+  UnflushedFolders unflushed_;
+};
+
+/// "The library NAME is being changed by PROGRAM": `holder` as `WriteLock::Take` gives it.
+std::string BusyText(const std::string& library, const std::string& holder);
+
+/// Nobody is changing the library of this folder; else tells who. For what moves the folder itself,
+/// which no lock inside it can outlast.
+bool RequireUnused(Host& host, const std::filesystem::path& folder);
+
+}  // namespace tricklet
