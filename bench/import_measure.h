@@ -27,7 +27,7 @@ inline void MeasureImportFloor(benchmark::State& state, const TemporaryRoot& roo
       state, [&] { folder = root.Emptied(kImportLibrary); },
       [&] {
         bytes += ReadByStream(file);
-        WriteByStream(folder, boardTexts);
+        WriteLasting(folder, boardTexts);
       });
   benchmark::DoNotOptimize(bytes);
 }

@@ -16,6 +16,7 @@
 #include "formats/exchange/import.h"
 #include "formats/pbn/pbn_writer.h"
 #include "library/board_file.h"
+#include "library/board_store.h"
 #include "library/library_choice.h"
 
 namespace tricklet::bench {
@@ -42,11 +43,12 @@ class Fixture : public TemporaryRoot {
     std::mt19937 random(1);
     std::string pbn = "% PBN 2.1\r\n";
     fs::create_directories(root / "Full");
+    UnflushedFolders unflushed;
     for (int number = 1; number <= kBoards; ++number) {
       const Board board = FullBoard(number, random);
       texts.push_back(WriteBoardText(board));
       pbn += PbnRecord(board, "Full", {}) + "\r\n";
-      ReplaceWholeFile(root / "Full" / BoardFileName(number), texts.back());
+      ReplaceWholeFile(root / "Full" / BoardFileName(number), texts.back(), unflushed);
     }
     ReplaceWholeFile(root / "boards.pbn", pbn);
   }
@@ -70,7 +72,7 @@ void WriteFilesFloor(benchmark::State& state) {
   fs::path folder;
   Measure(
       state, [&folder] { folder = Boards().Emptied("Empty"); },
-      [&folder] { WriteByStream(folder, Boards().texts); });
+      [&folder] { WriteLasting(folder, Boards().texts); });
 }
 
 void ImportBoards(benchmark::State& state) {
@@ -82,6 +84,43 @@ void ImportBoards(benchmark::State& state) {
       state, [] { Boards().Emptied("Empty"); },
       [&] { saved = ImportFile(session, Boards().root / "boards.pbn").boardsSaved; });
   if (saved != kBoards) state.SkipWithError("not all boards came in");
+}
+
+std::size_t ListFull() {
+  std::size_t found = 0;
+  for (const auto& entry : fs::directory_iterator(Boards().root / "Full")) {
+    found += entry.path().native().size();
+  }
+  return found;
+}
+
+/// One board written, and the library listed again.
+void SaveFloor(benchmark::State& state) {
+  fs::path folder;
+  std::size_t found = 0;
+  Measure(
+      state, [&folder] { folder = Boards().Emptied("Empty"); },
+      [&] {
+        WriteLasting(folder, {Boards().texts.front()});
+        found += ListFull();
+      });
+  benchmark::DoNotOptimize(found);
+}
+
+void SaveBoard(benchmark::State& state) {
+  QuietHost host;
+  MemoryStore store;
+  Session session = MakeSession(host, store, "Full");
+  bool saved = true;
+  Measure(
+      state,
+      [&session] {
+        session.board.boardNumber = kFirstBoardNumber;
+        LoadHand(session);
+        session.board.handChanged = true;
+      },
+      [&] { saved = saved && SaveHand(session); });
+  if (!saved) state.SkipWithError("the board was not saved");
 }
 
 void ReadFilesFloor(benchmark::State& state) {
@@ -117,9 +156,7 @@ void OpenFloor(benchmark::State& state) {
   Measure(
       state, [] {},
       [&found] {
-        for (const auto& entry : fs::directory_iterator(Boards().root / "Full")) {
-          found += entry.path().native().size();
-        }
+        found += ListFull();
         found += ReadWholeFile(Boards().root / "Full" / "001.txt", kMaxBoardFileBytes).size();
       });
   benchmark::DoNotOptimize(found);
@@ -137,6 +174,8 @@ void OpenLibrary(benchmark::State& state) {
 
 TRICKLET_BENCH(WriteFilesFloor);
 TRICKLET_BENCH(ImportBoards);
+TRICKLET_BENCH(SaveFloor);
+TRICKLET_BENCH(SaveBoard);
 TRICKLET_BENCH(ReadFilesFloor);
 TRICKLET_BENCH(ExportBoards);
 TRICKLET_BENCH(OpenFloor);

@@ -16,6 +16,7 @@ int main(int argc, char** argv) {
   if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 1;
   tricklet::bench::RatioReporter reporter({
       {"ImportBoards", "WriteFilesFloor", 1.5},
+      {"SaveBoard", "SaveFloor", 3.0},
       {"ExportBoards", "ReadFilesFloor", 3.0},
       {"OpenLibrary", "OpenFloor", 3.0},
       {"AnalyseBoards", "SolverAloneFloor", 1.05},

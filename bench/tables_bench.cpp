@@ -72,8 +72,10 @@ class Fixture : public TemporaryRoot {
 
   /// Puts the boards back as they were: without tables.
   void Restore() {
+    UnflushedFolders unflushed;
     for (int number = 1; number <= kBoards; ++number) {
-      ReplaceWholeFile(session.BoardPath(number), texts.at(static_cast<std::size_t>(number - 1)));
+      ReplaceWholeFile(session.BoardPath(number), texts.at(static_cast<std::size_t>(number - 1)),
+                       unflushed);
     }
   }
   /// How many boards have tables.

@@ -38,19 +38,9 @@ class TemporaryRoot {
   std::filesystem::path root;
 };
 
-/// Writes `texts` as boards 1, 2, ... beside and renames them: a peer that knows nothing of the
-/// program's own file calls.
-inline void WriteByStream(const std::filesystem::path& folder,
-                          const std::vector<std::string>& texts) {
-  int number = kFirstBoardNumber;
-  for (const std::string& text : texts) {
-    const std::filesystem::path path = folder / BoardFileName(number++);
-    std::filesystem::path beside = path;
-    beside += ".new";
-    std::ofstream(beside, std::ios::binary) << text;
-    std::filesystem::rename(beside, path);
-  }
-}
+/// Writes `texts` as boards 1, 2, ... beside, flushes and renames them, and flushes the folder
+/// once: a peer that knows nothing of the program's own file calls. Throws `std::runtime_error`.
+void WriteLasting(const std::filesystem::path& folder, const std::vector<std::string>& texts);
 
 /// Reads a file whole; the number of bytes.
 inline std::size_t ReadByStream(const std::filesystem::path& path) {
