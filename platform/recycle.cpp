@@ -1,15 +1,19 @@
 #include "platform/recycle.h"
 
-#include <QDir>
+#if defined(_WIN32) || defined(__APPLE__)
 #include <QFile>
-#include <QStandardPaths>
+#else
+#include "platform/trash.h"
+#endif
 
 namespace tricklet::platform {
 
 bool Recycle(const std::filesystem::path& path) {
-  // The bin lies in the folder for the user's data, which a new account may not have yet.
-  QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+#if defined(_WIN32) || defined(__APPLE__)
   return QFile(path).moveToTrash();
+#else
+  return MoveToTrash(path);
+#endif
 }
 
 }  // namespace tricklet::platform
