@@ -1,0 +1,85 @@
+"""What may be there after a command was disturbed: every file wholly old or wholly new, nothing of
+before missing, nothing strange beside it."""
+
+import os
+
+from stage import BIN
+
+
+EXPORTS = ("new.dlm", "new.lin", "old.pbn")
+
+
+def in_bin(path):
+    return path == "data" or path.startswith("data/Trash")
+
+
+def bin_faults(tree):
+    """Things in the bin that cannot be restored, and records of things that are not there."""
+    names = lambda folder, end: {
+        path[len(folder):-len(end) or None] for path in tree
+        if path.startswith(folder) and "/" not in path[len(folder):] and path.endswith(end)}
+    files = names(BIN + "/files/", "")
+    records = names(BIN + "/info/", ".trashinfo")
+    return ([f"{name} is in the bin without its record" for name in sorted(files - records)] +
+            [f"the bin has a record of {name}, which is not there" for name in
+             sorted(records - files)])
+
+
+def is_part(now, old, new):
+    """Results hold the records of the boards that were stored: any of the old and new lines."""
+    lines = {line for text in (old, new) if text for line in text.splitlines(True)}
+    return set(now.splitlines(True)) <= lines
+
+
+def is_old_or_new(path, now, old, new):
+    if now in (old, new):
+        return True
+    return os.path.basename(path) == "LIN.txt" and now is not None and is_part(now, old, new)
+
+
+def missing(before, clean, after):
+    """Files of before that are neither in their place nor in the bin nor meant to be gone."""
+    kept = [data for path, data in after.items() if in_bin(path) and data is not None]
+    for path, data in before.items():
+        if path in after or (data is None and path not in clean):
+            continue
+        moved = data is None or data in kept
+        if not moved:
+            yield f"{path} is missing"
+
+
+def strange(before, clean, after, said):
+    """Things of other names or contents. What is on its way has a name of its own, and can stay when
+    it cannot be removed just now; that of the settings is Qt's. An export says which boards it could
+    not read and left out."""
+    for path, data in after.items():
+        if ".tricklet-" in path or in_bin(path) or ".conf." in path:
+            continue
+        if "Can't read the file" in said and path.endswith(EXPORTS):
+            continue
+        if path not in before and path not in clean:
+            yield f"{path} is strange here"
+        elif data is not None and not is_old_or_new(path, data, before.get(path), clean.get(path)):
+            yield f"{path} is neither old nor new ({len(data)} bytes)"
+
+
+def differences(clean, after):
+    for path in sorted(clean.keys() | after.keys()):
+        if path not in after:
+            yield f"{path} is missing"
+        elif path not in clean and ".tricklet-" not in path and ".conf." not in path:
+            yield f"{path} is too many"
+        elif path in clean and clean[path] != after[path]:
+            yield f"{path} is not as in an undisturbed run"
+
+
+def judge(before, clean, after, outcome, killed=False):
+    """Everything that is wrong with the tree `after`."""
+    faults = list(missing(before, clean, after)) + list(strange(before, clean, after, outcome.said))
+    if not killed:
+        faults += bin_faults(after)
+        if outcome.wrong():
+            faults.append(outcome.wrong())
+        if outcome.code == 0:
+            faults += [f"exit 0, but {text}" for text in differences(clean, after)]
+    return faults
