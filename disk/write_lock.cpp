@@ -129,7 +129,10 @@ WriteLock::Attempt WriteLock::Try() {
   constexpr mode_t kMode = 0666;  // less the user's mask
   constexpr int kHowForeign = O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
   constexpr int kHow = O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
-  for (;;) {
+  // Each attempt that fails is another program's that has just finished; or the disk does not say
+  // what is there, which more attempts do not change.
+  constexpr int kAttempts = 100;
+  for (int attempt = 0; attempt < kAttempts; ++attempt) {
     int file = ::open(path_.c_str(), kHow, kMode);
     // Another user's, who has it now or was killed.
     if (file < 0 && errno == EACCES) file = ::open(path_.c_str(), kHowForeign);
@@ -146,6 +149,7 @@ WriteLock::Attempt WriteLock::Try() {
     }
     ::close(file);
   }
+  return Attempt::Busy;
 }
 
 void WriteLock::Sign() const {
