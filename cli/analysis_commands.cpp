@@ -49,7 +49,8 @@ ExitCode Analyse(const Context& context, const AnalyseArguments& arguments) {
       AnalyseBoards(session, session.getSolver(), first, last, arguments.again);
   session.host.Tell(AnalysisText(outcome));
   if (arguments.show) ShowTables(context, first, last);
-  const bool done = outcome.failure.empty() && !outcome.cancelled && outcome.readOnly.empty();
+  const bool done = outcome.failure.empty() && !outcome.cancelled && outcome.readOnly.empty() &&
+                    outcome.unreadable == 0;
   return done ? ExitCode::Done : ExitCode::Refused;
 }
 

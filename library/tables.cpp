@@ -129,6 +129,7 @@ class AnalysisRun {
       }
     } catch (const Fault&) {
       ++outcome_.incomplete;
+      ++outcome_.unreadable;
       return false;
     }
     if (board.makeableValid && !again) return false;
