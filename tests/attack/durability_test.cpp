@@ -146,7 +146,9 @@ INSTANTIATE_TEST_SUITE_P(
         Command{"LibraryCopy", "--library Sample library copy Copy", "root/Copy/001.txt"},
         Command{"LibraryExport", "--library Sample library export new/out", "new/out/Sample"},
         Command{"LibraryImport", "library import more", "root/more/001.txt"},
-        Command{"LibraryMove", "library move elsewhere", "elsewhere/Sample/001.txt"}),
+        Command{"LibraryMove", "library move elsewhere", "elsewhere/Sample/001.txt"},
+        Command{"LibraryDelete", "--library Other library delete Sample",
+                "data/Trash/files/Sample"}),
     [](const auto& each) { return each.param.name; });
 
 }  // namespace
