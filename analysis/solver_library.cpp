@@ -236,7 +236,7 @@ std::unique_ptr<Solver> LoadSolver(const fs::path& programFolder) {
         return solver;
       }
     }
-    why += "\n" + PathText(name) + (library.IsOpen() ? " (it is no solver)" : "");
+    why += "\n" + ShownPath(name) + (library.IsOpen() ? " (it is no solver)" : "");
   }
   return std::make_unique<MissingSolver>(why);
 }

@@ -47,7 +47,7 @@ ExitCode WriteSetting(const Context& context, const SettingEntry& entry, std::st
   }
   if (entry.key == "library" && !AcceptLibraryName(session.host, value)) return ExitCode::Refused;
   if (!SetFromText(session.settings, entry, value)) {
-    session.host.Tell(value + " is no value of " + ListedName(entry));
+    session.host.Tell(ShownName(value) + " is no value of " + ListedName(entry));
     return ExitCode::Refused;
   }
   SaveSetting(session.settings, entry, session.store);
@@ -69,7 +69,7 @@ ExitCode Libraries(const Context& context) {
   for (const std::string& name : FoldersOf(root)) {
     try {
       const int boards = ScanLibrary(root / PathFromText(name)).boardCount;
-      context.data << name << '\t' << boards << '\n';
+      context.data << ShownName(name) << '\t' << boards << '\n';
     } catch (const Fault& fault) {
       context.session.host.Tell(fault.Description());
       allListed = false;
@@ -100,7 +100,7 @@ ExitCode Boards(const Context& context, bool longForm) {
 ExitCode Show(const Context& context, int boardNumber) {
   const Session& session = context.session;
   if (!LoadBoard(context, boardNumber)) return ExitCode::Refused;
-  context.data << BoardText(session.board, session.LibraryName(), session.settings);
+  context.data << BoardText(session.board, session.ShownLibrary(), session.settings);
   return ExitCode::Done;
 }
 
@@ -130,7 +130,7 @@ ExitCode ExportBoards(const Context& context, const std::string& first, const st
     return ExitCode::Refused;
   }
   if (FileExists(file) &&
-      session.host.Ask(PathText(file) + " already exists\nDo you want to replace it?",
+      session.host.Ask(ShownPath(file) + " already exists\nDo you want to replace it?",
                        std::string(kProgramName), Buttons::YesNo) != Answer::Yes) {
     return ExitCode::Refused;
   }
@@ -142,17 +142,18 @@ ExitCode SettingsCommand(const Context& context, const std::string& key,
   const Session& session = context.session;
   if (key.empty()) {
     for (const SettingEntry& entry : SettingTable()) {
-      context.data << ListedName(entry) << '=' << SettingText(session.settings, entry) << '\n';
+      context.data << ListedName(entry) << '=' << ShownName(SettingText(session.settings, entry))
+                   << '\n';
     }
     return ExitCode::Done;
   }
   const SettingEntry* entry = FindSetting(key);
   if (entry == nullptr) {
-    session.host.Tell("There is no setting " + key);
+    session.host.Tell("There is no setting " + ShownName(key));
     return ExitCode::Refused;
   }
   if (value) return WriteSetting(context, *entry, *value);
-  context.data << SettingText(session.settings, *entry) << '\n';
+  context.data << ShownName(SettingText(session.settings, *entry)) << '\n';
   return ExitCode::Done;
 }
 

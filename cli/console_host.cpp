@@ -5,6 +5,7 @@
 #include <ostream>
 #include <string>
 
+#include "core/text.h"
 #include "platform/recycle.h"
 
 namespace tricklet::cli {
@@ -43,12 +44,12 @@ Answer FromOption(bool yes, Buttons buttons) {
 
 void ConsoleHost::Tell(const std::string& text, const std::string& /*title*/) {
   EndWork();
-  messages_ << text << '\n';
+  messages_ << ShowableLines(text) << '\n';
 }
 
 Answer ConsoleHost::Ask(const std::string& text, const std::string& /*title*/, Buttons buttons) {
   EndWork();
-  messages_ << text;
+  messages_ << ShowableLines(text);
   if (options_.answer) {
     messages_ << (*options_.answer ? " yes\n" : " no\n");
     return FromOption(*options_.answer, buttons);
@@ -89,7 +90,7 @@ bool ConsoleHost::Recycle(const std::filesystem::path& path) {
 }
 
 bool ConsoleHost::OpenUrl(const std::string& address) {
-  messages_ << address << '\n';
+  messages_ << ShowableLines(address) << '\n';
   return true;
 }
 
@@ -102,8 +103,8 @@ bool ConsoleHost::Step(const std::string& text, int done, int total) {
     barShown_ = true;
     const int filled = std::clamp(done * kBarWidth / total, 0, kBarWidth);
     messages_ << "\r[" << std::string(static_cast<std::size_t>(filled), '#')
-              << std::string(static_cast<std::size_t>(kBarWidth - filled), '.') << "] " << text
-              << "   " << std::flush;
+              << std::string(static_cast<std::size_t>(kBarWidth - filled), '.') << "] "
+              << ShowableLines(text) << "   " << std::flush;
   }
   return !interrupted_.load();
 }

@@ -46,7 +46,7 @@ bool LoadBoard(const Context& context, int boardNumber) {
   if (!OpenLibrary(context, false)) return false;
   if (!FileExists(session.BoardPath(boardNumber))) {
     session.host.Tell("There is no board " + std::to_string(boardNumber) + " in library " +
-                      session.LibraryName());
+                      session.ShownLibrary());
     return false;
   }
   session.board.boardNumber = boardNumber;

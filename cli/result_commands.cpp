@@ -69,7 +69,7 @@ ExitCode TravellerOf(const Context& context, int boardNumber) {
   const Traveller traveller = MakeTraveller(file, boardNumber);
   if (traveller.rows.empty()) {
     session.host.Tell(file.Empty()
-                          ? "The library " + session.LibraryName() + " has no results"
+                          ? "The library " + session.ShownLibrary() + " has no results"
                           : "There are no results of board " + std::to_string(boardNumber));
     return ExitCode::Refused;
   }

@@ -1,10 +1,13 @@
 #include "cli/run.h"
 
 #include <algorithm>
+#include <istream>
+#include <sstream>
 
 #include <CLI/CLI.hpp>
 
 #include "cli/command.h"
+#include "cli/shown_stream.h"
 #include "core/fault.h"
 #include "core/text.h"
 #include "core/version.h"
@@ -48,6 +51,16 @@ ConsoleOptions OptionsFrom(const Arguments& arguments, const Console& console) {
   return options;
 }
 
+/// The parser's own output, which repeats words of the command line.
+int Print(const CLI::App& app, const CLI::Error& error, const Console& console) {
+  std::ostringstream data;
+  std::ostringstream messages;
+  const int code = app.exit(error, data, messages);
+  console.data << ShowableLines(data.str());
+  console.messages << ShowableLines(messages.str());
+  return code;
+}
+
 /// Tells what is wrong with the arguments. An unknown word is reported before a missing command or
 /// file: most likely it is the missing one, misspelt.
 int Tell(const CLI::App& app, const CLI::ParseError& error, const Console& console) {
@@ -55,9 +68,9 @@ int Tell(const CLI::App& app, const CLI::ParseError& error, const Console& conso
   if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError) &&
       !unknown.empty()) {
     std::reverse(unknown.begin(), unknown.end());  // as the error takes them, the last word first
-    return app.exit(CLI::ExtrasError(unknown), console.data, console.messages);
+    return Print(app, CLI::ExtrasError(unknown), console);
   }
-  return app.exit(error, console.data, console.messages);
+  return Print(app, error, console);
 }
 
 int Execute(const Command& command, const Arguments& arguments, SettingsStore& store,
@@ -70,10 +83,12 @@ int Execute(const Command& command, const Arguments& arguments, SettingsStore& s
   if (!arguments.library.empty()) overlay.Name("library", arguments.library);
   ConsoleHost host(console.in, console.messages, OptionsFrom(arguments, console),
                    console.interrupted);
+  ShownLines lines(console.data);
+  std::ostream data(&lines);
   Session session(host, named ? static_cast<SettingsStore&>(overlay) : store);
   session.getSolver = console.solver;
   try {
-    const ExitCode code = command({session, console.data, !arguments.root.empty()}, host);
+    const ExitCode code = command({session, data, !arguments.root.empty()}, host);
     return static_cast<int>(host.Ended() || host.Failed() ? ExitCode::Refused : code);
   } catch (const std::exception& failure) {
     ErrorReport(host, FaultFrom(failure));
@@ -81,9 +96,14 @@ int Execute(const Command& command, const Arguments& arguments, SettingsStore& s
   }
 }
 
-}  // namespace
+/// All that was printed has arrived where it goes; else says so as far as that is possible.
+bool HasArrived(const Console& console) {
+  if (!console.data.flush()) console.messages << "The output could not be written\n";
+  return console.data.good() && console.messages.flush().good();
+}
 
-int Run(const std::vector<std::string>& arguments, SettingsStore& store, const Console& console) {
+int ParseAndExecute(const std::vector<std::string>& arguments, SettingsStore& store,
+                    const Console& console) {
   Arguments parsed;
   Command command;
   CLI::App app;
@@ -104,6 +124,14 @@ int Run(const std::vector<std::string>& arguments, SettingsStore& store, const C
     return static_cast<int>(asked ? ExitCode::Done : ExitCode::Usage);
   }
   return Execute(command, parsed, store, console);
+}
+
+}  // namespace
+
+int Run(const std::vector<std::string>& arguments, SettingsStore& store, const Console& console) {
+  const int code = ParseAndExecute(arguments, store, console);
+  const bool arrived = HasArrived(console);
+  return arrived || code != 0 ? code : static_cast<int>(ExitCode::Refused);
 }
 
 }  // namespace tricklet::cli

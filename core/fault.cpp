@@ -31,7 +31,7 @@ Fault::Fault(FaultNumber number, std::string description, std::source_location w
     : number_(number), description_(std::move(description)), line_(where.line()) {}
 
 Fault Fault::OfFile(std::error_code code, const std::string& path, std::source_location where) {
-  return {NumberOf(code), code.message() + ": " + path, where};
+  return {NumberOf(code), code.message() + ": " + ShownName(path), where};
 }
 
 void ErrorReport(Host& host, const Fault& fault) {

@@ -55,6 +55,29 @@ std::size_t AsciiLength(std::string_view bytes) {
   return length;
 }
 
+/// The character (well-formed UTF-8) is an order to whatever shows it; see `Showable`.
+bool IsOrder(std::string_view character) {
+  const auto at = [character](std::size_t i) { return static_cast<unsigned char>(character[i]); };
+  if (character.size() == 1) return at(0) < 0x20 || at(0) == 0x7F;
+  if (character.size() == 2) return at(0) == 0xC2 && at(1) < 0xA0;
+  if (character.size() != 3 || at(0) != 0xE2) return false;
+  return (at(1) == 0x80 && at(2) >= 0xA8 && at(2) <= 0xAE) ||
+         (at(1) == 0x81 && at(2) >= 0xA6 && at(2) <= 0xA9);
+}
+
+/// Valid UTF-8 with a blank for every order that is not one of `kept`.
+std::string WithoutOrders(std::string_view text, std::string_view kept) {
+  std::string shown;
+  shown.reserve(text.size());
+  while (!text.empty()) {
+    const std::string_view character = text.substr(0, SequenceLength(text));
+    const bool shows = !IsOrder(character) || kept.find(character) != std::string_view::npos;
+    shown += shows ? character : " ";
+    text.remove_prefix(character.size());
+  }
+  return shown;
+}
+
 }  // namespace
 
 std::string_view Trim(std::string_view text) {
@@ -222,11 +245,21 @@ std::string Showable(std::string_view bytes, std::size_t longest) {
     }
   }
   std::string text = IsValidUtf8(bytes) ? std::string(bytes) : Latin1ToUtf8(bytes);
-  for (char& c : text) {
-    if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) c = ' ';
-  }
+  text = WithoutOrders(text, "");
   if (cut) text += "...";
   return text;
+}
+
+std::string ShowableLines(std::string_view text) {
+  return WithoutOrders(MendUtf8(std::string(text)), "\n\t");
+}
+
+std::string ShownName(std::string_view name) {
+  return WithoutOrders(MendUtf8(std::string(name)), "");
+}
+
+std::string ShownPath(const std::filesystem::path& path) {
+  return ShownName(PathText(path));
 }
 
 std::string PathText(const std::filesystem::path& path) {

@@ -74,9 +74,18 @@ std::string Latin1ToUtf8(std::string_view bytes);
 /// Characters outside Latin-1 become "?".
 std::string Utf8ToLatin1(std::string_view text);
 
-/// Bytes of a foreign file made fit to be shown: UTF-8 kept, anything else taken as Latin-1,
-/// control characters as blanks, and cut with "..." beyond `longest` bytes.
+/// Bytes of a foreign file made fit to be shown on one line: UTF-8 kept, anything else taken as
+/// Latin-1, and cut with "..." beyond `longest` bytes. What a terminal or a list would obey instead
+/// of showing it becomes a blank: control characters (U+0000-001F, U+007F-009F), line separators
+/// (U+2028, U+2029) and characters that turn the direction of writing (U+202A-202E, U+2066-2069).
 std::string Showable(std::string_view bytes, std::size_t longest = 200);
+/// A whole text of several lines made fit to be shown: as `Showable`, but line ends and tabs stay,
+/// and only the bytes that are no UTF-8 are taken as Latin-1.
+std::string ShowableLines(std::string_view text);
+/// A name made fit to be shown in a line, however long it is.
+std::string ShownName(std::string_view name);
+/// `ShownName` of a path. To find the file again, use `PathText`.
+std::string ShownPath(const std::filesystem::path& path);
 
 std::string PathText(const std::filesystem::path& path);
 std::filesystem::path PathFromText(std::string_view text);

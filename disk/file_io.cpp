@@ -60,7 +60,7 @@ fs::path FolderOf(const fs::path& file) {
 std::string ReadWholeFile(const fs::path& path, std::size_t maxBytes) {
   NativeFile file = NativeFile::ToRead(path);
   if (file.Size() > maxBytes) {
-    throw Fault(FaultNumber::DeviceError, "The file is too large: " + PathText(path));
+    throw Fault(FaultNumber::DeviceError, "The file is too large: " + ShownPath(path));
   }
   std::string data(static_cast<std::size_t>(file.Size()), '\0');
   std::size_t have = 0;

@@ -122,7 +122,7 @@ void NativeFile::RequireRegular() {
   StatRecord record{};
   if (StatOf(file_, record) != 0) ThrowLast(path_);
   if (!IsRegular(record)) {
-    throw Fault(FaultNumber::PathFileAccess, "Not a file: " + PathText(path_));
+    throw Fault(FaultNumber::PathFileAccess, "Not a file: " + ShownPath(path_));
   }
   size_ = static_cast<std::uintmax_t>(record.st_size);
 }

@@ -21,7 +21,7 @@ bool MayOverwrite(Session& session, const Constraints& constraints) {
   for (int number = first; number <= last; ++number) {
     if (!FileExists(session.BoardPath(number))) continue;
     return session.host.Ask("You will overwrite existing boards in the library - " +
-                                session.LibraryName() + "\nDo you wish to do that?",
+                                session.ShownLibrary() + "\nDo you wish to do that?",
                             std::string(kProgramName), Buttons::YesNo) == Answer::Yes;
   }
   return true;

@@ -15,12 +15,12 @@ namespace {
 std::string OverwriteQuestion(const Session& session) {
   return "Do you wish to overwrite board " + std::to_string(session.board.boardNumber) +
          "\nwith board " + std::to_string(session.copyBoard) +
-         " from library: " + session.copyLibrary;
+         " from library: " + ShownName(session.copyLibrary);
 }
 
 std::string OverwriteTitle(const Session& session) {
-  return "Copy from Library " + session.copyLibrary + ": board " +
-         std::to_string(session.copyBoard) + "\nto Library " + session.LibraryName() + ": board " +
+  return "Copy from Library " + ShownName(session.copyLibrary) + ": board " +
+         std::to_string(session.copyBoard) + "\nto Library " + session.ShownLibrary() + ": board " +
          std::to_string(session.board.boardNumber);
 }
 
@@ -36,7 +36,7 @@ bool PasteHand(Session& session) {
   const auto source =
       session.FileLocation() / PathFromText(session.copyLibrary) / BoardFileName(session.copyBoard);
   if (!FileExists(source)) {
-    session.host.Tell("Library " + session.copyLibrary + ": hand " +
+    session.host.Tell("Library " + ShownName(session.copyLibrary) + ": hand " +
                       std::to_string(session.copyBoard) + " no longer exists");
     return false;
   }

@@ -32,7 +32,7 @@ bool IsKnownAbsent(const fs::path& path) {
 }
 
 void TellUnreadable(Session& session, const fs::path& path) {
-  session.host.Tell("Can't read the file " + PathText(path));
+  session.host.Tell("Can't read the file " + ShownPath(path));
 }
 
 /// The person agrees, and the file is not marked read-only.
@@ -74,7 +74,7 @@ void AddMissingTable(Session& session, const fs::path& path, Board& board) {
 }  // namespace
 
 std::string ReadOnlyText(const fs::path& path) {
-  return "The file\n" + PathText(path) + "\nis read only so the hand cannot be saved";
+  return "The file\n" + ShownPath(path) + "\nis read only so the hand cannot be saved";
 }
 
 bool SaveHand(Session& session, Buttons style) {

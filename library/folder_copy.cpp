@@ -105,13 +105,13 @@ fs::path FolderCopy::Staged(const Item& item) const {
 }
 
 bool FolderCopy::Step(const Item& item) {
-  return host_.Step("Copying library " + item.name, done_, total_);
+  return host_.Step("Copying library " + ShownName(item.name), done_, total_);
 }
 
 /// Lists what there is to copy, before anything is written.
 bool FolderCopy::List(Item& item) {
   if (!FolderExists(item.from)) {
-    throw Fault(FaultNumber::PathNotFound, "There is no folder " + PathText(item.from));
+    throw Fault(FaultNumber::PathNotFound, "There is no folder " + ShownPath(item.from));
   }
   if (!ListFolder(item, {}, 0)) return false;
   if (item.names == FileNames::OfBoards) NameAsBoards(item.files);
@@ -134,9 +134,9 @@ void FolderCopy::NameAsBoards(std::vector<File>& files) {
 bool FolderCopy::ListFolder(Item& item, const fs::path& relative, int depth) {
   if (depth > kDeepestFolder) {
     throw Fault(FaultNumber::PathFileAccess,
-                "There are too many folders in each other: " + PathText(item.from / relative));
+                "There are too many folders in each other: " + ShownPath(item.from / relative));
   }
-  if (!host_.Step("Copying library " + item.name, 0, 0)) return false;
+  if (!host_.Step("Copying library " + ShownName(item.name), 0, 0)) return false;
   item.folders.push_back(relative);
   std::vector<fs::path> inner;
   ForEachEntry(item.from / relative,
@@ -173,22 +173,22 @@ void FolderCopy::CheckTarget(Item& item) const {
   item.exists = FolderExists(target);
   if (!item.exists) {
     if (!IsTaken(target)) return;
-    throw Fault(FaultNumber::PathFileAccess, "Not a folder: " + PathText(target));
+    throw Fault(FaultNumber::PathFileAccess, "Not a folder: " + ShownPath(target));
   }
   for (const fs::path& folder : item.folders) {
     const fs::path to = target / folder;
     if (folder.empty() || !IsTaken(to)) continue;
     if (fs::is_directory(fs::symlink_status(to))) continue;
-    throw Fault(FaultNumber::PathFileAccess, "Not a folder: " + PathText(to));
+    throw Fault(FaultNumber::PathFileAccess, "Not a folder: " + ShownPath(to));
   }
   for (const File& file : item.files) {
     const fs::path to = target / file.to;
     if (!IsTaken(to)) continue;
     if (!fs::is_regular_file(fs::symlink_status(to))) {
-      throw Fault(FaultNumber::PathFileAccess, "Not a file: " + PathText(to));
+      throw Fault(FaultNumber::PathFileAccess, "Not a file: " + ShownPath(to));
     }
     if (IsReadOnly(to)) {
-      throw Fault(FaultNumber::PermissionDenied, "The file is read only: " + PathText(to));
+      throw Fault(FaultNumber::PermissionDenied, "The file is read only: " + ShownPath(to));
     }
   }
 }
@@ -318,7 +318,7 @@ void FolderCopy::Undo() {
     fs::remove(staging_ / kReplaced, ignored);  // only when it is empty
     fs::remove(staging_, ignored);              // likewise
     if (fs::exists(staging_, ignored) && !host_.Recycle(staging_)) {
-      host_.Tell("Unable to send the incomplete copy to the recycle bin:\n" + PathText(staging_));
+      host_.Tell("Unable to send the incomplete copy to the recycle bin:\n" + ShownPath(staging_));
     }
   }
   for (; !madeAbove_.empty(); madeAbove_.pop_back()) {

@@ -12,13 +12,13 @@ namespace fs = std::filesystem;
 
 bool RequireFolder(Session& session, const fs::path& folder) {
   if (FolderExists(folder)) return true;
-  session.host.Tell("There is no folder " + PathText(folder));
+  session.host.Tell("There is no folder " + ShownPath(folder));
   return false;
 }
 
 bool AcceptLibraryRoot(Host& host, const fs::path& folder) {
   if (!IsDriveRoot(folder)) return true;
-  host.Tell("Please choose a folder, not " + PathText(folder));
+  host.Tell("Please choose a folder, not " + ShownPath(folder));
   return false;
 }
 
@@ -36,7 +36,8 @@ bool MakeFolder(Session& session, const fs::path& path) {
 }
 
 void TellNoLibrary(Session& session, const std::string& name) {
-  session.host.Tell("There is no library " + name + " in " + session.settings.filelocation);
+  session.host.Tell("There is no library " + ShownName(name) + " in " +
+                    ShownName(session.settings.filelocation));
 }
 
 bool RequireLibraryFolder(Session& session) {

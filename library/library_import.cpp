@@ -68,13 +68,13 @@ std::string Libraries(std::size_t count, const char* kind = "") {
 std::string NothingText(const Groups& groups, const fs::path& folder) {
   const bool some = groups.sameName + groups.withoutBoards > 0;
   return std::string("There are no") + (some ? " other" : "") + " libraries in the folder\n" +
-         PathText(folder);
+         ShownPath(folder);
 }
 
 std::string QuestionText(const Groups& groups, const fs::path& folder) {
-  const std::string from = " will be copied from\n" + PathText(folder);
+  const std::string from = " will be copied from\n" + ShownPath(folder);
   if (groups.sameName == 0) return Libraries(groups.toCopy.size()) + from;
-  return std::to_string(groups.sameName) + " of the libraries in\n" + PathText(folder) +
+  return std::to_string(groups.sameName) + " of the libraries in\n" + ShownPath(folder) +
          (groups.sameName == 1 ? "\nhas the same name as one of your existing libraries"
                                : "\nhave the same name as your existing libraries") +
          "\nand so will not be copied\n\n" + Libraries(groups.toCopy.size(), " other") + from;
@@ -96,17 +96,17 @@ std::string ReportText(const Groups& groups) {
 bool AcceptImport(Session& session, const fs::path& folder) {
   const std::string name = PathText(folder.filename());
   if (IsDriveRoot(folder)) {
-    session.host.Tell("Please choose a sub-folder, not " + PathText(folder));
+    session.host.Tell("Please choose a sub-folder, not " + ShownPath(folder));
     return false;
   }
   if (!AcceptLibraryName(session.host, name)) return false;
   if (IsTakenInRoot(session, name)) {
-    session.host.Tell("You already have a library - " + name +
+    session.host.Tell("You already have a library - " + ShownName(name) +
                       "\nPlease delete it before importing a library of the same name");
     return false;
   }
   if (!HasBoards(folder)) {
-    session.host.Tell("There are no boards in the library " + name);
+    session.host.Tell("There are no boards in the library " + ShownName(name));
     return false;
   }
   return true;

@@ -99,7 +99,7 @@ bool AcceptNewName(Session& session, std::string_view name) {
     return false;
   }
   if (!IsTakenInRoot(session, name)) return true;
-  session.host.Tell(std::string(name) + " already exists\nPlease choose a different name");
+  session.host.Tell(ShownName(name) + " already exists\nPlease choose a different name");
   return false;
 }
 

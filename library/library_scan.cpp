@@ -37,7 +37,7 @@ void FindFiles(Session& session) {
 }
 
 std::string LibraryCaption(const Session& session) {
-  return "Library - " + session.LibraryName();
+  return "Library - " + session.ShownLibrary();
 }
 
 std::string LibraryCountText(const Session& session) {

@@ -31,7 +31,7 @@ bool SameFolder(const fs::path& a, const fs::path& b) {
 /// The folder can become the root: it is neither a drive nor the root already. Else says so.
 bool AcceptRoot(Session& session, const fs::path& folder) {
   if (IsDriveRoot(folder)) {
-    session.host.Tell("Please choose a sub-folder, not " + PathText(folder));
+    session.host.Tell("Please choose a sub-folder, not " + ShownPath(folder));
     return false;
   }
   if (SameFolder(folder, FolderNamed(session.FileLocation()))) {
@@ -51,7 +51,8 @@ std::optional<fs::path> BrowseRoot(Session& session) {
 
 Answer AskToCopyAll(Session& session, const fs::path& folder) {
   return session.host.Ask("Do you want to copy all your libraries from\n" +
-                              session.settings.filelocation + "\nto " + PathText(folder),
+                              ShownName(session.settings.filelocation) + "\nto " +
+                              ShownPath(folder),
                           std::string(kProgramName), Buttons::YesNo);
 }
 
@@ -70,8 +71,8 @@ bool MayOverwrite(Session& session, const std::vector<std::string>& names, const
 bool CopyAll(Session& session, const std::vector<std::string>& names, const fs::path& folder) {
   const fs::path root = FolderNamed(session.FileLocation());
   if (FolderLiesIn(folder, root)) {
-    session.host.Tell("A folder cannot be copied into itself:\n" + PathText(root) + "\nto " +
-                      PathText(folder));
+    session.host.Tell("A folder cannot be copied into itself:\n" + ShownPath(root) + "\nto " +
+                      ShownPath(folder));
     return false;
   }
   return MayOverwrite(session, names, folder) && CopyLibraries(session, root, names, folder, {});
@@ -121,7 +122,7 @@ bool Move(Session& session, const fs::path& folder) {
 
 bool ExportLibrary(Session& session) {
   if (!AskToChoose(session, "Please choose the location\nto copy your library (" +
-                                session.LibraryName() + ") to")) {
+                                session.ShownLibrary() + ") to")) {
     return false;
   }
   const auto chosen = BrowseFolder(session, "Choose the library location");
@@ -159,7 +160,7 @@ bool ExportLibrariesTo(Session& session, const fs::path& folder) {
 
 bool MoveLibraries(Session& session) {
   if (!AskToChoose(session, "Your library of hands is currently stored in the folder:\n" +
-                                session.settings.filelocation +
+                                ShownName(session.settings.filelocation) +
                                 "\nPlease choose a different folder (new or existing)")) {
     return false;
   }
@@ -186,7 +187,7 @@ bool CopyLibrary(Session& session, std::string_view name) {
 std::vector<std::string> RequireLibraries(Session& session) {
   std::vector<std::string> names = FoldersOf(session.FileLocation());
   if (names.empty()) {
-    session.host.Tell("There are no libraries in " + session.settings.filelocation);
+    session.host.Tell("There are no libraries in " + ShownName(session.settings.filelocation));
   }
   return names;
 }
@@ -202,7 +203,7 @@ bool DeleteLibrary(Session& session, std::string_view name) {
   const bool listed = std::find(names.begin(), names.end(), name) != names.end();
   if (listed && !RequireUnused(session.host, folder)) return false;
   if (!listed || !session.host.Recycle(folder)) {
-    session.host.Tell("Unable to delete the library " + std::string(name));
+    session.host.Tell("Unable to delete the library " + ShownName(name));
     return false;
   }
   FlushFolder(session.FileLocation());

@@ -53,14 +53,14 @@ void LibraryWrite::Replace(const fs::path& file, std::string_view data) {
 }
 
 std::string BusyText(const std::string& library, const std::string& holder) {
-  return "The library " + library + " is being changed by " + holder +
+  return "The library " + ShownName(library) + " is being changed by " + holder +
          "\nPlease try again when it has finished";
 }
 
 bool RequireUnused(Host& host, const fs::path& folder) {
   std::string holder;
   if (WriteLock::Take(folder, WriteLock::kPatience, holder)) return true;
-  host.Tell(BusyText(PathText(folder.filename()), holder));
+  host.Tell(BusyText(ShownPath(folder.filename()), holder));
   return false;
 }
 

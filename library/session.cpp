@@ -7,6 +7,10 @@ namespace tricklet {
 
 namespace fs = std::filesystem;
 
+std::string Session::ShownLibrary() const {
+  return ShownName(settings.library);
+}
+
 fs::path Session::FileLocation() const {
   return PathFromText(settings.filelocation);
 }

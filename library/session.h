@@ -65,6 +65,8 @@ struct Session {
   bool batchRunning = false;
 
   const std::string& LibraryName() const { return settings.library; }
+  /// Its name in texts for the person.
+  std::string ShownLibrary() const;
   /// The root of all libraries.
   std::filesystem::path FileLocation() const;
   /// The current library's folder.

@@ -24,8 +24,8 @@ struct Pair {
 bool MayCopy(Session& session, const Pair& pair) {
   const fs::path to = pair.into / PathFromText(pair.name);
   if (!FoldersOverlap(pair.from, to)) return true;
-  session.host.Tell("A folder cannot be copied into itself:\n" + PathText(pair.from) + "\nto " +
-                    PathText(to));
+  session.host.Tell("A folder cannot be copied into itself:\n" + ShownPath(pair.from) + "\nto " +
+                    ShownPath(to));
   return false;
 }
 

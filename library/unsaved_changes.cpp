@@ -8,7 +8,7 @@ Answer CheckSaveChanges(Session& session) {
   if (session.batchRunning || !session.board.handChanged) return Answer::OK;
   const std::string question = "Do you want to save changes to board " +
                                std::to_string(session.board.boardNumber) + " in library " +
-                               session.LibraryName() + "?";
+                               session.ShownLibrary() + "?";
   switch (session.host.Ask(question, "Save changes?", Buttons::YesNoCancel)) {
     case Answer::Yes:
       // A board that could not be saved stays, with its changes.

@@ -5,6 +5,7 @@
 #include <shellapi.h>
 #include <windows.h>
 #else
+#include <fcntl.h>
 #include <unistd.h>
 #endif
 
@@ -41,7 +42,22 @@ bool IsTerminal() {
 
 #else
 
+namespace {
+
+/// A stream that was closed before the start must not become the number of a file that is opened
+/// later, or messages would go into that file. Opened the wrong way round, it still fails when
+/// used.
+void OccupyClosedStreams() {
+  for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+    if (::fcntl(stream, F_GETFD) != -1) continue;
+    static_cast<void>(::open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY));
+  }
+}
+
+}  // namespace
+
 std::vector<std::string> PrepareConsole(int argc, char** argv) {
+  OccupyClosedStreams();
   return {argv + (argc > 0 ? 1 : 0), argv + argc};
 }
 

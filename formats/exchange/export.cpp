@@ -120,7 +120,7 @@ bool ReportRun(Session& session, const ExportRange& range, const ExportRun& run,
     session.host.Tell("Export cancelled");
     return false;
   }
-  if (run.incomplete.empty()) session.host.Tell("File " + PathText(path) + " created");
+  if (run.incomplete.empty()) session.host.Tell("File " + ShownPath(path) + " created");
   const bool beyond = range.last > run.lastWritable;
   if (beyond) session.host.Tell(BeyondText(range, run));
   return run.incomplete.empty() && !beyond;

@@ -38,7 +38,7 @@ const Importable& LinRecords() {
 bool MayOverwriteLibrary(Session& session) {
   CountHands(session);
   if (session.library.boardCount == 0) return true;
-  return session.host.Ask("Overwrite existing hands in library " + session.LibraryName() + "?",
+  return session.host.Ask("Overwrite existing hands in library " + session.ShownLibrary() + "?",
                           "Hands already in library", Buttons::YesNo) == Answer::Yes;
 }
 

@@ -74,7 +74,7 @@ void TellResult(Session& session, const LibrarySink& sink, const ReadResult& res
   for (const std::string& message : result.messages) host.Tell(message);
   if (result.badLine) host.Tell("Can't read this line:\n" + Showable(*result.badLine));
   TellIfAny(host, result.badLineReason);
-  host.Tell(SavedText(result, session.LibraryName()));
+  host.Tell(SavedText(result, session.ShownLibrary()));
   TellIfAny(host, StoredText(result, sink.Stored()));
   TellIfAny(host, LeftOutText(result.leftOut));
   if (sink.ResultsStayed()) host.Tell(kResultsNotRecycled);
@@ -121,7 +121,7 @@ ImportOutcome StoreText(Session& session, RecordSource source, const std::string
 }
 
 ImportOutcome StoreFile(Session& session, const fs::path& path, const RecordReader& reader) {
-  const std::string unreadable = "Cannot read the file " + PathText(path);
+  const std::string unreadable = "Cannot read the file " + ShownPath(path);
   RecordSource source{path, {}};
   try {
     source.bytes = ReadWholeFile(path, kMaxHandRecordBytes);

@@ -30,7 +30,7 @@ std::optional<UsebioResults> ReadResults(RecordSource& source, Reading& reading)
   }
   XmlText xml = DecodeXml(std::move(source.bytes));
   if (!CheckXMLfile(xml.text)) {
-    messages.push_back("This xml file has no LIN data:\n\n" + PathText(source.path));
+    messages.push_back("This xml file has no LIN data:\n\n" + ShownPath(source.path));
     return std::nullopt;
   }
   if (RewriteDocumentType(xml.text)) reading.extended = EncodeXml(xml);

@@ -131,7 +131,7 @@ class LinFileParser {
 std::string BoundedText(const LinFile& data, const fs::path& path) {
   std::string text = LinFileText(data);
   if (text.size() <= kMaxLinFileBytes) return text;
-  throw Fault(FaultNumber::DeviceError, "The file would be too large: " + PathText(path));
+  throw Fault(FaultNumber::DeviceError, "The file would be too large: " + ShownPath(path));
 }
 
 }  // namespace

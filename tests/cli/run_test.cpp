@@ -27,6 +27,25 @@ TEST_F(CommandLine, CarriesBoardsThroughTheTypes) {
   EXPECT_EQ(Run("--library B import @out.lin"), 1) << "not of this command";
 }
 
+TEST_F(CommandLine, ShowsNothingThatATerminalObeys) {
+  std::filesystem::create_directories(Root() / "a\x1b]0;b\nc\u202ed");
+  EXPECT_EQ(Answer("libraries"), "0 a ]0;b c d\t0\n");
+  EXPECT_EQ(Answer("--library a\x1b\u009b show 7"),
+            "1 There is no library a   in " + store.Read("macro", "filelocation").value() + "\n");
+  EXPECT_EQ(Run("\x1bshow 7"), 2);
+  EXPECT_EQ(err.find('\x1b'), std::string::npos);
+}
+
+TEST_F(CommandLine, IsNotDoneWhenItsOutputIsLost) {
+  for (const char* command : {"settings", "libraries", "--help"}) {
+    std::istringstream in;
+    std::ostream lost(nullptr);
+    std::ostringstream kept;
+    EXPECT_EQ(cli::Run({command}, store, {in, lost, kept, false, interrupted, {}}), 1) << command;
+    EXPECT_EQ(kept.str(), "The output could not be written\n") << command;
+  }
+}
+
 TEST_F(CommandLine, ShowsTheTravellerOfABoard) {
   ASSERT_EQ(Run("import @in.pbn"), 0);
   EXPECT_EQ(Answer("traveller 7"), "1 The library Default has no results\n");

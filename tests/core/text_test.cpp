@@ -28,8 +28,10 @@ TEST(Text, ShowableMakesForeignBytesFit) {
   EXPECT_EQ(Showable("caf\xe9"), "caf\u00e9");
   EXPECT_EQ(Showable(std::string_view("a\0b\tc", 5)), "a b c");
   EXPECT_EQ(Showable("ab\xc3\xa9", 3), "ab...");  // never half a character
-  EXPECT_FALSE(IsValidUtf8("\xed\xa0\x80"));      // a surrogate
-  EXPECT_FALSE(IsValidUtf8("\xc0\xaf"));          // an overlong form
+  EXPECT_EQ(Showable("a\x1b[m\n\xc2\x9b\u00a0\u202eb\u2066\u2028\u202f"), "a [m  \u00a0 b  \u202f");
+  EXPECT_EQ(ShowableLines("a\tb\nc\r\x9b\u2069\u00e9"), "a\tb\nc   \u00e9");
+  EXPECT_FALSE(IsValidUtf8("\xed\xa0\x80"));  // a surrogate
+  EXPECT_FALSE(IsValidUtf8("\xc0\xaf"));      // an overlong form
   EXPECT_EQ(Utf8ToLatin1("caf\u00e9 \u00ff\u0100\u2660"), "caf\xe9 \xff??");
 }
 

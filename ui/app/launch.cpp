@@ -106,7 +106,7 @@ class SilentHost : public QtHost {
  public:
   using Host::Tell;
   void Tell(const std::string& text, const std::string& /*title*/) override {
-    std::fprintf(stderr, "%s\n", text.c_str());
+    std::fprintf(stderr, "%s\n", ShowableLines(text).c_str());
   }
   Answer Ask(const std::string& text, const std::string& title, Buttons /*buttons*/) override {
     Tell(text, title);

@@ -31,8 +31,8 @@ int ShowText(int count, char** values) {
   const std::string text =
       options.version ? std::string(tricklet::kProgramName) + " " + tricklet::VersionText() + "\n"
                       : tricklet::ui::FromQt(tricklet::ui::HelpText());
-  std::fputs(text.c_str(), stdout);
-  return 0;
+  const bool printed = std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0;
+  return printed ? 0 : 1;
 }
 
 }  // namespace
@@ -47,7 +47,8 @@ int main(int argc, char** argv) {
   tricklet::ui::Application application(argc, argv);
   const LaunchOptions options = tricklet::ui::ParseLaunch(QCoreApplication::arguments());
   if (!options.error.isEmpty()) {
-    std::fprintf(stderr, "%s\n", tricklet::ui::FromQt(options.error).c_str());
+    std::fprintf(stderr, "%s\n",
+                 tricklet::ShowableLines(tricklet::ui::FromQt(options.error)).c_str());
     return 2;
   }
   const auto store = tricklet::platform::MakeSettingsStore();

@@ -29,8 +29,8 @@ QString NameFilter(const FileChoice& choice) {
 /// Texts can hold names and bytes of foreign files: nothing in them is markup.
 void Prepare(QMessageBox& box, const std::string& text, const std::string& title) {
   box.setTextFormat(Qt::PlainText);
-  box.setText(ToQt(text));
-  box.setWindowTitle(ToQt(title));
+  box.setText(ToQt(ShowableLines(text)));
+  box.setWindowTitle(ToQt(ShowableLines(title)));
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 namespace tricklet::ui {
 
 frmCopyLib::frmCopyLib(Session& session, QWidget* parent)
-    : LibraryNameDialog(session, tr("Copy library %1").arg(ToQt(session.LibraryName())),
+    : LibraryNameDialog(session, tr("Copy library %1").arg(ToQt(session.ShownLibrary())),
                         tr("Name of the copy"), QString(), parent) {
   setObjectName(QStringLiteral("frmCopyLib"));
   setWindowTitle(tr("Copy library"));

@@ -20,7 +20,7 @@ frmDeleteLib::frmDeleteLib(Session& session, const std::vector<std::string>& nam
   cmbLibs->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   cmbLibs->setMinimumContentsLength(36);
   cmbLibs->setMaxVisibleItems(20);
-  for (const std::string& name : names) cmbLibs->addItem(ToQt(name));
+  for (const std::string& name : names) cmbLibs->addItem(ToQt(ShownName(name)), ToQt(name));
   cmbLibs->setPlaceholderText(tr("Choose a library"));
   cmbLibs->setCurrentIndex(-1);
   auto* caption = new QLabel(tr("&Library to delete"), this);
@@ -54,7 +54,7 @@ void frmDeleteLib::ShowChoice() {
 }
 
 void frmDeleteLib::Delete() {
-  if (DeleteLibrary(session_, FromQt(cmbLibs->currentText()))) accept();
+  if (DeleteLibrary(session_, FromQt(cmbLibs->currentData().toString()))) accept();
 }
 
 }  // namespace tricklet::ui

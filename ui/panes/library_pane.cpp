@@ -186,7 +186,7 @@ void LibraryPane::OfferNext(bool offer) {
 
 void LibraryPane::ShowNames(const Session& session) {
   QStringList names;
-  for (const std::string& name : session.libraryNames) names += ToQt(name);
+  for (const std::string& name : session.libraryNames) names += ToQt(ShownName(name));
   QStringList listed;
   for (int i = 0; i < cmbLibs->count(); ++i) listed += cmbLibs->itemText(i);
   const QSignalBlocker quiet(cmbLibs);
@@ -195,9 +195,9 @@ void LibraryPane::ShowNames(const Session& session) {
     cmbLibs->addItems(names);
   }
   cmbLibs->setCurrentIndex(session.libIndex);
-  cmbLibs->setEditText(ToQt(session.LibraryName()));
+  cmbLibs->setEditText(ToQt(session.ShownLibrary()));
   cmbLibs->lineEdit()->setCursorPosition(0);  // shows the beginning of a long name
-  cmbLibs->setToolTip(ToQt(session.LibraryName()));
+  cmbLibs->setToolTip(ToQt(session.ShownLibrary()));
   NameTyped(cmbLibs->currentText());
 }
 
@@ -217,7 +217,8 @@ void LibraryPane::TakeName() {
 }
 
 void LibraryPane::NameTyped(const QString& text) {
-  cmdChange->setEnabled(IsNewLibraryName(session_, FromQt(text)));
+  const std::string name = FromQt(text);
+  cmdChange->setEnabled(name != session_.ShownLibrary() && IsNewLibraryName(session_, name));
 }
 
 }  // namespace tricklet::ui

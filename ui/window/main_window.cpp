@@ -194,7 +194,7 @@ void MainWindow::Display() {
 void MainWindow::ShowTitle() {
   const Board& board = session_.board;
   setWindowTitle(tr("%1 - Board %2[*] - Tricklet")
-                     .arg(ToQt(session_.LibraryName()), QString::number(board.boardNumber)));
+                     .arg(ToQt(session_.ShownLibrary()), QString::number(board.boardNumber)));
   setWindowModified(board.handChanged);
 }
 

@@ -29,7 +29,7 @@ TEST_F(DialogsTest, LeavingAQuestionIsNoAnswerAndTextsAreNoMarkup) {
       auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
       ASSERT_NE(box, nullptr);
       EXPECT_EQ(box->textFormat(), Qt::PlainText);
-      EXPECT_EQ(box->text(), QStringLiteral("<b>Club\uFFFD"));
+      EXPECT_EQ(box->text(), QStringLiteral("<b>Club\u00FF"));
       const bool cancels = buttons == Buttons::YesNoCancel || buttons == Buttons::OKCancel;
       EXPECT_EQ(box->button(QMessageBox::Cancel)->isVisible(), cancels);
       if (pressed == Qt::Key_Close) {
