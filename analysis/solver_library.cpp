@@ -14,8 +14,11 @@
 
 #include "analysis/dds_types.h"
 #include "analysis/deal_text.h"
+#include "analysis/library_file.h"
 #include "analysis/shared_library.h"
+#include "core/fault.h"
 #include "core/text.h"
+#include "disk/presence.h"
 
 namespace tricklet {
 namespace {
@@ -206,39 +209,72 @@ void EndBeforeLibraryCleansUp() {
 #endif
 }
 
-std::vector<fs::path> NamesToTry(const fs::path& programFolder) {
+constexpr const char* kNoSolver = "it is no solver";
+
+/// The solver in a library, by its name or absolute path; null, with the reason in `why`, when
+/// there is none.
+std::unique_ptr<Solver> OpenLibrary(const fs::path& name, std::string& why) {
+  const SharedLibrary library(name);
+  why = library.Why();
+  if (!library.IsOpen()) return nullptr;
+  auto solver = std::make_unique<LibrarySolver>(library);
+  if (!solver->IsSolver()) {
+    why = kNoSolver;
+    return nullptr;
+  }
+  EndBeforeLibraryCleansUp();
+  return solver;
+}
+
+std::unique_ptr<Solver> OpenLibraryFile(const fs::path& path, std::string& why) {
+  why = LibraryFileFlaw(path);
+  return why.empty() ? OpenLibrary(path, why) : nullptr;
+}
+
+/// Whoever names a library wants that one, so no other takes its place.
+std::unique_ptr<Solver> LoadNamed(const fs::path& file) {
+  std::string why;
+  if (auto solver = OpenLibraryFile(fs::absolute(file), why)) return solver;
+  return std::make_unique<MissingSolver>("TRICKLET_SOLVER names " + ShownPath(file) +
+                                         ", which cannot be used:\n" + why);
+}
+
+/// There is something of this path, or it cannot be seen whether there is.
+bool MayExist(const fs::path& path) {
+  try {
+    return IsTaken(path);
+  } catch (const Fault&) {
+    return true;
+  }
+}
+
+std::unique_ptr<Solver> FindSolver(const fs::path& programFolder) {
 #ifdef _WIN32
   const std::vector<fs::path> names{"dds.dll"};
 #else
   const std::vector<fs::path> names{"libdds.so.0", "libdds.so"};
 #endif
-  std::vector<fs::path> tries;
-  if (const char* named = std::getenv("TRICKLET_SOLVER"); named != nullptr && *named != '\0') {
-    tries.emplace_back(named);
+  std::string tried = "The double-dummy solver was not found. Tried:";
+  std::string why;
+  for (const fs::path& name : names) {
+    if (programFolder.empty()) break;
+    const fs::path path = programFolder / name;
+    const bool mayExist = MayExist(path);
+    if (auto solver = mayExist ? OpenLibraryFile(fs::absolute(path), why) : nullptr) return solver;
+    tried += "\n" + ShownPath(path) + (mayExist ? " (" + why + ")" : "");
   }
   for (const fs::path& name : names) {
-    if (!programFolder.empty()) tries.push_back(programFolder / name);
+    if (auto solver = OpenLibrary(name, why)) return solver;
+    tried += "\n" + ShownPath(name) + (why == kNoSolver ? " (" + why + ")" : "");
   }
-  tries.insert(tries.end(), names.begin(), names.end());
-  return tries;
+  return std::make_unique<MissingSolver>(tried);
 }
 
 }  // namespace
 
 std::unique_ptr<Solver> LoadSolver(const fs::path& programFolder) {
-  std::string why = "The double-dummy solver was not found. Tried:";
-  for (const fs::path& name : NamesToTry(programFolder)) {
-    const SharedLibrary library(name);
-    if (library.IsOpen()) {
-      auto solver = std::make_unique<LibrarySolver>(library);
-      if (solver->IsSolver()) {
-        EndBeforeLibraryCleansUp();
-        return solver;
-      }
-    }
-    why += "\n" + ShownPath(name) + (library.IsOpen() ? " (it is no solver)" : "");
-  }
-  return std::make_unique<MissingSolver>(why);
+  const char* named = std::getenv("TRICKLET_SOLVER");
+  return named != nullptr && *named != '\0' ? LoadNamed(named) : FindSolver(programFolder);
 }
 
 std::function<Solver&()> SolverOnDemand(const fs::path& programFolder) {

@@ -9,9 +9,10 @@
 
 namespace tricklet {
 
-/// Looks for the library in this order: the file that the environment variable TRICKLET_SOLVER
-/// names; in `programFolder`; where the system finds libraries. Its name is dds.dll on Windows,
-/// libdds.so.0 and then libdds.so elsewhere. Never fails: what was tried is in `Missing()`.
+/// Loads the file that the environment variable TRICKLET_SOLVER names, and no other when it is set.
+/// Else looks in `programFolder` and then where the system keeps libraries, but not in the current
+/// folder, for dds.dll on Windows, libdds.so.0 and then libdds.so elsewhere. Never fails: what was
+/// tried, and why it is none, is in `Missing()`.
 std::unique_ptr<Solver> LoadSolver(const std::filesystem::path& programFolder);
 
 /// A function that calls `LoadSolver` when it is first called, from any thread, and gives the same

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <fstream>
 #include <sstream>
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
 
 #include <gtest/gtest.h>
 
@@ -10,6 +13,7 @@
 #include "analysis/solver_library.h"
 #include "tests/support/fake_solver.h"
 #include "tests/support/hands.h"
+#include "tests/support/library_fixture.h"
 #include "tests/support/scripted_host.h"
 #include "tests/support/thorough.h"
 
@@ -52,8 +56,24 @@ std::unique_ptr<Solver> LoadNamed(const char* library) {
   return solver;
 }
 
-TEST(SolverLibrary, IsFoundAfterOthersThatAreNone) {
-  EXPECT_EQ(LoadNamed("libm.so.6")->Missing(), "");  // can be loaded, but is no solver
+TEST(SolverLibrary, OneThatIsNamedIsUsedOrRefusedWithTheReason) {
+  const test::TempFolder folder;
+  const std::string whole = test::ReadFile(TRICKLET_FOREIGN_SOLVER);
+  for (const std::size_t size : {10U, 64U, 200U, 5000U}) {
+    test::WriteFile(folder.Path() / std::to_string(size), whole.substr(0, size));
+  }
+  test::WriteFile(folder.Path() / "text", std::string(100, 'x'));
+  ASSERT_EQ(mkfifo((folder.Path() / "pipe").c_str(), 0600), 0);
+  const std::pair<const char*, const char*> kRefused[] = {
+      {"none", "No such file"}, {"", "Not a file"},     {"pipe", "Not a file"},
+      {"10", "incomplete"},     {"64", "incomplete"},   {"200", "incomplete"},
+      {"5000", "incomplete"},   {"text", "invalid ELF"}};
+  for (const auto& [name, reason] : kRefused) {
+    const std::string path = (folder.Path() / name).string();
+    const std::string missing = LoadNamed(path.c_str())->Missing();
+    EXPECT_TRUE(missing.starts_with("TRICKLET_SOLVER names " + path + ",")) << missing;
+    EXPECT_NE(missing.find(reason), std::string::npos) << missing;
+  }
 }
 
 TEST(SolverLibrary, IsNotBelievedEverything) {
