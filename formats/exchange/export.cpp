@@ -6,6 +6,7 @@
 #include "core/fault.h"
 #include "core/text.h"
 #include "disk/file_io.h"
+#include "disk/presence.h"
 #include "formats/dlm/dlm_writer.h"
 #include "formats/exchange/file_type.h"
 #include "formats/lin/lin_writer.h"
@@ -112,6 +113,37 @@ std::string BeyondText(const ExportRange& range, const ExportRun& run) {
   return text + BoardsText(run.lastWritable + 1, range.last) + " left out";
 }
 
+/// "boards (part).pbn" beside "boards.pbn", or "boards (part 2).pbn" and so on when that is taken.
+fs::path FreePartPath(const fs::path& path) {
+  for (int number = 1;; ++number) {
+    fs::path part = path;
+    part.replace_filename(path.stem());
+    part += number == 1 ? " (part)" : " (part " + std::to_string(number) + ")";
+    part += path.extension();
+    if (!IsTaken(part)) return part;
+  }
+}
+
+/// Keeps the part of a cancelled export beside the file that was to be replaced, and asks which of
+/// them is to stay.
+void KeepPart(Session& session, const fs::path& path, const std::string& text) {
+  const fs::path part = FreePartPath(path);
+  ReplaceWholeFile(part, text);
+  const Answer answer = session.host.Ask(
+      "The file\n" + ShownPath(path) + "\nis as it was. What was exported until now is in\n" +
+          ShownPath(part) + "\nDo you want this part to replace the old file?",
+      std::string(kProgramName), Buttons::NoYes);
+  if (answer != Answer::Yes) return;
+  const fs::path old = fs::canonical(path);  // a link stays one
+  if (!session.host.Recycle(old)) {
+    session.host.Tell("Unable to send the old file to the recycle bin:\n" + ShownPath(old));
+    return;
+  }
+  ReplaceWholeFile(old, text);
+  std::error_code failure;
+  if (!fs::remove(part, failure)) throw Fault::OfFile(failure, PathText(part));
+}
+
 /// Tells how it went; true when all boards were written.
 bool ReportRun(Session& session, const ExportRange& range, const ExportRun& run,
                const fs::path& path) {
@@ -156,12 +188,16 @@ bool WriteRange(Session& session, const ExportRange& range, const fs::path& path
     collect(session, range, run);
   }
   try {
-    ReplaceWholeFile(path, run.text);
-  } catch (const Fault& fault) {
-    ErrorReport(session.host, fault);
+    // A part is no reason to lose a whole file.
+    const bool keepsOld = run.cancelled && FileExists(path);
+    if (!keepsOld) ReplaceWholeFile(path, run.text);
+    const bool complete = ReportRun(session, range, run, path);
+    if (keepsOld) KeepPart(session, path, run.text);
+    return complete;
+  } catch (const std::exception& failure) {
+    ErrorReport(session.host, FaultFrom(failure));
     return false;
   }
-  return ReportRun(session, range, run, path);
 }
 
 }  // namespace

@@ -39,7 +39,9 @@ std::filesystem::path SuggestedExportPath(const std::filesystem::path& last,
 bool Export(Session& session, const ExportRange& range, std::filesystem::path& path);
 
 /// Writes the range to a file already named; its ending selects the format. True when all boards
-/// were written; else tells which were not.
+/// were written; else tells which were not. When the person cancels, the boards until then are
+/// written; where that would replace a file, they are put beside it ("boards (part).pbn"), and the
+/// person is asked whether they are to replace it.
 bool ExportFile(Session& session, const ExportRange& range, const std::filesystem::path& path);
 
 }  // namespace tricklet

@@ -175,6 +175,36 @@ TEST_F(ExportTest, ACancelledExportLeavesWhatItHasOfEveryType) {
   }
 }
 
+TEST_F(ExportTest, ACancelledExportLeavesTheOldFileUnlessToldOtherwise) {
+  for (int n = 1; n <= 3; ++n) PutBoard(n);
+  const fs::path target = folder.Path() / "old.pbn";
+  WriteFile(target, "old");
+  fs::create_symlink(target, path);
+  const fs::path parts[] = {folder.Path() / PathFromText("out \u00e9 (part).pbn"),
+                            folder.Path() / PathFromText("out \u00e9 (part 2).pbn")};
+  const auto cancel = [&](int part, Answer answer, const std::string& told) {
+    host.cancelAtStep = static_cast<int>(host.steps.size()) + 2;
+    host.ExpectTell("Export cancelled");
+    host.ExpectAsk("The file\n" + PathText(path) +
+                       "\nis as it was. What was exported until now is in\n" +
+                       PathText(parts[part]) + "\nDo you want this part to replace the old file?",
+                   "Tricklet", answer);
+    if (!told.empty()) host.ExpectTell(told);
+    EXPECT_FALSE(ExportFile(session, {1, 3, ""}, path));
+    EXPECT_EQ(LinesOf("[Board").size(), told.empty() && answer == Answer::Yes ? 1U : 0U);
+  };
+  cancel(0, Answer::No, "");
+  host.hasRecycleBin = false;
+  cancel(1, Answer::Yes, "Unable to send the old file to the recycle bin:\n" + PathText(target));
+  EXPECT_EQ(ReadFile(target), "old");
+  EXPECT_EQ(ReadFile(parts[0]), ReadFile(parts[1]));
+  host.hasRecycleBin = true;
+  fs::remove(parts[1]);
+  cancel(1, Answer::Yes, "");
+  EXPECT_EQ(host.recycled, std::vector<std::string>{"old.pbn"});
+  EXPECT_TRUE(fs::is_symlink(path) && fs::exists(parts[0]) && !fs::exists(parts[1]));
+}
+
 TEST_F(ExportTest, ChangesThatAreGivenUpAreOffTheScreen) {
   PutBoard(1);
   session.board.boardNumber = 1;
