@@ -65,6 +65,17 @@ std::string StoredText(const ReadResult& result, const std::set<int>& stored) {
          (one ? " of the file is stored" : " of the file are stored");
 }
 
+std::string PartText(const std::set<int>& stored, std::set<int> unstored) {
+  std::erase_if(unstored, [&stored](int number) { return stored.contains(number); });
+  if (stored.empty()) return "";
+  const bool one = stored.size() == 1;
+  return (one ? "Board " : "Boards ") + RangesText(stored) +
+         (one ? " of the file is stored, " : " of the file are stored, ") +
+         (unstored.empty()       ? "the rest is not"
+          : unstored.size() == 1 ? RangesText(unstored) + " is not"
+                                 : RangesText(unstored) + " are not");
+}
+
 std::string LeftOutText(const LeftOut& leftOut) {
   constexpr const char* kImpossible =
       "as impossible (no card, a card twice or more than 13 cards in a hand)";

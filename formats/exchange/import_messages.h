@@ -14,6 +14,10 @@ std::string SavedText(const ReadResult& result, const std::string& libraryName);
 /// Which boards were stored; empty when none was, or when those that `SavedText` names were.
 std::string StoredText(const ReadResult& result, const std::set<int>& stored);
 
+/// Which boards a failed import has stored and which of those that are known to be in the file it
+/// has not; empty when it has stored none.
+std::string PartText(const std::set<int>& stored, std::set<int> unstored);
+
 /// What the file holds and the library does not, a line for each reason; empty when there is
 /// nothing to tell.
 std::string LeftOutText(const LeftOut& leftOut);

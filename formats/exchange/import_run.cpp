@@ -1,6 +1,8 @@
 #include "formats/exchange/import_run.h"
 
 #include <exception>
+#include <set>
+#include <string>
 #include <utility>
 
 #include "core/fault.h"
@@ -9,6 +11,7 @@
 #include "formats/exchange/import_messages.h"
 #include "formats/exchange/keep_results.h"
 #include "formats/exchange/library_sink.h"
+#include "formats/results/lin_boards.h"
 #include "formats/results/lin_file.h"
 #include "library/board_store.h"
 #include "library/library_choice.h"
@@ -27,7 +30,21 @@ constexpr std::size_t kMaxHandRecordBytes = std::size_t{256} * 1024 * 1024;
 struct Failures {
   std::optional<Fault> reading;
   std::optional<Fault> writing;
+  std::set<int> unstored;  ///< boards known to be in the file that did not get into the library
 };
+
+/// A session is read whole before its first board is stored, so all its boards are known; of other
+/// files only the one that could not be stored is.
+std::set<int> UnstoredBoards(const LibrarySink& sink, Brings brings, const Reading& reading) {
+  std::set<int> unstored;
+  if (sink.Unstored() != 0) unstored.insert(sink.Unstored());
+  if (brings != Brings::Session) return unstored;
+  for (const std::string& record : reading.results.lin) {
+    const int number = BoardNumberOfLin(record);
+    if (IsStorable(number) && !sink.Stored().contains(number)) unstored.insert(number);
+  }
+  return unstored;
+}
 
 Failures ReadAndStore(Session& session, RecordSource& source, const RecordReader& reader,
                       LibrarySink& sink, Reading& reading) {
@@ -39,6 +56,7 @@ Failures ReadAndStore(Session& session, RecordSource& source, const RecordReader
   } catch (const std::exception& failure) {
     failures.writing = sink.Failure();
     if (!failures.writing) failures.reading = FaultFrom(failure);
+    failures.unstored = UnstoredBoards(sink, reader.brings, reading);
   }
   try {
     KeepResults(session, reader.brings, sink, reading);
@@ -107,12 +125,15 @@ ImportOutcome StoreText(Session& session, RecordSource source, const std::string
   const Failures failures = ReadAndStore(session, source, reader, sink, reading);
   if (failures.reading) {
     ErrorReport(session.host, *failures.reading);
-    return TellUnreadable(session, unreadable, boardBefore);
+    const ImportOutcome outcome = TellUnreadable(session, unreadable, boardBefore);
+    TellIfAny(session.host, PartText(sink.Stored(), failures.unstored));
+    return outcome;
   }
   ReadResult& result = reading.result;
   if (sink.Failure()) CountStored(sink, result);
   if (failures.writing) TellUnwritten(session.host, sink, reader, *failures.writing);
   TellResult(session, sink, result);
+  if (sink.Failure()) TellIfAny(session.host, PartText(sink.Stored(), failures.unstored));
   ListAndShow(session, result.boardsSaved > 0 ? BoardToShow(result, sink) : boardBefore);
   return {.boardsSaved = result.boardsSaved,
           .cancelled = result.cancelled,

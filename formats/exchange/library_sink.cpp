@@ -15,6 +15,7 @@ void LibrarySink::Store(const Board& board) {
     StoreBoard(session_, write_);
   } catch (const std::exception& failure) {
     failure_ = FaultFrom(failure);
+    unstored_ = board.boardNumber;
     readOnly_ = IsReadOnly(session_.BoardPath(board.boardNumber));
     throw;
   }
@@ -23,7 +24,11 @@ void LibrarySink::Store(const Board& board) {
   if (firstStored_ != 0) return;
   firstStored_ = board.boardNumber;
   // The import goes on even if this fails.
-  resultsStayed_ = recyclesResults_ && !RecycleLinData(session_);
+  try {
+    resultsStayed_ = recyclesResults_ && !RecycleLinData(session_);
+  } catch (const Fault&) {
+    resultsStayed_ = true;
+  }
 }
 
 bool LibrarySink::Begin(int boardNumber, int done) {

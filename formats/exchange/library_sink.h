@@ -28,6 +28,8 @@ class LibrarySink : public BoardSink {
   /// The numbers of the boards stored, and the one that was stored first (0: none was).
   const std::set<int>& Stored() const { return stored_; }
   int FirstStored() const { return firstStored_; }
+  /// The number of the board that could not be stored; 0: there is none.
+  int Unstored() const { return unstored_; }
   /// Boards stored; one that replaced another of the same run counts as well.
   int Count() const { return count_; }
 
@@ -47,6 +49,7 @@ class LibrarySink : public BoardSink {
   const bool recyclesResults_;
   std::set<int> stored_;
   int firstStored_ = 0;
+  int unstored_ = 0;
   int count_ = 0;
   std::optional<Fault> failure_;
   bool readOnly_ = false;

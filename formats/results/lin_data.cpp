@@ -1,7 +1,5 @@
 #include "formats/results/lin_data.h"
 
-#include <system_error>
-
 #include "core/fault.h"
 
 namespace tricklet {
@@ -11,11 +9,11 @@ namespace fs = std::filesystem;
 LinData::Stamp LinData::StampOf(const Session& session) {
   Stamp stamp;
   stamp.path = LinDataPath(session);
-  std::error_code failure;
-  const auto size = fs::file_size(stamp.path, failure);
-  if (failure) return stamp;
+  const auto size = fs::file_size(stamp.path, stamp.failure);
+  if (stamp.failure) return stamp;
   stamp.size = size;
-  stamp.written = fs::last_write_time(stamp.path, failure);
+  const auto written = fs::last_write_time(stamp.path, stamp.failure);
+  if (!stamp.failure) stamp.written = written;
   return stamp;
 }
 

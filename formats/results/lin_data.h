@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <system_error>
 
 #include "formats/results/lin_file.h"
 #include "library/session.h"
@@ -23,6 +24,7 @@ class LinData {
   /// What tells one file from another without reading it.
   struct Stamp {
     std::filesystem::path path;
+    std::error_code failure;  ///< why it cannot be looked at, if it cannot
     std::uintmax_t size = 0;
     std::filesystem::file_time_type written;
     friend bool operator==(const Stamp&, const Stamp&) = default;

@@ -145,8 +145,8 @@ TEST_F(ImportTest, TellsWhatWasStoredOfPbnAndDlm) {
            "4 hands (1-1000) have #\nBoards 1-3, 7 of the file are stored\n1 board was UNSTORABLE "
            "1000\n[1 2 3 7|4|LIN.txt]"},
           {PbnText({1, 2}) + calls,
-           "? The auction has more than 100 calls\nError no. 9\nCannot read the file @\n[1|0 "
-           "failed|LIN.txt]"}});
+           "? The auction has more than 100 calls\nError no. 9\nCannot read the file @\nBoard 1 of "
+           "the file is stored, the rest is not\n[1|0 failed|LIN.txt]"}});
   Expect("a.dlm",
          {{DlmLine(2) + DlmLine(1) + "Board 03=aaa\r\n",
            "Can't read this line:\nboard 03=aaa\nNo hands have #\nBoards 1-2 of the file are "
@@ -218,13 +218,16 @@ TEST_F(ImportTest, EndsEarlyWithWhatIsStored) {
        "3 MATCH_POINTS/MP]"},
       {"a.xml", UsebioText(OneLineBoard(3) + OneLineBoard(1) + OneLineBoard(2)), xmlError,
        "2 MATCH_POINTS/MP]"}};
-  const std::string two = "2 hands (1-2) have #\n[1 2|2 ";
+  const std::string hands = "2 hands (1-2) have #\n";
+  const std::string two = "[1 2|2 ";
+  const std::string part = "Boards 1-2 of the file are stored, 3 is not\n";
   for (const auto& [name, text, said, results] : kFiles) {
     EXPECT_EQ(Import(name, text, Stop::Cancelled, 1), "No hands have #\n[|0 cancelled|1 /]");
-    EXPECT_EQ(Import(name, text, Stop::Cancelled, 3), two + "cancelled|" + results);
+    EXPECT_EQ(Import(name, text, Stop::Cancelled, 3), hands + two + "cancelled|" + results);
     EXPECT_EQ(Import(name, text, Stop::Folder, 1), said + "No hands have #\n[|0 failed|1 /]");
-    EXPECT_EQ(Import(name, text, Stop::Folder, 3), said + two + "failed|" + results);
-    EXPECT_EQ(Import(name, text, Stop::ReadOnly, 3), readOnly + two + "failed|" + results);
+    const std::string left = hands + part + two + "failed|" + results;
+    EXPECT_EQ(Import(name, text, Stop::Folder, 3), said + left);
+    EXPECT_EQ(Import(name, text, Stop::ReadOnly, 3), readOnly + left);
   }
 }
 
