@@ -5,7 +5,6 @@ import os
 
 from stage import BIN
 
-
 EXPORTS = ("new.dlm", "new.lin", "old.pbn")
 
 
@@ -13,13 +12,16 @@ def in_bin(path):
     return path == "data" or path.startswith("data/Trash")
 
 
+def names_in(tree, folder, end):
+    """What lies in the folder itself, without the ending."""
+    inside = (path[len(folder):] for path in tree if path.startswith(folder) and path.endswith(end))
+    return {name.removesuffix(end) for name in inside if "/" not in name}
+
+
 def bin_faults(tree):
     """Things in the bin that cannot be restored, and records of things that are not there."""
-    names = lambda folder, end: {
-        path[len(folder):-len(end) or None] for path in tree
-        if path.startswith(folder) and "/" not in path[len(folder):] and path.endswith(end)}
-    files = names(BIN + "/files/", "")
-    records = names(BIN + "/info/", ".trashinfo")
+    files = names_in(tree, BIN + "/files/", "")
+    records = names_in(tree, BIN + "/info/", ".trashinfo")
     return ([f"{name} is in the bin without its record" for name in sorted(files - records)] +
             [f"the bin has a record of {name}, which is not there" for name in
              sorted(records - files)])
@@ -34,18 +36,25 @@ def is_part(now, old, new):
 def is_old_or_new(path, now, old, new):
     if now in (old, new):
         return True
-    return os.path.basename(path) == "LIN.txt" and now is not None and is_part(now, old, new)
+    return os.path.basename(path) == "LIN.txt" and now and is_part(now, old, new)
+
+
+def recycled(tree):
+    return [data for path, data in tree.items() if in_bin(path) and data is not None]
 
 
 def missing(before, clean, after):
-    """Files of before that are neither in their place nor in the bin nor meant to be gone."""
-    kept = [data for path, data in after.items() if in_bin(path) and data is not None]
+    """Files of before that are neither in their place nor in the bin nor meant to be gone, and those
+    that were replaced and were to be recycled first."""
+    there, meant = recycled(after), recycled(clean)
     for path, data in before.items():
-        if path in after or (data is None and path not in clean):
-            continue
-        moved = data is None or data in kept
-        if not moved:
+        if data is None:
+            if path not in after and path in clean:
+                yield f"{path} is missing"
+        elif path not in after and data not in there:
             yield f"{path} is missing"
+        elif data in meant and data not in there and after.get(path) != data:
+            yield f"{path} was replaced and is not in the bin"
 
 
 def strange(before, clean, after, said):
