@@ -1,5 +1,7 @@
 #include "cli/context.h"
 
+#include "core/fault.h"
+#include "core/text.h"
 #include "disk/native_file.h"
 #include "disk/presence.h"
 #include "library/board_store.h"
@@ -21,12 +23,21 @@ bool RootExists(const Context& context) {
   return false;
 }
 
+namespace {
+
+/// Makes the folder when only it is missing. Throws `Fault`.
+void MakeRoot(const fs::path& root) {
+  std::error_code failure;
+  if (fs::create_directory(root, failure)) FlushFolder(root / "..");
+  if (!failure || failure == std::errc::no_such_file_or_directory || FolderExists(root)) return;
+  throw Fault::OfFile(failure, PathText(root));
+}
+
+}  // namespace
+
 bool OpenLibrary(const Context& context, bool create) {
   Session& session = context.session;
-  std::error_code ignored;
-  if (create && context.rootNamed && fs::create_directory(session.FileLocation(), ignored)) {
-    FlushFolder(session.FileLocation() / "..");
-  }
+  if (create && context.rootNamed) MakeRoot(session.FileLocation());
   if (!RootExists(context)) return false;
   if (create) {
     if (!RequireLibraryFolder(session)) return false;

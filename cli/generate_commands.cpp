@@ -180,9 +180,12 @@ ExitCode GenerateBoards(const Context& context, const GenerateArguments& argumen
   context.data << outcome.boardsStored << (outcome.boardsStored == 1 ? " board" : " boards")
                << " generated\n";
   if (outcome.cancelled || outcome.failed) return ExitCode::Refused;
-  // That tables were cancelled or failed has been reported already.
-  if (!outcome.tables.failure.empty() || outcome.tables.cancelled) return ExitCode::Refused;
-  if (arguments.analyse) session.host.Tell(AnalysisText(outcome.tables));
+  // That tables were cancelled, failed or could not be stored has been reported already.
+  const AnalysisOutcome& tables = outcome.tables;
+  if (!tables.failure.empty() || tables.cancelled || !tables.readOnly.empty()) {
+    return ExitCode::Refused;
+  }
+  if (arguments.analyse) session.host.Tell(AnalysisText(tables));
   return ExitCode::Done;
 }
 

@@ -94,9 +94,10 @@ std::string OutsideText(const std::vector<int>& boards) {
 
 std::string GenerateText(const GenerateOutcome& outcome) {
   std::string text = outcome.outside.empty() ? "" : OutsideText(outcome.outside);
-  if (!outcome.tables.cancelled && outcome.tables.failure.empty()) return text;
+  const AnalysisOutcome& tables = outcome.tables;
+  if (!tables.cancelled && tables.failure.empty() && tables.readOnly.empty()) return text;
   if (!text.empty()) text += '\n';
-  return text + AnalysisText(outcome.tables);
+  return text + AnalysisText(tables);
 }
 
 GenerateOutcome Generate(Session& session, const Constraints& constraints,

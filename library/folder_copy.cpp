@@ -54,14 +54,19 @@ void MoveFile(const fs::path& from, const fs::path& to, UnflushedFolders& unflus
 
 }  // namespace
 
+bool SameFolder(const fs::path& a, const fs::path& b) {
+  if (a == b) return true;
+  return FolderExists(a) && FolderExists(b) && fs::equivalent(a, b);
+}
+
 bool FolderLiesIn(const fs::path& inner, const fs::path& outer) {
   std::error_code failure;
-  for (fs::path at = fs::weakly_canonical(inner, failure); !failure; at = at.parent_path()) {
-    std::error_code missing;
-    if (fs::equivalent(at, outer, missing) && !missing) return true;
+  fs::path at = fs::weakly_canonical(inner, failure);
+  ThrowIf(failure, inner);
+  for (; !SameFolder(at, outer); at = at.parent_path()) {
     if (at == at.parent_path()) return false;
   }
-  return false;
+  return true;
 }
 
 bool FoldersOverlap(const fs::path& a, const fs::path& b) {

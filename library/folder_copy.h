@@ -95,6 +95,9 @@ class FolderCopy {
   int leftOut_ = 0;
 };
 
+/// Both are folders, and the same one, by whatever path or link; equal paths need not exist. Throws
+/// `Fault` when that cannot be seen, as the two below do.
+bool SameFolder(const std::filesystem::path& a, const std::filesystem::path& b);
 /// `inner` is the folder `outer` or lies in it, by whatever path or link. It need not exist.
 bool FolderLiesIn(const std::filesystem::path& inner, const std::filesystem::path& outer);
 /// One of the folders is the other or lies in it.

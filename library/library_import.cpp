@@ -32,9 +32,13 @@ bool IsNamedLikeABoard(const std::string& name) {
 bool HasBoards(const fs::path& folder) {
   bool found = false;
   ForEachEntry(folder, [&found](const fs::directory_entry& entry) {
-    std::error_code ignored;
-    found = found || (IsNamedLikeABoard(PathText(entry.path().filename())) &&
-                      fs::is_regular_file(entry.symlink_status(ignored)));
+    if (found || !IsNamedLikeABoard(PathText(entry.path().filename()))) return;
+    std::error_code failure;
+    const fs::file_status status = entry.symlink_status(failure);
+    if (status.type() == fs::file_type::none) {
+      throw Fault::OfFile(failure, PathText(entry.path()));
+    }
+    found = fs::is_regular_file(status);
   });
   return found;
 }

@@ -63,9 +63,11 @@ std::vector<std::string> FoldersOf(const fs::path& root) {
   if (!FolderExists(root)) return names;
   ForEachEntry(root, [&names](const fs::directory_entry& entry) {
     std::string name = PathText(entry.path().filename());
-    std::error_code ignored;  // a link to nothing is no folder
-    if (!IsLibraryName(name) || !entry.is_directory(ignored)) return;
-    names.push_back(std::move(name));
+    std::error_code failure;
+    const fs::file_type type = entry.status(failure).type();  // a link to nothing is no folder
+    // One that cannot be seen may be a library; whoever enters it hears why it cannot be.
+    if (type != fs::file_type::directory && type != fs::file_type::none) return;
+    if (IsLibraryName(name)) names.push_back(std::move(name));
   });
   std::sort(names.begin(), names.end(), NameBefore);
   return names;

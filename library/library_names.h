@@ -32,7 +32,8 @@ bool AcceptLibraryName(Host& host, std::string_view name);
 void TellNotAName(Host& host, std::string_view name);
 
 /// The names of the libraries in the folder `root`, in the order of the list: by letters, whatever
-/// their case; none when there is no such folder. Throws `Fault` when it cannot be listed.
+/// their case; none when there is no such folder. What cannot be seen may be a library and is
+/// listed. Throws `Fault` when the root cannot be listed.
 std::vector<std::string> FoldersOf(const std::filesystem::path& root);
 
 /// The one of `names` that `name` means: just this name, or else the name without the blanks around

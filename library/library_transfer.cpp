@@ -23,11 +23,6 @@ bool AskYes(Session& session, const std::string& text) {
   return session.host.Ask(text, std::string(kProgramName), Buttons::YesNo) == Answer::Yes;
 }
 
-bool SameFolder(const fs::path& a, const fs::path& b) {
-  std::error_code ignored;
-  return a == b || fs::equivalent(a, b, ignored);
-}
-
 /// The folder can become the root: it is neither a drive nor the root already. Else says so.
 bool AcceptRoot(Session& session, const fs::path& folder) {
   if (IsDriveRoot(folder)) {

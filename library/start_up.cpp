@@ -63,6 +63,19 @@ void ChooseNamedLibrary(Session& session, const std::string& named) {
   session.settings.library = meant.empty() ? LibraryOfRoot(root, session.LibraryName()) : meant;
 }
 
+/// `OpenLibraries` where nothing is hidden.
+bool OpenRoot(Session& session, const std::string& named) {
+  const fs::path root = session.FileLocation();
+  if ((root.empty() || !FolderExists(root)) && !ChooseLibraryRoot(session)) return false;
+  if (named.empty()) {
+    MakeStoredLibraryAgain(session);
+  } else {
+    ChooseNamedLibrary(session, named);
+  }
+  GetLibraryNames(session);
+  return true;
+}
+
 }  // namespace
 
 std::string VersionText() {
@@ -98,15 +111,12 @@ std::string LibraryOfRoot(const fs::path& root, const std::string& stored) {
 }
 
 bool OpenLibraries(Session& session, const std::string& named) {
-  const fs::path root = session.FileLocation();
-  if ((root.empty() || !FolderExists(root)) && !ChooseLibraryRoot(session)) return false;
-  if (named.empty()) {
-    MakeStoredLibraryAgain(session);
-  } else {
-    ChooseNamedLibrary(session, named);
+  try {
+    return OpenRoot(session, named);
+  } catch (const Fault& fault) {
+    session.host.Tell("Unable to open the libraries:\n" + fault.Description());
+    return false;
   }
-  GetLibraryNames(session);
-  return true;
 }
 
 }  // namespace tricklet

@@ -28,8 +28,8 @@ std::string LibraryOfRoot(const std::filesystem::path& root, const std::string& 
 /// Makes sure that the library root and the current library exist (asking for a root when there is
 /// none), lists libraries and boards and loads board 1. `named` is the library that was asked for,
 /// if any, in whatever letter case. When the root does not have it, the person is told, it is not
-/// made, and the current or the first library opens. False when no root was chosen: the program
-/// ends then.
+/// made, and the current or the first library opens. False when no root was chosen, or, after a
+/// message, when the stored one or its list cannot be seen; it stays stored. The program ends then.
 bool OpenLibraries(Session& session, const std::string& named = {});
 
 }  // namespace tricklet

@@ -88,6 +88,21 @@ TEST_F(StartUp, ARootThatGoesLaterIsNotMadeAnew) {
   EXPECT_EQ(Joined(session.libraryNames), "Club");
 }
 
+TEST_F(StartUp, WhatCannotBeSeenIsNotForgotten) {
+  fs::create_symlink("Loop", folder.Path() / "Loop");
+  session.settings.library = "Loop";
+  host.ExpectAskWith("Too many levels of symbolic links: ", Answer::Yes);
+  EXPECT_TRUE(OpenLibraries(session));
+  EXPECT_EQ(session.LibraryName(), "Loop");
+  EXPECT_EQ(session.libIndex, -1);
+
+  session.settings.filelocation = FolderText(folder.Path() / "Loop");
+  host.ExpectTell("Unable to open the libraries:\nToo many levels of symbolic links: " +
+                  session.settings.filelocation);
+  EXPECT_FALSE(OpenLibraries(session));
+  EXPECT_EQ(session.settings.filelocation, FolderText(folder.Path() / "Loop"));
+}
+
 TEST_F(StartUp, TheNoticeComesUntilItIsNotWantedAnyMore) {
   for (const Answer answer : {Answer::Yes, Answer::Cancel, Answer::No}) {
     EXPECT_FALSE(store.Read("Tricklet", "ShowMessage"));

@@ -6,6 +6,7 @@
 #include <QDir>
 
 #include "analysis/solver_library.h"
+#include "core/fault.h"
 #include "library/library_choice.h"
 #include "library/start_up.h"
 #include "ui/app/application.h"
@@ -119,6 +120,16 @@ class SilentHost : public QtHost {
   }
 };
 
+/// The library to open in a root that was named. Why a root cannot be seen is said when it is
+/// opened.
+std::string LibraryOfNamedRoot(const std::filesystem::path& root, const std::string& stored) {
+  try {
+    return LibraryOfRoot(root, stored);
+  } catch (const Fault&) {
+    return stored;
+  }
+}
+
 /// The window as a picture file; false when that could not be written.
 bool WriteScreenshot(MainWindow& window, const LaunchOptions& options) {
   window.setAttribute(Qt::WA_DontShowOnScreen);
@@ -194,7 +205,7 @@ int Launch(Application& application, const LaunchOptions& options, SettingsStore
   if (!options.root.isEmpty()) {
     const std::filesystem::path root = PathFromQt(QDir(options.root).absolutePath());
     overlay.Name("filelocation", FolderText(root));
-    overlay.Name("library", LibraryOfRoot(root, LoadSettings(store).library));
+    overlay.Name("library", LibraryOfNamedRoot(root, LoadSettings(store).library));
   }
 
   QtHost asking;
@@ -207,7 +218,12 @@ int Launch(Application& application, const LaunchOptions& options, SettingsStore
   }
   if (options.seed) session.random = RandomSource(*options.seed);
   application.host = &host;
-  const int exitCode = RunSession(application, options, session, host);
+  int exitCode = 1;
+  try {
+    exitCode = RunSession(application, options, session, host);
+  } catch (const std::exception& failure) {
+    ErrorReport(host, FaultFrom(failure));
+  }
   application.host = nullptr;
   return exitCode;
 }
