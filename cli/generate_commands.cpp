@@ -182,7 +182,8 @@ ExitCode GenerateBoards(const Context& context, const GenerateArguments& argumen
   if (outcome.cancelled || outcome.failed) return ExitCode::Refused;
   // That tables were cancelled, failed or could not be stored has been reported already.
   const AnalysisOutcome& tables = outcome.tables;
-  if (!tables.failure.empty() || tables.cancelled || !tables.readOnly.empty()) {
+  if (!tables.failure.empty() || tables.cancelled || !tables.readOnly.empty() ||
+      tables.unreadable > 0) {
     return ExitCode::Refused;
   }
   if (arguments.analyse) session.host.Tell(AnalysisText(tables));

@@ -95,7 +95,9 @@ std::string OutsideText(const std::vector<int>& boards) {
 std::string GenerateText(const GenerateOutcome& outcome) {
   std::string text = outcome.outside.empty() ? "" : OutsideText(outcome.outside);
   const AnalysisOutcome& tables = outcome.tables;
-  if (!tables.cancelled && tables.failure.empty() && tables.readOnly.empty()) return text;
+  const bool done = !tables.cancelled && tables.failure.empty() && tables.readOnly.empty() &&
+                    tables.unreadable == 0;
+  if (done) return text;
   if (!text.empty()) text += '\n';
   return text + AnalysisText(tables);
 }

@@ -129,9 +129,14 @@ bool ReadBoard(Session& session, Board& board) {
 }
 
 bool LoadHandBasic(Session& session, Board& board, bool& allHandsComplete) {
-  const bool readable = ReadBoard(session, board);
+  const fs::path path = session.BoardPath(board.boardNumber);
+  ClearAll(board);
+  board.handChanged = false;
+  const bool readable =
+      ReadBoardText(ReadWholeFile(path, kMaxBoardFileBytes), board, TableReading::OnlyWhenComplete);
+  if (!readable) TellUnreadable(session, path);
   allHandsComplete = readable && GetStats(board.hands).allHandsComplete;
-  if (allHandsComplete) AddMissingTable(session, session.BoardPath(board.boardNumber), board);
+  if (allHandsComplete) AddMissingTable(session, path, board);
   return readable;
 }
 

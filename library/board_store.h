@@ -37,7 +37,7 @@ bool ReadBoard(Session& session, Board& board);
 
 /// `ReadBoard` for a writer: a missing table of a complete deal is computed, where the settings and
 /// a solver call for one, and stored, unless the file is marked read-only. `allHandsComplete` says
-/// whether all four hands are complete.
+/// whether all four hands are complete. Throws `Fault` when the disk does not give the file.
 bool LoadHandBasic(Session& session, Board& board, bool& allHandsComplete);
 
 }  // namespace tricklet

@@ -127,9 +127,9 @@ class AnalysisRun {
         ++outcome_.incomplete;
         return false;
       }
-    } catch (const Fault&) {
+    } catch (const Fault& fault) {
       ++outcome_.incomplete;
-      ++outcome_.unreadable;
+      if (outcome_.unreadable++ == 0) outcome_.unreadableWhy = fault.Description();
       return false;
     }
     if (board.makeableValid && !again) return false;
@@ -255,6 +255,10 @@ std::string AnalysisText(const AnalysisOutcome& outcome) {
   if (outcome.incomplete > 0) {
     text += "\n" + std::to_string(outcome.incomplete) +
             (outcome.incomplete == 1 ? " hand is" : " hands are") + " incomplete";
+  }
+  if (outcome.unreadable > 0) {
+    text += "\n" + std::to_string(outcome.unreadable) +
+            " of them cannot be read: " + outcome.unreadableWhy;
   }
   if (!outcome.readOnly.empty()) text += "\n" + LeftOutText(outcome.readOnly);
   if (outcome.cancelled) text += "\nAnalysis cancelled";

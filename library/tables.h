@@ -20,9 +20,10 @@ bool StoreTable(const std::filesystem::path& path, const HandTable& hands,
 bool RequireSolver(const Session& session);
 
 struct AnalysisOutcome {
-  int computed = 0;    ///< tables stored
-  int incomplete = 0;  ///< boards that are no complete deal, or cannot be read
-  int unreadable = 0;  ///< those of them whose files the disk does not give
+  int computed = 0;           ///< tables stored
+  int incomplete = 0;         ///< boards that are no complete deal, or cannot be read
+  int unreadable = 0;         ///< those of them whose files the disk does not give
+  std::string unreadableWhy;  ///< the reason of the first of these
   std::vector<std::filesystem::path> readOnly;  ///< left alone, as they are marked read-only
   bool cancelled = false;
   /// The solver's, or that of the disk, or that another program is changing the library; empty when

@@ -182,12 +182,12 @@ bool WriteRange(Session& session, const ExportRange& range, const fs::path& path
                 Collector collect) {
   if (!CheckExportRange(session, range) || !AddMissingTables(session, range)) return false;
   ExportRun run;
-  {
-    const WorkScope work(session.host);
-    const BatchScope batch(session);
-    collect(session, range, run);
-  }
   try {
+    {
+      const WorkScope work(session.host);
+      const BatchScope batch(session);
+      collect(session, range, run);
+    }
     // A part is no reason to lose a whole file.
     const bool keepsOld = run.cancelled && FileExists(path);
     if (!keepsOld) ReplaceWholeFile(path, run.text);

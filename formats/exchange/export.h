@@ -41,7 +41,8 @@ bool Export(Session& session, const ExportRange& range, std::filesystem::path& p
 /// Writes the range to a file already named; its ending selects the format. True when all boards
 /// were written; else tells which were not. When the person cancels, the boards until then are
 /// written; where that would replace a file, they are put beside it ("boards (part).pbn"), and the
-/// person is asked whether they are to replace it.
+/// person is asked whether they are to replace it. A board that the disk does not give is reported,
+/// and nothing is written.
 bool ExportFile(Session& session, const ExportRange& range, const std::filesystem::path& path);
 
 }  // namespace tricklet

@@ -220,6 +220,11 @@ TEST_F(ExportTest, AFailedExportKeepsWhatWasThere) {
   fs::create_directories(path / "in the way");
   EXPECT_EQ(Told(1, 1), "? Is a directory: @\nError no. 75\n");
   EXPECT_TRUE(fs::exists(path / "in the way"));
+  path = folder.Path() / "old.pbn";
+  WriteFile(path, "old");
+  fs::create_symlink("002.txt", session.BoardPath(2));
+  EXPECT_EQ(Told(1, 2), "? Too many levels of symbolic links: LIBRARY/002.txt\nError no. 57\n");
+  EXPECT_EQ(ReadFile(path), "old");
   path = folder.Path() / "out.txt";
   EXPECT_EQ(Told(1, 1), "The file must be of type pbn, dlm or lin\n");
 }
