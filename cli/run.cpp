@@ -102,6 +102,14 @@ bool HasArrived(const Console& console) {
   return console.data.good() && console.messages.flush().good();
 }
 
+/// A hand that begins with a void, "-.A.-.-", would be taken for an option: ".A.-.-" is the same.
+void UnlikeOptions(std::vector<std::string>& words) {
+  const auto edit = std::find(words.begin(), words.end(), "edit");
+  for (auto word = std::find(edit, words.end(), "hand"); word != words.end(); ++word) {
+    if (word->starts_with("-.")) word->erase(0, 1);
+  }
+}
+
 int ParseAndExecute(const std::vector<std::string>& arguments, SettingsStore& store,
                     const Console& console) {
   Arguments parsed;
@@ -117,8 +125,10 @@ int ParseAndExecute(const std::vector<std::string>& arguments, SettingsStore& st
   AddEditCommands(app, command);
   AddGenerateCommands(app, command);
   try {
-    std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
-    app.parse(reversed);
+    std::vector<std::string> words = arguments;
+    UnlikeOptions(words);
+    std::reverse(words.begin(), words.end());
+    app.parse(words);
   } catch (const CLI::ParseError& error) {
     const bool asked = Tell(app, error, console) == 0;
     return static_cast<int>(asked ? ExitCode::Done : ExitCode::Usage);

@@ -99,7 +99,7 @@ TEST_F(GenerateCommands, EditsOrLeavesTheFile) {
   for (const auto& [edit, answer] : kRefused) EXPECT_EQ(Answer("--yes edit 1 " + edit), answer);
   EXPECT_EQ(Run("--no edit 1 clear"), 1);
   EXPECT_EQ(Stored(1).hands, before);
-  EXPECT_EQ(Edited("hand N .T..KT9 --take")[Seat::West][Suit::Hearts].Count(), 0);
+  EXPECT_EQ(Edited("hand N -.T.-.KT9 --take")[Seat::West][Suit::Hearts].Count(), 0);
   const HandTable full = Edited("fill --seed 2");
   EXPECT_TRUE(GetStats(full).allHandsComplete);
   EXPECT_TRUE(full[Seat::North][Suit::Hearts].Has(Rank::Ten));
