@@ -5,8 +5,6 @@ import os
 
 from stage import BIN
 
-EXPORTS = ("new.dlm", "new.lin", "old.pbn")
-
 
 def in_bin(path):
     return path == "data" or path.startswith("data/Trash")
@@ -57,14 +55,11 @@ def missing(before, clean, after):
             yield f"{path} was replaced and is not in the bin"
 
 
-def strange(before, clean, after, said):
+def strange(before, clean, after):
     """Things of other names or contents. What is on its way has a name of its own, and can stay when
-    it cannot be removed just now; that of the settings is Qt's. An export says which boards it could
-    not read and left out."""
+    it cannot be removed just now."""
     for path, data in after.items():
-        if ".tricklet-" in path or in_bin(path) or ".conf." in path:
-            continue
-        if "Can't read the file" in said and path.endswith(EXPORTS):
+        if ".tricklet-" in path or in_bin(path):
             continue
         if path not in before and path not in clean:
             yield f"{path} is strange here"
@@ -76,7 +71,7 @@ def differences(clean, after):
     for path in sorted(clean.keys() | after.keys()):
         if path not in after:
             yield f"{path} is missing"
-        elif path not in clean and ".tricklet-" not in path and ".conf." not in path:
+        elif path not in clean and ".tricklet-" not in path:
             yield f"{path} is too many"
         elif path in clean and clean[path] != after[path]:
             yield f"{path} is not as in an undisturbed run"
@@ -84,7 +79,7 @@ def differences(clean, after):
 
 def judge(before, clean, after, outcome, killed=False):
     """Everything that is wrong with the tree `after`."""
-    faults = list(missing(before, clean, after)) + list(strange(before, clean, after, outcome.said))
+    faults = list(missing(before, clean, after)) + list(strange(before, clean, after))
     if not killed:
         faults += bin_faults(after)
         if outcome.wrong():
