@@ -5,9 +5,9 @@
 #include "disk/file_io.h"
 #include "disk/presence.h"
 #include "library/board_file.h"
+#include "library/board_on_disk.h"
 #include "library/board_store.h"
 #include "library/library_scan.h"
-#include "library/library_write.h"
 
 namespace tricklet {
 namespace {
@@ -22,6 +22,22 @@ std::string OverwriteTitle(const Session& session) {
   return "Copy from Library " + ShownName(session.copyLibrary) + ": board " +
          std::to_string(session.copyBoard) + "\nto Library " + session.ShownLibrary() + ": board " +
          std::to_string(session.board.boardNumber);
+}
+
+/// The person agrees to what the paste replaces: what another program has stored, or the cards
+/// shown.
+bool AgreesToPaste(Session& session, DiskChange change) {
+  std::string question = OverwriteQuestion(session);
+  Buttons buttons = Buttons::YesNo;
+  if (IsLossToReplace(change)) {
+    question = ReplaceChangedQuestion(
+        session, change,
+        "board " + std::to_string(session.copyBoard) + " from library: " + session.copyLibrary);
+    buttons = Buttons::NoYes;
+  } else if (!HasCards(session.board.hands)) {
+    return true;
+  }
+  return session.host.Ask(question, OverwriteTitle(session), buttons) == Answer::Yes;
 }
 
 }  // namespace
@@ -45,12 +61,8 @@ bool PasteHand(Session& session) {
     session.host.Tell(ReadOnlyText(target));
     return false;
   }
-  if (HasCards(session.board.hands) &&
-      session.host.Ask(OverwriteQuestion(session), OverwriteTitle(session), Buttons::YesNo) !=
-          Answer::Yes) {
-    return false;
-  }
-  auto write = LibraryWrite::Begin(session);
+  auto write =
+      BeginReplacing(session, [&](DiskChange change) { return AgreesToPaste(session, change); });
   if (!write) return false;
   try {
     write->Replace(target, ReadWholeFile(source, kMaxBoardFileBytes));

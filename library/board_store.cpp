@@ -7,6 +7,7 @@
 #include "disk/file_io.h"
 #include "disk/presence.h"
 #include "library/board_file.h"
+#include "library/board_on_disk.h"
 #include "library/library_scan.h"
 
 namespace tricklet {
@@ -14,57 +15,53 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Asks before a changed board replaces its file.
-bool AgreesToReplace(Session& session, Buttons style) {
+bool AgreesToReplace(Session& session, DiskChange change, Buttons style) {
+  if (IsLossToReplace(change)) {
+    return session.host.Ask(ReplaceChangedQuestion(session, change, "the board shown here"),
+                            "Board changed on disk", Buttons::NoYes) == Answer::Yes;
+  }
   const std::string question =
       "Overwrite existing board " + std::to_string(session.board.boardNumber) + "?";
   const Answer answer = session.host.Ask(question, "Hand already in library", style);
   return answer == Answer::Yes || answer == Answer::OK;
 }
 
-/// There is no file of the path; what cannot be seen is tried to be read, and fails so.
-bool IsKnownAbsent(const fs::path& path) {
-  try {
-    return !FileExists(path);
-  } catch (const Fault&) {
-    return false;
-  }
+bool IsAbsent(const SeenFile& file) {
+  return !file.path.empty() && !file.bytes;
+}
+
+bool ReadSeen(const SeenFile& file, Board& board, TableReading tables) {
+  return file.bytes && ReadBoardText(*file.bytes, board, tables);
 }
 
 void TellUnreadable(Session& session, const fs::path& path) {
   session.host.Tell("Can't read the file " + ShownPath(path));
 }
 
-/// The person agrees, and the file is not marked read-only.
-bool MaySave(Session& session, Buttons style) {
+/// The person agrees to what the save replaces, and the file is not marked read-only. One that
+/// another program has removed is no loss.
+bool MaySave(Session& session, DiskChange change, Buttons style) {
   const fs::path path = session.BoardPath(session.board.boardNumber);
-  if (session.board.handChanged && FileExists(path) && !AgreesToReplace(session, style)) {
-    return false;
-  }
+  const bool asks = IsLossToReplace(change) || (session.board.handChanged && FileExists(path));
+  if (asks && !AgreesToReplace(session, change, style)) return false;
   if (!IsReadOnly(path)) return true;
   session.host.Tell(ReadOnlyText(path));
   return false;
 }
 
-bool ReadBoardFile(const fs::path& path, Board& board, TableReading tables) {
-  try {
-    return ReadBoardText(ReadWholeFile(path, kMaxBoardFileBytes), board, tables);
-  } catch (const Fault&) {
-    return false;
-  }
-}
-
-/// Gives the board just read from `path` the table that it lacks, in memory and in its file.
-void AddMissingTable(Session& session, const fs::path& path, Board& board) {
+/// Gives the board just read from `file` the table that it lacks, in memory and in that file.
+void AddMissingTable(Session& session, const SeenFile& file, Board& board) {
   if (session.tablesInBackground || !WantsTable(session, board)) return;
   if (!GetDDS(board, session.getSolver(), session.host, false)) return;
   board.handChanged = false;
   try {
-    if (IsReadOnly(path)) return;
-    // What another program is changing is not to be waited for.
+    if (IsReadOnly(file.path)) return;
+    // What another program is changing, or has changed since, is left to it.
     auto write = LibraryWrite::BeginAtOnce(session);
-    if (!write) return;
-    write->Replace(path, WriteBoardText(board));
+    if (!write || LookAtBoardFile(file.path) != file) return;
+    const std::string text = WriteBoardText(board);
+    write->Replace(file.path, text);
+    TakeAsSeen(session, file, text);
     write->Finish();
   } catch (const Fault&) {
     // The table is on the screen all the same; it just cannot be kept in a read-only folder.
@@ -79,8 +76,8 @@ std::string ReadOnlyText(const fs::path& path) {
 
 bool SaveHand(Session& session, Buttons style) {
   try {
-    if (!MaySave(session, style)) return false;
-    auto write = LibraryWrite::Begin(session);
+    auto write =
+        BeginReplacing(session, [&](DiskChange change) { return MaySave(session, change, style); });
     if (!write) return false;
     StoreBoard(session, *write);
     session.board.handChanged = true;  // until it is sure to last
@@ -100,7 +97,9 @@ void StoreBoard(Session& session, LibraryWrite& write) {
   }
   const fs::path path = session.BoardPath(session.board.boardNumber);
   if (IsReadOnly(path)) throw Fault(FaultNumber::PathFileAccess, ReadOnlyText(path));
-  write.Replace(path, WriteBoardText(session.board));
+  std::string text = WriteBoardText(session.board);
+  write.Replace(path, text);
+  session.seenFile = {path, std::move(text)};
   session.board.handChanged = false;
 }
 
@@ -109,10 +108,12 @@ bool LoadHand(Session& session) {
   ++session.boardsLoaded;
   ClearAll(session.board);
   session.board.handChanged = false;
-  if (IsKnownAbsent(path)) return false;
-  const bool readable = ReadBoardFile(path, session.board, TableReading::Always);
+  const SeenFile file = LookAtBoardFile(path);
+  session.seenFile = file;
+  if (IsAbsent(file)) return false;
+  const bool readable = ReadSeen(file, session.board, TableReading::Always);
   if (readable) {
-    AddMissingTable(session, path, session.board);
+    AddMissingTable(session, file, session.board);
   } else {
     TellUnreadable(session, path);
   }
@@ -123,7 +124,7 @@ bool ReadBoard(Session& session, Board& board) {
   const fs::path path = session.BoardPath(board.boardNumber);
   ClearAll(board);
   board.handChanged = false;
-  const bool readable = ReadBoardFile(path, board, TableReading::OnlyWhenComplete);
+  const bool readable = ReadSeen(LookAtBoardFile(path), board, TableReading::OnlyWhenComplete);
   if (!readable) TellUnreadable(session, path);
   return readable;
 }
@@ -132,11 +133,11 @@ bool LoadHandBasic(Session& session, Board& board, bool& allHandsComplete) {
   const fs::path path = session.BoardPath(board.boardNumber);
   ClearAll(board);
   board.handChanged = false;
-  const bool readable =
-      ReadBoardText(ReadWholeFile(path, kMaxBoardFileBytes), board, TableReading::OnlyWhenComplete);
+  const SeenFile file{path, ReadWholeFile(path, kMaxBoardFileBytes)};
+  const bool readable = ReadSeen(file, board, TableReading::OnlyWhenComplete);
   if (!readable) TellUnreadable(session, path);
   allHandsComplete = readable && GetStats(board.hands).allHandsComplete;
-  if (allHandsComplete) AddMissingTable(session, path, board);
+  if (allHandsComplete) AddMissingTable(session, file, board);
   return readable;
 }
 

@@ -13,8 +13,9 @@ namespace tricklet {
 std::string ReadOnlyText(const std::filesystem::path& path);
 
 /// Writes the current board to its file in the current library. Asks before a changed board
-/// replaces an existing file, and then refuses to replace one that is marked read-only. True when
-/// it was written; a failure is reported and leaves the old file and the unsaved flag.
+/// replaces an existing file, and before any board replaces what another program has stored since
+/// this one was read or stored; refuses to replace a file that is marked read-only. True when it
+/// was written; a failure is reported and leaves the old file and the unsaved flag.
 bool SaveHand(Session& session, Buttons style = Buttons::YesNo);
 
 /// Stores the current board in a run (import, generation): no question, no rescan of the library.

@@ -179,7 +179,9 @@ bool RenameLibrary(Session& session, std::string_view name) {
   }
   FlushFolder(session.FileLocation());
   if (session.copyLibrary == session.LibraryName()) session.copyLibrary = trimmed;
+  const bool seen = session.seenFile.path == session.BoardPath(session.board.boardNumber);
   session.settings.library = trimmed;
+  if (seen) session.seenFile.path = session.BoardPath(session.board.boardNumber);
   SaveSetting(session, &Settings::library);
   RefreshLibraryNames(session);
   return true;

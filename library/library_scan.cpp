@@ -32,6 +32,14 @@ void CountHands(Session& session) {
   session.library.maxBoard = maxBoard;
 }
 
+bool ListAddedBoards(Session& session) {
+  const LibraryState before = session.library;
+  CountHands(session);
+  session.library.maxBoard = std::max(before.maxBoard, session.library.lastBoard);
+  return session.library.boardPresent != before.boardPresent ||
+         session.library.maxBoard != before.maxBoard;
+}
+
 void FindFiles(Session& session) {
   session.library = ScanLibrary(session.LibraryPath());
 }

@@ -19,6 +19,10 @@ LibraryState ScanLibrary(const std::filesystem::path& folder);
 /// `Fault`, and then all is as it was.
 void CountHands(Session& session);
 
+/// Scans the current library and offers at least as many boards as before. True when its boards, or
+/// how many are offered, are others than before. Throws `Fault`, and then all is as it was.
+bool ListAddedBoards(Session& session);
+
 /// Scans the current library and offers as many boards as `ScanLibrary` says. Throws `Fault`, and
 /// then all is as it was.
 void FindFiles(Session& session);

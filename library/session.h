@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,13 @@ class WriteLock;
 struct WriteState {
   std::filesystem::path folder;
   std::weak_ptr<WriteLock> lock;
+};
+
+/// A board's file as it was when it was last read or stored.
+struct SeenFile {
+  std::filesystem::path path;        ///< empty when that cannot be told
+  std::optional<std::string> bytes;  ///< nothing when there was no file
+  friend bool operator==(const SeenFile&, const SeenFile&) = default;
 };
 
 /// What is known of the current library from its last scan.
@@ -43,6 +51,7 @@ struct Session {
   Settings settings;
 
   Board board;                            ///< the current board
+  SeenFile seenFile;                      ///< the file from which `board` comes, or went to
   int boardsLoaded = 0;                   ///< counts up whenever `board` is loaded afresh
   LibraryState library;                   ///< the current library
   std::vector<std::string> libraryNames;  ///< all libraries of the root, in the order of the list

@@ -15,6 +15,7 @@
 #include "disk/file_io.h"
 #include "disk/presence.h"
 #include "library/board_file.h"
+#include "library/board_on_disk.h"
 #include "library/board_store.h"
 #include "library/library_scan.h"
 #include "library/library_write.h"
@@ -72,15 +73,18 @@ std::string LeftOutText(const std::vector<fs::path>& files) {
 
 /// Puts the table into the file, if the deal in it is still this one and it is not marked
 /// read-only.
-bool PutTable(const fs::path& path, const HandTable& hands, const MakeableTable& table,
-              UnflushedFolders& unflushed) {
+bool PutTable(Session& session, const fs::path& path, const HandTable& hands,
+              const MakeableTable& table, UnflushedFolders& unflushed) {
   Board board;
-  const std::string text = ReadWholeFile(path, kMaxBoardFileBytes);
-  if (!ReadBoardText(text, board, TableReading::Always) || !(board.hands == hands)) return false;
+  const SeenFile before{path, ReadWholeFile(path, kMaxBoardFileBytes)};
+  if (!ReadBoardText(*before.bytes, board, TableReading::Always) || !(board.hands == hands))
+    return false;
   if (IsReadOnly(path)) return false;
   board.makeable = table;
   board.makeableValid = true;
-  ReplaceWholeFile(path, WriteBoardText(board), unflushed);
+  const std::string text = WriteBoardText(board);
+  ReplaceWholeFile(path, text, unflushed);
+  TakeAsSeen(session, before, text);
   return true;
 }
 
@@ -192,7 +196,7 @@ class AnalysisRun {
   void StoreTables() {
     for (std::size_t i = 0; i < pendingTables_.size(); ++i) {
       const int number = pending_.numbers[i];
-      if (!PutTable(session_.BoardPath(number), pending_.deals[i], pendingTables_[i],
+      if (!PutTable(session_, session_.BoardPath(number), pending_.deals[i], pendingTables_[i],
                     write_.Unflushed())) {
         continue;
       }
@@ -221,13 +225,14 @@ class AnalysisRun {
 
 }  // namespace
 
-bool StoreTable(const fs::path& path, const HandTable& hands, const MakeableTable& table) {
+bool StoreTable(Session& session, const fs::path& path, const HandTable& hands,
+                const MakeableTable& table) {
   std::string holder;
   const auto lock = WriteLock::Take(path.parent_path(), std::chrono::milliseconds(0), holder);
   if (!lock) return false;
   try {
     UnflushedFolders unflushed;
-    const bool stored = PutTable(path, hands, table, unflushed);
+    const bool stored = PutTable(session, path, hands, table, unflushed);
     unflushed.Flush();
     return stored;
   } catch (const Fault&) {

@@ -10,10 +10,11 @@
 
 namespace tricklet {
 
-/// Puts `table` into the board file `path`, if the deal in it is still `hands`. False when it is
+/// Puts `table` into the board file `path`, of the current board or another one, if the deal in it
+/// is still `hands`. False when it is
 /// not, or the file is marked read-only, or it could not be read or written, or another program is
 /// changing the library just now.
-bool StoreTable(const std::filesystem::path& path, const HandTable& hands,
+bool StoreTable(Session& session, const std::filesystem::path& path, const HandTable& hands,
                 const MakeableTable& table);
 
 /// The program has been given a solver; tells when it has not.

@@ -5,7 +5,10 @@
 #include "core/fault.h"
 #include "disk/file_io.h"
 #include "disk/presence.h"
+#include "library/board_clipboard.h"
 #include "library/board_file.h"
+#include "library/board_on_disk.h"
+#include "library/tables.h"
 #include "tests/support/fake_solver.h"
 #include "tests/support/library_fixture.h"
 
@@ -29,22 +32,86 @@ TEST_F(BoardStore, AsksBeforeAChangedBoardReplacesAFile) {
   EXPECT_EQ(Shown(), "Club 7* of 24, 0 stored");
   EXPECT_TRUE(SaveHand(session)) << "nothing is asked about a new board";
   EXPECT_EQ(Shown(), "Club 7 of 24, 1 stored");
-  EXPECT_EQ(ReadFile(path), WriteBoardText(session.board));
+  const std::string old = ReadFile(path);
+  EXPECT_EQ(old, WriteBoardText(session.board));
 
-  WriteFile(path, "old");
+  session.board.hands = OneSuitEach();
   session.board.handChanged = true;
   host.ExpectAsk("Overwrite existing board 7?", "Hand already in library", Answer::No);
   EXPECT_FALSE(SaveHand(session));
-  EXPECT_EQ(ReadFile(path), "old");
+  EXPECT_EQ(ReadFile(path), old);
   EXPECT_TRUE(session.board.handChanged);
 
   host.ExpectAskWith("Overwrite", Answer::Yes);
   EXPECT_TRUE(SaveHand(session));
-  EXPECT_NE(ReadFile(path), "old");
-
-  WriteFile(path, "old");
+  EXPECT_EQ(ReadFile(path), OneSuitEachText());
   EXPECT_TRUE(SaveHand(session)) << "nor about a board without changes";
-  EXPECT_NE(ReadFile(path), "old");
+}
+
+TEST_F(BoardStore, AsksBeforeItReplacesWhatAnotherProgramHasStored) {
+  const std::string theirs = OneSuitEachText();
+  const std::string others[] = {"", theirs, "no board"};  // "" stands for no file
+  const auto put = [this](const std::string& text) {
+    fs::remove(path);
+    if (!text.empty()) WriteFile(path, text);
+  };
+  for (const std::string& before : {others[0], others[1]}) {
+    for (const std::string& after : others) {
+      put(before);
+      LoadHand(session);
+      ClearAll(session.board);
+      session.board.calls.Add(Call::Pass());
+      put(after);
+      SCOPED_TRACE(before.substr(0, 8) + " -> " + after.substr(0, 8));
+      const bool replaces = after != before && !after.empty();
+      const std::string question = "Board 7 in the library Club has been " +
+                                   std::string(before.empty() ? "added" : "changed") +
+                                   " by another program since it was opened.\nDo you want to "
+                                   "replace it with the board shown here?";
+      if (replaces) {
+        host.ExpectAsk(question, "Board changed on disk", Answer::No);
+        EXPECT_FALSE(SaveHand(session));
+        EXPECT_EQ(ReadFile(path), after);
+        EXPECT_TRUE(session.board.handChanged);
+        host.ExpectAskWith(question, Answer::Yes);
+      } else if (!after.empty()) {
+        host.ExpectAskWith("Overwrite existing board 7?", Answer::Yes);
+      }
+      EXPECT_TRUE(SaveHand(session));
+      EXPECT_EQ(ReadFile(path), WriteBoardText(session.board));
+    }
+  }
+}
+
+TEST_F(BoardStore, AsksAgainWhenTheFileChangesWhileThePersonThinks) {
+  LoadHand(session);
+  ClearAll(session.board);
+  WriteFile(path, OneSuitEachText());
+  host.onAsk = [this] { WriteFile(path, "newer still"); };
+  host.ExpectAskWith("added by another program", Answer::Yes);
+  host.ExpectAskWith("added by another program", Answer::No);
+  EXPECT_FALSE(SaveHand(session));
+  EXPECT_EQ(ReadFile(path), "newer still");
+
+  host.onAsk = nullptr;
+  WriteFile(session.BoardPath(8), OneSuitEachText());
+  session.copyLibrary = "Club";
+  session.copyBoard = 8;
+  host.ExpectAskWith("Do you want to replace it with board 8 from library: Club?", Answer::No);
+  EXPECT_FALSE(PasteHand(session));
+  EXPECT_EQ(ReadFile(path), "newer still");
+}
+
+TEST_F(BoardStore, ItsOwnTableIsNoChangeAndDoesNotHideOne) {
+  for (const bool changedBefore : {false, true}) {
+    WriteFile(path, OneSuitEachText());
+    LoadHand(session);
+    Board theirs = session.board;
+    theirs.calls.Add(Call::Pass());
+    if (changedBefore) WriteFile(path, WriteBoardText(theirs));
+    EXPECT_TRUE(StoreTable(session, path, theirs.hands, {}));
+    EXPECT_EQ(ChangeOnDisk(session), changedBefore ? DiskChange::Changed : DiskChange::None);
+  }
 }
 
 TEST_F(BoardStore, NothingStoresABoardInAReadOnlyFile) {

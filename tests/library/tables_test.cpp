@@ -60,7 +60,7 @@ TEST_F(TablesTest, CancelKeepsWhatIsSolved) {
 TEST_F(TablesTest, ReadOnlyBoardsAreLeftAndNamed) {
   for (int number = 1; number <= 3; ++number) PutDeal(number);
   std::filesystem::permissions(session.BoardPath(2), std::filesystem::perms::owner_read);
-  EXPECT_FALSE(StoreTable(session.BoardPath(2), Stored(2).hands, {}));
+  EXPECT_FALSE(StoreTable(session, session.BoardPath(2), Stored(2).hands, {}));
   EXPECT_EQ(AnalysisText(AnalyseBoards(session, solver, 1, 9, false)),
             "2 tables have been computed\nThe file\n" + PathText(session.BoardPath(2)) +
                 "\nis read only so the hand cannot be saved");
@@ -87,10 +87,10 @@ TEST_F(TablesTest, ATableIsStoredOnlyForTheDealThatWasAnalysed) {
   const Board first = Stored(1);
   MakeableTable table;
   table[TableSeat::North][TableStrain::Clubs] = 9;
-  EXPECT_FALSE(StoreTable(session.BoardPath(2), first.hands, table));
-  EXPECT_FALSE(StoreTable(session.BoardPath(3), first.hands, table));
+  EXPECT_FALSE(StoreTable(session, session.BoardPath(2), first.hands, table));
+  EXPECT_FALSE(StoreTable(session, session.BoardPath(3), first.hands, table));
   EXPECT_FALSE(Stored(2).makeableValid);
-  EXPECT_TRUE(StoreTable(session.BoardPath(1), first.hands, table));
+  EXPECT_TRUE(StoreTable(session, session.BoardPath(1), first.hands, table));
   EXPECT_EQ(Stored(1).makeable, table);
 
   session.board.boardNumber = 2;

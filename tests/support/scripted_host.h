@@ -50,6 +50,7 @@ class ScriptedHost : public Host {
   }
   Answer Ask(const std::string& text, const std::string& title, Buttons buttons) override {
     const auto expected = Next(script_, text);
+    if (onAsk) onAsk();
     Match(expected, text);
     if (!expected.title.empty()) {
       EXPECT_EQ(title, expected.title);
@@ -100,6 +101,7 @@ class ScriptedHost : public Host {
   bool hasRecycleBin = true;
   int cancelAtStep = 0;  ///< the step (from 1) at which the person cancels
   std::function<void()> onStep;
+  std::function<void()> onAsk;
   std::vector<std::string> steps;
   std::vector<std::string> recycled;
   std::vector<std::string> opened;

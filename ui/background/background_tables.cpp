@@ -98,7 +98,7 @@ void BackgroundTables::Take(const Job& job) {
   if (job.asked) {
     TakeAsked(job);
   } else {
-    StoreTable(job.path, job.hands, job.table);
+    StoreTable(session_, job.path, job.hands, job.table);
     if (IsCurrent(job)) Show(job.table);
   }
 }

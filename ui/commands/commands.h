@@ -46,6 +46,9 @@ class Commands : public QObject {
   /// The auction that is being entered; nullptr while the auction dialog is closed.
   const AuctionEntry* Auction() const { return auction_; }
 
+  /// A command runs, or its dialog is open.
+  bool Running() const { return running_; }
+
   void Import();
   void ImportLin();
   /// The LIN records, or the address of some, that the clipboard or a drop brought.

@@ -23,6 +23,9 @@ void EditControl::DropStaleEdits() {
   if (session_.board.playMode) editing_ = false;
 }
 
+bool EditControl::CanUndo() const {
+  return CanUndoClear() || tricklet::CanUndoFill(session_.board, history_);
+}
 bool EditControl::CanUndoClear() const {
   return tricklet::CanUndoClear(session_.board, history_);
 }

@@ -27,6 +27,8 @@ class EditControl {
   /// has begun; to be called whenever either may have happened.
   void DropStaleEdits();
 
+  /// There are edits of this board to undo, now or when editing again.
+  bool CanUndo() const;
   bool CanUndoClear() const;
   // These are false unless the hands are being edited.
   bool CanFill() const;

@@ -201,6 +201,11 @@ void LibraryPane::ShowNames(const Session& session) {
   NameTyped(cmbLibs->currentText());
 }
 
+bool LibraryPane::Typing(const Session& session) const {
+  return cmbLibs->currentText() != ToQt(session.LibraryName()) ||
+         cmbMaxBoard->currentText() != QString::number(session.library.maxBoard);
+}
+
 void LibraryPane::BeginNewLibrary() {
   cmbLibs->setFocus(Qt::ShortcutFocusReason);
   cmbLibs->clearEditText();

@@ -27,6 +27,9 @@ class LibraryPane : public QWidget {
   /// Shows the libraries, the boards and what is chosen; a name that is being typed is given up.
   void Show(const Session& session);
 
+  /// Some name or number has been typed and not been taken yet.
+  bool Typing(const Session& session) const;
+
   /// Makes the way to the next board stand out, or not.
   void OfferNext(bool offer);
 

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QLabel>
@@ -58,6 +59,8 @@ MainWindow::MainWindow(Session& session)
       best_(new BestCardsFinder(session, this)),
       results_(new Results(session, this)),
       commands_(new Commands(session, *play_, *edit_, this)),
+      watch_(new DiskWatch(
+          session, [this] { return LeaveToWatch(); }, this)),
       menu_(new MainMenu(*this, *commands_, *results_)),
       library_(new LibraryPane(session)),
       editPane_(new EditPane(*commands_)),
@@ -123,6 +126,8 @@ void MainWindow::Connect() {
   connect(commands_, &Commands::TableAsked, tables_, &BackgroundTables::ComputeAsked);
   connect(tables_, &BackgroundTables::Changed, this, &MainWindow::Display);
   connect(tables_, &BackgroundTables::Said, status_, &QLabel::setText);
+  connect(watch_, &DiskWatch::Changed, this, &MainWindow::Display);
+  connect(watch_, &DiskWatch::Said, status_, &QLabel::setText);
   connect(progress_, &ProgressFrame::Begun, this, [this] { SetWorking(true); });
   connect(progress_, &ProgressFrame::Ended, this, [this] { SetWorking(false); });
   connect(commands_, &Commands::Dealing, this, [this](bool dealing) { dealing_ = dealing; });
@@ -210,12 +215,27 @@ void MainWindow::DisplayDeal() {
 }
 
 QString MainWindow::StatusText() const {
+  if (const QString text = watch_->Text(); !text.isEmpty()) return text;
   const Board& board = session_.board;
   if (board.handChanged) {
     return tr("Board %1 has changes that are not saved").arg(board.boardNumber);
   }
   if (session_.library.boardCount > 0) return tr("Ready");
   return tr("The library is empty: drop hand records here, import them, or generate deals");
+}
+
+/// Nothing under the eyes of a class, and nothing that would put away what is being typed.
+DiskWatch::Leave MainWindow::LeaveToWatch() const {
+  using Leave = DiskWatch::Leave;
+  const bool busy = commands_->Running() || session_.batchRunning || progress_->IsWorking() ||
+                    QApplication::activeModalWidget() != nullptr ||
+                    QApplication::activePopupWidget() != nullptr;
+  if (busy || !isVisible() || isMinimized() || presentation_ || results_->Record() != nullptr ||
+      library_->Typing(session_)) {
+    return Leave::Nothing;
+  }
+  if (session_.board.playMode || edit_->Editing()) return Leave::Tell;
+  return edit_->CanUndo() ? Leave::List : Leave::Reload;
 }
 
 void MainWindow::DisplayAuction() {
@@ -380,6 +400,9 @@ void MainWindow::SavePlace() {
 /// The panes derive colours from their palettes, which follow the window's after this event.
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+    Later(this, [this] { LookAtDisk(); });
+  }
   if (event->type() != QEvent::PaletteChange || status_ == nullptr) return;
   Later(this, [this] { Display(); });
 }

@@ -8,6 +8,7 @@
 #include <QMainWindow>
 
 #include "library/session.h"
+#include "ui/window/disk_watch.h"
 
 class QLabel;
 
@@ -60,6 +61,9 @@ class MainWindow : public QMainWindow {
   void RestorePlace();
   void SavePlace();
 
+  /// Looks now for what other programs have done to the library, as it does from time to time.
+  void LookAtDisk() { watch_->Look(); }
+
   ProgressFrame* Progress() const { return progress_; }
 
  protected:
@@ -75,6 +79,7 @@ class MainWindow : public QMainWindow {
   void ConnectEdit();
   void ConnectResults();
   QString StatusText() const;
+  DiskWatch::Leave LeaveToWatch() const;
   void ShowTitle();
   void DisplayDeal();
   void DisplayAuction();
@@ -101,6 +106,7 @@ class MainWindow : public QMainWindow {
   BestCardsFinder* best_;
   Results* results_;
   Commands* commands_;
+  DiskWatch* watch_;
   MainMenu* menu_;
   LibraryPane* library_;
   EditPane* editPane_;
