@@ -51,9 +51,7 @@ ExitCode WriteSetting(const Context& context, const SettingEntry& entry, std::st
     return ExitCode::Refused;
   }
   SaveSetting(session.settings, entry, session.store);
-  if (session.store.Sync()) return ExitCode::Done;
-  session.host.Tell(kSettingsNotStored);
-  return ExitCode::Refused;
+  return StoreSettings(session) ? ExitCode::Done : ExitCode::Refused;
 }
 
 /// Removes the library that this call made for boards when none of them arrived.
@@ -140,12 +138,14 @@ ExitCode ExportBoards(const Context& context, const std::string& first, const st
 ExitCode SettingsCommand(const Context& context, const std::string& key,
                          const std::optional<std::string>& value) {
   const Session& session = context.session;
+  // The defaults that hold instead are no answer to what is stored.
+  const ExitCode listed = session.store.Failure().empty() ? ExitCode::Done : ExitCode::Refused;
   if (key.empty()) {
     for (const SettingEntry& entry : SettingTable()) {
       context.data << ListedName(entry) << '=' << ShownName(SettingText(session.settings, entry))
                    << '\n';
     }
-    return ExitCode::Done;
+    return listed;
   }
   const SettingEntry* entry = FindSetting(key);
   if (entry == nullptr) {
@@ -154,7 +154,7 @@ ExitCode SettingsCommand(const Context& context, const std::string& key,
   }
   if (value) return WriteSetting(context, *entry, *value);
   context.data << ShownName(SettingText(session.settings, *entry)) << '\n';
-  return ExitCode::Done;
+  return listed;
 }
 
 std::vector<fs::path> Paths(const std::vector<std::string>& texts) {

@@ -87,6 +87,7 @@ int Execute(const Command& command, const Arguments& arguments, SettingsStore& s
   std::ostream data(&lines);
   Session session(host, named ? static_cast<SettingsStore&>(overlay) : store);
   session.getSolver = console.solver;
+  TellUnreadSettings(session);
   try {
     const ExitCode code = command({session, data, !arguments.root.empty()}, host);
     return static_cast<int>(host.Ended() || host.Failed() ? ExitCode::Refused : code);

@@ -85,8 +85,11 @@ class SettingsStore {
   /// Nothing when the key has never been written.
   virtual std::optional<std::string> Read(std::string_view section, std::string_view key) const = 0;
   virtual void Write(std::string_view section, std::string_view key, const std::string& value) = 0;
-  /// Makes sure that what was written outlasts this program. False when that failed.
+  /// Makes sure that what was written outlasts this program and a power cut. False when that
+  /// failed; the next call tries it again.
   virtual bool Sync() { return true; }
+  /// Why what is stored could not be read; empty when it could. Nothing is stored over it then.
+  virtual std::string Failure() const { return {}; }
 };
 
 /// A store in memory: for tests, and laid over another store to keep some keys from reaching it.
@@ -110,6 +113,7 @@ class OverlayStore : public SettingsStore {
   std::optional<std::string> Read(std::string_view section, std::string_view key) const override;
   void Write(std::string_view section, std::string_view key, const std::string& value) override;
   bool Sync() override { return below_.Sync(); }
+  std::string Failure() const override { return below_.Failure(); }
 
  private:
   SettingsStore& below_;
@@ -150,6 +154,8 @@ std::string SettingText(const Settings& settings, const SettingEntry& entry);
 
 /// The message when `SettingsStore::Sync` has failed.
 inline constexpr const char* kSettingsNotStored = "The settings could not be stored";
+/// The first line of the message when `SettingsStore::Failure` is not empty.
+inline constexpr const char* kSettingsNotRead = "The settings could not be read";
 
 /// Sets the field from `text`; false, and nothing changed, when `text` is no value of its type or
 /// outside its limits. A boolean is "True" or "False" in any letter case, or a whole number: 0 is

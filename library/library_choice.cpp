@@ -30,7 +30,9 @@ void EnterLibrary(Session& session, int index) {
   const LibraryState scanned = ScanLibrary(session.FileLocation() / PathFromText(name));
   session.libIndex = index;
   session.settings.library = name;
-  SaveSetting(session, &Settings::library);
+  SaveSetting(session.settings, EntryOf(&Settings::library), session.store);
+  // The library is entered all the same when this fails. Whatever is stored next brings it along.
+  session.store.Sync();
   session.board.boardNumber = kFirstBoardNumber;
   session.library = scanned;
   LoadHand(session);
@@ -164,6 +166,7 @@ bool CreateLibrary(Session& session, std::string_view name) {
   if (!MakeFolder(session, session.FileLocation() / PathFromText(trimmed))) return false;
   session.settings.library = trimmed;
   GetLibraryNames(session);
+  StoreSettings(session);
   return true;
 }
 

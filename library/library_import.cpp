@@ -132,7 +132,7 @@ bool ImportLibraryFrom(Session& session, const fs::path& folder) {
     return false;
   }
   session.libraryNames = FoldersOf(session.FileLocation());
-  return SelectLibrary(session, name);
+  return SelectLibrary(session, name) && StoreSettings(session);
 }
 
 bool ImportLibraries(Session& session) {

@@ -79,19 +79,38 @@ bool ExportAll(Session& session, const fs::path& folder) {
   return !names.empty() && CopyAll(session, names, folder);
 }
 
+/// Stores another root and current library. Where they cannot be stored, a message says so, and
+/// they are as they were.
+bool StorePlace(Session& session, std::string root, std::string library) {
+  const auto exchange = [&] {
+    root.swap(session.settings.filelocation);
+    library.swap(session.settings.library);
+    SaveSetting(session.settings, EntryOf(&Settings::filelocation), session.store);
+    SaveSetting(session.settings, EntryOf(&Settings::library), session.store);
+  };
+  exchange();
+  if (StoreSettings(session)) return true;
+  exchange();
+  return false;
+}
+
 /// Makes `folder` the library root and keeps to the current library if the folder has it.
 bool SwitchRoot(Session& session, const fs::path& folder) {
   const bool hasCurrent = FolderExists(folder / PathFromText(session.LibraryName()));
   const std::string library = hasCurrent ? session.LibraryName() : "Default";
+  const fs::path current = folder / PathFromText(library);
+  const bool isNew = !IsTaken(current);
   try {
-    MakeFolders(folder / PathFromText(library));
+    MakeFolders(current);
   } catch (const Fault& fault) {
     ErrorReport(session.host, fault);
     return false;
   }
-  session.settings.filelocation = FolderText(folder);
-  SaveSetting(session, &Settings::filelocation);
-  session.settings.library = library;
+  if (!StorePlace(session, FolderText(folder), library)) {
+    std::error_code ignored;
+    if (isNew) fs::remove(current, ignored);
+    return false;
+  }
   session.copyLibrary.clear();  // the same name may be another library here
   GetLibraryNames(session);
   return true;

@@ -23,6 +23,18 @@ fs::path Session::BoardPath(int boardNumber) const {
   return LibraryPath() / BoardFileName(boardNumber);
 }
 
+void TellUnreadSettings(Session& session) {
+  const std::string failure = session.store.Failure();
+  if (!failure.empty()) session.host.Tell(std::string(kSettingsNotRead) + "\n" + failure);
+}
+
+bool StoreSettings(Session& session) {
+  if (session.store.Sync()) return true;
+  session.host.Tell(kSettingsNotStored);
+  session.host.FailureReported();
+  return false;
+}
+
 std::string FolderText(const fs::path& path) {
   return PathText(path / "");
 }

@@ -84,10 +84,18 @@ struct Session {
   std::filesystem::path BoardPath(int boardNumber) const;
 };
 
-/// Stores one setting: `SaveSetting(session, &Settings::autoLaunch)`.
+/// Tells, at the start, when the stored settings could not be read, and why.
+void TellUnreadSettings(Session& session);
+
+/// Brings to the disk what has been written to the store. False, after a message, when that failed.
+bool StoreSettings(Session& session);
+
+/// Stores one setting: `SaveSetting(session, &Settings::autoLaunch)`. False, after a message, when
+/// it could not be stored.
 template <class Value>
-void SaveSetting(Session& session, Value Settings::*member) {
+bool SaveSetting(Session& session, Value Settings::*member) {
   SaveSetting(session.settings, EntryOf(member), session.store);
+  return StoreSettings(session);
 }
 
 /// Restores `batchRunning` however the batch ends.

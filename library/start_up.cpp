@@ -36,7 +36,6 @@ bool ChooseLibraryRoot(Session& session) {
     }
     session.settings.filelocation = FolderText(*chosen);
     SaveSetting(session, &Settings::filelocation);
-    if (!session.store.Sync()) session.host.Tell(kSettingsNotStored);
     return true;
   }
 }

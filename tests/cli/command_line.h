@@ -13,6 +13,14 @@
 
 namespace tricklet::test {
 
+/// Settings on a disk that may be full.
+struct DiskStore : MemoryStore {
+  bool Sync() override { return !full; }
+  std::string Failure() const override { return failure; }
+  bool full = false;
+  std::string failure;
+};
+
 /// The settings name a root, which is empty; "in.pbn" beside it has board 7.
 class CommandLine : public testing::Test {
  protected:
@@ -53,7 +61,7 @@ class CommandLine : public testing::Test {
   }
 
   TempFolder folder;
-  MemoryStore store;
+  DiskStore store;
   std::atomic<bool> interrupted{false};
   std::function<Solver&()> solver;
   std::string out;

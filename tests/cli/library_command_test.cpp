@@ -76,6 +76,25 @@ TEST_F(LibraryCommand, NoNameLeadsOutOfTheRoot) {
   EXPECT_FALSE(Exists("to"));
 }
 
+TEST_F(LibraryCommand, ARootThatCannotBeStoredDoesNotMove) {
+  store.full = true;
+  EXPECT_EQ(Run("--no library move @to"), 1);
+  EXPECT_NE(err.find("The settings could not be stored\n"), std::string::npos) << err;
+  EXPECT_EQ(RootSetting(), FolderText(Root()));
+  EXPECT_FALSE(Exists("to/Default"));
+  EXPECT_EQ(Answer("settings PBNBids False"), "1 The settings could not be stored\n");
+  EXPECT_EQ(Run("boards"), 0) << "which depends on no setting: " << err;
+}
+
+TEST_F(LibraryCommand, SettingsThatCannotBeReadAreNamedOnce) {
+  store.failure = "Permission denied: /settings";
+  EXPECT_EQ(
+      Answer("libraries"),
+      "0 Club\t1\nTeaching\t1\nThe settings could not be read\nPermission denied: /settings\n");
+  EXPECT_EQ(Answer("settings PBNBids"),
+            "1 True\nThe settings could not be read\nPermission denied: /settings\n");
+}
+
 #ifdef __linux__
 TEST_F(LibraryCommand, DeletesToTheRecycleBinOfTheDesktop) {
   ASSERT_EQ(::setenv("XDG_DATA_HOME", File("data").c_str(), 1), 0);

@@ -157,6 +157,7 @@ int RunSession(Application& application, const LaunchOptions& options, Session& 
                QtHost& host) {
   const bool pictureOnly = !options.screenshot.isEmpty();
   ApplyColourScheme(application, session.settings.colourScheme);
+  TellUnreadSettings(session);
   if (!pictureOnly) ShowNotice(session);
   if (!pictureOnly && !session.settings.autoLaunch) {
     frmStart start(session);

@@ -246,7 +246,7 @@ void Commands::Options() {
     if (dialog.exec() != QDialog::Accepted) return;
     session_.settings = dialog.Chosen();
     SaveSettings(session_.settings, session_.store);
-    if (!session_.store.Sync()) session_.host.Tell(kSettingsNotStored);
+    StoreSettings(session_);
     ApplyColourScheme(*qApp, session_.settings.colourScheme);
   });
 }

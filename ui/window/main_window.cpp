@@ -395,6 +395,7 @@ void MainWindow::RestorePlace() {
 void MainWindow::SavePlace() {
   SetPresentation(false);
   session_.store.Write(kPlaceSection, kPlaceKey, saveGeometry().toBase64().toStdString());
+  StoreSettings(session_);
 }
 
 /// The panes derive colours from their palettes, which follow the window's after this event.
