@@ -32,6 +32,18 @@ std::optional<int> MakerOf(std::string_view name) {
   return NumberFromText(name.substr(0, dash));
 }
 
+/// What processes that are gone have left in the folder.
+std::vector<fs::directory_entry> LeftIn(const fs::path& folder) {
+  std::vector<fs::directory_entry> left;
+  std::error_code failure;
+  fs::directory_iterator entry(folder, failure);
+  for (const fs::directory_iterator end; !failure && entry != end; entry.increment(failure)) {
+    const auto maker = MakerOf(PathText(entry->path().filename()));
+    if (maker && *maker > 0 && !ProcessRuns(*maker)) left.push_back(*entry);
+  }
+  return left;
+}
+
 }  // namespace
 
 std::string NewFileName() {
@@ -46,18 +58,18 @@ bool IsOwnName(std::string_view name) {
   return name.starts_with(kOwn);
 }
 
-void SweepLeftovers(Host& host, const fs::path& folder) {
-  std::vector<fs::directory_entry> stale;
-  std::error_code failure;
-  fs::directory_iterator entry(folder, failure);
-  for (const fs::directory_iterator end; !failure && entry != end; entry.increment(failure)) {
-    const auto maker = MakerOf(PathText(entry->path().filename()));
-    if (maker && *maker > 0 && !ProcessRuns(*maker)) stale.push_back(*entry);
+void SweepFiles(const fs::path& folder) {
+  for (const fs::directory_entry& left : LeftIn(folder)) {
+    std::error_code failure;
+    if (fs::is_regular_file(left.symlink_status(failure))) fs::remove(left.path(), failure);
   }
-  for (const fs::directory_entry& left : stale) {
-    const fs::file_status status = left.symlink_status(failure);
-    if (fs::is_regular_file(status)) fs::remove(left.path(), failure);
-    if (fs::is_directory(status)) host.Recycle(left.path());
+}
+
+void SweepLeftovers(Host& host, const fs::path& folder) {
+  SweepFiles(folder);
+  for (const fs::directory_entry& left : LeftIn(folder)) {
+    std::error_code failure;
+    if (fs::is_directory(left.symlink_status(failure))) host.Recycle(left.path());
   }
 }
 

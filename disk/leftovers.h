@@ -20,6 +20,9 @@ std::string NewFolderName();
 /// listed or copied.
 bool IsOwnName(std::string_view name);
 
+/// Removes incomplete files from the folder whose process is gone. What cannot be removed stays.
+void SweepFiles(const std::filesystem::path& folder);
+
 /// Removes incomplete files from the folder whose process is gone; a folder goes to the recycle
 /// bin, as it may hold files that were being replaced. What cannot be removed stays.
 void SweepLeftovers(Host& host, const std::filesystem::path& folder);

@@ -7,7 +7,6 @@
 #include <ctime>
 #include <fcntl.h>
 #include <optional>
-#include <pwd.h>
 #include <ranges>
 #include <string>
 #include <string_view>
@@ -20,6 +19,7 @@
 #include "core/text.h"
 #include "disk/native_file.h"
 #include "disk/presence.h"
+#include "platform/home_folder.h"
 
 namespace tricklet::platform {
 namespace {
@@ -79,11 +79,9 @@ dev_t VolumeOf(const fs::path& path) {
 fs::path DataHome() {
   const char* named = std::getenv("XDG_DATA_HOME");
   if (named != nullptr && *named == '/') return named;
-  const char* home = std::getenv("HOME");
-  const passwd* user = home == nullptr ? ::getpwuid(::getuid()) : nullptr;
-  if (user != nullptr) home = user->pw_dir;
-  if (home == nullptr || *home != '/') throw Fault(FaultNumber::PathNotFound, "No home folder");
-  return fs::path(home) / ".local/share";
+  const fs::path home = HomeFolder();
+  if (home.empty()) throw Fault(FaultNumber::PathNotFound, kNoHomeFolder);
+  return home / ".local/share";
 }
 
 /// A folder, no link to one, and the user's own: nobody else decides where it leads.
