@@ -148,7 +148,8 @@ INSTANTIATE_TEST_SUITE_P(
         Command{"LibraryImport", "library import more", "root/more/001.txt"},
         Command{"LibraryMove", "library move elsewhere", "elsewhere/Sample/001.txt"},
         Command{"LibraryDelete", "--library Other library delete Sample",
-                "data/Trash/files/Sample"}),
+                "data/Trash/files/Sample"},
+        Command{"Setting", "settings PBNBids False", "config/Tricklet/QEN Bridge Scorer.conf"}),
     [](const auto& each) { return each.param.name; });
 
 }  // namespace
