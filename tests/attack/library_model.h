@@ -37,7 +37,9 @@ class LibraryModel {
     Files files;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(top_)) {
       const std::string name = entry.path().filename().string();
-      const bool ours = name.starts_with(".tricklet-");
+      const bool ours =
+          name.starts_with(".tricklet-") &&
+          entry.path().parent_path().parent_path() != top_ / "bin";  // copies not finished
       if (ours || (entry.is_regular_file() && BoardNumberOfFile(name) != 0)) {
         files[entry.path()] = entry.is_regular_file() ? ReadFile(entry.path()) : "";
       }

@@ -103,7 +103,9 @@ class Monkey {
 
   template <class Item>
   Item* OneOf(const QList<Item*>& items) {
-    return items.isEmpty() ? nullptr : items.at(static_cast<int>(random_() % items.size()));
+    return items.isEmpty() ? nullptr
+                           : items.at(static_cast<qsizetype>(
+                                 random_() % static_cast<std::size_t>(items.size())));
   }
   template <class Part>
   Part* AnyPart(QWidget* top) {

@@ -215,7 +215,7 @@ void MainWindow::DisplayDeal() {
 }
 
 QString MainWindow::StatusText() const {
-  if (const QString text = watch_->Text(); !text.isEmpty()) return text;
+  if (QString text = watch_->Text(); !text.isEmpty()) return text;
   const Board& board = session_.board;
   if (board.handChanged) {
     return tr("Board %1 has changes that are not saved").arg(board.boardNumber);
