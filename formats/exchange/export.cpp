@@ -6,6 +6,7 @@
 #include "core/fault.h"
 #include "core/text.h"
 #include "disk/file_io.h"
+#include "disk/leftovers.h"
 #include "disk/presence.h"
 #include "formats/dlm/dlm_writer.h"
 #include "formats/exchange/file_type.h"
@@ -188,6 +189,8 @@ bool WriteRange(Session& session, const ExportRange& range, const fs::path& path
       const BatchScope batch(session);
       collect(session, range, run);
     }
+    // Of an export that was killed, which nobody else looks for in a folder of the person's own.
+    SweepLeftovers(session.host, path.has_parent_path() ? path.parent_path() : fs::path("."));
     // A part is no reason to lose a whole file.
     const bool keepsOld = run.cancelled && FileExists(path);
     if (!keepsOld) ReplaceWholeFile(path, run.text);
