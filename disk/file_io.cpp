@@ -36,13 +36,26 @@ NativeFile MakeBeside(const fs::path& path, fs::path& beside) {
   }
 }
 
-/// Puts `beside` in the place of `path`, which may be marked read-only. The owner has decided who
-/// may use the file, so the new one keeps the permissions of the old.
+/// Gives `beside` the permissions of the file `path`, if there is one: its owner has decided who
+/// may use it. That some are missing afterwards, as on disks that know few, is no failure.
+std::error_code KeepPermissions(const fs::path& beside, const fs::path& path) {
+  std::error_code failure;
+  const fs::file_status old = fs::status(path, failure);
+  if (!fs::exists(old)) return old.type() == fs::file_type::not_found ? std::error_code() : failure;
+  fs::permissions(beside, old.permissions() & fs::perms::all, failure);
+  if (!failure) return {};
+  std::error_code unseen;
+  const fs::perms granted = fs::status(beside, unseen).permissions();
+  const bool more = unseen || (granted & ~old.permissions()) != fs::perms::none;
+  return more ? failure : std::error_code();
+}
+
+/// Puts `beside` in the place of `path`, which may be marked read-only.
 std::error_code Place(const fs::path& beside, const fs::path& path) {
   std::error_code ignored;
-  const fs::file_status old = fs::status(path, ignored);
-  if (fs::exists(old)) fs::permissions(beside, old.permissions() & fs::perms::all, ignored);
-  std::error_code failure = RenameOver(beside, path);
+  std::error_code failure = KeepPermissions(beside, path);
+  if (failure) return failure;
+  failure = RenameOver(beside, path);
   if (!failure || !IsReadOnly(path)) return failure;
   // On this system the mark protects the name as well.
   fs::permissions(path, fs::perms::owner_write, fs::perm_options::add, ignored);
