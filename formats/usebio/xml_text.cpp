@@ -191,7 +191,8 @@ XmlText DecodeXml(std::string file) {
   using namespace std::string_view_literals;
   for (const bool big : {false, true}) {
     const bool marked = bytes.starts_with(big ? kBigMark : kLittleMark);
-    if (!marked && !bytes.starts_with(big ? "\0<"sv : "<\0"sv)) continue;
+    // After a mark of UTF-8 the units of UTF-16 cannot follow, whatever the bytes look like.
+    if (marked8 || (!marked && !bytes.starts_with(big ? "\0<"sv : "<\0"sv))) continue;
     return {Utf16ToUtf8(bytes.substr(marked ? kLittleMark.size() : 0), big),
             big ? XmlEncoding::Utf16Big : XmlEncoding::Utf16Little};
   }
