@@ -191,8 +191,7 @@ XmlText DecodeXml(std::string file) {
   using namespace std::string_view_literals;
   for (const bool big : {false, true}) {
     const bool marked = bytes.starts_with(big ? kBigMark : kLittleMark);
-    // After a mark of UTF-8 the units of UTF-16 cannot follow, whatever the bytes look like.
-    if (marked8 || (!marked && !bytes.starts_with(big ? "\0<"sv : "<\0"sv))) continue;
+    if (!marked && !bytes.starts_with(big ? "\0<"sv : "<\0"sv)) continue;
     return {Utf16ToUtf8(bytes.substr(marked ? kLittleMark.size() : 0), big),
             big ? XmlEncoding::Utf16Big : XmlEncoding::Utf16Little};
   }
@@ -200,8 +199,11 @@ XmlText DecodeXml(std::string file) {
   if (marked8 && utf8) return {std::move(file), XmlEncoding::Utf8Marked};
   const auto declared = DeclaredEncoding(bytes);
   if (!declared && utf8) return {std::move(file), XmlEncoding::Utf8};
-  if (declared == XmlEncoding::Latin1) return {Latin1ToUtf8(bytes), XmlEncoding::Latin1};
-  return {Windows1252ToUtf8(bytes), XmlEncoding::Windows1252};
+  const bool latin1 = declared == XmlEncoding::Latin1;
+  std::string text = latin1 ? Latin1ToUtf8(bytes) : Windows1252ToUtf8(bytes);
+  // What follows the mark may look like another one, so it is written back with its mark.
+  if (marked8) return {std::move(text), XmlEncoding::Utf8Marked};
+  return {std::move(text), latin1 ? XmlEncoding::Latin1 : XmlEncoding::Windows1252};
 }
 
 std::string EncodeXml(const XmlText& xml) {
