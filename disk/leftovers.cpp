@@ -44,6 +44,12 @@ std::vector<fs::directory_entry> LeftIn(const fs::path& folder) {
   return left;
 }
 
+/// Folders and links stay; so does what cannot be removed.
+void RemoveFile(const fs::directory_entry& left) {
+  std::error_code failure;
+  if (fs::is_regular_file(left.symlink_status(failure))) fs::remove(left.path(), failure);
+}
+
 }  // namespace
 
 std::string NewFileName() {
@@ -59,16 +65,13 @@ bool IsOwnName(std::string_view name) {
 }
 
 void SweepFiles(const fs::path& folder) {
-  for (const fs::directory_entry& left : LeftIn(folder)) {
-    std::error_code failure;
-    if (fs::is_regular_file(left.symlink_status(failure))) fs::remove(left.path(), failure);
-  }
+  for (const fs::directory_entry& left : LeftIn(folder)) RemoveFile(left);
 }
 
 void SweepLeftovers(Host& host, const fs::path& folder) {
-  SweepFiles(folder);
   for (const fs::directory_entry& left : LeftIn(folder)) {
     std::error_code failure;
+    RemoveFile(left);
     if (fs::is_directory(left.symlink_status(failure))) host.Recycle(left.path());
   }
 }
