@@ -58,7 +58,7 @@ std::optional<LibraryWrite> BeginReplacing(Session& session,
 std::string ReplaceChangedQuestion(const Session& session, DiskChange change,
                                    const std::string& replacement) {
   return "Board " + std::to_string(session.board.boardNumber) + " in the library " +
-         session.LibraryName() + " has been " +
+         session.ShownLibrary() + " has been " +
          (change == DiskChange::Added ? "added" : "changed") +
          " by another program since it was opened.\nDo you want to replace it with " + replacement +
          "?";
