@@ -1,5 +1,5 @@
-"""Attacks the command line: system calls fail, programs are killed or meet each other, files are
-damaged. Ends with exit 1 when something was found, each finding with the command to repeat it."""
+"""Attacks the program: system calls fail, programs are killed or meet each other, files are damaged,
+the window is clicked at random. Ends with exit 1 when something was found, each finding with the command to repeat it."""
 
 import argparse
 import collections
@@ -7,6 +7,7 @@ import contextlib
 import os
 import pathlib
 import random
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -18,7 +19,8 @@ import mutants
 import programs
 import stage
 
-SHARES = {"faults": 5, "kills": 2, "programs": 2, "mutants": 2, "window": 2}
+# Of the time; the order of the calls is looked at once, which takes some seconds.
+SHARES = {"order": 0, "faults": 5, "kills": 2, "programs": 2, "mutants": 2, "window": 2}
 MOST_FINDINGS = 40  # printed; more are counted
 
 
@@ -29,7 +31,7 @@ class Report:
         self.found = 0
         self.seen = set()
 
-    def take(self, case, texts):
+    def take(self, case, texts, repeat=None):
         with self.lock:
             self.ran[case.split("/")[0]] += 1
             self.found += bool(texts)
@@ -37,7 +39,7 @@ class Report:
             if texts and (command, texts[0]) not in self.seen and len(self.seen) < MOST_FINDINGS:
                 self.seen.add((command, texts[0]))
                 print(f"FOUND: {case}: " + "\n       ".join(texts) +
-                      f"\n       repeat: scripts/attack --case {case}", flush=True)
+                      f"\n       repeat: scripts/attack {repeat or '--case ' + case}", flush=True)
 
 
 class Part:
@@ -97,12 +99,21 @@ def attack(name, tools, folder, options, seconds, report):
         raise failures[0]
 
 
-def attack_window(program, options, seconds, report):
-    """The window has a program of its own, which says by itself what it finds."""
-    ended = subprocess.run([program, "--minutes", f"{seconds / 60:.2f}", "--seed", str(options.seed)],
-                           env={**os.environ, "QT_QPA_PLATFORM": "offscreen"}, check=False)
-    texts = [] if ended.returncode == 0 else [f"the window's attack ended with {ended.returncode}"]
-    report.take("window/all", texts)
+def program_of(name, options, seconds):
+    """The command of a part that is a program of its own and says by itself what it finds; or None."""
+    tests = options.build / "tests"
+    return {
+        "order": [tests / "tricklet_durability_test", "--gtest_brief=1"],
+        "window": [tests / "tricklet_window_monkey", "--minutes", f"{seconds / 60:.2f}",
+                   "--seed", str(options.seed)],
+    }.get(name)
+
+
+def attack_by_program(name, command, options, report):
+    ended = subprocess.run(command, env={**os.environ, "QT_QPA_PLATFORM": "offscreen"}, check=False)
+    texts = [f"it ended with {ended.returncode}"] if ended.returncode else []
+    repeat = f"--parts {name} --minutes {options.minutes} --seed {options.seed}"
+    report.take(f"{name}/all", texts, repeat)
 
 
 def read_options():
@@ -130,28 +141,34 @@ def scratch():
         yield pathlib.Path(folder)
 
 
+def attack_all(tools, folder, options, report):
+    """Each part of those that were built has its share of the time."""
+    names = [name for name in options.parts.split(",")
+             if (program_of(name, options, 0) or [options.build])[0].exists()]
+    whole = sum(SHARES[name] for name in names) or 1
+    for name in names:
+        seconds = options.minutes * 60 * SHARES[name] / whole
+        command = program_of(name, options, seconds)
+        if command:
+            attack_by_program(name, command, options, report)
+        else:
+            attack(name, tools, folder, options, seconds, report)
+
+
 def main():
     options = read_options()
-    tools = stage.Tools(str(options.build / "cli/tricklet-cli"),
-                        str(options.build / "tests/libtricklet_file_calls.so"),
-                        pathlib.Path(__file__).resolve().parents[2])
-    window = options.build / "tests/tricklet_window_monkey"
     report = Report()
     print(f"seed {options.seed}", flush=True)
     with scratch() as folder:
+        # Its own path may hold a blank, which would end the name of what is preloaded.
+        calls = shutil.copy(options.build / "tests/libtricklet_file_calls.so", folder)
+        tools = stage.Tools(str(options.build / "cli/tricklet-cli"), str(calls),
+                            pathlib.Path(__file__).resolve().parents[2])
         if options.case:
             part = Part(options.case.split("/")[0], stage.Stage(tools, folder))
             report.take(options.case, part.run(options.case))
         else:
-            names = [name for name in options.parts.split(",")
-                     if name != "window" or window.exists()]
-            whole = sum(SHARES[name] for name in names)
-            for name in names:
-                seconds = options.minutes * 60 * SHARES[name] / whole
-                if name == "window":
-                    attack_window(window, options, seconds, report)
-                else:
-                    attack(name, tools, folder, options, seconds, report)
+            attack_all(tools, folder, options, report)
     print("ran " + ", ".join(f"{count} {name}" for name, count in report.ran.items()) +
           f"; {report.found} with a finding")
     return 1 if report.found else 0

@@ -113,8 +113,10 @@ class Durability : public testing::TestWithParam<Command> {
 TEST_P(Durability, WhatIsReportedAsDoneIsOnTheDisk) {
   const Command& command = GetParam();
   const fs::path calls = folder.Path() / "calls";
-  const std::string watch = "LD_PRELOAD='" TRICKLET_FILE_CALLS "' TRICKLET_WATCH='" +
-                            PathText(folder.Path()) + "' TRICKLET_CALLS='" + PathText(calls) + "'";
+  // Without the path: a blank in it would end the name of what is preloaded.
+  fs::create_symlink(TRICKLET_FILE_CALLS, folder.Path() / "watcher.so");
+  const std::string watch = "LD_PRELOAD=./watcher.so TRICKLET_WATCH='" + PathText(folder.Path()) +
+                            "' TRICKLET_CALLS='" + PathText(calls) + "'";
   ASSERT_EQ(Run(command.arguments, watch), 0) << ReadFile(folder.Path() / "said");
   EXPECT_TRUE(fs::exists(folder.Path() / command.result));
   Disk disk;
