@@ -1,6 +1,7 @@
 #include "library/library_choice.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "core/fault.h"
 #include "core/text.h"
@@ -60,18 +61,26 @@ std::string TrimQuestion(int highest, int maxBoard) {
   return text + "\n\nClick yes to send them to the recycle bin";
 }
 
-/// False, after a message, when another program is changing the library.
-bool RecycleBoardsAbove(Session& session, int highest) {
+/// The highest board of the list afterwards: when the person cancels, the list stays as it was.
+/// Nothing, after a message, when another program is changing the library.
+std::optional<int> RecycleBoardsAbove(Session& session, int highest) {
   auto write = LibraryWrite::Begin(session);
-  if (!write) return false;
+  if (!write) return std::nullopt;
+  int listed = highest;
+  const WorkScope work(session.host);
+  const int count = session.library.maxBoard - highest;
   for (int number = highest + 1; number <= session.library.maxBoard; ++number) {
+    if (!session.host.Step("Removing hand " + std::to_string(number), number - highest, count)) {
+      listed = session.library.maxBoard;
+      break;
+    }
     const fs::path path = session.BoardPath(number);
     // A failure is not reported: the count afterwards shows what really remains.
     if (FileExists(path)) session.host.Recycle(path);
   }
   write->Unflushed().Add(session.LibraryPath());
   write->Finish();
-  return true;
+  return listed;
 }
 
 }  // namespace
@@ -142,10 +151,11 @@ bool SetMaxBoard(Session& session, int highest) {
                        Buttons::YesNo) != Answer::Yes) {
     return false;
   }
-  if (!RecycleBoardsAbove(session, highest)) return false;
-  library.maxBoard = highest;
-  if (session.board.boardNumber > highest) {
-    session.board.boardNumber = highest;
+  const auto listed = RecycleBoardsAbove(session, highest);
+  if (!listed) return false;
+  library.maxBoard = *listed;
+  if (session.board.boardNumber > *listed) {
+    session.board.boardNumber = *listed;
     LoadHand(session);
   }
   CountHands(session);

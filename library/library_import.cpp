@@ -126,13 +126,12 @@ bool ImportLibrary(Session& session) {
 bool ImportLibraryFrom(Session& session, const fs::path& folder) {
   const fs::path from = FolderNamed(folder);
   const std::string name = PathText(from.filename());
-  if (!RequireFolder(session, from) || !AcceptImport(session, from) ||
-      !CopyLibraryFolder(session, from, FolderNamed(session.FileLocation()), name,
-                         {.files = FileNames::OfBoards})) {
-    return false;
-  }
+  if (!RequireFolder(session, from) || !AcceptImport(session, from)) return false;
+  const Copied copied = CopyLibraryFolder(session, from, FolderNamed(session.FileLocation()), name,
+                                          {.files = FileNames::OfBoards});
+  if (copied == Copied::Nothing) return false;
   session.libraryNames = FoldersOf(session.FileLocation());
-  return SelectLibrary(session, name) && StoreSettings(session);
+  return SelectLibrary(session, name) && StoreSettings(session) && copied == Copied::Whole;
 }
 
 bool ImportLibraries(Session& session) {
@@ -152,14 +151,14 @@ bool ImportLibrariesFrom(Session& session, const fs::path& folder) {
     session.host.Tell(NothingText(groups, from));
     return false;
   }
-  if (!AskToChoose(session, QuestionText(groups, from)) ||
-      !CopyLibraries(session, from, groups.toCopy, FolderNamed(session.FileLocation()),
-                     {Unsaved::Stay, FileNames::OfBoards})) {
-    return false;
-  }
+  if (!AskToChoose(session, QuestionText(groups, from))) return false;
+  const Copied copied =
+      CopyLibraries(session, from, groups.toCopy, FolderNamed(session.FileLocation()),
+                    {Unsaved::Stay, FileNames::OfBoards});
+  if (copied == Copied::Nothing) return false;
   session.host.Tell(ReportText(groups));
   RefreshLibraryNames(session);
-  return true;
+  return copied == Copied::Whole;
 }
 
 }  // namespace tricklet

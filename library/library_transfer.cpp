@@ -63,20 +63,21 @@ bool MayOverwrite(Session& session, const std::vector<std::string>& names, const
 }
 
 /// Copies these libraries of the root into another root-to-be.
-bool CopyAll(Session& session, const std::vector<std::string>& names, const fs::path& folder) {
+Copied CopyAll(Session& session, const std::vector<std::string>& names, const fs::path& folder) {
   const fs::path root = FolderNamed(session.FileLocation());
   if (FolderLiesIn(folder, root)) {
     session.host.Tell("A folder cannot be copied into itself:\n" + ShownPath(root) + "\nto " +
                       ShownPath(folder));
-    return false;
+    return Copied::Nothing;
   }
-  return MayOverwrite(session, names, folder) && CopyLibraries(session, root, names, folder, {});
+  if (!MayOverwrite(session, names, folder)) return Copied::Nothing;
+  return CopyLibraries(session, root, names, folder, {});
 }
 
 bool ExportAll(Session& session, const fs::path& folder) {
   if (AskToCopyAll(session, folder) != Answer::Yes) return false;
   const std::vector<std::string> names = RequireLibraries(session);
-  return !names.empty() && CopyAll(session, names, folder);
+  return !names.empty() && CopyAll(session, names, folder) == Copied::Whole;
 }
 
 /// Stores another root and current library. Where they cannot be stored, a message says so, and
@@ -116,11 +117,21 @@ bool SwitchRoot(Session& session, const fs::path& folder) {
   return true;
 }
 
+/// Copies all libraries. A root without what was left out would hide it, and is not moved to.
+bool CopyWhole(Session& session, const fs::path& folder) {
+  const Copied copied = CopyAll(session, FoldersOf(session.FileLocation()), folder);
+  if (copied == Copied::Partly) {
+    session.host.Tell("Your library of hands stays in\n" +
+                      ShownName(session.settings.filelocation));
+  }
+  return copied == Copied::Whole;
+}
+
 /// Copies the libraries if the person wants it; false when the root is not to move.
 bool PrepareMove(Session& session, const fs::path& folder) {
   switch (AskToCopyAll(session, folder)) {
     case Answer::Yes:
-      return CopyAll(session, FoldersOf(session.FileLocation()), folder);
+      return CopyWhole(session, folder);
     case Answer::No:
       return SettleChanges(session);
     default:
@@ -155,7 +166,8 @@ bool ExportLibraryTo(Session& session, const fs::path& folder) {
               "That folder already exists\nDo you wish to overwrite any existing boards?")) {
     return false;
   }
-  return CopyLibraryFolder(session, session.LibraryPath(), into, session.LibraryName(), {});
+  return CopyLibraryFolder(session, session.LibraryPath(), into, session.LibraryName(), {}) ==
+         Copied::Whole;
 }
 
 bool ExportLibraries(Session& session) {
@@ -190,12 +202,10 @@ bool MoveLibrariesTo(Session& session, const fs::path& folder) {
 bool CopyLibrary(Session& session, std::string_view name) {
   const std::string trimmed(Trim(name));
   if (!AcceptNewName(session, trimmed)) return false;
-  if (!CopyLibraryFolder(session, session.LibraryPath(), FolderNamed(session.FileLocation()),
-                         trimmed, {})) {
-    return false;
-  }
-  RefreshLibraryNames(session);
-  return true;
+  const Copied copied = CopyLibraryFolder(session, session.LibraryPath(),
+                                          FolderNamed(session.FileLocation()), trimmed, {});
+  if (copied != Copied::Nothing) RefreshLibraryNames(session);
+  return copied == Copied::Whole;
 }
 
 std::vector<std::string> RequireLibraries(Session& session) {

@@ -44,30 +44,29 @@ bool LockTargets(Session& session, const std::vector<Pair>& pairs,
   return true;
 }
 
-bool Copy(Session& session, const std::vector<Pair>& pairs, const fs::path& into,
-          CopyManner manner) {
+Copied Copy(Session& session, const std::vector<Pair>& pairs, const fs::path& into,
+            CopyManner manner) {
   FolderCopy copy(session.host, into);
   for (const Pair& pair : pairs) {
-    if (!MayCopy(session, pair)) return false;
+    if (!MayCopy(session, pair)) return Copied::Nothing;
     copy.Add(pair.from, pair.name, manner.files);
   }
-  if (manner.unsaved == Unsaved::Settled && !SettleChanges(session)) return false;
+  if (manner.unsaved == Unsaved::Settled && !SettleChanges(session)) return Copied::Nothing;
   std::vector<std::unique_ptr<WriteLock>> locks;
-  if (!LockTargets(session, pairs, locks)) return false;
+  if (!LockTargets(session, pairs, locks)) return Copied::Nothing;
   try {
     if (!copy.Run()) {
       session.host.Tell("Copying cancelled");
-      return false;
+      return Copied::Nothing;
     }
   } catch (const std::exception& failure) {
     ErrorReport(session.host, FaultFrom(failure));
-    return false;
+    return Copied::Nothing;
   }
-  if (copy.LeftOut() > 0) {
-    session.host.Tell("Links and special files are not copied: " + std::to_string(copy.LeftOut()) +
-                      " left out");
-  }
-  return true;
+  if (copy.LeftOut() == 0) return Copied::Whole;
+  session.host.Tell("Links and special files are not copied: " + std::to_string(copy.LeftOut()) +
+                    " left out");
+  return Copied::Partly;
 }
 
 }  // namespace
@@ -89,16 +88,16 @@ bool AskToChoose(Session& session, const std::string& text) {
   return session.host.Ask(text, std::string(kProgramName), Buttons::OKCancel) == Answer::OK;
 }
 
-bool CopyLibraries(Session& session, const fs::path& from, const std::vector<std::string>& names,
-                   const fs::path& to, CopyManner manner) {
+Copied CopyLibraries(Session& session, const fs::path& from, const std::vector<std::string>& names,
+                     const fs::path& to, CopyManner manner) {
   std::vector<Pair> pairs;
   pairs.reserve(names.size());
   for (const std::string& name : names) pairs.push_back({from / PathFromText(name), to, name});
   return Copy(session, pairs, to, manner);
 }
 
-bool CopyLibraryFolder(Session& session, const fs::path& from, const fs::path& to,
-                       const std::string& name, CopyManner manner) {
+Copied CopyLibraryFolder(Session& session, const fs::path& from, const fs::path& to,
+                         const std::string& name, CopyManner manner) {
   return Copy(session, {{from, to, name}}, to, manner);
 }
 

@@ -35,13 +35,20 @@ struct CopyManner {
   FileNames files = FileNames::Kept;
 };
 
-/// Copies the folders `names` of `from` into `to`. False when that was refused, failed or was
-/// cancelled, which is told or reported; what was copied has then been undone.
-bool CopyLibraries(Session& session, const std::filesystem::path& from,
-                   const std::vector<std::string>& names, const std::filesystem::path& to,
-                   CopyManner manner);
-/// Copies the folder `from` into `to`, where its name is `name`. False as `CopyLibraries`.
-bool CopyLibraryFolder(Session& session, const std::filesystem::path& from,
-                       const std::filesystem::path& to, const std::string& name, CopyManner manner);
+/// How a copy ended. What is not whole has been told or reported.
+enum class Copied : std::uint8_t {
+  Nothing,  ///< it was refused, failed or was cancelled; what was copied has been undone
+  Partly,   ///< links and special files were left out
+  Whole,
+};
+
+/// Copies the folders `names` of `from` into `to`.
+Copied CopyLibraries(Session& session, const std::filesystem::path& from,
+                     const std::vector<std::string>& names, const std::filesystem::path& to,
+                     CopyManner manner);
+/// Copies the folder `from` into `to`, where its name is `name`.
+Copied CopyLibraryFolder(Session& session, const std::filesystem::path& from,
+                         const std::filesystem::path& to, const std::string& name,
+                         CopyManner manner);
 
 }  // namespace tricklet

@@ -94,10 +94,17 @@ TEST_F(LibraryStore, TrimmingAsksAndRecycles) {
   EXPECT_EQ(Shown(), "Club 20 of 20, 1 stored");
   EXPECT_EQ(Joined(host.recycled), "024.txt, 021.txt, 022.txt");
 
+  for (const int number : {21, 22, 23}) PutBoard(number);
+  FindFiles(session);
+  host.cancelAtStep = static_cast<int>(host.steps.size()) + 2;
+  host.ExpectAskWith("hands 21 to 23", Answer::Yes);
+  EXPECT_TRUE(SetMaxBoard(session, 20));
+  EXPECT_EQ(Shown(), "Club 20 of 23, 3 stored") << "what was not removed is still there";
+
   EXPECT_TRUE(SetMaxBoard(session, 999));
   EXPECT_FALSE(SetMaxBoard(session, 1000));
   EXPECT_FALSE(SetMaxBoard(session, 0));
-  EXPECT_EQ(Shown(), "Club 20 of 999, 1 stored");
+  EXPECT_EQ(Shown(), "Club 20 of 999, 3 stored");
   EXPECT_EQ(host.beeps, 2);
 }
 

@@ -142,6 +142,21 @@ TEST_F(LibraryTransfer, MovingIsACopyAndASwitchOfTheRoot) {
   EXPECT_EQ(FoldersOf(Root()).size(), 2U) << "the old root stays";
 }
 
+TEST_F(LibraryTransfer, ACopyThatLeavesALinkOutIsNotTheWhole) {
+  const std::string leftOut = "Links and special files are not copied: 1 left out";
+  fs::create_symlink(Root() / "Teaching" / "007.txt", Root() / "Teaching" / "008.txt");
+  ExpectCopyQuestion(Answer::Yes);
+  host.ExpectTell(leftOut);
+  host.ExpectTell("Your library of hands stays in\n" + RootText());
+  EXPECT_FALSE(MoveLibrariesTo(session, Other()));
+  EXPECT_EQ(session.settings.filelocation, RootText());
+
+  ASSERT_TRUE(SelectLibrary(session, "Teaching"));
+  host.ExpectTell(leftOut);
+  EXPECT_FALSE(CopyLibrary(session, "Copy"));
+  EXPECT_EQ(Joined(session.libraryNames), "Club, Copy, Teaching");
+}
+
 TEST_F(LibraryTransfer, ChangesAreSettledOnlyOnceTheCopyIsCertain) {
   session.board.handChanged = true;
   for (const auto& command : {ExportLibrariesTo, MoveLibrariesTo}) {
