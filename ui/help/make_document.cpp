@@ -1,8 +1,14 @@
 // Makes the document that a help command opens: make_document IN.md OUT.pdf
+//
+// The same text gives the same file, byte for byte, where SOURCE_DATE_EPOCH has the time that the
+// document is to bear (https://reproducible-builds.org/specs/source-date-epoch/).
 #include <cstdio>
 
+#include <QBuffer>
+#include <QDateTime>
 #include <QFile>
 #include <QGuiApplication>
+#include <QHashSeed>
 #include <QPageSize>
 #include <QPdfWriter>
 #include <QTextDocument>
@@ -25,8 +31,23 @@ void StyleTables(const QTextDocument& document) {
   }
 }
 
-bool Write(const QString& markdown, const QString& file) {
-  QPdfWriter pdf(file);
+/// Puts the time of SOURCE_DATE_EPOCH, when there is one, in the place of the time of writing. The
+/// length stays, and with it the places of the objects that follow.
+void SetCreationDate(QByteArray& pdf) {
+  bool isNumber = false;
+  const qint64 seconds = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&isNumber);
+  const QByteArray key = QByteArrayLiteral("/CreationDate (D:");
+  const auto place = pdf.indexOf(key);
+  if (!isNumber || place < 0) return;
+  const QString date = QDateTime::fromSecsSinceEpoch(seconds).toString(u"yyyyMMddHHmmss");
+  pdf.replace(place + key.size(), date.size(), date.toLatin1());
+}
+
+QByteArray ToPdf(const QString& markdown) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  QPdfWriter pdf(&buffer);
   pdf.setCreator(QStringLiteral("Tricklet"));
   pdf.setTitle(QStringLiteral("Tricklet"));
   pdf.setPageSize(QPageSize(QPageSize::A4));
@@ -38,13 +59,22 @@ bool Write(const QString& markdown, const QString& file) {
   document.setMarkdown(markdown);
   StyleTables(document);
   document.print(&pdf);
-  return QFile(file).size() > 0;
+  SetCreationDate(bytes);
+  return bytes;
+}
+
+bool Write(const QString& file, const QByteArray& bytes) {
+  QFile output(file);
+  return !bytes.isEmpty() && output.open(QIODevice::WriteOnly) &&
+         output.write(bytes) == bytes.size() && output.flush();
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");  // it may be made where there is no screen
+  qputenv("TZ", "UTC0");
+  QHashSeed::setDeterministicGlobalSeed();  // by which the writer orders fonts and pictures
   const QGuiApplication application(argc, argv);
   const QStringList arguments = QCoreApplication::arguments();
   if (arguments.size() != 3) return 2;
@@ -53,5 +83,8 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "%s cannot be read\n", argv[1]);
     return 1;
   }
-  return Write(QString::fromUtf8(source.readAll()), arguments.at(2)) ? 0 : 1;
+  const QByteArray pdf = ToPdf(QString::fromUtf8(source.readAll()));
+  if (Write(arguments.at(2), pdf)) return 0;
+  std::fprintf(stderr, "%s cannot be written\n", argv[2]);
+  return 1;
 }
