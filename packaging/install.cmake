@@ -11,6 +11,7 @@ foreach(program IN ITEMS tricklet tricklet-cli)
 endforeach()
 
 install(FILES LICENSE README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR})
 get_property(documents GLOBAL PROPERTY TRICKLET_DOCUMENTS)
 if(documents)
   install(FILES ${documents} DESTINATION ${TRICKLET_DOCUMENT_DIR})
