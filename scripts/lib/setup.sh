@@ -26,6 +26,7 @@ fuzz_packages=("clang-$clang_version" "libclang-rt-$clang_version-dev")
 smoke_packages=(xvfb xauth x11-utils)
 attack_packages=(python3)
 debian_packages=(debhelper dpkg-dev lintian)
+root_packages=(mmdebstrap)
 power_packages=(e2fsprogs xfsprogs btrfs-progs)
 
 # Caches are where the user's are, so that a fresh checkout does not begin anew. Settings and runtime
