@@ -23,6 +23,7 @@
 #include "library/library_names.h"
 #include "library/library_scan.h"
 #include "library/transfer_steps.h"
+#include "update/update_address.h"
 
 namespace tricklet::cli {
 namespace {
@@ -46,6 +47,12 @@ ExitCode WriteSetting(const Context& context, const SettingEntry& entry, std::st
     value = FolderText(root);
   }
   if (entry.key == "library" && !AcceptLibraryName(session.host, value)) return ExitCode::Refused;
+  if (entry.key == "UpdateAddress" && !value.empty()) {
+    if (const std::string error = UpdateAddressError(value); !error.empty()) {
+      session.host.Tell(error);
+      return ExitCode::Refused;
+    }
+  }
   if (!SetFromText(session.settings, entry, value)) {
     session.host.Tell(ShownName(value) + " is no value of " + ListedName(entry));
     return ExitCode::Refused;

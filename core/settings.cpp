@@ -43,6 +43,7 @@ constexpr std::array kTable{
     SettingEntry{kOptions, "EditMethod", "1", TRICKLET_FIELD(editMethod), 1, 3},
     SettingEntry{kOptions, "ShowMessage", "0", TRICKLET_FIELD(showMessage), 0, 99999},
     SettingEntry{kOptions, "SolverHost", "", TRICKLET_FIELD(solverHost)},
+    SettingEntry{kOptions, "UpdateAddress", "", TRICKLET_FIELD(updateAddress)},
     SettingEntry{kOptions, "ColourScheme", "0", TRICKLET_FIELD(colourScheme), 0, 2},
     SettingEntry{"HGFont0", "Name", "Arial Narrow", TRICKLET_FIELD(hgFont[0].name)},
     SettingEntry{"HGFont0", "Size", "24", TRICKLET_FIELD(hgFont[0].size), 6, 96},

@@ -65,8 +65,9 @@ struct Settings {
   bool pbnBids = false;           ///< PBN export writes the auction
   bool pbnShark = false;          ///< PBN export writes a result tag and a board comment
   EditMethod editMethod = EditMethod::Dragging;
-  int showMessage = 0;     ///< version up to which the notice of new features has been seen
-  std::string solverHost;  ///< of the online double-dummy page; empty: not yet named
+  int showMessage = 0;        ///< version up to which the notice of new features has been seen
+  std::string solverHost;     ///< of the online double-dummy page; empty: not yet named
+  std::string updateAddress;  ///< of the file that tells the newest version; empty: none
   ColourScheme colourScheme = ColourScheme::System;
   std::array<FontSetting, 2> hgFont;  ///< 0: holdings as text; 1: captions and auction
 

@@ -176,6 +176,9 @@ TEST_F(CommandLine, SettingsAreListedReadAndWritten) {
   EXPECT_EQ(Run("settings filelocation hands"), 0);
   EXPECT_EQ(store.Read("macro", "filelocation"),
             FolderText(std::filesystem::current_path() / "hands"));
+  EXPECT_EQ(Run("settings updateaddress https://example.org/new.txt"), 0);
+  EXPECT_EQ(Run("settings UpdateAddress http://example.org/new.txt"), 1);
+  EXPECT_EQ(store.Read("Tricklet", "UpdateAddress"), "https://example.org/new.txt");
   const std::string top = PathText(folder.Path().root_path());
   const std::string refused = "1 Please choose a folder, not " + top + "\n";
   EXPECT_EQ(Answer("settings filelocation " + top), refused);
