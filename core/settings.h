@@ -56,7 +56,7 @@ struct Settings {
   bool captionDeclarer = false;
   bool captionDummy = false;
   bool autoLaunch = false;     ///< open the main window without waiting on the start dialog
-  bool autoUpdate = false;     ///< look for a newer version at start: kept, but nothing looks yet
+  bool autoUpdate = false;     ///< look for a newer version at start
   bool autoMakeable = false;   ///< compute a missing double-dummy table
   bool showBestCards = false;  ///< in play, the tricks that each card leads to
   bool showStats = false;

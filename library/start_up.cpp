@@ -87,11 +87,6 @@ int VersionNumber() {
   return 100 * kVersionMajor + kVersionMinor;
 }
 
-std::string UpdateText(const Settings& settings) {
-  // There is no site to ask yet, so with the option on the start goes on without a word.
-  return settings.autoUpdate ? "" : "Option to check for updates is switched off";
-}
-
 void ShowNotice(Session& session) {
   if (session.settings.showMessage >= VersionNumber()) return;
   const Answer again = session.host.Ask(

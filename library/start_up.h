@@ -14,9 +14,6 @@ std::string VersionText();
 /// 100 x major + minor: what is compared with the setting `showMessage`.
 int VersionNumber();
 
-/// What the start dialog says of updates.
-std::string UpdateText(const Settings& settings);
-
 /// Shows the notice of new features when this version's has not been seen, and stores that it has
 /// when the person says that he does not want it again.
 void ShowNotice(Session& session);

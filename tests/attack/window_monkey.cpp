@@ -25,6 +25,7 @@
 #include "tests/support/records.h"
 #include "ui/app/application.h"
 #include "ui/background/later.h"
+#include "ui/updates/updates.h"
 #include "ui/window/main_window.h"
 
 namespace tricklet::ui {
@@ -95,7 +96,7 @@ class Monkey {
     return folder_.Path() / "root" / library / BoardFileName(number);
   }
   void Open() {
-    window_ = std::make_unique<MainWindow>(session_);
+    window_ = std::make_unique<MainWindow>(session_, updates_);
     host_.progress = window_->Progress();
     window_->show();
     QApplication::setActiveWindow(window_.get());
@@ -262,6 +263,7 @@ class Monkey {
   MemoryStore store_;
   Session session_;
   std::optional<test::LibraryModel> model_;
+  Updates updates_{session_.settings, nullptr};
   std::unique_ptr<MainWindow> window_;
   int dialogSteps_ = 0;
 };

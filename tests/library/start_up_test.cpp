@@ -114,11 +114,5 @@ TEST_F(StartUp, TheNoticeComesUntilItIsNotWantedAnyMore) {
   ShowNotice(session);
 }
 
-TEST_F(StartUp, SaysWhenUpdatesAreNotLookedFor) {
-  EXPECT_EQ(UpdateText(session.settings), "");
-  session.settings.autoUpdate = false;
-  EXPECT_EQ(UpdateText(session.settings), "Option to check for updates is switched off");
-}
-
 }  // namespace
 }  // namespace tricklet::test

@@ -18,12 +18,14 @@
 
 #include "library/library_choice.h"
 #include "tests/support/calls.h"
+#include "tests/support/fake_fetcher.h"
 #include "tests/support/library_fixture.h"
 #include "tests/support/records.h"
 #include "tests/support/words.h"
 #include "ui/style/progress_frame.h"
 #include "ui/style/qt_text.h"
 #include "ui/table/table_view.h"
+#include "ui/updates/updates.h"
 #include "ui/window/main_window.h"
 
 namespace tricklet::ui {
@@ -163,7 +165,7 @@ class WindowTest : public test::LibraryTestBy<WindowHost>, protected Driven {
   }
 
   void Open() {
-    window = std::make_unique<MainWindow>(session);
+    window = std::make_unique<MainWindow>(session, updates);
     top = window.get();
     host.progress = window->Progress();
     window->show();
@@ -197,6 +199,8 @@ class WindowTest : public test::LibraryTestBy<WindowHost>, protected Driven {
     EXPECT_EQ(dialogsLeft, 0);
   }
 
+  test::FakeFetcher* fetcher = new test::FakeFetcher;  // of `updates`
+  Updates updates{session.settings, std::unique_ptr<Fetcher>(fetcher)};
   std::unique_ptr<MainWindow> window;
   int dialogsLeft = 0;
 };

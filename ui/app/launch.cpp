@@ -15,6 +15,8 @@
 #include "ui/dialogs/frmStart.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/theme.h"
+#include "ui/updates/make_fetcher.h"
+#include "ui/updates/updates.h"
 #include "ui/window/main_window.h"
 
 namespace tricklet::ui {
@@ -153,20 +155,28 @@ int RunWindow(Application& application, MainWindow& window, const LaunchOptions&
   return exitCode;
 }
 
+/// The start dialog, which looks for a newer version before the start goes on; or, where the window
+/// is to open at once, the same question asked beside it: asked before the start goes on too, but
+/// not waited for, since "at once" leaves nobody a dialog in which to see what is waited for. False
+/// when the dialog was closed.
+bool PassStart(Session& session, Updates& updates) {
+  if (!session.settings.autoLaunch) return frmStart(session, updates).exec() == QDialog::Accepted;
+  if (updates.WantedAtStart()) updates.Ask();
+  return true;
+}
+
 int RunSession(Application& application, const LaunchOptions& options, Session& session,
                QtHost& host) {
   const bool pictureOnly = !options.screenshot.isEmpty();
+  Updates updates(session.settings, MakeFetcher());
   ApplyColourScheme(application, session.settings.colourScheme);
   TellUnreadSettings(session);
   if (!pictureOnly) ShowNotice(session);
-  if (!pictureOnly && !session.settings.autoLaunch) {
-    frmStart start(session);
-    if (start.exec() != QDialog::Accepted) return 0;
-  }
+  if (!pictureOnly && !PassStart(session, updates)) return 0;
   if (!OpenLibraries(session, FromQt(options.library))) return 1;
   if (host.HasEnded()) return 0;
   if (options.board != 0) SelectBoard(session, options.board);
-  MainWindow window(session);
+  MainWindow window(session, updates);
   host.Attach(&window, window.Progress());
   if (!pictureOnly) return RunWindow(application, window, options);
   if (!options.files.empty()) window.ImportFiles(options.files);

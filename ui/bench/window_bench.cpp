@@ -22,6 +22,7 @@
 #include "library/library_choice.h"
 #include "ui/control/play_control.h"
 #include "ui/table/table_view.h"
+#include "ui/updates/updates.h"
 #include "ui/window/main_window.h"
 
 namespace tricklet::bench {
@@ -47,7 +48,7 @@ class Bench : public TemporaryRoot {
     session.tablesInBackground = true;
     GetLibraryNames(session);
     SelectLibrary(session, "Boards");
-    window = std::make_unique<ui::MainWindow>(session);
+    window = std::make_unique<ui::MainWindow>(session, updates);
     window->resize(1280, 800);
     window->show();
     QCoreApplication::processEvents();
@@ -60,6 +61,7 @@ class Bench : public TemporaryRoot {
   QuietHost host;
   MemoryStore store;
   Session session{host, store};
+  ui::Updates updates{session.settings, nullptr};
   std::unique_ptr<ui::MainWindow> window;
 };
 

@@ -20,14 +20,22 @@
 #include "ui/dialogs/frmBidding.h"
 #include "ui/dialogs/frmExport.h"
 #include "ui/dialogs/frmOptions.h"
+#include "ui/dialogs/frmUpdate.h"
 #include "ui/dialogs/library_name_dialog.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/theme.h"
+#include "ui/updates/updates.h"
 
 namespace tricklet::ui {
 
-Commands::Commands(Session& session, PlayControl& play, EditControl& edit, QWidget* window)
-    : QObject(window), session_(session), play_(play), edit_(edit), window_(window) {}
+Commands::Commands(Session& session, PlayControl& play, EditControl& edit, Updates& updates,
+                   QWidget* window)
+    : QObject(window),
+      session_(session),
+      play_(play),
+      edit_(edit),
+      updates_(updates),
+      window_(window) {}
 
 /// False, with nothing done, when another command is running.
 bool Commands::Attempt(const std::function<void()>& procedure) {
@@ -242,7 +250,7 @@ void Commands::SetColourScheme(ColourScheme scheme) {
 
 void Commands::Options() {
   Run([this] {
-    frmOptions dialog(session_, window_);
+    frmOptions dialog(session_, updates_.Obstacle(), window_);
     if (dialog.exec() != QDialog::Accepted) return;
     session_.settings = dialog.Chosen();
     SaveSettings(session_.settings, session_.store);
@@ -270,6 +278,24 @@ void Commands::Help() {
 }
 void Commands::NewFeatures() {
   OpenDocument(QStringLiteral("TrickletLatest.pdf"));
+}
+
+void Commands::CheckForUpdates() {
+  Run([this] {
+    frmUpdate dialog(updates_, window_);
+    if (dialog.exec() == QDialog::Accepted) OpenNewVersion();
+  });
+}
+
+void Commands::NewVersion() {
+  Run([this] { OpenNewVersion(); });
+}
+
+void Commands::OpenNewVersion() {
+  const UpdateAnswer* newer = updates_.Newer();
+  if (newer == nullptr || session_.host.OpenUrl(newer->page)) return;
+  session_.host.Tell(
+      FromQt(tr("The page could not be opened in the browser:\n%1").arg(ToQt(newer->page))));
 }
 
 void Commands::About() {

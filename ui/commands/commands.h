@@ -24,6 +24,7 @@ namespace tricklet::ui {
 
 class EditControl;
 class PlayControl;
+class Updates;
 class frmBidding;
 class frmSwap;
 
@@ -35,7 +36,8 @@ class Commands : public QObject {
 
  public:
   /// Dialogs stand over `window`.
-  Commands(Session& session, PlayControl& play, EditControl& edit, QWidget* window);
+  Commands(Session& session, PlayControl& play, EditControl& edit, Updates& updates,
+           QWidget* window);
 
   /// `finish` takes over what is still being typed, before each command; false when that was
   /// refused, and then the command is not carried out.
@@ -126,6 +128,9 @@ class Commands : public QObject {
 
   void Help();
   void NewFeatures();
+  void CheckForUpdates();
+  /// Opens the page of the newer version in the browser.
+  void NewVersion();
   void About();
 
  signals:
@@ -162,10 +167,12 @@ class Commands : public QObject {
   void Copy(Runner run, bool (*copy)(Session&), const QString& said);
   void EnterAuction();
   void OpenDocument(const QString& fileName);
+  void OpenNewVersion();
 
   Session& session_;
   PlayControl& play_;
   EditControl& edit_;
+  Updates& updates_;
   std::function<bool()> finishTyping_;
   std::function<std::string()> linRecord_;
   const AuctionEntry* auction_ = nullptr;

@@ -12,10 +12,13 @@
 #include <QVBoxLayout>
 
 #include "ui/dialogs/font_editor.h"
+#include "ui/style/section.h"
 #include "ui/table/table_view.h"
 
 namespace tricklet::ui {
 namespace {
+
+constexpr int kBelowCheck = 24;  // where the text of a check box begins, about
 
 /// A caption with its control to the right of it.
 void AddRow(QVBoxLayout* page, const QString& caption, QWidget* control) {
@@ -36,7 +39,7 @@ QVBoxLayout* MakePage(QWidget* page) {
 
 }  // namespace
 
-frmOptions::frmOptions(const Session& session, QWidget* parent)
+frmOptions::frmOptions(const Session& session, const QString& updateObstacle, QWidget* parent)
     : QDialog(parent),
       board_(session.board),
       before_(session.settings),
@@ -47,7 +50,7 @@ frmOptions::frmOptions(const Session& session, QWidget* parent)
   tabs->addTab(CardsPage(), tr("&Cards"));
   tabs->addTab(CaptionsPage(), tr("Ca&ptions"));
   tabs->addTab(FontsPage(), tr("&Fonts"));
-  tabs->addTab(StartPage(), tr("&Start and analysis"));
+  tabs->addTab(StartPage(updateObstacle), tr("&Start and analysis"));
   tabs->addTab(ExportPage(), tr("&Export"));
   tabs->setMinimumWidth(tabs->tabBar()->sizeHint().width() + 8);
   preview_->setAccessibleName(tr("Preview"));
@@ -127,12 +130,24 @@ QWidget* frmOptions::FontsPage() {
   return page;
 }
 
-QWidget* frmOptions::StartPage() {
+QWidget* frmOptions::StartPage(const QString& updateObstacle) {
   auto* page = new QWidget(this);
   QVBoxLayout* column = MakePage(page);
   AddCheck(column, "AutoLaunch", tr("Open the main window at once"), &Settings::autoLaunch);
-  AddCheck(column, "AutoUpdate", tr("Check for updates at start (not available yet)"),
-           &Settings::autoUpdate);
+  QCheckBox* update =
+      AddCheck(column, "AutoUpdate", tr("Check for updates at start"), &Settings::autoUpdate);
+  if (!updateObstacle.isEmpty()) {
+    update->setEnabled(false);
+    update->setAccessibleDescription(updateObstacle);
+    auto* lblAutoUpdate = new QLabel(updateObstacle);
+    lblAutoUpdate->setObjectName(QStringLiteral("lblAutoUpdate"));
+    lblAutoUpdate->setTextFormat(Qt::PlainText);
+    lblAutoUpdate->setWordWrap(true);
+    lblAutoUpdate->setIndent(kBelowCheck);
+    lblAutoUpdate->setMinimumWidth(kBelowCheck);  // however long its words are
+    MakeQuiet(lblAutoUpdate);
+    column->addWidget(lblAutoUpdate);
+  }
   AddCheck(column, "AutoMakeable", tr("Compute a missing makeable table"), &Settings::autoMakeable);
   AddCheck(column, "ShowBestCards", tr("In play, the tricks that each card leads to"),
            &Settings::showBestCards);
@@ -154,13 +169,14 @@ QWidget* frmOptions::ExportPage() {
   return page;
 }
 
-void frmOptions::AddCheck(QVBoxLayout* page, const char* key, const QString& text,
-                          bool Settings::*setting) {
+QCheckBox* frmOptions::AddCheck(QVBoxLayout* page, const char* key, const QString& text,
+                                bool Settings::*setting) {
   auto* box = new QCheckBox(text);
   box->setObjectName(QString::fromLatin1(key));
   connect(box, &QCheckBox::toggled, this, &frmOptions::Preview);
   checks_.push_back({box, setting});
   page->addWidget(box);
+  return box;
 }
 
 template <class Value>

@@ -25,7 +25,8 @@ class frmOptions : public QDialog {
   Q_OBJECT
 
  public:
-  frmOptions(const Session& session, QWidget* parent);
+  /// `updateObstacle` says why updates cannot be checked for; empty when they can.
+  frmOptions(const Session& session, const QString& updateObstacle, QWidget* parent);
 
   Settings Chosen() const;
 
@@ -44,9 +45,10 @@ class frmOptions : public QDialog {
   QWidget* CardsPage();
   QWidget* CaptionsPage();
   QWidget* FontsPage();
-  QWidget* StartPage();
+  QWidget* StartPage(const QString& updateObstacle);
   QWidget* ExportPage();
-  void AddCheck(QVBoxLayout* page, const char* key, const QString& text, bool Settings::*setting);
+  QCheckBox* AddCheck(QVBoxLayout* page, const char* key, const QString& text,
+                      bool Settings::*setting);
   /// A list with an entry for each value of `setting`, the first of which is `first`.
   template <class Value>
   void AddChoice(QVBoxLayout* page, const char* key, const QString& caption,

@@ -3,15 +3,37 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "library/start_up.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/section.h"
+#include "ui/updates/updates.h"
 
 namespace tricklet::ui {
+namespace {
 
-frmStart::frmStart(Session& session, QWidget* parent) : QDialog(parent) {
+/// However long the words are.
+constexpr int kTextWidth = 360;
+
+QLabel* AddText(QWidget* parent, const char* name, const QString& text) {
+  auto* label = new QLabel(text, parent);
+  label->setObjectName(QString::fromLatin1(name));
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  label->setAlignment(Qt::AlignHCenter);
+  label->setFixedWidth(kTextWidth);
+  return label;
+}
+
+}  // namespace
+
+frmStart::frmStart(Session& session, Updates& updates, std::chrono::milliseconds patience)
+    : updates_(updates),
+      lblUpdate(AddText(this, "lblUpdate", updates.StartText())),
+      lblNotes(AddText(this, "lblNotes", QString())),
+      cmdLaunch(new QPushButton(tr("&Launch"), this)) {
   setObjectName(QStringLiteral("frmStart"));
   setWindowTitle(ToQt(kProgramName));
 
@@ -23,11 +45,8 @@ frmStart::frmStart(Session& session, QWidget* parent) : QDialog(parent) {
   auto* lblVersion = new QLabel(ToQt(VersionText()), this);
   lblVersion->setObjectName(QStringLiteral("lblVersion"));
   MakeQuiet(lblVersion);
-  const QString update = ToQt(UpdateText(session.settings));
-  auto* lblUpdate = new QLabel(update, this);
-  lblUpdate->setObjectName(QStringLiteral("lblUpdate"));
-  lblUpdate->setWordWrap(true);
-  lblUpdate->setVisible(!update.isEmpty());
+  MakeQuiet(lblNotes);
+  lblNotes->hide();
 
   auto* chkAutoLaunch = new QCheckBox(tr("&Open the main window at once next time"), this);
   chkAutoLaunch->setObjectName(QStringLiteral("chkAutoLaunch"));
@@ -36,10 +55,9 @@ frmStart::frmStart(Session& session, QWidget* parent) : QDialog(parent) {
     session.settings.autoLaunch = checked;
     SaveSetting(session, &Settings::autoLaunch);
   });
-  auto* cmdLaunch = new QPushButton(tr("&Launch"), this);
   cmdLaunch->setObjectName(QStringLiteral("cmdLaunch"));
   cmdLaunch->setDefault(true);
-  connect(cmdLaunch, &QPushButton::clicked, this, &QDialog::accept);
+  connect(cmdLaunch, &QPushButton::clicked, this, &frmStart::Launch);
 
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(36, 28, 36, 24);
@@ -47,10 +65,45 @@ frmStart::frmStart(Session& session, QWidget* parent) : QDialog(parent) {
   column->addWidget(name, 0, Qt::AlignHCenter);
   column->addWidget(lblVersion, 0, Qt::AlignHCenter);
   column->addWidget(lblUpdate, 0, Qt::AlignHCenter);
+  column->addWidget(lblNotes, 0, Qt::AlignHCenter);
   column->addSpacing(12);
   column->addWidget(chkAutoLaunch);
   column->addWidget(cmdLaunch);
   cmdLaunch->setFocus();
+  LookForUpdate(patience);
+}
+
+void frmStart::LookForUpdate(std::chrono::milliseconds patience) {
+  if (!updates_.WantedAtStart()) return;
+  waiting_ = true;
+  connect(&updates_, &Updates::Settled, this, [this] {
+    const UpdateAnswer* newer = updates_.JustFound();
+    lblUpdate->setText(newer == nullptr ? QString() : updates_.OutcomeText());
+    lblNotes->setText(newer == nullptr ? QString() : ToQt(newer->notes));
+    lblNotes->setVisible(!lblNotes->text().isEmpty());
+    adjustSize();
+    GoOn();
+  });
+  auto* timer = new QTimer(this);
+  timer->setSingleShot(true);
+  connect(timer, &QTimer::timeout, this, &frmStart::GoOn);
+  timer->start(patience);
+  updates_.Ask();
+}
+
+void frmStart::Launch() {
+  if (!waiting_) {
+    accept();
+    return;
+  }
+  launched_ = true;
+  cmdLaunch->setEnabled(false);
+}
+
+/// The answer is there, or has been waited for long enough.
+void frmStart::GoOn() {
+  waiting_ = false;
+  if (launched_) accept();
 }
 
 }  // namespace tricklet::ui

@@ -14,11 +14,13 @@
 #include "ui/control/play_control.h"
 #include "ui/control/results.h"
 #include "ui/style/qt_text.h"
+#include "ui/updates/updates.h"
 
 namespace tricklet::ui {
 
-MainMenu::MainMenu(QMainWindow& window, Commands& commands, Results& results)
-    : QObject(&window), window_(window), commands_(commands), results_(results) {
+MainMenu::MainMenu(QMainWindow& window, Commands& commands, Results& results,
+                   const Updates& updates)
+    : QObject(&window), window_(window), commands_(commands), results_(results), updates_(updates) {
   BuildFile();
   BuildLibrary();
   BuildBoard();
@@ -232,7 +234,30 @@ void MainMenu::BuildOptionsAndHelp() {
   Add(help, "mnuNewFeatures", tr("&New Features"), {QKeySequence(tr("Shift+F1"))},
       &Commands::NewFeatures);
   help->addSeparator();
+  if (!updates_.LeftOut()) BuildUpdates(help);
   Add(help, "mnuAbout", tr("&About Tricklet"), {QKeySequence(tr("Ctrl+F1"))}, &Commands::About);
+}
+
+void MainMenu::BuildUpdates(QMenu* help) {
+  help->setToolTipsVisible(true);  // one of these says why it is disabled
+  newVersion_ = Add(help, "mnuNewVersion", tr("&Version"), {QKeySequence(tr("Ctrl+Alt+U"))},
+                    &Commands::NewVersion);
+  checkForUpdates_ = Add(help, "mnuCheckForUpdates", tr("&Check for updates..."),
+                         {QKeySequence(tr("Ctrl+Shift+F1"))}, &Commands::CheckForUpdates);
+  help->addSeparator();
+}
+
+void MainMenu::ShowUpdates() {
+  if (updates_.LeftOut()) return;
+  const QString obstacle = updates_.Obstacle();
+  checkForUpdates_->setEnabled(enabled_ && obstacle.isEmpty());
+  checkForUpdates_->setToolTip(obstacle);
+  checkForUpdates_->setStatusTip(obstacle);
+  const UpdateAnswer* newer = updates_.Newer();
+  newVersion_->setVisible(newer != nullptr);
+  if (newer == nullptr) return;
+  newVersion_->setText(tr("&Version %1 is there...").arg(ToQt(newer->shownVersion)));
+  newVersion_->setStatusTip(ToQt(newer->page));
 }
 
 void MainMenu::Show(const Session& session, const PlayControl& play, const EditControl& edit) {
@@ -245,6 +270,7 @@ void MainMenu::Show(const Session& session, const PlayControl& play, const EditC
   ShowPlay(play);
   ShowEdit(play, edit);
   ShowResults();
+  ShowUpdates();
   statistics_->setChecked(session.settings.showStats);
   makeable_->setChecked(session.settings.showMakeable);
   bestCards_->setChecked(session.settings.showBestCards);

@@ -18,16 +18,20 @@ class Commands;
 class EditControl;
 class PlayControl;
 class Results;
+class Updates;
 
 /// Builds the menu bar. Its keys work while the menu bar is hidden too.
 class MainMenu : public QObject {
   Q_OBJECT
 
  public:
-  MainMenu(QMainWindow& window, Commands& commands, Results& results);
+  MainMenu(QMainWindow& window, Commands& commands, Results& results, const Updates& updates);
 
   /// Sets what is enabled and checked.
   void Show(const Session& session, const PlayControl& play, const EditControl& edit);
+
+  /// Sets what follows from what is known of newer versions.
+  void ShowUpdates();
 
   /// Enables the menus, or disables them while long work runs: no command can be given then.
   void SetEnabled(bool enabled);
@@ -56,6 +60,7 @@ class MainMenu : public QObject {
   void BuildView();
   void BuildColours(QMenu* view);
   void BuildOptionsAndHelp();
+  void BuildUpdates(QMenu* help);
   void ShowPlay(const PlayControl& play);
   void ShowEdit(const PlayControl& play, const EditControl& edit);
   void ShowResults();
@@ -63,6 +68,7 @@ class MainMenu : public QObject {
   QMainWindow& window_;
   Commands& commands_;
   Results& results_;
+  const Updates& updates_;
   QList<QAction*> actions_;
   bool enabled_ = true;
 
@@ -92,6 +98,8 @@ class MainMenu : public QObject {
   QAction* bestCards_ = nullptr;
   QAction* cardFaces_ = nullptr;
   QActionGroup* colours_ = nullptr;
+  QAction* checkForUpdates_ = nullptr;  // null where the check is left out
+  QAction* newVersion_ = nullptr;       // likewise
 };
 
 }  // namespace tricklet::ui

@@ -36,6 +36,7 @@
 #include "ui/style/section.h"
 #include "ui/style/side_column.h"
 #include "ui/table/table_view.h"
+#include "ui/updates/updates.h"
 #include "ui/window/dropped_records.h"
 #include "ui/window/main_menu.h"
 #include "ui/window/work_area.h"
@@ -51,17 +52,18 @@ constexpr std::string_view kPlaceKey = "Geometry";
 
 }  // namespace
 
-MainWindow::MainWindow(Session& session)
+MainWindow::MainWindow(Session& session, Updates& updates)
     : session_(session),
+      updates_(updates),
       play_(new PlayControl(session, this)),
       edit_(std::make_unique<EditControl>(session, *play_)),
       tables_(new BackgroundTables(session, this)),
       best_(new BestCardsFinder(session, this)),
       results_(new Results(session, this)),
-      commands_(new Commands(session, *play_, *edit_, this)),
+      commands_(new Commands(session, *play_, *edit_, updates, this)),
       watch_(new DiskWatch(
           session, [this] { return LeaveToWatch(); }, this)),
-      menu_(new MainMenu(*this, *commands_, *results_)),
+      menu_(new MainMenu(*this, *commands_, *results_, updates)),
       library_(new LibraryPane(session)),
       editPane_(new EditPane(*commands_)),
       board_(new BoardPane(*commands_)),
@@ -100,12 +102,26 @@ void MainWindow::BuildStatusLine() {
   status_ = new ElidedLabel(this);
   status_->setObjectName(QStringLiteral("lblStatus"));
   MakeQuiet(status_);
+  newVersion_ = new QLabel(this);
+  newVersion_->setObjectName(QStringLiteral("lblNewVersion"));
+  newVersion_->setTextFormat(Qt::PlainText);
   auto* hint = new QLabel(tr("F1 help · F11 presentation"), this);
   MakeQuiet(hint);
   statusBar()->setSizeGripEnabled(false);
   statusBar()->setContentsMargins(8, 0, 8, 4);
   statusBar()->addWidget(status_, 1);
+  statusBar()->addPermanentWidget(newVersion_);
   statusBar()->addPermanentWidget(hint);
+  ShowNewVersion();
+}
+
+void MainWindow::ShowNewVersion() {
+  const UpdateAnswer* newer = updates_.Newer();
+  newVersion_->setVisible(newer != nullptr);
+  if (newer != nullptr) {
+    newVersion_->setText(
+        tr("Version %1 is there: see the Help menu").arg(ToQt(newer->shownVersion)));
+  }
 }
 
 void MainWindow::Connect() {
@@ -128,6 +144,10 @@ void MainWindow::Connect() {
   connect(tables_, &BackgroundTables::Said, status_, &QLabel::setText);
   connect(watch_, &DiskWatch::Changed, this, &MainWindow::Display);
   connect(watch_, &DiskWatch::Said, status_, &QLabel::setText);
+  connect(&updates_, &Updates::Settled, this, [this] {
+    ShowNewVersion();
+    menu_->ShowUpdates();
+  });
   connect(progress_, &ProgressFrame::Begun, this, [this] { SetWorking(true); });
   connect(progress_, &ProgressFrame::Ended, this, [this] { SetWorking(false); });
   connect(commands_, &Commands::Dealing, this, [this](bool dealing) { dealing_ = dealing; });

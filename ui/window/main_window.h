@@ -38,6 +38,7 @@ class SideColumn;
 class StatisticsPane;
 class TableView;
 class TravellerPane;
+class Updates;
 class WorkArea;
 
 /// Everything that it shows is derived from the session by `Display`.
@@ -45,7 +46,7 @@ class MainWindow : public QMainWindow {
   Q_OBJECT
 
  public:
-  explicit MainWindow(Session& session);
+  MainWindow(Session& session, Updates& updates);
   ~MainWindow() override;
 
   /// Draws the whole state.
@@ -94,12 +95,14 @@ class MainWindow : public QMainWindow {
   void PlaceAt(QWidget* dialog, int left);
   void SetTabOrder();
   void BuildStatusLine();
+  void ShowNewVersion();
   void SetWorking(bool working);
   void ShowColumns();
   void ShowLibrary();
   void HideAnswers();
 
   Session& session_;
+  const Updates& updates_;
   PlayControl* play_;
   std::unique_ptr<EditControl> edit_;
   BackgroundTables* tables_;
@@ -122,6 +125,7 @@ class MainWindow : public QMainWindow {
   SideColumn* right_ = nullptr;
   WorkArea* area_ = nullptr;
   QLabel* status_ = nullptr;
+  QLabel* newVersion_ = nullptr;
   QAction* leavePresentation_ = nullptr;
   bool dealing_ = false;  // a run of the generator may be going on
   bool presentation_ = false;

@@ -45,7 +45,8 @@ TEST_F(DialogsTest, LeavingAQuestionIsNoAnswerAndTextsAreNoMarkup) {
 }
 
 TEST_F(DialogsTest, TheStartDialogStoresAutoLaunchAtOnce) {
-  frmStart start(session);
+  Updates updates(session.settings, nullptr);
+  frmStart start(session, updates);
   const Driven form{&start};
   for (const bool on : {true, false}) {
     form.Press("chkAutoLaunch");
