@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <utility>
@@ -25,8 +26,40 @@ namespace fs = std::filesystem;
 
 #ifdef _WIN32
 using StatRecord = struct _stat64;
+bool IsFolder(const fs::path& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+/// `failure` as errno has it elsewhere.
+int ErrnoOf(DWORD failure, const fs::path& path) {
+  switch (failure) {
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_INVALID_NAME:
+      return ENOENT;
+    case ERROR_ACCESS_DENIED:
+      return IsFolder(path) ? EISDIR : EACCES;
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION:
+      return EACCES;
+    case ERROR_TOO_MANY_OPEN_FILES:
+      return EMFILE;
+    default:
+      return EIO;
+  }
+}
+/// Lets others replace and remove the file while it is read, which the library's own open does not.
 int OpenToRead(const fs::path& path, Links /*links*/) {
-  return _wopen(path.c_str(), _O_RDONLY | _O_BINARY | _O_NOINHERIT);
+  constexpr DWORD kShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  const HANDLE handle = CreateFileW(path.c_str(), GENERIC_READ, kShare, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (handle == INVALID_HANDLE_VALUE) {
+    errno = ErrnoOf(GetLastError(), path);
+    return -1;
+  }
+  const int file = _open_osfhandle(reinterpret_cast<std::intptr_t>(handle), _O_RDONLY | _O_BINARY);
+  if (file < 0) CloseHandle(handle);
+  return file;
 }
 int OpenNew(const fs::path& path) {
   return _wopen(path.c_str(), _O_WRONLY | _O_BINARY | _O_CREAT | _O_EXCL | _O_NOINHERIT,
@@ -158,8 +191,17 @@ void NativeFile::Close() {
 
 std::error_code RenameOver(const fs::path& from, const fs::path& to) {
   constexpr DWORD kHow = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-  if (MoveFileExW(from.c_str(), to.c_str(), kHow) != 0) return {};
-  return {static_cast<int>(GetLastError()), std::system_category()};
+  // A scanner for viruses or an index may have the file open for a moment.
+  constexpr DWORD kFirstPause = 10;  // ms; doubled up to some 0.6 s in all
+  constexpr DWORD kLastPause = 320;
+  for (DWORD pause = kFirstPause;; pause *= 2) {
+    if (MoveFileExW(from.c_str(), to.c_str(), kHow) != 0) return {};
+    const DWORD failure = GetLastError();
+    const bool busy = failure == ERROR_SHARING_VIOLATION || failure == ERROR_ACCESS_DENIED;
+    if (busy && IsFolder(to)) return std::make_error_code(std::errc::is_a_directory);
+    if (!busy || pause > kLastPause) return {static_cast<int>(failure), std::system_category()};
+    Sleep(pause);
+  }
 }
 
 void FlushFolder(const fs::path& /*folder*/) {}

@@ -2,8 +2,9 @@
 
 #ifdef _WIN32
 #include <io.h>
-#include <shellapi.h>
 #include <windows.h>
+// Needs what is above.
+#include <shellapi.h>
 #else
 #include <fcntl.h>
 #include <unistd.h>

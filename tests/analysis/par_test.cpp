@@ -59,7 +59,11 @@ using DealerPar = std::int32_t(dds::TableByStrain*, LibraryPar*, std::int32_t, s
 TEST(Par, AgreesWithTheSolverLibrarysOwnOnRandomTables) {
   const auto solver = LoadSolver({});  // sees to it that the library's end does no harm
   ASSERT_EQ(solver->Missing(), "");
+#ifdef _WIN32
+  const SharedLibrary library("dds.dll");
+#else
   const SharedLibrary library("libdds.so.0");
+#endif
   auto* dealerPar = library.Entry<DealerPar>("DealerPar");
   ASSERT_NE(dealerPar, nullptr);
   std::mt19937 random(3);

@@ -41,7 +41,9 @@ TEST_F(LibraryImport, WhatCountsAsABoardIsListed) {
   for (const char* library : {"Old", "Older"}) {
     const fs::path copy = Root() / library;
     EXPECT_TRUE(ReadFile(copy / "001.txt").ends_with("001.TXT"));
-    EXPECT_FALSE(fs::exists(copy / "001.TXT"));
+    for (const auto& entry : fs::directory_iterator(copy)) {
+      EXPECT_NE(entry.path().filename(), "001.TXT");
+    }
     EXPECT_TRUE(ReadFile(copy / "002.txt").ends_with("002.txt"));
     for (const char* name : {"002.Txt", "LIN.TXT", "more/003.TXT"}) {
       EXPECT_TRUE(fs::exists(copy / name)) << name;

@@ -62,7 +62,7 @@ TEST_F(StartUp, AStoredLibraryThatIsGoneIsMadeAgainWhereItCanBe) {
 }
 
 TEST_F(StartUp, ALibraryThatIsAskedForIsNotMade) {
-  fs::create_directory(folder.Path() / "\u00c9t\u00e9");
+  fs::create_directory(folder.Path() / u8"\u00c9t\u00e9");
   const std::tuple<const char*, std::string, const char*> kCases[] = {
       {"Club", "\u00e9t\u00e9", "\u00c9t\u00e9"},
       {"\u00c9t\u00e9", "Clubb", "\u00c9t\u00e9"},

@@ -115,7 +115,8 @@ TEST_F(ExportTest, WritesAllBoardsOfADealingMachine) {
   path.replace_extension("dlm");
   for (int n = 5; n <= 7; ++n) PutBoard(n);
   WriteFile(session.BoardPath(6), "nothing");
-  EXPECT_EQ(Told(5, 7), "Can't read the file LIBRARY/006.txt\n1 hand is incomplete:-\n6 \n");
+  const std::string file = PathText(fs::path("LIBRARY") / "006.txt");
+  EXPECT_EQ(Told(5, 7), "Can't read the file " + file + "\n1 hand is incomplete:-\n6 \n");
   const auto boards = LinesOf("Board ");
   ASSERT_EQ(boards.size(), 98U) << "all but the incomplete one";
   EXPECT_EQ(boards[0], "Board 01=aaaaaabffffffkkkkkklpppppp015");
