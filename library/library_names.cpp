@@ -1,6 +1,7 @@
 #include "library/library_names.h"
 
 #include <algorithm>
+#include <array>
 
 #include "core/text.h"
 #include "disk/presence.h"
@@ -22,6 +23,30 @@ bool IsListed(const std::vector<std::string>& names, std::string_view name) {
                      [name](const std::string& taken) { return EqualFolded(taken, name); });
 }
 
+/// Windows takes these for devices, whatever follows a full stop ("Naming Files, Paths, and
+/// Namespaces", learn.microsoft.com).
+bool NamesADevice(std::string_view name) {
+  const std::string stem = ToUpper(Trim(name.substr(0, name.find('.'))));
+  constexpr std::array<std::string_view, 6> kDevices{"CON", "PRN",    "AUX",
+                                                     "NUL", "CONIN$", "CONOUT$"};
+  if (std::find(kDevices.begin(), kDevices.end(), stem) != kDevices.end()) return true;
+  constexpr std::array<std::string_view, 13> kPorts{"0", "1", "2", "3",      "4",      "5",     "6",
+                                                    "7", "8", "9", "\u00b9", "\u00b2", "\u00b3"};
+  const std::string_view port =
+      std::string_view(stem).substr(std::min<std::size_t>(3, stem.size()));
+  return (stem.starts_with("COM") || stem.starts_with("LPT")) &&
+         std::find(kPorts.begin(), kPorts.end(), port) != kPorts.end();
+}
+
+/// The system keeps a folder of just this name.
+bool CanBeKept([[maybe_unused]] std::string_view name) {
+#ifdef _WIN32
+  return !NamesADevice(name) && !name.ends_with('.') && !name.ends_with(' ');
+#else
+  return true;
+#endif
+}
+
 }  // namespace
 
 bool AllowedInLibraryName(char32_t character, bool first) {
@@ -38,12 +63,14 @@ bool HasAllowedCharacters(std::string_view name) {
     if (!AllowedInLibraryName(static_cast<unsigned char>(c), first)) return false;
     first = false;
   }
-  return !name.empty() && name.size() <= kLongestLibraryName && IsValidUtf8(name);
+  return !name.empty() && name.size() <= kLongestLibraryName && IsValidUtf8(name) &&
+         !NamesADevice(name);
 }
 
 bool IsLibraryName(std::string_view name) {
   const fs::path path = PathFromText(name);
-  return !name.empty() && !name.starts_with('.') && IsValidUtf8(name) && path == path.filename();
+  return !name.empty() && !name.starts_with('.') && IsValidUtf8(name) && path == path.filename() &&
+         CanBeKept(name);
 }
 
 bool AcceptLibraryName(Host& host, std::string_view name) {

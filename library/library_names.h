@@ -18,11 +18,14 @@ inline constexpr std::size_t kLongestLibraryName = 255;
 bool AllowedInLibraryName(char32_t character, bool first);
 
 /// A new library can have the name, as far as its characters go: they are valid UTF-8 and all are
-/// allowed, there is at least one, and the name is not longer than `kLongestLibraryName`.
+/// allowed, there is at least one, and the name is not longer than `kLongestLibraryName`. Names of
+/// devices of Windows, such as "con", are refused on every system: such a library could not go
+/// there.
 bool HasAllowedCharacters(std::string_view name);
 
 /// A folder of this name, made by whatever program, is a library: the name is a single element of a
-/// path, valid UTF-8, and does not begin with a full stop.
+/// path, valid UTF-8, and does not begin with a full stop. On Windows names that it takes for
+/// others are none: those of devices, and those with a full stop or a blank at the end.
 bool IsLibraryName(std::string_view name);
 
 /// `IsLibraryName`; tells when it is not.

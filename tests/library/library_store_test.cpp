@@ -126,12 +126,15 @@ TEST_F(LibraryStore, CreatesSelectsAndRenames) {
       {"club", "club already exists\nPlease choose a different name"},
       {" ", "A library needs a name"},
       {"../up", "A library cannot be named ../up"},
+      {"Con", "A library cannot be named Con"},
+      {"lpt\u00b9", "A library cannot be named lpt\u00b9"},
       {longest + std::string(196, 'n'), "A library cannot be named " + longest + "..."}};
   for (const auto& [name, message] : kRefused) {
     host.ExpectTell(message);
     EXPECT_FALSE(CreateLibrary(session, name));
   }
-  EXPECT_EQ(host.beeps, 3);
+  EXPECT_EQ(host.beeps, 5);
+  EXPECT_TRUE(HasAllowedCharacters("Conny") && HasAllowedCharacters("COM10"));
 
   session.board.boardNumber = 5;
   EXPECT_TRUE(SelectLibrary(session, " Club "));
