@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "ui/panes/call_delegate.h"
+#include "ui/panes/seat_header.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/symbols.h"
 #include "ui/style/theme.h"
@@ -84,11 +85,11 @@ QTableWidget* MakeGrid(QWidget* parent) {
   grid->setFrameShape(QFrame::NoFrame);
   grid->setTabKeyNavigation(false);
   grid->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  grid->setHorizontalHeader(new SeatHeader(grid));
   grid->verticalHeader()->hide();
   grid->verticalHeader()->setMinimumSectionSize(1);
   grid->horizontalHeader()->setMinimumSectionSize(1);
   grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-  grid->horizontalHeader()->setSectionsClickable(false);
   grid->viewport()->setAutoFillBackground(false);
   return grid;
 }

@@ -109,6 +109,7 @@ void MainWindow::BuildStatusLine() {
   MakeQuiet(hint);
   statusBar()->setSizeGripEnabled(false);
   statusBar()->setContentsMargins(8, 0, 8, 4);
+  statusBar()->setStyleSheet(QStringLiteral("QStatusBar::item { border: none; }"));  // on Windows
   statusBar()->addWidget(status_, 1);
   statusBar()->addPermanentWidget(newVersion_);
   statusBar()->addPermanentWidget(hint);

@@ -1,0 +1,20 @@
+// The heading of the auction's four columns.
+#pragma once
+
+#include <QHeaderView>
+
+namespace tricklet::ui {
+
+/// Draws its sections itself: the styles of some systems leave out the colours that the model gives
+/// for them, which tell who is vulnerable.
+class SeatHeader : public QHeaderView {
+  Q_OBJECT
+
+ public:
+  explicit SeatHeader(QWidget* parent);
+
+ protected:
+  void paintSection(QPainter* painter, const QRect& rect, int section) const override;
+};
+
+}  // namespace tricklet::ui
