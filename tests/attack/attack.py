@@ -143,8 +143,12 @@ def scratch():
 
 def attack_all(tools, folder, options, report):
     """Each part of those that were built has its share of the time."""
-    names = [name for name in options.parts.split(",")
+    asked = options.parts.split(",")
+    names = [name for name in asked
              if (program_of(name, options, 0) or [options.build])[0].exists()]
+    for name in asked:
+        if name not in names:
+            print(f"{name}: has not been built, and is left out", flush=True)
     whole = sum(SHARES[name] for name in names) or 1
     for name in names:
         seconds = options.minutes * 60 * SHARES[name] / whole
