@@ -100,6 +100,15 @@ bool ReadTable(LineReader& lines, Board& board) {
   return true;
 }
 
+/// Where the disk does not tell letter case apart, any is right.
+bool IsEnding(std::string_view ending) {
+#ifdef _WIN32
+  return EqualNoCase(ending, kEnding);
+#else
+  return ending == kEnding;
+#endif
+}
+
 }  // namespace
 
 std::string BoardFileName(int boardNumber) {
@@ -109,7 +118,7 @@ std::string BoardFileName(int boardNumber) {
 
 int BoardNumberOfFile(std::string_view name) {
   constexpr std::size_t kDigits = 3;
-  if (name.size() != kDigits + kEnding.size() || name.substr(kDigits) != kEnding) return 0;
+  if (name.size() != kDigits + kEnding.size() || !IsEnding(name.substr(kDigits))) return 0;
   int number = 0;
   for (const char c : name.substr(0, kDigits)) {
     if (c < '0' || c > '9') return 0;

@@ -20,7 +20,8 @@ inline constexpr std::size_t kMaxBoardFileBytes = std::size_t{64} * 1024;
 /// "007.txt" for board 7.
 std::string BoardFileName(int boardNumber);
 
-/// The board number of a board file's name, 0 when it is none: three digits and ".txt".
+/// The board number of a board file's name, 0 when it is none: three digits and ".txt", on Windows
+/// in any letter case.
 int BoardNumberOfFile(std::string_view name);
 
 std::string WriteBoardText(const Board& board);
