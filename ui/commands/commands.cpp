@@ -300,7 +300,14 @@ void Commands::OpenNewVersion() {
 
 void Commands::About() {
   Run([this] {
-    const QString text = tr("A library of bridge deals: keep, look at and exchange hand records.");
+    const QString text =
+        tr("A library of bridge deals: keep, look at and exchange hand records.\n\n"
+           "Free under the MIT licence. It works with Qt %1 (LGPL 3), pugixml (MIT), utf8proc "
+           "(MIT), "
+           "CLI11 (BSD) and, where it is installed, the double-dummy solver DDS (Apache 2.0). "
+           "Their "
+           "terms and where their sources are come with the package.")
+            .arg(QLatin1String(qVersion()));
     session_.host.Tell(std::string(kProgramName) + "\n" + VersionText() + "\n\n" + FromQt(text),
                        FromQt(tr("About Tricklet")));
   });
