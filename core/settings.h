@@ -89,6 +89,8 @@ class SettingsStore {
   /// Makes sure that what was written outlasts this program and a power cut. False when that
   /// failed; the next call tries it again.
   virtual bool Sync() { return true; }
+  /// Why the last `Sync` failed; empty when it did not, or the system does not say.
+  virtual std::string SyncFailure() const { return {}; }
   /// Why what is stored could not be read; empty when it could. Nothing is stored over it then.
   virtual std::string Failure() const { return {}; }
 };
@@ -114,6 +116,7 @@ class OverlayStore : public SettingsStore {
   std::optional<std::string> Read(std::string_view section, std::string_view key) const override;
   void Write(std::string_view section, std::string_view key, const std::string& value) override;
   bool Sync() override { return below_.Sync(); }
+  std::string SyncFailure() const override { return below_.SyncFailure(); }
   std::string Failure() const override { return below_.Failure(); }
 
  private:

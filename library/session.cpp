@@ -30,7 +30,8 @@ void TellUnreadSettings(Session& session) {
 
 bool StoreSettings(Session& session) {
   if (session.store.Sync()) return true;
-  session.host.Tell(kSettingsNotStored);
+  const std::string why = session.store.SyncFailure();
+  session.host.Tell(kSettingsNotStored + (why.empty() ? why : "\n" + why));
   session.host.FailureReported();
   return false;
 }

@@ -156,14 +156,18 @@ class SettingsFile : public SettingsStore {
     if (Read(section, key) != value) changes_[Name(section, key)] = value;
   }
   bool Sync() override {
+    syncFailure_.clear();
     if (changes_.empty()) return true;
+    syncFailure_ = failure_;
     if (!failure_.empty()) return false;
     try {
       return Store();
-    } catch (const Fault&) {
+    } catch (const Fault& fault) {
+      syncFailure_ = fault.Description();
       return false;
     }
   }
+  std::string SyncFailure() const override { return syncFailure_; }
   std::string Failure() const override { return failure_; }
 
  private:
@@ -179,7 +183,10 @@ class SettingsFile : public SettingsStore {
     MakeFolders(folder);
     std::string holder;
     const auto lock = WriteLock::Take(folder, WriteLock::kPatience, holder);
-    if (!lock) return false;
+    if (!lock) {
+      syncFailure_ = "They are being changed by " + holder;
+      return false;
+    }
     SweepFiles(folder);
     const std::string old = IsTaken(path_) ? ReadText(path_) : "";
     Replace(path_, Changed(old, changes_, path_));
@@ -192,6 +199,7 @@ class SettingsFile : public SettingsStore {
   Texts stored_;   // as read, and as stored since
   Texts changes_;  // not yet in the file
   std::string failure_;
+  std::string syncFailure_;
 };
 
 /// Where QSettings keeps them; empty when there is no such place.

@@ -115,6 +115,7 @@ TEST_F(SettingsFileTest, WhatCannotBeReadIsNeverReplaced) {
   store->Write("Tricklet", "EditMethod", "3");
   WriteFile(file, garbage);
   EXPECT_FALSE(store->Sync()) << "it was readable at the start";
+  EXPECT_NE(store->SyncFailure().find(PathText(file)), std::string::npos);
   EXPECT_EQ(ReadFile(file), garbage);
 }
 
@@ -133,9 +134,10 @@ TEST_F(SettingsFileTest, AFullDiskCostsNothing) {
   ::setrlimit(RLIMIT_FSIZE, &limit);
   std::signal(SIGXFSZ, handler);
   EXPECT_FALSE(stored);
+  EXPECT_NE(store->SyncFailure(), "");
   EXPECT_EQ(ReadFile(file), before);
   EXPECT_EQ(Files(), 1);
-  EXPECT_TRUE(store->Sync()) << "there is room again";
+  EXPECT_TRUE(store->Sync() && store->SyncFailure().empty()) << "there is room again";
   EXPECT_EQ(Get("Name").size(), 5000U);
 }
 
