@@ -1,6 +1,6 @@
 ; The installer for Windows, for one user and without an administrator's rights. scripts/package-windows
 ; calls it with VERSION, STAGE (the folder of what is to be installed), LISTS (the folder of what the
-; uninstaller removes, made from that) and OUTPUT.
+; uninstaller removes, made from that), SIDE (a picture) and OUTPUT.
 ;   /S          installs without a question; what opened files of a type before still does
 ;   /D=FOLDER   installs there; must be the last
 Target amd64-unicode
@@ -32,6 +32,7 @@ VIAddVersionKey "LegalCopyright" "The Tricklet developers, MIT licence"
 
 !define MUI_ICON "${STAGE}/tricklet.ico"
 !define MUI_UNICON "${STAGE}/tricklet.ico"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${SIDE}"
 !define MUI_ABORTWARNING
 !define MUI_COMPONENTSPAGE_SMALLDESC
 !define MUI_FINISHPAGE_RUN "$INSTDIR\tricklet.exe"
