@@ -68,13 +68,13 @@ bool IsAllowedAddress(std::string_view address) {
   return host && (https || IsLoopback(*host)) && ConsistsOf(address.substr(end), kAfterHost);
 }
 
-bool MayLeadOn(std::string_view from, std::string_view to) {
+bool MayRedirect(std::string_view from, std::string_view to) {
   return IsAllowedAddress(from) && IsAllowedAddress(to) &&
          BeginsWith(from, kHttps) == BeginsWith(to, kHttps);
 }
 
 std::string UpdateAddressError(std::string_view address) {
-  if (address.empty()) return "No address to ask for updates is set";
+  if (address.empty()) return "No address is set for the update check";
   if (IsAllowedAddress(address)) return {};
   return Showable(address, kShownAddress) +
          " cannot be asked for updates: an address begins with https://, or " +

@@ -1,4 +1,4 @@
-// Which addresses the update check may ask, follow and open.
+// Which addresses the update check may ask, be redirected to and open.
 #pragma once
 
 #include <string>
@@ -11,8 +11,9 @@ namespace tricklet {
 /// that no two programs can read different hosts in it.
 bool IsAllowedAddress(std::string_view address);
 
-/// An answer from `from` may lead on to `to`: https leads on to https, and this computer to itself.
-bool MayLeadOn(std::string_view from, std::string_view to);
+/// An answer from `from` may redirect to `to`: from https to https, and from this computer to
+/// itself.
+bool MayRedirect(std::string_view from, std::string_view to);
 
 /// Why `address` is not asked for updates; empty when it can be.
 std::string UpdateAddressError(std::string_view address);

@@ -50,10 +50,10 @@ TEST(UpdateAddress, IsHttpsOrThisComputer) {
     EXPECT_NE(UpdateAddressError(address), "") << address;
   }
   EXPECT_FALSE(IsAllowedAddress("https://example.org/" + std::string(2000, 'a')));
-  EXPECT_EQ(UpdateAddressError(""), "No address to ask for updates is set");
+  EXPECT_EQ(UpdateAddressError(""), "No address is set for the update check");
 }
 
-TEST(UpdateAddress, LeadsOnWithinItsOwnKind) {
+TEST(UpdateAddress, RedirectsWithinItsOwnKind) {
   const std::tuple<const char*, const char*, bool> kCases[] = {
       {"https://a.org/x", "https://b.org/y", true},
       {"https://a.org/x", "https://localhost/y", true},
@@ -64,7 +64,7 @@ TEST(UpdateAddress, LeadsOnWithinItsOwnKind) {
       {"http://localhost/x", "http://a.org/x", false},
       {"http://localhost/x", "file:///x", false},
   };
-  for (const auto& [from, to, may] : kCases) EXPECT_EQ(MayLeadOn(from, to), may) << from << to;
+  for (const auto& [from, to, may] : kCases) EXPECT_EQ(MayRedirect(from, to), may) << from << to;
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ const std::string kPage = "page=https://example.org/new\n";
 
 TEST(UpdateOutcome, SaysWhatTheStartDialogShows) {
   Settings settings;
-  EXPECT_EQ(UpdateText(settings), "No address to ask for updates is set");
+  EXPECT_EQ(UpdateText(settings), "No address is set for the update check");
   settings.updateAddress = "http://example.org/";
   EXPECT_EQ(UpdateText(settings).substr(0, 51),
             "http://example.org/ cannot be asked for updates: an");

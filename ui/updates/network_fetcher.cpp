@@ -65,8 +65,8 @@ class NetworkFetcher : public QObject, public Fetcher {
   }
 
  private:
-  /// Every question has a network of its own, and so has each address that it is led to: no thread,
-  /// no cookie and no connection that the site may be closing outlasts the answer.
+  /// Every question has a network of its own, and so has each address that it is redirected to: no
+  /// thread, no cookie and no connection that the site may be closing outlasts the answer.
   void Get(const QUrl& url) {
     at_ = url;
     network_ = new QNetworkAccessManager(this);
@@ -79,13 +79,13 @@ class NetworkFetcher : public QObject, public Fetcher {
     connect(reply_, &QNetworkReply::finished, this, &NetworkFetcher::Finish);
   }
 
-  void LeadOn(const QUrl& target) {
+  void Redirect(const QUrl& target) {
     const QUrl next = at_.resolved(target);
     const std::string shown = next.toEncoded().toStdString();
-    if (!MayLeadOn(at_.toEncoded().toStdString(), shown)) {
-      End({{}, "it leads on to " + shown});
+    if (!MayRedirect(at_.toEncoded().toStdString(), shown)) {
+      End({{}, "it redirects to " + shown + ", which is not allowed"});
     } else if (++redirects_ > kMostRedirects) {
-      End({{}, "it leads on and on"});
+      End({{}, "it redirects again and again"});
     } else {
       PutAway();
       Get(next);
@@ -102,7 +102,7 @@ class NetworkFetcher : public QObject, public Fetcher {
     const int status = reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     const QUrl target = reply_->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
     if (!target.isEmpty()) {
-      LeadOn(target);
+      Redirect(target);
     } else if (reply_->error() == QNetworkReply::NoError && status == kStatusOk) {
       End({bytes_, {}});
     } else {
@@ -132,7 +132,7 @@ class NetworkFetcher : public QObject, public Fetcher {
     bytes_.clear();
   }
 
-  QUrl at_;  // where the question has been led
+  QUrl at_;  // where the question has been redirected to
   int redirects_ = 0;
   std::string bytes_;
   std::function<void(const Fetched&)> done_;

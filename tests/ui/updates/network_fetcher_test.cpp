@@ -34,7 +34,7 @@ class Site {
     return "http://127.0.0.1:" + std::to_string(server_.serverPort()) + "/" + path;
   }
   void Put(const std::string& path, const std::string& body) { Answer(path, "200 OK", body); }
-  void Lead(const std::string& path, const std::string& to) {
+  void Redirect(const std::string& path, const std::string& to) {
     Answer(path, "302 Found\r\nLocation: " + to, "");
   }
   void Answer(const std::string& path, const std::string& status, const std::string& body) {
@@ -85,7 +85,7 @@ class NetworkFetcherTest : public testing::Test {
 
 TEST_F(NetworkFetcherTest, TellsOfThePersonNothingButTheProgram) {
   site.Put("new", "version=1.2.3\n");
-  site.Lead("old", site.At("new"));
+  site.Redirect("old", site.At("new"));
   const Fetched fetched = Ask(site.At("old"));
   EXPECT_EQ(fetched.bytes, "version=1.2.3\n");
   EXPECT_EQ(fetched.failure, "");
@@ -109,22 +109,22 @@ TEST_F(NetworkFetcherTest, TellsOfThePersonNothingButTheProgram) {
 TEST_F(NetworkFetcherTest, FollowsOnlyWithinThisComputer) {
   Site other;
   other.Put("new", "found");
-  site.Lead("port", other.At("new"));
+  site.Redirect("port", other.At("new"));
   EXPECT_EQ(Ask(site.At("port")).bytes, "found");
 
-  site.Lead("relative", "/port");
+  site.Redirect("relative", "/port");
   EXPECT_EQ(Ask(site.At("relative")).bytes, "found");
   for (const std::string to :
        {"http://192.0.2.1/new", "https://192.0.2.1/new", "file:///etc/hostname",
         "http://user@127.0.0.1/", "ftp://127.0.0.1/new"}) {
-    site.Lead("away", to);
+    site.Redirect("away", to);
     const Fetched fetched = Ask(site.At("away"));
     EXPECT_EQ(fetched.bytes, "") << to;
     EXPECT_NE(fetched.failure, "") << to;
   }
   site.heads.clear();
-  site.Lead("loop", site.At("loop"));
-  EXPECT_EQ(Ask(site.At("loop")).failure, "it leads on and on");
+  site.Redirect("loop", site.At("loop"));
+  EXPECT_EQ(Ask(site.At("loop")).failure, "it redirects again and again");
   EXPECT_EQ(ToQt(site.heads).count(QStringLiteral("GET")), 6) << "once, and five times more";
 }
 

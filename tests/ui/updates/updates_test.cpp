@@ -81,7 +81,7 @@ TEST_F(UpdatesTest, AnAnswerAfterTheDialogWasClosedIsShownInTheWindow) {
 
 TEST_F(UpdatesTest, WithoutAnAddressNothingIsAskedAndTheReasonIsSaid) {
   for (const auto& [address, reason] :
-       {std::pair("", "No address to ask for updates is set"),
+       {std::pair("", "No address is set for the update check"),
         std::pair("http://example.org", "http://example.org cannot be asked for updates")}) {
     session.settings.updateAddress = address;
     Open();
