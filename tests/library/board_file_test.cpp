@@ -21,9 +21,14 @@ std::string Lines(const std::string& text, const std::string& end = "\r\n") {
 
 TEST(BoardFile, NamesAndNumbers) {
   EXPECT_EQ(BoardFileName(7), "007.txt");
+#ifdef _WIN32
+  constexpr int kInCapitals = 7;  // the same file there
+#else
+  constexpr int kInCapitals = 0;
+#endif
   constexpr std::pair<const char*, int> kCases[] = {
-      {"007.txt", 7}, {"1000.txt", 0}, {"7.txt", 0},     {"007.TXT", 0},  {"0x7.txt", 0},
-      {"000.txt", 0}, {"-01.txt", 0},  {"999.txt", 999}, {"007.txt~", 0}, {"", 0}};
+      {"007.txt", 7}, {"1000.txt", 0}, {"7.txt", 0},     {"007.TXT", kInCapitals}, {"0x7.txt", 0},
+      {"000.txt", 0}, {"-01.txt", 0},  {"999.txt", 999}, {"007.txt~", 0},          {"", 0}};
   for (const auto& [name, number] : kCases) EXPECT_EQ(BoardNumberOfFile(name), number) << name;
 }
 
