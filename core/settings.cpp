@@ -14,6 +14,7 @@ namespace {
 constexpr std::string_view kMacro = "macro";
 constexpr std::string_view kOptions = "Tricklet";
 constexpr std::string_view kWindowText = "&H80000008";
+constexpr double kMostWidth = 2000;  // tenths of a font's height: more than any screen
 
 /// The accessor of a table row, for a member of `Settings` or of one of its two fonts.
 #define TRICKLET_FIELD(member) [](Settings& settings) -> SettingField { return &settings.member; }
@@ -45,6 +46,15 @@ constexpr std::array kTable{
     SettingEntry{kOptions, "SolverHost", "", TRICKLET_FIELD(solverHost)},
     SettingEntry{kOptions, "UpdateAddress", "", TRICKLET_FIELD(updateAddress)},
     SettingEntry{kOptions, "ColourScheme", "0", TRICKLET_FIELD(colourScheme), 0, 2},
+    SettingEntry{kOptions, "ToolbarStyle", "1", TRICKLET_FIELD(toolbarStyle), 1, 3},
+    SettingEntry{kOptions, "CaptionStyle", "1", TRICKLET_FIELD(captionStyle), 1, 2},
+    SettingEntry{kOptions, "ShowAuction", "True", TRICKLET_FIELD(showAuction)},
+    SettingEntry{kOptions, "ShowMakeTable", "True", TRICKLET_FIELD(showMakeTable)},
+    SettingEntry{kOptions, "ShowTraveller", "True", TRICKLET_FIELD(showTraveller)},
+    SettingEntry{kOptions, "LeftWidth", "0", TRICKLET_FIELD(leftWidth), 0, kMostWidth},
+    SettingEntry{kOptions, "RightWidth", "0", TRICKLET_FIELD(rightWidth), 0, kMostWidth},
+    SettingEntry{kOptions, "RecycleReplaced", "True", TRICKLET_FIELD(recycleReplaced)},
+    SettingEntry{kOptions, "RecentFiles", "", TRICKLET_FIELD(recentFiles)},
     SettingEntry{"HGFont0", "Name", "Arial Narrow", TRICKLET_FIELD(hgFont[0].name)},
     SettingEntry{"HGFont0", "Size", "24", TRICKLET_FIELD(hgFont[0].size), 6, 96},
     SettingEntry{"HGFont0", "Bold", "False", TRICKLET_FIELD(hgFont[0].bold)},

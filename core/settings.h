@@ -29,6 +29,9 @@ enum class CardDesign : std::uint8_t { IndexAndSymbol = 1, PipsAndCourts = 2, La
 /// How cards reach a hand while it is edited.
 enum class EditMethod : std::uint8_t { Dragging = 1, Clicking = 2, Typing = 3 };
 enum class ColourScheme : std::uint8_t { System = 0, Light = 1, Dark = 2 };
+enum class ToolbarStyle : std::uint8_t { TextUnderIcon = 1, TextBesideIcon = 2, IconAlone = 3 };
+/// How the hands are captioned: in the system's own words, or briefly.
+enum class CaptionStyle : std::uint8_t { Full = 1, Short = 2 };
 
 struct FontSetting {
   std::string name;
@@ -69,6 +72,16 @@ struct Settings {
   std::string solverHost;     ///< of the online double-dummy page; empty: not yet named
   std::string updateAddress;  ///< of the file that tells the newest version; empty: none
   ColourScheme colourScheme = ColourScheme::System;
+  ToolbarStyle toolbarStyle = ToolbarStyle::TextUnderIcon;
+  CaptionStyle captionStyle = CaptionStyle::Full;
+  bool showAuction = true;      ///< the auction is unfolded; likewise the next two
+  bool showMakeTable = true;    ///< the makeable table
+  bool showTraveller = true;    ///< the traveller
+  int leftWidth = 0;            ///< of the left column, in tenths of the window's font height;
+                                ///< 0: as the window's size gives
+  int rightWidth = 0;           ///< likewise of the right column
+  bool recycleReplaced = true;  ///< boards that are replaced go to the recycle bin first
+  std::string recentFiles;      ///< the newest first, UTF-8, separated by '|'
   std::array<FontSetting, 2> hgFont;  ///< 0: holdings as text; 1: captions and auction
 
   /// All defaults, from the table.
@@ -126,7 +139,7 @@ class OverlayStore : public SettingsStore {
 
 /// The member of `Settings` that an entry of the table stands for.
 using SettingField = std::variant<bool*, int*, double*, std::string*, ColourNumber*, CardDesign*,
-                                  EditMethod*, ColourScheme*>;
+                                  EditMethod*, ColourScheme*, ToolbarStyle*, CaptionStyle*>;
 
 /// One row of the table.
 struct SettingEntry {
