@@ -7,10 +7,11 @@ namespace tricklet::bench {
 
 class QuietHost : public Host {
  public:
+  using Host::Ask;
   using Host::Tell;
-  void Tell(const std::string& /*text*/, const std::string& /*title*/) override {}
-  Answer Ask(const std::string& /*text*/, const std::string& /*title*/, Buttons buttons) override {
-    return buttons == Buttons::OKCancel ? Answer::OK : Answer::Yes;
+  void Tell(const Message& /*message*/) override {}
+  Answer Ask(const Question& question) override {
+    return question.buttons == Buttons::OKCancel ? Answer::OK : Answer::Yes;
   }
   void Beep() override {}
   std::optional<std::filesystem::path> ChooseFolder(

@@ -135,8 +135,10 @@ ExitCode ExportBoards(const Context& context, const std::string& first, const st
     return ExitCode::Refused;
   }
   if (FileExists(file) &&
-      session.host.Ask(ShownPath(file) + " already exists\nDo you want to replace it?",
-                       std::string(kProgramName), Buttons::YesNo) != Answer::Yes) {
+      session.host.Ask({.text = ShownPath(file) + " already exists\nDo you want to replace it?",
+                        .safe = Answer::No,
+                        .agree = "Replace the file",
+                        .refuse = "Keep it"}) != Answer::Yes) {
     return ExitCode::Refused;
   }
   return ExportFile(session, range, file) ? ExitCode::Done : ExitCode::Refused;

@@ -11,21 +11,31 @@
 namespace tricklet::cli {
 namespace {
 
-std::string_view Choices(Buttons buttons) {
-  switch (buttons) {
-    case Buttons::YesNo:
-    case Buttons::NoYes:
-      return " [y/n] ";
-    case Buttons::YesNoCancel:
-      return " [y/n/c] ";
-    case Buttons::OKCancel:
-      return " [o/c] ";
-  }
-  return " ";
+/// "y", and what the answer does where that has been said. The safe answer is the capital.
+std::string Choice(char letter, const std::string& caption, bool safe) {
+  const std::string shown(1, safe ? ToUpper(letter) : letter);
+  return caption.empty() ? shown : shown + ": " + ShowableLines(caption);
 }
 
-/// The answer that a typed line means; nothing when it means none.
-std::optional<Answer> FromLine(const std::string& line, Buttons buttons) {
+/// "[y/N/c]", or "[y: Replace board 7 / N: Keep it]".
+std::string Choices(const Question& question) {
+  const auto safe = [&](Answer answer) { return question.safe == answer; };
+  const std::string slash = question.agree.empty() && question.refuse.empty() ? "/" : " / ";
+  std::string text = " [";
+  if (question.buttons == Buttons::OKCancel) {
+    text += Choice('o', question.agree, safe(Answer::OK));
+  } else {
+    text += Choice('y', question.agree, safe(Answer::Yes)) + slash +
+            Choice('n', question.refuse, safe(Answer::No));
+  }
+  if (OffersCancel(question.buttons)) text += slash + Choice('c', "", safe(Answer::Cancel));
+  return text + "] ";
+}
+
+/// The answer that a typed line means, an empty one the safe answer; nothing when it means none.
+std::optional<Answer> FromLine(const std::string& line, const Question& question) {
+  if (line.empty()) return question.safe;
+  const Buttons buttons = question.buttons;
   const char c = line.empty() ? ' ' : line[0];
   const bool yesNo = buttons != Buttons::OKCancel;
   if (yesNo && (c == 'y' || c == 'Y')) return Answer::Yes;
@@ -42,17 +52,18 @@ Answer FromOption(bool yes, Buttons buttons) {
 
 }  // namespace
 
-void ConsoleHost::Tell(const std::string& text, const std::string& /*title*/) {
+void ConsoleHost::Tell(const Message& message) {
   EndWork();
-  messages_ << ShowableLines(text) << '\n';
+  messages_ << ShowableLines(message.text) << '\n';
 }
 
-Answer ConsoleHost::Ask(const std::string& text, const std::string& /*title*/, Buttons buttons) {
+Answer ConsoleHost::Ask(const Question& question) {
   EndWork();
-  messages_ << ShowableLines(text);
+  messages_ << ShowableLines(question.text);
+  if (!question.detail.empty()) messages_ << '\n' << ShowableLines(question.detail);
   if (options_.answer) {
     messages_ << (*options_.answer ? " yes\n" : " no\n");
-    return FromOption(*options_.answer, buttons);
+    return FromOption(*options_.answer, question.buttons);
   }
   if (!options_.terminal) {
     messages_ << " no answer (--yes or --no gives one)\n";
@@ -60,12 +71,12 @@ Answer ConsoleHost::Ask(const std::string& text, const std::string& /*title*/, B
   }
   std::string line;
   for (;;) {
-    messages_ << Choices(buttons) << std::flush;
+    messages_ << Choices(question) << std::flush;
     if (!std::getline(in_, line)) {
       messages_ << '\n';
       return Answer::Cancel;
     }
-    if (const auto answer = FromLine(line, buttons)) return *answer;
+    if (const auto answer = FromLine(line, question)) return *answer;
   }
 }
 

@@ -23,9 +23,10 @@ class ConsoleHost : public Host {
               const std::atomic<bool>& interrupted)
       : in_(in), messages_(messages), options_(options), interrupted_(interrupted) {}
 
+  using Host::Ask;
   using Host::Tell;
-  void Tell(const std::string& text, const std::string& title) override;
-  Answer Ask(const std::string& text, const std::string& title, Buttons buttons) override;
+  void Tell(const Message& message) override;
+  Answer Ask(const Question& question) override;
   void Beep() override;
   std::optional<std::filesystem::path> ChooseFolder(const std::string& title,
                                                     const std::filesystem::path& start) override;

@@ -1,6 +1,7 @@
 #include "core/bounded_list.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace tricklet {
 
@@ -17,6 +18,18 @@ std::string BoundedList(const std::vector<int>& numbers) {
   std::vector<std::string> entries;
   entries.reserve(numbers.size());
   for (const int number : numbers) entries.push_back(std::to_string(number));
+  return BoundedList(entries);
+}
+
+std::string RangesText(const std::set<int>& numbers) {
+  std::vector<std::string> entries;
+  for (auto first = numbers.begin(); first != numbers.end();) {
+    auto next = std::next(first);
+    int last = *first;
+    for (; next != numbers.end() && *next == last + 1; ++next) ++last;
+    entries.push_back(std::to_string(*first) + (last == *first ? "" : "-" + std::to_string(last)));
+    first = next;
+  }
   return BoundedList(entries);
 }
 

@@ -1,6 +1,7 @@
 // Lists in messages: short, however much there is to tell.
 #pragma once
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -10,5 +11,7 @@ namespace tricklet {
 std::string BoundedList(const std::vector<std::string>& entries);
 /// Numbers likewise, in the order given.
 std::string BoundedList(const std::vector<int>& numbers);
+/// Runs of numbers as ranges, likewise bounded: "1-3, 7".
+std::string RangesText(const std::set<int>& numbers);
 
 }  // namespace tricklet

@@ -39,7 +39,7 @@ void ErrorReport(Host& host, const Fault& fault) {
                            std::to_string(static_cast<int>(fault.Number())) + "\nLine " +
                            std::to_string(fault.Line()) + "\nDo you wish to try to continue?";
   host.FailureReported();
-  if (host.Ask(text, std::string(kProgramName), Buttons::YesNo) == Answer::No) host.EndProgram();
+  if (host.Ask({.text = text, .kind = MessageKind::Error}) == Answer::No) host.EndProgram();
 }
 
 Fault FaultFrom(const std::exception& failure, std::source_location where) {

@@ -11,19 +11,42 @@ namespace tricklet {
 
 inline constexpr std::string_view kProgramName = "Tricklet";
 
-/// The first button of a question is the one that Enter presses.
-enum class Buttons {
-  YesNo,
-  NoYes,  ///< where Yes would lose something
-  YesNoCancel,
-  OKCancel
+/// What a message or question is about, which the window shows by its icon.
+enum class MessageKind {
+  Plain,
+  Error  ///< something has failed, or was not done
 };
+
+/// Something to be told. Texts are UTF-8; line breaks in them are "\n".
+struct Message {
+  std::string text;
+  std::string title = std::string(kProgramName);
+  MessageKind kind = MessageKind::Plain;
+};
+
+enum class Buttons { YesNo, YesNoCancel, OKCancel };
 enum class Answer { Yes, No, OK, Cancel };
 
 /// A question with these buttons can be answered with Cancel.
 constexpr bool OffersCancel(Buttons buttons) {
   return buttons == Buttons::YesNoCancel || buttons == Buttons::OKCancel;
 }
+
+/// Something to be asked. Texts are as those of a message.
+struct Question {
+  std::string text;
+  std::string title = std::string(kProgramName);
+  Buttons buttons = Buttons::YesNo;
+  /// The answer that Enter gives, one of those that `buttons` offers: set wherever another answer
+  /// overwrites or loses something. Unset, it is the first button.
+  std::optional<Answer> safe = std::nullopt;
+  /// What another answer than the safe one would lose, in whole sentences; may be empty.
+  std::string detail = {};
+  /// What the buttons for Yes or OK, and for No, say instead of those words. Empty: those words.
+  std::string agree = {};
+  std::string refuse = {};
+  MessageKind kind = MessageKind::Plain;
+};
 
 /// What a file chooser offers.
 struct FileChoice {
@@ -32,7 +55,7 @@ struct FileChoice {
   std::filesystem::path suggested;      ///< file or folder to begin with; may be empty
 };
 
-/// A window, a console or a test script. Texts are UTF-8; line breaks in them are "\n".
+/// A window, a console or a test script.
 class Host {
  public:
   Host() = default;
@@ -40,13 +63,20 @@ class Host {
   Host& operator=(const Host&) = delete;
   virtual ~Host() = default;
 
-  virtual void Tell(const std::string& text, const std::string& title) = 0;
-  void Tell(const std::string& text) { Tell(text, std::string(kProgramName)); }
+  virtual void Tell(const Message& message) = 0;
+  void Tell(const std::string& text) { Tell(Message{text}); }
+  /// Something has failed, or was not done.
+  void TellError(const std::string& text) {
+    Tell(Message{.text = text, .kind = MessageKind::Error});
+  }
 
-  /// One of the answers that `buttons` offers. Cancel too, whatever they offer, when nobody
-  /// answered: the question was closed or abandoned, or there is nobody to ask. No always means
-  /// that somebody said No.
-  virtual Answer Ask(const std::string& text, const std::string& title, Buttons buttons) = 0;
+  /// One of the answers that the question's buttons offer. Cancel too, whatever they offer, when
+  /// nobody answered: the question was closed or abandoned, or there is nobody to ask. No always
+  /// means that somebody said No.
+  virtual Answer Ask(const Question& question) = 0;
+  Answer Ask(const std::string& text, const std::string& title, Buttons buttons) {
+    return Ask(Question{.text = text, .title = title, .buttons = buttons});
+  }
 
   virtual void Beep() = 0;
 

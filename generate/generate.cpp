@@ -9,7 +9,9 @@
 #include "generate/deal.h"
 #include "library/board_store.h"
 #include "library/library_choice.h"
+#include "library/library_scan.h"
 #include "library/library_write.h"
+#include "library/loss_text.h"
 #include "library/unsaved_changes.h"
 
 namespace tricklet {
@@ -18,13 +20,13 @@ namespace {
 /// Asks about overwriting when any board of the range exists.
 bool MayOverwrite(Session& session, const Constraints& constraints) {
   const auto [first, last] = constraints.genBoards;
-  for (int number = first; number <= last; ++number) {
-    if (!FileExists(session.BoardPath(number))) continue;
-    return session.host.Ask("You will overwrite existing boards in the library - " +
-                                session.ShownLibrary() + "\nDo you wish to do that?",
-                            std::string(kProgramName), Buttons::YesNo) == Answer::Yes;
-  }
-  return true;
+  const std::string atStake =
+      BoardsAtStake(ScanLibrary(session.LibraryPath()), first, last, "would be replaced");
+  if (atStake.empty()) return true;
+  return session.host.Ask({.text = "You will overwrite existing boards in the library - " +
+                                   session.ShownLibrary() + "\nDo you wish to do that?",
+                           .safe = Answer::No,
+                           .detail = atStake}) == Answer::Yes;
 }
 
 /// Deals board `number` until the person takes the deal; false when the run is to end.

@@ -24,20 +24,26 @@ std::string OverwriteTitle(const Session& session) {
          std::to_string(session.board.boardNumber);
 }
 
+std::string LossByPaste(const Board& board) {
+  return std::string("The deal ") + (board.NumCalls() > 0 ? "and the auction " : "") + "of board " +
+         std::to_string(board.boardNumber) + " would be replaced.";
+}
+
 /// The person agrees to what the paste replaces: what another program has stored, or the cards
 /// shown.
 bool AgreesToPaste(Session& session, DiskChange change) {
-  std::string question = OverwriteQuestion(session);
-  Buttons buttons = Buttons::YesNo;
   if (IsLossToReplace(change)) {
-    question = ReplaceChangedQuestion(
+    Question question = ReplaceChangedQuestion(
         session, change,
         "board " + std::to_string(session.copyBoard) + " from library: " + session.copyLibrary);
-    buttons = Buttons::NoYes;
-  } else if (!HasCards(session.board.hands)) {
-    return true;
+    question.title = OverwriteTitle(session);
+    return session.host.Ask(question) == Answer::Yes;
   }
-  return session.host.Ask(question, OverwriteTitle(session), buttons) == Answer::Yes;
+  if (!HasCards(session.board.hands)) return true;
+  return session.host.Ask({.text = OverwriteQuestion(session),
+                           .title = OverwriteTitle(session),
+                           .safe = Answer::No,
+                           .detail = LossByPaste(session.board)}) == Answer::Yes;
 }
 
 }  // namespace

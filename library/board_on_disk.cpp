@@ -55,13 +55,18 @@ std::optional<LibraryWrite> BeginReplacing(Session& session,
   return std::nullopt;
 }
 
-std::string ReplaceChangedQuestion(const Session& session, DiskChange change,
-                                   const std::string& replacement) {
-  return "Board " + std::to_string(session.board.boardNumber) + " in the library " +
-         session.ShownLibrary() + " has been " +
-         (change == DiskChange::Added ? "added" : "changed") +
-         " by another program since it was opened.\nDo you want to replace it with " + replacement +
-         "?";
+Question ReplaceChangedQuestion(const Session& session, DiskChange change,
+                                const std::string& replacement) {
+  const std::string board = std::to_string(session.board.boardNumber);
+  return {.text = "Board " + board + " in the library " + session.ShownLibrary() + " has been " +
+                  (change == DiskChange::Added ? "added" : "changed") +
+                  " by another program since it was opened.\nDo you want to replace it with " +
+                  replacement + "?",
+          .title = "Board changed on disk",
+          .safe = Answer::No,
+          .detail = "What the other program has stored as board " + board + " would be replaced.",
+          .agree = "Replace board " + board,
+          .refuse = "Keep the stored board"};
 }
 
 }  // namespace tricklet

@@ -48,10 +48,10 @@ constexpr bool IsLossToReplace(DiskChange change) {
   return change == DiskChange::Changed || change == DiskChange::Added;
 }
 
-/// The question before what another program has stored is replaced, for `Buttons::NoYes`.
+/// The question before what another program has stored is replaced; No is its safe answer.
 /// `replacement` says by what: "the board shown here". To be asked where
 /// `IsLossToReplace`.
-std::string ReplaceChangedQuestion(const Session& session, DiskChange change,
-                                   const std::string& replacement);
+Question ReplaceChangedQuestion(const Session& session, DiskChange change,
+                                const std::string& replacement);
 
 }  // namespace tricklet

@@ -9,6 +9,7 @@
 #include "library/board_file.h"
 #include "library/board_on_disk.h"
 #include "library/library_scan.h"
+#include "library/loss_text.h"
 
 namespace tricklet {
 namespace {
@@ -17,12 +18,17 @@ namespace fs = std::filesystem;
 
 bool AgreesToReplace(Session& session, DiskChange change, Buttons style) {
   if (IsLossToReplace(change)) {
-    return session.host.Ask(ReplaceChangedQuestion(session, change, "the board shown here"),
-                            "Board changed on disk", Buttons::NoYes) == Answer::Yes;
+    return session.host.Ask(ReplaceChangedQuestion(session, change, "the board shown here")) ==
+           Answer::Yes;
   }
   const std::string question =
       "Overwrite existing board " + std::to_string(session.board.boardNumber) + "?";
-  const Answer answer = session.host.Ask(question, "Hand already in library", style);
+  const Answer answer =
+      session.host.Ask({.text = question,
+                        .title = "Hand already in library",
+                        .buttons = style,
+                        .safe = style == Buttons::OKCancel ? Answer::Cancel : Answer::No,
+                        .detail = ReplacedText(session)});
   return answer == Answer::Yes || answer == Answer::OK;
 }
 

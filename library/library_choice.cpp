@@ -12,6 +12,7 @@
 #include "library/library_names.h"
 #include "library/library_scan.h"
 #include "library/library_write.h"
+#include "library/loss_text.h"
 #include "library/unsaved_changes.h"
 
 namespace tricklet {
@@ -147,8 +148,10 @@ bool SetMaxBoard(Session& session, int highest) {
     library.maxBoard = highest;
     return true;
   }
-  if (session.host.Ask(TrimQuestion(highest, library.maxBoard), std::string(kProgramName),
-                       Buttons::YesNo) != Answer::Yes) {
+  if (session.host.Ask({.text = TrimQuestion(highest, library.maxBoard),
+                        .safe = Answer::No,
+                        .detail = BoardsAtStake(library, highest + 1, library.maxBoard,
+                                                "would be removed")}) != Answer::Yes) {
     return false;
   }
   const auto listed = RecycleBoardsAbove(session, highest);

@@ -2,7 +2,9 @@
 #include "library/library_transfer.h"
 
 #include <algorithm>
+#include <iterator>
 
+#include "core/bounded_list.h"
 #include "core/fault.h"
 #include "core/text.h"
 #include "disk/file_io.h"
@@ -19,8 +21,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool AskYes(Session& session, const std::string& text) {
-  return session.host.Ask(text, std::string(kProgramName), Buttons::YesNo) == Answer::Yes;
+/// Asks before a copy replaces boards in these libraries of `folder`.
+bool AgreesToOverwrite(Session& session, const std::string& text,
+                       const std::vector<std::string>& names, const fs::path& folder) {
+  std::vector<std::string> shown;
+  for (const std::string& name : names) shown.push_back(ShownName(name));
+  return session.host.Ask({.text = text,
+                           .safe = Answer::No,
+                           .detail = "Boards of the same number would be replaced in " +
+                                     ShownPath(folder) + ": " + BoundedList(shown) + "."}) ==
+         Answer::Yes;
 }
 
 /// The folder can become the root: it is neither a drive nor the root already. Else says so.
@@ -53,13 +63,16 @@ Answer AskToCopyAll(Session& session, const fs::path& folder) {
 
 /// Libraries that are there already keep their boards unless the person agrees.
 bool MayOverwrite(Session& session, const std::vector<std::string>& names, const fs::path& folder) {
-  const auto there = std::count_if(names.begin(), names.end(), [&](const std::string& name) {
-    return IsTaken(folder / PathFromText(name));
-  });
-  if (there == 0) return true;
-  return AskYes(session, std::to_string(there) + (there == 1 ? " library is" : " libraries are") +
-                             " already in that folder\nDo you wish to overwrite any existing "
-                             "boards?");
+  std::vector<std::string> there;
+  std::copy_if(names.begin(), names.end(), std::back_inserter(there),
+               [&](const std::string& name) { return IsTaken(folder / PathFromText(name)); });
+  if (there.empty()) return true;
+  return AgreesToOverwrite(session,
+                           std::to_string(there.size()) +
+                               (there.size() == 1 ? " library is" : " libraries are") +
+                               " already in that folder\nDo you wish to overwrite any existing "
+                               "boards?",
+                           there, folder);
 }
 
 /// Copies these libraries of the root into another root-to-be.
@@ -162,8 +175,9 @@ bool ExportLibraryTo(Session& session, const fs::path& folder) {
     return false;
   }
   if (IsTaken(to) &&
-      !AskYes(session,
-              "That folder already exists\nDo you wish to overwrite any existing boards?")) {
+      !AgreesToOverwrite(
+          session, "That folder already exists\nDo you wish to overwrite any existing boards?",
+          {session.LibraryName()}, into)) {
     return false;
   }
   return CopyLibraryFolder(session, session.LibraryPath(), into, session.LibraryName(), {}) ==

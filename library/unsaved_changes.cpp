@@ -1,6 +1,7 @@
 #include "library/unsaved_changes.h"
 
 #include "library/board_store.h"
+#include "library/loss_text.h"
 
 namespace tricklet {
 
@@ -9,7 +10,11 @@ Answer CheckSaveChanges(Session& session) {
   const std::string question = "Do you want to save changes to board " +
                                std::to_string(session.board.boardNumber) + " in library " +
                                session.ShownLibrary() + "?";
-  switch (session.host.Ask(question, "Save changes?", Buttons::YesNoCancel)) {
+  switch (session.host.Ask({.text = question,
+                            .title = "Save changes?",
+                            .buttons = Buttons::YesNoCancel,
+                            .safe = Answer::Yes,
+                            .detail = UnsavedText(session)})) {
     case Answer::Yes:
       // A board that could not be saved stays, with its changes.
       return SaveHand(session) ? Answer::OK : Answer::Cancel;

@@ -161,9 +161,19 @@ bool AuctionEntry::OK() {
   return true;
 }
 
+std::string AuctionEntry::LossByCancel() const {
+  if (calls_ == board_.calls) return "";
+  const int kept = board_.NumCalls();
+  return kept == 0 ? "The board keeps no auction."
+                   : "The board keeps the auction that it had, of " + std::to_string(kept) +
+                         (kept == 1 ? " call." : " calls.");
+}
+
 bool AuctionEntry::Cancel() {
-  return host_.Ask("Any bidding changes will be lost", std::string(kProgramName),
-                   Buttons::OKCancel) == Answer::OK;
+  return host_.Ask({.text = "Any bidding changes will be lost",
+                    .buttons = Buttons::OKCancel,
+                    .safe = Answer::Cancel,
+                    .detail = LossByCancel()}) == Answer::OK;
 }
 
 }  // namespace tricklet

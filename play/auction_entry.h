@@ -73,6 +73,8 @@ class AuctionEntry {
   bool AtLimit() const;
 
  private:
+  /// What `Cancel` would lose; empty when that is nothing.
+  std::string LossByCancel() const;
   void EnableBids(int index);
   void AddCall(Call call);
   void Remember();

@@ -33,12 +33,24 @@ void CardPlay::Stop() {
 
 bool CardPlay::EndForEditing() {
   if (PlayMode() && undoTop_ > 0 && state_.tricksPlayed < kTricks &&
-      host_.Ask("Confirm that you wish to edit this hand", std::string(kProgramName),
-                Buttons::YesNo) != Answer::Yes) {
+      host_.Ask({.text = "Confirm that you wish to edit this hand",
+                 .safe = Answer::No,
+                 .detail = LossByStopping()}) != Answer::Yes) {
     return false;
   }
   Stop();
   return true;
+}
+
+std::string CardPlay::LossByStopping() const {
+  int left = 0;
+  for (const Seat seat : kAllSeats) {
+    for (const Suit suit : kAllSuits) left += state_.cardsLeft[seat][suit].Count();
+  }
+  const int played = kCardsInPack - left;
+  if (!PlayMode() || played == 0) return "";
+  if (played == 1) return "The card played so far is not kept.";
+  return "The " + std::to_string(played) + " cards played so far are not kept.";
 }
 
 PerSuit<Holding> CardPlay::LegalCards() const {

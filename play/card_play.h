@@ -72,6 +72,9 @@ class CardPlay {
   /// and others not. False when the person wants to play on.
   bool EndForEditing();
 
+  /// "The 17 cards played so far are not kept."; empty when none has been played.
+  std::string LossByStopping() const;
+
   bool PlayMode() const { return board_.playMode; }
   const PlayState& Now() const { return state_; }
 

@@ -131,9 +131,13 @@ void KeepPart(Session& session, const fs::path& path, const std::string& text) {
   const fs::path part = FreePartPath(path);
   ReplaceWholeFile(part, text);
   const Answer answer = session.host.Ask(
-      "The file\n" + ShownPath(path) + "\nis as it was. What was exported until now is in\n" +
-          ShownPath(part) + "\nDo you want this part to replace the old file?",
-      std::string(kProgramName), Buttons::NoYes);
+      {.text = "The file\n" + ShownPath(path) +
+               "\nis as it was. What was exported until now is in\n" + ShownPath(part) +
+               "\nDo you want this part to replace the old file?",
+       .safe = Answer::No,
+       .detail = "The old file would go to the recycle bin.",
+       .agree = "Replace the old file",
+       .refuse = "Keep both files"});
   if (answer != Answer::Yes) return;
   const fs::path old = fs::canonical(path);  // a link stays one
   if (!session.host.Recycle(old)) {

@@ -1,15 +1,19 @@
 #include "formats/exchange/import.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <string>
 #include <vector>
 
+#include "core/fault.h"
 #include "formats/exchange/file_type.h"
 #include "formats/exchange/import_run.h"
 #include "formats/exchange/record_reader.h"
 #include "formats/lin/lin_reader.h"
+#include "formats/results/lin_file.h"
 #include "library/board_store.h"
 #include "library/library_scan.h"
+#include "library/loss_text.h"
 #include "library/unsaved_changes.h"
 
 namespace tricklet {
@@ -17,35 +21,68 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// What an import does with the results that the library keeps.
+enum class Results : std::uint8_t {
+  Go,       ///< all of them
+  Replaced  ///< board by board
+};
+
 /// What one of the commands imports.
 struct Importable {
   const char* description;
   std::vector<std::string> types;
   const char* otherType;  // the message for a file of any other type
+  Results results;
 };
 
 const Importable& HandRecords() {
-  static const Importable kHandRecords{
-      "Hand Records", {"pbn", "dlm", "xml"}, "The file must be of type pbn, dlm or xml"};
+  static const Importable kHandRecords{"Hand Records",
+                                       {"pbn", "dlm", "xml"},
+                                       "The file must be of type pbn, dlm or xml",
+                                       Results::Go};
   return kHandRecords;
 }
 
 const Importable& LinRecords() {
-  static const Importable kLinRecords{"LIN records", {"lin"}, "The file must be of type lin"};
+  static const Importable kLinRecords{
+      "LIN records", {"lin"}, "The file must be of type lin", Results::Replaced};
   return kLinRecords;
 }
 
-bool MayOverwriteLibrary(Session& session) {
+/// What becomes of the results that the library keeps; empty when it keeps none, or when they
+/// cannot be read.
+std::string ResultsAtStake(const Session& session, Results results) {
+  std::size_t kept = 0;
+  try {
+    kept = LoadLinData(session).lin.size();
+  } catch (const Fault&) {
+    return "";
+  }
+  if (kept == 0) return "";
+  const std::string text = kept == 1
+                               ? "\nOne result is kept with them: it"
+                               : "\n" + std::to_string(kept) + " results are kept with them: they";
+  return text + (results == Results::Go ? " would go to the recycle bin."
+                                        : " would be replaced where the file has the same board.");
+}
+
+/// The file is not chosen yet, so only what is there can be told.
+bool MayOverwriteLibrary(Session& session, Results results) {
   CountHands(session);
   if (session.library.boardCount == 0) return true;
-  return session.host.Ask("Overwrite existing hands in library " + session.ShownLibrary() + "?",
-                          "Hands already in library", Buttons::YesNo) == Answer::Yes;
+  const std::string detail = BoardsAtStake(session.library, kFirstBoardNumber, kLastBoardNumber,
+                                           "would be replaced where the file has the same number");
+  return session.host.Ask(
+             {.text = "Overwrite existing hands in library " + session.ShownLibrary() + "?",
+              .title = "Hands already in library",
+              .safe = Answer::No,
+              .detail = detail + ResultsAtStake(session, results)}) == Answer::Yes;
 }
 
 /// The questions before any file is touched. False when the person said no; the board is then as it
 /// is stored, or still has its changes.
-bool MayImport(Session& session) {
-  return SettleChanges(session) && MayOverwriteLibrary(session);
+bool MayImport(Session& session, Results results) {
+  return SettleChanges(session) && MayOverwriteLibrary(session, results);
 }
 
 ImportOutcome Refused(Session& session) {
@@ -65,7 +102,7 @@ ImportOutcome ImportChosen(Session& session, const fs::path& path, const Importa
 }
 
 ImportOutcome Import(Session& session, const Importable& importable) {
-  if (!MayImport(session)) return {.refused = true};
+  if (!MayImport(session, importable.results)) return {.refused = true};
   const auto path =
       session.host.ChooseOpenFile({importable.description, importable.types, fs::path()});
   if (path && !path->empty()) return ImportChosen(session, *path, importable);
@@ -73,7 +110,7 @@ ImportOutcome Import(Session& session, const Importable& importable) {
 }
 
 ImportOutcome ImportFile(Session& session, const fs::path& path, const Importable& importable) {
-  if (!MayImport(session)) return {.refused = true};
+  if (!MayImport(session, importable.results)) return {.refused = true};
   return ImportChosen(session, path, importable);
 }
 
@@ -97,7 +134,7 @@ ImportOutcome ImportLinText(Session& session, std::string_view text) {
     session.host.Tell("There are no LIN records in this text");
     return {.refused = true};
   }
-  if (!MayImport(session)) return {.refused = true};
+  if (!MayImport(session, Results::Replaced)) return {.refused = true};
   return StoreText(session, {fs::path(), std::string(text)}, "Cannot read the LIN records",
                    ReaderOf("lin"));
 }

@@ -1,7 +1,6 @@
 #include "formats/exchange/import_messages.h"
 
 #include <array>
-#include <iterator>
 #include <vector>
 
 #include "core/bounded_list.h"
@@ -13,19 +12,6 @@ namespace {
 std::string NumbersText(const std::vector<int>& numbers) {
   const std::set<int> once(numbers.begin(), numbers.end());
   return BoundedList(std::vector<int>(once.begin(), once.end()));
-}
-
-/// "1-3, 7".
-std::string RangesText(const std::set<int>& numbers) {
-  std::vector<std::string> entries;
-  for (auto first = numbers.begin(); first != numbers.end();) {
-    auto next = std::next(first);
-    int last = *first;
-    for (; next != numbers.end() && *next == last + 1; ++next) ++last;
-    entries.push_back(std::to_string(*first) + (last == *first ? "" : "-" + std::to_string(last)));
-    first = next;
-  }
-  return BoundedList(entries);
 }
 
 /// One reason for leaving something out.

@@ -18,12 +18,14 @@ class MonkeyHost : public Host {
   MonkeyHost(std::filesystem::path top, std::mt19937& random)
       : top_(std::move(top)), random_(random) {}
 
+  using Host::Ask;
   using Host::Tell;
-  void Tell(const std::string& text, const std::string& /*title*/) override { Note("told", text); }
-  Answer Ask(const std::string& text, const std::string& /*title*/, Buttons buttons) override {
+  void Tell(const Message& message) override { Note("told", message.text); }
+  Answer Ask(const Question& question) override {
+    const std::string& text = question.text;
     static constexpr Answer kAnswers[] = {Answer::Yes, Answer::No, Answer::Cancel};
     Answer answer = kAnswers[random_() % 3];
-    if (buttons == Buttons::OKCancel && answer != Answer::Cancel) answer = Answer::OK;
+    if (question.buttons == Buttons::OKCancel && answer != Answer::Cancel) answer = Answer::OK;
     if (text.find("Error no.") != std::string::npos) fault = text;
     const bool agrees = answer == Answer::Yes || answer == Answer::OK;
     agreed = agreed || agrees;

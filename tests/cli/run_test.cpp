@@ -75,6 +75,9 @@ TEST_F(CommandLine, QuestionsAreAnsweredByOptionTerminalOrCaution) {
   EXPECT_EQ(Run("--yes import @in.pbn"), 0);
   EXPECT_EQ(Run("import @in.pbn", "what?\ny\n", true), 0);
   EXPECT_EQ(Run("import @in.pbn", "n\n", true), 1);
+  EXPECT_EQ(Run("import @in.pbn", "\n", true), 1) << "Enter is the safe answer";
+  EXPECT_NE(err.find("would be replaced where the file has the same number: "), std::string::npos);
+  EXPECT_NE(err.find(" [y/N] "), std::string::npos);
   EXPECT_EQ(Run("import @in.pbn", "", true), 1) << "the terminal was closed";
   interrupted = true;
   EXPECT_EQ(Run("--yes import @in.pbn"), 1);

@@ -39,6 +39,7 @@ TEST_F(BoardStore, AsksBeforeAChangedBoardReplacesAFile) {
   session.board.handChanged = true;
   host.ExpectAsk("Overwrite existing board 7?", "Hand already in library", Answer::No);
   EXPECT_FALSE(SaveHand(session));
+  EXPECT_EQ(host.asked.safe, Answer::No);
   EXPECT_EQ(ReadFile(path), old);
   EXPECT_TRUE(session.board.handChanged);
 

@@ -10,9 +10,11 @@ namespace tricklet::test {
 /// Agrees to everything; to overwriting without a note.
 class Diary : public ScriptedHost {
  public:
+  using Host::Ask;
   using Host::Tell;
-  void Tell(const std::string& text, const std::string& /*title*/) override { said += text + "\n"; }
-  Answer Ask(const std::string& text, const std::string& /*title*/, Buttons /*all*/) override {
+  void Tell(const Message& message) override { said += message.text + "\n"; }
+  Answer Ask(const Question& question) override {
+    const std::string& text = question.text;
     // Of a fault without the line of the source that found it.
     if (!text.starts_with("Overwrite")) said += "? " + text.substr(0, text.find("\nLine ")) + "\n";
     return Answer::Yes;

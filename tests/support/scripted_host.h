@@ -42,22 +42,27 @@ class ScriptedHost : public Host {
   /// The next chooser's result.
   void Choose(std::optional<std::filesystem::path> path) { choices_.push_back(std::move(path)); }
 
+  using Host::Ask;
   using Host::Tell;
-  void Tell(const std::string& text, const std::string& /*title*/) override {
-    const auto expected = Next(script_, text);
-    EXPECT_FALSE(expected.answer) << "a message where a question was expected: " << text;
-    Match(expected, text);
+  void Tell(const Message& message) override {
+    const auto expected = Next(script_, message.text);
+    EXPECT_FALSE(expected.answer) << "a message where a question was expected: " << message.text;
+    Match(expected, message.text);
   }
-  Answer Ask(const std::string& text, const std::string& title, Buttons buttons) override {
+  Answer Ask(const Question& question) override {
+    asked = question;
+    const std::string& text = question.text;
     const auto expected = Next(script_, text);
     if (onAsk) onAsk();
     Match(expected, text);
     if (!expected.title.empty()) {
-      EXPECT_EQ(title, expected.title);
+      EXPECT_EQ(question.title, expected.title);
     }
     const Answer answer = expected.answer.value_or(Answer::Cancel);
     EXPECT_TRUE(expected.answer) << "a question where a message was expected: " << text;
-    EXPECT_TRUE(Offers(buttons, answer)) << "no button for the scripted answer: " << text;
+    EXPECT_TRUE(Offers(question.buttons, answer)) << "no button for the scripted answer: " << text;
+    const Answer byEnter = question.safe.value_or(answer);
+    EXPECT_TRUE(Offers(question.buttons, byEnter)) << "no button for the safe answer: " << text;
     return answer;
   }
   void Beep() override { ++beeps; }
@@ -102,6 +107,7 @@ class ScriptedHost : public Host {
   int cancelAtStep = 0;  ///< the step (from 1) at which the person cancels
   std::function<void()> onStep;
   std::function<void()> onAsk;
+  Question asked;  ///< the last one
   std::vector<std::string> steps;
   std::vector<std::string> recycled;
   std::vector<std::string> opened;

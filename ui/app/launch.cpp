@@ -107,12 +107,13 @@ void ReadSize(const QString& text, LaunchOptions& options) {
 /// Asks nobody, so that no question has an answer; messages go to the error output.
 class SilentHost : public QtHost {
  public:
+  using Host::Ask;
   using Host::Tell;
-  void Tell(const std::string& text, const std::string& /*title*/) override {
-    std::fprintf(stderr, "%s\n", ShowableLines(text).c_str());
+  void Tell(const Message& message) override {
+    std::fprintf(stderr, "%s\n", ShowableLines(message.text).c_str());
   }
-  Answer Ask(const std::string& text, const std::string& title, Buttons /*buttons*/) override {
-    Tell(text, title);
+  Answer Ask(const Question& question) override {
+    Tell(question.text);
     return Answer::Cancel;
   }
   void Beep() override {}

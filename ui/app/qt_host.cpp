@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStandardPaths>
@@ -33,6 +34,69 @@ void Prepare(QMessageBox& box, const std::string& text, const std::string& title
   box.setWindowTitle(ToQt(ShowableLines(title)));
 }
 
+void ShowDetail(QMessageBox& box, const std::string& detail) {
+  if (detail.empty()) return;
+  box.setInformativeText(ToQt(ShowableLines(detail)));
+  // The box has a text format for its first text alone.
+  for (QLabel* label : box.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
+}
+
+void ShowButtons(QMessageBox& box, Buttons buttons) {
+  if (buttons == Buttons::OKCancel) {
+    box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+  } else {
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    // The hidden button is what Escape and closing the box mean, as neither of them means "No".
+    if (buttons == Buttons::YesNo) box.button(QMessageBox::Cancel)->hide();
+  }
+  box.setEscapeButton(QMessageBox::Cancel);
+}
+
+/// The buttons for these answers, the first that there is.
+QAbstractButton* ButtonOf(const QMessageBox& box, QMessageBox::StandardButton one,
+                          QMessageBox::StandardButton other) {
+  QAbstractButton* const button = box.button(one);
+  return button != nullptr ? button : box.button(other);
+}
+
+/// Captions that say what the buttons do, each with a letter of its own for the keyboard.
+void Caption(const QMessageBox& box, const Question& question) {
+  QChar taken;
+  const auto caption = [&taken](QAbstractButton* button, const std::string& text) {
+    if (button == nullptr || text.empty()) return;
+    QString shown = ToQt(ShowableLines(text)).replace(u'&', QStringLiteral("&&"));
+    qsizetype at = 0;
+    while (at < shown.size() && (!shown[at].isLetter() || shown[at].toLower() == taken)) ++at;
+    if (at < shown.size()) {
+      taken = shown[at].toLower();
+      shown.insert(at, u'&');
+    }
+    button->setText(shown);
+  };
+  caption(ButtonOf(box, QMessageBox::Yes, QMessageBox::Ok), question.agree);
+  caption(box.button(QMessageBox::No), question.refuse);
+}
+
+QMessageBox::StandardButton ButtonFor(Answer answer) {
+  switch (answer) {
+    case Answer::Yes:
+      return QMessageBox::Yes;
+    case Answer::OK:
+      return QMessageBox::Ok;
+    case Answer::No:
+      return QMessageBox::No;
+    case Answer::Cancel:
+      break;
+  }
+  return QMessageBox::Cancel;
+}
+
+/// Where an answer loses something the icon warns.
+QMessageBox::Icon IconOf(const Question& question) {
+  if (question.kind == MessageKind::Error) return QMessageBox::Critical;
+  return question.safe ? QMessageBox::Warning : QMessageBox::Question;
+}
+
 }  // namespace
 
 void QtHost::Attach(QWidget* window, ProgressFrame* progress) {
@@ -45,33 +109,22 @@ QWidget* QtHost::Parent() const {
   return modal != nullptr ? modal : window_.data();
 }
 
-void QtHost::Tell(const std::string& text, const std::string& title) {
+void QtHost::Tell(const Message& message) {
   QMessageBox box(Parent());
-  Prepare(box, text, title);
-  box.setIcon(QMessageBox::Information);
+  Prepare(box, message.text, message.title);
+  box.setIcon(message.kind == MessageKind::Error ? QMessageBox::Critical
+                                                 : QMessageBox::Information);
   box.exec();
 }
 
-Answer QtHost::Ask(const std::string& text, const std::string& title, Buttons buttons) {
+Answer QtHost::Ask(const Question& question) {
   QMessageBox box(Parent());
-  Prepare(box, text, title);
-  box.setIcon(QMessageBox::Question);
-  switch (buttons) {
-    case Buttons::YesNo:
-    case Buttons::NoYes:
-      // The hidden button is what Escape and closing the box mean, as neither of them means "No".
-      box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
-      box.button(QMessageBox::Cancel)->hide();
-      if (buttons == Buttons::NoYes) box.setDefaultButton(QMessageBox::No);
-      break;
-    case Buttons::YesNoCancel:
-      box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
-      break;
-    case Buttons::OKCancel:
-      box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
-      break;
-  }
-  box.setEscapeButton(QMessageBox::Cancel);
+  Prepare(box, question.text, question.title);
+  ShowDetail(box, question.detail);
+  box.setIcon(IconOf(question));
+  ShowButtons(box, question.buttons);
+  Caption(box, question);
+  if (question.safe) box.setDefaultButton(ButtonFor(*question.safe));
   switch (box.exec()) {
     case QMessageBox::Yes:
       return Answer::Yes;

@@ -14,9 +14,10 @@ class QtHost : public Host {
   /// Dialogs stand over `window` from now on, and progress shows in `progress`.
   void Attach(QWidget* window, ProgressFrame* progress);
 
+  using Host::Ask;
   using Host::Tell;
-  void Tell(const std::string& text, const std::string& title) override;
-  Answer Ask(const std::string& text, const std::string& title, Buttons buttons) override;
+  void Tell(const Message& message) override;
+  Answer Ask(const Question& question) override;
   void Beep() override;
   std::optional<std::filesystem::path> ChooseFolder(const std::string& title,
                                                     const std::filesystem::path& start) override;

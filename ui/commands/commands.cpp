@@ -308,8 +308,9 @@ void Commands::About() {
            "Their "
            "terms and where their sources are come with the package.")
             .arg(QLatin1String(qVersion()));
-    session_.host.Tell(std::string(kProgramName) + "\n" + VersionText() + "\n\n" + FromQt(text),
-                       FromQt(tr("About Tricklet")));
+    session_.host.Tell(
+        {.text = std::string(kProgramName) + "\n" + VersionText() + "\n\n" + FromQt(text),
+         .title = FromQt(tr("About Tricklet"))});
   });
 }
 

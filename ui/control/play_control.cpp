@@ -45,8 +45,11 @@ void PlayControl::Stop() {
 bool PlayControl::Leave() {
   if (!UnderWay()) return true;
   const QString question = tr("Do you wish to stop the play of board %1?");
-  if (session_.host.Ask(question.arg(session_.board.boardNumber).toStdString(),
-                        std::string(kProgramName), Buttons::NoYes) != Answer::Yes) {
+  if (session_.host.Ask({.text = question.arg(session_.board.boardNumber).toStdString(),
+                         .safe = Answer::No,
+                         .detail = play_.LossByStopping(),
+                         .agree = tr("Stop the play").toStdString(),
+                         .refuse = tr("Go on playing").toStdString()}) != Answer::Yes) {
     return false;
   }
   Stop();

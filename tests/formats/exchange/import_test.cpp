@@ -247,7 +247,16 @@ TEST_F(ImportTest, AsksAndRefuses) {
   const fs::path lin = File(LinRecordText("o3"), "a.lin");
   host.ExpectAsk("Overwrite existing hands in library Club?", "Hands already in library",
                  Answer::No);
+  LinFile results;
+  results.lin = {LinRecordText("o3"), LinRecordText("c3")};
+  auto write = LibraryWrite::Begin(session);
+  StoreLinData(session, results, *write);
+  write.reset();
   EXPECT_TRUE(ImportFile(session, file).refused);
+  EXPECT_EQ(host.asked.detail,
+            "1 board would be replaced where the file has the same number: 3.\n"
+            "2 results are kept with them: they would go to the recycle bin.");
+  EXPECT_EQ(host.asked.safe, Answer::No);
   session.board.handChanged = true;
   for (const auto& named : {file, lin}) {
     host.ExpectAskWith("Do you want to save changes to board", Answer::Cancel);

@@ -20,7 +20,6 @@ TEST_F(DialogsTest, LeavingAQuestionIsNoAnswerAndTextsAreNoMarkup) {
       {Buttons::YesNo, Qt::Key_No, Answer::No},
       {Buttons::YesNoCancel, Qt::Key_Escape, Answer::Cancel},
       {Buttons::YesNo, Qt::Key_Return, Answer::Yes},
-      {Buttons::NoYes, Qt::Key_Return, Answer::No},
       {Buttons::OKCancel, Qt::Key_Return, Answer::OK},
   };
   QtHost asking;
@@ -42,6 +41,24 @@ TEST_F(DialogsTest, LeavingAQuestionIsNoAnswerAndTextsAreNoMarkup) {
     });
     EXPECT_EQ(asking.Ask("<b>Club\xFF", "Title", buttons), answer);
   }
+}
+
+TEST_F(DialogsTest, EnterIsTheSafeAnswerAndButtonsSayWhatTheyDo) {
+  QtHost asking;
+  Later(qApp, [] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->informativeText(), QStringLiteral("<b>24</b>"));
+    EXPECT_EQ(box->button(QMessageBox::Yes)->text(), QStringLiteral("&Replace 24 && go on"));
+    EXPECT_EQ(box->button(QMessageBox::No)->text(), QStringLiteral("R&efuse"));
+    QTest::keyClick(box, Qt::Key_Return);
+  });
+  EXPECT_EQ(asking.Ask({.text = "Replace?",
+                        .safe = Answer::No,
+                        .detail = "<b>24</b>",
+                        .agree = "Replace 24 & go on",
+                        .refuse = "Refuse"}),
+            Answer::No);
 }
 
 TEST_F(DialogsTest, TheStartDialogStoresAutoLaunchAtOnce) {
