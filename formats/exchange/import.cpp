@@ -95,7 +95,9 @@ ImportOutcome ImportChosen(Session& session, const fs::path& path, const Importa
   const std::string type = FileTypeOf(path);
   const auto& types = importable.types;
   if (std::find(types.begin(), types.end(), type) != types.end()) {
-    return StoreFile(session, path, ReaderOf(type));
+    ImportOutcome outcome = StoreFile(session, path, ReaderOf(type));
+    outcome.file = path;
+    return outcome;
   }
   session.host.Tell(importable.otherType);
   return Refused(session);
