@@ -13,6 +13,7 @@
 #include "library/board_clipboard.h"
 #include "library/board_store.h"
 #include "library/library_choice.h"
+#include "library/recent_files.h"
 #include "library/start_up.h"
 #include "library/unsaved_changes.h"
 #include "ui/control/edit_control.h"
@@ -70,11 +71,19 @@ void Commands::LeaveUnsaved(const std::function<void()>& procedure) {
 }
 
 void Commands::Import() {
-  Leave([this] { tricklet::Import(session_); });
+  Leave([this] { Remember(tricklet::Import(session_)); });
 }
 
 void Commands::ImportLin() {
-  Leave([this] { tricklet::ImportLin(session_); });
+  Leave([this] { Remember(tricklet::ImportLin(session_)); });
+}
+
+/// A file that has been read is offered under "Open recent".
+void Commands::Remember(const ImportOutcome& outcome) {
+  if (outcome.file.empty() || outcome.failed) return;
+  Settings& settings = session_.settings;
+  settings.recentFiles = WithRecentFile(settings.recentFiles, outcome.file);
+  SaveSetting(session_, &Settings::recentFiles);
 }
 
 void Commands::ImportLinText(const QString& text) {
@@ -88,7 +97,11 @@ void Commands::PasteLin() {
 void Commands::ImportFiles(const std::vector<std::filesystem::path>& files) {
   for (const std::filesystem::path& file : files) {
     bool goOn = false;
-    Leave([&] { goOn = !ImportAnyFile(session_, file).cancelled; });
+    Leave([&] {
+      const ImportOutcome outcome = ImportAnyFile(session_, file);
+      Remember(outcome);
+      goOn = !outcome.cancelled;
+    });
     if (!goOn) return;
   }
 }
@@ -187,7 +200,10 @@ void Commands::CopyHand() {
 }
 
 void Commands::PasteHand() {
-  Leave([this] { tricklet::PasteHand(session_); });
+  Leave([this] {
+    tricklet::PasteHand(session_);
+    edit_.Note("paste");
+  });
 }
 
 void Commands::Bidding() {
@@ -202,6 +218,7 @@ void Commands::EnterAuction() {
   emit AuctionOpened(&dialog);
   dialog.exec();
   auction_ = nullptr;
+  edit_.Note("auction");
   emit AuctionChanged();
 }
 
@@ -245,6 +262,13 @@ void Commands::SetColourScheme(ColourScheme scheme) {
     session_.settings.colourScheme = scheme;
     SaveSetting(session_, &Settings::colourScheme);
     ApplyColourScheme(*qApp, scheme);
+  });
+}
+
+void Commands::SetToolbarStyle(ToolbarStyle style) {
+  Run([&] {
+    session_.settings.toolbarStyle = style;
+    SaveSetting(session_, &Settings::toolbarStyle);
   });
 }
 

@@ -18,7 +18,8 @@ class QWidget;
 
 namespace tricklet {
 class AuctionEntry;
-}
+struct ImportOutcome;
+}  // namespace tricklet
 
 namespace tricklet::ui {
 
@@ -86,6 +87,12 @@ class Commands : public QObject {
   void CopyHand();
   void PasteHand();
 
+  /// Take back the last step of the board or of its play, and do it again.
+  void Undo();
+  void Redo();
+  /// The board as it is stored.
+  void Revert();
+
   /// `cmdEdit`: begins to edit the hands, or leaves it.
   void EditOrStop();
   /// `cmdSwap`: the dialog that exchanges and rotates.
@@ -124,6 +131,7 @@ class Commands : public QObject {
   /// Flips a switch of the settings and stores it.
   void Toggle(bool Settings::*setting);
   void SetColourScheme(ColourScheme scheme);
+  void SetToolbarStyle(ToolbarStyle style);
   void Options();
 
   void Help();
@@ -166,6 +174,7 @@ class Commands : public QObject {
   void Copy(Runner run, const std::function<QString()>& copy);
   void Copy(Runner run, bool (*copy)(Session&), const QString& said);
   void EnterAuction();
+  void Remember(const ImportOutcome& outcome);
   void OpenDocument(const QString& fileName);
   void OpenNewVersion();
 

@@ -1,10 +1,31 @@
 // The commands that edit the hands.
 #include "ui/commands/commands.h"
 #include "ui/control/edit_control.h"
+#include "ui/control/play_control.h"
 #include "ui/dialogs/frmSwap.h"
 #include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
+
+void Commands::Undo() {
+  if (session_.board.playMode) {
+    UndoCard();
+  } else {
+    Run([this] { edit_.Undo(); });
+  }
+}
+
+void Commands::Redo() {
+  if (session_.board.playMode) {
+    Attempt([this] { play_.Redo(); });
+  } else {
+    Run([this] { edit_.Redo(); });
+  }
+}
+
+void Commands::Revert() {
+  Run([this] { edit_.Revert(); });
+}
 
 void Commands::EditOrStop() {
   Run([this] {

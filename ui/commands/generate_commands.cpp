@@ -1,6 +1,7 @@
 // The command that fills boards with random deals.
 #include "generate/generate.h"
 #include "ui/commands/commands.h"
+#include "ui/control/edit_control.h"
 #include "ui/dialogs/frmPreview.h"
 
 namespace tricklet::ui {
@@ -18,6 +19,7 @@ void Commands::Generate() {
       };
     }
     tricklet::Generate(session_, generateChoices_.constraints, options);
+    edit_.Note("dealt hands");
   });
   emit Dealing(false);
 }

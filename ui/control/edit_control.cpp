@@ -1,13 +1,16 @@
 #include "ui/control/edit_control.h"
 
 #include "core/statistics.h"
+#include "core/text.h"
 #include "generate/deal.h"
 #include "ui/control/play_control.h"
 
 namespace tricklet::ui {
 
 EditControl::EditControl(Session& session, PlayControl& play)
-    : session_(session), play_(play), boardsLoaded_(session.boardsLoaded) {}
+    : session_(session), play_(play), boardsLoaded_(session.boardsLoaded) {
+  Note({});
+}
 
 bool EditControl::Start() {
   editing_ = play_.EndForEditing();
@@ -21,6 +24,25 @@ void EditControl::DropStaleEdits() {
     editing_ = false;
   }
   if (session_.board.playMode) editing_ = false;
+  Note({});
+}
+
+std::string EditControl::Place() const {
+  return PathText(session_.BoardPath(session_.board.boardNumber));
+}
+
+void EditControl::Note(const std::string& step) {
+  past_.Note(Place(), session_.board, history_, step);
+}
+
+void EditControl::Undo() {
+  past_.Undo(ForEditing(), history_);
+}
+void EditControl::Redo() {
+  past_.Redo(ForEditing(), history_);
+}
+void EditControl::Revert() {
+  if (past_.Revert(ForEditing())) Note("revert");
 }
 
 bool EditControl::CanUndo() const {
@@ -47,37 +69,46 @@ Board& EditControl::ForEditing() {
 
 void EditControl::MoveCard(Card card, std::optional<Seat> to) {
   if (!tricklet::MoveCard(ForEditing(), card, to)) session_.host.Beep();
+  Note("move card");
 }
 
 bool EditControl::TypeHand(Seat seat, std::string_view text) {
   const auto problem = SetHand(ForEditing(), seat, text);
   if (problem) session_.host.Tell(*problem);
+  Note("type hand");
   return !problem;
 }
 
 void EditControl::Clear() {
   tricklet::Clear(ForEditing(), history_);
+  Note("clear");
 }
 void EditControl::UndoClear() {
   tricklet::UndoClear(ForEditing(), history_);
+  Note("undo clear");
 }
 void EditControl::Fill() {
   if (!tricklet::Fill(ForEditing(), history_, session_.random)) {
     session_.host.Tell(std::string(kRandomisationError));
   }
+  Note("random fill");
 }
 void EditControl::FillFourth() {
   FillFourthHand(ForEditing(), history_);
+  Note("fourth hand");
 }
 void EditControl::UndoFill() {
   tricklet::UndoFill(ForEditing(), history_);
+  Note("undo fill");
 }
 
 void EditControl::SwapHands(Seat from, Seat to) {
   swap(ForEditing(), from, to);
+  Note("swap hands");
 }
 void EditControl::SwapSuits(Suit suit1, Suit suit2) {
   SwapSuit(ForEditing(), suit1, suit2);
+  Note("swap suits");
 }
 
 void EditControl::Rotate(Rotation rotation, bool takeAuction) {
@@ -88,6 +119,7 @@ void EditControl::Rotate(Rotation rotation, bool takeAuction) {
     return;
   }
   ForEditing() = turned;
+  Note("rotate");
 }
 
 }  // namespace tricklet::ui

@@ -3,6 +3,7 @@
 
 #include <string_view>
 
+#include "generate/board_history.h"
 #include "generate/editing.h"
 #include "generate/rotation.h"
 #include "library/session.h"
@@ -23,8 +24,8 @@ class EditControl {
   /// person wants to play on.
   bool Start();
   void Stop() { editing_ = false; }
-  /// Ends editing when a board has been loaded, which also leaves nothing to undo, or when the play
-  /// has begun; to be called whenever either may have happened.
+  /// Ends editing when a board has been loaded, which also leaves nothing for the buttons to undo,
+  /// or when the play has begun; to be called whenever either may have happened.
   void DropStaleEdits();
 
   /// There are edits of this board to undo, now or when editing again.
@@ -50,12 +51,24 @@ class EditControl {
   /// When the auction is to be taken along but cannot be, tells the person and changes nothing.
   void Rotate(Rotation rotation, bool takeAuction);
 
+  /// Takes notice of a change of the board that a command has made, as a step to be undone: `step`
+  /// says in a word or two what it was.
+  void Note(const std::string& step);
+  /// What has been done to the board.
+  const BoardHistory& History() const { return past_; }
+  void Undo();
+  void Redo();
+  /// The board as it is stored; a step that can be undone.
+  void Revert();
+
  private:
   Board& ForEditing();
+  std::string Place() const;
 
   Session& session_;
   PlayControl& play_;
   EditHistory history_;
+  BoardHistory past_;
   int boardsLoaded_ = 0;
   bool editing_ = false;
 };

@@ -3,6 +3,18 @@
 #include "core/statistics.h"
 
 namespace tricklet::ui {
+namespace {
+
+/// The card that has come back to a hand; none when a claim has been taken back.
+std::optional<Card> CardBack(const HandTable& before, const HandTable& after) {
+  for (int index = 0; index < kCardsInPack; ++index) {
+    const Card card = Card::FromIndex(index);
+    if (SeatHolding(before, card) < 0 && SeatHolding(after, card) >= 0) return card;
+  }
+  return std::nullopt;
+}
+
+}  // namespace
 
 QtTrickTimer::QtTrickTimer(QObject* parent) : QObject(parent), timQuit(this) {
   timQuit.setObjectName(QStringLiteral("timQuit"));
@@ -32,6 +44,7 @@ bool PlayControl::TrickComplete() const {
 }
 
 bool PlayControl::Start() {
+  undone_.clear();
   const bool started = play_.Start();
   emit Changed();
   return started;
@@ -63,7 +76,7 @@ bool PlayControl::EndForEditing() {
 }
 
 void PlayControl::PlayCard(Card card) {
-  play_.Play(card);
+  if (play_.Play(card)) undone_.clear();
   emit Changed();
 }
 
@@ -76,11 +89,25 @@ void PlayControl::PlayOnlyCard() {
 }
 
 void PlayControl::Undo() {
-  play_.Undo();
+  if (play_.UndoEnabled()) {
+    const HandTable before = play_.Now().cardsLeft;
+    play_.Undo();
+    undone_.push_back(CardBack(before, play_.Now().cardsLeft));
+  }
+  emit Changed();
+}
+
+void PlayControl::Redo() {
+  if (CanRedo()) {
+    const std::optional<Card> card = undone_.back();
+    undone_.pop_back();
+    card ? static_cast<void>(play_.Play(*card)) : play_.Claim();
+  }
   emit Changed();
 }
 
 void PlayControl::Claim() {
+  undone_.clear();
   play_.Claim();
   emit Changed();
 }

@@ -1,6 +1,9 @@
 // The play of the board in the window: the engine's rules with a real clock.
 #pragma once
 
+#include <optional>
+#include <vector>
+
 #include <QObject>
 #include <QTimer>
 
@@ -61,6 +64,9 @@ class PlayControl : public QObject {
   void PlayOnlyCard();
   /// Takes back the claim or else the last card.
   void Undo();
+  /// Plays or claims again what `Undo` has taken back and nothing has replaced since.
+  bool CanRedo() const { return play_.PlayMode() && !undone_.empty(); }
+  void Redo();
   /// Gives the tricks that are left to the side on play.
   void Claim();
   /// Gathers a finished trick without waiting for the clock.
@@ -76,6 +82,7 @@ class PlayControl : public QObject {
   Session& session_;
   QtTrickTimer timer_;
   CardPlay play_;
+  std::vector<std::optional<Card>> undone_;  // the last first to be done again; none: a claim
 };
 
 }  // namespace tricklet::ui

@@ -11,9 +11,10 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "ui/actions/action_grid.h"
+#include "ui/actions/actions.h"
 #include "ui/commands/commands.h"
 #include "ui/control/edit_control.h"
-#include "ui/panes/command_grid.h"
 #include "ui/style/qt_text.h"
 #include "ui/table/table_edit.h"
 
@@ -54,7 +55,7 @@ QString HintFor(EditMethod method) {
 
 }  // namespace
 
-EditPane::EditPane(Commands& commands, QWidget* parent)
+EditPane::EditPane(Commands& commands, const Actions& actions, QWidget* parent)
     : Section(QStringLiteral("fraEdit"), parent),
       commands_(commands),
       cmbEditMethod_(new QComboBox(this)),
@@ -66,7 +67,7 @@ EditPane::EditPane(Commands& commands, QWidget* parent)
   connect(lineLeft_, &QTimer::timeout, this, &EditPane::FinishLinesLeft);
   BuildMethod();
   lines_ = BuildLines();
-  BuildButtons();
+  BuildButtons(actions);
 }
 
 void EditPane::BuildMethod() {
@@ -91,7 +92,7 @@ QWidget* EditPane::BuildLines() {
     line->setAccessibleName(tr("Hand of %1").arg(ToQt(SeatName[seat])));
     line->setMaxLength(kMostCharacters);
     line->setPlaceholderText(tr("no cards"));
-    connect(line, &QLineEdit::returnPressed, this, [this, seat] { FinishLine(seat); });
+    connect(line, &QLineEdit::returnPressed, this, [this, seat] { EnterLine(seat); });
     connect(line, &QLineEdit::editingFinished, lineLeft_, qOverload<>(&QTimer::start));
     auto* giveUp = new QAction(tr("Leave the hand as it is"), line);
     giveUp->setShortcut(Qt::Key_Escape);
@@ -109,30 +110,21 @@ QWidget* EditPane::BuildLines() {
   return lines;
 }
 
-void EditPane::BuildButtons() {
-  auto* grid = new CommandGrid(commands_);
-  cmdRandom = grid->Add("cmdRandom", tr("Random fill"),
-                        tr("Deal the pack at random to the hands that lack cards (Ctrl+Shift+R)"),
-                        &Commands::RandomFill);
-  cmdFillFourth_ = grid->Add("cmdFillFourth", tr("Fourth hand"),
-                             tr("Give the pack to the last hand that lacks cards (Ctrl+4)"),
-                             &Commands::FillFourth);
-  cmdUndoFill =
-      grid->Add("cmdUndoFill", tr("Undo fill"),
-                tr("The cards as before the last fill (Ctrl+Shift+Z)"), &Commands::UndoFill);
-  cmdClear =
-      grid->Add("cmdClear", tr("Clear"), tr("Take all cards and the auction away (Ctrl+Shift+Del)"),
-                &Commands::ClearHands);
-  cmdUndoClear = grid->Add("cmdUndoClear", tr("Undo clear"),
-                           tr("Cards and auction as before they were cleared (Ctrl+Shift+U)"),
-                           &Commands::UndoClear);
+void EditPane::BuildButtons(const Actions& actions) {
+  auto* grid = new ActionGrid;
+  const std::pair<const char*, const char*> buttons[] = {
+      {"cmdRandom", "mnuRandom"},       {"cmdFillFourth", "mnuFillFourth"},
+      {"cmdUndoFill", "mnuUndoFill"},   {"cmdClear", "mnuClearBoard"},
+      {"cmdUndoClear", "mnuUndoClear"},
+  };
+  for (const auto& [name, action] : buttons) buttons_ << grid->Add(name, actions.Of(action));
   Body()->addLayout(grid);
 }
 
 QList<QWidget*> EditPane::TabOrder() const {
   QList<QWidget*> order{cmbEditMethod_};
   for (QLineEdit* line : txtHand) order << line;
-  return order << cmdRandom << cmdFillFourth_ << cmdUndoFill << cmdClear << cmdUndoClear;
+  return order + buttons_;
 }
 
 QWidget* EditPane::FirstLine() const {
@@ -140,7 +132,6 @@ QWidget* EditPane::FirstLine() const {
 }
 
 void EditPane::Show(const Session& session, const EditControl& edit) {
-  setVisible(edit.Editing());
   if (!edit.Editing()) {
     ForgetTyping();
     return;
@@ -148,10 +139,6 @@ void EditPane::Show(const Session& session, const EditControl& edit) {
   SetTitle(tr("Edit board %1").arg(session.board.boardNumber));
   ShowMethod(session.settings);
   ShowLines(session.board);
-  cmdRandom->setEnabled(edit.CanFill());
-  cmdFillFourth_->setEnabled(edit.CanFillFourth());
-  cmdUndoFill->setEnabled(edit.CanUndoFill());
-  cmdUndoClear->setEnabled(edit.CanUndoClear());
 }
 
 void EditPane::ShowMethod(const Settings& settings) {
@@ -192,6 +179,14 @@ void EditPane::FinishLinesLeft() {
   for (const Seat seat : kAllSeats) {
     if (!txtHand[seat]->hasFocus() && !FinishLine(seat)) return;
   }
+}
+
+/// A hand that has been taken leads on to the next seat.
+void EditPane::EnterLine(Seat seat) {
+  if (!FinishLine(seat)) return;
+  QLineEdit* next = txtHand[SeatAfter(seat)];
+  next->setFocus();
+  next->selectAll();
 }
 
 bool EditPane::FinishLine(Seat seat) {

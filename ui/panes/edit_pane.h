@@ -5,13 +5,12 @@
 #include "ui/style/section.h"
 
 class QComboBox;
-class QGridLayout;
 class QLineEdit;
-class QPushButton;
 class QTimer;
 
 namespace tricklet::ui {
 
+class Actions;
 class Commands;
 class EditControl;
 
@@ -21,10 +20,10 @@ class EditPane : public Section {
   Q_OBJECT
 
  public:
-  explicit EditPane(Commands& commands, QWidget* parent = nullptr);
+  EditPane(Commands& commands, const Actions& actions, QWidget* parent = nullptr);
 
-  /// Visible only while the hands are edited. A line in which a hand is being typed keeps its text
-  /// unless that hand has changed.
+  /// Shows how the hands are edited, if they are. A line in which a hand is being typed keeps its
+  /// text unless that hand has changed.
   void Show(const Session& session, const EditControl& edit);
 
   /// Takes over a hand that is being typed; false when it was refused, and the text is still there.
@@ -40,9 +39,10 @@ class EditPane : public Section {
  private:
   void BuildMethod();
   QWidget* BuildLines();
-  void BuildButtons();
+  void BuildButtons(const Actions& actions);
   void ShowMethod(const Settings& settings);
   void ShowLines(const Board& board);
+  void EnterLine(Seat seat);
   bool FinishLine(Seat seat);
   void FinishLinesLeft();
 
@@ -53,11 +53,7 @@ class EditPane : public Section {
   QTimer* lineLeft_;
   PerSeat<QLineEdit*> txtHand;
   PerSeat<QString> shown_;  // in `txtHand` before anything was typed there
-  QPushButton* cmdRandom = nullptr;
-  QPushButton* cmdUndoFill = nullptr;
-  QPushButton* cmdFillFourth_ = nullptr;
-  QPushButton* cmdClear = nullptr;
-  QPushButton* cmdUndoClear = nullptr;
+  QList<QWidget*> buttons_;
 };
 
 }  // namespace tricklet::ui

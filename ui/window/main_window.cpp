@@ -8,12 +8,15 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QLabel>
-#include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
 
 #include "library/library_choice.h"
+#include "library/recent_files.h"
 #include "library/unsaved_changes.h"
+#include "ui/actions/actions.h"
+#include "ui/actions/menu_table.h"
+#include "ui/actions/panes_shown.h"
 #include "ui/background/background_tables.h"
 #include "ui/background/best_cards_finder.h"
 #include "ui/background/later.h"
@@ -24,7 +27,6 @@
 #include "ui/dialogs/frmBidding.h"
 #include "ui/dialogs/frmSwap.h"
 #include "ui/panes/auction_pane.h"
-#include "ui/panes/board_pane.h"
 #include "ui/panes/contract_pane.h"
 #include "ui/panes/edit_pane.h"
 #include "ui/panes/library_pane.h"
@@ -39,6 +41,7 @@
 #include "ui/updates/updates.h"
 #include "ui/window/dropped_records.h"
 #include "ui/window/main_menu.h"
+#include "ui/window/state_of.h"
 #include "ui/window/work_area.h"
 
 namespace tricklet::ui {
@@ -63,10 +66,10 @@ MainWindow::MainWindow(Session& session, Updates& updates)
       commands_(new Commands(session, *play_, *edit_, updates, this)),
       watch_(new DiskWatch(
           session, [this] { return LeaveToWatch(); }, this)),
-      menu_(new MainMenu(*this, *commands_, *results_, updates)),
+      actions_(new Actions(*this, *commands_, *results_)),
+      menu_(new MainMenu(*this, *actions_)),
       library_(new LibraryPane(session)),
-      editPane_(new EditPane(*commands_)),
-      board_(new BoardPane(*commands_)),
+      editPane_(new EditPane(*commands_, *actions_)),
       statistics_(new StatisticsPane),
       table_(new TableView),
       auction_(new AuctionPane),
@@ -89,7 +92,7 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::LayOut() {
-  left_ = new SideColumn(QStringLiteral("colLeft"), {library_, editPane_, board_, statistics_});
+  left_ = new SideColumn(QStringLiteral("colLeft"), {library_, editPane_, statistics_});
   right_ = new SideColumn(QStringLiteral("colRight"), {auction_, contract_, makeable_, traveller_});
   table_->setObjectName(QStringLiteral("picTable"));
   table_->setAccessibleName(tr("Table"));
@@ -135,11 +138,12 @@ void MainWindow::Connect() {
   connect(library_, &LibraryPane::HighestChosen, commands_, &Commands::SetMaxBoard);
   connect(library_, &LibraryPane::StepAsked, commands_, &Commands::StepBoard);
   connect(commands_, &Commands::NewLibraryAsked, library_, &LibraryPane::BeginNewLibrary);
-  connect(menu_, &MainMenu::PresentationAsked, this, [this] { SetPresentation(!presentation_); });
-  connect(menu_, &MainMenu::PresentationPanesAsked, this, [this](bool shown) {
-    presentationPanes_ = shown;
-    Display();
-  });
+  connect(actions_, &Actions::Asked, this, &MainWindow::CarryOut);
+  menu_->OfferAt(table_, kTableContext);
+  menu_->OfferAt(library_, kBoardListContext);
+  menu_->OfferAt(traveller_, kTravellerContext);
+  connect(menu_, &MainMenu::RecentAsked, this,
+          [this](const std::filesystem::path& file) { ImportFiles({file}); });
   connect(commands_, &Commands::TableAsked, tables_, &BackgroundTables::ComputeAsked);
   connect(tables_, &BackgroundTables::Changed, this, &MainWindow::Display);
   connect(tables_, &BackgroundTables::Said, status_, &QLabel::setText);
@@ -147,18 +151,13 @@ void MainWindow::Connect() {
   connect(watch_, &DiskWatch::Said, status_, &QLabel::setText);
   connect(&updates_, &Updates::Settled, this, [this] {
     ShowNewVersion();
-    menu_->ShowUpdates();
+    ShowState();
   });
   connect(progress_, &ProgressFrame::Begun, this, [this] { SetWorking(true); });
   connect(progress_, &ProgressFrame::Ended, this, [this] { SetWorking(false); });
-  connect(commands_, &Commands::Dealing, this, [this](bool dealing) { dealing_ = dealing; });
+  connect(commands_, &Commands::Dealing, this, [this](bool dealing) { state_.dealing = dealing; });
   connect(progress_, &ProgressFrame::Drawn, this, &MainWindow::DisplayDeal);
 
-  leavePresentation_ = new QAction(tr("Leave the presentation"), this);
-  leavePresentation_->setShortcut(Qt::Key_Escape);
-  leavePresentation_->setEnabled(false);
-  connect(leavePresentation_, &QAction::triggered, this, [this] { SetPresentation(false); });
-  addAction(leavePresentation_);
   ConnectPlay();
   ConnectEdit();
   ConnectResults();
@@ -186,7 +185,6 @@ void MainWindow::ConnectPlay() {
 /// While a play record is looked at, cards that are clicked or typed are meant for it.
 void MainWindow::ConnectResults() {
   connect(results_, &Results::Changed, this, &MainWindow::DisplayAuction);
-  connect(menu_, &MainMenu::TravellerAsked, traveller_, &TravellerPane::Toggle);
   connect(table_, &TableView::CardAsked, this, [this](Card card) {
     results_->Record() != nullptr ? results_->PlayCard(card) : commands_->PlayCard(card);
   });
@@ -197,7 +195,7 @@ void MainWindow::ConnectResults() {
 
 void MainWindow::SetTabOrder() {
   const QList<QWidget*> order =
-      library_->TabOrder() + editPane_->TabOrder() + board_->TabOrder() + QList<QWidget*>{table_} +
+      library_->TabOrder() + editPane_->TabOrder() + QList<QWidget*>{table_} +
       auction_->TabOrder() + contract_->TabOrder() + makeable_->TabOrder() + traveller_->TabOrder();
   for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order.at(i - 1), order.at(i));
 }
@@ -208,7 +206,6 @@ void MainWindow::Display() {
   results_->ReadTraveller();
   library_->Show(session_);
   editPane_->Show(session_, *edit_);
-  board_->Show(session_.board);
   statistics_->Show(session_);
   makeable_->Show(session_);
   DisplayAuction();
@@ -226,10 +223,9 @@ void MainWindow::ShowTitle() {
 
 /// The deal that a run of the generator has come to.
 void MainWindow::DisplayDeal() {
-  if (!dealing_) return;
+  if (!state_.dealing) return;
   ShowTitle();
   library_->Show(session_);
-  board_->Show(session_.board);
   statistics_->Show(session_);
   table_->Show(session_.board, session_.settings, nullptr);
   table_->ShowBestCards({});
@@ -251,8 +247,8 @@ DiskWatch::Leave MainWindow::LeaveToWatch() const {
   const bool busy = commands_->Running() || session_.batchRunning || progress_->IsWorking() ||
                     QApplication::activeModalWidget() != nullptr ||
                     QApplication::activePopupWidget() != nullptr;
-  if (busy || !isVisible() || isMinimized() || presentation_ || results_->Record() != nullptr ||
-      library_->Typing(session_)) {
+  if (busy || !isVisible() || isMinimized() || state_.presentation ||
+      results_->Record() != nullptr || library_->Typing(session_)) {
     return Leave::Nothing;
   }
   if (session_.board.playMode || edit_->Editing()) return Leave::Tell;
@@ -264,26 +260,25 @@ void MainWindow::DisplayAuction() {
   const Replay* record = results_->Record();
   auction_->Show(session_, commands_->Auction(),
                  record != nullptr ? &record->Record().board : nullptr);
-  ShowColumns();
   DisplayPlay();
 }
 
 /// All that changes when a card is played or taken back.
 void MainWindow::DisplayPlay() {
   if (progress_->IsWorking()) return;
-  menu_->Show(session_, *play_, *edit_);
-  board_->ShowPlay(*play_, *edit_);
-  ShowLibrary();
+  library_->OfferNext(play_->Play().Finished());
   traveller_->Show(session_.settings);
   DisplayTable();
-  HideAnswers();
+  ShowState();
 }
 
-/// Hides what a class is not to see while it bids, unless the panes have been switched on.
-void MainWindow::HideAnswers() {
-  if (!presentation_ || presentationPanes_) return;
-  makeable_->hide();
-  traveller_->hide();
+/// Gathers the state, and sets the actions and what is shown by it.
+void MainWindow::ShowState() {
+  state_.working = progress_->IsWorking();
+  state_ = StateOf(std::move(state_), session_, *commands_, *play_, *edit_, *results_, updates_);
+  actions_->Show(state_);
+  menu_->ShowRecent(RecentFiles(session_.settings.recentFiles));
+  ShowPanes();
 }
 
 /// The board, its play or its auction; or the play record that is looked at.
@@ -337,7 +332,7 @@ void MainWindow::BeginEditing() {
 /// there is nothing below the auction it covers no hand either.
 void MainWindow::PlaceBesideAuction(QWidget* dialog) {
   dialog->adjustSize();
-  const bool roomBelow = presentation_ && !presentationPanes_;
+  const bool roomBelow = state_.presentation && !state_.presentationPanes;
   PlaceAt(dialog, roomBelow ? width() - dialog->width() - WorkArea::kMargin : WorkArea::kMargin);
 }
 
@@ -359,44 +354,52 @@ void MainWindow::ImportFiles(const std::vector<std::filesystem::path>& files) {
 }
 
 void MainWindow::SetWorking(bool working) {
-  menu_->SetEnabled(!working);
-  menuBar()->setEnabled(!working);
   left_->setEnabled(!working);
+  table_->setEnabled(!working);
   setAcceptDrops(!working);
-  leavePresentation_->setEnabled(!working && presentation_);  // Escape cancels the work meanwhile
-  ShowColumns();
+  ShowState();
   if (!working) table_->setFocus();
 }
 
-void MainWindow::ShowColumns() {
-  const bool working = progress_->IsWorking();
-  const bool editing = edit_->Editing();
+void MainWindow::ShowPanes() {
+  const PanesShown shown = ShownIn(state_);
+  menu_->Show(state_, shown.bars);
+  statusBar()->setVisible(shown.bars);
+  area_->ShowMargin(shown.bars);
   KeepRoom(table_, true);
-  KeepRoom(left_, !presentation_);
-  KeepRoom(right_, !presentation_ && !editing);  // the pack needs its room
-  const bool panes = !presentation_ || presentationPanes_ || commands_->Auction() != nullptr;
-  table_->setVisible(!working || dealing_ || presentation_);  // a projector must not go blank
-  table_->setEnabled(!working);
-  left_->setVisible(!presentation_);
-  right_->setVisible(panes && !working && !editing);
-  if (editing) statistics_->hide();
+  KeepRoom(left_, shown.leftRoom);
+  KeepRoom(right_, shown.rightRoom);
+  const std::pair<QWidget*, bool> panes[] = {
+      {table_, shown.table},           {left_, shown.left},
+      {library_, shown.library},       {editPane_, shown.edit},
+      {statistics_, shown.statistics}, {right_, shown.right},
+      {contract_, shown.contract},     {makeable_, shown.makeable},
+      {traveller_, shown.traveller},
+  };
+  for (const auto& [pane, visible] : panes) pane->setVisible(visible);
 }
 
-/// No other board can be chosen while this one is edited or played; after the play the way to the
-/// next board stands out.
-void MainWindow::ShowLibrary() {
-  KeepRoom(library_, play_->Unfinished());  // so that the buttons below stay where they are
-  library_->setVisible(!edit_->Editing() && !play_->Unfinished());
-  library_->OfferNext(play_->Play().Finished());
+void MainWindow::CarryOut(WindowAsk what) {
+  switch (what) {
+    case WindowAsk::Presentation:
+      SetPresentation(!state_.presentation);
+      break;
+    case WindowAsk::LeavePresentation:
+      SetPresentation(false);
+      break;
+    case WindowAsk::PresentationPanes:
+      state_.presentationPanes = !state_.presentationPanes;
+      Display();
+      break;
+    case WindowAsk::Traveller:
+      traveller_->Toggle();
+      break;
+  }
 }
 
 void MainWindow::SetPresentation(bool on) {
-  if (presentation_ == on) return;
-  presentation_ = on;
-  leavePresentation_->setEnabled(on);
-  area_->ShowMargin(!on);
-  menuBar()->setVisible(!on);
-  statusBar()->setVisible(!on);
+  if (state_.presentation == on) return;
+  state_.presentation = on;
   Display();
   if (on) {
     stateBefore_ = windowState();

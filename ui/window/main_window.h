@@ -8,6 +8,8 @@
 #include <QMainWindow>
 
 #include "library/session.h"
+#include "ui/actions/action_table.h"
+#include "ui/actions/window_state.h"
 #include "ui/window/disk_watch.h"
 
 class QLabel;
@@ -20,10 +22,10 @@ class Replay;
 
 namespace tricklet::ui {
 
+class Actions;
 class AuctionPane;
 class BackgroundTables;
 class BestCardsFinder;
-class BoardPane;
 class Commands;
 class ContractPane;
 class EditControl;
@@ -97,9 +99,9 @@ class MainWindow : public QMainWindow {
   void BuildStatusLine();
   void ShowNewVersion();
   void SetWorking(bool working);
-  void ShowColumns();
-  void ShowLibrary();
-  void HideAnswers();
+  void ShowState();
+  void ShowPanes();
+  void CarryOut(WindowAsk what);
 
   Session& session_;
   const Updates& updates_;
@@ -110,10 +112,10 @@ class MainWindow : public QMainWindow {
   Results* results_;
   Commands* commands_;
   DiskWatch* watch_;
+  Actions* actions_;
   MainMenu* menu_;
   LibraryPane* library_;
   EditPane* editPane_;
-  BoardPane* board_;
   StatisticsPane* statistics_;
   TableView* table_;
   AuctionPane* auction_;
@@ -126,10 +128,7 @@ class MainWindow : public QMainWindow {
   WorkArea* area_ = nullptr;
   QLabel* status_ = nullptr;
   QLabel* newVersion_ = nullptr;
-  QAction* leavePresentation_ = nullptr;
-  bool dealing_ = false;  // a run of the generator may be going on
-  bool presentation_ = false;
-  bool presentationPanes_ = false;  // the right column is part of it
+  WindowState state_;  // of the last display; what only the window knows is set here
   Qt::WindowStates stateBefore_;
 };
 

@@ -207,5 +207,27 @@ TEST_F(EditWindowTest, NothingIsLeftOfEditingThatEnds) {
   }
 }
 
+TEST_F(EditWindowTest, EveryChangeCanBeUndoneByOneKey) {
+  OpenEditing(EditMethod::Dragging);
+  const HandTable dealt = session.board.hands;
+  Drag("HA", PointOf(HandFrame::Pack));
+  Key("Ctrl+Shift+Del");
+  EXPECT_EQ(FromQt(Find<QAction>("mnuUndo")->text()), "&Undo clear");
+  EXPECT_TRUE(Enabled("cmdUndoClear"));
+  Key("Ctrl+Z");
+  EXPECT_FALSE(Enabled("cmdUndoClear")) << "the button agrees";
+  EXPECT_TRUE(Enabled("cmdUndoFill") == false && session.board.handChanged);
+  Key("Ctrl+Z");
+  EXPECT_TRUE(session.board.hands == dealt && !session.board.handChanged);
+  EXPECT_FALSE(Enabled("mnuUndo"));
+  Key("Ctrl+Shift+Z");
+  Key("Ctrl+Shift+Z");
+  EXPECT_FALSE(HasCards(session.board.hands));
+  Key("Ctrl+Shift+S");
+  EXPECT_TRUE(session.board.hands == dealt && !session.board.handChanged) << "reverted";
+  Key("Ctrl+Z");
+  EXPECT_FALSE(HasCards(session.board.hands)) << "and that undone";
+}
+
 }  // namespace
 }  // namespace tricklet::ui

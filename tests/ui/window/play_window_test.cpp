@@ -288,5 +288,22 @@ TEST_F(PlayWindowTest, NothingIsLeftOfAPlayThatEnds) {
   }
 }
 
+TEST_F(PlayWindowTest, CardsAndClaimsThatWereTakenBackComeBack) {
+  Open();
+  StartPlay();
+  ClickCards(5);
+  Key("Ctrl+L");
+  const PlayState claimed = Play().Now();
+  for (int i = 0; i < 6; ++i) Key("Ctrl+Z");
+  EXPECT_FALSE(Enabled("mnuUndo"));
+  for (int i = 0; i < 6; ++i) Key("Ctrl+Shift+Z");
+  EXPECT_TRUE(Play().Now() == claimed);
+  EXPECT_FALSE(Enabled("mnuRedo"));
+  Key("Ctrl+Z");
+  Key("Ctrl+Z");
+  ClickCards(1);
+  EXPECT_FALSE(Enabled("mnuRedo")) << "another card has taken its place";
+}
+
 }  // namespace
 }  // namespace tricklet::ui

@@ -1,0 +1,344 @@
+#include "ui/actions/action_table.h"
+
+#include <algorithm>
+#include <array>
+
+#include <QCoreApplication>
+
+#include "ui/commands/commands.h"
+#include "ui/control/results.h"
+#include "ui/style/qt_text.h"
+
+namespace tricklet::ui {
+namespace {
+
+/// The context of the texts for translators.
+struct Actions {
+  Q_DECLARE_TR_FUNCTIONS(Actions)
+};
+
+// When an action can be carried out, and when its mark is set.
+
+using State = const WindowState&;
+
+bool NotEditing(State state) {
+  return !state.editing;
+}
+bool NotInPlay(State state) {
+  return !state.PlayUnfinished();
+}
+bool Changed(State state) {
+  return state.changed;
+}
+bool CanRevert(State state) {
+  return state.canRevert && !state.PlayUnfinished();
+}
+bool CanUndo(State state) {
+  return state.playing ? state.canUndoCard : !state.undoStep.empty();
+}
+bool CanRedo(State state) {
+  return state.playing ? state.canRedoCard : !state.redoStep.empty();
+}
+bool CanPaste(State state) {
+  return state.canPaste && !state.PlayUnfinished();
+}
+bool CanFill(State state) {
+  return state.canFill && !state.PlayUnfinished();
+}
+bool CanFillFourth(State state) {
+  return state.canFillFourth && !state.PlayUnfinished();
+}
+bool CanUndoFill(State state) {
+  return state.canUndoFill && !state.PlayUnfinished();
+}
+bool CanUndoClear(State state) {
+  return state.canUndoClear && !state.PlayUnfinished();
+}
+bool CanBid(State state) {
+  return !state.PlayUnfinished() && !state.editing;
+}
+bool CanPlayOrStop(State state) {
+  return state.playing || state.complete;
+}
+bool CanUndoCard(State state) {
+  return state.canUndoCard;
+}
+bool TrickComplete(State state) {
+  return state.trickComplete;
+}
+bool CanClaim(State state) {
+  return state.canClaim;
+}
+/// Its table would not be seen while the hands are edited.
+bool CanAnalyse(State state) {
+  return state.complete && !state.editing;
+}
+bool IsComplete(State state) {
+  return state.complete;
+}
+bool HasResults(State state) {
+  return state.hasResults;
+}
+bool CanGoForward(State state) {
+  return state.canGoForward;
+}
+bool CanGoBack(State state) {
+  return state.canGoBack;
+}
+bool RecordShown(State state) {
+  return state.recordShown;
+}
+bool CanCheckForUpdates(State state) {
+  return state.updateObstacle.empty();
+}
+
+bool IsEditing(State state) {
+  return state.editing;
+}
+bool IsPlaying(State state) {
+  return state.playing;
+}
+template <bool WindowState::*kSwitch>
+bool IsOn(State state) {
+  return state.*kSwitch;
+}
+template <ColourScheme kScheme>
+bool HasScheme(State state) {
+  return state.colourScheme == kScheme;
+}
+template <ToolbarStyle kStyle>
+bool HasStyle(State state) {
+  return state.toolbarStyle == kStyle;
+}
+
+// Texts that depend on the state.
+
+QString UndoCaption(State state) {
+  if (state.playing) return Actions::tr("&Undo card");
+  return state.undoStep.empty() ? Actions::tr("&Undo")
+                                : Actions::tr("&Undo %1").arg(ToQt(state.undoStep));
+}
+QString RedoCaption(State state) {
+  if (state.playing) return Actions::tr("&Redo card");
+  return state.redoStep.empty() ? Actions::tr("&Redo")
+                                : Actions::tr("&Redo %1").arg(ToQt(state.redoStep));
+}
+QString EditCaption(State state) {
+  return state.editing ? Actions::tr("Stop &editing") : Actions::tr("&Edit hands");
+}
+QString EditShort(State state) {
+  return state.editing ? Actions::tr("Stop editing") : Actions::tr("Edit");
+}
+QString PlayCaption(State state) {
+  return state.playing ? Actions::tr("Stop &play") : Actions::tr("&Play");
+}
+QString PlayShort(State state) {
+  return state.playing ? Actions::tr("Stop play") : Actions::tr("Play");
+}
+QString ClaimText(State state) {
+  return state.playing ? ToQt(state.claimCaption) : Actions::tr("&Claim");
+}
+QString NewVersionCaption(State state) {
+  return Actions::tr("&Version %1 is there...").arg(ToQt(state.newerVersion));
+}
+
+const std::array kTable{
+    // File
+    ActionEntry{"mnuImport", QT_TR_NOOP("&Import hand records..."), QT_TR_NOOP("Open"), "Ctrl+O",
+                QT_TR_NOOP("Bring the boards of a file into the library"), "open",
+                &Commands::Import},
+    ActionEntry{"mnuImportLin", QT_TR_NOOP("Import &LIN records..."), "", "Ctrl+Shift+I",
+                QT_TR_NOOP("Bring in LIN records from a file"), "", &Commands::ImportLin},
+    ActionEntry{"mnuPasteLin", QT_TR_NOOP("&Paste LIN records"), "", "Ctrl+Shift+V",
+                QT_TR_NOOP("Bring in the LIN records of the clipboard"), "", &Commands::PasteLin},
+    ActionEntry{"mnuExport", QT_TR_NOOP("&Export hand records..."), QT_TR_NOOP("Export"), "Ctrl+E",
+                QT_TR_NOOP("Write boards of the library into a file for other programs"), "",
+                &Commands::Export},
+    ActionEntry{"mnuSave", QT_TR_NOOP("&Save board"), QT_TR_NOOP("Save"), "Ctrl+S",
+                QT_TR_NOOP("Write the board to its library"), "save", &Commands::Save, Changed},
+    ActionEntry{"mnuRevert", QT_TR_NOOP("Re&vert board"), "", "Ctrl+Shift+S",
+                QT_TR_NOOP("Take back every change that has not been saved"), "", &Commands::Revert,
+                CanRevert},
+    ActionEntry{"mnuExit", QT_TR_NOOP("E&xit"), "", "Ctrl+Q", QT_TR_NOOP("End the program"), "",
+                &Commands::Exit},
+    // Edit
+    ActionEntry{
+        "mnuUndo", QT_TR_NOOP("&Undo"), QT_TR_NOOP("Undo"), "Ctrl+Z",
+        QT_TR_NOOP(
+            "Take back the last step: a change of the board, or a card or claim of the play"),
+        "undo", &Commands::Undo, CanUndo, nullptr, UndoCaption},
+    ActionEntry{"mnuRedo", QT_TR_NOOP("&Redo"), QT_TR_NOOP("Redo"), "Ctrl+Shift+Z Ctrl+Y",
+                QT_TR_NOOP("Do again what was taken back"), "redo", &Commands::Redo, CanRedo,
+                nullptr, RedoCaption},
+    ActionEntry{"mnuCopyHand", QT_TR_NOOP("&Copy board"), "", "Ctrl+C",
+                QT_TR_NOOP("Copy the board to the program's clipboard"), "", &Commands::CopyHand},
+    ActionEntry{"mnuPasteHand", QT_TR_NOOP("&Paste board"), "", "Ctrl+V",
+                QT_TR_NOOP("Put the copied board in the place of this one"), "",
+                &Commands::PasteHand, CanPaste},
+    ActionEntry{"mnuEdit", QT_TR_NOOP("&Edit hands"), QT_TR_NOOP("Edit"), "Ctrl+H",
+                QT_TR_NOOP("Move cards between the hands"), "edit", &Commands::EditOrStop, nullptr,
+                IsEditing, EditCaption, EditShort},
+    ActionEntry{"mnuOptions", QT_TR_NOOP("Pre&ferences..."), "", "Ctrl+,",
+                QT_TR_NOOP("Choose how the program looks and works"), "", &Commands::Options},
+    // Library
+    ActionEntry{"mnuRenameLibrary", QT_TR_NOOP("&Rename library..."), "", "F2",
+                QT_TR_NOOP("Give the library another name"), "", &Commands::RenameLibrary},
+    ActionEntry{"mnuNewLibrary", QT_TR_NOOP("&New library..."), "", "Ctrl+N",
+                QT_TR_NOOP("Make an empty library"), "", &Commands::NewLibrary, NotEditing},
+    ActionEntry{"mnuCopyLibrary", QT_TR_NOOP("&Copy library..."), "", "Shift+F2",
+                QT_TR_NOOP("Copy the library under another name"), "", &Commands::CopyLibrary},
+    ActionEntry{"mnuDeleteLibrary", QT_TR_NOOP("&Delete library..."), "", "Ctrl+F2",
+                QT_TR_NOOP("Send libraries to the recycle bin"), "", &Commands::DeleteLibrary},
+    ActionEntry{"mnuGenerate", QT_TR_NOOP("&Generate deals..."), QT_TR_NOOP("Generate"),
+                "Ctrl+Shift+G", QT_TR_NOOP("Fill boards with random deals"), "generate",
+                &Commands::Generate},
+    ActionEntry{"mnuRefresh", QT_TR_NOOP("Re&fresh"), "", "F5",
+                QT_TR_NOOP("Look again which libraries and boards there are"), "",
+                &Commands::RefreshLibraries},
+    ActionEntry{"mnuImportLibrary", QT_TR_NOOP("&Import library..."), "", "F7",
+                QT_TR_NOOP("Copy a library from another folder to here"), "",
+                &Commands::ImportLibrary, NotEditing},
+    ActionEntry{"mnuImportLibraries", QT_TR_NOOP("I&mport all libraries..."), "", "Shift+F7",
+                QT_TR_NOOP("Copy all libraries of another folder to here"), "",
+                &Commands::ImportLibraries},
+    ActionEntry{"mnuExportLibrary", QT_TR_NOOP("&Export library..."), "", "F8",
+                QT_TR_NOOP("Copy the library to another folder"), "", &Commands::ExportLibrary},
+    ActionEntry{"mnuExportLibraries", QT_TR_NOOP("Export &all libraries..."), "", "Shift+F8",
+                QT_TR_NOOP("Copy all libraries to another folder"), "", &Commands::ExportLibraries},
+    ActionEntry{"mnuMoveLibraries", QT_TR_NOOP("Mo&ve libraries..."), "", "Shift+F6",
+                QT_TR_NOOP("Keep the libraries in another folder from now on"), "",
+                &Commands::MoveLibraries, NotEditing},
+    // Board
+    ActionEntry{"mnuNext", QT_TR_NOOP("&Next board"), QT_TR_NOOP("Next"), "PgDown Ctrl+Right",
+                QT_TR_NOOP("Go to the next board"), "next", &Commands::NextBoard, NotEditing},
+    ActionEntry{"mnuPrevious", QT_TR_NOOP("Pre&vious board"), QT_TR_NOOP("Previous"),
+                "PgUp Ctrl+Left", QT_TR_NOOP("Go to the board before"), "previous",
+                &Commands::PreviousBoard, NotEditing},
+    ActionEntry{"mnuFirst", QT_TR_NOOP("&First board"), "", "Ctrl+Home",
+                QT_TR_NOOP("Go to the first board"), "", &Commands::FirstBoard, NotEditing},
+    ActionEntry{"mnuLast", QT_TR_NOOP("&Last board"), "", "Ctrl+End",
+                QT_TR_NOOP("Go to the highest board"), "", &Commands::LastBoard, NotEditing},
+    ActionEntry{"mnuGoTo", QT_TR_NOOP("&Go to board..."), "", "Ctrl+G",
+                QT_TR_NOOP("Go to a board by its number"), "", &Commands::GoToBoard, NotEditing},
+    ActionEntry{"mnuSwap", QT_TR_NOOP("Rotate/&Swap..."), QT_TR_NOOP("Swap"), "Ctrl+R",
+                QT_TR_NOOP("Exchange hands or suits, or rotate the deal"), "swap", &Commands::Swap,
+                NotInPlay},
+    ActionEntry{"mnuRandom", QT_TR_NOOP("&Random fill"), QT_TR_NOOP("Random fill"), "Ctrl+Shift+R",
+                QT_TR_NOOP("Deal the pack at random to the hands that lack cards"), "",
+                &Commands::RandomFill, CanFill},
+    ActionEntry{"mnuFillFourth", QT_TR_NOOP("F&ourth hand"), QT_TR_NOOP("Fourth hand"), "Ctrl+4",
+                QT_TR_NOOP("Give the pack to the last hand that lacks cards"), "",
+                &Commands::FillFourth, CanFillFourth},
+    ActionEntry{"mnuUndoFill", QT_TR_NOOP("&Undo fill"), QT_TR_NOOP("Undo fill"), "Ctrl+Alt+R",
+                QT_TR_NOOP("The cards as before the last fill"), "", &Commands::UndoFill,
+                CanUndoFill},
+    ActionEntry{"mnuClearBoard", QT_TR_NOOP("&Clear board"), QT_TR_NOOP("Clear"), "Ctrl+Shift+Del",
+                QT_TR_NOOP("Take all cards and the auction away"), "", &Commands::ClearHands,
+                NotInPlay},
+    ActionEntry{"mnuUndoClear", QT_TR_NOOP("Undo cle&ar"), QT_TR_NOOP("Undo clear"), "Ctrl+Shift+U",
+                QT_TR_NOOP("Cards and auction as before they were cleared"), "",
+                &Commands::UndoClear, CanUndoClear},
+    // Play
+    ActionEntry{"mnuBidding", QT_TR_NOOP("&Bidding..."), QT_TR_NOOP("Bidding"), "Ctrl+B",
+                QT_TR_NOOP("Enter the auction"), "bidding", &Commands::Bidding, CanBid},
+    ActionEntry{"mnuPlay", QT_TR_NOOP("&Play"), QT_TR_NOOP("Play"), "Ctrl+P",
+                QT_TR_NOOP("Play the board card by card"), "play", &Commands::PlayOrStop,
+                CanPlayOrStop, IsPlaying, PlayCaption, PlayShort},
+    ActionEntry{"mnuUndoCard", QT_TR_NOOP("&Undo card"), QT_TR_NOOP("Undo card"), "Ctrl+U",
+                QT_TR_NOOP("Take back the claim or the last card"), "", &Commands::UndoCard,
+                CanUndoCard},
+    ActionEntry{"mnuGatherTrick", QT_TR_NOOP("&Gather trick"), "", "Ctrl+Return",
+                QT_TR_NOOP("Clear the finished trick from the table"), "", &Commands::QuitTrick,
+                TrickComplete},
+    ActionEntry{"mnuClaim", QT_TR_NOOP("&Claim"), QT_TR_NOOP("Claim"), "Ctrl+L",
+                QT_TR_NOOP("All tricks that are left go to the side on play"), "claim",
+                &Commands::Claim, CanClaim, nullptr, ClaimText},
+    // Analysis
+    ActionEntry{"mnuDDS", QT_TR_NOOP("Analyse &board"), QT_TR_NOOP("Analyse"), "Ctrl+D",
+                QT_TR_NOOP("Compute the double-dummy table"), "analyse", &Commands::AnalyseBoard,
+                CanAnalyse},
+    ActionEntry{"mnuAnalyse", QT_TR_NOOP("&Analyse all boards"), "", "Ctrl+Shift+D",
+                QT_TR_NOOP("Compute every double-dummy table that the library lacks"), "",
+                &Commands::AnalyseLibrary},
+    ActionEntry{"mnuBSOL", QT_TR_NOOP("&Online double-dummy page"), QT_TR_NOOP("Online"),
+                "Ctrl+Shift+O", QT_TR_NOOP("Open the online double-dummy page on this board"),
+                "online", &Commands::OnlineSolver, IsComplete},
+    // Results
+    ActionEntry{"mnuTraveller", QT_TR_NOOP("&Traveller"), "", "Ctrl+J",
+                QT_TR_NOOP("Show or hide the results of the board"), "", WindowAsk::Traveller,
+                HasResults},
+    ActionEntry{"mnuLinForward", QT_TR_NOOP("&Next card"), "", "Alt+Right",
+                QT_TR_NOOP("The next card of the play record"), "", &Results::Forward,
+                CanGoForward},
+    ActionEntry{"mnuLinBack", QT_TR_NOOP("&Card back"), "", "Alt+Left",
+                QT_TR_NOOP("One card back in the play record"), "", &Results::Back, CanGoBack},
+    ActionEntry{"mnuLinNextTrick", QT_TR_NOOP("Next tric&k"), "", "Alt+Shift+Right",
+                QT_TR_NOOP("The next trick of the play record"), "", &Results::NextTrick,
+                CanGoForward},
+    ActionEntry{"mnuLinPreviousTrick", QT_TR_NOOP("Trick &back"), "", "Alt+Shift+Left",
+                QT_TR_NOOP("One trick back in the play record"), "", &Results::PreviousTrick,
+                CanGoBack},
+    ActionEntry{"mnuLinLeave", QT_TR_NOOP("&Put the record away"), "", "Ctrl+Shift+J",
+                QT_TR_NOOP("Look at the board itself again"), "", &Results::Leave, RecordShown},
+    // View
+    ActionEntry{"mnuStatistics", QT_TR_NOOP("&Statistics"), "", "Ctrl+T",
+                QT_TR_NOOP("Points, losers and suit lengths beside the table"), "",
+                &Settings::showStats, nullptr, IsOn<&WindowState::showStats>},
+    ActionEntry{"mnuMakeable", QT_TR_NOOP("&Makeable contracts"), "", "Ctrl+M",
+                QT_TR_NOOP("The double-dummy table beside the table"), "", &Settings::showMakeable,
+                nullptr, IsOn<&WindowState::showMakeable>},
+    ActionEntry{"mnuBestCards", QT_TR_NOOP("&Best cards in play"), QT_TR_NOOP("Best cards"),
+                "Ctrl+K", QT_TR_NOOP("Show in play what each card leads to"), "best",
+                &Settings::showBestCards, nullptr, IsOn<&WindowState::showBestCards>},
+    ActionEntry{"mnuCardFaces", QT_TR_NOOP("Card &faces"), "", "Ctrl+Shift+F",
+                QT_TR_NOOP("Show the hands as cards, or as text"), "", &Settings::cardsFaces,
+                nullptr, IsOn<&WindowState::cardsFaces>},
+    ActionEntry{"mnuColoursSystem", QT_TR_NOOP("As the &system"), "", "Ctrl+Alt+1",
+                QT_TR_NOOP("The colours of the system"), "", ColourScheme::System, nullptr,
+                HasScheme<ColourScheme::System>},
+    ActionEntry{"mnuColoursLight", QT_TR_NOOP("&Light"), "", "Ctrl+Alt+2",
+                QT_TR_NOOP("Dark on light"), "", ColourScheme::Light, nullptr,
+                HasScheme<ColourScheme::Light>},
+    ActionEntry{"mnuColoursDark", QT_TR_NOOP("&Dark"), "", "Ctrl+Alt+3",
+                QT_TR_NOOP("Light on dark"), "", ColourScheme::Dark, nullptr,
+                HasScheme<ColourScheme::Dark>},
+    ActionEntry{"mnuToolsUnder", QT_TR_NOOP("Text &under the icons"), "", "Ctrl+Alt+4",
+                QT_TR_NOOP("The toolbar with text under its icons"), "",
+                ToolbarStyle::TextUnderIcon, nullptr, HasStyle<ToolbarStyle::TextUnderIcon>},
+    ActionEntry{"mnuToolsBeside", QT_TR_NOOP("Text &beside the icons"), "", "Ctrl+Alt+5",
+                QT_TR_NOOP("The toolbar with text beside its icons"), "",
+                ToolbarStyle::TextBesideIcon, nullptr, HasStyle<ToolbarStyle::TextBesideIcon>},
+    ActionEntry{"mnuToolsIcons", QT_TR_NOOP("&Icons alone"), "", "Ctrl+Alt+6",
+                QT_TR_NOOP("The toolbar without text"), "", ToolbarStyle::IconAlone, nullptr,
+                HasStyle<ToolbarStyle::IconAlone>},
+    ActionEntry{"mnuPresentation", QT_TR_NOOP("&Presentation"), QT_TR_NOOP("Present"), "F11",
+                QT_TR_NOOP("The table alone on the whole screen"), "present",
+                WindowAsk::Presentation, nullptr, IsOn<&WindowState::presentation>},
+    ActionEntry{"mnuPresentationPanes", QT_TR_NOOP("&Auction and panes in a presentation"), "",
+                "Shift+F11",
+                QT_TR_NOOP("The auction and the panes beside it in a presentation too"), "",
+                WindowAsk::PresentationPanes, nullptr, IsOn<&WindowState::presentationPanes>},
+    ActionEntry{"mnuLeavePresentation", QT_TR_NOOP("&Leave the presentation"), "", "Esc",
+                QT_TR_NOOP("Back to the window"), "", WindowAsk::LeavePresentation,
+                IsOn<&WindowState::presentation>},
+    // Help
+    ActionEntry{"mnuHelp", QT_TR_NOOP("&Help"), "", "F1", QT_TR_NOOP("The manual"), "",
+                &Commands::Help},
+    ActionEntry{"mnuNewFeatures", QT_TR_NOOP("&New Features"), "", "Shift+F1",
+                QT_TR_NOOP("What is new in this version"), "", &Commands::NewFeatures},
+    ActionEntry{"mnuNewVersion", QT_TR_NOOP("&Version"), "", "Ctrl+Alt+U",
+                QT_TR_NOOP("Open the page of the newer version"), "", &Commands::NewVersion,
+                nullptr, nullptr, NewVersionCaption},
+    ActionEntry{"mnuCheckForUpdates", QT_TR_NOOP("&Check for updates..."), "", "Ctrl+Shift+F1",
+                QT_TR_NOOP("Ask whether there is a newer version"), "", &Commands::CheckForUpdates,
+                CanCheckForUpdates},
+    ActionEntry{"mnuAbout", QT_TR_NOOP("&About Tricklet"), "", "Ctrl+F1",
+                QT_TR_NOOP("Version, folder of the libraries and licences"), "", &Commands::About},
+};
+
+}  // namespace
+
+std::span<const ActionEntry> ActionTable() {
+  return kTable;
+}
+}  // namespace tricklet::ui

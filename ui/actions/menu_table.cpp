@@ -1,0 +1,57 @@
+#include "ui/actions/menu_table.h"
+
+#include <array>
+
+#include <QCoreApplication>
+
+namespace tricklet::ui {
+namespace {
+
+constexpr std::array kMenus{
+    MenuEntry{QT_TR_NOOP("&File"),
+              "mnuImport mnuRecent> < mnuImportLin mnuPasteLin mnuExport | mnuSave mnuRevert | "
+              "mnuExit"},
+    MenuEntry{QT_TR_NOOP("&Edit"),
+              "mnuUndo mnuRedo | mnuCopyHand mnuPasteHand | mnuEdit | mnuOptions"},
+    MenuEntry{QT_TR_NOOP("&Library"),
+              "mnuRenameLibrary mnuNewLibrary mnuCopyLibrary mnuDeleteLibrary | mnuGenerate | "
+              "mnuRefresh | mnuImportLibrary mnuImportLibraries mnuExportLibrary "
+              "mnuExportLibraries | mnuMoveLibraries"},
+    MenuEntry{QT_TR_NOOP("&Board"),
+              "mnuNext mnuPrevious mnuFirst mnuLast mnuGoTo | mnuSwap | mnuRandom "
+              "mnuFillFourth mnuUndoFill | mnuClearBoard mnuUndoClear"},
+    MenuEntry{QT_TR_NOOP("&Play"), "mnuBidding | mnuPlay mnuUndoCard mnuGatherTrick mnuClaim"},
+    MenuEntry{QT_TR_NOOP("&Analysis"), "mnuDDS mnuAnalyse | mnuBSOL"},
+    MenuEntry{QT_TR_NOOP("&Results"),
+              "mnuTraveller | mnuLinForward mnuLinBack mnuLinNextTrick mnuLinPreviousTrick "
+              "mnuLinLeave"},
+    MenuEntry{QT_TR_NOOP("&View"),
+              "mnuStatistics "
+              "mnuMakeable mnuBestCards mnuCardFaces | mnuColours> mnuColoursSystem "
+              "mnuColoursLight mnuColoursDark < mnuTools> mnuToolsUnder mnuToolsBeside "
+              "mnuToolsIcons < | mnuPresentation mnuPresentationPanes mnuLeavePresentation"},
+    MenuEntry{QT_TR_NOOP("&Help"),
+              "mnuHelp mnuNewFeatures | mnuNewVersion mnuCheckForUpdates | mnuAbout"},
+};
+
+}  // namespace
+
+const char* const kToolbar =
+    "tbrOpen=mnuImport cmdSave=mnuSave | tbrPrevious=mnuPrevious tbrNext=mnuNext | "
+    "cmdBidding=mnuBidding cmdPlay=mnuPlay tbrUndo=mnuUndo tbrRedo=mnuRedo tbrClaim=mnuClaim | "
+    "tbrBestCards=mnuBestCards cmdDDS=mnuDDS cmdBSOL=mnuBSOL | cmdEdit=mnuEdit cmdSwap=mnuSwap "
+    "cmdGenerate=mnuGenerate | tbrPresent=mnuPresentation";
+const char* const kTableContext =
+    "mnuUndo mnuRedo | mnuBidding mnuPlay mnuClaim | mnuEdit mnuSwap | mnuDDS mnuBSOL | "
+    "mnuCopyHand mnuPasteHand | mnuSave "
+    "mnuRevert | mnuPresentation";
+const char* const kBoardListContext =
+    "mnuCopyHand mnuPasteHand | mnuSave mnuRevert | mnuDDS mnuAnalyse | mnuGoTo";
+const char* const kTravellerContext =
+    "mnuLinForward mnuLinBack mnuLinNextTrick mnuLinPreviousTrick | mnuLinLeave | mnuTraveller";
+
+std::span<const MenuEntry> MenuTable() {
+  return kMenus;
+}
+
+}  // namespace tricklet::ui

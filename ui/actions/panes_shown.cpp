@@ -1,0 +1,31 @@
+#include "ui/actions/panes_shown.h"
+
+namespace tricklet::ui {
+
+PanesShown ShownIn(const WindowState& state) {
+  // A class is to bid and play without the answers, unless the panes have been switched on.
+  const bool answers = !state.presentation || state.presentationPanes;
+  PanesShown shown;
+  shown.bars = !state.presentation;
+  shown.table = !state.working || state.dealing || state.presentation;  // a projector stays lit
+  shown.empty = state.emptyLibrary && !state.hasCards && !state.editing && !state.entering;
+
+  shown.left = !state.presentation;
+  shown.library = !state.editing && !state.PlayUnfinished() && !state.recordShown;
+  shown.tricks = !state.editing && (state.playing || state.recordShown);
+  shown.edit = state.editing;
+  shown.statistics =
+      state.showStats && state.hasCards && !state.editing && !state.playing && !state.recordShown;
+
+  shown.right = (answers || state.entering) && !state.working && !state.editing;
+  shown.contract = state.recordShown || (state.hasCalls && !state.entering);
+  shown.makeable = state.makeableKnown && state.showMakeable && answers;
+  shown.makeableRoom = state.complete && state.showMakeable && answers;
+  shown.traveller = state.hasResults && answers;
+
+  shown.leftRoom = !state.presentation;
+  shown.rightRoom = !state.presentation && !state.editing;  // the pack needs it
+  return shown;
+}
+
+}  // namespace tricklet::ui
