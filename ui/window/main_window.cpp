@@ -1,6 +1,5 @@
 #include "ui/window/main_window.h"
 
-#include <algorithm>
 #include <optional>
 
 #include <QAction>
@@ -8,7 +7,6 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QLabel>
-#include <QScreen>
 #include <QStatusBar>
 
 #include "library/library_choice.h"
@@ -41,14 +39,12 @@
 #include "ui/updates/updates.h"
 #include "ui/window/dropped_records.h"
 #include "ui/window/main_menu.h"
+#include "ui/window/placing.h"
 #include "ui/window/state_of.h"
 #include "ui/window/work_area.h"
 
 namespace tricklet::ui {
 namespace {
-
-/// About as high as the title bar of a dialog.
-constexpr int kFrameHeight = 40;
 
 constexpr std::string_view kPlaceSection = "Window";
 constexpr std::string_view kPlaceKey = "Geometry";
@@ -333,20 +329,14 @@ void MainWindow::BeginEditing() {
 void MainWindow::PlaceBesideAuction(QWidget* dialog) {
   dialog->adjustSize();
   const bool roomBelow = state_.presentation && !state_.presentationPanes;
-  PlaceAt(dialog, roomBelow ? width() - dialog->width() - WorkArea::kMargin : WorkArea::kMargin);
+  PlaceAtLowerEdge(*this, *dialog,
+                   roomBelow ? width() - dialog->width() - WorkArea::kMargin : WorkArea::kMargin);
 }
 
 /// The lower right corner: there it covers no hand.
 void MainWindow::PlaceBesideHands(QWidget* dialog) {
   dialog->adjustSize();
-  PlaceAt(dialog, width() - dialog->width() - WorkArea::kMargin);
-}
-
-/// At the lower edge of the window, `left` pixels from its left edge.
-void MainWindow::PlaceAt(QWidget* dialog, int left) {
-  const QPoint corner = mapToGlobal(QPoint(left, height() - dialog->height() - kFrameHeight));
-  const QRect room = screen()->availableGeometry();
-  dialog->move(std::max(corner.x(), room.left()), std::max(corner.y(), room.top()));
+  PlaceAtLowerEdge(*this, *dialog, width() - dialog->width() - WorkArea::kMargin);
 }
 
 void MainWindow::ImportFiles(const std::vector<std::filesystem::path>& files) {
@@ -412,8 +402,9 @@ void MainWindow::SetPresentation(bool on) {
 
 void MainWindow::RestorePlace() {
   const auto stored = session_.store.Read(kPlaceSection, kPlaceKey);
-  if (stored && restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(*stored)))) return;
-  resize(QSize(1280, 800).boundedTo(screen()->availableSize()));
+  const bool restored =
+      stored && restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(*stored)));
+  if (!restored || !(isMaximized() || isFullScreen())) FitOnScreen(*this, restored);
 }
 
 void MainWindow::SavePlace() {

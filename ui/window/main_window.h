@@ -94,7 +94,6 @@ class MainWindow : public QMainWindow {
   void BeginEditing();
   void PlaceBesideAuction(QWidget* dialog);
   void PlaceBesideHands(QWidget* dialog);
-  void PlaceAt(QWidget* dialog, int left);
   void SetTabOrder();
   void BuildStatusLine();
   void ShowNewVersion();
