@@ -1,5 +1,7 @@
 // The editing of hands in the real main window, and its dialog.
 #include "core/statistics.h"
+#include "generate/rotation.h"
+#include "library/board_store.h"
 #include "tests/ui/geometry.h"
 #include "tests/ui/window_fixture.h"
 
@@ -227,6 +229,28 @@ TEST_F(EditWindowTest, EveryChangeCanBeUndoneByOneKey) {
   EXPECT_TRUE(session.board.hands == dealt && !session.board.handChanged) << "reverted";
   Key("Ctrl+Z");
   EXPECT_FALSE(HasCards(session.board.hands)) << "and that undone";
+}
+
+TEST_F(EditWindowTest, APasteAndAnAuctionAreStepsUntilTheBoardIsLeft) {
+  Open();
+  SelectBoard(session, 3);
+  swap(session.board, Seat::North, Seat::East);
+  host.ExpectAskWith("Overwrite existing board 3?", Answer::Yes);
+  SaveHand(session);
+  Key("Ctrl+C");
+  SelectBoard(session, 1);
+  window->Display();
+  const HandTable dealt = session.board.hands;
+  WithDialog("Ctrl+B", [](const Driven& form) {
+    Driven::FocusKeys("1sppp");
+    form.Press("cmdOK");
+  });
+  host.ExpectAskWith("Do you wish to overwrite", Answer::Yes);
+  Key("Ctrl+V");
+  EXPECT_EQ(FromQt(Find<QAction>("mnuUndo")->text()), "&Undo paste");
+  Key("Ctrl+Z");
+  EXPECT_TRUE(session.board.hands == dealt && session.board.handChanged);
+  EXPECT_EQ(FromQt(Find<QAction>("mnuUndo")->text()), "&Undo auction");
 }
 
 }  // namespace
