@@ -15,6 +15,7 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view kOwn = ".tricklet-";
 constexpr std::string_view kFolder = ".tricklet-copy-";
+constexpr std::string_view kKept = ".tricklet-kept-";
 constexpr std::string_view kFileEnding = ".new";
 
 std::string NumberedName(std::string_view begin) {
@@ -24,9 +25,9 @@ std::string NumberedName(std::string_view begin) {
 
 /// The process that made what has this name; nothing when the name does not say.
 std::optional<int> MakerOf(std::string_view name) {
-  const bool folder = name.starts_with(kFolder);
-  if (!folder && !(name.starts_with(kOwn) && name.ends_with(kFileEnding))) return std::nullopt;
-  name.remove_prefix(folder ? kFolder.size() : kOwn.size());
+  const auto begin = name.starts_with(kFolder) ? kFolder : name.starts_with(kKept) ? kKept : kOwn;
+  if (begin == kOwn && !(name.starts_with(kOwn) && name.ends_with(kFileEnding))) return std::nullopt;
+  name.remove_prefix(begin.size());
   const std::size_t dash = name.find('-');
   if (dash == std::string_view::npos) return std::nullopt;
   return NumberFromText(name.substr(0, dash));
@@ -42,6 +43,10 @@ std::vector<fs::directory_entry> LeftIn(const fs::path& folder) {
     if (maker && *maker > 0 && !ProcessRuns(*maker)) left.push_back(*entry);
   }
   return left;
+}
+
+bool IsKept(const fs::directory_entry& left) {
+  return PathText(left.path().filename()).starts_with(kKept);
 }
 
 /// Folders and links stay; so does what cannot be removed.
@@ -60,8 +65,21 @@ std::string NewFolderName() {
   return NumberedName(kFolder);
 }
 
+std::string NewKeptName() {
+  return NumberedName(kKept);
+}
+
 bool IsOwnName(std::string_view name) {
   return name.starts_with(kOwn);
+}
+
+std::vector<fs::path> LeftKept(const fs::path& folder) {
+  std::vector<fs::path> kept;
+  for (const fs::directory_entry& left : LeftIn(folder)) {
+    std::error_code failure;
+    if (IsKept(left) && fs::is_directory(left.symlink_status(failure))) kept.push_back(left.path());
+  }
+  return kept;
 }
 
 void SweepFiles(const fs::path& folder) {
@@ -72,7 +90,7 @@ void SweepLeftovers(Host& host, const fs::path& folder) {
   for (const fs::directory_entry& left : LeftIn(folder)) {
     std::error_code failure;
     RemoveFile(left);
-    if (fs::is_directory(left.symlink_status(failure))) host.Recycle(left.path());
+    if (!IsKept(left) && fs::is_directory(left.symlink_status(failure))) host.Recycle(left.path());
   }
 }
 

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/host.h"
 
@@ -16,15 +17,22 @@ std::string NewFileName();
 /// ".tricklet-copy-PROCESS-N", a name for a folder of things on their way.
 std::string NewFolderName();
 
+/// ".tricklet-kept-PROCESS-N", a name for a folder of files that are being replaced.
+std::string NewKeptName();
+
 /// The name is one that the program gives to what is not complete, or to its lock. No such thing is
 /// listed or copied.
 bool IsOwnName(std::string_view name);
 
+/// Folders in `folder` that have a name by `NewKeptName` and whose process is gone.
+std::vector<std::filesystem::path> LeftKept(const std::filesystem::path& folder);
+
 /// Removes incomplete files from the folder whose process is gone. What cannot be removed stays.
 void SweepFiles(const std::filesystem::path& folder);
 
-/// Removes incomplete files from the folder whose process is gone; a folder goes to the recycle
-/// bin, as it may hold files that were being replaced. What cannot be removed stays.
+/// Removes incomplete files from the folder whose process is gone; an incomplete copy of a folder
+/// goes to the recycle bin, as it may hold files that were being replaced. What cannot be removed
+/// stays, and so does what `LeftKept` finds.
 void SweepLeftovers(Host& host, const std::filesystem::path& folder);
 
 }  // namespace tricklet

@@ -79,8 +79,15 @@ void DealAndAnalyse(Session& session, const Constraints& constraints,
                     const GenerateOptions& options, LibraryWrite& write, GenerateOutcome& outcome) {
   const BatchScope batch(session);
   const WorkScope work(session.host);
-  DealRange(session, constraints, options, write, outcome);
+  std::exception_ptr failure;
+  try {
+    DealRange(session, constraints, options, write, outcome);
+  } catch (const std::exception&) {
+    failure = std::current_exception();  // the boards replaced before it go to the bin all the same
+  }
+  outcome.notRecycled = write.RecycleReplaced(session.host);
   write.Finish();
+  if (failure) std::rethrow_exception(failure);
   if (!options.analyse || outcome.cancelled || outcome.failed || !session.getSolver) return;
   const auto [first, last] = constraints.genBoards;
   outcome.tables = AnalyseBoards(session, session.getSolver(), first, last, false);
@@ -99,9 +106,9 @@ std::string GenerateText(const GenerateOutcome& outcome) {
   const AnalysisOutcome& tables = outcome.tables;
   const bool done = !tables.cancelled && tables.failure.empty() && tables.readOnly.empty() &&
                     tables.unreadable == 0;
-  if (done) return text;
-  if (!text.empty()) text += '\n';
-  return text + AnalysisText(tables);
+  if (!done) text += (text.empty() ? "" : "\n") + AnalysisText(tables);
+  if (!outcome.notRecycled.empty()) text += (text.empty() ? "" : "\n") + outcome.notRecycled;
+  return text;
 }
 
 GenerateOutcome Generate(Session& session, const Constraints& constraints,
@@ -111,6 +118,7 @@ GenerateOutcome Generate(Session& session, const Constraints& constraints,
   if (!MayOverwrite(session, constraints)) return {.refused = true};
   auto write = LibraryWrite::Begin(session);
   if (!write) return {.refused = true};
+  write->KeepReplaced(session, "generation");
   GenerateOutcome outcome;
   try {
     DealAndAnalyse(session, constraints, options, *write, outcome);

@@ -28,12 +28,15 @@ struct GenerateOutcome {
   bool failed = false;     ///< a board could not be stored; the person has been told why
   /// The boards stored that do not meet the constraints, by number, the lowest first.
   std::vector<int> outside = {};
+  /// What to tell of replaced boards that the recycle bin did not take; empty when it took them.
+  std::string notRecycled = {};
   /// Of the analysis, where that was asked for and the run came to its end.
   AnalysisOutcome tables = {};
 };
 
 /// What the person is told at the end of a run: which boards do not meet the constraints, and what
-/// became of the tables when their computation was cancelled or failed. Empty when all went well.
+/// became of the tables when their computation was cancelled or failed, and where replaced boards are that the
+/// recycle bin did not take. Empty when all went well.
 std::string GenerateText(const GenerateOutcome& outcome);
 
 /// Fills the boards `genBoards` of the current library with deals, and then loads the first of

@@ -70,8 +70,11 @@ bool PasteHand(Session& session) {
   auto write =
       BeginReplacing(session, [&](DiskChange change) { return AgreesToPaste(session, change); });
   if (!write) return false;
+  write->KeepReplaced(session, "paste");
+  std::string notRecycled;
   try {
     write->Replace(target, ReadWholeFile(source, kMaxBoardFileBytes));
+    notRecycled = write->RecycleReplaced(session.host);
     write->Finish();
   } catch (const Fault& fault) {
     ErrorReport(session.host, fault);
@@ -79,6 +82,7 @@ bool PasteHand(Session& session) {
   }
   LoadHand(session);
   CountHands(session);
+  if (!notRecycled.empty()) session.host.TellError(notRecycled);
   return true;
 }
 

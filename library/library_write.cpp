@@ -15,7 +15,10 @@ std::optional<LibraryWrite> LibraryWrite::Wait(Session& session, std::chrono::mi
   if (auto held = state.lock.lock(); held && state.folder == folder) return LibraryWrite(held);
   std::shared_ptr<WriteLock> lock = WriteLock::Take(folder, patience, holder);
   if (!lock) return std::nullopt;
-  if (state.folder != folder) SweepLeftovers(session.host, folder);
+  if (state.folder != folder) {
+    SweepLeftovers(session.host, folder);
+    SweepReplaced(session.host, folder);
+  }
   state.folder = folder;
   state.lock = lock;
   return LibraryWrite(std::move(lock));
@@ -49,7 +52,16 @@ LibraryWrite::~LibraryWrite() {
 }
 
 void LibraryWrite::Replace(const fs::path& file, std::string_view data) {
+  if (replaced_) replaced_->Keep(file, data);
   ReplaceWholeFile(file, data, unflushed_);
+}
+
+void LibraryWrite::KeepReplaced(const Session& session, const std::string& command) {
+  if (session.settings.recycleReplaced) replaced_.emplace(session.LibraryPath(), command);
+}
+
+std::string LibraryWrite::RecycleReplaced(Host& host) {
+  return replaced_ ? replaced_->Recycle(host, unflushed_) : std::string();
 }
 
 std::string BusyText(const std::string& library, const std::string& holder) {

@@ -9,6 +9,7 @@
 
 #include "disk/file_io.h"
 #include "disk/write_lock.h"
+#include "library/replaced_boards.h"
 #include "library/session.h"
 
 namespace tricklet {
@@ -33,6 +34,14 @@ class LibraryWrite {
   ~LibraryWrite();
 
   void Replace(const std::filesystem::path& file, std::string_view data);
+
+  /// From now on what `Replace` replaces is kept for the recycle bin, where the settings say so.
+  /// `command` is as `ReplacedBoards` has it.
+  void KeepReplaced(const Session& session, const std::string& command);
+  /// Sends it there. To be called before `Finish`. Empty, or what to tell the person when the bin
+  /// does not take it. Throws `Fault`.
+  std::string RecycleReplaced(Host& host);
+
   /// For what puts files into the library by itself.
   UnflushedFolders& Unflushed() { return unflushed_; }
   /// All that was written outlasts a power cut. To be called before anyone is told that it is done.
@@ -46,6 +55,7 @@ class LibraryWrite {
 
   std::shared_ptr<WriteLock> lock_;
   UnflushedFolders unflushed_;
+  std::optional<ReplacedBoards> replaced_;
 };
 
 /// "The library NAME is being changed by PROGRAM": `holder` as `WriteLock::Take` gives it.

@@ -31,6 +31,7 @@ struct Failures {
   std::optional<Fault> reading;
   std::optional<Fault> writing;
   std::set<int> unstored;  ///< boards known to be in the file that did not get into the library
+  std::string notRecycled;  ///< what to tell of replaced boards that the recycle bin did not take
 };
 
 /// A session is read whole before its first board is stored, so all its boards are known; of other
@@ -58,12 +59,16 @@ Failures ReadAndStore(Session& session, RecordSource& source, const RecordReader
     if (!failures.writing) failures.reading = FaultFrom(failure);
     failures.unstored = UnstoredBoards(sink, reader.brings, reading);
   }
-  try {
-    KeepResults(session, reader.brings, sink, reading);
-    sink.Write().Finish();
-  } catch (const std::exception& failure) {
-    if (!failures.writing) failures.writing = FaultFrom(failure);
-  }
+  const auto write = [&failures](const auto& step) {
+    try {
+      step();
+    } catch (const std::exception& failure) {
+      if (!failures.writing) failures.writing = FaultFrom(failure);
+    }
+  };
+  write([&] { KeepResults(session, reader.brings, sink, reading); });
+  write([&] { failures.notRecycled = sink.Write().RecycleReplaced(session.host); });
+  write([&] { sink.Write().Finish(); });
   return failures;
 }
 
@@ -120,6 +125,7 @@ ImportOutcome StoreText(Session& session, RecordSource source, const std::string
     LoadHand(session);
     return {.refused = true};
   }
+  write->KeepReplaced(session, "import");
   LibrarySink sink(session, std::move(*write), reader.brings == Brings::Nothing);
   Reading reading;
   const Failures failures = ReadAndStore(session, source, reader, sink, reading);
@@ -127,6 +133,7 @@ ImportOutcome StoreText(Session& session, RecordSource source, const std::string
     ErrorReport(session.host, *failures.reading);
     const ImportOutcome outcome = TellUnreadable(session, unreadable, boardBefore);
     TellIfAny(session.host, PartText(sink.Stored(), failures.unstored));
+    TellIfAny(session.host, failures.notRecycled);
     return outcome;
   }
   ReadResult& result = reading.result;
@@ -134,11 +141,13 @@ ImportOutcome StoreText(Session& session, RecordSource source, const std::string
   if (failures.writing) TellUnwritten(session.host, sink, reader, *failures.writing);
   TellResult(session, sink, result);
   if (sink.Failure()) TellIfAny(session.host, PartText(sink.Stored(), failures.unstored));
+  TellIfAny(session.host, failures.notRecycled);
   ListAndShow(session, result.boardsSaved > 0 ? BoardToShow(result, sink) : boardBefore);
   return {.boardsSaved = result.boardsSaved,
           .cancelled = result.cancelled,
           .failed = failures.writing || result.badLine || !result.messages.empty() ||
-                    result.leftOut.Unreadable() || sink.ResultsStayed()};
+                    result.leftOut.Unreadable() || sink.ResultsStayed() ||
+                    !failures.notRecycled.empty()};
 }
 
 ImportOutcome StoreFile(Session& session, const fs::path& path, const RecordReader& reader) {

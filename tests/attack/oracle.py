@@ -3,11 +3,16 @@ before missing, nothing strange beside it."""
 
 import os
 
-from stage import BIN
+from stage import BIN, REPLACED
 
 
 def in_bin(path):
     return path == "data" or path.startswith("data/Trash")
+
+
+def holds_replaced(path):
+    """In a folder of boards that a command has replaced, on its way to the bin or refused by it."""
+    return ".tricklet-kept-" in path or REPLACED in path
 
 
 def names_in(tree, folder, end):
@@ -38,12 +43,13 @@ def is_old_or_new(path, now, old, new):
 
 
 def recycled(tree):
-    return [data for path, data in tree.items() if in_bin(path) and data is not None]
+    return [data for path, data in tree.items()
+            if data is not None and (in_bin(path) or holds_replaced(path))]
 
 
 def missing(before, clean, after):
-    """Files of before that are neither in their place nor in the bin nor meant to be gone, and those
-    that were replaced and were to be recycled first."""
+    """Files of before that are neither in their place nor in the bin (or on their way there) nor
+    meant to be gone, and those that were replaced and were to be recycled."""
     there, meant = recycled(after), recycled(clean)
     for path, data in before.items():
         if data is None:
@@ -60,6 +66,10 @@ def strange(before, clean, after):
     it cannot be removed just now."""
     for path, data in after.items():
         if ".tricklet-" in path or in_bin(path):
+            continue
+        if holds_replaced(path):
+            if data is not None and data not in before.values():
+                yield f"{path} was never there to be replaced"
             continue
         if path not in before and path not in clean:
             yield f"{path} is strange here"

@@ -129,21 +129,30 @@ class Stage:
         shutil.copytree(self.kept, self.home, symlinks=True)
 
     def tree(self):
-        """Each path with the bytes of the file; None for a folder. Without the time of recycling."""
+        """Each path with the bytes of the file; None for a folder. Without the times of replacing
+        and recycling."""
         tree = {}
+
+        def take(path, data):
+            shown = re.sub(r" \d{4}-\d\d-\d\d \d\d\.\d\d before ", REPLACED,
+                           os.path.relpath(path, self.home))
+            tree[shown] = data
+
         for folder, folders, files in os.walk(self.home):
             for name in folders:
-                tree[os.path.relpath(os.path.join(folder, name), self.home)] = None
+                take(os.path.join(folder, name), None)
             for name in files:
                 path = os.path.join(folder, name)
                 data = pathlib.Path(path).read_bytes()
                 if name.endswith(".trashinfo"):
-                    data = re.sub(rb"DeletionDate=.*", b"", data)
-                tree[os.path.relpath(path, self.home)] = data
+                    data = re.sub(rb"DeletionDate=.*|\d{4}-\d\d-\d\d%20\d\d\.\d\d", b"", data)
+                take(path, data)
         return tree
 
 
 BIN = "data/Trash"
+# In the name of a folder of boards that a command has replaced, for the date and the time.
+REPLACED = " DATE before "
 
 # Each command that writes. What it names is what `prepare` makes.
 COMMANDS = {

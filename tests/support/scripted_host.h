@@ -5,7 +5,9 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <set>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -82,7 +84,12 @@ class ScriptedHost : public Host {
   /// Moves what is recycled out of the way, as a recycle bin does.
   bool Recycle(const std::filesystem::path& path) override {
     if (!hasRecycleBin) return false;
-    recycled.push_back(path.filename().string());
+    const std::string replacedBy = UndatedName(path.filename().string());
+    if (replacedBy.empty()) {
+      recycled.push_back(path.filename().string());
+    } else {
+      replaced.push_back(replacedBy + ":" + NamesIn(path));
+    }
     std::error_code failure;
     std::filesystem::remove_all(path, failure);
     return !failure;
@@ -110,12 +117,30 @@ class ScriptedHost : public Host {
   Question asked;  ///< the last one
   std::vector<std::string> steps;
   std::vector<std::string> recycled;
+  std::vector<std::string> replaced;  ///< "Club before import: 001.txt 002.txt", likewise recycled
   std::vector<std::string> opened;
   std::filesystem::path suggested;
   std::string folderTitle;
   std::filesystem::path folderStart;
 
  private:
+  /// "Club before import" of a folder of replaced boards; empty when it is none.
+  static std::string UndatedName(const std::string& name) {
+    constexpr std::size_t kDate = std::string_view(" 2026-11-22 10.31").size();
+    const auto end = name.find(" before ");
+    if (end == std::string::npos || end < kDate) return {};
+    return name.substr(0, end - kDate) + name.substr(end);
+  }
+  static std::string NamesIn(const std::filesystem::path& folder) {
+    std::set<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+      names.insert(entry.path().filename().string());
+    }
+    std::string text;
+    for (const std::string& name : names) text += " " + name;
+    return text;
+  }
+
   struct Expected {
     std::string text;
     std::string title;
