@@ -35,8 +35,8 @@ struct GenerateOutcome {
 };
 
 /// What the person is told at the end of a run: which boards do not meet the constraints, and what
-/// became of the tables when their computation was cancelled or failed, and where replaced boards are that the
-/// recycle bin did not take. Empty when all went well.
+/// became of the tables when their computation was cancelled or failed, and where replaced boards
+/// are that the recycle bin did not take. Empty when all went well.
 std::string GenerateText(const GenerateOutcome& outcome);
 
 /// Fills the boards `genBoards` of the current library with deals, and then loads the first of

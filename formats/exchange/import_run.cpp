@@ -83,6 +83,10 @@ void TellIfAny(Host& host, const std::string& text) {
   if (!text.empty()) host.Tell(text);
 }
 
+void TellErrorIfAny(Host& host, const std::string& text) {
+  if (!text.empty()) host.TellError(text);
+}
+
 void TellUnwritten(Host& host, const LibrarySink& sink, const RecordReader& reader,
                    const Fault& unwritten) {
   if (sink.FailedAtReadOnly()) {
@@ -133,7 +137,7 @@ ImportOutcome StoreText(Session& session, RecordSource source, const std::string
     ErrorReport(session.host, *failures.reading);
     const ImportOutcome outcome = TellUnreadable(session, unreadable, boardBefore);
     TellIfAny(session.host, PartText(sink.Stored(), failures.unstored));
-    TellIfAny(session.host, failures.notRecycled);
+    TellErrorIfAny(session.host, failures.notRecycled);
     return outcome;
   }
   ReadResult& result = reading.result;
@@ -141,7 +145,7 @@ ImportOutcome StoreText(Session& session, RecordSource source, const std::string
   if (failures.writing) TellUnwritten(session.host, sink, reader, *failures.writing);
   TellResult(session, sink, result);
   if (sink.Failure()) TellIfAny(session.host, PartText(sink.Stored(), failures.unstored));
-  TellIfAny(session.host, failures.notRecycled);
+  TellErrorIfAny(session.host, failures.notRecycled);
   ListAndShow(session, result.boardsSaved > 0 ? BoardToShow(result, sink) : boardBefore);
   return {.boardsSaved = result.boardsSaved,
           .cancelled = result.cancelled,

@@ -105,6 +105,7 @@ class Stage:
         self.require("settings", "filelocation", str(self.home / "root"))
         self.require("settings", "AutoMakeable", "False")
         self.require("settings", "PBNBids", "False")
+        self.require("settings", "RecycleReplaced", "False")  # the bin is to be empty
         self.require("--library", "Sample", "--yes", "import", "in.xml")
         self.require("--library", "Sample", "--yes", "generate", "1", "4", "--seed", "1")
         self.require("--library", "Sample", "--yes", "auction", "2", "1n", "ap")
@@ -114,6 +115,7 @@ class Stage:
         shutil.copytree(self.home / "root/Other", self.home / "more/Third")
         shutil.copytree(self.home / "root/Other", self.home / "there/Sample")
         self.require("export", "1", "1", "old.pbn")
+        self.require("settings", "RecycleReplaced", "True")
         self.keep()
 
     def clear(self):
@@ -146,6 +148,8 @@ class Stage:
                 data = pathlib.Path(path).read_bytes()
                 if name.endswith(".trashinfo"):
                     data = re.sub(rb"DeletionDate=.*|\d{4}-\d\d-\d\d%20\d\d\.\d\d", b"", data)
+                    # Where it cannot be brought out of the library, it goes to the bin from there.
+                    data = re.sub(rb"/[^/\n]+/\.tricklet-kept-[^/]+", b"", data)
                 take(path, data)
         return tree
 
