@@ -26,7 +26,8 @@ std::string NumberedName(std::string_view begin) {
 /// The process that made what has this name; nothing when the name does not say.
 std::optional<int> MakerOf(std::string_view name) {
   const auto begin = name.starts_with(kFolder) ? kFolder : name.starts_with(kKept) ? kKept : kOwn;
-  if (begin == kOwn && !(name.starts_with(kOwn) && name.ends_with(kFileEnding))) return std::nullopt;
+  if (begin == kOwn && !(name.starts_with(kOwn) && name.ends_with(kFileEnding)))
+    return std::nullopt;
   name.remove_prefix(begin.size());
   const std::size_t dash = name.find('-');
   if (dash == std::string_view::npos) return std::nullopt;

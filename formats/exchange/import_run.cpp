@@ -30,7 +30,7 @@ constexpr std::size_t kMaxHandRecordBytes = std::size_t{256} * 1024 * 1024;
 struct Failures {
   std::optional<Fault> reading;
   std::optional<Fault> writing;
-  std::set<int> unstored;  ///< boards known to be in the file that did not get into the library
+  std::set<int> unstored;   ///< boards known to be in the file that did not get into the library
   std::string notRecycled;  ///< what to tell of replaced boards that the recycle bin did not take
 };
 
