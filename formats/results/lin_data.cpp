@@ -17,15 +17,13 @@ LinData::Stamp LinData::StampOf(const Session& session) {
   return stamp;
 }
 
-const LinFile& LinData::Of(Session& session) {
+std::shared_ptr<const LinFile> LinData::Of(Session& session) {
   const Stamp stamp = StampOf(session);
-  if (loaded_ && stamp == stamp_) return file_;
-  loaded_ = true;
+  if (file_ && stamp == stamp_) return file_;
   stamp_ = stamp;
-  ++version_;
-  file_ = LinFile();
+  file_ = std::make_shared<const LinFile>();
   try {
-    file_ = LoadLinData(session);
+    file_ = std::make_shared<const LinFile>(LoadLinData(session));
   } catch (const Fault& fault) {
     ErrorReport(session.host, fault);
   }

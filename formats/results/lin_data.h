@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <system_error>
 
 #include "formats/results/lin_file.h"
@@ -13,12 +14,9 @@ namespace tricklet {
 /// file has changed, by an import that has ended or by another program.
 class LinData {
  public:
-  /// The LIN data of the current library, valid until the next call. A file that cannot be read is
-  /// reported once and counts as empty.
-  const LinFile& Of(Session& session);
-
-  /// How often a file has been read: when the number has changed, so may the data have.
-  int Version() const { return version_; }
+  /// The LIN data of the current library. A file that cannot be read is reported once and counts as
+  /// empty. It never changes: other data is another file, so that work beside may keep this one.
+  std::shared_ptr<const LinFile> Of(Session& session);
 
  private:
   /// What tells one file from another without reading it.
@@ -32,9 +30,7 @@ class LinData {
   static Stamp StampOf(const Session& session);
 
   Stamp stamp_;
-  LinFile file_;
-  bool loaded_ = false;
-  int version_ = 0;
+  std::shared_ptr<const LinFile> file_;  // none as long as nothing has been asked for
 };
 
 }  // namespace tricklet

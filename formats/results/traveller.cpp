@@ -246,6 +246,12 @@ std::string TravellerRow::NamesText() const {
   return names[Side::NorthSouth] + " v " + names[Side::EastWest];
 }
 
+TravellerRow MakeTravellerRow(const std::string& record, int boardNumber) {
+  TravellerRow row = MakeRow(ParseLinRecord(record), boardNumber, PairNames({}), true);
+  row.points.fill(std::nullopt);
+  return row;
+}
+
 Traveller MakeTraveller(const LinFile& file, int boardNumber) {
   const bool matchPoints = file.boardScoringMethod == "MATCH_POINTS";
   const bool teams = file.teamEvent.has_value() || file.boardScoringMethod == "IMPS";

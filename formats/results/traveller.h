@@ -53,6 +53,9 @@ struct Traveller {
 /// events have some thousand tables, and a grid of more could not be looked through.
 inline constexpr std::size_t kMaxTravellerRows = 10'000;
 
+/// The row of one record of `boardNumber` by itself: without numbers of pairs and without points.
+TravellerRow MakeTravellerRow(const std::string& record, int boardNumber);
+
 /// The traveller of `boardNumber`; without rows where the file has no record of the board.
 ///
 /// Where all points of the board are 0 or missing they are computed when there are at least two

@@ -5,12 +5,11 @@ namespace tricklet::ui {
 Results::Results(Session& session, QObject* parent) : QObject(parent), session_(session) {}
 
 void Results::ReadTraveller() {
-  const LinFile& file = lin_.Of(session_);
+  const auto file = lin_.Of(session_);
   const int boardNumber = session_.board.boardNumber;
-  if (edition_ > 0 && version_ == lin_.Version() && traveller_.boardNumber == boardNumber) return;
-  hasLinData_ = !file.Empty();
-  version_ = lin_.Version();
-  traveller_ = MakeTraveller(file, boardNumber);
+  if (edition_ > 0 && file == file_ && traveller_.boardNumber == boardNumber) return;
+  file_ = file;
+  traveller_ = MakeTraveller(*file_, boardNumber);
   ++edition_;
   row_ = -1;
   replay_.reset();

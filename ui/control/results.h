@@ -23,7 +23,9 @@ class Results : public QObject {
   explicit Results(Session& session, QObject* parent = nullptr);
 
   /// The library has results at all.
-  bool HasLinData() const { return hasLinData_; }
+  bool HasLinData() const { return !file_->Empty(); }
+  /// The results of the library, which never change: other results are another file.
+  const std::shared_ptr<const LinFile>& File() const { return file_; }
   /// The current board's results; without rows when there are none.
   const Traveller& OfBoard() const { return traveller_; }
   /// Grows with each new traveller of `OfBoard`, so that a pane knows when to show it afresh.
@@ -62,8 +64,7 @@ class Results : public QObject {
 
   Session& session_;
   LinData lin_;
-  int version_ = 0;  // of the LIN data that `traveller_` was made from
-  bool hasLinData_ = false;
+  std::shared_ptr<const LinFile> file_ = std::make_shared<const LinFile>();  // of `traveller_`
   Traveller traveller_;
   int edition_ = 0;
   int row_ = -1;

@@ -7,7 +7,9 @@
 #include <gtest/gtest.h>
 
 #include "formats/lin/lin_record.h"
+#include "formats/results/board_results.h"
 #include "formats/results/lin_data.h"
+#include "tests/support/calls.h"
 #include "tests/support/library_fixture.h"
 #include "tests/support/records.h"
 #include "tests/support/words.h"
@@ -204,20 +206,52 @@ TEST(Traveller, NamesAreLookedUpByTheirFirstPart) {
   EXPECT_EQ(FindLinName(entries, "Zoe & Ann", 1), -1);
 }
 
+TEST(BoardResults, AreThoseOfTheOnlyTableOrOfTheSameAuction) {
+  const std::string spade = "mb|1S|" + LinPasses(3);
+  const std::string heart = "mb|1H|" + LinPasses(3);
+  struct Case {
+    std::vector<std::string> records;
+    const char* auction;
+    std::string shown;  // the result beside the board
+  };
+  const Case cases[] = {
+      {{}, "", "none"},
+      {{Record("", Tags("8 110"))}, "", "110"},
+      {{Record("", spade + Tags("- A5050"))}, "1H", "A5050"},
+      {{Record("", spade), Record("", heart + Tags("6 -50"))}, "", "-50"},  // one has no result
+      {{Record("", spade + Tags("8 110")), Record("", heart + Tags("6 -50"))}, "1H P P P", "-50"},
+      {{Record("", spade + Tags("8 110")), Record("", heart + Tags("6 -50"))}, "1C P P P", "none"},
+      {{Record("", spade + Tags("8 110")), Record("", spade + Tags("7 80"))}, "1S P P P", "none"},
+      {{Record("", spade + Tags("8 110")), Record("", spade + Tags("8 110"))}, "1S P P P", "110"},
+      {{Record("", Tags("8 110")), Record("", Tags("8 110"))}, "", "none"},
+  };
+  for (const Case& c : cases) {
+    Board board;
+    SetAuction(board, c.auction);
+    const ResultsByBoard results = ResultsOf(FileOf("IMPS", c.records));
+    const TableResult* result = ResultOf(results, 1, board.calls);
+    const std::string shown = result == nullptr ? "none"
+                              : result->score   ? std::to_string(*result->score)
+                                                : result->adjusted;
+    EXPECT_EQ(shown, c.shown) << c.auction;
+    EXPECT_EQ(ResultOf(results, 2, board.calls), nullptr);
+  }
+}
+
 TEST_F(LibraryTest, LinDataIsReadAgainWhenItIsAnotherFile) {
   tricklet::LinData data;
   WriteFile(LinDataPath(session), LinFileText(FileOf("IMPS", {Record("", "")})));
-  EXPECT_EQ(data.Of(session).lin.size(), 1U);
-  const int version = data.Version();
-  EXPECT_EQ(data.Of(session).lin.size(), 1U);
-  EXPECT_EQ(data.Version(), version) << "not read twice";
+  const auto file = data.Of(session);
+  EXPECT_EQ(file->lin.size(), 1U);
+  EXPECT_EQ(data.Of(session), file) << "not read twice";
   WriteFile(LinDataPath(session), LinFileText(FileOf("IMPS", {Record("", ""), Record("", "")})));
-  EXPECT_EQ(data.Of(session).lin.size(), 2U);
+  EXPECT_EQ(data.Of(session)->lin.size(), 2U);
+  EXPECT_EQ(file->lin.size(), 1U);
   fs::resize_file(LinDataPath(session), kMaxLinFileBytes + 1);
   host.ExpectAskWith("The file is too large", Answer::Yes);
-  for (int again = 0; again < 2; ++again) EXPECT_TRUE(data.Of(session).Empty()) << "told once";
+  for (int again = 0; again < 2; ++again) EXPECT_TRUE(data.Of(session)->Empty()) << "told once";
   session.settings.library = "Elsewhere";
-  EXPECT_TRUE(data.Of(session).Empty());
+  EXPECT_TRUE(data.Of(session)->Empty());
 }
 
 }  // namespace
