@@ -1,31 +1,122 @@
 #include "ui/panes/board_list_model.h"
 
+#include <algorithm>
+
+#include <QFont>
 #include <QGuiApplication>
+#include <QPalette>
+
+#include "ui/background/board_summaries.h"
+#include "ui/panes/board_row_text.h"
 
 namespace tricklet::ui {
+namespace {
 
-void BoardListModel::Show(const LibraryState& library) {
-  if (library.maxBoard == maxBoard_ && library.boardPresent == present_) return;
-  beginResetModel();
-  maxBoard_ = library.maxBoard;
-  present_ = library.boardPresent;
-  endResetModel();
+constexpr int kColumns = static_cast<int>(BoardColumn::Entry) + 1;
+
+Qt::Alignment AlignmentOf(BoardColumn column) {
+  return Qt::AlignVCenter | (column == BoardColumn::Score ? Qt::AlignRight : Qt::AlignLeft);
+}
+
+QVariant SuitOf(const ListedBoard& board) {
+  if (!board.summary || board.summary->contractLevel == 0) return {};
+  if (board.summary->trumps == Strain::NoTrump) return {};
+  return static_cast<int>(IndexOf(board.summary->trumps));
+}
+
+QVariant FontOf(BoardColumn column) {
+  if (column != BoardColumn::Number) return {};
+  QFont font;
+  font.setBold(true);
+  return font;
+}
+
+}  // namespace
+
+BoardListModel::BoardListModel(const Session& session, const BoardSummaries& summaries,
+                               QObject* parent)
+    : QAbstractTableModel(parent), session_(session), summaries_(summaries) {
+  connect(&summaries, &BoardSummaries::Changed, this, &BoardListModel::TellChanged);
+}
+
+void BoardListModel::Show() {
+  ShowCount();
+  const int before = current_;
+  current_ = session_.board.boardNumber;
+  if (present_ != session_.library.boardPresent) {
+    present_ = session_.library.boardPresent;
+    TellChanged(kFirstBoardNumber, maxBoard_);
+  } else {
+    TellChanged(before, before);
+    TellChanged(current_, current_);
+  }
+}
+
+void BoardListModel::ShowCount() {
+  const int count = session_.library.maxBoard;
+  if (count > maxBoard_) {
+    beginInsertRows({}, maxBoard_, count - 1);
+    maxBoard_ = count;
+    endInsertRows();
+  } else if (count < maxBoard_) {
+    beginRemoveRows({}, count, maxBoard_ - 1);
+    maxBoard_ = count;
+    endRemoveRows();
+  }
+}
+
+void BoardListModel::TellChanged(int firstBoard, int lastBoard) {
+  const int last = std::min(lastBoard, maxBoard_);
+  if (firstBoard > last) return;
+  emit dataChanged(index(firstBoard - 1, 0), index(last - 1, kColumns - 1));
+}
+
+ListedBoard BoardListModel::At(int boardNumber) const {
+  return summaries_.At(boardNumber);
 }
 
 int BoardListModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : maxBoard_;
 }
 
+int BoardListModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : kColumns;
+}
+
 QVariant BoardListModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid() || index.row() >= maxBoard_) return {};
-  const int boardNumber = index.row() + 1;
-  const bool present = present_.at(static_cast<std::size_t>(boardNumber));
-  if (role == Qt::DisplayRole || role == Qt::EditRole) {
-    return (present ? tr("Board %1") : tr("Board %1 (empty)")).arg(boardNumber);
+  const ListedBoard board = At(index.row() + 1);
+  const auto column = static_cast<BoardColumn>(index.column());
+  switch (role) {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+      return CellText(board, column);
+    case Qt::ToolTipRole:
+      return RowText(board);
+    case Qt::AccessibleTextRole:
+      return column == BoardColumn::Number ? RowText(board) : CellText(board, column);
+    case Qt::TextAlignmentRole:
+      return QVariant::fromValue(AlignmentOf(column));
+    case Qt::FontRole:
+      return FontOf(column);
+    case Qt::ForegroundRole:
+      if (board.stored || board.changed) return {};
+      return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+    case kSuitRole:
+      return column == BoardColumn::Contract ? SuitOf(board) : QVariant();
+    case kVulnerableRole:
+      return column == BoardColumn::Vulnerability && board.stored;
+    default:
+      return {};
   }
-  if (role == Qt::ForegroundRole && !present) {
-    return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
-  }
+}
+
+QVariant BoardListModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || section < 0 || section >= kColumns) return {};
+  const auto column = static_cast<BoardColumn>(section);
+  if (role == Qt::DisplayRole) return HeadText(column).shown;
+  if (role == Qt::ToolTipRole || role == Qt::AccessibleTextRole) return HeadText(column).inFull;
+  if (role == Qt::TextAlignmentRole) return QVariant::fromValue(AlignmentOf(column));
   return {};
 }
 

@@ -19,12 +19,16 @@
 #include "library/library_names.h"
 #include "library/library_scan.h"
 #include "ui/dialogs/name_filter.h"
+#include "ui/panes/board_list.h"
 #include "ui/panes/board_list_model.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/section.h"
 
 namespace tricklet::ui {
 namespace {
+
+/// Of the height that is left in the column, against 1 for the empty room at its end.
+constexpr int kStretch = 100;
 
 /// Lets 1..999 be typed, and puts the highest board back when the text is left as something else.
 class HighestBoardValidator : public QIntValidator {
@@ -72,13 +76,22 @@ void MakeTypable(QComboBox* combo) {
 
 }  // namespace
 
-LibraryPane::LibraryPane(Session& session, QWidget* parent)
+LibraryPane::LibraryPane(Session& session, BoardSummaries& summaries, QWidget* parent)
     : QWidget(parent),
       session_(session),
       fraLibrary(new Section(QStringLiteral("fraLibrary"), this)),
-      boards_(new BoardListModel(this)) {
+      list_(new BoardList(session, summaries, this)) {
   BuildLibrary(session);
+  fraLibrary->Body()->addWidget(list_, 1);
+  fraLibrary->Body()->addWidget(lblLibrary);
+  BuildHighest();
   BuildBoard();
+  connect(list_, &BoardList::BoardChosen, this, &LibraryPane::BoardChosen);
+  connect(list_, &BoardList::Left, this, &LibraryPane::Left);
+  // The list takes the height that the column has left.
+  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+  policy.setVerticalStretch(kStretch);
+  setSizePolicy(policy);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(10);
@@ -91,73 +104,89 @@ void LibraryPane::BuildLibrary(Session& session) {
   cmbLibs->lineEdit()->setPlaceholderText(tr("Name of a new library"));
   new NameFilter(cmbLibs->lineEdit(), session.host, cmbLibs);
   new QShortcut(
-      Qt::Key_Escape, cmbLibs, this, [this] { ShowNames(session_); },
+      Qt::Key_Escape, cmbLibs, this,
+      [this] {
+        ShowNames(session_);
+        emit Left();
+      },
       Qt::WidgetWithChildrenShortcut);
   cmdChange = new QPushButton(tr("Create"), this);
   cmdChange->setObjectName(QStringLiteral("cmdChange"));
   cmdChange->setToolTip(tr("Create a new library of the name typed"));
   cmdChange->setEnabled(false);
+  cmdChange->hide();
   lblLibrary = new QLabel(this);
   lblLibrary->setObjectName(QStringLiteral("lblLibrary"));
   MakeQuiet(lblLibrary);
 
-  connect(cmbLibs, &QComboBox::activated, this, &LibraryPane::LibraryChosen);
+  // The box would take the keys of commands for letters of a name.
+  connect(cmbLibs, &QComboBox::activated, this, [this](int index) {
+    emit LibraryChosen(index);
+    emit Left();
+  });
   connect(cmbLibs->lineEdit(), &QLineEdit::textChanged, this, &LibraryPane::NameTyped);
   connect(cmbLibs->lineEdit(), &QLineEdit::returnPressed, this, &LibraryPane::TakeName);
   connect(cmbLibs->lineEdit(), &QLineEdit::editingFinished, this, [this] {
     if (!cmdChange->isEnabled()) ShowNames(session_);
   });
-  connect(cmdChange, &QPushButton::clicked, this,
-          [this] { emit LibraryNamed(cmbLibs->currentText()); });
+  connect(cmdChange, &QPushButton::clicked, this, [this] {
+    emit LibraryNamed(cmbLibs->currentText());
+    emit Left();
+  });
 
-  fraLibrary->Body()->addWidget(cmbLibs);
   auto* row = new QHBoxLayout;
-  row->addWidget(lblLibrary, 1);
+  row->addWidget(cmbLibs, 1);
   row->addWidget(cmdChange);
   fraLibrary->Body()->addLayout(row);
 }
 
-void LibraryPane::BuildBoard() {
-  lblPrevious =
-      MakeStepButton(QStringLiteral("lblPrevious"), Qt::LeftArrow, tr("Previous board"), this);
-  cmbBoard = MakeCombo(QStringLiteral("cmbBoard"), tr("Board"), this);
-  cmbBoard->setModel(boards_);
-  lblNext = MakeStepButton(QStringLiteral("lblNext"), Qt::RightArrow, tr("Next board"), this);
+void LibraryPane::BuildHighest() {
   cmbMaxBoard = MakeCombo(QStringLiteral("cmbMaxBoard"), tr("Highest board"), this);
+  cmbMaxBoard->setToolTip(tr("Highest board"));
+  cmbMaxBoard->setMinimumContentsLength(2);
   MakeTypable(cmbMaxBoard);
   QStringList numbers;
   for (int n = kFirstBoardNumber; n <= kLastBoardNumber; ++n) numbers += QString::number(n);
   cmbMaxBoard->addItems(numbers);
   cmbMaxBoard->setValidator(new HighestBoardValidator(session_, cmbMaxBoard));
+  connect(cmbMaxBoard, &QComboBox::activated, this,
+          [this](int index) { emit HighestChosen(index + 1); });
+}
+
+/// A row below the list: "< Board 7 > of 36".
+void LibraryPane::BuildBoard() {
+  lblPrevious =
+      MakeStepButton(QStringLiteral("lblPrevious"), Qt::LeftArrow, tr("Previous board"), this);
+  cmbBoard = MakeCombo(QStringLiteral("cmbBoard"), tr("Board"), this);
+  cmbBoard->setModel(list_->Boards());
+  cmbBoard->setModelColumn(static_cast<int>(BoardColumn::Entry));
+  lblNext = MakeStepButton(QStringLiteral("lblNext"), Qt::RightArrow, tr("Next board"), this);
 
   connect(lblPrevious, &QToolButton::clicked, this, [this] { emit StepAsked(true); });
   connect(lblNext, &QToolButton::clicked, this, [this] { emit StepAsked(false); });
   connect(cmbBoard, &QComboBox::activated, this,
           [this](int index) { emit BoardChosen(index + 1); });
-  connect(cmbMaxBoard, &QComboBox::activated, this,
-          [this](int index) { emit HighestChosen(index + 1); });
 
+  auto* caption = new QLabel(tr("of"), this);
+  caption->setBuddy(cmbMaxBoard);
+  MakeQuiet(caption);
   auto* row = new QHBoxLayout;
+  row->setSpacing(4);
   row->addWidget(lblPrevious);
   row->addWidget(cmbBoard, 1);
   row->addWidget(lblNext);
+  row->addWidget(caption);
+  row->addWidget(cmbMaxBoard);
   for (QToolButton* button : {lblPrevious, lblNext}) {
     button->setFixedHeight(cmbBoard->sizeHint().height());
-    button->setFixedWidth(cmbBoard->sizeHint().height());
+    button->setFixedWidth(cmbBoard->sizeHint().height() * 4 / 5);
   }
-  auto* highest = new QHBoxLayout;
-  auto* caption = new QLabel(tr("Highest board"), this);
-  caption->setBuddy(cmbMaxBoard);
-  MakeQuiet(caption);
-  highest->addWidget(caption, 1);
-  highest->addWidget(cmbMaxBoard);
-  cmbMaxBoard->setMinimumContentsLength(5);
   fraLibrary->Body()->addLayout(row);
-  fraLibrary->Body()->addLayout(highest);
 }
 
 QList<QWidget*> LibraryPane::TabOrder() const {
-  return {cmbLibs, cmdChange, lblPrevious, cmbBoard, lblNext, cmbMaxBoard};
+  return QList<QWidget*>{cmbLibs, cmdChange} + list_->TabOrder() +
+         QList<QWidget*>{lblPrevious, cmbBoard, lblNext, cmbMaxBoard};
 }
 
 void LibraryPane::Show(const Session& session) {
@@ -165,8 +194,9 @@ void LibraryPane::Show(const Session& session) {
   lblLibrary->setText(ToQt(LibraryCountText(session)));
   ShowNames(session);
 
-  boards_->Show(session.library);
+  list_->Show();
   cmbBoard->setCurrentIndex(session.board.boardNumber - 1);
+  cmbBoard->setToolTip(cmbBoard->currentText());
   const QSignalBlocker quiet(cmbMaxBoard);
   cmbMaxBoard->setCurrentIndex(session.library.maxBoard - 1);
   cmbMaxBoard->setEditText(QString::number(session.library.maxBoard));
@@ -216,14 +246,17 @@ void LibraryPane::TakeName() {
   const int index = LibraryIndex(session_, FromQt(cmbLibs->currentText()));
   if (cmdChange->isEnabled()) {
     cmdChange->click();
-  } else if (index >= 0 && index != session_.libIndex) {
-    emit LibraryChosen(index);
+  } else {
+    if (index >= 0 && index != session_.libIndex) emit LibraryChosen(index);
+    emit Left();
   }
 }
 
 void LibraryPane::NameTyped(const QString& text) {
   const std::string name = FromQt(text);
-  cmdChange->setEnabled(name != session_.ShownLibrary() && IsNewLibraryName(session_, name));
+  const bool isNew = name != session_.ShownLibrary() && IsNewLibraryName(session_, name);
+  cmdChange->setEnabled(isNew);
+  cmdChange->setVisible(isNew);  // else the room is the name's
 }
 
 }  // namespace tricklet::ui

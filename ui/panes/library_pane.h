@@ -12,8 +12,8 @@ class QToolButton;
 
 namespace tricklet::ui {
 
-class BoardListModel;
-class ElidedLabel;
+class BoardList;
+class BoardSummaries;
 class Section;
 
 /// Shows and chooses library, board and highest board. It asks by its signals and changes nothing:
@@ -22,7 +22,7 @@ class LibraryPane : public QWidget {
   Q_OBJECT
 
  public:
-  explicit LibraryPane(Session& session, QWidget* parent = nullptr);
+  LibraryPane(Session& session, BoardSummaries& summaries, QWidget* parent = nullptr);
 
   /// Shows the libraries, the boards and what is chosen; a name that is being typed is given up.
   void Show(const Session& session);
@@ -36,6 +36,9 @@ class LibraryPane : public QWidget {
   /// Puts the cursor into `cmbLibs`, ready for the name of a new library.
   void BeginNewLibrary();
 
+  /// The list of the boards.
+  BoardList* List() const { return list_; }
+
   /// The controls in the order of the tab key.
   QList<QWidget*> TabOrder() const;
 
@@ -45,10 +48,13 @@ class LibraryPane : public QWidget {
   void BoardChosen(int boardNumber);
   void HighestChosen(int boardNumber);
   void StepAsked(bool backward);
+  /// The person has chosen, or has given up: the keys are meant for the table.
+  void Left();
 
  private:
   void BuildLibrary(Session& session);
   void BuildBoard();
+  void BuildHighest();
   void ShowNames(const Session& session);
   void TakeName();
   void NameTyped(const QString& text);
@@ -62,7 +68,7 @@ class LibraryPane : public QWidget {
   QComboBox* cmbBoard;
   QToolButton* lblNext;
   QComboBox* cmbMaxBoard;
-  BoardListModel* boards_;
+  BoardList* list_;
 };
 
 }  // namespace tricklet::ui

@@ -17,6 +17,7 @@
 #include "ui/actions/panes_shown.h"
 #include "ui/background/background_tables.h"
 #include "ui/background/best_cards_finder.h"
+#include "ui/background/board_summaries.h"
 #include "ui/background/later.h"
 #include "ui/commands/commands.h"
 #include "ui/control/edit_control.h"
@@ -59,12 +60,13 @@ MainWindow::MainWindow(Session& session, Updates& updates)
       tables_(new BackgroundTables(session, this)),
       best_(new BestCardsFinder(session, this)),
       results_(new Results(session, this)),
+      summaries_(new BoardSummaries(session, this)),
       commands_(new Commands(session, *play_, *edit_, updates, this)),
       watch_(new DiskWatch(
           session, [this] { return LeaveToWatch(); }, this)),
       actions_(new Actions(*this, *commands_, *results_)),
       menu_(new MainMenu(*this, *actions_)),
-      library_(new LibraryPane(session)),
+      library_(new LibraryPane(session, *summaries_)),
       editPane_(new EditPane(*commands_, *actions_)),
       statistics_(new StatisticsPane),
       table_(new TableView),
@@ -133,6 +135,7 @@ void MainWindow::Connect() {
   connect(library_, &LibraryPane::BoardChosen, commands_, &Commands::SelectBoard);
   connect(library_, &LibraryPane::HighestChosen, commands_, &Commands::SetMaxBoard);
   connect(library_, &LibraryPane::StepAsked, commands_, &Commands::StepBoard);
+  connect(library_, &LibraryPane::Left, table_, qOverload<>(&QWidget::setFocus));
   connect(commands_, &Commands::NewLibraryAsked, library_, &LibraryPane::BeginNewLibrary);
   connect(actions_, &Actions::Asked, this, &MainWindow::CarryOut);
   menu_->OfferAt(table_, kTableContext);
@@ -200,6 +203,7 @@ void MainWindow::Display() {
   play_->StopClockOfEndedPlay();
   edit_->DropStaleEdits();
   results_->ReadTraveller();
+  summaries_->Show(results_->File());
   library_->Show(session_);
   editPane_->Show(session_, *edit_);
   statistics_->Show(session_);

@@ -26,6 +26,7 @@ class Actions;
 class AuctionPane;
 class BackgroundTables;
 class BestCardsFinder;
+class BoardSummaries;
 class Commands;
 class ContractPane;
 class EditControl;
@@ -109,6 +110,7 @@ class MainWindow : public QMainWindow {
   BackgroundTables* tables_;
   BestCardsFinder* best_;
   Results* results_;
+  BoardSummaries* summaries_;
   Commands* commands_;
   DiskWatch* watch_;
   Actions* actions_;

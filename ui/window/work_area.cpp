@@ -14,7 +14,7 @@ namespace tricklet::ui {
 namespace {
 
 // Widths of the columns in heights of the window's font.
-constexpr double kLeftWidth = 15;
+constexpr double kLeftWidth = 16;
 constexpr double kLeastRightWidth = 20;
 constexpr double kMostRightWidth = 46;  // a traveller with its names
 
