@@ -1,6 +1,7 @@
 #include "play/card_play.h"
 
 #include <bit>
+#include <stdexcept>
 
 #include "core/scoring.h"
 #include "core/statistics.h"
@@ -134,6 +135,11 @@ void CardPlay::Undo() {
     state_.trickCards = state_.lastTrick;
     state_.trickGathered = false;
   }
+}
+
+const PlayState& CardPlay::StateAt(int step) const {
+  if (step < 0 || step > undoTop_) throw std::out_of_range("no such step of the play");
+  return step == undoTop_ ? state_ : undoRecords_.at(static_cast<std::size_t>(step));
 }
 
 std::string CardPlay::ClaimCaption() const {

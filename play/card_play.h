@@ -115,6 +115,9 @@ class CardPlay {
   /// How often `Undo` can be called: one for each card played and one for a claim, 0..52 in all, as
   /// a claim comes before the last card.
   int UndoTop() const { return undoTop_; }
+  /// The state before a card or the claim, counted from 0 to `UndoTop` - 1; `Now` at `UndoTop`.
+  /// Throws `std::out_of_range` beyond it.
+  const PlayState& StateAt(int step) const;
 
  private:
   void Remember();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <atomic>
+#include <deque>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -16,7 +17,7 @@ namespace tricklet::ui {
 class Worker;
 
 /// For the board that is played and for play records alike, where the setting `showBestCards` asks
-/// for it. An answer that comes after the play has gone on is thrown away.
+/// for it. An answer that comes after the play has gone on is remembered for its own position.
 class BestCardsFinder : public QObject {
   Q_OBJECT
 
@@ -30,9 +31,12 @@ class BestCardsFinder : public QObject {
 
   /// As `BestCards` tells them; empty while they are not known.
   const std::vector<CardScore>& Tricks() const { return tricks_; }
+  /// What was found, now or earlier, for the position of `state`; empty where nothing was, and
+  /// while the setting is off. Only the last few hundred positions are remembered.
+  std::vector<CardScore> Known(const PlayState& state, Strain trumps) const;
 
  signals:
-  /// `tricks` are known now.
+  /// `Tricks` or `Known` tell more now.
   void Changed();
 
  private:
@@ -43,11 +47,20 @@ class BestCardsFinder : public QObject {
     friend bool operator==(const Question&, const Question&) = default;
   };
 
+  struct Answer {
+    Question question;
+    std::vector<CardScore> tricks;
+  };
+
+  static std::optional<Question> QuestionOf(const PlayState& state, Strain trumps);
+  const std::vector<CardScore>* Remembered(const Question& question) const;
   void Post(const Question& question);
+  void Take(const Question& question, std::vector<CardScore> tricks);
 
   Session& session_;
   std::optional<Question> question_;
   std::vector<CardScore> tricks_;
+  std::deque<Answer> answers_;                // the newest last
   std::shared_ptr<std::atomic<int>> wanted_;  // the number of the last question
   std::unique_ptr<Worker> worker_;            // from the first question on
 };

@@ -32,6 +32,7 @@
 #include "ui/panes/makeable_pane.h"
 #include "ui/panes/statistics_pane.h"
 #include "ui/panes/traveller_pane.h"
+#include "ui/panes/trick_pane.h"
 #include "ui/style/progress_frame.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/section.h"
@@ -67,6 +68,7 @@ MainWindow::MainWindow(Session& session, Updates& updates)
       actions_(new Actions(*this, *commands_, *results_)),
       menu_(new MainMenu(*this, *actions_)),
       library_(new LibraryPane(session, *summaries_)),
+      tricks_(new TrickPane),
       editPane_(new EditPane(*commands_, *actions_)),
       statistics_(new StatisticsPane),
       table_(new TableView),
@@ -90,7 +92,7 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::LayOut() {
-  left_ = new SideColumn(QStringLiteral("colLeft"), {library_, editPane_, statistics_});
+  left_ = new SideColumn(QStringLiteral("colLeft"), {library_, tricks_, editPane_, statistics_});
   right_ = new SideColumn(QStringLiteral("colRight"), {auction_, contract_, makeable_, traveller_});
   table_->setObjectName(QStringLiteral("picTable"));
   table_->setAccessibleName(tr("Table"));
@@ -179,6 +181,8 @@ void MainWindow::ConnectPlay() {
   connect(play_, &PlayControl::Changed, this, &MainWindow::DisplayPlay);
   connect(best_, &BestCardsFinder::Changed, this, &MainWindow::DisplayPlay);
   connect(table_, &TableView::TrickAsked, commands_, &Commands::QuitTrick);
+  connect(tricks_, &TrickPane::StopAsked, this,
+          [this] { results_->Record() != nullptr ? results_->Leave() : commands_->PlayOrStop(); });
 }
 
 /// While a play record is looked at, cards that are clicked or typed are meant for it.
@@ -194,7 +198,7 @@ void MainWindow::ConnectResults() {
 
 void MainWindow::SetTabOrder() {
   const QList<QWidget*> order =
-      library_->TabOrder() + editPane_->TabOrder() + QList<QWidget*>{table_} +
+      library_->TabOrder() + tricks_->TabOrder() + editPane_->TabOrder() + QList<QWidget*>{table_} +
       auction_->TabOrder() + contract_->TabOrder() + makeable_->TabOrder() + traveller_->TabOrder();
   for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order.at(i - 1), order.at(i));
 }
@@ -269,6 +273,7 @@ void MainWindow::DisplayPlay() {
   library_->OfferNext(play_->Play().Finished());
   traveller_->Show(session_.settings);
   DisplayTable();
+  ShowTricks();
   ShowState();
 }
 
@@ -364,10 +369,9 @@ void MainWindow::ShowPanes() {
   KeepRoom(left_, shown.leftRoom);
   KeepRoom(right_, shown.rightRoom);
   const std::pair<QWidget*, bool> panes[] = {
-      {table_, shown.table},           {left_, shown.left},
-      {library_, shown.library},       {editPane_, shown.edit},
-      {statistics_, shown.statistics}, {right_, shown.right},
-      {contract_, shown.contract},     {makeable_, shown.makeable},
+      {table_, shown.table},         {left_, shown.left},         {library_, shown.library},
+      {tricks_, shown.tricks},       {editPane_, shown.edit},     {statistics_, shown.statistics},
+      {right_, shown.right},         {contract_, shown.contract}, {makeable_, shown.makeable},
       {traveller_, shown.traveller},
   };
   for (const auto& [pane, visible] : panes) pane->setVisible(visible);
@@ -389,6 +393,15 @@ void MainWindow::CarryOut(WindowAsk what) {
       traveller_->Toggle();
       break;
   }
+}
+
+/// The tricks of the play, or of the play record that is looked at.
+void MainWindow::ShowTricks() {
+  const Replay* record = results_->Record();
+  const Board& board = record != nullptr ? record->Record().board : session_.board;
+  const CardPlay& play = record != nullptr ? record->Play() : play_->Play();
+  const auto known = [&](const PlayState& before) { return best_->Known(before, board.trumps); };
+  tricks_->Show(session_, board, MakeTrickGrid(play, known), record != nullptr);
 }
 
 void MainWindow::SetPresentation(bool on) {

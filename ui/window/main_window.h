@@ -41,6 +41,7 @@ class SideColumn;
 class StatisticsPane;
 class TableView;
 class TravellerPane;
+class TrickPane;
 class Updates;
 class WorkArea;
 
@@ -101,6 +102,7 @@ class MainWindow : public QMainWindow {
   void SetWorking(bool working);
   void ShowState();
   void ShowPanes();
+  void ShowTricks();
   void CarryOut(WindowAsk what);
 
   Session& session_;
@@ -116,6 +118,7 @@ class MainWindow : public QMainWindow {
   Actions* actions_;
   MainMenu* menu_;
   LibraryPane* library_;
+  TrickPane* tricks_;
   EditPane* editPane_;
   StatisticsPane* statistics_;
   TableView* table_;

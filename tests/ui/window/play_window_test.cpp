@@ -220,6 +220,25 @@ TEST_F(PlayWindowTest, AWholeBoardIsPlayedByKeysAndClicks) {
   ExpectNothingLeftOfPlay("the next board");
 }
 
+TEST_F(PlayWindowTest, TheTricksTakeThePlaceOfTheLibrary) {
+  Open();
+  EXPECT_EQ(ShownOf("fraLibrary fraTricks"), "fraLibrary");
+  StartPlay("1S X P P XX P P P");
+  EXPECT_EQ(ShownOf("fraLibrary fraTricks lblGiven"), "fraTricks");
+  FocusKeys("HAD2C3S4SAH2");
+  const auto* grid = Find<QTableWidget>("flexTricks");
+  QStringList spoken;
+  for (int column = 0; column < grid->columnCount(); ++column) {
+    spoken += grid->item(1, column)->data(Qt::AccessibleTextRole).toString();
+  }
+  EXPECT_EQ(FromQt(spoken.join(QLatin1Char('|'))),
+            "Trick 2, the current one||North: Spades A, led, the winning card|East: Hearts 2|"
+            "South is to play");
+  host.ExpectAsk("Do you wish to stop the play of board 1?", "Tricklet", Answer::Yes);
+  Click("cmdStopPlay");
+  EXPECT_EQ(ShownOf("fraLibrary fraTricks"), "fraLibrary");
+}
+
 TEST_F(PlayWindowTest, NothingLeavesAPlayUnderWayUnasked) {
   Open();
   const QRect button = Find<QWidget>("cmdPlay")->geometry();

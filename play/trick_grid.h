@@ -1,0 +1,40 @@
+// The tricks of a play as a table: a row for each trick, a column for each seat.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "analysis/solver.h"
+#include "play/card_play.h"
+
+namespace tricklet {
+
+struct TrickGrid {
+  struct Cell {
+    Card card;
+    bool led = false;   ///< the first card of its trick
+    bool wins = false;  ///< the trick, or what there is of it so far
+    int given = 0;      ///< tricks that it gave away double-dummy, 0..13; 0 too where not known
+    friend bool operator==(const Cell&, const Cell&) = default;
+  };
+  /// A seat without a card has not played to the trick.
+  using Row = PerSeat<std::optional<Cell>>;
+
+  std::vector<Row> rows;  ///< 0..13: of the tricks begun, and of the one to be led to
+  int current = -1;       ///< the row of the trick on the table or to be led to; -1 after the play
+  std::optional<Seat> toPlay;     ///< the next to play to the current trick; nobody when it is full
+  int cards = 0;                  ///< played so far, 0..52
+  std::optional<Side> claimedBy;  ///< the side that has all tricks without a card
+
+  /// Some card gave a trick away.
+  bool AnyGiven() const;
+};
+
+/// What each legal card led to in `before`, as `BestCards` tells it; empty where that is not known.
+using KnownScores = std::function<std::vector<CardScore>(const PlayState& before)>;
+
+/// The grid of `play`; without rows where its `PlayMode` is off.
+TrickGrid MakeTrickGrid(const CardPlay& play, const KnownScores& known);
+
+}  // namespace tricklet

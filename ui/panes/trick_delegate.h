@@ -1,0 +1,30 @@
+// One card of the trick grid.
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace tricklet::ui {
+
+/// Draws a suit symbol in its colour and a rank. A triangle before them marks the lead, bold type
+/// with a line below the winner, and a red mark after them the tricks that the card gave away. A
+/// dashed frame is the place of the next card.
+class TrickDelegate : public QStyledItemDelegate {
+  Q_OBJECT
+
+ public:
+  enum Role {
+    SymbolRole = Qt::UserRole,  ///< QString; empty where there is no card
+    SymbolColourRole,           ///< QColor
+    LedRole,                    ///< bool
+    WinsRole,                   ///< bool
+    GivenRole,                  ///< QString, "−1"; empty without a mark
+    NextRole,                   ///< bool: the next card belongs here
+  };
+
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
+};
+
+}  // namespace tricklet::ui
