@@ -16,6 +16,7 @@ namespace fs = std::filesystem;
 constexpr std::string_view kOwn = ".tricklet-";
 constexpr std::string_view kFolder = ".tricklet-copy-";
 constexpr std::string_view kKept = ".tricklet-kept-";
+constexpr std::string_view kDraft = ".tricklet-draft-";
 constexpr std::string_view kFileEnding = ".new";
 
 std::string NumberedName(std::string_view begin) {
@@ -23,15 +24,19 @@ std::string NumberedName(std::string_view begin) {
   return std::string(begin) + std::to_string(ProcessId()) + "-" + std::to_string(next++);
 }
 
+/// The process number with which `rest` begins.
+std::optional<int> ProcessIn(std::string_view rest) {
+  const std::size_t dash = rest.find('-');
+  if (dash == std::string_view::npos) return std::nullopt;
+  return NumberFromText(rest.substr(0, dash));
+}
+
 /// The process that made what has this name; nothing when the name does not say.
 std::optional<int> MakerOf(std::string_view name) {
   const auto begin = name.starts_with(kFolder) ? kFolder : name.starts_with(kKept) ? kKept : kOwn;
   if (begin == kOwn && !(name.starts_with(kOwn) && name.ends_with(kFileEnding)))
     return std::nullopt;
-  name.remove_prefix(begin.size());
-  const std::size_t dash = name.find('-');
-  if (dash == std::string_view::npos) return std::nullopt;
-  return NumberFromText(name.substr(0, dash));
+  return ProcessIn(name.substr(begin.size()));
 }
 
 /// What processes that are gone have left in the folder.
@@ -68,6 +73,24 @@ std::string NewFolderName() {
 
 std::string NewKeptName() {
   return NumberedName(kKept);
+}
+
+std::string NewDraftName() {
+  return NumberedName(kDraft);
+}
+
+std::vector<DraftFolder> DraftFoldersIn(const fs::path& folder) {
+  std::vector<DraftFolder> drafts;
+  std::error_code failure;
+  fs::directory_iterator entry(folder, failure);
+  for (const fs::directory_iterator end; !failure && entry != end; entry.increment(failure)) {
+    const std::string name = PathText(entry->path().filename());
+    std::error_code unseen;
+    if (!name.starts_with(kDraft) || !fs::is_directory(entry->symlink_status(unseen))) continue;
+    const auto process = ProcessIn(std::string_view(name).substr(kDraft.size()));
+    drafts.push_back({entry->path(), process.value_or(0)});
+  }
+  return drafts;
 }
 
 bool IsOwnName(std::string_view name) {

@@ -20,6 +20,18 @@ std::string NewFolderName();
 /// ".tricklet-kept-PROCESS-N", a name for a folder of files that are being replaced.
 std::string NewKeptName();
 
+/// ".tricklet-draft-PROCESS-N", a name for a folder of what has not been saved. It is no leftover:
+/// it stays until somebody has decided about it.
+std::string NewDraftName();
+
+/// A folder with a name by `NewDraftName`, and the process that made it.
+struct DraftFolder {
+  std::filesystem::path path;
+  int process = 0;
+};
+/// Those in `folder`; what cannot be listed holds none.
+std::vector<DraftFolder> DraftFoldersIn(const std::filesystem::path& folder);
+
 /// The name is one that the program gives to what is not complete, or to its lock. No such thing is
 /// listed or copied.
 bool IsOwnName(std::string_view name);

@@ -126,6 +126,7 @@ GenerateOutcome Generate(Session& session, const Constraints& constraints,
     outcome.failed = true;
     ErrorReport(session.host, FaultFrom(failure));
   }
+  outcome.failed = outcome.failed || !outcome.notRecycled.empty();
   ListAndShow(session, outcome.boardsStored > 0 ? constraints.genBoards.front() : before);
   const std::string text = GenerateText(outcome);
   if (!text.empty()) session.host.Tell(text);

@@ -25,7 +25,8 @@ struct GenerateOutcome {
   int boardsStored = 0;
   bool refused = false;    ///< by the person, before anything was written
   bool cancelled = false;  ///< in mid-run: the boards up to then are stored
-  bool failed = false;     ///< a board could not be stored; the person has been told why
+  bool failed = false;     ///< a board could not be stored, or one that it replaced could not be
+                           ///< recycled; the person has been told why
   /// The boards stored that do not meet the constraints, by number, the lowest first.
   std::vector<int> outside = {};
   /// What to tell of replaced boards that the recycle bin did not take; empty when it took them.

@@ -1,7 +1,5 @@
 #include "library/replaced_boards.h"
 
-#include <array>
-#include <ctime>
 #include <source_location>
 #include <system_error>
 #include <utility>
@@ -11,6 +9,7 @@
 #include "core/text.h"
 #include "disk/leftovers.h"
 #include "disk/presence.h"
+#include "library/dated_folder.h"
 
 namespace tricklet {
 namespace {
@@ -20,20 +19,6 @@ namespace fs = std::filesystem;
 void ThrowIf(std::error_code failure, const fs::path& path,
              std::source_location where = std::source_location::current()) {
   if (failure) throw Fault::OfFile(failure, PathText(path), where);
-}
-
-/// The local time: "2026-11-22 10.31". Not every system has a colon in names.
-std::string NowText() {
-  const std::time_t now = std::time(nullptr);
-  std::tm local{};
-#ifdef _WIN32
-  localtime_s(&local, &now);
-#else
-  localtime_r(&now, &local);
-#endif
-  std::array<char, 32> text{};
-  std::strftime(text.data(), text.size(), "%Y-%m-%d %H.%M", &local);
-  return text.data();
 }
 
 /// What cannot be read is taken for something else.
@@ -47,19 +32,6 @@ bool Holds(const fs::path& file, std::string_view data) {
   }
 }
 
-/// The name for the bin. A library's name may be as long as the disk allows; it is cut between two
-/// characters.
-std::string FolderName(std::string library, const std::string& command) {
-  constexpr std::size_t kLongest = 200;
-  const auto isInside = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; };
-  if (library.size() > kLongest) {
-    std::size_t end = kLongest;
-    while (end > 0 && isInside(library[end])) --end;
-    library.resize(end);
-  }
-  return library + " " + NowText() + " before " + command;
-}
-
 /// A second link to the file. False where it is a link itself, which would lead to what replaces
 /// it, or where the disk has no links.
 bool Link(const fs::path& file, const fs::path& to) {
@@ -69,34 +41,14 @@ bool Link(const fs::path& file, const fs::path& to) {
   return !failure;
 }
 
-/// `path`, or the first of "path (2)", "path (3)" ... that nothing has.
-fs::path FreeName(const fs::path& path) {
-  fs::path free = path;
-  for (int i = 2; IsTaken(free); ++i) {
-    free = path;
-    free += " (" + std::to_string(i) + ")";
-  }
-  return free;
-}
-
-/// Brings the folder `kept` from the hidden one into the root; where it must stay, its path.
-fs::path BringOut(const fs::path& kept, UnflushedFolders& unflushed) {
-  const fs::path library = kept.parent_path().parent_path();
-  const fs::path out = FreeName(library.parent_path() / kept.filename());
-  std::error_code failure;
-  fs::rename(kept, out, failure);
-  if (failure) return kept;
-  unflushed.Add(library.parent_path());
-  return out;
-}
-
 /// Sends the folders in `hidden` to the bin. The path of one that stays; empty when none does.
 fs::path RecycleAll(Host& host, const fs::path& hidden, UnflushedFolders& unflushed) {
   std::vector<fs::path> folders;
   ForEachEntry(hidden, [&](const fs::directory_entry& entry) { folders.push_back(entry.path()); });
   fs::path stays;
   for (const fs::path& kept : folders) {
-    const fs::path folder = BringOut(kept, unflushed);
+    const fs::path folder =
+        BringBeside(hidden.parent_path(), kept, PathText(kept.filename()), unflushed);
     if (!host.Recycle(folder)) stays = folder;
   }
   std::error_code ignored;
@@ -115,7 +67,8 @@ void ReplacedBoards::MakeFolder() {
   // A process of this number may have had the name before, and not have been swept.
   fs::path hidden = library_ / NewKeptName();
   while (IsTaken(hidden)) hidden = library_ / NewKeptName();
-  const fs::path kept = hidden / PathFromText(FolderName(PathText(library_.filename()), command_));
+  const fs::path kept =
+      hidden / PathFromText(DatedName(PathText(library_.filename()), "before " + command_));
   std::error_code failure;
   fs::create_directory(hidden, failure);
   ThrowIf(failure, hidden);

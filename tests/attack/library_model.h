@@ -37,6 +37,8 @@ class LibraryModel {
     Files files;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(top_)) {
       const std::string name = entry.path().filename().string();
+      // What is not saved comes and goes.
+      if (entry.path().string().find(".tricklet-draft-") != std::string::npos) continue;
       const bool ours =
           name.starts_with(".tricklet-") &&
           entry.path().parent_path().parent_path() != top_ / "bin";  // copies not finished

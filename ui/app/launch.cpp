@@ -148,9 +148,10 @@ int RunWindow(Application& application, MainWindow& window, const LaunchOptions&
   window.RestorePlace();
   window.show();
   window.Display();
-  if (!options.files.empty()) {
-    Later(&window, [&window, &options] { window.ImportFiles(options.files); });
-  }
+  Later(&window, [&window, &options] {
+    window.OfferDrafts();
+    if (!options.files.empty()) window.ImportFiles(options.files);
+  });
   const int exitCode = application.exec();
   window.SavePlace();
   return exitCode;

@@ -20,6 +20,7 @@
 #include "ui/background/board_summaries.h"
 #include "ui/background/later.h"
 #include "ui/commands/commands.h"
+#include "ui/control/draft_clock.h"
 #include "ui/control/edit_control.h"
 #include "ui/control/play_control.h"
 #include "ui/control/results.h"
@@ -65,6 +66,7 @@ MainWindow::MainWindow(Session& session, Updates& updates)
       commands_(new Commands(session, *play_, *edit_, updates, this)),
       watch_(new DiskWatch(
           session, [this] { return LeaveToWatch(); }, this)),
+      drafts_(new DraftClock(session, this)),
       actions_(new Actions(*this, *commands_, *results_)),
       menu_(new MainMenu(*this, *actions_)),
       library_(new LibraryPane(session, *summaries_)),
@@ -150,6 +152,7 @@ void MainWindow::Connect() {
   connect(tables_, &BackgroundTables::Said, status_, &QLabel::setText);
   connect(watch_, &DiskWatch::Changed, this, &MainWindow::Display);
   connect(watch_, &DiskWatch::Said, status_, &QLabel::setText);
+  connect(drafts_, &DraftClock::ProblemChanged, this, [this] { status_->setText(StatusText()); });
   connect(&updates_, &Updates::Settled, this, [this] {
     ShowNewVersion();
     ShowState();
@@ -238,6 +241,10 @@ void MainWindow::DisplayDeal() {
 QString MainWindow::StatusText() const {
   if (QString text = watch_->Text(); !text.isEmpty()) return text;
   const Board& board = session_.board;
+  if (board.handChanged && !drafts_->Problem().isEmpty()) {
+    return tr("Board %1 has changes that are not saved, and there is no draft of them: %2")
+        .arg(QString::number(board.boardNumber), drafts_->Problem());
+  }
   if (board.handChanged) {
     return tr("Board %1 has changes that are not saved").arg(board.boardNumber);
   }
@@ -346,6 +353,10 @@ void MainWindow::PlaceBesideAuction(QWidget* dialog) {
 void MainWindow::PlaceBesideHands(QWidget* dialog) {
   dialog->adjustSize();
   PlaceAtLowerEdge(*this, *dialog, width() - dialog->width() - WorkArea::kMargin);
+}
+
+void MainWindow::OfferDrafts() {
+  if (drafts_->OfferDrafts()) Display();
 }
 
 void MainWindow::ImportFiles(const std::vector<std::filesystem::path>& files) {

@@ -29,6 +29,7 @@ class BestCardsFinder;
 class BoardSummaries;
 class Commands;
 class ContractPane;
+class DraftClock;
 class EditControl;
 class EditPane;
 class LibraryPane;
@@ -58,6 +59,8 @@ class MainWindow : public QMainWindow {
 
   /// Imports the files one after another.
   void ImportFiles(const std::vector<std::filesystem::path>& files);
+  /// Asks about changes that earlier windows have left unsaved.
+  void OfferDrafts();
 
   /// Full screen with nothing but the table and what has been switched on beside it.
   void SetPresentation(bool on);
@@ -115,6 +118,7 @@ class MainWindow : public QMainWindow {
   BoardSummaries* summaries_;
   Commands* commands_;
   DiskWatch* watch_;
+  DraftClock* drafts_;
   Actions* actions_;
   MainMenu* menu_;
   LibraryPane* library_;
