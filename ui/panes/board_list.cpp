@@ -28,16 +28,10 @@ BoardList::BoardList(const Session& session, BoardSummaries& summaries, QWidget*
   lblFound->setObjectName(QStringLiteral("lblFound"));
   MakeQuiet(lblFound);
   lblFound->hide();
-  connect(lstBoards, &BoardListView::Chosen, this, [this](int boardNumber) {
-    emit BoardChosen(boardNumber);
-    lstBoards->ShowCurrent(session_.board.boardNumber, session_.settings.suitColour);
-  });
+  connect(lstBoards, &BoardListView::Chosen, this, &BoardList::Choose);
   connect(lstBoards, &BoardListView::Left, this, &BoardList::Left);
   connect(lstBoards, &BoardListView::Seen, &summaries_, &BoardSummaries::SetSeen);
-  connect(lstBoards, &QWidget::customContextMenuRequested, this, [this](const QPoint& place) {
-    const int boardNumber = lstBoards->BoardAt(place);
-    if (boardNumber != 0) emit MenuAsked(boardNumber, lstBoards->viewport()->mapToGlobal(place));
-  });
+  connect(lstBoards, &QWidget::customContextMenuRequested, this, &BoardList::AskForMenu);
   for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
     connect(found_, signal, this, &BoardList::ShowFound);
   }
@@ -105,7 +99,7 @@ void BoardList::GoToFound() {
   if (found_->rowCount() == 0) return;
   lstBoards->setFocus(Qt::OtherFocusReason);
   if (found_->mapFromSource(boards_->index(session_.board.boardNumber - 1, 0)).isValid()) return;
-  emit BoardChosen(found_->mapToSource(found_->index(0, 0)).row() + 1);
+  Choose(found_->mapToSource(found_->index(0, 0)).row() + 1);
 }
 
 void BoardList::BeginFind() {
@@ -117,8 +111,18 @@ QList<QWidget*> BoardList::TabOrder() const {
   return {txtFindBoards, lstBoards};
 }
 
-int BoardList::BoardAt(const QPoint& place) const {
-  return lstBoards->BoardAt(lstBoards->viewport()->mapFrom(this, place));
+void BoardList::Choose(int boardNumber) {
+  emit BoardChosen(boardNumber);
+  lstBoards->ShowCurrent(session_.board.boardNumber, session_.settings.suitColour);
+}
+
+/// What a menu offers is done to the current board: the one below the mouse has to become that.
+void BoardList::AskForMenu(const QPoint& place) {
+  const int boardNumber = lstBoards->BoardAt(place);
+  if (boardNumber == 0) return;
+  const QPoint onScreen = lstBoards->viewport()->mapToGlobal(place);
+  if (boardNumber != session_.board.boardNumber) Choose(boardNumber);
+  if (boardNumber == session_.board.boardNumber) emit MenuAsked(onScreen);
 }
 
 }  // namespace tricklet::ui

@@ -35,21 +35,21 @@ class BoardList : public QWidget {
   /// The controls in the order of the tab key.
   QList<QWidget*> TabOrder() const;
 
-  /// The board whose row is there, in pixels of this widget; 0 where none is.
-  int BoardAt(const QPoint& place) const;
-
  signals:
   void BoardChosen(int boardNumber);
   /// The person is done with the list: the keys are meant for the table.
   void Left();
-  /// A menu for a board is wanted there, in pixels of the screen.
-  void MenuAsked(int boardNumber, const QPoint& place);
+  /// A menu for the current board, which the person has just chosen, is wanted there, in pixels of
+  /// the screen.
+  void MenuAsked(const QPoint& place);
 
  private:
   void BuildFind();
   void Find(const QString& text);
   void ShowFound();
   void GoToFound();
+  void Choose(int boardNumber);
+  void AskForMenu(const QPoint& place);
 
   const Session& session_;
   BoardSummaries& summaries_;

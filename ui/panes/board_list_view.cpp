@@ -113,11 +113,17 @@ void BoardListView::ChooseCurrentRow() {
   if (board != 0 && board != current_) emit Chosen(board);
 }
 
-/// The keys that mean something in a list are not taken for those of the window.
+/// The keys that mean something in a list are not taken for those of the window. The menu key is
+/// meant for the row of the current board.
 bool BoardListView::event(QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride) {
     const auto& key = static_cast<const QKeyEvent&>(*event);
     if (IsDigit(key) || Moves(key)) event->accept();
+  }
+  if (event->type() == QEvent::ContextMenu && currentIndex().isValid()) {
+    // By the menu key, which is sent here: one by the mouse goes to the viewport.
+    emit customContextMenuRequested(visualRect(currentIndex()).center());
+    return true;
   }
   return QTreeView::event(event);
 }

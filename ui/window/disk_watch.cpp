@@ -4,7 +4,6 @@
 #include <utility>
 
 #include <QFileInfo>
-#include <QTimer>
 
 #include "core/fault.h"
 #include "library/library_scan.h"
@@ -14,6 +13,9 @@ namespace tricklet::ui {
 namespace {
 
 constexpr std::chrono::seconds kBetweenLooks{2};
+/// A command of another program changes many files one after the other: one look is for all of
+/// them.
+constexpr std::chrono::milliseconds kAfterChange{200};
 
 }  // namespace
 
@@ -22,11 +24,29 @@ DiskWatch::DiskWatch(Session& session, std::function<Leave()> leave, QObject* pa
   auto* clock = new QTimer(this);
   connect(clock, &QTimer::timeout, this, &DiskWatch::Look);
   clock->start(kBetweenLooks);
+  soon_.setSingleShot(true);
+  soon_.setInterval(kAfterChange);
+  connect(&soon_, &QTimer::timeout, this, &DiskWatch::Look);
+  connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, [this] {
+    if (!soon_.isActive()) soon_.start();
+  });
+}
+
+/// Watches the folder of the current library, and no other. A folder that is removed and made again
+/// is watched again at the next look.
+void DiskWatch::WatchFolder() {
+  const QString folder = PathToQt(session_.LibraryPath());
+  const QStringList watched = watcher_.directories();
+  if (watched == QStringList{folder}) return;
+  if (!watched.isEmpty()) watcher_.removePaths(watched);
+  if (QFileInfo(folder).isDir()) watcher_.addPath(folder);
 }
 
 void DiskWatch::Look() {
   const Leave leave = leave_();
   if (leave == Leave::Nothing) return;
+  WatchFolder();
+  emit Looked();
   const bool listed = leave >= Leave::List && ListAgain();
   const bool changed = LookAtBoard(leave);
   if (listed || changed) emit Changed();
@@ -66,6 +86,7 @@ bool DiskWatch::ListAgain() {
   try {
     const bool others = ListAddedBoards(session_);
     folder_ = now;
+    emit FolderChanged();
     return others;
   } catch (const Fault&) {
     return false;  // what cannot be listed just now stays listed as it was

@@ -6,16 +6,20 @@
 #include <functional>
 
 #include <QDateTime>
+#include <QFileSystemWatcher>
 #include <QObject>
 #include <QString>
+#include <QTimer>
 
 #include "library/board_on_disk.h"
 #include "library/session.h"
 
 namespace tricklet::ui {
 
-/// Looks at the current board's file and at its folder every two seconds. What has changed is read
-/// again where nothing of the person's is lost by that; where it would be, the status line says so.
+/// Looks at the current board's file and at its folder every two seconds, and soon after the system
+/// has told of a change in the folder, which it does not on every network share. What has changed
+/// is read again where nothing of the person's is lost by that; where it would be, the status line
+/// says so.
 class DiskWatch : public QObject {
   Q_OBJECT
 
@@ -40,6 +44,10 @@ class DiskWatch : public QObject {
  signals:
   /// The session has changed, and so may have the text.
   void Changed();
+  /// The folder has changed, and so may have the files of any boards.
+  void FolderChanged();
+  /// The clock has come round: files whose change no folder tells of may have changed.
+  void Looked();
   /// The text, again at each look for as long as a change is not settled.
   void Said(const QString& text);
 
@@ -55,11 +63,14 @@ class DiskWatch : public QObject {
   };
 
   static Stamp StampOf(const std::filesystem::path& path);
+  void WatchFolder();
   bool ListAgain();
   bool LookAtBoard(Leave leave);
 
   Session& session_;
   std::function<Leave()> leave_;
+  QFileSystemWatcher watcher_;
+  QTimer soon_;
   Stamp folder_;
   Stamp file_;
   int loaded_ = -1;                       // `boardsLoaded` at the time of `file_`

@@ -73,9 +73,14 @@ void MainMenu::ShowRecent(const std::vector<std::filesystem::path>& files) {
   }
 }
 
-void MainMenu::OfferAt(QWidget* widget, const char* actions) {
+QMenu* MainMenu::ContextMenu(QWidget* widget, const char* actions) {
   auto* menu = new QMenu(widget);
   actions_.Fill(menu, actions);
+  return menu;
+}
+
+void MainMenu::OfferAt(QWidget* widget, const char* actions) {
+  QMenu* menu = ContextMenu(widget, actions);
   widget->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(widget, &QWidget::customContextMenuRequested, menu,
           [menu, widget](const QPoint& at) { menu->popup(widget->mapToGlobal(at)); });

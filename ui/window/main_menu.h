@@ -31,6 +31,8 @@ class MainMenu : public QObject {
 
   /// Gives `widget` a context menu of actions, as `kTableContext` and its like name them.
   void OfferAt(QWidget* widget, const char* actions);
+  /// Such a menu, for a widget that says itself when and where it is wanted.
+  QMenu* ContextMenu(QWidget* widget, const char* actions);
 
  signals:
   void RecentAsked(const std::filesystem::path& file);

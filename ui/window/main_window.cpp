@@ -7,6 +7,7 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QStatusBar>
 
 #include "library/library_choice.h"
@@ -27,6 +28,7 @@
 #include "ui/dialogs/frmBidding.h"
 #include "ui/dialogs/frmSwap.h"
 #include "ui/panes/auction_pane.h"
+#include "ui/panes/board_list.h"
 #include "ui/panes/contract_pane.h"
 #include "ui/panes/edit_pane.h"
 #include "ui/panes/library_pane.h"
@@ -143,13 +145,17 @@ void MainWindow::Connect() {
   connect(commands_, &Commands::NewLibraryAsked, library_, &LibraryPane::BeginNewLibrary);
   connect(actions_, &Actions::Asked, this, &MainWindow::CarryOut);
   menu_->OfferAt(table_, kTableContext);
-  menu_->OfferAt(library_, kBoardListContext);
+  QMenu* ofBoard = menu_->ContextMenu(library_, kBoardListContext);
+  connect(library_->List(), &BoardList::MenuAsked, ofBoard,
+          [ofBoard](const QPoint& at) { ofBoard->popup(at); });
   menu_->OfferAt(traveller_, kTravellerContext);
   connect(menu_, &MainMenu::RecentAsked, this,
           [this](const std::filesystem::path& file) { ImportFiles({file}); });
   connect(commands_, &Commands::TableAsked, tables_, &BackgroundTables::ComputeAsked);
   connect(tables_, &BackgroundTables::Changed, this, &MainWindow::Display);
   connect(tables_, &BackgroundTables::Said, status_, &QLabel::setText);
+  connect(watch_, &DiskWatch::FolderChanged, this, &MainWindow::ShowFolder);
+  connect(watch_, &DiskWatch::Looked, summaries_, &BoardSummaries::LookAtSeen);
   connect(watch_, &DiskWatch::Changed, this, &MainWindow::Display);
   connect(watch_, &DiskWatch::Said, status_, &QLabel::setText);
   connect(drafts_, &DraftClock::ProblemChanged, this, [this] { status_->setText(StatusText()); });
@@ -236,6 +242,14 @@ void MainWindow::DisplayDeal() {
   statistics_->Show(session_);
   table_->Show(session_.board, session_.settings, nullptr);
   table_->ShowBestCards({});
+}
+
+/// Files of the library that are not the current board's may be others: results, and other boards.
+void MainWindow::ShowFolder() {
+  results_->ReadTraveller();
+  summaries_->Show(results_->File());
+  summaries_->LookAtAll();
+  DisplayPlay();
 }
 
 QString MainWindow::StatusText() const {

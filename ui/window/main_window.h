@@ -86,6 +86,7 @@ class MainWindow : public QMainWindow {
   void ConnectPlay();
   void ConnectEdit();
   void ConnectResults();
+  void ShowFolder();
   QString StatusText() const;
   DiskWatch::Leave LeaveToWatch() const;
   void ShowTitle();

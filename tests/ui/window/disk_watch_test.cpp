@@ -1,4 +1,6 @@
 // The window while other programs change the library that it shows.
+#include <QAbstractItemView>
+
 #include "library/board_store.h"
 #include "tests/ui/window_fixture.h"
 
@@ -106,6 +108,31 @@ TEST_F(DiskWatchTest, AddedBoardsAppearInTheList) {
   EXPECT_EQ(Text("lblLibrary"), "5 boards in library");
   EXPECT_EQ(Text("cmbMaxBoard"), "30");
   EXPECT_EQ(Text("cmbBoard"), "Board 1");
+}
+
+TEST_F(DiskWatchTest, WhatAnotherWindowStoresIsSeenInTheList) {
+  Open();
+  window->LookAtDisk();
+  const auto* list = Find<QAbstractItemView>("lstBoards");
+  const auto row = [list](int number) {
+    return FromQt(list->model()->index(number - 1, 0).data(Qt::AccessibleTextRole).toString());
+  };
+  const auto shows = [&](int number, const char* words) {
+    return QTest::qWaitFor([&] { return row(number).find(words) != std::string::npos; });
+  };
+  Session other(host, store);
+  other.settings = session.settings;
+  other.board.boardNumber = 22;
+  other.board.hands = test::OneSuitEach();
+  test::SetAuction(other.board, "4H P P P");
+  ASSERT_TRUE(SaveHand(other));
+  EXPECT_TRUE(shows(22, "4 hearts by East")) << row(22);
+  other.board.boardNumber = 5;
+  ASSERT_TRUE(SaveHand(other));
+  EXPECT_TRUE(shows(5, "4 hearts by North")) << "without waiting for the clock: " << row(5);
+  fs::remove(session.BoardPath(22));
+  EXPECT_TRUE(shows(22, "(empty)")) << row(22);
+  EXPECT_EQ(Text("lblStatus"), "Ready");
 }
 
 }  // namespace
