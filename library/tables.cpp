@@ -169,10 +169,22 @@ class AnalysisRun {
     const auto total = static_cast<int>(numbers_.size());
     do {
       const Progress progress{solved_, total, solvedAt_ - start_, Clock::now() - solvedAt_};
-      if (!session_.host.Step(ProgressText(number, progress), solved_, total)) {
-        outcome_.cancelled = true;
-      }
+      Step(ProgressText(number, progress));
     } while (answer.wait_for(kEvery) != std::future_status::ready);
+  }
+
+  void Step(const std::string& text) {
+    steppedAt_ = Clock::now();
+    const auto total = static_cast<int>(numbers_.size());
+    if (!session_.host.Step(text, solved_, total)) outcome_.cancelled = true;
+  }
+
+  /// A disk can take longer over the tables of a batch than a window may be without an answer. What
+  /// has been solved is stored, also when the run is cancelled meanwhile.
+  void StepWhileStoring(int number) {
+    constexpr auto kLongest = std::chrono::milliseconds(20);
+    if (Clock::now() - steppedAt_ < kLongest) return;
+    Step("Saving the table of board " + std::to_string(number));
   }
 
   void Keep(SolvedBatch answer, Batch batch) {
@@ -196,6 +208,7 @@ class AnalysisRun {
   void StoreTables() {
     for (std::size_t i = 0; i < pendingTables_.size(); ++i) {
       const int number = pending_.numbers[i];
+      StepWhileStoring(number);
       if (!PutTable(session_, session_.BoardPath(number), pending_.deals[i], pendingTables_[i],
                     write_.Unflushed())) {
         continue;
@@ -221,6 +234,7 @@ class AnalysisRun {
   std::vector<MakeableTable> pendingTables_;
   Clock::time_point start_ = Clock::now();
   Clock::time_point solvedAt_ = start_;
+  Clock::time_point steppedAt_ = start_;
 };
 
 }  // namespace

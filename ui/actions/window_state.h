@@ -14,7 +14,7 @@ namespace tricklet::ui {
 struct WindowState {
   // What is going on.
   bool working = false;            ///< long work, with its progress display
-  bool dealing = false;            ///< that work is a run of the generator
+  bool dealing = false;            ///< that work leaves a deal to be shown: the generator, analysis
   bool presentation = false;       ///< full screen for an audience
   bool presentationPanes = false;  ///< with the auction and the panes of the right column
   bool entering = false;           ///< the auction dialog is open

@@ -30,9 +30,11 @@ void Commands::AnalyseBoard() {
 }
 
 void Commands::AnalyseLibrary() {
+  emit Dealing(true);
   LeaveUnsaved([this] {
     if (RequireSolver(session_)) tricklet::AnalyseLibrary(session_, session_.getSolver());
   });
+  emit Dealing(false);
 }
 
 void Commands::OnlineSolver() {

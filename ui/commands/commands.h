@@ -148,8 +148,8 @@ class Commands : public QObject {
   /// True before and false after work that copies whole libraries.
   void Waiting(bool waiting);
   void Done();
-  /// True before a run of the generator may begin, whose deals become the session's board one
-  /// after another; false when it is over.
+  /// True before work may begin during which the session's board can be shown, whose deal may
+  /// become another one meanwhile: a run of the generator or an analysis. False when it is over.
   void Dealing(bool dealing);
   /// What the last command has done, where nothing else shows it.
   void Said(const QString& text);

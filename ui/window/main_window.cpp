@@ -234,7 +234,7 @@ void MainWindow::ShowTitle() {
   setWindowModified(board.handChanged);
 }
 
-/// The deal that a run of the generator has come to.
+/// The deal that a run of the generator has come to, or that was there before an analysis.
 void MainWindow::DisplayDeal() {
   if (!state_.dealing) return;
   ShowTitle();

@@ -58,7 +58,7 @@ TEST(PanesShown, FollowFromTheStateAlone) {
       {"auction", [](S& s) { s.entering = true; },
        "bars table left library statistics right makeable traveller"},
       {"import", [](S& s) { s.working = true; }, "bars left library statistics"},
-      {"generator", [](S& s) { s.working = s.dealing = true; },
+      {"generator or analysis", [](S& s) { s.working = s.dealing = true; },
        "bars table left library statistics"},
       {"presentation", [](S& s) { s.presentation = true; }, "table"},
       {"presentation with panes", [](S& s) { s.presentation = s.presentationPanes = true; },
