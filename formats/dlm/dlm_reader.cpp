@@ -40,6 +40,7 @@ class DlmReader {
   /// The next line in lower case, cut off where nothing of use can follow.
   std::string ReadLine() {
     constexpr std::size_t kLongestLine = 1024;
+    ++lineNumber_;
     return ToLower(TakeLine(rest_).substr(0, kLongestLine));
   }
 
@@ -53,6 +54,7 @@ class DlmReader {
     if (number < kFirstBoardNumber || letters.size() < kDLMDealLetters ||
         !IsDLMLetter(letters.front())) {
       result_.badLine = line;
+      result_.badLineNumber = lineNumber_;
       result_.boardsSaved = 0;
       stopped_ = true;
     } else if (number > lastToRead_) {
@@ -81,6 +83,7 @@ class DlmReader {
   std::string_view rest_;
   BoardSink& sink_;
   int lastToRead_ = kLastBoardNumber;
+  int lineNumber_ = 0;
   bool stopped_ = false;
   ReadResult result_;
 };

@@ -41,6 +41,12 @@ std::string SavedText(const ReadResult& result, const std::string& libraryName) 
   return text + " been saved to the library - " + libraryName;
 }
 
+std::string BadLineText(const ReadResult& result, const std::string& file) {
+  const std::string& reason = result.badLineReason;
+  return "It is line " + std::to_string(result.badLineNumber) + " of the file " + file + "\n" +
+         (reason.empty() ? "" : reason + "\n") + "Please correct it and import the file again";
+}
+
 std::string StoredText(const ReadResult& result, const std::set<int>& stored) {
   if (stored.empty()) return "";
   const bool first = stored.contains(result.firstBoard);

@@ -11,6 +11,10 @@ namespace tricklet {
 /// "3 hands (5-7) have been saved to the library - Club", as the reader counts them.
 std::string SavedText(const ReadResult& result, const std::string& libraryName);
 
+/// Where the line that could not be read stands, what is wrong with it where the line itself does
+/// not show that, and what to do. `file` is fit to be shown.
+std::string BadLineText(const ReadResult& result, const std::string& file);
+
 /// Which boards were stored; empty when none was, or when those that `SavedText` names were.
 std::string StoredText(const ReadResult& result, const std::set<int>& stored);
 

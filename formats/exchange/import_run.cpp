@@ -96,11 +96,14 @@ void TellUnwritten(Host& host, const LibrarySink& sink, const RecordReader& read
   }
 }
 
-void TellResult(Session& session, const LibrarySink& sink, const ReadResult& result) {
+void TellResult(Session& session, const LibrarySink& sink, const ReadResult& result,
+                const std::string& file) {
   Host& host = session.host;
   for (const std::string& message : result.messages) host.Tell(message);
-  if (result.badLine) host.Tell("Can't read this line:\n" + Showable(*result.badLine));
-  TellIfAny(host, result.badLineReason);
+  if (result.badLine) {
+    host.TellError("Can't read this line:\n" + Showable(*result.badLine));
+    host.Tell(BadLineText(result, file));
+  }
   host.Tell(SavedText(result, session.ShownLibrary()));
   TellIfAny(host, StoredText(result, sink.Stored()));
   TellIfAny(host, LeftOutText(result.leftOut));
@@ -143,7 +146,7 @@ ImportOutcome StoreText(Session& session, RecordSource source, const std::string
   ReadResult& result = reading.result;
   if (sink.Failure()) CountStored(sink, result);
   if (failures.writing) TellUnwritten(session.host, sink, reader, *failures.writing);
-  TellResult(session, sink, result);
+  TellResult(session, sink, result, ShownPath(source.path));
   if (sink.Failure()) TellIfAny(session.host, PartText(sink.Stored(), failures.unstored));
   TellErrorIfAny(session.host, failures.notRecycled);
   ListAndShow(session, result.boardsSaved > 0 ? BoardToShow(result, sink) : boardBefore);

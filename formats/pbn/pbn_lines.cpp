@@ -23,6 +23,7 @@ void PbnLines::ReadNextLine() {
     pastEnd_ = true;
     return;
   }
+  ++number_;
   const std::size_t end = text_.find(separator_, next_);
   line_ = text_.substr(next_, end - next_);
   next_ = end == std::string_view::npos ? end : end + separator_.size();

@@ -20,6 +20,9 @@ class PbnLines {
   bool PastEnd() const { return pastEnd_; }
   std::string_view Line() const { return line_; }
 
+  /// Of the current line, the first being 1.
+  int Number() const { return number_; }
+
   /// What follows the current line.
   std::string_view Rest() const;
 
@@ -28,6 +31,7 @@ class PbnLines {
   std::string_view separator_;
   std::size_t next_ = 0;  // where the next line begins; npos after the last
   std::string_view line_;
+  int number_ = 0;
   bool pastEnd_ = false;
 };
 

@@ -121,6 +121,7 @@ class PbnReader {
       if (!result_.cancelled) StoreBoard();
     } catch (const BadLine& bad) {
       result_.badLine = std::string(lines_.Line());
+      result_.badLineNumber = lines_.Number();
       result_.badLineReason = bad.reason;
       if (result_.lastBoard > 0) --result_.lastBoard;
     }

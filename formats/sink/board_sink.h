@@ -48,6 +48,7 @@ struct ReadResult {
   /// Why the file, or a part of it, was not read: for the user, before the count.
   std::vector<std::string> messages;
   std::optional<std::string> badLine;  ///< the line that could not be read and ended the reading
+  int badLineNumber = 0;               ///< of `badLine`, the first line of the file being 1
   std::string badLineReason;  ///< what is wrong where `badLine` does not show it, else empty
   LeftOut leftOut;
 };

@@ -128,28 +128,32 @@ TEST_F(ImportTest, StoresBoardsAndShowsTheFirst) {
 TEST_F(ImportTest, TellsWhatWasStoredOfPbnAndDlm) {
   std::string calls = "[Auction \"N\"]\n";
   for (int call = 0; call < 101; ++call) calls += "P ";
-  Expect("a.pbn",
-         {{PbnText({12}), "Hand 12 has #\n[12|1|LIN.txt]"},
-          {"[Board \"1\"]", "No hands have #\n[|0|1 /]"},
-          {PbnText({1, 1, 1}) + "[Deal \"\"]\n",
-           "Can't read this line:\n[Deal \"\"]\n2 hands (1-0) have #\nBoard 1 of the file is "
-           "stored\n[1|2 failed|LIN.txt]"},
-          {PbnText({1, 2}) + "[OptimumResultTable \"\"]\nN NT 7\n[caf\xe9]\n",
-           "Can't read this line:\n[caf\u00e9]\nThe double-dummy table of board 2 has 1 of its 20 "
-           "rows\nHand 1 has #\n[1|1 failed|LIN.txt]"},
-          {PbnText({1, 1000}), "Hand 1 has #\n1 board was UNSTORABLE 1000\n[1|1|LIN.txt]"},
-          {PbnText({1010, 999, 0, 0, 1009, 1008, 1007, 1006, 1005, 1004, 1003, 1002, 1001}),
-           "Hand 1010 has #\nBoard 999 of the file is stored\n12 boards were UNSTORABLE 0, 1001, "
-           "1002, 1003, 1004, 1005, 1006, 1007, 1008, 1009 ...\n[999|1|LIN.txt]"},
-          {PbnText({1, 2, 3, 7, 1000}),
-           "4 hands (1-1000) have #\nBoards 1-3, 7 of the file are stored\n1 board was UNSTORABLE "
-           "1000\n[1 2 3 7|4|LIN.txt]"},
-          {PbnText({1, 2}) + calls,
-           "? The auction has more than 100 calls\nError no. 9\nCannot read the file @\nBoard 1 of "
-           "the file is stored, the rest is not\n[1|0 failed|LIN.txt]"}});
+  Expect(
+      "a.pbn",
+      {{PbnText({12}), "Hand 12 has #\n[12|1|LIN.txt]"},
+       {"[Board \"1\"]", "No hands have #\n[|0|1 /]"},
+       {PbnText({1, 1, 1}) + "[Deal \"\"]\n",
+        "Can't read this line:\n[Deal \"\"]\nIt is line 11 of the file @\nPlease correct it and "
+        "import the file again\n2 hands (1-0) have #\nBoard 1 of the file is "
+        "stored\n[1|2 failed|LIN.txt]"},
+       {PbnText({1, 2}) + "[OptimumResultTable \"\"]\nN NT 7\n[caf\xe9]\n",
+        "Can't read this line:\n[caf\u00e9]\nIt is line 10 of the file @\nThe double-dummy table "
+        "of board 2 has 1 of its 20 "
+        "rows\nPlease correct it and import the file again\nHand 1 has #\n[1|1 failed|LIN.txt]"},
+       {PbnText({1, 1000}), "Hand 1 has #\n1 board was UNSTORABLE 1000\n[1|1|LIN.txt]"},
+       {PbnText({1010, 999, 0, 0, 1009, 1008, 1007, 1006, 1005, 1004, 1003, 1002, 1001}),
+        "Hand 1010 has #\nBoard 999 of the file is stored\n12 boards were UNSTORABLE 0, 1001, "
+        "1002, 1003, 1004, 1005, 1006, 1007, 1008, 1009 ...\n[999|1|LIN.txt]"},
+       {PbnText({1, 2, 3, 7, 1000}),
+        "4 hands (1-1000) have #\nBoards 1-3, 7 of the file are stored\n1 board was UNSTORABLE "
+        "1000\n[1 2 3 7|4|LIN.txt]"},
+       {PbnText({1, 2}) + calls,
+        "? The auction has more than 100 calls\nError no. 9\nCannot read the file @\nBoard 1 of "
+        "the file is stored, the rest is not\n[1|0 failed|LIN.txt]"}});
   Expect("a.dlm",
          {{DlmLine(2) + DlmLine(1) + "Board 03=aaa\r\n",
-           "Can't read this line:\nboard 03=aaa\nNo hands have #\nBoards 1-2 of the file are "
+           "Can't read this line:\nboard 03=aaa\nIt is line 3 of the file @\nPlease correct it and "
+           "import the file again\nNo hands have #\nBoards 1-2 of the file are "
            "stored\n[1 2|0 failed|LIN.txt]"},
           {DlmLine(5, "blblblblblblblblblblblblbq"),
            "? A deal has letters from \"a\" to \"p\" only\nError no. 9\nCannot read the file "
