@@ -159,10 +159,11 @@ int RunWindow(Application& application, MainWindow& window, const LaunchOptions&
 
 /// The start dialog, which looks for a newer version before the start goes on; or, where the window
 /// is to open at once, the same question asked beside it: asked before the start goes on too, but
-/// not waited for, since "at once" leaves nobody a dialog in which to see what is waited for. False
-/// when the dialog was closed.
-bool PassStart(Session& session, Updates& updates) {
-  if (!session.settings.autoLaunch) return frmStart(session, updates).exec() == QDialog::Accepted;
+/// not waited for, since "at once" leaves nobody a dialog in which to see what is waited for. A
+/// file that is opened with the program is wanted at once, too. False when the dialog was closed.
+bool PassStart(Session& session, Updates& updates, bool opensFile) {
+  if (!session.settings.autoLaunch && !opensFile)
+    return frmStart(session, updates).exec() == QDialog::Accepted;
   if (updates.WantedAtStart()) updates.Ask();
   return true;
 }
@@ -174,7 +175,7 @@ int RunSession(Application& application, const LaunchOptions& options, Session& 
   ApplyColourScheme(application, session.settings.colourScheme);
   TellUnreadSettings(session);
   if (!pictureOnly) ShowNotice(session);
-  if (!pictureOnly && !PassStart(session, updates)) return 0;
+  if (!pictureOnly && !PassStart(session, updates, !options.files.empty())) return 0;
   if (!OpenLibraries(session, FromQt(options.library))) return 1;
   if (host.HasEnded()) return 0;
   if (options.board != 0) SelectBoard(session, options.board);

@@ -13,6 +13,7 @@
 
 #include "platform/recycle.h"
 #include "ui/background/later.h"
+#include "ui/dialogs/folder_browser.h"
 #include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
@@ -145,10 +146,10 @@ std::optional<std::filesystem::path> QtHost::ChooseFolder(const std::string& tit
                                                           const std::filesystem::path& start) {
   const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   const QString usual = QFileInfo(documents).isDir() ? documents : QDir::homePath();
-  const QString folder = QFileDialog::getExistingDirectory(Parent(), ToQt(title),
-                                                           start.empty() ? usual : PathToQt(start));
-  if (folder.isEmpty()) return std::nullopt;
-  return PathFromQt(folder);
+  FolderBrowser browser(Parent(), ToQt(title), start.empty() ? usual : PathToQt(start),
+                        start.empty() ? ToQt(kProgramName) : QString());
+  if (browser.exec() != QDialog::Accepted) return std::nullopt;
+  return PathFromQt(browser.Folder());
 }
 
 std::optional<std::filesystem::path> QtHost::ChooseOpenFile(const FileChoice& choice) {

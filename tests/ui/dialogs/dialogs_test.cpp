@@ -1,10 +1,13 @@
 // The message boxes of the window's host, and the dialogs.
+#include <QDir>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QRadioButton>
 
 #include "tests/ui/window_fixture.h"
 #include "ui/app/qt_host.h"
 #include "ui/background/later.h"
+#include "ui/dialogs/folder_browser.h"
 #include "ui/dialogs/frmExport.h"
 #include "ui/dialogs/frmStart.h"
 
@@ -59,6 +62,19 @@ TEST_F(DialogsTest, EnterIsTheSafeAnswerAndButtonsSayWhatTheyDo) {
                         .agree = "Replace 24 & go on",
                         .refuse = "Refuse"}),
             Answer::No);
+}
+
+TEST_F(DialogsTest, AFolderThatIsNotThereYetCanBeChosen) {
+  const QString here = QDir::tempPath();
+  const QString there = QFileInfo(here).fileName();
+  for (const auto& [in, name] :
+       {std::pair(here, QStringLiteral("no such folder")), std::pair(QDir::rootPath(), there)}) {
+    FolderBrowser browser(nullptr, QStringLiteral("Choose"), in, name);
+    browser.accept();
+    EXPECT_EQ(browser.result(), QDialog::Accepted);
+    EXPECT_EQ(browser.Folder(), QDir(in).filePath(name));
+    EXPECT_EQ(QFileInfo::exists(browser.Folder()), name == there) << "it is made by whoever asked";
+  }
 }
 
 TEST_F(DialogsTest, TheStartDialogStoresAutoLaunchAtOnce) {
