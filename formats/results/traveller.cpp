@@ -152,6 +152,8 @@ void ReadNames(const LinRecord& record, const PairNames& pairs, TravellerRow& ro
     const PairPlayers players{PlayerName(record.players[first]),
                               PlayerName(record.players[PartnerOf(first)])};
     row.names[side] = JoinPlayers(players);
+    row.players[first] = players.first;
+    row.players[PartnerOf(first)] = players.second;
     row.pair[side] = pairs.NumberOf(players, side);
   }
 }

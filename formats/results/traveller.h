@@ -27,7 +27,8 @@ struct TravellerRow {
   std::string adjusted;       ///< the score's text where it is a ruling: "A5050"
   /// Match points or IMPs, as the traveller's `scoring` says.
   PerSide<std::optional<float>> points;
-  PerSide<std::string> names;  ///< "Ann & Bob": North and South, East and West
+  PerSide<std::string> names;    ///< "Ann & Bob": North and South, East and West
+  PerSeat<std::string> players;  ///< the same one by one; empty where not known
   RecordedPlay record;
   std::string lin;  ///< the LIN record itself, without the scorer's own tags
 

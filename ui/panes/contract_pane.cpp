@@ -42,19 +42,11 @@ std::string PassedOutText(const Board& board) {
 
 ContractPane::ContractPane(Commands& commands, QWidget* parent)
     : QWidget(parent),
-      lblContract(MakeLabel(QStringLiteral("lblContract"), 1.25, this)),
       fraPlay_(new QWidget(this)),
       cmdUndo(new QPushButton(tr("Undo"), fraPlay_)),
       cmdClaim(new QPushButton(fraPlay_)),
       lblScore(MakeLabel(QStringLiteral("lblScore"), 1.0, this)) {
   setObjectName(QStringLiteral("fraContract"));
-  auto* contract = new QHBoxLayout;
-  contract->addWidget(lblContract, 1);
-  for (const Side side : {Side::NorthSouth, Side::EastWest}) {
-    lblTricks[side] = new QLabel(this);
-    lblTricks[side]->setObjectName(QStringLiteral("lblTricks_%1").arg(IndexOf(side)));
-    contract->addWidget(lblTricks[side]);
-  }
   fraPlay_->setObjectName(QStringLiteral("fraPlay"));
   cmdUndo->setObjectName(QStringLiteral("cmdUndo"));
   cmdUndo->setToolTip(tr("Take back the claim or the last card (Ctrl+Z)"));
@@ -70,7 +62,6 @@ ContractPane::ContractPane(Commands& commands, QWidget* parent)
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(8);
-  column->addLayout(contract);
   column->addWidget(lblScore);
   column->addWidget(fraPlay_);
 }
@@ -83,32 +74,19 @@ void ContractPane::Show(const Session& session, const CardPlay& play, bool enter
   const Board& board = session.board;
   KeepRoom(this, board.NumCalls() > 0);
   setVisible(!entering && board.NumCalls() > 0);
-  SetContractText(lblContract, ContractLabel(board), session.settings);
   SetContractText(lblScore, play.PlayMode() ? play.ScoreText() : PassedOutText(board),
                   session.settings);
   ShowPlay(play);
 }
 
 void ContractPane::ShowRecord(const Replay& record, const Settings& settings) {
-  const Board& board = record.Record().board;
   KeepRoom(this, true);
   setVisible(true);
-  SetContractText(lblContract, ContractLabel(board), settings);
   SetContractText(lblScore, record.ScoreText(), settings);
-  ShowTricks(record.Play());
   fraPlay_->setVisible(false);
 }
 
-void ContractPane::ShowTricks(const CardPlay& play) {
-  const bool on = play.PlayMode();
-  for (const Side side : {Side::NorthSouth, Side::EastWest}) {
-    lblTricks[side]->setVisible(on);
-    lblTricks[side]->setText(on ? ToQt(play.TricksText(side)) : QString());
-  }
-}
-
 void ContractPane::ShowPlay(const CardPlay& play) {
-  ShowTricks(play);
   fraPlay_->setVisible(play.PlayMode());
   cmdUndo->setEnabled(play.UndoEnabled());
   cmdClaim->setEnabled(play.ClaimEnabled());

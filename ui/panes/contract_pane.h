@@ -1,4 +1,4 @@
-// The right column's middle part: the contract, its play and its result.
+// The right column's middle part: the result of a play, undo and claim.
 #pragma once
 
 #include <QWidget>
@@ -15,29 +15,26 @@ namespace tricklet::ui {
 
 class Commands;
 
-/// The contract; during play the tricks of both sides, undo and claim; and the result line.
+/// Undo and claim during play, and the result line. Contract and tricks lie on the table.
 class ContractPane : public QWidget {
   Q_OBJECT
 
  public:
   explicit ContractPane(Commands& commands, QWidget* parent = nullptr);
 
-  /// Shows the board's contract and `play`. Nothing is shown while the auction is being entered:
-  /// the contract is not known then.
+  /// Shows `play`, or the result of a board that was passed out. Nothing is shown while the auction
+  /// is being entered.
   void Show(const Session& session, const CardPlay& play, bool entering);
 
-  /// Shows the contract of a play record that is looked at, its tricks so far and its result.
+  /// Shows the result of a play record that is looked at.
   void ShowRecord(const Replay& record, const Settings& settings);
 
   /// The controls in the order of the tab key.
   QList<QWidget*> TabOrder() const;
 
  private:
-  void ShowTricks(const CardPlay& play);
   void ShowPlay(const CardPlay& play);
 
-  QLabel* lblContract;
-  PerSide<QLabel*> lblTricks;
   QWidget* fraPlay_;
   QPushButton* cmdUndo;
   QPushButton* cmdClaim;

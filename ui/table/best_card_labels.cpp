@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <QFontMetricsF>
+
 #include "ui/table/table_style.h"
 
 namespace tricklet::ui {
@@ -10,23 +12,14 @@ namespace {
 const QColor kBestFill(0x17, 0x6B, 0x3A);
 const QColor kEdge(0x17, 0x6B, 0x3A);
 
-// Of a card's width, or of a written rank's height.
-constexpr QSizeF kLabelOnCard(0.32, 0.2);
-constexpr QSizeF kLabelUnderRank(0.66, 0.44);
+/// Height of a digit's size to that of its label: digits have nothing below the line.
+constexpr double kDigits = 1.16;
 
-/// On the upper edge of a card, above its index, where the label hides nothing that is printed on
-/// the cards over it or above it; in the text display below the rank.
-QRectF LabelRoom(const PlacedCard& placed, QSizeF card) {
-  const bool written = placed.rect.height() < card.height() * 0.7;
-  const QSizeF size =
-      written ? kLabelUnderRank * placed.rect.height() : kLabelOnCard * card.width();
-  QRectF room(QPointF(), size);
-  if (written) {
-    room.moveCenter({placed.rect.center().x(), placed.rect.bottom()});
-  } else {
-    room.moveCenter(placed.rect.topLeft() + QPointF(0.21 * card.width(), -0.02 * card.height()));
-  }
-  return room;
+/// The number fills the label: digits alone are lower than a line of text.
+void DrawNumber(QPainter& painter, const QRectF& room, const QString& number) {
+  const QFontMetricsF metrics(painter.font());
+  const QRectF ink = metrics.tightBoundingRect(number);
+  painter.drawText(room.center() - ink.center(), number);
 }
 
 }  // namespace
@@ -37,21 +30,22 @@ void DrawBestCardLabels(QPainter& painter, const TableLayout& layout,
   const int most = std::max_element(best.begin(), best.end(), [](const auto& a, const auto& b) {
                      return a.tricks < b.tricks;
                    })->tricks;
+  QFont bold = font;
+  bold.setBold(true);
   for (const PlacedCard& placed : layout.cards) {
     const auto score = std::find_if(best.begin(), best.end(), [&](const CardScore& candidate) {
       return candidate.card == placed.card;
     });
     if (score == best.end()) continue;
-    const QRectF room = LabelRoom(placed, layout.cardSize);
+    const QRectF& room = placed.mark;
     const bool isBest = score->tricks == most;
     painter.setPen(QPen(kEdge, 1));
     painter.setBrush(isBest ? kBestFill : QColor(Qt::white));
     painter.drawRoundedRect(room, room.height() / 3, room.height() / 3);
-    QFont number = Fitted(font, {QStringLiteral("13")}, room.size() * 0.9, room.height());
-    number.setBold(isBest);
-    painter.setFont(number);
+    painter.setFont(Fitted(bold, {QStringLiteral("13")}, {0.9 * room.width(), 2 * room.height()},
+                           kDigits * room.height()));
     painter.setPen(isBest ? Qt::white : Qt::black);
-    painter.drawText(room, Qt::AlignCenter, QString::number(score->tricks));
+    DrawNumber(painter, room, QString::number(score->tricks));
   }
 }
 

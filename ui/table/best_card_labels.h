@@ -11,8 +11,8 @@
 
 namespace tricklet::ui {
 
-/// A small number on each card of `best` that lies in `layout`. The cards that lead to most have a
-/// filled label, the others an empty one.
+/// A small number in the mark of each card of `best` that lies in `layout`. The cards that lead to
+/// most have a filled label, the others an empty one.
 void DrawBestCardLabels(QPainter& painter, const TableLayout& layout,
                         std::span<const CardScore> best, const QFont& font);
 

@@ -12,16 +12,6 @@ struct Words {
   Q_DECLARE_TR_FUNCTIONS(TableView)
 };
 
-const QString kBetween = QStringLiteral(" \u00B7 ");
-
-QString Role(const Board& board, const Settings& settings, Seat seat) {
-  const bool contract = !board.contract.empty() && board.contract != kAllPass;
-  if (!contract) return {};
-  if (seat == board.declarer && settings.captionDeclarer) return Words::tr("Declarer");
-  if (seat == PartnerOf(board.declarer) && settings.captionDummy) return Words::tr("Dummy");
-  return {};
-}
-
 QString DescribeHand(const PerSuit<Holding>& hand) {
   QStringList suits;
   for (const Suit suit : kAllSuits) {
@@ -32,13 +22,15 @@ QString DescribeHand(const PerSuit<Holding>& hand) {
   return suits.join(QStringLiteral("; "));
 }
 
-QStringList DescribeHands(const HandTable& hands) {
+QStringList DescribeHands(const HandTable& hands, const PerSeat<bool>& hidden = {}) {
   QStringList parts;
   for (const Seat seat : kAllSeats) {
     bool cards = false;
     for (const Suit suit : kAllSuits) cards = cards || !hands[seat][suit].Empty();
     parts << ToQt(SeatName[seat]) + QStringLiteral(": ") +
-                 (cards ? DescribeHand(hands[seat]) : Words::tr("no cards"));
+                 (!cards         ? Words::tr("no cards")
+                  : hidden[seat] ? Words::tr("hidden")
+                                 : DescribeHand(hands[seat]));
   }
   return parts;
 }
@@ -59,53 +51,6 @@ QString DescribeTrick(const PlayState& now) {
 
 }  // namespace
 
-PerSeat<QString> TableCaptions(const Board& board, const Settings& settings) {
-  PerSeat<QString> captions;
-  if (!HasCards(board.hands)) return captions;
-  const PerSeat<std::string> edited = GetCaptionsEdit(GetStats(board.hands), settings);
-  for (const Seat seat : kAllSeats) {
-    // The parts end in blanks of their own.
-    captions[seat] = (ToQt(edited[seat]) + u' ' + Role(board, settings, seat)).simplified();
-  }
-  return captions;
-}
-
-PerSeat<QString> PlayCaptions(const Board& board, const Settings& settings,
-                              std::optional<Seat> onPlay) {
-  PerSeat<QString> captions;
-  for (const Seat seat : kAllSeats) {
-    QStringList words;
-    const QString role = Role(board, settings, seat);
-    if (!role.isEmpty()) words << role;
-    if (seat == onPlay) words << Words::tr("to play");
-    captions[seat] = (ToQt(SeatName[seat]) + QStringLiteral(": ") + words.join(kBetween)).trimmed();
-  }
-  return captions;
-}
-
-PerSeat<QString> EditCaptions(const Board& board, const Settings& settings) {
-  Settings named = settings;
-  named.captionPlayer = true;
-  PerSeat<QString> captions;
-  const PerSeat<std::string> edited = GetCaptionsEdit(GetStats(board.hands), named);
-  for (const Seat seat : kAllSeats) captions[seat] = ToQt(edited[seat]).simplified();
-  return captions;
-}
-
-QString PackCaption(const Board& board) {
-  int cards = 0;
-  for (const Holding missing : GetStats(board.hands).missingCards) cards += missing.Count();
-  return cards == 1 ? Words::tr("Pack: 1 card") : Words::tr("Pack: %1 cards").arg(cards);
-}
-
-PerSeat<QString> CallCaptions(const Board& board, const Settings& settings, Seat toCall) {
-  PerSeat<QString> captions = TableCaptions(board, settings);
-  QString& caption = captions[toCall];
-  caption = caption.isEmpty() ? ToQt(SeatName[toCall]) + QStringLiteral(": ") : caption + kBetween;
-  caption += Words::tr("to call");
-  return captions;
-}
-
 QStringList BoardLine(const Board& board) {
   if (board.boardNumber == 0) return {};
   return {Words::tr("Board %1").arg(board.boardNumber)};
@@ -121,12 +66,12 @@ QString HoldingLine(Holding holding) {
   return ToQt(HoldingText(holding)).trimmed();
 }
 
-QString DescribeTable(const Board& board, std::optional<Seat> toCall) {
+QString DescribeTable(const Board& board, std::optional<Seat> toCall, const PerSeat<bool>& hidden) {
   QStringList parts = BoardLine(board);
   parts << DealerLines(board).front();
   parts << ToQt(VulText[board.Vulnerability()]);
   if (toCall) parts << Words::tr("%1 to call").arg(ToQt(SeatName[*toCall]));
-  parts << DescribeHands(board.hands);
+  parts << DescribeHands(board.hands, hidden);
   return parts.join(QStringLiteral(". ")) + u'.';
 }
 
@@ -146,7 +91,7 @@ QString DescribeEdit(const Board& board, const TableEdit& edit) {
   return parts.join(QStringLiteral(". ")) + u'.';
 }
 
-QString DescribePlay(const Board& board, const PlaySnapshot& play) {
+QString DescribePlay(const Board& board, const PlaySnapshot& play, const PerSeat<bool>& hidden) {
   const PlayState& now = play.now;
   QStringList parts = BoardLine(board);
   parts << ToQt(ContractLabel(board));
@@ -154,7 +99,7 @@ QString DescribePlay(const Board& board, const PlaySnapshot& play) {
   if (play.finished) parts << play.score;
   parts << DescribeTrick(now);
   parts << play.tricks[Side::NorthSouth] << play.tricks[Side::EastWest];
-  parts << DescribeHands(now.cardsLeft);
+  parts << DescribeHands(now.cardsLeft, hidden);
   return parts.join(QStringLiteral(". ")) + u'.';
 }
 

@@ -70,7 +70,7 @@ const QRectF& EditLayout::Area(HandFrame frame) const {
 EditLayout LayOutEdit(QSizeF size, const HandTable& hands) {
   const double packWidth = PackWidth(size);
   EditLayout layout;
-  layout.table = LayOutTable(size - QSizeF(packWidth, 0), hands, HandDisplay::Cards);
+  layout.table = LayOutTable(size - QSizeF(packWidth, 0), hands, {});
   layout.table.felt = QRectF(QPointF(), size);
   const PlacedHand& north = layout.table.hands[Seat::North];
   const double margin = north.caption.top();

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "ui/table/descriptions.h"
+#include "ui/table/caption_texts.h"
 
 namespace tricklet::ui {
 namespace {
@@ -22,7 +22,7 @@ void DrawFrame(QPainter& painter, const QRectF& rect, double radius, const QPen&
 }
 
 QPen MarkPen(QSizeF card) {
-  return {kOnPlayYellow, std::max(2.0, kFrame * card.width())};
+  return {kToActYellow, std::max(2.0, kFrame * card.width())};
 }
 
 /// Draws a strong frame.
@@ -53,12 +53,12 @@ EditCaptionTexts MakeEditCaptions(const Board& board, const Settings& settings,
   EditCaptionTexts captions;
   const PerSeat<QString> texts = EditCaptions(board, settings);
   const auto markOf = [&](HandFrame frame) {
-    return edit.Receiver() == frame ? CaptionMark::OnPlay : CaptionMark::Plain;
+    return edit.Receiver() == frame ? CaptionMark::ToAct : CaptionMark::Plain;
   };
   for (const Seat seat : kAllSeats) {
     captions.hands[seat] = {texts[seat], markOf(FrameOf(seat)), std::nullopt};
   }
-  captions.pack = {PackCaption(board), markOf(HandFrame::Pack), edit.HalfTyped()};
+  captions.pack = {PackCaption(board, settings), markOf(HandFrame::Pack), edit.HalfTyped()};
   return captions;
 }
 

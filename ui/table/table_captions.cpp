@@ -16,13 +16,12 @@ constexpr double kPointsPerInch = 72;
 constexpr int kLeastPixels = 9;  // below that a shortened text says more
 // Of a caption's height.
 constexpr double kPadding = 0.55;  // at either end
-constexpr double kText = 0.62;
 // Of a text's size in pixels: room for the triangle and for a half-typed suit.
 constexpr double kSign = 1.05;
 constexpr double kSuit = 2.1;
 
 bool HasSign(const Caption& caption) {
-  return caption.mark == CaptionMark::OnPlay || caption.mark == CaptionMark::ToCall;
+  return caption.mark == CaptionMark::ToAct;
 }
 
 /// The width that a pill takes besides its text and its ends.
@@ -32,11 +31,10 @@ double Extras(const Caption& caption, double pixels) {
 
 QColor BackgroundOf(CaptionMark mark, const TableColours& colours) {
   switch (mark) {
-    case CaptionMark::OnPlay:
-      return kOnPlayYellow;
-    case CaptionMark::ToCall:
+    case CaptionMark::ToAct:
+      return kToActYellow;
     case CaptionMark::Over:
-      return kToCallCyan;
+      return kOverCyan;
     default:
       return colours.caption;
   }
@@ -91,7 +89,7 @@ CaptionLayout LayOutCaptions(const TableLayout& table, const PerSeat<Caption>& c
   const QRectF& room = table.hands[Seat::West].caption;
   const double wished = settings.hgFont[1].size * dotsPerInch / kPointsPerInch *
                         std::max(1.0, table.felt.height() / kReferenceHeight);
-  const double most = std::min(wished, kText * room.height());
+  const double most = std::min(std::max(wished, table.leastCaption), kCaptionText * room.height());
   QStringList texts;
   double extras = 0;
   for (const Caption& caption : captions) {
@@ -117,7 +115,7 @@ CaptionLayout LayOutCaptions(const TableLayout& table, const PerSeat<Caption>& c
 
 QRectF PillFor(const CaptionLayout& layout, const Caption& caption, const QRectF& room) {
   const double pixels = layout.font.pixelSize();
-  const double high = std::min(room.height(), pixels / kText);
+  const double high = std::min(room.height(), pixels / kCaptionText);
   const double width = QFontMetricsF(layout.font).horizontalAdvance(caption.text) +
                        Extras(caption, pixels) + 2 * kPadding * high;
   QRectF pill(0, 0, std::min(width, room.width()), high);

@@ -15,9 +15,8 @@ namespace tricklet::ui {
 
 enum class CaptionMark : std::uint8_t {
   Plain,
-  OnPlay,  ///< yellow, with a triangle
-  ToCall,  ///< cyan, with a triangle
-  Over,    ///< cyan: the board has been played out
+  ToAct,  ///< to play or to call: yellow, with a triangle
+  Over,   ///< cyan: the board has been played out
 };
 
 struct Caption {

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QFontMetricsF>
 
+#include "ui/style/qt_text.h"
 #include "ui/style/theme.h"
 #include "ui/table/descriptions.h"
 
@@ -30,7 +31,7 @@ QString SeatLetter(Seat seat) {
 }
 
 /// Where the dealer's disc goes.
-enum class DiscSide : std::uint8_t { Left, Right, Below };
+enum class DiscSide : std::uint8_t { Left, Right };
 
 /// The mark of one seat: a badge, red where vulnerable, and the dealer's disc beside it.
 class SeatMark {
@@ -67,8 +68,7 @@ class SeatMark {
     if (!dealer_) return;
     QRectF disc(0, 0, 1.35 * unit_, 1.35 * unit_);
     const double across = badge_.width() / 2 + 0.3 * unit_ + disc.width() / 2;
-    const double down = badge_.height() / 2 + 0.2 * unit_ + disc.height() / 2;
-    const QPointF away = discSide_ == DiscSide::Below ? QPointF(0, down) : QPointF(across, 0);
+    const QPointF away(across, 0);
     disc.moveCenter(discSide_ == DiscSide::Left ? middle - away : middle + away);
     DrawDisc(painter, disc);
   }
@@ -115,68 +115,80 @@ void DrawPanel(QPainter& painter, const QRectF& panel, const TableColours& colou
   painter.drawRoundedRect(panel.adjusted(0.5, 0.5, -0.5, -0.5), 12, 12);
 }
 
-/// Size of the marks during play, and the bands that they keep to.
-double PlayUnit(const QRectF& panel) {
-  return std::clamp(std::min(panel.width(), panel.height()) * 0.06, 8.0, 32.0);
-}
-QSizeF PlayBands(const QRectF& panel) {
-  return QSizeF(2.9, 1.75) * PlayUnit(panel);
-}
+/// The marks of the four seats and the lines between them.
+struct CentreParts {
+  double unit;
+  PerSeat<SeatMark> marks;
+  PerSeat<QPointF> middles;
+  QRectF board;     ///< above the line from West to East
+  QRectF contract;  ///< below the board
+  QRectF dealer;    ///< below the line: dealer and vulnerability
+};
 
-}  // namespace
-
-QRectF TrickRoom(const QRectF& panel) {
-  const QSizeF bands = PlayBands(panel);
-  return panel.adjusted(bands.width(), bands.height(), -bands.width(), -bands.height());
-}
-
-void DrawCentreInPlay(QPainter& painter, const QRectF& panel, const Board& board,
-                      const TableColours& colours, const QFont& font) {
-  DrawPanel(painter, panel, colours);
-  const double unit = PlayUnit(panel);
-  const QPointF middle = panel.center();
-  const double across = PlayBands(panel).width() / 2;
-  const double down = PlayBands(panel).height() / 2;
-  const auto draw = [&](Seat seat, QPointF place, DiscSide discSide) {
-    SeatMark(board, seat, font, unit, discSide).Draw(painter, place, colours);
-  };
-  draw(Seat::North, {middle.x(), panel.top() + down}, DiscSide::Right);
-  draw(Seat::South, {middle.x(), panel.bottom() - down}, DiscSide::Right);
-  draw(Seat::West, {panel.left() + across, middle.y()}, DiscSide::Below);
-  draw(Seat::East, {panel.right() - across, middle.y()}, DiscSide::Below);
-}
-
-void DrawCentre(QPainter& painter, const QRectF& panel, const Board& board,
-                const TableColours& colours, const QFont& font) {
-  DrawPanel(painter, panel, colours);
+CentreParts PartsOf(const QRectF& panel, const Board& board, const QFont& font) {
   const double unit = std::clamp(std::min(panel.width(), panel.height()) * 0.095, 5.0, 48.0);
   const auto mark = [&](Seat seat) {
     const DiscSide discSide = seat == Seat::East ? DiscSide::Left : DiscSide::Right;
     return SeatMark(board, seat, font, unit, discSide);
   };
-  const SeatMark north = mark(Seat::North);
-  const SeatMark east = mark(Seat::East);
-  const SeatMark south = mark(Seat::South);
-  const SeatMark west = mark(Seat::West);
+  CentreParts parts{
+      unit, {{mark(Seat::North), mark(Seat::East), mark(Seat::South), mark(Seat::West)}},
+      {},   {},
+      {},   {}};
+  const auto size = [&](Seat seat) { return parts.marks[seat].BadgeSize(); };
   const double pad = 0.5 * unit;
-  const double ends = std::max(north.BadgeSize().height(), south.BadgeSize().height());
-  const double sides = std::max(west.BadgeSize().width(), east.BadgeSize().width());
+  const double ends = std::max(size(Seat::North).height(), size(Seat::South).height());
+  const double sides = std::max(size(Seat::West).width(), size(Seat::East).width());
   const QPointF middle = panel.center();
-  north.Draw(painter, {middle.x(), panel.top() + pad + ends / 2}, colours);
-  south.Draw(painter, {middle.x(), panel.bottom() - pad - ends / 2}, colours);
-  west.Draw(painter, {panel.left() + pad + sides / 2, middle.y()}, colours);
-  east.Draw(painter, {panel.right() - pad - sides / 2, middle.y()}, colours);
-
-  // The board above the line from West to East, dealer and vulnerability below it.
+  parts.middles = {{QPointF(middle.x(), panel.top() + pad + ends / 2),
+                    QPointF(panel.right() - pad - sides / 2, middle.y()),
+                    QPointF(middle.x(), panel.bottom() - pad - ends / 2),
+                    QPointF(panel.left() + pad + sides / 2, middle.y())}};
   const double down = ends + 1.4 * pad;
-  const double half = std::max(west.BadgeSize().height(), east.BadgeSize().height()) / 2;
+  const double half = std::max(size(Seat::West).height(), size(Seat::East).height()) / 2;
   const QRectF inner = panel.adjusted(pad, down, -pad, -down);
-  const QRectF above(inner.topLeft(), QPointF(inner.right(), middle.y() - half));
-  const QRectF below(QPointF(inner.left(), middle.y() + half), inner.bottomRight());
+  const double above = middle.y() - half - inner.top();
+  constexpr double kBoard = 0.56;
+  parts.board = {inner.left(), inner.top(), inner.width(), kBoard * above};
+  parts.contract = {inner.left(), parts.board.bottom(), inner.width(), (1 - kBoard) * above};
+  parts.dealer = QRectF(QPointF(inner.left(), middle.y() + half), inner.bottomRight());
+  return parts;
+}
+
+constexpr double kTrickMargin = 6;
+constexpr double kLeastCornerText = 9;  // pixels; smaller ones are left out
+
+}  // namespace
+
+QRectF TrickRoom(const QRectF& panel) {
+  return panel.adjusted(kTrickMargin, kTrickMargin, -kTrickMargin, -kTrickMargin);
+}
+
+QRectF ContractRoom(const QRectF& panel, const Board& board, const QFont& font) {
+  return PartsOf(panel, board, font).contract;
+}
+
+void DrawCentreInPlay(QPainter& painter, const QRectF& panel, const QRectF& corner,
+                      const Board& board, const TableColours& colours, const QFont& font) {
+  DrawPanel(painter, panel, colours);
+  const QStringList lines = BoardLine(board) + QStringList{ToQt(VulShort[board.Vulnerability()])};
+  const double each = corner.height() / static_cast<double>(lines.size());
+  const QFont fitted = Fitted(font, lines, {corner.width(), each}, 0.42 * corner.height());
+  if (fitted.pixelSize() < kLeastCornerText) return;
+  painter.setFont(fitted);
+  painter.setPen(colours.dimText);
+  painter.drawText(corner, Qt::AlignLeft | Qt::AlignTop, lines.join(u'\n'));
+}
+
+void DrawCentre(QPainter& painter, const QRectF& panel, const Board& board,
+                const TableColours& colours, const QFont& font) {
+  DrawPanel(painter, panel, colours);
+  const CentreParts parts = PartsOf(panel, board, font);
+  for (const Seat seat : kAllSeats) parts.marks[seat].Draw(painter, parts.middles[seat], colours);
   QFont bold = font;
   bold.setBold(true);
-  DrawLines(painter, above, BoardLine(board), colours.text, bold, 1.5 * unit);
-  DrawLines(painter, below, DealerLines(board), colours.dimText, font, 1.1 * unit);
+  DrawLines(painter, parts.board, BoardLine(board), colours.text, bold, 1.5 * parts.unit);
+  DrawLines(painter, parts.dealer, DealerLines(board), colours.dimText, font, 1.1 * parts.unit);
 }
 
 }  // namespace tricklet::ui

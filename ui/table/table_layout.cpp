@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QMarginsF>
+
 namespace tricklet::ui {
 namespace {
 
@@ -13,12 +15,17 @@ constexpr double kRowStepAcross = 0.5;  // West and East, where there is room
 constexpr double kLeastStep = 0.33;     // the index still shows, that of a ten too
 constexpr double kLeastSide = 2.7;      // West and East
 constexpr double kWishedSide = 3.2;
+constexpr double kSideInPlay = 2.8;  // the trick needs its room, and the hands get shorter
 constexpr double kLeastCentre = 2.4;
 constexpr double kMostCentre = 4.2;
+constexpr QMarginsF kMarkMargins(0.035, 0.62, 0.015, 0.015);  // of a mark, in the card's corner
+constexpr QSizeF kMark(0.36, 0.24);
+constexpr double kLeastMark = 0.15;  // its height where a row below leaves no more
 // Lengths in cards' heights.
 constexpr double kRowStep = 0.5;  // from one suit's row to the next
 constexpr double kMostRowStep = 0.62;
 constexpr double kCentreHeight = 2.2;
+constexpr int kBacksInRow = 4;  // West and East face down
 /// North and South draw the sides towards the middle on a table that is wider than this.
 constexpr double kMostAspect = 1.7;
 
@@ -32,13 +39,17 @@ struct Measures {
   double cardHeight;
 };
 
-Measures Measure(QSizeF size) {
+Measures Measure(QSizeF size, bool presentation = false) {
   const double width = std::max(1.0, size.width());
   const double height = std::max(1.0, size.height());
   Measures m{};
   m.margin = std::clamp(0.018 * std::min(width, height), 4.0, 28.0);
   m.gap = std::round(0.7 * m.margin);
   m.captionHeight = std::round(std::clamp(0.042 * std::min(width, height), 14.0, 96.0));
+  if (presentation) {
+    m.captionHeight =
+        std::max(m.captionHeight, std::ceil(kPresentationText / kCaptionText * height));
+  }
   const double across = std::min(width, height * kMostAspect) - 2 * m.margin;
   m.room = QRectF((width - across) / 2, m.margin, across, height - 2 * m.margin);
   const double high = m.room.height() - 3 * m.captionHeight - 5 * m.gap;
@@ -63,15 +74,33 @@ Heights AreaHeights(const Measures& m, HandDisplay display) {
   return {m.cardHeight, std::max(side, m.cardHeight)};
 }
 
-double CentreWidth(const Measures& m, HandDisplay display) {
+double CentreWidth(const Measures& m, const TableNeeds& needs) {
   const double wide = m.room.width() - 2 * m.gap;
-  if (display == HandDisplay::Text) return std::max(1.0, 0.25 * wide);
-  return std::clamp(wide - 2 * kWishedSide * m.cardWidth, kLeastCentre * m.cardWidth,
+  if (needs.display == HandDisplay::Text) return std::max(1.0, 0.25 * wide);
+  const double side = needs.play ? kSideInPlay : kWishedSide;
+  return std::clamp(wide - 2 * side * m.cardWidth, kLeastCentre * m.cardWidth,
                     kMostCentre * m.cardWidth);
 }
 
-void PlaceAreas(TableLayout& layout, const Measures& m, HandDisplay display) {
-  const Heights heights = AreaHeights(m, display);
+/// The middle between plays; during play it reaches from the side hands' upper edge down to the
+/// line below it.
+void PlaceCentre(TableLayout& layout, const Measures& m, bool play) {
+  const QRectF& west = layout.hands[Seat::West].area;
+  const double left = west.right() + m.gap;
+  const double width = layout.hands[Seat::East].area.left() - m.gap - left;
+  if (play) {
+    layout.line = QRectF(left, west.bottom() - m.captionHeight, width, m.captionHeight);
+    layout.centre = QRectF(left, west.top(), width, layout.line.top() - m.gap / 2 - west.top());
+    return;
+  }
+  const double height =
+      std::min(west.height(), std::max(kCentreHeight * m.cardHeight, west.height() * 0.7));
+  layout.centre = QRectF(0, 0, width, std::round(height));
+  layout.centre.moveCenter({m.room.center().x(), west.center().y()});
+}
+
+void PlaceAreas(TableLayout& layout, const Measures& m, const TableNeeds& needs) {
+  const Heights heights = AreaHeights(m, needs.display);
   const QRectF& room = m.room;
   const double step = m.captionHeight + m.gap;
   PlacedHand& north = layout.hands[Seat::North];
@@ -83,7 +112,7 @@ void PlaceAreas(TableLayout& layout, const Measures& m, HandDisplay display) {
 
   const double middle = (north.area.bottom() + south.area.top()) / 2;
   const double top = std::round(middle - (step + heights.side) / 2);
-  const double centreWidth = CentreWidth(m, display);
+  const double centreWidth = std::round(CentreWidth(m, needs));
   const double sideWidth = (room.width() - centreWidth) / 2 - m.gap;
   const double captionWidth = (room.width() - m.gap) / 2;
   PlacedHand& west = layout.hands[Seat::West];
@@ -92,11 +121,7 @@ void PlaceAreas(TableLayout& layout, const Measures& m, HandDisplay display) {
   west.area = {room.left(), top + step, sideWidth, heights.side};
   east.caption = {room.right() - captionWidth, top, captionWidth, m.captionHeight};
   east.area = {room.right() - sideWidth, top + step, sideWidth, heights.side};
-
-  const double centreHeight =
-      std::min(heights.side, std::max(kCentreHeight * m.cardHeight, heights.side * 0.7));
-  layout.centre = QRectF(0, 0, std::round(centreWidth), std::round(centreHeight));
-  layout.centre.moveCenter({room.center().x(), west.area.center().y()});
+  PlaceCentre(layout, m, needs.play);
 }
 
 std::vector<Card> CardsOf(Suit suit, Holding holding) {
@@ -114,21 +139,43 @@ double StepFor(std::size_t count, double room, double card, double wished) {
   return std::clamp((room - card) / static_cast<double>(count - 1), 0.0, wished);
 }
 
+/// A card at `corner` of which later cards leave `inSight` uncovered, from that corner on.
+PlacedCard Placed(const TableLayout& layout, Seat seat, Card card, QPointF corner, QSizeF inSight) {
+  const double unit = layout.cardSize.width();
+  const QRectF rect(corner, layout.cardSize);
+  QRectF mark(0, 0, kMark.width() * unit, 0);
+  mark.setWidth(std::min(mark.width(), inSight.width() - 2 * kMarkMargins.left() * unit));
+  const double bottom = inSight.height() - kMarkMargins.bottom() * unit;
+  mark.moveTop(std::min(kMarkMargins.top() * unit, bottom - kLeastMark * unit));
+  mark.setBottom(std::min(bottom, mark.top() + kMark.height() * unit));
+  return {seat, card, rect, mark.translated(corner.x() + kMarkMargins.left() * unit, corner.y())};
+}
+
+struct Fan {
+  double left;
+  double step;
+};
+Fan FanOf(const TableLayout& layout, Seat seat, std::size_t count) {
+  const QRectF& area = layout.hands[seat].area;
+  const double width = layout.cardSize.width();
+  const double step = StepFor(count, area.width(), width, kFanStep * width);
+  const double fan = width + step * (static_cast<double>(count) - 1);
+  return {area.center().x() - fan / 2, step};
+}
+
 void PlaceFan(TableLayout& layout, const PerSuit<Holding>& hand, Seat seat) {
   std::vector<Card> cards;
   for (const Suit suit : kTableSuits) {
     const std::vector<Card> held = CardsOf(suit, hand[suit]);
     cards.insert(cards.end(), held.begin(), held.end());
   }
-  if (cards.empty()) return;
-  const QRectF& area = layout.hands[seat].area;
-  const double width = layout.cardSize.width();
-  const double step = StepFor(cards.size(), area.width(), width, kFanStep * width);
-  const double fan = width + step * static_cast<double>(cards.size() - 1);
-  double x = area.center().x() - fan / 2;
+  const Fan fan = FanOf(layout, seat, cards.size());
+  const QSizeF inSight(cards.size() < 2 ? layout.cardSize.width() : fan.step,
+                       layout.cardSize.height());
+  QPointF corner(fan.left, layout.hands[seat].area.top());
   for (const Card card : cards) {
-    layout.cards.push_back({seat, card, QRectF({x, area.top()}, layout.cardSize)});
-    x += step;
+    layout.cards.push_back(Placed(layout, seat, card, corner, inSight));
+    corner.rx() += fan.step;
   }
 }
 
@@ -165,29 +212,66 @@ void PlaceRows(TableLayout& layout, const PerSuit<Holding>& hand, Seat seat) {
                               layout.cardSize.height(), kMostRowStep * layout.cardSize.height());
   // Each hand keeps to its own edge of the table.
   const double left = seat == Seat::West ? area.left() : area.right() - block;
-  double y = area.top();
+  QPointF corner(left, area.top());
   for (const auto& row : rows) {
-    double x = left;
+    const double step = across(row);
+    const QSizeF inSight(row.size() < 2 ? width : step, down);
+    corner.rx() = left;
     for (const Card card : row) {
-      layout.cards.push_back({seat, card, QRectF({x, y}, layout.cardSize)});
-      x += across(row);
+      layout.cards.push_back(Placed(layout, seat, card, corner, inSight));
+      corner.rx() += step;
     }
-    y += down;
+    corner.ry() += down;
   }
+}
+
+bool LiesInFan(Seat seat) {
+  return seat == Seat::North || seat == Seat::South;
+}
+
+/// A hand face down: a fan, or rows of equal length whatever the suits are.
+void PlaceBacks(TableLayout& layout, int count, Seat seat) {
+  const QRectF& area = layout.hands[seat].area;
+  const QSizeF card = layout.cardSize;
+  const bool one = LiesInFan(seat);
+  const int inRow = one ? count : std::min(count, kBacksInRow);
+  Fan row = FanOf(layout, seat, static_cast<std::size_t>(inRow));
+  if (!one) {
+    row.step = std::min(row.step, kRowStepAcross * card.width());
+    const double block = card.width() + row.step * (inRow - 1);
+    row.left = seat == Seat::West ? area.left() : area.right() - block;
+  }
+  const int rows = std::max(kSuits, inRow == 0 ? 0 : (count + inRow - 1) / inRow);
+  const double down = StepFor(static_cast<std::size_t>(rows), area.height(), card.height(),
+                              kMostRowStep * card.height());
+  for (int back = 0; back < count; ++back) {
+    const QPointF corner(row.left + row.step * (back % inRow), area.top() + down * (back / inRow));
+    layout.backs.push_back({seat, QRectF(corner, card)});
+  }
+}
+
+int CardsIn(const PerSuit<Holding>& hand) {
+  int cards = 0;
+  for (const Suit suit : kAllSuits) cards += hand[suit].Count();
+  return cards;
 }
 
 }  // namespace
 
-TableLayout LayOutTable(QSizeF size, const HandTable& hands, HandDisplay display) {
-  const Measures measures = Measure(size);
+TableLayout LayOutTable(QSizeF size, const HandTable& hands, const TableNeeds& needs) {
+  const Measures measures = Measure(size, needs.presentation);
   TableLayout layout;
   layout.felt = QRectF(QPointF(), size);
   layout.cardSize = {measures.cardWidth, measures.cardHeight};
-  PlaceAreas(layout, measures, display);
-  if (display == HandDisplay::Text) return layout;
+  if (needs.presentation) layout.leastCaption = kPresentationText * size.height();
+  PlaceAreas(layout, measures, needs);
+  if (needs.display == HandDisplay::Text) return layout;
   for (const Seat seat : kAllSeats) {
-    const bool fan = seat == Seat::North || seat == Seat::South;
-    fan ? PlaceFan(layout, hands[seat], seat) : PlaceRows(layout, hands[seat], seat);
+    if (needs.hidden[seat]) {
+      PlaceBacks(layout, CardsIn(hands[seat]), seat);
+    } else {
+      LiesInFan(seat) ? PlaceFan(layout, hands[seat], seat) : PlaceRows(layout, hands[seat], seat);
+    }
   }
   return layout;
 }

@@ -24,10 +24,30 @@ inline constexpr double kFanStep = 0.6;
 
 enum class HandDisplay : std::uint8_t { Cards, Text };
 
+/// What is to find room on the table.
+struct TableNeeds {
+  HandDisplay display = HandDisplay::Cards;
+  PerSeat<bool> hidden{};     ///< these hands lie face down
+  bool play = false;          ///< a trick in the middle and a line of text below it
+  bool presentation = false;  ///< captions that can be read from the back of a room
+};
+
+/// Least size of the captions' text in a presentation, as a share of the table's height.
+inline constexpr double kPresentationText = 1.0 / 30;
+/// Size of a caption's text, as a share of the height of its room.
+inline constexpr double kCaptionText = 0.66;
+
 struct PlacedCard {
   Seat seat = Seat::North;
   Card card;
   QRectF rect;  ///< the whole card; cards that are painted later may lie over part of it
+  QRectF mark;  ///< within it, in sight and beside the index: room for a number of two digits
+};
+
+/// A card that lies face down.
+struct PlacedBack {
+  Seat seat = Seat::North;
+  QRectF rect;
 };
 
 struct PlacedHand {
@@ -39,16 +59,19 @@ struct PlacedHand {
 struct TableLayout {
   QRectF felt;
   QRectF centre;
+  QRectF line;  ///< below the centre: room for contract and tricks; empty outside of play
   QSizeF cardSize;
+  double leastCaption = 0;  ///< size of the captions' text, in pixels, that is not to be missed
   PerSeat<PlacedHand> hands;
   std::vector<PlacedCard> cards;  ///< in paint order; empty in the text display
+  std::vector<PlacedBack> backs;  ///< likewise; their places tell how many cards there are, no more
 };
 
-/// Lays out the table for a widget of `size`. Card size, areas and captions depend on the size
-/// alone, so that nothing jumps from board to board. Any number of cards may be in a hand: North
-/// and South close up the fan; West and East close up a row and break it into two where its cards
-/// could not be told apart.
-TableLayout LayOutTable(QSizeF size, const HandTable& hands, HandDisplay display);
+/// Lays out the table for a widget of `size`. Card size, areas and captions depend on the size and
+/// the needs alone, so that nothing jumps from board to board. Any number of cards may be in a
+/// hand: North and South close up the fan; West and East close up a row and break it into two where
+/// its cards could not be told apart.
+TableLayout LayOutTable(QSizeF size, const HandTable& hands, const TableNeeds& needs);
 
 /// The width with which a table of this height shows its largest cards without closing them up.
 double WidthOfTable(double height);

@@ -24,10 +24,10 @@ TableColours ColoursFor(const QPalette& palette);
 /// Stands out from the felt, and white text from it.
 inline const QColor kVulnerableRed(0xC8, 0x20, 0x2F);
 inline const QColor kDealerYellow(0xFF, 0xDD, 0x55);
-/// Behind the captions of the hand on play and of the player to call; black text can be read on
-/// both.
-inline const QColor kOnPlayYellow(0xFF, 0xE0, 0x55);
-inline const QColor kToCallCyan(0x2E, 0xE6, 0xE6);
+/// Behind the caption of the player to play or to call; cyan when the board has been played out.
+/// Black text can be read on both.
+inline const QColor kToActYellow(0xFF, 0xD9, 0x4A);
+inline const QColor kOverCyan(0x2E, 0xE6, 0xE6);
 
 /// `font` at the largest size in pixels, up to `mostPixels`, at which each of `texts` fits into
 /// `room`; never below 5 pixels.

@@ -63,7 +63,7 @@ void DrawWinnerFrame(QPainter& painter, const QRectF& card) {
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(QColor(0x4A, 0x3B, 0x00), weight + 2));
   painter.drawRoundedRect(card, radius, radius);
-  painter.setPen(QPen(kOnPlayYellow, weight));
+  painter.setPen(QPen(kToActYellow, weight));
   painter.drawRoundedRect(card, radius, radius);
 }
 
@@ -82,7 +82,8 @@ TrickLayout LayOutTrick(const QRectF& room, QSizeF card) {
   const double width = std::max(1.0, std::min({card.width(), room.width() / (1 + 2 * kLeastAcross),
                                                room.height() / (1 + 2 * kLeastDown) / aspect}));
   TrickLayout layout;
-  layout.cardSize = {std::floor(width), std::floor(width * aspect)};
+  layout.cardSize =
+      width < card.width() ? QSizeF(std::floor(width), std::floor(width * aspect)) : card;
   const double across = std::min((room.width() - width) / 2, kMostAcross * layout.cardSize.width());
   const double down =
       std::min((room.height() - width * aspect) / 2, kMostDown * layout.cardSize.height());
@@ -93,6 +94,12 @@ TrickLayout LayOutTrick(const QRectF& room, QSizeF card) {
     layout.cards[seat].moveCenter(room.center() + away[seat]);
   }
   PlaceSymbols(layout, room);
+  const double gap = 0.1 * width;
+  const QRectF& west = layout.cards[Seat::West];
+  const QRectF& symbol = layout.symbols[Seat::West];
+  layout.corner = QRectF(room.topLeft(), QPointF(layout.cards[Seat::North].left() - gap,
+                                                 symbol.isEmpty() ? west.top() : symbol.top()))
+                      .adjusted(gap / 2, gap / 2, 0, 0);
   return layout;
 }
 

@@ -23,6 +23,7 @@ struct TrickLayout {
   PerSeat<QRectF> cards;  ///< each on its seat's side
   /// Beside the cards, clear of them all; empty where there is no room.
   PerSeat<QRectF> symbols;
+  QRectF corner;  ///< free of them all, beside North's card and above West's
 };
 inline constexpr std::array kTrickOrder{Seat::West, Seat::North, Seat::South, Seat::East};
 

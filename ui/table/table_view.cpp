@@ -1,72 +1,124 @@
 #include "ui/table/table_view.h"
 
-#include <algorithm>
-#include <cmath>
+#include <utility>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCursor>
-#include <QLinearGradient>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 
-#include "ui/table/best_card_labels.h"
+#include "generate/editing.h"
+#include "ui/style/qt_text.h"
 #include "ui/table/descriptions.h"
 #include "ui/table/edit_painter.h"
+#include "ui/table/empty_table.h"
 #include "ui/table/table_centre.h"
-#include "ui/table/table_trick.h"
-#include "ui/table/text_hands.h"
-#include "ui/table/tricks_won.h"
+#include "ui/table/table_news.h"
 
 namespace tricklet::ui {
 namespace {
 
-constexpr double kFeltRadius = 12;
-/// How far a legal card stands out, of the gap between North's caption and cards; below 1, so that
-/// it stays clear of what lies above it.
-constexpr double kRaise = 0.85;
+constexpr double kEmptyText = 1.0 / 34;  // of the table's height
+constexpr int kLeastEmptyText = 12;      // pixels
 
-double RaiseOf(const TableLayout& layout) {
-  const PlacedHand& north = layout.hands[Seat::North];
-  return std::round(kRaise * (north.area.top() - north.caption.bottom()));
+void ReadAloud(QWidget* widget, const QString& news) {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+  QAccessibleAnnouncementEvent event(widget, news);
+#else
+  Q_UNUSED(news)  // the description begins with it
+  QAccessibleEvent event(widget, QAccessible::Alert);
+#endif
+  QAccessible::updateAccessibility(&event);
 }
 
 }  // namespace
 
-TableView::TableView(QWidget* parent) : QWidget(parent) {
+TableView::TableView(QWidget* parent)
+    : QWidget(parent), contract_(this), empty_(new EmptyTable(this)) {
   setObjectName(QStringLiteral("fraTable"));
   setAccessibleName(tr("Table"));
-  setAccessibleDescription(DescribeTable(board_));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  setMouseTracking(true);
+  connect(empty_, &EmptyTable::OpenAsked, this, &TableView::OpenAsked);
+  connect(empty_, &EmptyTable::GenerateAsked, this, &TableView::GenerateAsked);
+  Describe({});
 }
 
 void TableView::Show(const Board& board, const Settings& settings, const CardPlay* play,
-                     std::optional<Seat> toCall) {
-  std::optional<PlaySnapshot> shown = SnapshotOf(play);
-  if (shown != play_) keys_.Forget();
-  board_ = board;
-  settings_ = settings;
-  play_ = std::move(shown);
-  toCall_ = toCall;
+                     std::optional<Seat> toCall, const PerSeat<std::string>& names) {
+  ShowScene({board, settings, SnapshotOf(play), toCall, names, scene_.hidden, scene_.presentation});
+}
+
+void TableView::ShowScene(TableScene scene) {
+  if (scene.play != scene_.play) keys_.Forget();
   edit_.reset();
-  Describe();
+  ShowEmptyTable(false);
+  const QString news = NewsOf(std::exchange(scene_, std::move(scene)), scene_);
+  contract_.Show(scene_);
+  Describe(news);
 }
 
 void TableView::ShowEdit(const Board& board, const Settings& settings) {
   if (!edit_) Show(board, settings);
   if (!edit_) edit_.emplace();
-  board_ = board;
-  settings_ = settings;
+  scene_.board = board;
+  scene_.settings = settings;
   edit_->Show(board.hands, settings.editMethod);
-  Describe();
+  contract_.Hide();
+  Describe({});
 }
 
-void TableView::Describe() {
-  setAccessibleDescription(edit_   ? DescribeEdit(board_, *edit_)
-                           : play_ ? DescribePlay(board_, *play_)
-                                   : DescribeTable(board_, toCall_));
-  setMouseTracking(play_ || edit_);
+void TableView::ShowEmpty() {
+  Show(Board(), scene_.settings);
+  contract_.Hide();
+  ShowEmptyTable(true);
+  Describe({});
+}
+
+void TableView::ShowEmptyTable(bool shown) {
+  isEmpty_ = shown;
+  const bool focus = empty_->isAncestorOf(QApplication::focusWidget());
+  empty_->setVisible(shown);
+  if (!shown && focus) setFocus();
+}
+
+void TableView::SetHidden(const PerSeat<bool>& hidden) {
+  if (hidden == scene_.hidden) return;
+  TableScene scene = scene_;
+  scene.hidden = hidden;
+  const QString news = NewsOf(std::exchange(scene_, std::move(scene)), scene_);
+  Describe(edit_ || isEmpty_ ? QString() : news);
+}
+
+void TableView::SetPresentation(bool on) {
+  scene_.presentation = on;
+  PlaceChildren();
+  update();
+}
+
+/// Brings what hangs on the state up to date, and tells a screen reader what is new.
+void TableView::Describe(const QString& news) {
+  const QString words = isEmpty_ ? tr("The library is empty.")
+                        : edit_  ? DescribeEdit(scene_.board, *edit_)
+                                 : DescribeScene(scene_);
+  setAccessibleDescription(words.startsWith(news) ? words : news + u' ' + words);
+  if (!news.isEmpty() && isVisible()) ReadAloud(this, news);
+  PlaceChildren();
   ShowCursor(mapFromGlobal(QCursor::pos()));
   update();
+}
+
+void TableView::PlaceChildren() {
+  if (isEmpty_) {
+    empty_->setGeometry(rect());
+    empty_->SetLook(std::max(kLeastEmptyText, static_cast<int>(kEmptyText * height())),
+                    ColoursFor(palette()).text);
+  } else if (!edit_) {
+    contract_.Place(scene_, Layout(), ColoursFor(palette()));
+  }
 }
 
 void TableView::ShowBestCards(std::vector<CardScore> best) {
@@ -75,38 +127,12 @@ void TableView::ShowBestCards(std::vector<CardScore> best) {
 }
 
 TableLayout TableView::Layout() const {
-  if (edit_) return LayOutEdit(size(), board_.hands).table;
-  const HandDisplay display = settings_.cardsFaces ? HandDisplay::Cards : HandDisplay::Text;
-  TableLayout layout = LayOutTable(size(), board_.hands, display);
-  if (play_ && display == HandDisplay::Cards) PlaceCardsLeft(layout, *play_);
-  if (play_ && display == HandDisplay::Text) PlaceRanksLeft(layout, *play_);
-  return layout;
+  if (edit_) return LayOutEdit(size(), scene_.board.hands).table;
+  return LayOutScene(scene_, size(), logicalDpiY());
 }
 
-/// Every card keeps the place that it had in the full hand: nothing moves under the mouse, and a
-/// card that is taken back returns to where it was.
-void TableView::PlaceCardsLeft(TableLayout& layout, const PlaySnapshot& play) const {
-  std::erase_if(layout.cards, [&](const PlacedCard& placed) {
-    return !play.now.cardsLeft[placed.seat][placed.card.suit].Has(placed.card.rank);
-  });
-  if (settings_.showBestCards) return;  // the labels stand in that room, on legal cards only
-  const double raise = RaiseOf(layout);
-  for (PlacedCard& placed : layout.cards) {
-    if (play.IsLegal(placed.card)) placed.rect.translate(0, -raise);
-  }
-}
-
-void TableView::PlaceRanksLeft(TableLayout& layout, const PlaySnapshot& play) const {
-  const TextHandMeasures measures =
-      MeasureTextHands(layout, board_.hands, settings_, logicalDpiY());
-  for (const Seat seat : kAllSeats) {
-    const PerSuit<Holding>& hand = board_.hands[seat];
-    const QRectF panel = TextHandPanel(layout, measures, hand, seat);
-    for (const PlacedCard& rank : PlaceRanks(panel, measures, hand, seat)) {
-      const bool left = play.now.cardsLeft[seat][rank.card.suit].Has(rank.card.rank);
-      if (left) layout.cards.push_back(rank);
-    }
-  }
+QList<QWidget*> TableView::TabOrder() {
+  return QList<QWidget*>{this} + empty_->TabOrder();
 }
 
 QSize TableView::minimumSizeHint() const {
@@ -119,126 +145,59 @@ QSize TableView::sizeHint() const {
 void TableView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  const TableLayout layout = Layout();
   const TableColours colours = ColoursFor(palette());
-  DrawFelt(painter, layout, colours);
+  DrawFelt(painter, rect(), colours);
+  if (isEmpty_) return;
   if (edit_) {
     DrawEditing(painter, *edit_, colours);
     return;
   }
-  const PerSeat<Caption> captions = Captions();
-  const CaptionLayout pills = LayOutCaptions(layout, captions, settings_, logicalDpiY());
-  if (play_)
-    DrawTricksWon(painter, LayOutTricksWon(layout, *play_), *play_, backs_, colours, font());
-  DrawCaptions(painter, pills, captions, settings_, colours, palette());
-  DrawMiddle(painter, layout, colours);
-  if (settings_.cardsFaces) {
-    DrawCards(painter, layout);
-  } else {
-    DrawText(painter, layout);
-  }
-  if (play_) DrawBestCardLabels(painter, layout, best_, font());
+  const auto halfTyped = scene_.play ? keys_.HalfTyped() : std::nullopt;
+  painter_.Draw(painter, scene_, Layout(), SceneCaptions(scene_, halfTyped), best_,
+                {palette(), font(), static_cast<double>(logicalDpiY())});
+  if (scene_.play) contract_.DrawDots(painter, colours);
 }
 
 void TableView::DrawEditing(QPainter& painter, const TableEdit& edit, const TableColours& colours) {
-  const EditLayout layout = LayOutEdit(size(), board_.hands);
-  const EditCaptionTexts captions = MakeEditCaptions(board_, settings_, edit);
-  const CaptionLayout pills =
-      LayOutCaptions(layout.table, captions.hands, settings_, logicalDpiY());
-  DrawCaptions(painter, pills, captions.hands, settings_, colours, palette());
+  const Settings& settings = scene_.settings;
+  const EditLayout layout = LayOutEdit(size(), scene_.board.hands);
+  const EditCaptionTexts captions = MakeEditCaptions(scene_.board, settings, edit);
+  const CaptionLayout pills = LayOutCaptions(layout.table, captions.hands, settings, logicalDpiY());
+  DrawCaptions(painter, pills, captions.hands, settings, colours, palette());
   DrawCaption(painter, pills, PillFor(pills, captions.pack, layout.packCaption), captions.pack,
-              settings_, colours, palette());
-  DrawCentre(painter, layout.table.centre, board_, colours, font());
+              settings, colours, palette());
+  DrawCentre(painter, layout.table.centre, scene_.board, colours, font());
   DrawRooms(painter, layout, edit, colours);
-  CardLook look{layout.table.cardSize, painter.device()->devicePixelRatioF(), settings_.cardDesign,
-                settings_.suitColour};
+  CardLook look{layout.table.cardSize, painter.device()->devicePixelRatioF(), settings.cardDesign,
+                settings.suitColour};
   cards_.SetLook(look);
   look.size = layout.packCardSize;
   packCards_.SetLook(look);
   DrawEditedCards(painter, layout, edit, cards_, packCards_);
 }
 
-PerSeat<Caption> TableView::Captions() const {
-  const auto onPlay = play_ ? play_->now.onPlay : std::nullopt;
-  const PerSeat<QString> texts = play_     ? PlayCaptions(board_, settings_, onPlay)
-                                 : toCall_ ? CallCaptions(board_, settings_, *toCall_)
-                                           : TableCaptions(board_, settings_);
-  PerSeat<Caption> captions;
-  for (const Seat seat : kAllSeats) {
-    captions[seat].text = texts[seat];
-    if (play_ && play_->PlayedOut()) captions[seat].mark = CaptionMark::Over;
-  }
-  if (onPlay) {
-    captions[*onPlay].mark = CaptionMark::OnPlay;
-    captions[*onPlay].halfTyped = keys_.HalfTyped();
-  } else if (!play_ && toCall_) {
-    captions[*toCall_].mark = CaptionMark::ToCall;
-  }
-  return captions;
+void TableView::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  PlaceChildren();
 }
 
-void TableView::DrawFelt(QPainter& painter, const TableLayout& layout,
-                         const TableColours& colours) const {
-  QLinearGradient felt(layout.felt.topLeft(), layout.felt.bottomLeft());
-  felt.setColorAt(0, colours.feltTop);
-  felt.setColorAt(1, colours.feltBottom);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(felt);
-  painter.drawRoundedRect(layout.felt, kFeltRadius, kFeltRadius);
-}
-
-void TableView::DrawMiddle(QPainter& painter, const TableLayout& layout,
-                           const TableColours& colours) {
-  if (!play_) {
-    DrawCentre(painter, layout.centre, board_, colours, font());
-    return;
-  }
-  DrawCentreInPlay(painter, layout.centre, board_, colours, font());
-  const QRectF room = TrickRoom(layout.centre);
-  DrawTrick(painter, LayOutTrick(room, layout.cardSize), *play_, trickCards_, settings_, colours);
-  // The last trick lies there for a while before the result takes its place.
-  if (play_->finished && play_->now.trickGathered) {
-    DrawScore(painter, room, play_->score, colours, font());
+void TableView::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) {
+    PlaceChildren();
   }
 }
 
-void TableView::DrawCards(QPainter& painter, const TableLayout& layout) {
-  cards_.SetLook({layout.cardSize, painter.device()->devicePixelRatioF(), settings_.cardDesign,
-                  settings_.suitColour});
-  for (const PlacedCard& placed : layout.cards) {
-    const bool onPlay = play_ && play_->now.onPlay == placed.seat;
-    if (onPlay && !play_->IsLegal(placed.card)) {
-      cards_.DrawDimmed(painter, placed.rect.topLeft(), placed.card);
-    } else {
-      cards_.Draw(painter, placed.rect.topLeft(), placed.card);
-    }
-  }
-}
-
-void TableView::DrawText(QPainter& painter, const TableLayout& layout) const {
-  if (!HasCards(board_.hands)) return;
-  const TextHandMeasures measures =
-      MeasureTextHands(layout, board_.hands, settings_, logicalDpiY());
-  for (const Seat seat : kAllSeats) {
-    const PerSuit<Holding>& hand = board_.hands[seat];
-    const QRectF panel = TextHandPanel(layout, measures, hand, seat);
-    if (play_) {
-      DrawTextHandInPlay(painter, panel, measures, hand, seat, *play_, settings_, palette());
-    } else {
-      DrawTextHand(painter, panel, measures, hand, settings_, palette());
-    }
-  }
-}
-
-// Mouse and keys. Outside of play and editing all of them are left to others.
+// Mouse and keys. Outside of play and editing the table takes only clicks on captions.
 
 bool TableView::IsOurKey(const QKeyEvent& event) const {
   if (edit_) return TableEdit(*edit_).Key(event.key(), event.modifiers()).ours;
-  if (!play_) return false;
+  if (!scene_.play) return false;
+  const PlaySnapshot& play = *scene_.play;
   if (event.key() == Qt::Key_Space && event.modifiers() == Qt::NoModifier) {
-    return play_->now.onPlay.has_value();
+    return play.now.onPlay.has_value();
   }
-  return keys_.WouldTake(event.key(), event.modifiers(), play_->HandOnPlay(), play_->legal);
+  return keys_.WouldTake(event.key(), event.modifiers(), play.HandOnPlay(), play.legal);
 }
 
 bool TableView::event(QEvent* event) {
@@ -247,12 +206,13 @@ bool TableView::event(QEvent* event) {
     event->accept();
     return true;
   }
+  if (event->type() == QEvent::ToolTip && ShowTip(static_cast<QHelpEvent&>(*event))) return true;
   return QWidget::event(event);
 }
 
 void TableView::keyPressEvent(QKeyEvent* event) {
   if (edit_ && !event->isAutoRepeat() && EditKey(*edit_, *event)) return;
-  if (!play_ || !IsOurKey(*event)) {
+  if (!scene_.play || !IsOurKey(*event)) {
     QWidget::keyPressEvent(event);
     return;
   }
@@ -261,23 +221,52 @@ void TableView::keyPressEvent(QKeyEvent* event) {
     keys_.Forget();
     emit OnlyCardAsked();
   } else {
+    const PlaySnapshot& play = *scene_.play;
     const auto answer =
-        keys_.Press(event->key(), event->modifiers(), play_->HandOnPlay(), play_->legal);
+        keys_.Press(event->key(), event->modifiers(), play.HandOnPlay(), play.legal);
     if (answer.card) emit CardAsked(*answer.card);
   }
   update();
 }
 
+std::optional<Seat> TableView::CaptionAt(QPointF point) const {
+  if (edit_ || isEmpty_) return std::nullopt;
+  const CaptionLayout pills =
+      LayOutCaptions(Layout(), SceneCaptions(scene_, {}), scene_.settings, logicalDpiY());
+  for (const Seat seat : kAllSeats) {
+    if (pills.pills[seat].contains(point)) return seat;
+  }
+  return std::nullopt;
+}
+
+bool TableView::ShowTip(const QHelpEvent& event) {
+  const auto seat = CaptionAt(event.pos());
+  if (!seat) return false;
+  QToolTip::showText(event.globalPos(),
+                     (scene_.hidden[*seat] ? tr("Click to show the hand of %1")
+                                           : tr("Click to hide the hand of %1"))
+                         .arg(ToQt(SeatName[*seat])),
+                     this);
+  return true;
+}
+
 void TableView::mousePressEvent(QMouseEvent* event) {
   if (edit_ && event->button() == Qt::LeftButton) {
-    Ask(edit_->Press(LayOutEdit(size(), board_.hands), event->position()));
-    return;
-  }
-  if (!play_ || event->button() != Qt::LeftButton) {
+    Ask(edit_->Press(LayOutEdit(size(), scene_.board.hands), event->position()));
+  } else if (event->button() == Qt::LeftButton && !isEmpty_) {
+    Press(event->position());
+  } else {
     QWidget::mousePressEvent(event);
+  }
+}
+
+void TableView::Press(QPointF at) {
+  if (const auto seat = CaptionAt(at)) {
+    emit HideAsked(*seat);
     return;
   }
-  if (const auto hit = CardAt(Layout(), event->position())) {
+  if (!scene_.play) return;
+  if (const auto hit = CardAt(Layout(), at)) {
     emit CardAsked(hit->card);
   } else {
     emit TrickAsked();
@@ -285,10 +274,10 @@ void TableView::mousePressEvent(QMouseEvent* event) {
 }
 
 void TableView::mouseDoubleClickEvent(QMouseEvent* event) {
-  // The second click would meet the card below the one that was just played.
+  // The second click would meet the card that has taken the place of the one just played.
   if (edit_) {
     mousePressEvent(event);
-  } else if (!play_) {
+  } else if (!scene_.play) {
     QWidget::mouseDoubleClickEvent(event);
   }
 }
@@ -296,7 +285,7 @@ void TableView::mouseDoubleClickEvent(QMouseEvent* event) {
 void TableView::mouseMoveEvent(QMouseEvent* event) {
   QWidget::mouseMoveEvent(event);
   if (edit_ && (event->buttons() & Qt::LeftButton) != 0) {
-    edit_->Drag(LayOutEdit(size(), board_.hands), event->position(),
+    edit_->Drag(LayOutEdit(size(), scene_.board.hands), event->position(),
                 QApplication::startDragDistance());
     update();
   }
@@ -304,17 +293,27 @@ void TableView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void TableView::mouseReleaseEvent(QMouseEvent* event) {
-  if (edit_ && event->button() == Qt::LeftButton) {
-    Ask(edit_->Release(LayOutEdit(size(), board_.hands), event->position()));
-  } else {
+  if (!edit_ || event->button() != Qt::LeftButton) {
     QWidget::mouseReleaseEvent(event);
+    return;
+  }
+  const bool held = edit_->Held().has_value();
+  const EditLayout layout = LayOutEdit(size(), scene_.board.hands);
+  Ask(edit_->Release(layout, event->position()));
+  if (held && !FrameAt(layout, event->position())) {
+    emit Refused(tr("A card is dropped on a hand or on the pack"));
   }
 }
 
 /// Shows what has become of the edit, and passes on what it asks for.
 void TableView::Ask(const std::optional<CardMove>& move) {
-  Describe();
-  if (move) emit MoveAsked(move->card, SeatOf(move->to));
+  Describe({});
+  if (!move) return;
+  const auto to = SeatOf(move->to);
+  Board board = scene_.board;
+  const bool room = MoveCard(board, move->card, to);
+  emit MoveAsked(move->card, to);
+  if (!room && to) emit Refused(tr("%1 has 13 cards already").arg(ToQt(SeatName[*to])));
 }
 
 bool TableView::EditKey(TableEdit& edit, const QKeyEvent& event) {
@@ -324,8 +323,9 @@ bool TableView::EditKey(TableEdit& edit, const QKeyEvent& event) {
 }
 
 void TableView::ShowEditCursor(const TableEdit& edit, QPointF mouse) {
-  const bool card = EditedCardAt(LayOutEdit(size(), board_.hands), board_.hands, mouse).has_value();
-  const EditMethod method = settings_.editMethod;
+  const HandTable& hands = scene_.board.hands;
+  const bool card = EditedCardAt(LayOutEdit(size(), hands), hands, mouse).has_value();
+  const EditMethod method = scene_.settings.editMethod;
   if (edit.Held()) {
     setCursor(Qt::ClosedHandCursor);
   } else if (card && method == EditMethod::Dragging) {
@@ -342,12 +342,12 @@ void TableView::ShowCursor(QPointF mouse) {
     ShowEditCursor(*edit_, mouse);
     return;
   }
-  bool legal = false;
-  if (play_) {
+  bool points = CaptionAt(mouse).has_value();
+  if (!points && scene_.play) {
     const auto hit = CardAt(Layout(), mouse);
-    legal = hit && play_->IsLegal(hit->card);
+    points = hit && scene_.play->IsLegal(hit->card);
   }
-  legal ? setCursor(Qt::PointingHandCursor) : unsetCursor();
+  points ? setCursor(Qt::PointingHandCursor) : unsetCursor();
 }
 
 }  // namespace tricklet::ui

@@ -2,15 +2,21 @@
 
 #include <algorithm>
 
+#include <QCoreApplication>
 #include <QFontMetricsF>
 
 #include "ui/cards/card_glyphs.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/theme.h"
 #include "ui/table/descriptions.h"
+#include "ui/table/table_style.h"
 
 namespace tricklet::ui {
 namespace {
+
+struct Words {
+  Q_DECLARE_TR_FUNCTIONS(TableView)
+};
 
 constexpr QSizeF kReferenceSize(760, 680);
 constexpr double kPointsPerInch = 72;
@@ -18,6 +24,10 @@ constexpr double kPointsPerInch = 72;
 constexpr double kPadding = 0.45;
 /// A symbol is as high as a capital of its size.
 constexpr double kSymbolShare = 0.75;
+/// Of a line's height.
+constexpr QSizeF kMark(0.62, 0.5);
+/// How much of the ink a card that cannot be played keeps: still 4.5:1 on its background.
+constexpr double kDimInk = 0.66;
 
 TextHandMeasures MeasuresAt(const Settings& settings, double pixelsPerPoint) {
   TextHandMeasures measures;
@@ -56,13 +66,37 @@ QRectF LineOf(const QRectF& panel, const TextHandMeasures& measures, Suit suit) 
           measures.lineHeight};
 }
 
-/// The panel itself with the column of symbols.
-void DrawPanel(QPainter& painter, const QRectF& panel, const TextHandMeasures& measures,
-               const Settings& settings, const QPalette& palette) {
+/// A hand of this size, beside the caption of its seat.
+QRectF PanelOf(const QRectF& area, QSizeF size, Seat seat) {
+  QRectF panel(area.topLeft(), size);
+  if (seat == Seat::North || seat == Seat::South)
+    panel.moveLeft(area.center().x() - panel.width() / 2);
+  if (seat == Seat::South) panel.moveBottom(area.bottom());
+  if (seat == Seat::East) panel.moveRight(area.right());
+  return panel.intersected(area);
+}
+
+QColor Dimmed(const QColor& ink, const QColor& background) {
+  const auto mix = [](float over, float below) {
+    return static_cast<float>(kDimInk) * over + static_cast<float>(1 - kDimInk) * below;
+  };
+  return QColor::fromRgbF(mix(ink.redF(), background.redF()),
+                          mix(ink.greenF(), background.greenF()),
+                          mix(ink.blueF(), background.blueF()));
+}
+
+void DrawPlate(QPainter& painter, const QRectF& panel, const TextHandMeasures& measures,
+               const QPalette& palette) {
   const double radius = 0.3 * measures.lineHeight;
   painter.setPen(Qt::NoPen);
   painter.setBrush(palette.color(QPalette::Base));
   painter.drawRoundedRect(panel, radius, radius);
+}
+
+/// The panel itself with the column of symbols.
+void DrawPanel(QPainter& painter, const QRectF& panel, const TextHandMeasures& measures,
+               const Settings& settings, const QPalette& palette) {
+  DrawPlate(painter, panel, measures, palette);
   const double middle = panel.left() + Padding(measures) + measures.symbolHeight / 2;
   for (const Suit suit : kAllSuits) {
     painter.setBrush(SuitColourOnWindow(suit, settings.suitColour, palette));
@@ -77,36 +111,36 @@ QSizeF TextHandSize(const TextHandMeasures& measures, const PerSuit<Holding>& ha
   const QFontMetricsF metrics(measures.font);
   double widest = 0;
   for (const Suit suit : kAllSuits) {
-    widest = std::max(widest, metrics.horizontalAdvance(HoldingLine(hand[suit])));
+    widest = std::max(widest, metrics.horizontalAdvance(HoldingLine(hand[suit])) +
+                                  hand[suit].Count() * measures.markWidth);
   }
   return {measures.symbolWidth + widest + 2 * Padding(measures),
           kSuits * measures.lineHeight + Padding(measures)};
 }
 
 TextHandMeasures MeasureTextHands(const TableLayout& layout, const HandTable& hands,
-                                  const Settings& settings, double dotsPerInch) {
+                                  const Settings& settings, double dotsPerInch, bool marks) {
   const double growth = std::max(1.0, std::min(layout.felt.width() / kReferenceSize.width(),
                                                layout.felt.height() / kReferenceSize.height()));
   double scale = dotsPerInch / kPointsPerInch * growth;
-  TextHandMeasures measures = MeasuresAt(settings, scale);
+  const auto measure = [&] {
+    TextHandMeasures measures = MeasuresAt(settings, scale);
+    if (marks) measures.markWidth = kMark.width() * measures.lineHeight;
+    return measures;
+  };
+  TextHandMeasures measures = measure();
   constexpr double kShrink = 0.94;
   constexpr int kLeastPixels = 4;
   while (!Fits(layout, measures, hands) && measures.font.pixelSize() > kLeastPixels) {
     scale *= kShrink;
-    measures = MeasuresAt(settings, scale);
+    measures = measure();
   }
   return measures;
 }
 
 QRectF TextHandPanel(const TableLayout& layout, const TextHandMeasures& measures,
                      const PerSuit<Holding>& hand, Seat seat) {
-  const QRectF& area = layout.hands[seat].area;
-  QRectF panel(area.topLeft(), TextHandSize(measures, hand));
-  if (seat == Seat::North || seat == Seat::South)
-    panel.moveLeft(area.center().x() - panel.width() / 2);
-  if (seat == Seat::South) panel.moveBottom(area.bottom());
-  if (seat == Seat::East) panel.moveRight(area.right());
-  return panel.intersected(area);
+  return PanelOf(layout.hands[seat].area, TextHandSize(measures, hand), seat);
 }
 
 std::vector<PlacedCard> PlaceRanks(const QRectF& panel, const TextHandMeasures& measures,
@@ -122,9 +156,11 @@ std::vector<PlacedCard> PlaceRanks(const QRectF& panel, const TextHandMeasures& 
       const auto rank = static_cast<Rank>(index);
       if (!hand[suit].Has(rank)) continue;
       const double width = metrics.horizontalAdvance(ToQt(RankText[rank]));
+      const double across = width + blank + measures.markWidth;
+      const QRectF mark(x + width, y, measures.markWidth, kMark.height() * measures.lineHeight);
       ranks.push_back(
-          {seat, {suit, rank}, QRectF(x - blank / 2, y, width + blank, measures.lineHeight)});
-      x += width + blank;
+          {seat, {suit, rank}, QRectF(x - blank / 2, y, across, measures.lineHeight), mark});
+      x += across;
     }
     y += measures.lineHeight;
   }
@@ -143,8 +179,8 @@ void DrawTextHand(QPainter& painter, const QRectF& panel, const TextHandMeasures
 }
 
 void DrawTextHandInPlay(QPainter& painter, const QRectF& panel, const TextHandMeasures& measures,
-                        const PerSuit<Holding>& hand, Seat seat, const PlaySnapshot& play,
-                        const Settings& settings, const QPalette& palette) {
+                        Seat seat, const PlaySnapshot& play, const Settings& settings,
+                        const QPalette& palette) {
   DrawPanel(painter, panel, measures, settings, palette);
   const bool onPlay = play.now.onPlay == seat;
   const PerSuit<Holding>& left = play.now.cardsLeft[seat];
@@ -152,14 +188,13 @@ void DrawTextHandInPlay(QPainter& painter, const QRectF& panel, const TextHandMe
   legalFont.setBold(true);
   legalFont.setUnderline(true);
   const QColor ink = InkOf(settings, palette);
-  QColor dim = ink;
-  dim.setAlphaF(0.5F);
-  for (const PlacedCard& rank : PlaceRanks(panel, measures, hand, seat)) {
-    if (!left[rank.card.suit].Has(rank.card.rank)) continue;
+  const QColor dim = Dimmed(ink, palette.color(QPalette::Base));
+  for (const PlacedCard& rank : PlaceRanks(panel, measures, left, seat)) {
     const bool legal = onPlay && play.IsLegal(rank.card);
     painter.setFont(legal ? legalFont : measures.font);
     painter.setPen(onPlay && !legal ? dim : ink);
-    painter.drawText(rank.rect, Qt::AlignCenter, ToQt(RankText[rank.card.rank]));
+    painter.drawText(rank.rect.adjusted(0, 0, -rank.mark.width(), 0), Qt::AlignCenter,
+                     ToQt(RankText[rank.card.rank]));
   }
   painter.setFont(measures.font);
   painter.setPen(ink);
@@ -168,6 +203,21 @@ void DrawTextHandInPlay(QPainter& painter, const QRectF& panel, const TextHandMe
     painter.drawText(LineOf(panel, measures, suit), Qt::AlignLeft | Qt::AlignVCenter,
                      HoldingLine({}));
   }
+}
+
+void DrawHiddenTextHand(QPainter& painter, const QRectF& area, const TextHandMeasures& measures,
+                        int cards, Seat seat, const QPalette& palette) {
+  const QString line =
+      cards == 1 ? Words::tr("1 card face down") : Words::tr("%1 cards face down").arg(cards);
+  const QSizeF most(area.width() - 2 * Padding(measures), measures.lineHeight);
+  const QFont font = Fitted(measures.font, {line}, most, 0.6 * measures.font.pixelSize());
+  const QSizeF size(QFontMetricsF(font).horizontalAdvance(line) + 2 * Padding(measures),
+                    measures.lineHeight + Padding(measures));
+  const QRectF panel = PanelOf(area, size, seat);
+  DrawPlate(painter, panel, measures, palette);
+  painter.setFont(font);
+  painter.setPen(Dimmed(palette.color(QPalette::Text), palette.color(QPalette::Base)));
+  painter.drawText(panel, Qt::AlignCenter, line);
 }
 
 }  // namespace tricklet::ui

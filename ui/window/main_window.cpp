@@ -181,6 +181,9 @@ void MainWindow::ConnectEdit() {
   connect(commands_, &Commands::SwapOpened, this, &MainWindow::PlaceBesideHands);
   connect(commands_, &Commands::HandsChanged, this, &MainWindow::Display);
   connect(table_, &TableView::MoveAsked, commands_, &Commands::MoveCard);
+  connect(table_, &TableView::Refused, status_, &QLabel::setText);
+  connect(table_, &TableView::OpenAsked, commands_, &Commands::Import);
+  connect(table_, &TableView::GenerateAsked, commands_, &Commands::Generate);
 }
 
 void MainWindow::ConnectPlay() {
@@ -192,6 +195,11 @@ void MainWindow::ConnectPlay() {
   connect(table_, &TableView::TrickAsked, commands_, &Commands::QuitTrick);
   connect(tricks_, &TrickPane::StopAsked, this,
           [this] { results_->Record() != nullptr ? results_->Leave() : commands_->PlayOrStop(); });
+  connect(table_, &TableView::HideAsked, this, [this](Seat seat) {
+    PerSeat<bool> hidden = table_->Hidden();
+    hidden[seat] = !hidden[seat];
+    table_->SetHidden(hidden);
+  });
 }
 
 /// While a play record is looked at, cards that are clicked or typed are meant for it.
@@ -206,9 +214,9 @@ void MainWindow::ConnectResults() {
 }
 
 void MainWindow::SetTabOrder() {
-  const QList<QWidget*> order =
-      library_->TabOrder() + tricks_->TabOrder() + editPane_->TabOrder() + QList<QWidget*>{table_} +
-      auction_->TabOrder() + contract_->TabOrder() + makeable_->TabOrder() + traveller_->TabOrder();
+  const QList<QWidget*> order = library_->TabOrder() + tricks_->TabOrder() + editPane_->TabOrder() +
+                                table_->TabOrder() + auction_->TabOrder() + contract_->TabOrder() +
+                                makeable_->TabOrder() + traveller_->TabOrder();
   for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order.at(i - 1), order.at(i));
 }
 
@@ -323,12 +331,17 @@ void MainWindow::DisplayTable() {
     DisplayBidding(*entry);
     return;
   }
+  if (session_.library.boardCount == 0 && !HasCards(session_.board.hands)) {
+    table_->ShowEmpty();
+    return;
+  }
   ShowPlayOf(session_.board, play_->Play());
 }
 
 /// The hands of `board` as `play` has left them, and what each card leads to.
-void MainWindow::ShowPlayOf(const Board& board, const CardPlay& play) {
-  table_->Show(board, session_.settings, play.PlayMode() ? &play : nullptr);
+void MainWindow::ShowPlayOf(const Board& board, const CardPlay& play,
+                            const PerSeat<std::string>& names) {
+  table_->Show(board, session_.settings, play.PlayMode() ? &play : nullptr, std::nullopt, names);
   best_->Find(play, board);
   table_->ShowBestCards(best_->Tricks());
 }
@@ -345,7 +358,8 @@ void MainWindow::DisplayBidding(const AuctionEntry& entry) {
 
 void MainWindow::DisplayRecord(const Replay& record) {
   contract_->ShowRecord(record, session_.settings);
-  ShowPlayOf(record.Record().board, record.Play());
+  const auto row = static_cast<std::size_t>(results_->Row());
+  ShowPlayOf(record.Record().board, record.Play(), results_->OfBoard().rows.at(row).players);
 }
 
 void MainWindow::BeginEditing() {
@@ -432,6 +446,7 @@ void MainWindow::ShowTricks() {
 void MainWindow::SetPresentation(bool on) {
   if (state_.presentation == on) return;
   state_.presentation = on;
+  table_->SetPresentation(on);
   Display();
   if (on) {
     stateBefore_ = windowState();

@@ -96,7 +96,7 @@ class MainWindow : public QMainWindow {
   void DisplayTable();
   void DisplayBidding(const AuctionEntry& entry);
   void DisplayRecord(const Replay& record);
-  void ShowPlayOf(const Board& board, const CardPlay& play);
+  void ShowPlayOf(const Board& board, const CardPlay& play, const PerSeat<std::string>& names = {});
   void BeginEditing();
   void PlaceBesideAuction(QWidget* dialog);
   void PlaceBesideHands(QWidget* dialog);

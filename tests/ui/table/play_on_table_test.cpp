@@ -88,23 +88,50 @@ TEST_F(PlayOnTableTest, AsksForEveryCardLeftWhereItIsShown) {
   EXPECT_FALSE(asked_);
 }
 
-TEST_F(PlayOnTableTest, KeepsCardsInTheirPlacesAndRaisesAndPointsAtTheLegalOnes) {
-  const TableLayout full = LayOutTable(view_.size(), board_.hands, HandDisplay::Cards);
+TEST_F(PlayOnTableTest, RaisesAndPointsAtTheLegalCards) {
+  const double row = view_.Layout().hands[Seat::North].area.top();
   Play("C8");
   const TableLayout now = view_.Layout();
-  EXPECT_EQ(now.cardSize, full.cardSize);
   for (const PlacedCard& placed : now.cards) {
-    const auto before = std::find_if(full.cards.begin(), full.cards.end(),
-                                     [&](const PlacedCard& c) { return c.card == placed.card; });
     const bool legal = placed.seat == Seat::North && placed.card.suit == Suit::Clubs;
-    EXPECT_EQ(placed.rect.left(), before->rect.left());
-    EXPECT_EQ(placed.rect.top() < before->rect.top(), legal) << placed.card.Index();
+    if (placed.seat == Seat::North) {
+      EXPECT_EQ(placed.rect.top() < row, legal) << placed.card.Index();
+    }
     EXPECT_FALSE(placed.rect.intersects(now.hands[placed.seat].caption));
     const QPointF index = placed.rect.topLeft() + QPointF(6, 12);
     QMouseEvent move(QEvent::MouseMove, index, index, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&view_, &move);
     EXPECT_EQ(view_.cursor().shape() == Qt::PointingHandCursor, legal);
   }
+}
+
+TEST_F(PlayOnTableTest, RevealsNothingOfAHiddenHand) {
+  Play("C8");
+  view_.ShowBestCards({{test::CardOf("C4"), 10}});
+  const QSignalSpy hideAsked(&view_, &TableView::HideAsked);
+  const auto clickCaption = [this] {
+    const PlacedHand& north = view_.Layout().hands[Seat::North];
+    Click(north.caption.center());
+  };
+  clickCaption();
+  EXPECT_EQ(hideAsked.size(), 1);
+  view_.SetHidden({{true, false, false, false}});
+  EXPECT_TRUE(Tells("North: hidden. East: spades 8 4"));
+  const TableLayout now = view_.Layout();
+  EXPECT_EQ(now.backs.size(), 13U);
+  for (const PlacedCard& placed : now.cards) EXPECT_NE(placed.seat, Seat::North);
+  Click(now.backs.back().rect.center());
+  EXPECT_FALSE(asked_);
+  const QImage hidden = PictureOf(view_);
+  std::swap(board_.hands[Seat::North][Suit::Spades], board_.hands[Seat::North][Suit::Hearts]);
+  Show();
+  view_.ShowBestCards({});
+  EXPECT_EQ(PictureOf(view_), hidden) << "whatever its cards and the best of them are";
+  clickCaption();
+  EXPECT_EQ(hideAsked.size(), 2);
+  settings_.cardsFaces = false;
+  Show();
+  for (const PlacedCard& placed : view_.Layout().cards) EXPECT_NE(placed.seat, Seat::North);
 }
 
 TEST_F(PlayOnTableTest, PlaysByKeysAndLeavesOthersToTheWindow) {
@@ -151,6 +178,25 @@ TEST_F(PlayOnTableTest, TellsTurnTrickAndTricksWon) {
   EXPECT_TRUE(Tells("4S+3 by South : NS +710. No card on the table. NS: 13. EW: 0."));
   view_.Show(board_, settings_, nullptr, Seat::East);
   EXPECT_TRUE(Tells("East to call."));
+}
+
+TEST_F(PlayOnTableTest, ReadsOutWhatHappens) {
+  view_.show();
+  const auto newest = [this] {
+    const QString all = view_.accessibleDescription();
+    return all.left(all.indexOf(QStringLiteral(" Board 7."))).toStdString();
+  };
+  Play("C8");
+  EXPECT_EQ(newest(), "West plays the 8 of clubs. North to play.");
+  Play("CJ C5");
+  Play("CA");
+  EXPECT_EQ(newest(),
+            "South plays the ace of clubs. South wins the trick. NS: 1. EW: 0. South to play.");
+  play_.Undo();
+  Show();
+  EXPECT_EQ(newest(), "South takes back the ace of clubs. NS: 0. EW: 0. South to play.");
+  view_.SetHidden({{false, true, false, false}});
+  EXPECT_EQ(newest(), "East is hidden.");
 }
 
 TEST_F(PlayOnTableTest, PaintsEachMomentItsOwnWay) {

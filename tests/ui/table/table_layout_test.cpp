@@ -12,6 +12,7 @@
 #include "tests/ui/geometry.h"
 #include "ui/style/symbols.h"
 #include "ui/table/descriptions.h"
+#include "ui/table/table_captions.h"
 #include "ui/table/table_centre.h"
 #include "ui/table/table_trick.h"
 #include "ui/table/tricks_won.h"
@@ -34,7 +35,7 @@ const std::array kDeals{
 class TableGeometry : public testing::TestWithParam<std::tuple<QSizeF, std::string>> {
  protected:
   HandTable hands_ = HandsOf(std::get<1>(GetParam()));
-  TableLayout layout_ = LayOutTable(std::get<0>(GetParam()), hands_, HandDisplay::Cards);
+  TableLayout layout_ = LayOutTable(std::get<0>(GetParam()), hands_, {});
 };
 
 TEST_P(TableGeometry, ShowsEveryCardInsideItsHandsAreaToBeHit) {
@@ -51,9 +52,14 @@ TEST_P(TableGeometry, ShowsEveryCardInsideItsHandsAreaToBeHit) {
 }
 
 TEST_P(TableGeometry, KeepsHandsCaptionsAndCentreApartAndOnTheFelt) {
-  for (const HandDisplay display : {HandDisplay::Cards, HandDisplay::Text}) {
-    const TableLayout layout = LayOutTable(layout_.felt.size(), hands_, display);
+  const TableNeeds needs[] = {{HandDisplay::Cards},
+                              {HandDisplay::Text},
+                              {HandDisplay::Cards, {}, true, true},
+                              {HandDisplay::Text, {}, true, false}};
+  for (const TableNeeds& each : needs) {
+    const TableLayout layout = LayOutTable(layout_.felt.size(), hands_, each);
     std::vector<QRectF> parts{layout.centre};
+    if (each.play) parts.push_back(layout.line);
     for (const PlacedHand& hand : layout.hands) {
       parts.push_back(hand.caption);
       parts.push_back(hand.area);
@@ -64,9 +70,10 @@ TEST_P(TableGeometry, KeepsHandsCaptionsAndCentreApartAndOnTheFelt) {
 }
 
 TEST_P(TableGeometry, KeepsTheTrickInThePanelWithEveryIndexInSight) {
-  const QRectF room = TrickRoom(layout_.centre);
-  const TrickLayout trick = LayOutTrick(room, layout_.cardSize);
-  EXPECT_GE(trick.cardSize.width(), 0.6 * layout_.cardSize.width());
+  const TableLayout play = LayOutTable(layout_.felt.size(), hands_, {HandDisplay::Cards, {}, true});
+  const QRectF room = TrickRoom(play.centre);
+  const TrickLayout trick = LayOutTrick(room, play.cardSize);
+  EXPECT_EQ(trick.cardSize, play.cardSize) << "as large as those in the hands";
   for (std::size_t i = 0; i < kTrickOrder.size(); ++i) {
     const QRectF& card = trick.cards[kTrickOrder.at(i)];
     EXPECT_TRUE(room.adjusted(-1, -1, 1, 1).contains(card));
@@ -75,20 +82,17 @@ TEST_P(TableGeometry, KeepsTheTrickInThePanelWithEveryIndexInSight) {
       EXPECT_FALSE(rank.intersects(trick.cards[kTrickOrder.at(later)])) << i << " " << later;
     }
     const QRectF& symbol = trick.symbols[kTrickOrder.at(i)];
-    EXPECT_TRUE(symbol.isEmpty() || layout_.centre.contains(symbol));
-    for (const PlacedCard& placed : layout_.cards) EXPECT_FALSE(placed.rect.intersects(card));
+    EXPECT_TRUE(symbol.isEmpty() || play.centre.contains(symbol));
+    for (const PlacedCard& placed : play.cards) EXPECT_FALSE(placed.rect.intersects(card));
+    EXPECT_FALSE(trick.corner.intersects(card) || trick.corner.intersects(symbol));
   }
 }
 
 TEST_P(TableGeometry, KeepsTricksWonOnTheFeltBesideTheHands) {
   const TricksWonLayout won = LayOutTricksWon(layout_, PlaySnapshot());
-  std::vector<QRectF> parts(won.counts.begin(), won.counts.end());
-  for (const QRectF& back : won.backs) EXPECT_FALSE(back.isEmpty());
-  parts.push_back(won.backs.back());
-  ExpectApart(layout_.felt, parts);
-  parts.insert(parts.end(), won.backs.begin(), won.backs.end());
-  for (const QRectF& part : parts) {
-    for (const PlacedCard& placed : layout_.cards) EXPECT_FALSE(placed.rect.intersects(part));
+  for (const QRectF& back : won) {
+    EXPECT_TRUE(!back.isEmpty() && layout_.felt.contains(back));
+    for (const PlacedCard& placed : layout_.cards) EXPECT_FALSE(placed.rect.intersects(back));
   }
 }
 
@@ -98,8 +102,7 @@ INSTANTIATE_TEST_SUITE_P(SizesAndDeals, TableGeometry,
 
 TEST(TableLayoutTest, GivesNorthOneRowAndEastOneForEachSuitHeld) {
   const auto rows = [](const std::string& hand, char seat = 'E') {
-    const TableLayout layout =
-        LayOutTable({520, 480}, HandsOf(seat + (":" + hand + " - - -")), HandDisplay::Cards);
+    const TableLayout layout = LayOutTable({520, 480}, HandsOf(seat + (":" + hand + " - - -")), {});
     std::string text;
     double y = -1;
     for (const PlacedCard& placed : layout.cards) {
@@ -120,10 +123,9 @@ TEST(TableLayoutTest, GrowsCardsWithTheTableButNotWithTheDeal) {
   double last = 0;
   for (const double scale : {1.0, 1.5, 2.0, 4.0}) {
     const QSizeF size = QSizeF(520, 480) * scale;
-    const double width =
-        LayOutTable(size, HandsOf(kOrdinaryDeal), HandDisplay::Cards).cardSize.width();
+    const double width = LayOutTable(size, HandsOf(kOrdinaryDeal), {}).cardSize.width();
     EXPECT_GT(width, last * 1.2);
-    EXPECT_EQ(width, LayOutTable(size, HandsOf(kWholePack), HandDisplay::Cards).cardSize.width());
+    EXPECT_EQ(width, LayOutTable(size, HandsOf(kWholePack), {}).cardSize.width());
     last = width;
   }
 }
@@ -131,27 +133,61 @@ TEST(TableLayoutTest, GrowsCardsWithTheTableButNotWithTheDeal) {
 TEST(TableLayoutTest, SurvivesATableWithoutRoom) {
   for (const QSizeF size : {QSizeF(0, 0), QSizeF(1, 1), QSizeF(60, 900), QSizeF(900, 20)}) {
     for (const std::string& deal : kDeals) {
-      const TableLayout layout = LayOutTable(size, HandsOf(deal), HandDisplay::Cards);
+      const TableLayout layout = LayOutTable(size, HandsOf(deal), {});
       EXPECT_GE(layout.cardSize.width(), 1);
     }
   }
 }
 
-TEST(TableWordsTest, TellsDeclarerAndDummyInTheCaptions) {
-  Board board = OrdinaryBoard();
-  Settings settings;
-  EXPECT_EQ(TableCaptions(board, settings)[Seat::South], u"13 cards : HCP=15 LTC=7");
-  board.contract = "4S";
-  board.declarer = Seat::South;
-  EXPECT_EQ(TableCaptions(board, settings)[Seat::South], u"13 cards : HCP=15 LTC=7 Declarer");
-  EXPECT_EQ(TableCaptions(board, settings)[Seat::North], u"13 cards : HCP=13 LTC=7 Dummy");
-  settings.captionHcp = settings.captionLtc = settings.captionDummy = false;
-  EXPECT_EQ(TableCaptions(board, settings)[Seat::South], u"13 cards Declarer");
-  EXPECT_EQ(TableCaptions(board, settings)[Seat::North], u"13 cards");
-  board.contract = kAllPass;
-  EXPECT_EQ(TableCaptions(board, settings)[Seat::South], u"13 cards");
-  ClearAll(board);
-  EXPECT_EQ(TableCaptions(board, settings)[Seat::South], u"");
+TEST_P(TableGeometry, LeavesTheMarksOfCardsInSight) {
+  for (std::size_t i = 0; i < layout_.cards.size(); ++i) {
+    const PlacedCard& placed = layout_.cards[i];
+    EXPECT_TRUE(placed.rect.contains(placed.mark));
+    EXPECT_GE(placed.mark.height(), 0.14 * placed.rect.width());
+    for (std::size_t later = i + 1; later < layout_.cards.size(); ++later) {
+      EXPECT_FALSE(layout_.cards[later].rect.intersects(placed.mark)) << i << " " << later;
+    }
+  }
+}
+
+TEST(TableLayoutTest, TellsNothingOfAHandFaceDownButItsLength) {
+  TableNeeds needs;
+  needs.hidden = {{true, true, true, true}};
+  const auto backs = [&](const std::string& deal) {
+    const TableLayout layout = LayOutTable({760, 680}, HandsOf(deal), needs);
+    EXPECT_TRUE(layout.cards.empty());
+    std::vector<QRectF> places;
+    for (const PlacedBack& back : layout.backs) {
+      EXPECT_TRUE(layout.hands[back.seat].area.contains(back.rect));
+      places.push_back(back.rect);
+    }
+    return places;
+  };
+  const auto places = backs(kOrdinaryDeal);
+  EXPECT_EQ(places.size(), kCardsInPack);
+  EXPECT_EQ(places, backs("N:AKQJT98765432... .AKQJT98765432.. ..AKQJT98765432. "
+                          "...AKQJT98765432"));
+}
+
+TEST(TableLayoutTest, CloseUpWhatIsLeft) {
+  const TableLayout layout = LayOutTable({760, 680}, HandsOf("N:A...2 7.5.. - -"), {});
+  const double width = layout.cardSize.width();
+  ASSERT_EQ(layout.cards.size(), 4U);
+  EXPECT_NEAR(layout.cards[1].rect.left() - layout.cards[0].rect.left(), kFanStep * width, 1);
+  EXPECT_EQ(layout.cards[2].rect.topLeft().y(), layout.hands[Seat::East].area.top());
+  EXPECT_LT(layout.cards[3].rect.top(), layout.cards[2].rect.bottom());
+}
+
+TEST(TableLayoutTest, WritesCaptionsForTheBackOfTheRoom) {
+  for (const QSizeF size : {QSizeF(1024, 600), QSizeF(1366, 768), QSizeF(1920, 1080)}) {
+    TableNeeds needs;
+    needs.presentation = true;
+    const TableLayout layout = LayOutTable(size, HandsOf(kOrdinaryDeal), needs);
+    PerSeat<Caption> captions;
+    captions.fill({QStringLiteral("South: 13 cards : HCP=15 LTC=7 Declarer"), {}, {}});
+    const CaptionLayout pills = LayOutCaptions(layout, captions, Settings(), 96);
+    EXPECT_GE(pills.font.pixelSize(), static_cast<int>(size.height() / 30)) << size.height();
+  }
 }
 
 TEST(TableWordsTest, ShowsContractsWithTheirSuits) {

@@ -79,7 +79,7 @@ TEST_F(TableViewTest, FitsTextIntoItsAreaWhateverTheFont) {
   for (const double points : {6.0, 24.0, 96.0}) {
     settings.hgFont[0].size = settings.suitFontSize = points;
     for (const QSizeF size : {QSizeF(380, 340), QSizeF(760, 680), QSizeF(3840, 2160)}) {
-      const TableLayout layout = LayOutTable(size, board.hands, HandDisplay::Text);
+      const TableLayout layout = LayOutTable(size, board.hands, {HandDisplay::Text});
       const TextHandMeasures measures = MeasureTextHands(layout, board.hands, settings, 96);
       for (const Seat seat : kAllSeats) {
         const QSizeF needed = TextHandSize(measures, board.hands[seat]);

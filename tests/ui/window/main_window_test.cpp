@@ -180,7 +180,7 @@ TEST_F(MainWindowTest, TheRightColumnTakesOnlyRoomThatTheTableCannotUse) {
     const int right = Find<QWidget>("colRight")->width();
     const QSizeF table = Find<QWidget>("picTable")->size();
     const auto cards = [this](QSizeF felt) {
-      return LayOutTable(felt, session.board.hands, HandDisplay::Cards).cardSize;
+      return LayOutTable(felt, session.board.hands, {}).cardSize;
     };
     if (before == 0) before = right;
     EXPECT_EQ(cards(table), cards(table + QSizeF(right - before, 0))) << size.width();
