@@ -13,9 +13,12 @@ struct Index {
   double suitMiddle;  // below the upper edge
   double suitHeight;
 };
-constexpr Index kPlainIndex{{5, 9, 31, 25}, 48, 24};
+// All end above 53, as a number may be written below them where half of a card is in sight.
+constexpr Index kPlainIndex{{5, 7, 31, 25}, 43, 19};
 constexpr Index kClassicIndex{{3, 7, 18, 19}, 36, 15};
-constexpr Index kLargeIndex{{4, 6, 40, 34}, 56, 26};
+constexpr Index kLargeIndex{{4, 6, 37, 30}, 45, 15.5};
+constexpr double kBand = 45;  // width of the band with the large index
+constexpr double kBandCorner = 7;
 
 void DrawIndex(QPainter& painter, Card card, const Index& index) {
   painter.drawPath(RankOutline(card.rank, index.rank));
@@ -106,9 +109,22 @@ void DrawClassic(QPainter& painter, Card card, const QColor& ink) {
   }
 }
 
+/// The index in reverse on a band in the suit's colour: what is in sight of a card in a hand.
+void DrawBanded(QPainter& painter, Card card, const QColor& paper) {
+  painter.drawPath(SuitOutline(card.suit, {kBand + (kFaceWidth - kBand) / 2, 104}, 46));
+  QPainterPath body;
+  body.addRoundedRect(QRectF(1, 1, kFaceWidth - 2, kFaceHeight - 2), kBandCorner, kBandCorner);
+  QPainterPath band;
+  band.addRect(0, 0, kBand, kFaceHeight);
+  painter.drawPath(body.intersected(band));
+  painter.setBrush(paper);
+  DrawIndex(painter, card, kLargeIndex);
+}
+
 }  // namespace
 
-void DrawFace(QPainter& painter, Card card, CardDesign design, const QColor& ink) {
+void DrawFace(QPainter& painter, Card card, CardDesign design, const QColor& ink,
+              const QColor& paper) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(ink);
   switch (design) {
@@ -116,8 +132,7 @@ void DrawFace(QPainter& painter, Card card, CardDesign design, const QColor& ink
       DrawClassic(painter, card, ink);
       break;
     case CardDesign::LargeIndex:
-      DrawIndex(painter, card, kLargeIndex);
-      painter.drawPath(SuitOutline(card.suit, {65, 100}, 66));
+      DrawBanded(painter, card, paper);
       break;
     case CardDesign::IndexAndSymbol:
       DrawIndex(painter, card, kPlainIndex);

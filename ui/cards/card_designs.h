@@ -13,7 +13,9 @@ namespace tricklet::ui {
 inline constexpr double kFaceWidth = 100;
 inline constexpr double kFaceHeight = 140;
 
-/// Draws what is printed on `card`, with the upper left corner at the origin.
-void DrawFace(QPainter& painter, Card card, CardDesign design, const QColor& ink);
+/// Draws what is printed on `card`, with the upper left corner at the origin. Where a design prints
+/// in reverse, what it leaves out is in the colour of the `paper`.
+void DrawFace(QPainter& painter, Card card, CardDesign design, const QColor& ink,
+              const QColor& paper);
 
 }  // namespace tricklet::ui

@@ -1,6 +1,7 @@
 #include "ui/cards/card_painter.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "ui/cards/card_designs.h"
@@ -10,7 +11,6 @@ namespace tricklet::ui {
 namespace {
 
 const QColor kEdge(0x9A, 0x9C, 0x94);
-const QColor kShade(0x1C, 0x3A, 0x30, 120);
 
 /// A soft shadow: three rounded rectangles, each a little larger than the last.
 void DrawShadow(QPainter& painter, const QRectF& card, double radius, double reach) {
@@ -35,12 +35,18 @@ QPixmap Transparent(const CardLook& look, double margin) {
 
 }  // namespace
 
+QColor DimmedSuitColour(Suit suit, bool fourColours) {
+  constexpr int kStep = 106;  // percent
+  QColor ink = SuitColourOnCard(suit, fourColours);
+  while (Contrast(ink, kDimPaper) < kCardContrast) ink = ink.darker(kStep);
+  return ink;
+}
+
 void CardPainter::SetLook(const CardLook& look) {
   if (look == look_) return;
   look_ = look;
-  faces_.fill(QPixmap());
-  blank_ = QPixmap();
-  shade_ = QPixmap();
+  pack_ = {};
+  dimmed_ = {};
 }
 
 /// Room for the shadow, in whole pixels of the widget.
@@ -49,26 +55,34 @@ double CardPainter::Margin() const {
 }
 
 void CardPainter::Draw(QPainter& painter, QPointF corner, Card card) {
-  QPixmap& face = faces_.at(static_cast<std::size_t>(card.Index()));
-  if (face.isNull()) face = Render(card);
-  DrawOnPixel(painter, corner, face);
+  DrawFrom(pack_, painter, corner, card, SuitColourOnCard(card.suit, look_.fourColours), kPaper);
 }
 
 void CardPainter::DrawDimmed(QPainter& painter, QPointF corner, Card card) {
-  Draw(painter, corner, card);
-  if (shade_.isNull()) shade_ = RenderShade();
-  DrawOnPixel(painter, corner, shade_);
+  DrawFrom(dimmed_, painter, corner, card, DimmedSuitColour(card.suit, look_.fourColours),
+           kDimPaper);
 }
 
-void CardPainter::DrawOnPixel(QPainter& painter, QPointF corner, const QPixmap& picture) const {
+void CardPainter::DrawFrom(Pack& pack, QPainter& painter, QPointF corner, Card card,
+                           const QColor& ink, const QColor& paper) {
+  QPixmap& face = pack.faces.at(static_cast<std::size_t>(card.Index()));
+  if (face.isNull()) {
+    if (pack.blank.isNull()) pack.blank = RenderBlank(paper);
+    face = pack.blank;
+    QPainter onFace(&face);
+    onFace.setRenderHint(QPainter::Antialiasing);
+    onFace.translate(Margin(), Margin());
+    onFace.scale(look_.size.width() / kFaceWidth, look_.size.height() / kFaceHeight);
+    DrawFace(onFace, card, look_.design, ink, paper);
+  }
   const auto onPixel = [&](double at) {
     return std::round((at - Margin()) * look_.pixelRatio) / look_.pixelRatio;
   };
-  painter.drawPixmap(QPointF(onPixel(corner.x()), onPixel(corner.y())), picture);
+  painter.drawPixmap(QPointF(onPixel(corner.x()), onPixel(corner.y())), face);
 }
 
 /// A blank card: the same for all cards, and what takes the most time to draw.
-QPixmap CardPainter::RenderBlank() const {
+QPixmap CardPainter::RenderBlank(const QColor& paper) const {
   QPixmap blank = Transparent(look_, Margin());
   QPainter painter(&blank);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -77,32 +91,31 @@ QPixmap CardPainter::RenderBlank() const {
   DrawShadow(painter, body, radius, Margin());
   const double line = std::max(1.0 / look_.pixelRatio, body.width() * 0.008);
   painter.setPen(QPen(kEdge, line));
-  painter.setBrush(kPaper);
+  painter.setBrush(paper);
   painter.drawRoundedRect(body.adjusted(line / 2, line / 2, -line / 2, -line / 2), radius, radius);
   return blank;
 }
 
-/// The shade that lies exactly over a card.
-QPixmap CardPainter::RenderShade() const {
-  QPixmap shade = Transparent(look_, Margin());
-  QPainter painter(&shade);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(kShade);
-  const double radius = look_.size.width() * kCornerShare;
-  painter.drawRoundedRect(QRectF(QPointF(Margin(), Margin()), look_.size), radius, radius);
-  return shade;
-}
-
-QPixmap CardPainter::Render(Card card) {
-  if (blank_.isNull()) blank_ = RenderBlank();
-  QPixmap face = blank_;
-  QPainter painter(&face);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.translate(Margin(), Margin());
-  painter.scale(look_.size.width() / kFaceWidth, look_.size.height() / kFaceHeight);
-  DrawFace(painter, card, look_.design, SuitColourOnCard(card.suit, look_.fourColours));
-  return face;
+void PaintThumbnail(QPainter& painter, const QRect& room, CardDesign design, bool fourColours) {
+  constexpr std::array kShown{Card{Suit::Spades, Rank::Ace}, Card{Suit::Hearts, Rank::King},
+                              Card{Suit::Diamonds, Rank::Ten}, Card{Suit::Clubs, Rank::Seven}};
+  constexpr double kMargin = 2;  // for the shadow
+  constexpr double kStep = 0.6;  // in cards' widths
+  constexpr double kAcross = 1 + (kShown.size() - 1) * kStep;
+  const QRectF inner = QRectF(room).adjusted(kMargin, kMargin, -kMargin, -kMargin);
+  const double width = std::min(inner.width() / kAcross, inner.height() * kFaceWidth / kFaceHeight);
+  if (width < 1) return;
+  CardPainter cards;
+  cards.SetLook({{width, width * kFaceHeight / kFaceWidth},
+                 painter.device()->devicePixelRatioF(),
+                 design,
+                 fourColours});
+  QPointF corner(inner.center().x() - width * kAcross / 2,
+                 inner.center().y() - width * kFaceHeight / kFaceWidth / 2);
+  for (const Card card : kShown) {
+    cards.Draw(painter, corner, card);
+    corner.rx() += kStep * width;
+  }
 }
 
 }  // namespace tricklet::ui

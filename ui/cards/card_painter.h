@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QPainter>
 #include <QPixmap>
+#include <QRect>
 #include <QSizeF>
 
 #include "core/holding.h"
@@ -15,8 +16,14 @@ namespace tricklet::ui {
 
 /// Radius of the corners, as a share of a card's width.
 inline constexpr double kCornerShare = 0.07;
-/// What cards are printed on.
+/// What cards are printed on, and what they seem to be printed on when they cannot be played.
 inline const QColor kPaper(0xFF, 0xFE, 0xF9);
+inline const QColor kDimPaper(0xC9, 0xD1, 0xCC);
+/// Least contrast of what is printed with either (WCAG 2.1, success criterion 1.4.3).
+inline constexpr double kCardContrast = 4.5;
+
+/// The colour of `suit` on a card that cannot be played.
+QColor DimmedSuitColour(Suit suit, bool fourColours);
 
 /// All that the picture of a card depends on, besides the card.
 struct CardLook {
@@ -27,7 +34,7 @@ struct CardLook {
   friend bool operator==(const CardLook&, const CardLook&) = default;
 };
 
-/// Holds at most one picture of each card of the pack; a new look drops them all.
+/// Holds at most two pictures of each card of the pack; a new look drops them all.
 class CardPainter {
  public:
   void SetLook(const CardLook& look);
@@ -38,15 +45,23 @@ class CardPainter {
 
  private:
   void DrawOnPixel(QPainter& painter, QPointF corner, const QPixmap& picture) const;
-  QPixmap RenderBlank() const;
-  QPixmap RenderShade() const;
-  QPixmap Render(Card card);
+  QPixmap RenderBlank(const QColor& paper) const;
   double Margin() const;
 
+  /// The pictures of one paper.
+  struct Pack {
+    QPixmap blank;
+    std::array<QPixmap, kCardsInPack> faces;
+  };
+  void DrawFrom(Pack& pack, QPainter& painter, QPointF corner, Card card, const QColor& ink,
+                const QColor& paper);
+
   CardLook look_;
-  QPixmap blank_;
-  QPixmap shade_;
-  std::array<QPixmap, kCardsInPack> faces_;
+  Pack pack_;
+  Pack dimmed_;
 };
+
+/// Some cards of a design, close up as in a hand, as large as `room` allows.
+void PaintThumbnail(QPainter& painter, const QRect& room, CardDesign design, bool fourColours);
 
 }  // namespace tricklet::ui

@@ -75,14 +75,14 @@ double Luminance(const QColor& colour) {
 
 QColor SuitColourOnCard(Suit suit, bool fourColours) {
   constexpr PerSuit<QRgb> kTwo{{0x16181C, 0xC8202F, 0xC8202F, 0x16181C}};
-  constexpr PerSuit<QRgb> kFour{{0x1B2468, 0xC8202F, 0xD9730D, 0x1D7A34}};
+  constexpr PerSuit<QRgb> kFour{{0x1B2468, 0xC8202F, 0xB85A00, 0x1D7A34}};
   return QColor(fourColours ? kFour[suit] : kTwo[suit]);
 }
 
 QColor SuitColourOnWindow(Suit suit, bool fourColours, const QPalette& palette) {
   if (!IsDark(palette)) {
-    // Paper's orange is too pale for a symbol of text size.
-    if (fourColours && suit == Suit::Diamonds) return QColor(0xC2, 0x62, 0x06);
+    // Paper's orange is too pale for a symbol on a background that is less than white.
+    if (fourColours && suit == Suit::Diamonds) return QColor(0xA8, 0x52, 0x00);
     return SuitColourOnCard(suit, fourColours);
   }
   constexpr PerSuit<QRgb> kTwo{{0xF0F0F0, 0xFF7A84, 0xFF7A84, 0xF0F0F0}};

@@ -39,7 +39,7 @@ void DrawBestCardLabels(QPainter& painter, const TableLayout& layout,
     if (score == best.end()) continue;
     const QRectF& room = placed.mark;
     const bool isBest = score->tricks == most;
-    painter.setPen(QPen(kEdge, 1));
+    painter.setPen(QPen(isBest ? QColor(Qt::white) : kEdge, 1));  // stands out from a band too
     painter.setBrush(isBest ? kBestFill : QColor(Qt::white));
     painter.drawRoundedRect(room, room.height() / 3, room.height() / 3);
     painter.setFont(Fitted(bold, {QStringLiteral("13")}, {0.9 * room.width(), 2 * room.height()},

@@ -93,7 +93,7 @@ TEST_F(TableViewTest, FitsTextIntoItsAreaWhateverTheFont) {
 }
 
 TEST_F(TableViewTest, CanReadSuitsAndTextInEveryColourScheme) {
-  constexpr double kLeast = 3.0;  // WCAG 2.1, large text
+  constexpr double kLeast = 4.5;  // WCAG 2.1, success criterion 1.4.3
   const QColor before = QApplication::palette().color(QPalette::Window);
   for (const ColourScheme scheme : {ColourScheme::Dark, ColourScheme::Light}) {
     ApplyColourScheme(*qApp, scheme);
@@ -106,7 +106,8 @@ TEST_F(TableViewTest, CanReadSuitsAndTextInEveryColourScheme) {
         for (const bool fourColours : {false, true}) {
           EXPECT_GE(Contrast(background, SuitColourOnWindow(suit, fourColours, palette)), kLeast)
               << SuitName[suit] << " scheme " << IndexOf(scheme);
-          EXPECT_GE(Contrast(Qt::white, SuitColourOnCard(suit, fourColours)), kLeast);
+          EXPECT_GE(Contrast(kPaper, SuitColourOnCard(suit, fourColours)), kCardContrast);
+          EXPECT_GE(Contrast(kDimPaper, DimmedSuitColour(suit, fourColours)), kCardContrast);
         }
       }
     }
