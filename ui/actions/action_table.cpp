@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 
+#include "ui/actions/panes_shown.h"
 #include "ui/commands/commands.h"
 #include "ui/control/results.h"
 #include "ui/style/qt_text.h"
@@ -41,6 +42,9 @@ bool CanRedo(State state) {
 }
 bool CanPaste(State state) {
   return state.canPaste && !state.PlayUnfinished();
+}
+bool LibraryShown(State state) {
+  return ShownIn(state).library && !state.presentation;
 }
 bool CanFill(State state) {
   return state.canFill && !state.PlayUnfinished();
@@ -88,6 +92,13 @@ bool CanGoBack(State state) {
 bool RecordShown(State state) {
   return state.recordShown;
 }
+/// In play and while hands are edited the digits are ranks of cards.
+bool DigitsAreFree(State state) {
+  return !state.playing && !state.editing && !state.recordShown;
+}
+bool CanHide(State state) {
+  return !state.editing;
+}
 bool CanCheckForUpdates(State state) {
   return state.updateObstacle.empty();
 }
@@ -97,6 +108,14 @@ bool IsEditing(State state) {
 }
 bool IsPlaying(State state) {
   return state.playing;
+}
+bool AnyHidden(State state) {
+  return std::any_of(kAllSeats.begin(), kAllSeats.end(),
+                     [&](Seat seat) { return state.hidden[seat]; });
+}
+template <Seat kSeat>
+bool IsHidden(State state) {
+  return state.hidden[kSeat];
 }
 template <bool WindowState::*kSwitch>
 bool IsOn(State state) {
@@ -126,17 +145,14 @@ QString RedoCaption(State state) {
 QString EditCaption(State state) {
   return state.editing ? Actions::tr("Stop &editing") : Actions::tr("&Edit hands");
 }
-QString EditShort(State state) {
-  return state.editing ? Actions::tr("Stop editing") : Actions::tr("Edit");
-}
 QString PlayCaption(State state) {
   return state.playing ? Actions::tr("Stop &play") : Actions::tr("&Play");
 }
-QString PlayShort(State state) {
-  return state.playing ? Actions::tr("Stop play") : Actions::tr("Play");
-}
 QString ClaimText(State state) {
   return state.playing ? ToQt(state.claimCaption) : Actions::tr("&Claim");
+}
+QString HandsCaption(State state) {
+  return AnyHidden(state) ? Actions::tr("Show all &hands") : Actions::tr("&Hide all hands");
 }
 QString NewVersionCaption(State state) {
   return Actions::tr("&Version %1 is there...").arg(ToQt(state.newerVersion));
@@ -177,7 +193,7 @@ const std::array kTable{
                 &Commands::PasteHand, CanPaste},
     ActionEntry{"mnuEdit", QT_TR_NOOP("&Edit hands"), QT_TR_NOOP("Edit"), "Ctrl+H",
                 QT_TR_NOOP("Move cards between the hands"), "edit", &Commands::EditOrStop, nullptr,
-                IsEditing, EditCaption, EditShort},
+                IsEditing, EditCaption},
     ActionEntry{"mnuOptions", QT_TR_NOOP("Pre&ferences..."), "", "Ctrl+,",
                 QT_TR_NOOP("Choose how the program looks and works"), "", &Commands::Options},
     // Library
@@ -220,6 +236,9 @@ const std::array kTable{
                 QT_TR_NOOP("Go to the highest board"), "", &Commands::LastBoard, NotEditing},
     ActionEntry{"mnuGoTo", QT_TR_NOOP("&Go to board..."), "", "Ctrl+G",
                 QT_TR_NOOP("Go to a board by its number"), "", &Commands::GoToBoard, NotEditing},
+    ActionEntry{"mnuFind", QT_TR_NOOP("Fin&d boards"), "", "Ctrl+F",
+                QT_TR_NOOP("Search the list of the boards"), "", WindowAsk::FindBoards,
+                LibraryShown},
     ActionEntry{"mnuSwap", QT_TR_NOOP("Rotate/&Swap..."), QT_TR_NOOP("Swap"), "Ctrl+R",
                 QT_TR_NOOP("Exchange hands or suits, or rotate the deal"), "swap", &Commands::Swap,
                 NotInPlay},
@@ -243,7 +262,7 @@ const std::array kTable{
                 QT_TR_NOOP("Enter the auction"), "bidding", &Commands::Bidding, CanBid},
     ActionEntry{"mnuPlay", QT_TR_NOOP("&Play"), QT_TR_NOOP("Play"), "Ctrl+P",
                 QT_TR_NOOP("Play the board card by card"), "play", &Commands::PlayOrStop,
-                CanPlayOrStop, IsPlaying, PlayCaption, PlayShort},
+                CanPlayOrStop, IsPlaying, PlayCaption},
     ActionEntry{"mnuUndoCard", QT_TR_NOOP("&Undo card"), QT_TR_NOOP("Undo card"), "Ctrl+U",
                 QT_TR_NOOP("Take back the claim or the last card"), "", &Commands::UndoCard,
                 CanUndoCard},
@@ -281,6 +300,21 @@ const std::array kTable{
     ActionEntry{"mnuLinLeave", QT_TR_NOOP("&Put the record away"), "", "Ctrl+Shift+J",
                 QT_TR_NOOP("Look at the board itself again"), "", &Results::Leave, RecordShown},
     // View
+    ActionEntry{"mnuHands", QT_TR_NOOP("&Hide all hands"), QT_TR_NOOP("Hands"), "Ctrl+Shift+H",
+                QT_TR_NOOP("Turn all hands face down, or up again"), "hands", WindowAsk::HideHands,
+                CanHide, AnyHidden, HandsCaption},
+    ActionEntry{"mnuHideNorth", QT_TR_NOOP("Hide &North"), "", "1",
+                QT_TR_NOOP("Turn North's hand face down, or up again"), "", WindowAsk::HideNorth,
+                DigitsAreFree, IsHidden<Seat::North>},
+    ActionEntry{"mnuHideEast", QT_TR_NOOP("Hide &East"), "", "2",
+                QT_TR_NOOP("Turn East's hand face down, or up again"), "", WindowAsk::HideEast,
+                DigitsAreFree, IsHidden<Seat::East>},
+    ActionEntry{"mnuHideSouth", QT_TR_NOOP("Hide So&uth"), "", "3",
+                QT_TR_NOOP("Turn South's hand face down, or up again"), "", WindowAsk::HideSouth,
+                DigitsAreFree, IsHidden<Seat::South>},
+    ActionEntry{"mnuHideWest", QT_TR_NOOP("Hide &West"), "", "4",
+                QT_TR_NOOP("Turn West's hand face down, or up again"), "", WindowAsk::HideWest,
+                DigitsAreFree, IsHidden<Seat::West>},
     ActionEntry{"mnuStatistics", QT_TR_NOOP("&Statistics"), "", "Ctrl+T",
                 QT_TR_NOOP("Points, losers and suit lengths beside the table"), "",
                 &Settings::showStats, nullptr, IsOn<&WindowState::showStats>},

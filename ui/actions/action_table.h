@@ -21,6 +21,12 @@ enum class WindowAsk : std::uint8_t {
   PresentationPanes,
   LeavePresentation,
   Traveller,
+  FindBoards,
+  HideHands,
+  HideNorth,
+  HideEast,
+  HideSouth,
+  HideWest,
 };
 
 /// What carries an action out; a setting is flipped, a scheme or style is chosen.
@@ -40,9 +46,9 @@ struct ActionEntry {
   bool (*enabled)(const WindowState&) = nullptr;
   /// Whether its mark is set; it has none when null.
   bool (*checked)(const WindowState&) = nullptr;
-  /// Its text where that depends on the state; `text` when null. `shortText` follows likewise.
+  /// Its text in menus where that depends on the state; `text` when null. On the toolbar nothing
+  /// changes its width.
   QString (*caption)(const WindowState&) = nullptr;
-  QString (*shortCaption)(const WindowState&) = nullptr;
 };
 
 /// All rows, in the order of the menus.

@@ -144,7 +144,6 @@ void Actions::ShowOne(QAction* action, const ActionEntry& entry, const WindowSta
     action->setText(entry.caption(state));
     action->setIconText(shown);
   }
-  if (entry.shortCaption != nullptr) action->setIconText(entry.shortCaption(state));
 }
 
 /// The look for newer versions may be left out, have an obstacle, or have found one.

@@ -18,7 +18,7 @@ constexpr std::array kMenus{
               "mnuRefresh | mnuImportLibrary mnuImportLibraries mnuExportLibrary "
               "mnuExportLibraries | mnuMoveLibraries"},
     MenuEntry{QT_TR_NOOP("&Board"),
-              "mnuNext mnuPrevious mnuFirst mnuLast mnuGoTo | mnuSwap | mnuRandom "
+              "mnuNext mnuPrevious mnuFirst mnuLast mnuGoTo mnuFind | mnuSwap | mnuRandom "
               "mnuFillFourth mnuUndoFill | mnuClearBoard mnuUndoClear"},
     MenuEntry{QT_TR_NOOP("&Play"), "mnuBidding | mnuPlay mnuUndoCard mnuGatherTrick mnuClaim"},
     MenuEntry{QT_TR_NOOP("&Analysis"), "mnuDDS mnuAnalyse | mnuBSOL"},
@@ -26,7 +26,7 @@ constexpr std::array kMenus{
               "mnuTraveller | mnuLinForward mnuLinBack mnuLinNextTrick mnuLinPreviousTrick "
               "mnuLinLeave"},
     MenuEntry{QT_TR_NOOP("&View"),
-              "mnuStatistics "
+              "mnuHands mnuHideNorth mnuHideEast mnuHideSouth mnuHideWest | mnuStatistics "
               "mnuMakeable mnuBestCards mnuCardFaces | mnuColours> mnuColoursSystem "
               "mnuColoursLight mnuColoursDark < mnuTools> mnuToolsUnder mnuToolsBeside "
               "mnuToolsIcons < | mnuPresentation mnuPresentationPanes mnuLeavePresentation"},
@@ -40,13 +40,14 @@ const char* const kToolbar =
     "tbrOpen=mnuImport cmdSave=mnuSave | tbrPrevious=mnuPrevious tbrNext=mnuNext | "
     "cmdBidding=mnuBidding cmdPlay=mnuPlay tbrUndo=mnuUndo tbrRedo=mnuRedo tbrClaim=mnuClaim | "
     "tbrBestCards=mnuBestCards cmdDDS=mnuDDS cmdBSOL=mnuBSOL | cmdEdit=mnuEdit cmdSwap=mnuSwap "
-    "cmdGenerate=mnuGenerate | tbrPresent=mnuPresentation";
+    "cmdGenerate=mnuGenerate | tbrHands=mnuHands tbrPresent=mnuPresentation";
 const char* const kTableContext =
-    "mnuUndo mnuRedo | mnuBidding mnuPlay mnuClaim | mnuEdit mnuSwap | mnuDDS mnuBSOL | "
-    "mnuCopyHand mnuPasteHand | mnuSave "
+    "mnuUndo mnuRedo | mnuBidding mnuPlay mnuClaim | mnuEdit mnuSwap | mnuDDS mnuBSOL | mnuHands "
+    "mnuHideNorth "
+    "mnuHideEast mnuHideSouth mnuHideWest | mnuCopyHand mnuPasteHand | mnuSave "
     "mnuRevert | mnuPresentation";
 const char* const kBoardListContext =
-    "mnuCopyHand mnuPasteHand | mnuSave mnuRevert | mnuDDS mnuAnalyse | mnuGoTo";
+    "mnuCopyHand mnuPasteHand | mnuSave mnuRevert | mnuDDS mnuAnalyse | mnuFind mnuGoTo";
 const char* const kTravellerContext =
     "mnuLinForward mnuLinBack mnuLinNextTrick mnuLinPreviousTrick | mnuLinLeave | mnuTraveller";
 

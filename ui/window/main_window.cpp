@@ -1,5 +1,6 @@
 #include "ui/window/main_window.h"
 
+#include <algorithm>
 #include <optional>
 
 #include <QAction>
@@ -195,11 +196,7 @@ void MainWindow::ConnectPlay() {
   connect(table_, &TableView::TrickAsked, commands_, &Commands::QuitTrick);
   connect(tricks_, &TrickPane::StopAsked, this,
           [this] { results_->Record() != nullptr ? results_->Leave() : commands_->PlayOrStop(); });
-  connect(table_, &TableView::HideAsked, this, [this](Seat seat) {
-    PerSeat<bool> hidden = table_->Hidden();
-    hidden[seat] = !hidden[seat];
-    table_->SetHidden(hidden);
-  });
+  connect(table_, &TableView::HideAsked, this, &MainWindow::Hide);
 }
 
 /// While a play record is looked at, cards that are clicked or typed are meant for it.
@@ -431,7 +428,38 @@ void MainWindow::CarryOut(WindowAsk what) {
     case WindowAsk::Traveller:
       traveller_->Toggle();
       break;
+    case WindowAsk::FindBoards:
+      library_->List()->BeginFind();
+      break;
+    case WindowAsk::HideHands:
+      HideAll();
+      break;
+    case WindowAsk::HideNorth:
+    case WindowAsk::HideEast:
+    case WindowAsk::HideSouth:
+    case WindowAsk::HideWest:
+      Hide(static_cast<Seat>(IndexOf(what) - IndexOf(WindowAsk::HideNorth)));
+      break;
   }
+}
+
+/// Turns all hands face down, or up again when any is.
+void MainWindow::HideAll() {
+  const PerSeat<bool> before = state_.hidden;
+  const bool down =
+      std::none_of(kAllSeats.begin(), kAllSeats.end(), [&](Seat seat) { return before[seat]; });
+  for (const Seat seat : kAllSeats) state_.hidden[seat] = down;
+  ShowHidden();
+}
+
+void MainWindow::Hide(Seat seat) {
+  state_.hidden[seat] = !state_.hidden[seat];
+  ShowHidden();
+}
+
+void MainWindow::ShowHidden() {
+  table_->SetHidden(state_.hidden);
+  ShowState();
 }
 
 /// The tricks of the play, or of the play record that is looked at.

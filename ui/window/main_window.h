@@ -108,6 +108,9 @@ class MainWindow : public QMainWindow {
   void ShowPanes();
   void ShowTricks();
   void CarryOut(WindowAsk what);
+  void HideAll();
+  void Hide(Seat seat);
+  void ShowHidden();
 
   Session& session_;
   const Updates& updates_;

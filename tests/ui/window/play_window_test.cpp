@@ -171,13 +171,14 @@ TEST_F(PlayWindowTest, PlayComesAfterTheAuctionThatItNeeds) {
   Open();
   const auto play = [this](const char* buttons) {
     WithDialog("Ctrl+P", [&](const Driven& form) { form.PressAll(buttons); });
-    return Text("cmdPlay") + ". " + Spoken("lblScore");
+    const std::string menu = FromQt(Find<QAction>("mnuPlay")->text());
+    return menu + ". " + Spoken("lblScore");
   };
   ExpectLosingBids();
-  EXPECT_EQ(play("cmdCancel"), "Play. ");
+  EXPECT_EQ(play("cmdCancel"), "&Play. ");
   host.ExpectTell("The bidding was All Pass");
-  EXPECT_EQ(play("cmdAllPass cmdOK"), "Play. All Pass : 0");
-  EXPECT_EQ(play("cmdClear cmdBid_4 cmdPass cmdPass cmdPass cmdOK"), "Stop play. ");
+  EXPECT_EQ(play("cmdAllPass cmdOK"), "&Play. All Pass : 0");
+  EXPECT_EQ(play("cmdClear cmdBid_4 cmdPass cmdPass cmdPass cmdOK"), "Stop &play. ");
   EXPECT_EQ(Told(), "NS: 0 EW: 0 Claim by East");
   EXPECT_EQ(window->focusWidget(), Table());
 }
