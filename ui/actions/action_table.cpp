@@ -1,6 +1,5 @@
 #include "ui/actions/action_table.h"
 
-#include <algorithm>
 #include <array>
 
 #include <QCoreApplication>
@@ -110,8 +109,7 @@ bool IsPlaying(State state) {
   return state.playing;
 }
 bool AnyHidden(State state) {
-  return std::any_of(kAllSeats.begin(), kAllSeats.end(),
-                     [&](Seat seat) { return state.hidden[seat]; });
+  return state.AnyHidden();
 }
 template <Seat kSeat>
 bool IsHidden(State state) {

@@ -14,8 +14,9 @@ PanesShown ShownIn(const WindowState& state) {
   shown.library = !state.editing && !state.PlayUnfinished() && !state.recordShown;
   shown.tricks = !state.editing && (state.playing || state.recordShown);
   shown.edit = state.editing;
-  shown.statistics =
-      state.showStats && state.hasCards && !state.editing && !state.playing && !state.recordShown;
+  // They tell what hidden hands hold.
+  shown.statistics = state.showStats && state.hasCards && !state.AnyHidden() && !state.editing &&
+                     !state.playing && !state.recordShown;
 
   shown.right = (answers || state.entering) && !state.working && !state.editing;
   shown.contract = state.recordShown || (state.hasCalls && !state.entering);

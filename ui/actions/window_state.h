@@ -1,7 +1,7 @@
 // What the window is doing, as plain values.
 #pragma once
 
-#include <array>
+#include <algorithm>
 #include <string>
 
 #include "core/notation.h"
@@ -66,6 +66,10 @@ struct WindowState {
 
   /// Cards are still to be played: nothing else is done with the board meanwhile.
   bool PlayUnfinished() const { return playing && !playFinished; }
+  bool AnyHidden() const {
+    return std::any_of(kAllSeats.begin(), kAllSeats.end(),
+                       [this](Seat seat) { return hidden[seat]; });
+  }
 };
 
 }  // namespace tricklet::ui

@@ -1,6 +1,5 @@
 #include "ui/window/main_window.h"
 
-#include <algorithm>
 #include <optional>
 
 #include <QAction>
@@ -445,9 +444,7 @@ void MainWindow::CarryOut(WindowAsk what) {
 
 /// Turns all hands face down, or up again when any is.
 void MainWindow::HideAll() {
-  const PerSeat<bool> before = state_.hidden;
-  const bool down =
-      std::none_of(kAllSeats.begin(), kAllSeats.end(), [&](Seat seat) { return before[seat]; });
+  const bool down = !state_.AnyHidden();
   for (const Seat seat : kAllSeats) state_.hidden[seat] = down;
   ShowHidden();
 }

@@ -42,6 +42,8 @@ TEST(PanesShown, FollowFromTheStateAlone) {
   const std::tuple<const char*, std::function<void(S&)>, const char*> cases[] = {
       {"between plays", [](S&) {},
        "bars table left library statistics right contract makeable traveller"},
+      {"a hidden hand", [](S& s) { s.hidden[Seat::East] = true; },
+       "bars table left library right contract makeable traveller"},
       {"play", [](S& s) { s.playing = true; },
        "bars table left tricks right contract makeable traveller"},
       {"finished play", [](S& s) { s.playing = s.playFinished = true; },
