@@ -17,6 +17,8 @@ namespace {
 
 /// Few enough for the rows that come into sight not to wait for the others.
 constexpr std::size_t kBoardsInBatch = 32;
+/// About as many boards to either side of the current one as a list may show.
+constexpr int kAroundCurrent = 15;
 
 constexpr std::size_t Place(int boardNumber) {
   return static_cast<std::size_t>(boardNumber);
@@ -48,6 +50,9 @@ void BoardSummaries::Show(const std::shared_ptr<const LinFile>& results) {
     folder_ = folder;
     known_.fill({});
     toLookAt_.fill(false);
+    // The list will show the current board, wherever it stood before.
+    SetSeen(session_.board.boardNumber - kAroundCurrent,
+            session_.board.boardNumber + kAroundCurrent);
     results_ = std::make_shared<const ResultsByBoard>();
   }
   for (int n = kFirstBoardNumber; n <= kLastBoardNumber; ++n) {

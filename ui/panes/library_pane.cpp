@@ -83,7 +83,6 @@ LibraryPane::LibraryPane(Session& session, BoardSummaries& summaries, QWidget* p
       list_(new BoardList(session, summaries, this)) {
   BuildLibrary(session);
   fraLibrary->Body()->addWidget(list_, 1);
-  fraLibrary->Body()->addWidget(lblLibrary);
   BuildHighest();
   BuildBoard();
   connect(list_, &BoardList::BoardChosen, this, &LibraryPane::BoardChosen);
@@ -140,6 +139,7 @@ void LibraryPane::BuildLibrary(Session& session) {
   fraLibrary->Body()->addLayout(row);
 }
 
+/// A row below the list: "33 boards in library of 36".
 void LibraryPane::BuildHighest() {
   cmbMaxBoard = MakeCombo(QStringLiteral("cmbMaxBoard"), tr("Highest board"), this);
   cmbMaxBoard->setToolTip(tr("Highest board"));
@@ -151,9 +151,18 @@ void LibraryPane::BuildHighest() {
   cmbMaxBoard->setValidator(new HighestBoardValidator(session_, cmbMaxBoard));
   connect(cmbMaxBoard, &QComboBox::activated, this,
           [this](int index) { emit HighestChosen(index + 1); });
+
+  auto* caption = new QLabel(tr("of"), this);
+  caption->setBuddy(cmbMaxBoard);
+  MakeQuiet(caption);
+  auto* row = new QHBoxLayout;
+  row->addWidget(lblLibrary, 1);
+  row->addWidget(caption);
+  row->addWidget(cmbMaxBoard);
+  fraLibrary->Body()->addLayout(row);
 }
 
-/// A row below the list: "< Board 7 > of 36".
+/// The last row: "< Board 7 >".
 void LibraryPane::BuildBoard() {
   lblPrevious =
       MakeStepButton(QStringLiteral("lblPrevious"), Qt::LeftArrow, tr("Previous board"), this);
@@ -167,16 +176,11 @@ void LibraryPane::BuildBoard() {
   connect(cmbBoard, &QComboBox::activated, this,
           [this](int index) { emit BoardChosen(index + 1); });
 
-  auto* caption = new QLabel(tr("of"), this);
-  caption->setBuddy(cmbMaxBoard);
-  MakeQuiet(caption);
   auto* row = new QHBoxLayout;
   row->setSpacing(4);
   row->addWidget(lblPrevious);
   row->addWidget(cmbBoard, 1);
   row->addWidget(lblNext);
-  row->addWidget(caption);
-  row->addWidget(cmbMaxBoard);
   for (QToolButton* button : {lblPrevious, lblNext}) {
     button->setFixedHeight(cmbBoard->sizeHint().height());
     button->setFixedWidth(cmbBoard->sizeHint().height() * 4 / 5);
@@ -186,7 +190,7 @@ void LibraryPane::BuildBoard() {
 
 QList<QWidget*> LibraryPane::TabOrder() const {
   return QList<QWidget*>{cmbLibs, cmdChange} + list_->TabOrder() +
-         QList<QWidget*>{lblPrevious, cmbBoard, lblNext, cmbMaxBoard};
+         QList<QWidget*>{cmbMaxBoard, lblPrevious, cmbBoard, lblNext};
 }
 
 void LibraryPane::Show(const Session& session) {
@@ -196,7 +200,6 @@ void LibraryPane::Show(const Session& session) {
 
   list_->Show();
   cmbBoard->setCurrentIndex(session.board.boardNumber - 1);
-  cmbBoard->setToolTip(cmbBoard->currentText());
   const QSignalBlocker quiet(cmbMaxBoard);
   cmbMaxBoard->setCurrentIndex(session.library.maxBoard - 1);
   cmbMaxBoard->setEditText(QString::number(session.library.maxBoard));
