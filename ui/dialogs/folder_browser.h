@@ -3,6 +3,9 @@
 
 #include <QFileDialog>
 
+class QLineEdit;
+class QPushButton;
+
 namespace tricklet::ui {
 
 /// A folder browser that takes the name of a folder that is not there yet, too; whoever has asked
@@ -19,8 +22,13 @@ class FolderBrowser : public QFileDialog {
   QString Folder() const { return chosen_; }
 
   void accept() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void AllowTyped();
+
+  QLineEdit* typed_ = nullptr;
+  QPushButton* choose_ = nullptr;
   QString chosen_;
 };
 

@@ -1,7 +1,9 @@
 // The message boxes of the window's host, and the dialogs.
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QRadioButton>
 
 #include "tests/ui/window_fixture.h"
@@ -70,7 +72,9 @@ TEST_F(DialogsTest, AFolderThatIsNotThereYetCanBeChosen) {
   for (const auto& [in, name] :
        {std::pair(here, QStringLiteral("no such folder")), std::pair(QDir::rootPath(), there)}) {
     FolderBrowser browser(nullptr, QStringLiteral("Choose"), in, name);
-    browser.accept();
+    browser.show();
+    QTest::qWait(0);  // Qt has looked at what is there
+    browser.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open)->click();
     EXPECT_EQ(browser.result(), QDialog::Accepted);
     EXPECT_EQ(browser.Folder(), QDir(in).filePath(name));
     EXPECT_EQ(QFileInfo::exists(browser.Folder()), name == there) << "it is made by whoever asked";
