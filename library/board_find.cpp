@@ -21,7 +21,8 @@ std::optional<Contract> ContractOf(const ListedBoard& board) {
 
 template <Doubling kDoubling>
 bool IsDoubled(const ListedBoard& board) {
-  return ContractOf(board) && DoublingOf(board.summary->contract) == kDoubling;
+  return board.summary && board.summary->contractLevel > 0 &&
+         DoublingOf(board.summary->contract) == kDoubling;
 }
 
 bool IsPassedOut(const ListedBoard& board) {
@@ -127,7 +128,7 @@ BoardQuery::Test BoardQuery::TestOf(std::string_view word) {
   if (Board wanted; SetContract(wanted, word)) {
     const Doubling doubling = DoublingOf(wanted.contract);
     return [contract = Contract{wanted.contractLevel, wanted.trumps}, doubling](const auto& board) {
-      return ContractOf(board) == contract &&
+      return board.summary && ContractOf(board) == contract &&
              (doubling == Doubling::Undoubled || DoublingOf(board.summary->contract) == doubling);
     };
   }

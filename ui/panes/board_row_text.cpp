@@ -42,9 +42,10 @@ QString ContractText(const ListedBoard& board) {
 
 QString ScoreText(const ListedBoard& board) {
   if (!board.score) return ToQt(board.ruling);
-  const QString points = QString::number(std::abs(*board.score));
-  if (*board.score == 0) return points;
-  return (*board.score > 0 ? QStringLiteral("+") : QStringLiteral("\u2212")) + points;
+  const QString sign = *board.score > 0   ? QStringLiteral("+")
+                       : *board.score < 0 ? QStringLiteral("\u2212")
+                                          : QString();
+  return sign + QString::number(std::abs(*board.score));
 }
 
 /// "4 spades doubled by South".
