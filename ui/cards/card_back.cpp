@@ -11,6 +11,7 @@ namespace {
 const QColor kBackBlue(0x2B, 0x4C, 0x8C);
 const QColor kBackLine(0xB9, 0xC9, 0xEA);
 const QColor kBackEdge(0x5A, 0x5C, 0x58);
+constexpr double kMostStep = 9;  // pixels between two diagonals
 
 /// Diagonals both ways within `field`.
 void DrawLattice(QPainter& painter, const QRectF& field, double step) {
@@ -39,8 +40,9 @@ QPixmap Render(QSize pixels, double ratio) {
   const double border = std::max(1.5, 0.11 * shortSide);
   const QRectF field = body.adjusted(border, border, -border, -border);
   painter.fillRect(field, kBackBlue);
-  DrawLattice(painter, field,
-              std::max(3.0, field.width() / std::round(field.width() / (shortSide / 3))));
+  // Three diamonds across a small back; more, and no larger ones, across that of a hand's card.
+  const double wished = std::max(shortSide / 7, std::min(shortSide / 3, kMostStep));
+  DrawLattice(painter, field, std::max(3.0, field.width() / std::round(field.width() / wished)));
   return picture;
 }
 

@@ -29,6 +29,14 @@ void DrawFelt(QPainter& painter, const QRectF& felt, const TableColours& colours
   painter.drawRoundedRect(felt, kFeltRadius, kFeltRadius);
 }
 
+void DrawFocusRing(QPainter& painter, const QRectF& felt, const TableColours& colours) {
+  constexpr double kWeight = 2;
+  painter.setPen(QPen(colours.text, kWeight));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(felt.adjusted(kWeight, kWeight, -kWeight, -kWeight),
+                          kFeltRadius - kWeight, kFeltRadius - kWeight);
+}
+
 void ScenePainter::Draw(QPainter& painter, const TableScene& scene, const TableLayout& layout,
                         const PerSeat<Caption>& captions, const std::vector<CardScore>& best,
                         const SceneStyle& style) {

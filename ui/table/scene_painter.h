@@ -18,6 +18,9 @@ namespace tricklet::ui {
 /// The felt, which lies below everything.
 void DrawFelt(QPainter& painter, const QRectF& felt, const TableColours& colours);
 
+/// Tells that keys go to the table.
+void DrawFocusRing(QPainter& painter, const QRectF& felt, const TableColours& colours);
+
 /// What a drawing takes from the widget.
 struct SceneStyle {
   QPalette palette;

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QCursor>
 #include <QHelpEvent>
+#include <QMetaMethod>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -147,6 +148,7 @@ void TableView::paintEvent(QPaintEvent* /*event*/) {
   painter.setRenderHint(QPainter::Antialiasing);
   const TableColours colours = ColoursFor(palette());
   DrawFelt(painter, rect(), colours);
+  if (ring_) DrawFocusRing(painter, rect(), colours);
   if (isEmpty_) return;
   if (edit_) {
     DrawEditing(painter, *edit_, colours);
@@ -186,6 +188,19 @@ void TableView::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) {
     PlaceChildren();
   }
+}
+
+/// The focus is shown to those who move it by keys.
+void TableView::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  ring_ = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+  update();
+}
+
+void TableView::focusOutEvent(QFocusEvent* event) {
+  QWidget::focusOutEvent(event);
+  ring_ = false;
+  update();
 }
 
 // Mouse and keys. Outside of play and editing the table takes only clicks on captions.
@@ -230,7 +245,9 @@ void TableView::keyPressEvent(QKeyEvent* event) {
 }
 
 std::optional<Seat> TableView::CaptionAt(QPointF point) const {
-  if (edit_ || isEmpty_) return std::nullopt;
+  // In a dialog's table nobody hides hands.
+  static const QMetaMethod hideAsked = QMetaMethod::fromSignal(&TableView::HideAsked);
+  if (edit_ || isEmpty_ || !isSignalConnected(hideAsked)) return std::nullopt;
   const CaptionLayout pills =
       LayOutCaptions(Layout(), SceneCaptions(scene_, {}), scene_.settings, logicalDpiY());
   for (const Seat seat : kAllSeats) {

@@ -81,6 +81,8 @@ class TableView : public QWidget {
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
@@ -105,6 +107,7 @@ class TableView : public QWidget {
   TableScene scene_;
   std::optional<TableEdit> edit_;
   bool isEmpty_ = false;
+  bool ring_ = false;  // the focus has come by the keyboard
   std::vector<CardScore> best_;
   TableKeys keys_;
   ScenePainter painter_;

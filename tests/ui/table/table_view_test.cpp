@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QtTest>
 #include <gtest/gtest.h>
 
 #include "tests/support/hands.h"
@@ -71,6 +72,26 @@ TEST_F(TableViewTest, ForgetsThePicturesOfCardsWhenSettingsOrSizeChange) {
     EXPECT_EQ(Picture(view, LongSuits(), settings, size), Picture(LongSuits(), settings, size))
         << "design " << IndexOf(design);
   }
+}
+
+TEST_F(TableViewTest, TellsWhyADropIsRefused) {
+  TableView view;
+  view.resize(900, 680);
+  view.ShowEdit(LongSuits(), Settings());
+  QStringList told;
+  QObject::connect(&view, &TableView::Refused, &view, [&](const QString& why) { told << why; });
+  const EditLayout layout = LayOutEdit(view.size(), LongSuits().hands);
+  const QPoint from = SeizePoint(layout, {Suit::Spades, Rank::Ace}).toPoint();
+  const QPointF drops[] = {layout.Area(HandFrame::East).center(), layout.table.centre.center(),
+                           layout.packArea.center()};
+  for (const QPointF to : drops) {
+    QTest::mousePress(&view, Qt::LeftButton, {}, from);
+    QMouseEvent move(QEvent::MouseMove, to, to, Qt::NoButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&view, &move);
+    QTest::mouseRelease(&view, Qt::LeftButton, {}, to.toPoint());
+  }
+  EXPECT_EQ(told, (QStringList{QStringLiteral("East has 13 cards already"),
+                               QStringLiteral("A card is dropped on a hand or on the pack")}));
 }
 
 TEST_F(TableViewTest, FitsTextIntoItsAreaWhateverTheFont) {
