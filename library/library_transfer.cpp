@@ -25,6 +25,7 @@ namespace fs = std::filesystem;
 bool AgreesToOverwrite(Session& session, const std::string& text,
                        const std::vector<std::string>& names, const fs::path& folder) {
   std::vector<std::string> shown;
+  shown.reserve(names.size());
   for (const std::string& name : names) shown.push_back(ShownName(name));
   return session.host.Ask({.text = text,
                            .safe = Answer::No,

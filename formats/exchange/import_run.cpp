@@ -138,7 +138,7 @@ ImportOutcome StoreText(Session& session, RecordSource source, const std::string
   const Failures failures = ReadAndStore(session, source, reader, sink, reading);
   if (failures.reading) {
     ErrorReport(session.host, *failures.reading);
-    const ImportOutcome outcome = TellUnreadable(session, unreadable, boardBefore);
+    ImportOutcome outcome = TellUnreadable(session, unreadable, boardBefore);
     TellIfAny(session.host, PartText(sink.Stored(), failures.unstored));
     TellErrorIfAny(session.host, failures.notRecycled);
     return outcome;

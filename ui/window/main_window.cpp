@@ -116,11 +116,18 @@ void MainWindow::BuildStatusLine() {
   MakeQuiet(hint);
   statusBar()->setSizeGripEnabled(false);
   statusBar()->setContentsMargins(8, 0, 8, 4);
-  statusBar()->setStyleSheet(QStringLiteral("QStatusBar::item { border: none; }"));  // on Windows
+  StyleStatusLine();
   statusBar()->addWidget(status_, 1);
   statusBar()->addPermanentWidget(newVersion_);
   statusBar()->addPermanentWidget(hint);
   ShowNewVersion();
+}
+
+/// No frames round its texts, as Windows has them. The texts keep the colours that they had when the
+/// sheet was set, so it is set again when they change.
+void MainWindow::StyleStatusLine() {
+  statusBar()->setStyleSheet(QString());
+  statusBar()->setStyleSheet(QStringLiteral("QStatusBar::item { border: none; }"));
 }
 
 void MainWindow::ShowNewVersion() {
@@ -502,7 +509,10 @@ void MainWindow::changeEvent(QEvent* event) {
     Later(this, [this] { LookAtDisk(); });
   }
   if (event->type() != QEvent::PaletteChange || status_ == nullptr) return;
-  Later(this, [this] { Display(); });
+  Later(this, [this] {
+    StyleStatusLine();
+    Display();
+  });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

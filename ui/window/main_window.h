@@ -102,6 +102,7 @@ class MainWindow : public QMainWindow {
   void PlaceBesideHands(QWidget* dialog);
   void SetTabOrder();
   void BuildStatusLine();
+  void StyleStatusLine();
   void ShowNewVersion();
   void SetWorking(bool working);
   void ShowState();
