@@ -43,7 +43,7 @@ void FolderBrowser::accept() {
   if (QFileInfo::exists(chosen_)) {
     QFileDialog::accept();
   } else {
-    QDialog::accept();
+    done(QDialog::Accepted);
   }
 }
 
