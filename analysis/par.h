@@ -15,11 +15,13 @@ struct ParContract {
   bool doubled = false;
   int result = 0;               ///< overtricks, 0, or undertricks as a negative number
   std::vector<Seat> declarers;  ///< of one side: those who reach the result
+  friend bool operator==(const ParContract&, const ParContract&) = default;
 };
 
 struct Par {
   int score = 0;                       ///< North-South's
   std::vector<ParContract> contracts;  ///< none when par is to pass the board out
+  friend bool operator==(const Par&, const Par&) = default;
 };
 
 /// Par from the double-dummy table: the auction as a game in which either side bids on as long as

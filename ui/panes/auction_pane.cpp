@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include <QHBoxLayout>
+#include <QApplication>
 #include <QHeaderView>
 #include <QTableWidget>
 #include <QToolButton>
@@ -13,6 +13,7 @@
 #include "ui/style/qt_text.h"
 #include "ui/style/symbols.h"
 #include "ui/style/theme.h"
+#include "ui/table/table_style.h"
 
 namespace tricklet::ui {
 namespace {
@@ -22,6 +23,7 @@ constexpr int kLeastRows = 3;  // so that the pane below does not jump from boar
 // these.
 constexpr int kMostRows = 8;
 constexpr int kPartOfWindow = 3;
+constexpr double kHeadFont = 0.88;  // of the pane's, so that "North vul" fits
 
 /// Columns run West, North, East, South.
 constexpr int ColumnOf(Seat seat) {
@@ -37,15 +39,6 @@ constexpr QColor kDoubleOnDark(0xFF, 0x7B, 0x86);
 
 /// Room for a call, in heights of the window's font: the grid's columns are never narrower.
 constexpr int kCallWidth = 4;
-
-/// The setting's font, made small enough for the longest call to fit into a column.
-QFont FontForCalls(const FontSetting& setting, const QFontMetrics& window) {
-  QFont font = ToFont(setting);
-  const int width = window.height() * kCallWidth;
-  const int needed = QFontMetrics(font).horizontalAdvance(QStringLiteral("Rdbl "));
-  if (needed > width) font.setPointSizeF(font.pointSizeF() * width / needed);
-  return font;
-}
 
 QTableWidgetItem* MakeCall(const CallList& calls, int index, const Settings& settings,
                            const QPalette& palette) {
@@ -97,48 +90,45 @@ QTableWidget* MakeGrid(QWidget* parent) {
 }  // namespace
 
 AuctionPane::AuctionPane(QWidget* parent)
-    : Section(QStringLiteral("fraAuction"), parent),
-      cmdBid(new QToolButton(this)),
+    : FoldingSection(QStringLiteral("fraAuction"), QStringLiteral("cmdBid"),
+                     {tr("Show the auction"), tr("Show the auction"), tr("Hide the auction")},
+                     parent),
       flexBids(MakeGrid(this)) {
   SetTitle(tr("Auction"));
-  cmdBid->setObjectName(QStringLiteral("cmdBid"));
-  cmdBid->setAccessibleName(tr("Show the auction"));
-  cmdBid->setAutoRaise(true);
-  cmdBid->setCheckable(true);
-  cmdBid->setFocusPolicy(Qt::StrongFocus);
-  connect(cmdBid, &QToolButton::toggled, this, &AuctionPane::Expand);
-  TitleRow()->addWidget(cmdBid);
-  Body()->addWidget(flexBids);
-  cmdBid->setChecked(true);
-}
-
-void AuctionPane::Expand(bool expanded) {
-  cmdBid->setText(expanded ? QStringLiteral("v") : QStringLiteral("^"));
-  cmdBid->setToolTip(expanded ? tr("Hide the auction") : tr("Show the auction"));
-  flexBids->setVisible(expanded);
+  ContentLayout()->addWidget(flexBids);
 }
 
 QList<QWidget*> AuctionPane::TabOrder() const {
-  return {cmdBid, flexBids};
+  return {Button(), flexBids};
 }
 
 void AuctionPane::Show(const Session& session, const AuctionEntry* entry, const Board* recorded) {
   const Board& board = recorded != nullptr ? *recorded : session.board;
   SetTitle(recorded != nullptr ? tr("Recorded auction") : tr("Auction"));
-  flexBids->setVisible(entry != nullptr || cmdBid->isChecked());
-  ShowHeads(session.board);
+  SetUnfolded(session.settings.showAuction);
+  Content()->setVisible(entry != nullptr || Unfolded());
+  const bool calling = entry != nullptr && !entry->Over();
+  ShowHeads(session.board, calling ? std::optional(entry->ToCall()) : std::nullopt);
   ShowCalls(session, entry != nullptr ? entry->Calls() : board.calls);
 }
 
-void AuctionPane::ShowHeads(const Board& board) {
+/// The seat to call stands out by a triangle as well as by its colour.
+void AuctionPane::ShowHeads(const Board& board, std::optional<Seat> toCall) {
   for (const Seat seat : kAllSeats) {
     const QString name = ToQt(SeatName[seat]);
     const bool vulnerable = IsVulnerable(board.Vulnerability(), SideOf(seat));
-    auto* head = new QTableWidgetItem(vulnerable ? tr("%1 (v)").arg(name) : name);
-    head->setToolTip(vulnerable ? tr("%1, vulnerable").arg(name)
-                                : tr("%1, not vulnerable").arg(name));
-    head->setData(Qt::AccessibleTextRole, head->toolTip());
-    if (vulnerable) {
+    const bool calls = seat == toCall;
+    const QString text = vulnerable ? tr("%1 vul").arg(name) : name;
+    auto* head = new QTableWidgetItem(calls ? QStringLiteral("\u25B8 ") + text : text);
+    QString spoken =
+        vulnerable ? tr("%1, vulnerable").arg(name) : tr("%1, not vulnerable").arg(name);
+    if (calls) spoken += tr(", to call");
+    head->setToolTip(spoken);
+    head->setData(Qt::AccessibleTextRole, spoken);
+    if (calls) {
+      head->setBackground(kToActYellow);
+      head->setForeground(QColor(Qt::black));
+    } else if (vulnerable) {
       head->setBackground(IsDark(palette()) ? kVulnerableOnDark : kVulnerable);
       head->setForeground(QColor(Qt::white));
     }
@@ -146,10 +136,22 @@ void AuctionPane::ShowHeads(const Board& board) {
   }
 }
 
+/// The setting's font, larger by as much as the column's font has grown beyond the window's, and
+/// small enough for the longest call to fit into a column.
+QFont AuctionPane::FontForCalls(const FontSetting& setting) const {
+  QFont font = ToFont(setting);
+  font.setPointSizeF(font.pointSizeF() * this->font().pointSizeF() /
+                     QApplication::font().pointSizeF());
+  const int width = fontMetrics().height() * kCallWidth;
+  const int needed = QFontMetrics(font).horizontalAdvance(QStringLiteral("Rdbl "));
+  if (needed > width) font.setPointSizeF(font.pointSizeF() * width / needed);
+  return font;
+}
+
 void AuctionPane::ShowCalls(const Session& session, const CallList& calls) {
   const int offset = ColumnOf(session.board.Dealer());
   const int rows = std::max(kLeastRows, (offset + calls.Count() + kSeats - 1) / kSeats);
-  const QFont font = FontForCalls(session.settings.hgFont[1], fontMetrics());
+  const QFont font = FontForCalls(session.settings.hgFont[1]);
   flexBids->clearContents();
   flexBids->setRowCount(rows);
   flexBids->setFont(font);
@@ -162,7 +164,7 @@ void AuctionPane::ShowCalls(const Session& session, const CallList& calls) {
   }
   QFont headFont = this->font();
   headFont.setBold(true);
-  headFont.setPointSizeF(headFont.pointSizeF() * 0.9);
+  headFont.setPointSizeF(headFont.pointSizeF() * kHeadFont);
   flexBids->horizontalHeader()->setFont(headFont);
   const int headHeight = QFontMetrics(headFont).height() + 8;
   flexBids->horizontalHeader()->setFixedHeight(headHeight);

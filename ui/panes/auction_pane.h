@@ -1,35 +1,35 @@
 // The right column's upper part: the auction.
 #pragma once
 
+#include <optional>
+
 #include "library/session.h"
 #include "play/auction_entry.h"
-#include "ui/style/section.h"
+#include "ui/style/folding_section.h"
 
 class QTableWidget;
-class QToolButton;
 
 namespace tricklet::ui {
 
 /// The calls in rows of four from West to South, the dealer's first.
-class AuctionPane : public Section {
+class AuctionPane : public FoldingSection {
   Q_OBJECT
 
  public:
   explicit AuctionPane(QWidget* parent = nullptr);
 
-  /// Shows the board's auction. While one is being entered, shows that one and opens up for it;
-  /// while a play record is looked at, shows the auction of `recorded`.
+  /// Shows the board's auction. While one is being entered, shows that one with the seat to call,
+  /// and opens up for it; while a play record is looked at, shows the auction of `recorded`.
   void Show(const Session& session, const AuctionEntry* entry, const Board* recorded = nullptr);
 
   /// The controls in the order of the tab key.
   QList<QWidget*> TabOrder() const;
 
  private:
-  void ShowHeads(const Board& board);
+  void ShowHeads(const Board& board, std::optional<Seat> toCall);
   void ShowCalls(const Session& session, const CallList& calls);
-  void Expand(bool expanded);
+  QFont FontForCalls(const FontSetting& setting) const;
 
-  QToolButton* cmdBid;
   QTableWidget* flexBids;
 };
 

@@ -7,6 +7,7 @@
 
 #include "core/scoring.h"
 #include "ui/commands/commands.h"
+#include "ui/style/follow_font.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/side_column.h"
 #include "ui/style/symbols.h"
@@ -17,10 +18,7 @@ namespace {
 QLabel* MakeLabel(const QString& name, double size, QWidget* parent) {
   auto* label = new QLabel(parent);
   label->setObjectName(name);
-  QFont font = label->font();
-  font.setPointSizeF(font.pointSizeF() * size);
-  font.setBold(true);
-  label->setFont(font);
+  new FollowFont(label, size, true);
   return label;
 }
 
@@ -70,10 +68,9 @@ QList<QWidget*> ContractPane::TabOrder() const {
   return {cmdUndo, cmdClaim};
 }
 
-void ContractPane::Show(const Session& session, const CardPlay& play, bool entering) {
+void ContractPane::Show(const Session& session, const CardPlay& play) {
   const Board& board = session.board;
   KeepRoom(this, board.NumCalls() > 0);
-  setVisible(!entering && board.NumCalls() > 0);
   SetContractText(lblScore, play.PlayMode() ? play.ScoreText() : PassedOutText(board),
                   session.settings);
   ShowPlay(play);
@@ -81,7 +78,6 @@ void ContractPane::Show(const Session& session, const CardPlay& play, bool enter
 
 void ContractPane::ShowRecord(const Replay& record, const Settings& settings) {
   KeepRoom(this, true);
-  setVisible(true);
   SetContractText(lblScore, record.ScoreText(), settings);
   fraPlay_->setVisible(false);
 }

@@ -22,9 +22,8 @@ class ContractPane : public QWidget {
  public:
   explicit ContractPane(Commands& commands, QWidget* parent = nullptr);
 
-  /// Shows `play`, or the result of a board that was passed out. Nothing is shown while the auction
-  /// is being entered.
-  void Show(const Session& session, const CardPlay& play, bool entering);
+  /// Shows `play`, or the result of a board that was passed out.
+  void Show(const Session& session, const CardPlay& play);
 
   /// Shows the result of a play record that is looked at.
   void ShowRecord(const Replay& record, const Settings& settings);

@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QLabel>
 #include <QTableWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -20,22 +19,17 @@ namespace {
 
 constexpr int kSeatColumn = 0;
 constexpr int kFirstStrainColumn = 1;
+constexpr int kRowPadding = 8;
 
 }  // namespace
 
 MakeablePane::MakeablePane(QWidget* parent)
-    : Section(QStringLiteral("fraMakeable"), parent),
-      cmdMake(new QToolButton(this)),
+    : FoldingSection(QStringLiteral("fraMakeable"), QStringLiteral("cmdMake"),
+                     {tr("Show the makeable table"), tr("Show the makeable table"),
+                      tr("Hide the makeable table")},
+                     parent),
       lvwMake(new QTableWidget(kSeats, 1 + kStrains, this)),
-      lblPar(new QLabel(this)) {
-  cmdMake->setObjectName(QStringLiteral("cmdMake"));
-  cmdMake->setAccessibleName(tr("Show the makeable table"));
-  cmdMake->setAutoRaise(true);
-  cmdMake->setCheckable(true);
-  cmdMake->setFocusPolicy(Qt::StrongFocus);
-  connect(cmdMake, &QToolButton::toggled, this, &MakeablePane::Expand);
-  TitleRow()->addWidget(cmdMake);
-
+      lblPar(new ElidedLabel(this)) {
   lvwMake->setObjectName(QStringLiteral("lvwMake"));
   lvwMake->setEditTriggers(QAbstractItemView::NoEditTriggers);
   lvwMake->setSelectionMode(QAbstractItemView::NoSelection);
@@ -49,7 +43,7 @@ MakeablePane::MakeablePane(QWidget* parent)
   StyleHeads();
   lvwMake->verticalHeader()->hide();
   lvwMake->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  lvwMake->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+  lvwMake->verticalHeader()->setMinimumSectionSize(1);
   for (int row = 0; row < kSeats; ++row) {
     lvwMake->setItem(row, kSeatColumn, new QTableWidgetItem);
     for (int column = 0; column < kStrains; ++column) {
@@ -58,11 +52,12 @@ MakeablePane::MakeablePane(QWidget* parent)
       lvwMake->setItem(row, kFirstStrainColumn + column, cell);
     }
   }
-  Body()->addWidget(lvwMake);
+  ContentLayout()->addWidget(lvwMake);
   lblPar->setObjectName(QStringLiteral("lblPar"));
-  lblPar->setWordWrap(true);
-  Body()->addWidget(lblPar);
-  cmdMake->setChecked(true);
+  lblPar->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  MakeQuiet(lblPar);
+  TitleRow()->insertWidget(1, lblPar);
+  SetSizes();
 }
 
 /// A style sheet keeps the colours that it was set with, so it is set again when they change. The
@@ -74,18 +69,20 @@ void MakeablePane::StyleHeads() {
 }
 
 void MakeablePane::changeEvent(QEvent* event) {
-  Section::changeEvent(event);
+  FoldingSection::changeEvent(event);
   if (event->type() == QEvent::PaletteChange) StyleHeads();
+  if (event->type() == QEvent::FontChange) SetSizes();
 }
 
-void MakeablePane::Expand(bool expanded) {
-  cmdMake->setText(expanded ? QStringLiteral("v") : QStringLiteral("^"));
-  cmdMake->setToolTip(expanded ? tr("Hide the makeable table") : tr("Show the makeable table"));
-  lvwMake->setVisible(expanded);
+void MakeablePane::SetSizes() {
+  lvwMake->horizontalHeader()->setFont(font());
+  lvwMake->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowPadding);
+  lvwMake->setFixedHeight(lvwMake->horizontalHeader()->sizeHint().height() +
+                          lvwMake->verticalHeader()->length() + 2 * lvwMake->frameWidth());
 }
 
 QList<QWidget*> MakeablePane::TabOrder() const {
-  return {cmdMake, lvwMake};
+  return {Button(), lvwMake};
 }
 
 void MakeablePane::ShowHeads(const Settings& settings) {
@@ -102,13 +99,17 @@ void MakeablePane::ShowHeads(const Settings& settings) {
 }
 
 void MakeablePane::Show(const Session& session) {
-  setVisible(session.board.makeableValid && session.settings.showMakeable);
-  if (isHidden()) return;
-  const MakeableView view =
-      MakeMakeableView(session.board.makeable, session.settings.makeableContract);
+  SetUnfolded(session.settings.showMakeTable);
+  ShowHeads(session.settings);
+  if (session.board.makeableValid) ShowTable(session);
+  SetSizes();
+}
+
+void MakeablePane::ShowTable(const Session& session) {
+  const Board& board = session.board;
+  const MakeableView view = MakeMakeableView(board.makeable, session.settings.makeableContract);
   SetTitle(ToQt(view.caption));
   lvwMake->setAccessibleName(ToQt(view.caption));
-  ShowHeads(session.settings);
   int row = 0;
   for (const MakeableView::Row& line : view.rows) {
     lvwMake->item(row, kSeatColumn)->setText(ToQt(line.seat));
@@ -116,13 +117,10 @@ void MakeablePane::Show(const Session& session) {
     for (const std::string& cell : line.cells) lvwMake->item(row, column++)->setText(ToQt(cell));
     ++row;
   }
-  const Board& board = session.board;
   const QString par =
       ToQt(ParText(ComputePar(board.makeable, board.Dealer(), board.Vulnerability())));
   lblPar->setText(WithSymbols(par));
   lblPar->setAccessibleName(par);
-  lvwMake->setFixedHeight(lvwMake->horizontalHeader()->sizeHint().height() +
-                          lvwMake->verticalHeader()->length() + 2 * lvwMake->frameWidth());
 }
 
 }  // namespace tricklet::ui

@@ -2,21 +2,21 @@
 #pragma once
 
 #include "library/session.h"
-#include "ui/style/section.h"
+#include "ui/style/folding_section.h"
 
-class QLabel;
 class QTableWidget;
-class QToolButton;
 
 namespace tricklet::ui {
 
-/// Visible only when it is switched on and the board has a valid table.
-class MakeablePane : public Section {
+/// The tricks or contracts of all declarers in a table, and par beside the title.
+class MakeablePane : public FoldingSection {
   Q_OBJECT
 
  public:
   explicit MakeablePane(QWidget* parent = nullptr);
 
+  /// Shows the board's table. Without a valid one nothing is shown, but the pane is as large as
+  /// with one.
   void Show(const Session& session);
 
   /// The controls in the order of the tab key.
@@ -28,11 +28,11 @@ class MakeablePane : public Section {
  private:
   void StyleHeads();
   void ShowHeads(const Settings& settings);
-  void Expand(bool expanded);
+  void ShowTable(const Session& session);
+  void SetSizes();
 
-  QToolButton* cmdMake;
   QTableWidget* lvwMake;
-  QLabel* lblPar;
+  ElidedLabel* lblPar;
 };
 
 }  // namespace tricklet::ui

@@ -65,8 +65,6 @@ StatisticsPane::StatisticsPane(QWidget* parent) : Section(QStringLiteral("fraSta
 
 void StatisticsPane::Show(const Session& session) {
   const Board& board = session.board;
-  setVisible(session.settings.showStats && HasCards(board.hands) && !board.playMode);
-  if (isHidden()) return;
   const Statistics statistics = GetStats(board.hands);
   for (const Suit suit : kAllSuits) {
     symbols_[suit]->setText(ColouredSymbol(suit, session.settings.suitColour, palette()));

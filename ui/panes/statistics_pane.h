@@ -7,7 +7,7 @@
 
 namespace tricklet::ui {
 
-/// Visible only when the statistics are switched on, the board holds cards and is not being played.
+/// Points, losers and lengths of the four hands, and the losers of both sides.
 class StatisticsPane : public Section {
   Q_OBJECT
 

@@ -1,6 +1,7 @@
 #include "ui/panes/traveller_cells.h"
 
 #include <array>
+#include <cmath>
 #include <optional>
 
 #include <QCoreApplication>
@@ -22,14 +23,26 @@ TravellerCell NumberCell(std::optional<double> number, const QString& text) {
   return {text, number.value_or(TravellerCell::kNothing), true};
 }
 
-TravellerCell PairCell(const std::string& pair) {
+/// "12 Cy, Di": sorted by the pair's number.
+TravellerCell PairCell(const TravellerRow& row, Side side) {
+  const QString pair = ToQt(row.pair[side]);
+  QString names = ToQt(row.names[side]);
+  names.replace(QStringLiteral(" & "), QStringLiteral(", "));
   bool number = false;
-  const QString text = ToQt(pair);
-  const double key = text.toDouble(&number);
-  return {text, pair.empty() ? TravellerCell::kNothing : number ? key : 0, true};
+  const double key = pair.toDouble(&number);
+  return {QStringList{pair, names}.join(QLatin1Char(' ')).trimmed(), pair.isEmpty()
+                                                                         ? TravellerCell::kNothing
+                                                                     : number ? key
+                                                                              : 0};
 }
 
-/// "4S" with the symbol of its suit; its colour is that of the suit.
+/// "=", "+1" or "-2".
+QString ResultText(int result) {
+  if (result == 0) return QStringLiteral("=");
+  return result > 0 ? QStringLiteral("+%1").arg(result) : QStringLiteral("\u2212%1").arg(-result);
+}
+
+/// "4Sx S =" with the symbol of its suit.
 TravellerCell ContractCell(const TravellerRow& row, bool fourColours, const QPalette& palette) {
   Board contract;
   if (!SetContract(contract, row.contract)) {
@@ -37,72 +50,90 @@ TravellerCell ContractCell(const TravellerRow& row, bool fourColours, const QPal
     const std::string text = row.ContractText();
     return {text == kNotPlayed ? Text("Not played") : ToQt(text), TravellerCell::kNothing};
   }
+  QString rest;
+  if (row.declarer) rest += QLatin1Char(' ') + ToQt(SeatName[*row.declarer].substr(0, 1));
+  if (const auto result = row.Result()) rest += QLatin1Char(' ') + ResultText(*result);
   const int rank = contract.contractLevel * kStrains + IndexOf(ToBidStrain(contract.trumps));
-  TravellerCell cell{WithSymbols(ToQt(row.contract)), static_cast<double>(rank)};
+  TravellerCell cell{WithSymbols(ToQt(row.contract)) + rest, static_cast<double>(rank)};
   if (contract.trumps == Strain::NoTrump) return cell;
+  cell.symbol = ToQt(SuitSymbol[ToSuit(contract.trumps)]);
   cell.colour = SuitColourOnWindow(ToSuit(contract.trumps), fourColours, palette);
-  cell.spoken = ToQt(row.contract);
+  cell.spoken = ToQt(row.contract) + rest;
   return cell;
-}
-
-TravellerCell DeclarerCell(const TravellerRow& row) {
-  if (!row.declarer) return {QString(), TravellerCell::kNothing};
-  return {ToQt(SeatName[*row.declarer].substr(0, 1)), static_cast<double>(IndexOf(*row.declarer))};
 }
 
 TravellerCell LeadCell(const TravellerRow& row, bool fourColours, const QPalette& palette) {
   if (!row.lead) return {QString(), TravellerCell::kNothing};
   const Card card = *row.lead;
-  return {ToQt(CardText(card)), static_cast<double>(kCardsInPack - card.Index()), false,
+  return {ToQt(CardText(card)),
+          static_cast<double>(kCardsInPack - card.Index()),
+          false,
+          ToQt(SuitSymbol[card.suit]),
           SuitColourOnWindow(card.suit, fourColours, palette),
           ToQt(SuitName[card.suit]) + QLatin1Char(' ') + ToQt(RankText[card.rank])};
 }
 
-/// A score stands on the side that has won it, a ruling on North-South's.
-TravellerCell ScoreCell(const TravellerRow& row, Side side) {
-  if (!row.score) {
-    return NumberCell(std::nullopt, side == Side::NorthSouth ? ToQt(row.adjusted) : QString());
-  }
-  const int own = side == Side::NorthSouth ? *row.score : -*row.score;
-  const bool shown = own > 0 || (own == 0 && side == Side::NorthSouth);
-  return NumberCell(own, shown ? QString::number(own) : QString());
+QString ScoreText(int score) {
+  return score < 0 ? QStringLiteral("\u2212%1").arg(-score) : QString::number(score);
 }
 
-TravellerCell PointsCell(const TravellerRow& row, Side side) {
-  const auto points = row.points[side];
-  if (!points) return NumberCell(std::nullopt, QString());
-  return NumberCell(*points, ToQt(ShortestText(*points)));
+TravellerCell ScoreCell(const TravellerRow& row) {
+  if (!row.score) return NumberCell(std::nullopt, ToQt(row.adjusted));
+  return NumberCell(*row.score, ScoreText(*row.score));
+}
+
+bool IsMatchPoints(const Traveller& traveller) {
+  return traveller.scoring == "MP";
+}
+
+/// Match points as a percentage of those that both pairs have between them.
+TravellerCell PointsCell(const TravellerRow& row, const Traveller& traveller) {
+  const auto ours = row.points[Side::NorthSouth];
+  if (!ours) return NumberCell(std::nullopt, QString());
+  if (!IsMatchPoints(traveller)) return NumberCell(*ours, ToQt(ShortestText(*ours)));
+  const float all = *ours + row.points[Side::EastWest].value_or(0);
+  if (all <= 0) return NumberCell(std::nullopt, QString());
+  constexpr double kPercent = 100;
+  const double share = kPercent * *ours / all;
+  return NumberCell(share, QString::number(std::lround(share)));
 }
 
 }  // namespace
 
-TravellerCell MakeTravellerCell(TravellerColumn column, const TravellerRow& row, bool fourColours,
+TravellerCell MakeTravellerCell(TravellerColumn column, const TravellerRow& row,
+                                const Traveller& traveller, bool fourColours,
                                 const QPalette& palette) {
   switch (column) {
-    case TravellerColumn::PairNS:
-      return PairCell(row.pair[Side::NorthSouth]);
-    case TravellerColumn::PairEW:
-      return PairCell(row.pair[Side::EastWest]);
+    case TravellerColumn::NorthSouth:
+      return PairCell(row, Side::NorthSouth);
+    case TravellerColumn::EastWest:
+      return PairCell(row, Side::EastWest);
     case TravellerColumn::Contract:
       return ContractCell(row, fourColours, palette);
-    case TravellerColumn::By:
-      return DeclarerCell(row);
     case TravellerColumn::Lead:
       return LeadCell(row, fourColours, palette);
-    case TravellerColumn::Tricks:
-      return NumberCell(row.tricks, row.tricks ? QString::number(*row.tricks) : QString());
-    case TravellerColumn::ScoreNS:
-      return ScoreCell(row, Side::NorthSouth);
-    case TravellerColumn::ScoreEW:
-      return ScoreCell(row, Side::EastWest);
-    case TravellerColumn::PointsNS:
-      return PointsCell(row, Side::NorthSouth);
-    case TravellerColumn::PointsEW:
-      return PointsCell(row, Side::EastWest);
-    case TravellerColumn::Names:
+    case TravellerColumn::Score:
+      return ScoreCell(row);
+    case TravellerColumn::Points:
       break;
   }
-  return {ToQt(row.NamesText())};
+  return PointsCell(row, traveller);
+}
+
+TravellerCell MakeParCell(TravellerColumn column, const Par& par) {
+  if (column == TravellerColumn::NorthSouth) return {Text("par")};
+  if (column == TravellerColumn::Score) return NumberCell(par.score, ScoreText(par.score));
+  if (column != TravellerColumn::Contract) return {};
+  if (par.contracts.empty()) return {Text("Pass")};
+  const ParContract& first = par.contracts.front();
+  QString contract = QString::number(first.level) + ToQt(StrainLetter[ToStrain(first.strain)]);
+  if (first.doubled) contract += QLatin1Char('x');
+  QString seats;
+  for (const Seat seat : first.declarers) seats += ToQt(SeatName[seat].substr(0, 1));
+  const QString rest = QStringLiteral(" %1 %2").arg(seats, ResultText(first.result));
+  TravellerCell cell{WithSymbols(contract) + rest};
+  cell.spoken = contract + rest;
+  return cell;
 }
 
 TravellerHead MakeTravellerHead(TravellerColumn column, const Traveller& traveller) {
@@ -111,33 +142,26 @@ TravellerHead MakeTravellerHead(TravellerColumn column, const Traveller& travell
     const char* tip;
   };
   constexpr std::array<Head, kTravellerColumns> kHeads{{
-      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "NS"),
+      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "North-South"),
        QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Pair sitting North-South")},
-      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "EW"),
+      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "East-West"),
        QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Pair sitting East-West")},
-      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Cont"),
-       QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Contract")},
-      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "By"),
-       QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Declarer")},
-      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Ld"),
-       QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Lead")},
-      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Tr"),
-       QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Tricks of the declarer")},
-      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "NS+"),
+      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Contract"),
+       QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Contract, declarer and result")},
+      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Lead"),
+       QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Opening lead")},
+      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Score"),
        QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Score of North-South")},
-      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "EW+"),
-       QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Score of East-West")},
       {"%1", QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "%1 of North-South")},
-      {"%1", QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "%1 of East-West")},
-      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Names"),
-       QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Players")},
   }};
   const Head& head = kHeads.at(static_cast<std::size_t>(column));
   QString text = Text(head.text);
   QString tip = Text(head.tip);
-  if (column == TravellerColumn::PointsNS || column == TravellerColumn::PointsEW) {
-    text = text.arg(ToQt(traveller.scoring));
-    tip = tip.arg(ToQt(traveller.scoring));
+  if (column == TravellerColumn::Points) {
+    const QString points =
+        IsMatchPoints(traveller) ? QStringLiteral("MP %") : ToQt(traveller.scoring);
+    text = text.arg(points);
+    tip = tip.arg(points);
     if (traveller.computed) tip += Text(", computed from the scores");
   }
   return {text, tip};

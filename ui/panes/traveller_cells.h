@@ -7,25 +7,14 @@
 #include <QPalette>
 #include <QString>
 
+#include "analysis/par.h"
 #include "formats/results/traveller.h"
 
 namespace tricklet::ui {
 
-/// As on the travellers of a club.
-enum class TravellerColumn {
-  PairNS,
-  PairEW,
-  Contract,
-  By,
-  Lead,
-  Tricks,
-  ScoreNS,
-  ScoreEW,
-  PointsNS,
-  PointsEW,
-  Names
-};
-inline constexpr int kTravellerColumns = 11;
+/// As on the travellers of a club; points and scores are North-South's.
+enum class TravellerColumn { NorthSouth, EastWest, Contract, Lead, Score, Points };
+inline constexpr int kTravellerColumns = 6;
 
 /// Cells are sorted by what they mean, "10" after "9" and a contract by its rank: first by their
 /// keys, then by their texts.
@@ -36,13 +25,17 @@ struct TravellerCell {
   QString text;
   double key = 0;
   bool isNumber = false;  ///< stands at the right
-  QColor colour = {};     ///< invalid: that of the window's texts
+  QString symbol = {};    ///< the suit symbol within the text; empty without one
+  QColor colour = {};     ///< its colour
   QString spoken = {};    ///< for a screen reader; empty: the text
 };
 
 /// The suits of contracts and leads are in two or four colours, fit for the window's `palette`.
-TravellerCell MakeTravellerCell(TravellerColumn column, const TravellerRow& row, bool fourColours,
+TravellerCell MakeTravellerCell(TravellerColumn column, const TravellerRow& row,
+                                const Traveller& traveller, bool fourColours,
                                 const QPalette& palette);
+/// The same for the line of par.
+TravellerCell MakeParCell(TravellerColumn column, const Par& par);
 
 struct TravellerHead {
   QString text;

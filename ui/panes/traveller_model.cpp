@@ -1,30 +1,48 @@
 #include "ui/panes/traveller_model.h"
 
+#include <algorithm>
+
 #include <QFont>
 
 #include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
 
-void TravellerModel::Show(const Traveller& traveller, bool fourColours, const QPalette& palette) {
+void TravellerModel::Show(const Traveller& traveller, const std::optional<Par>& par,
+                          bool fourColours, const QPalette& palette) {
   beginResetModel();
   marked_ = -1;
+  quiet_ = palette.color(QPalette::PlaceholderText);
   rows_.assign(traveller.rows.size(), {});
+  for (std::size_t row = 0; row < rows_.size(); ++row) {
+    rows_[row].row = static_cast<int>(row);
+    // As rich text with everything escaped, so that no part of it is taken for mark-up.
+    rows_[row].tip = QStringLiteral("<span>%1</span>")
+                         .arg(ToQt(ReadLinBidding(traveller.rows[row])).toHtmlEscaped());
+  }
   for (int column = 0; column < kTravellerColumns; ++column) {
     const auto place = static_cast<std::size_t>(column);
     const auto kind = static_cast<TravellerColumn>(column);
     heads_.at(place) = MakeTravellerHead(kind, traveller);
     for (std::size_t row = 0; row < rows_.size(); ++row) {
       rows_[row].cells.at(place) =
-          MakeTravellerCell(kind, traveller.rows[row], fourColours, palette);
+          MakeTravellerCell(kind, traveller.rows[row], traveller, fourColours, palette);
     }
   }
-  for (std::size_t row = 0; row < rows_.size(); ++row) {
-    // As rich text with everything escaped, so that no part of it is taken for mark-up.
-    rows_[row].tip = QStringLiteral("<span>%1</span>")
-                         .arg(ToQt(ReadLinBidding(traveller.rows[row])).toHtmlEscaped());
-  }
+  if (par && !rows_.empty()) InsertPar(traveller, *par);
   endResetModel();
+}
+
+void TravellerModel::InsertPar(const Traveller& traveller, const Par& par) {
+  Row line;
+  for (int column = 0; column < kTravellerColumns; ++column) {
+    line.cells.at(static_cast<std::size_t>(column)) =
+        MakeParCell(static_cast<TravellerColumn>(column), par);
+  }
+  line.tip = ToQt(ParText(par));
+  const auto lower = std::ranges::find_if(
+      traveller.rows, [&](const TravellerRow& row) { return row.score && *row.score < par.score; });
+  rows_.insert(rows_.begin() + (lower - traveller.rows.begin()), std::move(line));
 }
 
 void TravellerModel::Mark(int row) {
@@ -39,12 +57,33 @@ const TravellerCell& TravellerModel::At(const QModelIndex& index) const {
       .cells.at(static_cast<std::size_t>(index.column()));
 }
 
+int TravellerModel::RowOf(const QModelIndex& index) const {
+  return rows_.at(static_cast<std::size_t>(index.row())).row;
+}
+
+QModelIndex TravellerModel::PlaceOf(int row) const {
+  const auto place = std::ranges::find(rows_, row, &Row::row);
+  if (row < 0 || place == rows_.end()) return {};
+  return index(static_cast<int>(place - rows_.begin()), 0);
+}
+
 int TravellerModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(rows_.size());
 }
 
 int TravellerModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : kTravellerColumns;
+}
+
+Qt::ItemFlags TravellerModel::flags(const QModelIndex& index) const {
+  const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+  return index.isValid() && RowOf(index) < 0 ? flags & ~Qt::ItemIsSelectable : flags;
+}
+
+QVariant TravellerModel::FontOf(const QModelIndex& index) const {
+  QFont font;  // all but its weight is the grid's
+  font.setBold(RowOf(index) >= 0 && RowOf(index) == marked_);
+  return font;
 }
 
 QVariant TravellerModel::data(const QModelIndex& index, int role) const {
@@ -59,12 +98,15 @@ QVariant TravellerModel::data(const QModelIndex& index, int role) const {
     case Qt::TextAlignmentRole:
       return QVariant((cell.isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     case Qt::ForegroundRole:
-      return cell.colour.isValid() ? cell.colour : QVariant();
-    case Qt::FontRole: {
-      QFont font;  // all but its weight is the grid's
-      font.setBold(index.row() == marked_);
-      return font;
-    }
+      return RowOf(index) < 0 ? quiet_ : QVariant();
+    case Qt::FontRole:
+      return FontOf(index);
+    case SymbolRole:
+      return cell.symbol;
+    case SymbolColourRole:
+      return cell.colour;
+    case ParRole:
+      return RowOf(index) < 0;
     default:
       return {};
   }
@@ -75,8 +117,10 @@ QVariant TravellerModel::headerData(int section, Qt::Orientation orientation, in
   const TravellerHead& head = heads_.at(static_cast<std::size_t>(section));
   if (role == Qt::DisplayRole) return head.text;
   if (role == Qt::ToolTipRole || role == Qt::AccessibleTextRole) return head.tip;
-  const bool names = section == static_cast<int>(TravellerColumn::Names);
-  if (role == Qt::TextAlignmentRole && names) return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+  if (role == Qt::TextAlignmentRole) {
+    const bool number = section >= static_cast<int>(TravellerColumn::Score);
+    return QVariant((number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+  }
   return {};
 }
 
@@ -85,6 +129,11 @@ TravellerOrder::TravellerOrder(TravellerModel* rows) : QSortFilterProxyModel(row
 }
 
 bool TravellerOrder::lessThan(const QModelIndex& left, const QModelIndex& right) const {
+  if (left.column() != static_cast<int>(TravellerColumn::Score)) {
+    const bool descending = sortOrder() == Qt::DescendingOrder;
+    if (rows_.RowOf(left) < 0) return descending;
+    if (rows_.RowOf(right) < 0) return !descending;
+  }
   const TravellerCell& a = rows_.At(left);
   const TravellerCell& b = rows_.At(right);
   return a.key != b.key ? a.key < b.key : a.text.localeAwareCompare(b.text) < 0;

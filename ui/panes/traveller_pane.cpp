@@ -14,7 +14,11 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "ui/panes/traveller_delegate.h"
 #include "ui/panes/traveller_model.h"
+#include "ui/style/drawn_button.h"
+#include "ui/style/follow_font.h"
+#include "ui/style/highlight.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/symbols.h"
 #include "ui/style/theme.h"
@@ -24,6 +28,7 @@ namespace {
 
 constexpr int kLeastRows = 3;  // of the grid, before the column scrolls
 constexpr int kRowPadding = 6;
+constexpr int kLeastNames = 4;      // of a pair, in heights of the font
 constexpr int kCellPadding = 7;     // on both sides of a text, with a pixel for rounding
 constexpr double kFontSize = 0.88;  // of the window's, so that the numbers fit beside each other
 /// So that the pane takes the room that the column has left.
@@ -32,26 +37,21 @@ constexpr int kStretch = 100;
 }  // namespace
 
 TravellerPane::TravellerPane(Results& results, QWidget* parent)
-    : Section(QStringLiteral("secTraveller"), parent),
+    : FoldingSection(QStringLiteral("secTraveller"), QStringLiteral("cmdTraveller"),
+                     {tr("Show the traveller"), tr("Show the traveller (Ctrl+J)"),
+                      tr("Hide the traveller (Ctrl+J)")},
+                     parent),
       results_(results),
-      cmdTraveller(new QToolButton(this)),
-      fraTraveller(new QWidget(this)),
       rows_(new TravellerModel(this)),
       order_(new TravellerOrder(rows_)),
-      flexTraveller(new QTableView(fraTraveller)),
-      cmbLinNames(new QComboBox(fraTraveller)),
-      lblLinPlace_(new ElidedLabel(fraTraveller)) {
-  cmdTraveller->setObjectName(QStringLiteral("cmdTraveller"));
-  cmdTraveller->setAccessibleName(tr("Show the traveller"));
-  cmdTraveller->setAutoRaise(true);
-  cmdTraveller->setCheckable(true);
-  cmdTraveller->setFocusPolicy(Qt::StrongFocus);
-  connect(cmdTraveller, &QToolButton::toggled, this, &TravellerPane::Expand);
-  TitleRow()->addWidget(cmdTraveller);
-
-  fraTraveller->setObjectName(QStringLiteral("fraTraveller"));
-  auto* column = new QVBoxLayout(fraTraveller);
-  column->setContentsMargins(0, 0, 0, 0);
+      flexTraveller(new QTableView(Content())),
+      cmbLinNames(new QComboBox(Content())),
+      lblLinPlace_(new ElidedLabel(Content())),
+      lblTables_(new QLabel(this)) {
+  MakeQuiet(lblTables_);
+  TitleRow()->insertWidget(1, lblTables_);
+  Content()->setObjectName(QStringLiteral("fraTraveller"));
+  QVBoxLayout* column = ContentLayout();
   cmbLinNames->setObjectName(QStringLiteral("cmbLinNames"));
   cmbLinNames->setAccessibleName(tr("Play records"));
   cmbLinNames->setToolTip(tr("The table whose auction and play are shown"));
@@ -62,17 +62,16 @@ TravellerPane::TravellerPane(Results& results, QWidget* parent)
   BuildSteps(column);
   BuildGrid();
   column->addWidget(flexTraveller, 1);  // last, as its height gives way
-  Body()->addWidget(fraTraveller, 1);
-  cmdTraveller->setChecked(true);
+  SetSizes();
 }
 
 void TravellerPane::BuildGrid() {
   flexTraveller->setObjectName(QStringLiteral("flexTraveller"));
   flexTraveller->setAccessibleName(tr("Traveller"));
-  QFont small = font();
-  small.setPointSizeF(small.pointSizeF() * kFontSize);
-  flexTraveller->setFont(small);
+  new FollowFont(flexTraveller, kFontSize);
   flexTraveller->setModel(order_);
+  flexTraveller->setItemDelegate(new TravellerDelegate(flexTraveller));
+  flexTraveller->viewport()->installEventFilter(this);
   flexTraveller->setSelectionBehavior(QAbstractItemView::SelectRows);
   flexTraveller->setSelectionMode(QAbstractItemView::SingleSelection);
   flexTraveller->setShowGrid(false);
@@ -81,10 +80,7 @@ void TravellerPane::BuildGrid() {
   flexTraveller->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   flexTraveller->verticalHeader()->hide();
   flexTraveller->verticalHeader()->setMinimumSectionSize(1);
-  flexTraveller->verticalHeader()->setDefaultSectionSize(QFontMetrics(small).height() +
-                                                         kRowPadding);
   QHeaderView* heads = flexTraveller->horizontalHeader();
-  heads->setFont(small);
   heads->setMinimumSectionSize(1);
   heads->setSectionResizeMode(QHeaderView::Fixed);
   heads->setHighlightSections(false);
@@ -95,24 +91,20 @@ void TravellerPane::BuildGrid() {
   // The grid takes the height that is left in the column, but at least a few rows; with a preferred
   // height of its own it would make the column scroll.
   flexTraveller->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
-  const int row = flexTraveller->verticalHeader()->defaultSectionSize();
-  flexTraveller->setMinimumHeight((kLeastRows + 2) * row + 2 * flexTraveller->frameWidth());
   auto* sort = new QShortcut(Qt::Key_Space, flexTraveller, nullptr, nullptr, Qt::WidgetShortcut);
   connect(sort, &QShortcut::activated, this, &TravellerPane::SortByCurrentColumn);
   connect(flexTraveller->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
     const auto rows = flexTraveller->selectionModel()->selectedRows();
-    if (!marking_ && !rows.isEmpty()) ChooseRow(order_->mapToSource(rows.first()).row());
+    if (!marking_ && !rows.isEmpty()) ChooseRow(rows_->RowOf(order_->mapToSource(rows.first())));
   });
 }
 
 QToolButton* TravellerPane::AddStep(Step step, const char* name, const QString& text,
                                     const QString& tip, void (Results::*procedure)()) {
-  auto* button = new QToolButton(fraTraveller);
-  button->setObjectName(QString::fromLatin1(name));
+  auto* button = new DrawnButton(QString::fromLatin1(name), Content());
   button->setText(text);
   button->setToolTip(tip);
   button->setAccessibleName(tip.section(QLatin1Char('('), 0, 0).trimmed());
-  button->setFocusPolicy(Qt::StrongFocus);
   connect(button, &QToolButton::clicked, &results_, procedure);
   steps_.at(step) = button;
   return button;
@@ -139,46 +131,57 @@ void TravellerPane::BuildSteps(QVBoxLayout* column) {
 }
 
 QList<QWidget*> TravellerPane::TabOrder() const {
-  QList<QWidget*> order{cmdTraveller, cmbLinNames};
+  QList<QWidget*> order{Button(), cmbLinNames};
   for (QToolButton* step : steps_) order += step;
   return order + QList<QWidget*>{flexTraveller};
 }
 
-void TravellerPane::Toggle() {
-  cmdTraveller->toggle();
+int TravellerPane::RowAt(const QPoint& at) const {
+  const QModelIndex index = flexTraveller->indexAt(flexTraveller->viewport()->mapFrom(this, at));
+  return index.isValid() ? rows_->RowOf(order_->mapToSource(index)) : -1;
 }
 
-void TravellerPane::Expand(bool expanded) {
-  cmdTraveller->setText(expanded ? QStringLiteral("v") : QStringLiteral("^"));
-  cmdTraveller->setToolTip(expanded ? tr("Hide the traveller (Ctrl+J)")
-                                    : tr("Show the traveller (Ctrl+J)"));
-  fraTraveller->setVisible(expanded);
+/// The grid takes the height that is left in the column, but at least a few rows.
+void TravellerPane::SetSizes() {
+  const int row = QFontMetrics(flexTraveller->font()).height() + kRowPadding;
+  flexTraveller->horizontalHeader()->setFont(flexTraveller->font());
+  flexTraveller->verticalHeader()->setDefaultSectionSize(row);
+  flexTraveller->setMinimumHeight((kLeastRows + 2) * row + 2 * flexTraveller->frameWidth());
+  QPalette marked;  // all but these two is the window's
+  marked.setColor(QPalette::Highlight, MarkedRowColour(palette()));
+  marked.setColor(QPalette::HighlightedText, palette().color(QPalette::Text));
+  flexTraveller->setPalette(marked);
+}
+
+void TravellerPane::Show(const Session& session) {
+  SetUnfolded(session.settings.showTraveller);
   QSizePolicy policy = sizePolicy();
-  policy.setVerticalStretch(expanded ? kStretch : 0);
+  policy.setVerticalStretch(Unfolded() ? kStretch : 0);
   setSizePolicy(policy);
-}
-
-void TravellerPane::SetLinVisible(bool visible) {
-  setVisible(visible);
-}
-
-void TravellerPane::Show(const Settings& settings) {
-  SetLinVisible(results_.HasLinData());
-  if (isHidden()) return;
-  if (shownEdition_ != results_.Edition() || fourColours_ != settings.suitColour) {
+  const Board& board = session.board;
+  std::optional<Par> par;
+  if (board.makeableValid && session.settings.showMakeable) {
+    par = ComputePar(board.makeable, board.Dealer(), board.Vulnerability());
+  }
+  if (shownEdition_ != results_.Edition() || fourColours_ != session.settings.suitColour ||
+      par != par_) {
     shownEdition_ = results_.Edition();
-    fourColours_ = settings.suitColour;
-    FillGrid(settings);
+    fourColours_ = session.settings.suitColour;
+    par_ = par;
+    FillGrid(session);
     FillNames();
   }
   MarkRecord();
   ShowSteps();
 }
 
-void TravellerPane::FillGrid(const Settings& settings) {
+void TravellerPane::FillGrid(const Session& session) {
   const Traveller& traveller = results_.OfBoard();
-  SetTitle(traveller.rows.empty() ? tr("No traveller for this board") : tr("Traveller"));
-  rows_->Show(traveller, settings.suitColour, palette());
+  const int tables = static_cast<int>(traveller.rows.size());
+  SetTitle(tables == 0 ? tr("No traveller for this board") : tr("Traveller"));
+  lblTables_->setText(tables == 1 ? tr("1 table") : tr("%1 tables").arg(tables));
+  lblTables_->setVisible(tables > 0);
+  rows_->Show(traveller, par_, session.settings.suitColour, palette());
   TravellerResize();
 }
 
@@ -209,7 +212,7 @@ void TravellerPane::SortByCurrentColumn() {
 /// `row` of the traveller, whatever the grid is sorted by.
 void TravellerPane::ChooseRow(int row) {
   const Traveller& traveller = results_.OfBoard();
-  if (row >= static_cast<int>(traveller.rows.size())) return;
+  if (row < 0 || row >= static_cast<int>(traveller.rows.size())) return;
   const std::string names = traveller.rows.at(static_cast<std::size_t>(row)).NamesText();
   results_.ShowRecord(FindLinName(AddLinNames(traveller), names, row));
 }
@@ -221,7 +224,7 @@ void TravellerPane::MarkRecord() {
   cmbLinNames->setCurrentIndex(row);
   rows_->Mark(row);
   marking_ = true;
-  const QModelIndex place = order_->mapFromSource(rows_->index(row, 0));
+  const QModelIndex place = order_->mapFromSource(rows_->PlaceOf(row));
   if (!place.isValid()) {
     flexTraveller->clearSelection();
     flexTraveller->setCurrentIndex({});
@@ -242,40 +245,66 @@ void TravellerPane::ShowSteps() {
   lblLinPlace_->setAccessibleName(lblLinPlace_->text());
 }
 
-/// Columns as wide as what stands in them; the names take what the grid has left.
-void TravellerPane::TravellerResize() {
+/// The width of what stands in a column.
+int TravellerPane::WidthOfColumn(TravellerColumn column) const {
   QFont bold = flexTraveller->font();
   bold.setBold(true);
   const QFontMetricsF metrics(bold);  // the marked row's
   const QHeaderView* head = flexTraveller->horizontalHeader();
-  const QFontMetrics heads(head->font());
-  const int arrow = head->style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, head);
-  int used = 0;
-  for (int column = 0; column < kTravellerColumns; ++column) {
-    int width = heads.horizontalAdvance(order_->headerData(column, Qt::Horizontal).toString());
-    if (column == head->sortIndicatorSection()) width += arrow;
-    for (int row = 0; row < rows_->rowCount(); ++row) {
-      const QString text = rows_->At(rows_->index(row, column)).text;
-      width = std::max(width, static_cast<int>(std::ceil(metrics.horizontalAdvance(text))));
-    }
-    width += kCellPadding;
-    if (column == static_cast<int>(TravellerColumn::Names)) {
-      width = std::max(width, flexTraveller->viewport()->width() - used);
-    }
-    flexTraveller->setColumnWidth(column, width);
-    used += width;
+  const int place = static_cast<int>(column);
+  int width = QFontMetrics(head->font())
+                  .horizontalAdvance(order_->headerData(place, Qt::Horizontal).toString());
+  if (place == head->sortIndicatorSection()) {
+    width += head->style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, head);
   }
+  for (int row = 0; row < rows_->rowCount(); ++row) {
+    const QString text = rows_->At(rows_->index(row, place)).text;
+    width = std::max(width, static_cast<int>(std::ceil(metrics.horizontalAdvance(text))));
+  }
+  return width + kCellPadding;
 }
 
-void TravellerPane::resizeEvent(QResizeEvent* event) {
-  Section::resizeEvent(event);
-  if (shownEdition_ > 0) TravellerResize();
+/// Contracts and numbers are shown whole. The names of both sides share what is left and are cut
+/// where that is too little; the lead is left out where they would be.
+void TravellerPane::TravellerResize() {
+  using Column = TravellerColumn;
+  const auto set = [this](Column column, int width) {
+    flexTraveller->setColumnWidth(static_cast<int>(column), width);
+  };
+  int left = flexTraveller->viewport()->width();
+  for (const Column column : {Column::Contract, Column::Score, Column::Points}) {
+    const int width = WidthOfColumn(column);
+    set(column, width);
+    left -= width;
+  }
+  const int ours = WidthOfColumn(Column::NorthSouth);
+  const int theirs = WidthOfColumn(Column::EastWest);
+  const int lead = WidthOfColumn(Column::Lead);
+  const bool showLead = ours + theirs + lead <= left;
+  flexTraveller->setColumnHidden(static_cast<int>(Column::Lead), !showLead);
+  if (showLead) {
+    set(Column::Lead, lead);
+    left -= lead;
+  }
+  const int least = QFontMetrics(flexTraveller->font()).height() * kLeastNames;
+  const int half = left / 2;
+  // What one side does not need, the other may have.
+  const int first = std::max(
+      least, std::clamp(half, std::min(ours, left - theirs), std::max(ours, left - theirs)));
+  set(Column::NorthSouth, first);
+  set(Column::EastWest, std::max(least, left - first));
+}
+
+bool TravellerPane::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Resize && shownEdition_ > 0) TravellerResize();
+  return FoldingSection::eventFilter(watched, event);
 }
 
 /// The cells take colours from the palette, so they are made again when it changes.
 void TravellerPane::changeEvent(QEvent* event) {
-  Section::changeEvent(event);
+  FoldingSection::changeEvent(event);
   if (event->type() == QEvent::PaletteChange) shownEdition_ = 0;
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) SetSizes();
 }
 
 }  // namespace tricklet::ui

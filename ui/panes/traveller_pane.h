@@ -2,9 +2,11 @@
 #pragma once
 
 #include <array>
+#include <optional>
 
+#include "analysis/par.h"
 #include "ui/control/results.h"
-#include "ui/style/section.h"
+#include "ui/style/folding_section.h"
 
 class QComboBox;
 class QTableView;
@@ -12,11 +14,12 @@ class QToolButton;
 
 namespace tricklet::ui {
 
+enum class TravellerColumn;
 class TravellerModel;
 class TravellerOrder;
 
-/// Visible only where the library has results.
-class TravellerPane : public Section {
+/// What happened at each table, with par among it.
+class TravellerPane : public FoldingSection {
   Q_OBJECT
 
  public:
@@ -25,16 +28,16 @@ class TravellerPane : public Section {
 
   /// Shows the results of the board that `results` was last read for, and its record if one is
   /// looked at. The order that the person has sorted them by stays.
-  void Show(const Settings& settings);
+  void Show(const Session& session);
 
-  /// `cmdTraveller`: shows or hides `fraTraveller`.
-  void Toggle();
+  /// The row of the traveller at `at`, a place in the pane; -1 where there is none.
+  int RowAt(const QPoint& at) const;
 
   /// The controls in the order of the tab key.
   QList<QWidget*> TabOrder() const;
 
  protected:
-  void resizeEvent(QResizeEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:
@@ -44,12 +47,12 @@ class TravellerPane : public Section {
   void BuildSteps(QVBoxLayout* column);
   QToolButton* AddStep(Step step, const char* name, const QString& text, const QString& tip,
                        void (Results::*procedure)());
-  void Expand(bool expanded);
-  void SetLinVisible(bool visible);
-  void FillGrid(const Settings& settings);
+  void SetSizes();
+  void FillGrid(const Session& session);
   void FillNames();
   void MarkRecord();
   void ShowSteps();
+  int WidthOfColumn(TravellerColumn column) const;
   void TravellerResize();
   void SortByCurrentColumn();
   void ChooseRow(int row);
@@ -57,15 +60,15 @@ class TravellerPane : public Section {
   Results& results_;
   int shownEdition_ = 0;
   bool fourColours_ = false;
+  std::optional<Par> par_;
   bool marking_ = false;  // the selection is the program's, not the person's
-  QToolButton* cmdTraveller;
-  QWidget* fraTraveller;
   TravellerModel* rows_;
   TravellerOrder* order_;
   QTableView* flexTraveller;
   QComboBox* cmbLinNames;
   std::array<QToolButton*, kSteps> steps_{};
   ElidedLabel* lblLinPlace_;
+  QLabel* lblTables_;
 };
 
 }  // namespace tricklet::ui

@@ -31,7 +31,7 @@ Section::Section(const QString& name, QWidget* parent)
       titleRow_(new QHBoxLayout),
       title_(new ElidedLabel(this)) {
   setObjectName(name);
-  QFont bold = font();
+  QFont bold;  // all but its weight is the section's
   bold.setBold(true);
   title_->setFont(bold);
   titleRow_->addWidget(title_, 1);

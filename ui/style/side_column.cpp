@@ -1,5 +1,6 @@
 #include "ui/style/side_column.h"
 
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace tricklet::ui {
@@ -28,7 +29,19 @@ SideColumn::SideColumn(const QString& name, const QList<QWidget*>& panes, QWidge
 }
 
 int SideColumn::WidthFor(double heights) const {
-  return static_cast<int>(fontMetrics().height() * heights);
+  return static_cast<int>(widget()->fontMetrics().height() * heights);
+}
+
+int SideColumn::LeastWidth() const {
+  return widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
+}
+
+bool SideColumn::SetFontFactor(double factor) {
+  QFont wanted = font();
+  wanted.setPointSizeF(wanted.pointSizeF() * factor);
+  if (wanted.pointSizeF() == widget()->font().pointSizeF()) return false;
+  widget()->setFont(wanted);
+  return true;
 }
 
 void KeepRoom(QWidget* widget, bool keep) {

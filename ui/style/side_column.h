@@ -12,8 +12,12 @@ class SideColumn : public QScrollArea {
  public:
   SideColumn(const QString& name, const QList<QWidget*>& panes, QWidget* parent = nullptr);
 
-  /// The width in pixels of a column that is to be `heights` of the window's font wide.
+  /// The width in pixels of a column that is to be `heights` of its font wide.
   int WidthFor(double heights) const;
+  /// The width in pixels at which no pane is cut, even beside the scroll bar.
+  int LeastWidth() const;
+  /// Makes the panes' font larger than the column's own; false when it was so already.
+  bool SetFontFactor(double factor);
 };
 
 /// Sets whether the room of a widget is kept while it is hidden, so that nothing else moves.

@@ -8,6 +8,7 @@
 #include <QDragEnterEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QScrollArea>
 #include <QStatusBar>
 
 #include "library/library_choice.h"
@@ -36,6 +37,7 @@
 #include "ui/panes/statistics_pane.h"
 #include "ui/panes/traveller_pane.h"
 #include "ui/panes/trick_pane.h"
+#include "ui/style/folding_section.h"
 #include "ui/style/progress_frame.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/section.h"
@@ -50,6 +52,9 @@
 
 namespace tricklet::ui {
 namespace {
+
+/// Below it not even scrolling helps.
+constexpr QSize kLeastWindow(320, 240);
 
 constexpr std::string_view kPlaceSection = "Window";
 constexpr std::string_view kPlaceKey = "Geometry";
@@ -101,8 +106,16 @@ void MainWindow::LayOut() {
   table_->setObjectName(QStringLiteral("picTable"));
   table_->setAccessibleName(tr("Table"));
   table_->setFocusPolicy(Qt::StrongFocus);
-  area_ = new WorkArea(left_, table_, right_, progress_, this);
-  setCentralWidget(area_);
+  area_ = new WorkArea(left_, table_, right_, progress_);
+  // A window that is too small for the work area scrolls it as a whole.
+  auto* scroll = new QScrollArea(this);
+  scroll->setObjectName(QStringLiteral("scrWorkArea"));
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setFocusPolicy(Qt::NoFocus);
+  scroll->setWidgetResizable(true);
+  scroll->setMinimumSize(kLeastWindow);
+  scroll->setWidget(area_);
+  setCentralWidget(scroll);
 }
 
 void MainWindow::BuildStatusLine() {
@@ -178,6 +191,7 @@ void MainWindow::Connect() {
   ConnectPlay();
   ConnectEdit();
   ConnectResults();
+  ConnectColumns();
 }
 
 void MainWindow::ConnectEdit() {
@@ -203,6 +217,27 @@ void MainWindow::ConnectPlay() {
   connect(tricks_, &TrickPane::StopAsked, this,
           [this] { results_->Record() != nullptr ? results_->Leave() : commands_->PlayOrStop(); });
   connect(table_, &TableView::HideAsked, this, &MainWindow::Hide);
+}
+
+/// What is folded away and how wide the columns are outlasts the program.
+void MainWindow::ConnectColumns() {
+  const auto keep = [this](FoldingSection* pane, bool Settings::*setting) {
+    connect(pane, &FoldingSection::Folded, this, [this, setting](bool unfolded) {
+      session_.settings.*setting = unfolded;
+      SaveSetting(session_, setting);
+      Display();
+    });
+  };
+  keep(auction_, &Settings::showAuction);
+  keep(makeable_, &Settings::showMakeTable);
+  keep(traveller_, &Settings::showTraveller);
+  connect(area_, &WorkArea::WidthChosen, this, [this](bool right, int tenths) {
+    int Settings::*setting = right ? &Settings::rightWidth : &Settings::leftWidth;
+    session_.settings.*setting = tenths;
+    SaveSetting(session_, setting);
+    Display();
+  });
+  connect(area_, &WorkArea::FontChanged, this, [this] { Later(this, [this] { Display(); }); });
 }
 
 /// While a play record is looked at, cards that are clicked or typed are meant for it.
@@ -303,7 +338,7 @@ void MainWindow::DisplayAuction() {
 void MainWindow::DisplayPlay() {
   if (progress_->IsWorking()) return;
   library_->OfferNext(play_->Play().Finished());
-  traveller_->Show(session_.settings);
+  traveller_->Show(session_);
   DisplayTable();
   ShowTricks();
   ShowState();
@@ -325,7 +360,7 @@ void MainWindow::DisplayTable() {
     return;
   }
   const AuctionEntry* entry = commands_->Auction();
-  contract_->Show(session_, play_->Play(), entry != nullptr);
+  contract_->Show(session_, play_->Play());
   if (edit_->Editing()) {
     table_->ShowEdit(session_.board, session_.settings);
     return;
@@ -407,9 +442,11 @@ void MainWindow::ShowPanes() {
   menu_->Show(state_, shown.bars);
   statusBar()->setVisible(shown.bars);
   area_->ShowMargin(shown.bars);
+  area_->SetWidths(session_.settings.leftWidth, session_.settings.rightWidth);
   KeepRoom(table_, true);
   KeepRoom(left_, shown.leftRoom);
   KeepRoom(right_, shown.rightRoom);
+  KeepRoom(makeable_, shown.makeableRoom);
   const std::pair<QWidget*, bool> panes[] = {
       {table_, shown.table},         {left_, shown.left},         {library_, shown.library},
       {tricks_, shown.tricks},       {editPane_, shown.edit},     {statistics_, shown.statistics},

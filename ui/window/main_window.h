@@ -87,6 +87,7 @@ class MainWindow : public QMainWindow {
   void ConnectEdit();
   void ConnectResults();
   void ShowFolder();
+  void ConnectColumns();
   QString StatusText() const;
   DiskWatch::Leave LeaveToWatch() const;
   void ShowTitle();

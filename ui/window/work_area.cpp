@@ -1,7 +1,9 @@
 #include "ui/window/work_area.h"
 
 #include <algorithm>
+#include <cmath>
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -13,44 +15,145 @@
 namespace tricklet::ui {
 namespace {
 
-// Widths of the columns in heights of the window's font.
-constexpr double kLeftWidth = 16;
-constexpr double kLeastRightWidth = 20;
+// Widths of the columns in heights of their font.
+constexpr double kLeftWidth = 15;
+constexpr double kLeastChosenWidth = 10;
+constexpr double kLeastRightWidth = 22;
+constexpr double kRightWidthFromAfar = 17;
 constexpr double kMostRightWidth = 46;  // a traveller with its names
+/// Lines of text in the height of a work area whose columns have the window's font.
+constexpr double kLines = 56;
+/// Lines of text on a screen that is looked at from afar: the heads of the auction, which are
+/// smaller, are then a thirtieth of its height.
+constexpr double kLinesFromAfar = 26;
+/// So that a window that is dragged larger does not lay out its texts anew for every pixel.
+constexpr double kFactorStep = 0.05;
+constexpr int kTenths = 10;
 
 }  // namespace
 
+double ColumnFontFactor(int height, int fontHeight, bool fromAfar) {
+  const double lines = static_cast<double>(height) / std::max(1, fontHeight);
+  const double near = std::clamp(lines / kLines, 1.0, kMostGrowth);
+  if (!fromAfar) return std::floor(near / kFactorStep + 1e-9) * kFactorStep;
+  return std::ceil(std::max(near, lines / kLinesFromAfar) / kFactorStep) * kFactorStep;
+}
+
 WorkArea::WorkArea(SideColumn* left, TableView* table, SideColumn* right, ProgressFrame* progress,
                    QWidget* parent)
-    : QWidget(parent), left_(left), right_(right) {
-  left->setFixedWidth(left->WidthFor(kLeftWidth));
-  right->setFixedWidth(right->WidthFor(kLeastRightWidth));
+    : QWidget(parent),
+      left_(left),
+      table_(table),
+      right_(right),
+      leftHandle_(new ColumnHandle(QStringLiteral("hdlLeft"), this)),
+      rightHandle_(new ColumnHandle(QStringLiteral("hdlRight"), this)) {
   table->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   auto* row = new QHBoxLayout;
-  row->setSpacing(kMargin);
+  row->setSpacing(0);
   row->addWidget(left);
+  row->addWidget(leftHandle_);
   row->addWidget(table, 1);
+  row->addWidget(rightHandle_);
   row->addWidget(right);
   auto* column = new QVBoxLayout(this);
   column->setSpacing(kMargin);
   column->addLayout(row, 1);
   column->addWidget(progress);
+  ConnectHandle(leftHandle_, false);
+  ConnectHandle(rightHandle_, true);
+  left->installEventFilter(this);
+  right->installEventFilter(this);
   ShowMargin(true);
+  Arrange();
+}
+
+void WorkArea::ConnectHandle(ColumnHandle* handle, bool right) {
+  connect(handle, &ColumnHandle::Dragged, this, [this, right](int pixels) {
+    const SideColumn* column = right ? right_ : left_;
+    const int wanted = column->width() + (right ? -pixels : pixels);
+    (right ? rightWidth_ : leftWidth_) = ToTenths(std::max(1, wanted));
+    Arrange();
+  });
+  connect(handle, &ColumnHandle::Released, this,
+          [this, right] { emit WidthChosen(right, right ? rightWidth_ : leftWidth_); });
+  connect(handle, &ColumnHandle::Reset, this, [this, right] { emit WidthChosen(right, 0); });
 }
 
 void WorkArea::ShowMargin(bool shown) {
   const int margin = shown ? kMargin : 0;
   layout()->setContentsMargins(margin, margin, margin, margin);
+  if (fromAfar_ == !shown) return;
+  fromAfar_ = !shown;
+  Arrange();
 }
 
-/// Widths depend on the window's size alone, so that nothing moves from board to board.
-void WorkArea::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
-  const QSize room = layout()->contentsRect().size();
+void WorkArea::SetWidths(int left, int right) {
+  if (left == leftWidth_ && right == rightWidth_) return;
+  leftWidth_ = left;
+  rightWidth_ = right;
+  Arrange();
+}
+
+/// What the margin leaves; the layout itself knows it only after it has been activated.
+QSize WorkArea::Room() const {
+  return rect().marginsRemoved(layout()->contentsMargins()).size();
+}
+
+int WorkArea::ToTenths(int pixels) const {
+  return std::max(1, pixels * kTenths / fontMetrics().height());
+}
+
+/// What was chosen or follows from the room, within what the column and the table need.
+int WorkArea::WidthOf(bool right) const {
+  const SideColumn* column = right ? right_ : left_;
+  const QSize room = Room();
+  const int chosen = right ? rightWidth_ : leftWidth_;
+  if (chosen > 0) {
+    const SideColumn* other = right ? left_ : right_;
+    const int most =
+        room.width() - other->width() - table_->minimumSizeHint().width() - 2 * kMargin;
+    const int wanted = chosen * fontMetrics().height() / kTenths;
+    const int least = std::max(column->LeastWidth(), column->WidthFor(kLeastChosenWidth));
+    return std::max(least, std::min(wanted, most));
+  }
+  if (!right) return std::max(column->LeastWidth(), column->WidthFor(kLeftWidth));
   const int table = static_cast<int>(WidthOfTable(room.height()));
   const int rest = room.width() - left_->width() - table - 2 * kMargin;
-  right_->setFixedWidth(
-      std::clamp(rest, right_->WidthFor(kLeastRightWidth), right_->WidthFor(kMostRightWidth)));
+  return std::max(
+      column->LeastWidth(),
+      std::clamp(rest, column->WidthFor(fromAfar_ ? kRightWidthFromAfar : kLeastRightWidth),
+                 column->WidthFor(kMostRightWidth)));
+}
+
+void WorkArea::SetFonts() {
+  const double factor = ColumnFontFactor(Room().height(), fontMetrics().height(), fromAfar_);
+  const bool left = left_->SetFontFactor(factor);
+  const bool right = right_->SetFontFactor(factor);
+  if (left || right) emit FontChanged();
+}
+
+/// Widths and fonts depend on the window's size and on what the person has chosen, so that nothing
+/// moves from board to board.
+void WorkArea::Arrange() {
+  SetFonts();
+  left_->setFixedWidth(WidthOf(false));
+  right_->setFixedWidth(WidthOf(true));
+}
+
+void WorkArea::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  Arrange();
+}
+
+/// The gap beside a column comes, goes and stays with it.
+bool WorkArea::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
+    const SideColumn* column = watched == left_ ? left_ : right_;
+    ColumnHandle* handle = watched == left_ ? leftHandle_ : rightHandle_;
+    KeepRoom(handle, column->sizePolicy().retainSizeWhenHidden());
+    handle->setVisible(!column->isHidden());
+  }
+  return QWidget::eventFilter(watched, event);
 }
 
 }  // namespace tricklet::ui

@@ -15,12 +15,12 @@ TEST_F(MainWindowTest, EveryWayOfSteppingShowsTheBoard) {
   Open();
   const std::tuple<std::function<void()>, const char*, const char*> steps[] = {
       {[this] { Click("lblNext"); }, "Board 2 (empty)", "West"},
-      {[this] { Key("PgDown"); }, "Board 3", "West (v)"},
-      {[this] { PressKey(Find<QWidget>("cmbBoard"), "Down"); }, "Board 4 (empty)", "West (v)"},
+      {[this] { Key("PgDown"); }, "Board 3", "West vul"},
+      {[this] { PressKey(Find<QWidget>("cmbBoard"), "Down"); }, "Board 4 (empty)", "West vul"},
       {[this] { Key("Ctrl+End"); }, "Board 24", "West"},
       {[this] { Click("lblNext"); }, "Board 1", "West"},
       {[this] { Click("lblPrevious"); }, "Board 24", "West"},
-      {[this] { Key("Ctrl+Left"); }, "Board 23 (empty)", "West (v)"},
+      {[this] { Key("Ctrl+Left"); }, "Board 23 (empty)", "West vul"},
       {[this] { Key("Ctrl+Home"); }, "Board 1", "West"},
   };
   for (const auto& [step, shown, west] : steps) {

@@ -54,7 +54,7 @@ class TravellerWindowTest : public WindowTest {
   std::string Pairs() const {
     std::string pairs;
     for (int row = 0; row < Grid()->model()->rowCount(); ++row) {
-      pairs += FromQt(At(row, 0).data().toString());
+      pairs += FromQt(At(row, 0).data().toString().section(QLatin1Char(' '), 0, 0));
     }
     return pairs;
   }
@@ -88,10 +88,10 @@ TEST_F(TravellerWindowTest, ShowsAndHidesTheTraveller) {
   EXPECT_EQ(Text("cmdTraveller"), "^");
   Key("Ctrl+J");
   EXPECT_TRUE(Shown("fraTraveller"));
-  EXPECT_EQ(Row(), "NS|EW|Cont|By|Ld|Tr|NS+|EW+|MP|MP|Names");
-  EXPECT_EQ(Row(0), "1|12|1\u2660|N|\u26652|13|260||6|0|Ann & Bob v Cy & Di");
-  EXPECT_EQ(Row(1), "3|4|7\u2665|E|\u26662|13||1510|0|6|Eve & Fay v Gus & Hal");
-  EXPECT_EQ(Row(2), "5|6|Pass||||0||4|2|Ida & Jo v Kim & Lee");
+  EXPECT_EQ(Row(), "North-South|East-West|Contract|Lead|Score|MP %");
+  EXPECT_EQ(Row(0), "1 Ann, Bob|12 Cy, Di|1\u2660 N +6|\u26652|260|100");
+  EXPECT_EQ(Row(1), "3 Eve, Fay|4 Gus, Hal|7\u2665 E =|\u26662|\u22121510|0");
+  EXPECT_EQ(Row(2), "5 Ida, Jo|6 Kim, Lee|Pass||0|67");
   Key("PgDown");
   EXPECT_EQ(Pairs(), "") << "board 2 has no results";
   EXPECT_TRUE(Shown("cmdTraveller"));
@@ -105,7 +105,7 @@ TEST_F(TravellerWindowTest, IsSortedByEveryColumn) {
   const std::pair<int, std::string> cases[] = {{0, "1357"},  // numbers, and no texts
                                                {1, "3571"},
                                                {2, "5173"},   // Pass, 1S, 1NT, 7H
-                                               {6, "3751"}};  // the score of North-South
+                                               {4, "3751"}};  // the score of North-South
   for (const auto& [column, pairs] : cases) {
     for (const std::string& order : {pairs, std::string(pairs.rbegin(), pairs.rend())}) {
       ClickHead(column);
@@ -130,7 +130,7 @@ TEST_F(TravellerWindowTest, StepsThroughARecord) {
   Bid("P 2H P P P");
   ClickRow(0);
   EXPECT_EQ(Text("cmbLinNames"), "Ann & Bob v Cy & Di");
-  for (int column = 0; column < Columns() - 1; ++column) {  // all but the names
+  for (const int column : {2, 4, 5}) {  // the names may be cut, and the lead left out
     EXPECT_LE(Grid()->sizeHintForIndex(At(0, column)).width(), Grid()->columnWidth(column))
         << "in bold: " << column;
   }
