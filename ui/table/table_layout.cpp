@@ -245,7 +245,8 @@ void PlaceBacks(TableLayout& layout, int count, Seat seat) {
   const double down = StepFor(static_cast<std::size_t>(rows), area.height(), card.height(),
                               kMostRowStep * card.height());
   for (int back = 0; back < count; ++back) {
-    const QPointF corner(row.left + row.step * (back % inRow), area.top() + down * (back / inRow));
+    const int above = back / inRow;  // whole rows
+    const QPointF corner(row.left + row.step * (back % inRow), area.top() + down * above);
     layout.backs.push_back({seat, QRectF(corner, card)});
   }
 }
