@@ -11,23 +11,21 @@ namespace tricklet::ui {
 namespace {
 
 constexpr std::uint32_t kSystemColourBit = 0x80000000U;
-/// WCAG 2.1, success criterion 1.4.3: the minimum contrast of large text.
-constexpr double kLeastContrast = 3.0;
-
+/// `dim` is read on every background here, `dimAccent` among them.
 struct Scheme {
-  QRgb window, base, alternate, button, text, dim, accent, accentText, border;
+  QRgb window, base, alternate, button, text, dim, accent, accentText, dimAccent, border;
 };
 constexpr Scheme kLight{0xF4F4F2, 0xFFFFFF, 0xF7F7F5, 0xFFFFFF, 0x1D1D1F,
-                        0x8A8A88, 0x2563A8, 0xFFFFFF, 0xD8D8D4};
+                        0x646462, 0x2563A8, 0xFFFFFF, 0xE6E6E2, 0xD8D8D4};
 constexpr Scheme kDark{0x26272B, 0x303236, 0x2B2D31, 0x303236, 0xECECEC,
-                       0x84868B, 0x66A3E8, 0x15171A, 0x44464C};
+                       0xA8AAAF, 0x66A3E8, 0x15171A, 0x3A3C41, 0x44464C};
 
 void SetDimmed(QPalette& palette, const Scheme& scheme) {
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
                           QPalette::HighlightedText, QPalette::BrightText}) {
     palette.setColor(QPalette::Disabled, role, QColor(scheme.dim));
   }
-  palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(scheme.border));
+  palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(scheme.dimAccent));
   palette.setColor(QPalette::Disabled, QPalette::Base, QColor(scheme.window));
 }
 
@@ -51,6 +49,16 @@ QPalette ToPalette(const Scheme& scheme) {
   palette.setColor(QPalette::LinkVisited, QColor(scheme.accent));
   SetDimmed(palette, scheme);
   return palette;
+}
+
+/// The system's own is often half transparent, and then too pale to be read.
+QColor QuietColour(const QPalette& palette) {
+  constexpr float kOfText = 0.65F;
+  const QColor text = palette.color(QPalette::WindowText);
+  const QColor ground = palette.color(QPalette::Window);
+  const auto mix = [&](float a, float b) { return kOfText * a + (1 - kOfText) * b; };
+  return QColor::fromRgbF(mix(text.redF(), ground.redF()), mix(text.greenF(), ground.greenF()),
+                          mix(text.blueF(), ground.blueF()));
 }
 
 /// The style draws the rings and boxes of option buttons and check boxes in a darker shade of the
@@ -104,11 +112,16 @@ void ApplyColourScheme(QApplication& application, ColourScheme scheme) {
     QApplication::setPalette(ToPalette(dark ? kDark : kLight));
     if (dark) BrightenIndicators(kDark);
     changed = true;
-  } else if (changed) {
+    return;
+  }
+  if (changed) {
     QApplication::setStyle(systemStyle);
     QApplication::setPalette(QPalette());  // follows the system again
     changed = false;
   }
+  QPalette quiet;
+  quiet.setColor(QPalette::PlaceholderText, QuietColour(QApplication::palette()));
+  QApplication::setPalette(quiet);
 }
 
 QFont ToFont(const FontSetting& setting) {

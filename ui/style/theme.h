@@ -28,6 +28,9 @@ QFont ToFont(const FontSetting& setting);
 QColor ToColour(ColourNumber colour, const QPalette& palette);
 ColourNumber FromColour(const QColor& colour);
 
+/// WCAG 2.1, success criterion 1.4.3: the least contrast of text with what it stands on.
+inline constexpr double kLeastContrast = 4.5;
+
 /// Contrast of two opaque colours, 1..21, after WCAG 2.1 ("contrast ratio").
 double Contrast(const QColor& a, const QColor& b);
 /// `wanted` where it can be read on `background`, else black or white, whichever reads better.
