@@ -56,6 +56,14 @@ struct CardTricks {
   std::array<std::int32_t, 13> tricks;  ///< of the side on play, the current trick included
 };
 
+/// What the library tells of itself: its version, and then under 1400 bytes about the machine.
+struct LibraryInfo {
+  std::int32_t major;
+  std::int32_t minor;
+  std::int32_t patch;
+  std::array<char, 4096> machine;
+};
+
 inline constexpr int kNoFault = 1;  ///< status of success
 
 }  // namespace tricklet::dds

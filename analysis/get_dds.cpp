@@ -57,7 +57,7 @@ bool GetDDS(Board& board, Solver& solver, Host& host, bool showWarnings) {
       return true;
     }
   }
-  if (showWarnings) host.Tell(warning);
+  if (showWarnings) host.TellError(warning);
   return false;
 }
 

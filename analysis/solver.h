@@ -44,6 +44,9 @@ class Solver {
   /// Why there is no solver, for the person; empty when there is one.
   virtual std::string Missing() const = 0;
 
+  /// "2.9.0"; empty when it does not tell, or when there is no solver.
+  virtual std::string Version() const { return {}; }
+
   /// Solves complete deals given as PBN deal texts, at most `kBatch`, on all cores. Returns the
   /// solver's own text of what went wrong, empty on success. May be called from any thread.
   virtual std::string Solve(std::span<const std::string> deals,

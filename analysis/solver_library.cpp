@@ -32,6 +32,7 @@ using CalcAllTables = std::int32_t(dds::DealBatch*, std::int32_t, std::int32_t*,
                                    dds::ParBatch*);  // CalcAllTablesPBN
 using SolvePosition = std::int32_t(dds::Position, std::int32_t, std::int32_t, std::int32_t,
                                    dds::CardTricks*, std::int32_t);  // SolveBoardPBN
+using LibraryInfo = void(dds::LibraryInfo*);                         // GetDDSInfo
 using StatusText = void(std::int32_t, char*);                        // ErrorMessage
 
 dds::DealText ToBuffer(const std::string& deal) {
@@ -71,11 +72,20 @@ class LibrarySolver : public Solver {
         calcTable_(library.Entry<CalcTable>("CalcDDtablePBN")),
         calcAllTables_(library.Entry<CalcAllTables>("CalcAllTablesPBN")),
         solvePosition_(library.Entry<SolvePosition>("SolveBoardPBN")),
+        libraryInfo_(library.Entry<LibraryInfo>("GetDDSInfo")),
         statusText_(library.Entry<StatusText>("ErrorMessage")) {}
 
   bool IsSolver() const { return calcTableVB_ != nullptr || calcTable_ != nullptr; }
 
   std::string Missing() const override { return {}; }
+
+  std::string Version() const override {
+    if (libraryInfo_ == nullptr) return {};
+    const auto info = std::make_unique<dds::LibraryInfo>();
+    libraryInfo_(info.get());
+    return std::to_string(info->major) + "." + std::to_string(info->minor) + "." +
+           std::to_string(info->patch);
+  }
 
   std::string Solve(std::span<const std::string> deals, std::span<SolverRecord> records) override {
     const std::lock_guard lock(mutex_);
@@ -131,6 +141,7 @@ class LibrarySolver : public Solver {
   CalcTable* calcTable_;
   CalcAllTables* calcAllTables_;
   SolvePosition* solvePosition_;
+  LibraryInfo* libraryInfo_;
   StatusText* statusText_;
 };
 

@@ -14,7 +14,8 @@ inline constexpr std::string_view kProgramName = "Tricklet";
 /// What a message or question is about, which the window shows by its icon.
 enum class MessageKind {
   Plain,
-  Error  ///< something has failed, or was not done
+  Error,  ///< something has failed, or was not done
+  Result  ///< what a command has done: the window shows it in its status line, without a box
 };
 
 /// Something to be told. Texts are UTF-8; line breaks in them are "\n".
@@ -68,6 +69,11 @@ class Host {
   /// Something has failed, or was not done.
   void TellError(const std::string& text) {
     Tell(Message{.text = text, .kind = MessageKind::Error});
+  }
+
+  /// What a command has done.
+  void TellResult(const std::string& text) {
+    Tell(Message{.text = text, .kind = MessageKind::Result});
   }
 
   /// One of the answers that the question's buttons offer. Cancel too, whatever they offer, when

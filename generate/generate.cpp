@@ -26,7 +26,7 @@ bool MayOverwrite(Session& session, const Constraints& constraints) {
   return session.host.Ask({.text = "You will overwrite existing boards in the library - " +
                                    session.ShownLibrary() + "\nDo you wish to do that?",
                            .safe = Answer::No,
-                           .detail = atStake}) == Answer::Yes;
+                           .detail = atStake + FateOfReplaced(session.settings)}) == Answer::Yes;
 }
 
 /// Deals board `number` until the person takes the deal; false when the run is to end.
@@ -53,7 +53,7 @@ bool StoreDeal(Session& session, LibraryWrite& write) {
     return true;
   } catch (const Fault& fault) {
     if (!IsReadOnly(session.BoardPath(session.board.boardNumber))) throw;
-    session.host.Tell(fault.Description());
+    session.host.TellError(fault.Description());
     return false;
   }
 }
@@ -104,8 +104,7 @@ std::string OutsideText(const std::vector<int>& boards) {
 std::string GenerateText(const GenerateOutcome& outcome) {
   std::string text = outcome.outside.empty() ? "" : OutsideText(outcome.outside);
   const AnalysisOutcome& tables = outcome.tables;
-  const bool done = !tables.cancelled && tables.failure.empty() && tables.readOnly.empty() &&
-                    tables.unreadable == 0;
+  const bool done = Faultless(tables) && !tables.cancelled;
   if (!done) text += (text.empty() ? "" : "\n") + AnalysisText(tables);
   if (!outcome.notRecycled.empty()) text += (text.empty() ? "" : "\n") + outcome.notRecycled;
   return text;
@@ -129,7 +128,9 @@ GenerateOutcome Generate(Session& session, const Constraints& constraints,
   outcome.failed = outcome.failed || !outcome.notRecycled.empty();
   ListAndShow(session, outcome.boardsStored > 0 ? constraints.genBoards.front() : before);
   const std::string text = GenerateText(outcome);
-  if (!text.empty()) session.host.Tell(text);
+  const bool sound = Faultless(outcome.tables) && outcome.notRecycled.empty();
+  const MessageKind kind = sound ? MessageKind::Result : MessageKind::Error;
+  if (!text.empty()) session.host.Tell({.text = text, .kind = kind});
   return outcome;
 }
 

@@ -8,6 +8,7 @@
 #include "library/board_on_disk.h"
 #include "library/board_store.h"
 #include "library/library_scan.h"
+#include "library/loss_text.h"
 
 namespace tricklet {
 namespace {
@@ -43,7 +44,8 @@ bool AgreesToPaste(Session& session, DiskChange change) {
   return session.host.Ask({.text = OverwriteQuestion(session),
                            .title = OverwriteTitle(session),
                            .safe = Answer::No,
-                           .detail = LossByPaste(session.board)}) == Answer::Yes;
+                           .detail = LossByPaste(session.board) +
+                                     FateOfReplaced(session.settings)}) == Answer::Yes;
 }
 
 }  // namespace
@@ -58,13 +60,13 @@ bool PasteHand(Session& session) {
   const auto source =
       session.FileLocation() / PathFromText(session.copyLibrary) / BoardFileName(session.copyBoard);
   if (!FileExists(source)) {
-    session.host.Tell("Library " + ShownName(session.copyLibrary) + ": hand " +
-                      std::to_string(session.copyBoard) + " no longer exists");
+    session.host.TellError("Library " + ShownName(session.copyLibrary) + ": hand " +
+                           std::to_string(session.copyBoard) + " no longer exists");
     return false;
   }
   const auto target = session.BoardPath(session.board.boardNumber);
   if (IsReadOnly(target)) {
-    session.host.Tell(ReadOnlyText(target));
+    session.host.TellError(ReadOnlyText(target));
     return false;
   }
   auto write =

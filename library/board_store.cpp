@@ -41,7 +41,7 @@ bool ReadSeen(const SeenFile& file, Board& board, TableReading tables) {
 }
 
 void TellUnreadable(Session& session, const fs::path& path) {
-  session.host.Tell("Can't read the file " + ShownPath(path));
+  session.host.TellError("Can't read the file " + ShownPath(path));
 }
 
 /// The person agrees to what the save replaces, and the file is not marked read-only. One that
@@ -51,7 +51,7 @@ bool MaySave(Session& session, DiskChange change, Buttons style) {
   const bool asks = IsLossToReplace(change) || (session.board.handChanged && FileExists(path));
   if (asks && !AgreesToReplace(session, change, style)) return false;
   if (!IsReadOnly(path)) return true;
-  session.host.Tell(ReadOnlyText(path));
+  session.host.TellError(ReadOnlyText(path));
   return false;
 }
 

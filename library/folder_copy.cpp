@@ -307,7 +307,7 @@ void FolderCopy::PutBack() {
     try {
       MoveFile(placed_.back().at, placed_.back().back, unflushed_);
     } catch (const Fault& fault) {
-      host_.Tell("Unable to undo the copy: " + fault.Description());
+      host_.TellError("Unable to undo the copy: " + fault.Description());
     }
   }
   std::error_code ignored;
@@ -323,7 +323,8 @@ void FolderCopy::Undo() {
     fs::remove(staging_ / kReplaced, ignored);  // only when it is empty
     fs::remove(staging_, ignored);              // likewise
     if (fs::exists(staging_, ignored) && !host_.Recycle(staging_)) {
-      host_.Tell("Unable to send the incomplete copy to the recycle bin:\n" + ShownPath(staging_));
+      host_.TellError("Unable to send the incomplete copy to the recycle bin:\n" +
+                      ShownPath(staging_));
     }
   }
   for (; !madeAbove_.empty(); madeAbove_.pop_back()) {

@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 bool RequireFolder(Session& session, const fs::path& folder) {
   if (FolderExists(folder)) return true;
-  session.host.Tell("There is no folder " + ShownPath(folder));
+  session.host.TellError("There is no folder " + ShownPath(folder));
   return false;
 }
 
@@ -36,8 +36,8 @@ bool MakeFolder(Session& session, const fs::path& path) {
 }
 
 void TellNoLibrary(Session& session, const std::string& name) {
-  session.host.Tell("There is no library " + ShownName(name) + " in " +
-                    ShownName(session.settings.filelocation));
+  session.host.TellError("There is no library " + ShownName(name) + " in " +
+                         ShownName(session.settings.filelocation));
 }
 
 bool RequireLibraryFolder(Session& session) {

@@ -13,6 +13,7 @@
 #include "library/library_choice.h"
 #include "library/library_names.h"
 #include "library/library_write.h"
+#include "library/loss_text.h"
 #include "library/transfer_steps.h"
 #include "library/unsaved_changes.h"
 
@@ -30,8 +31,8 @@ bool AgreesToOverwrite(Session& session, const std::string& text,
   return session.host.Ask({.text = text,
                            .safe = Answer::No,
                            .detail = "Boards of the same number would be replaced in " +
-                                     ShownPath(folder) + ": " + BoundedList(shown) + "."}) ==
-         Answer::Yes;
+                                     ShownPath(folder) + ": " + BoundedList(shown) + "." +
+                                     FateOfReplaced(session.settings)}) == Answer::Yes;
 }
 
 /// The folder can become the root: it is neither a drive nor the root already. Else says so.
@@ -80,8 +81,8 @@ bool MayOverwrite(Session& session, const std::vector<std::string>& names, const
 Copied CopyAll(Session& session, const std::vector<std::string>& names, const fs::path& folder) {
   const fs::path root = FolderNamed(session.FileLocation());
   if (FolderLiesIn(folder, root)) {
-    session.host.Tell("A folder cannot be copied into itself:\n" + ShownPath(root) + "\nto " +
-                      ShownPath(folder));
+    session.host.TellError("A folder cannot be copied into itself:\n" + ShownPath(root) + "\nto " +
+                           ShownPath(folder));
     return Copied::Nothing;
   }
   if (!MayOverwrite(session, names, folder)) return Copied::Nothing;
@@ -226,7 +227,7 @@ bool CopyLibrary(Session& session, std::string_view name) {
 std::vector<std::string> RequireLibraries(Session& session) {
   std::vector<std::string> names = FoldersOf(session.FileLocation());
   if (names.empty()) {
-    session.host.Tell("There are no libraries in " + ShownName(session.settings.filelocation));
+    session.host.TellError("There are no libraries in " + ShownName(session.settings.filelocation));
   }
   return names;
 }
@@ -235,14 +236,14 @@ bool DeleteLibrary(Session& session, std::string_view name) {
   const std::vector<std::string> names = FoldersOf(session.FileLocation());
   const fs::path folder = session.FileLocation() / PathFromText(name);
   if (SameFolder(folder, session.LibraryPath())) {
-    session.host.Tell("Cannot delete the library currently in use");
+    session.host.TellError("Cannot delete the library currently in use");
     return false;
   }
   // Only what is listed can be named, so no name leads out of the root.
   const bool listed = std::find(names.begin(), names.end(), name) != names.end();
   if (listed && !RequireUnused(session.host, folder)) return false;
   if (!listed || !session.host.Recycle(folder)) {
-    session.host.Tell("Unable to delete the library " + ShownName(name));
+    session.host.TellError("Unable to delete the library " + ShownName(name));
     return false;
   }
   FlushFolder(session.FileLocation());

@@ -27,7 +27,7 @@ std::optional<LibraryWrite> LibraryWrite::Wait(Session& session, std::chrono::mi
 std::optional<LibraryWrite> LibraryWrite::Begin(Session& session) {
   std::string busy;
   auto write = Begin(session, busy);
-  if (!write) session.host.Tell(busy);
+  if (!write) session.host.TellError(busy);
   return write;
 }
 
@@ -72,7 +72,7 @@ std::string BusyText(const std::string& library, const std::string& holder) {
 bool RequireUnused(Host& host, const fs::path& folder) {
   std::string holder;
   if (WriteLock::Take(folder, WriteLock::kPatience, holder)) return true;
-  host.Tell(BusyText(ShownPath(folder.filename()), holder));
+  host.TellError(BusyText(ShownPath(folder.filename()), holder));
   return false;
 }
 

@@ -51,6 +51,11 @@ std::string BoardsAtStake(const LibraryState& library, int first, int last,
          ": " + RangesText(numbers) + ".";
 }
 
+std::string FateOfReplaced(const Settings& settings) {
+  return settings.recycleReplaced ? " What is replaced goes to the recycle bin."
+                                  : " What is replaced cannot be brought back.";
+}
+
 std::string UnsavedText(const Session& session) {
   const auto [deal, auction] = DifferenceOf(StoredBoard(session), session.board);
   std::vector<std::string> things;

@@ -12,6 +12,9 @@ namespace tricklet {
 std::string BoardsAtStake(const LibraryState& library, int first, int last,
                           const std::string& fate);
 
+/// Whether boards that a command replaces can be brought back, after a blank.
+std::string FateOfReplaced(const Settings& settings);
+
 /// What the current board has that its file has not: "The deal and the auction are not saved."
 std::string UnsavedText(const Session& session);
 

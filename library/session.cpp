@@ -25,13 +25,13 @@ fs::path Session::BoardPath(int boardNumber) const {
 
 void TellUnreadSettings(Session& session) {
   const std::string failure = session.store.Failure();
-  if (!failure.empty()) session.host.Tell(std::string(kSettingsNotRead) + "\n" + failure);
+  if (!failure.empty()) session.host.TellError(std::string(kSettingsNotRead) + "\n" + failure);
 }
 
 bool StoreSettings(Session& session) {
   if (session.store.Sync()) return true;
   const std::string why = session.store.SyncFailure();
-  session.host.Tell(kSettingsNotStored + (why.empty() ? why : "\n" + why));
+  session.host.TellError(kSettingsNotStored + (why.empty() ? why : "\n" + why));
   session.host.FailureReported();
   return false;
 }

@@ -31,7 +31,7 @@ bool ChooseLibraryRoot(Session& session) {
     try {
       MakeFolders(*chosen);
     } catch (const Fault& fault) {
-      session.host.Tell(fault.Description());
+      session.host.TellError(fault.Description());
       continue;
     }
     session.settings.filelocation = FolderText(*chosen);
@@ -108,7 +108,7 @@ bool OpenLibraries(Session& session, const std::string& named) {
   try {
     return OpenRoot(session, named);
   } catch (const Fault& fault) {
-    session.host.Tell("Unable to open the libraries:\n" + fault.Description());
+    session.host.TellError("Unable to open the libraries:\n" + fault.Description());
     return false;
   }
 }

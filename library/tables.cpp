@@ -255,7 +255,7 @@ bool StoreTable(Session& session, const fs::path& path, const HandTable& hands,
 }
 
 bool RequireSolver(const Session& session) {
-  if (!session.getSolver) session.host.Tell("There is no double-dummy solver");
+  if (!session.getSolver) session.host.TellError("There is no double-dummy solver");
   return session.getSolver != nullptr;
 }
 
@@ -265,6 +265,10 @@ AnalysisOutcome AnalyseBoards(Session& session, Solver& solver, int first, int l
   if (!outcome.failure.empty()) return outcome;
   auto write = LibraryWrite::Begin(session, outcome.failure);
   return write ? AnalysisRun(session, solver, *write).Run(first, last, again) : outcome;
+}
+
+bool Faultless(const AnalysisOutcome& outcome) {
+  return outcome.failure.empty() && outcome.readOnly.empty() && outcome.unreadable == 0;
 }
 
 std::string AnalysisText(const AnalysisOutcome& outcome) {
@@ -287,8 +291,10 @@ std::string AnalysisText(const AnalysisOutcome& outcome) {
 
 void AnalyseLibrary(Session& session, Solver& solver, bool again) {
   if (!SettleChanges(session)) return;
-  session.host.Tell(
-      AnalysisText(AnalyseBoards(session, solver, kFirstBoardNumber, kLastBoardNumber, again)));
+  const AnalysisOutcome outcome =
+      AnalyseBoards(session, solver, kFirstBoardNumber, kLastBoardNumber, again);
+  session.host.Tell({.text = AnalysisText(outcome),
+                     .kind = Faultless(outcome) ? MessageKind::Result : MessageKind::Error});
 }
 
 }  // namespace tricklet

@@ -41,6 +41,9 @@ AnalysisOutcome AnalyseBoards(Session& session, Solver& solver, int first, int l
 /// `mnuAnalyse`: the whole library, after `CheckSaveChanges`; tells how it ended.
 void AnalyseLibrary(Session& session, Solver& solver, bool again = false);
 
+/// Nothing has failed, though the person may have ended it early.
+bool Faultless(const AnalysisOutcome& outcome);
+
 /// How an analysis ended, in words: a line for each thing to report.
 std::string AnalysisText(const AnalysisOutcome& outcome);
 

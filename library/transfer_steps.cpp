@@ -24,8 +24,8 @@ struct Pair {
 bool MayCopy(Session& session, const Pair& pair) {
   const fs::path to = pair.into / PathFromText(pair.name);
   if (!FoldersOverlap(pair.from, to)) return true;
-  session.host.Tell("A folder cannot be copied into itself:\n" + ShownPath(pair.from) + "\nto " +
-                    ShownPath(to));
+  session.host.TellError("A folder cannot be copied into itself:\n" + ShownPath(pair.from) +
+                         "\nto " + ShownPath(to));
   return false;
 }
 
@@ -38,7 +38,7 @@ bool LockTargets(Session& session, const std::vector<Pair>& pairs,
     std::string holder;
     locks.push_back(WriteLock::Take(to, WriteLock::kPatience, holder));
     if (locks.back()) continue;
-    session.host.Tell(BusyText(pair.name, holder));
+    session.host.TellError(BusyText(pair.name, holder));
     return false;
   }
   return true;
@@ -56,7 +56,7 @@ Copied Copy(Session& session, const std::vector<Pair>& pairs, const fs::path& in
   if (!LockTargets(session, pairs, locks)) return Copied::Nothing;
   try {
     if (!copy.Run()) {
-      session.host.Tell("Copying cancelled");
+      session.host.TellResult("Copying cancelled");
       return Copied::Nothing;
     }
   } catch (const std::exception& failure) {
@@ -64,8 +64,8 @@ Copied Copy(Session& session, const std::vector<Pair>& pairs, const fs::path& in
     return Copied::Nothing;
   }
   if (copy.LeftOut() == 0) return Copied::Whole;
-  session.host.Tell("Links and special files are not copied: " + std::to_string(copy.LeftOut()) +
-                    " left out");
+  session.host.TellError(
+      "Links and special files are not copied: " + std::to_string(copy.LeftOut()) + " left out");
   return Copied::Partly;
 }
 

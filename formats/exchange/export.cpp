@@ -141,7 +141,7 @@ void KeepPart(Session& session, const fs::path& path, const std::string& text) {
   if (answer != Answer::Yes) return;
   const fs::path old = fs::canonical(path);  // a link stays one
   if (!session.host.Recycle(old)) {
-    session.host.Tell("Unable to send the old file to the recycle bin:\n" + ShownPath(old));
+    session.host.TellError("Unable to send the old file to the recycle bin:\n" + ShownPath(old));
     return;
   }
   ReplaceWholeFile(old, text);
@@ -152,14 +152,14 @@ void KeepPart(Session& session, const fs::path& path, const std::string& text) {
 /// Tells how it went; true when all boards were written.
 bool ReportRun(Session& session, const ExportRange& range, const ExportRun& run,
                const fs::path& path) {
-  if (!run.incomplete.empty()) session.host.Tell(IncompleteText(run.incomplete));
+  if (!run.incomplete.empty()) session.host.TellError(IncompleteText(run.incomplete));
   if (run.cancelled) {
     session.host.Tell("Export cancelled");
     return false;
   }
   if (run.incomplete.empty()) session.host.Tell("File " + ShownPath(path) + " created");
   const bool beyond = range.last > run.lastWritable;
-  if (beyond) session.host.Tell(BeyondText(range, run));
+  if (beyond) session.host.TellError(BeyondText(range, run));
   return run.incomplete.empty() && !beyond;
 }
 
@@ -274,7 +274,7 @@ bool ExportFile(Session& session, const ExportRange& range, const fs::path& path
   if (const Collector collect = CollectorOf(FileTypeOf(path))) {
     return WriteRange(session, range, path, collect);
   }
-  session.host.Tell("The file must be of type pbn, dlm or lin");
+  session.host.TellError("The file must be of type pbn, dlm or lin");
   return false;
 }
 

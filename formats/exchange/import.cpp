@@ -71,7 +71,8 @@ bool MayOverwriteLibrary(Session& session, Results results) {
   CountHands(session);
   if (session.library.boardCount == 0) return true;
   const std::string detail = BoardsAtStake(session.library, kFirstBoardNumber, kLastBoardNumber,
-                                           "would be replaced where the file has the same number");
+                                           "would be replaced where the file has the same number") +
+                             FateOfReplaced(session.settings);
   return session.host.Ask(
              {.text = "Overwrite existing hands in library " + session.ShownLibrary() + "?",
               .title = "Hands already in library",
@@ -99,7 +100,7 @@ ImportOutcome ImportChosen(Session& session, const fs::path& path, const Importa
     outcome.file = path;
     return outcome;
   }
-  session.host.Tell(importable.otherType);
+  session.host.TellError(importable.otherType);
   return Refused(session);
 }
 
@@ -133,7 +134,7 @@ ImportOutcome ImportLinFile(Session& session, const fs::path& path) {
 
 ImportOutcome ImportLinText(Session& session, std::string_view text) {
   if (!LooksLikeLin(text)) {
-    session.host.Tell("There are no LIN records in this text");
+    session.host.TellError("There are no LIN records in this text");
     return {.refused = true};
   }
   if (!MayImport(session, Results::Replaced)) return {.refused = true};

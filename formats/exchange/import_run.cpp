@@ -90,7 +90,7 @@ void TellErrorIfAny(Host& host, const std::string& text) {
 void TellUnwritten(Host& host, const LibrarySink& sink, const RecordReader& reader,
                    const Fault& unwritten) {
   if (sink.FailedAtReadOnly()) {
-    host.Tell(unwritten.Description());
+    host.TellError(unwritten.Description());
   } else {
     reader.tellUnwritten(host, unwritten);
   }
@@ -99,7 +99,7 @@ void TellUnwritten(Host& host, const LibrarySink& sink, const RecordReader& read
 void TellResult(Session& session, const LibrarySink& sink, const ReadResult& result,
                 const std::string& file) {
   Host& host = session.host;
-  for (const std::string& message : result.messages) host.Tell(message);
+  for (const std::string& message : result.messages) host.TellError(message);
   if (result.badLine) {
     host.TellError("Can't read this line:\n" + Showable(*result.badLine));
     host.Tell(BadLineText(result, file));
@@ -107,11 +107,11 @@ void TellResult(Session& session, const LibrarySink& sink, const ReadResult& res
   host.Tell(SavedText(result, session.ShownLibrary()));
   TellIfAny(host, StoredText(result, sink.Stored()));
   TellIfAny(host, LeftOutText(result.leftOut));
-  if (sink.ResultsStayed()) host.Tell(kResultsNotRecycled);
+  if (sink.ResultsStayed()) host.TellError(kResultsNotRecycled);
 }
 
 ImportOutcome TellUnreadable(Session& session, const std::string& unreadable, int boardBefore) {
-  session.host.Tell(unreadable);
+  session.host.TellError(unreadable);
   ListAndShow(session, boardBefore);
   return {.failed = true};
 }

@@ -49,8 +49,8 @@ bool CheckXMLfile(std::string_view text) {
 }
 
 void TellXmlFailure(Host& host, const Fault& fault) {
-  host.Tell(ErrorText(fault));
-  host.Tell(kUnable);
+  host.TellError(ErrorText(fault));
+  host.TellError(kUnable);
 }
 
 void ReadXML(RecordSource& source, BoardSink& sink, Reading& reading) {

@@ -59,7 +59,8 @@ TEST_F(GenerateRun, AsksBeforeAnythingIsLost) {
   for (const int first : {1, 3}) {
     host.ExpectAsk(overwrite, "Tricklet", Answer::No);
     EXPECT_TRUE(Run(first, 3).refused);
-    EXPECT_EQ(host.asked.detail, "1 board would be replaced: 3.");
+    EXPECT_EQ(host.asked.detail,
+              "1 board would be replaced: 3. What is replaced goes to the recycle bin.");
     EXPECT_EQ(host.asked.safe, Answer::No);
   }
   EXPECT_TRUE(session.board.playMode) << "a play goes on when nothing was generated";

@@ -12,6 +12,7 @@
 #include "ui/app/application.h"
 #include "ui/app/qt_host.h"
 #include "ui/background/later.h"
+#include "ui/commands/documents.h"
 #include "ui/dialogs/frmStart.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/theme.h"
@@ -173,6 +174,8 @@ int RunSession(Application& application, const LaunchOptions& options, Session& 
   const bool pictureOnly = !options.screenshot.isEmpty();
   Updates updates(session.settings, MakeFetcher());
   ApplyColourScheme(application, session.settings.colourScheme);
+  HelpKey helpKey(host);
+  application.installEventFilter(&helpKey);
   TellUnreadSettings(session);
   if (!pictureOnly) ShowNotice(session);
   if (!pictureOnly && !PassStart(session, updates, !options.files.empty())) return 0;
@@ -180,7 +183,7 @@ int RunSession(Application& application, const LaunchOptions& options, Session& 
   if (host.HasEnded()) return 0;
   if (options.board != 0) SelectBoard(session, options.board);
   MainWindow window(session, updates);
-  host.Attach(&window, window.Progress());
+  host.Attach(&window, window.Progress(), [&window](const QString& text) { window.Say(text); });
   if (!pictureOnly) return RunWindow(application, window, options);
   if (!options.files.empty()) window.ImportFiles(options.files);
   return WriteScreenshot(window, options) ? 0 : 1;

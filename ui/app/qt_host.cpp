@@ -100,9 +100,11 @@ QMessageBox::Icon IconOf(const Question& question) {
 
 }  // namespace
 
-void QtHost::Attach(QWidget* window, ProgressFrame* progress) {
+void QtHost::Attach(QWidget* window, ProgressFrame* progress,
+                    std::function<void(const QString&)> say) {
   window_ = window;
   progress_ = progress;
+  say_ = std::move(say);
 }
 
 QWidget* QtHost::Parent() const {
@@ -111,6 +113,12 @@ QWidget* QtHost::Parent() const {
 }
 
 void QtHost::Tell(const Message& message) {
+  if (message.kind == MessageKind::Result && window_ && say_) {
+    // Once the command is over, as the window shows its state afresh then.
+    QString line = ToQt(ShowableLines(message.text)).replace(u'\n', QStringLiteral("; "));
+    Later(window_, [this, text = std::move(line)] { say_(text); });
+    return;
+  }
   QMessageBox box(Parent());
   Prepare(box, message.text, message.title);
   box.setIcon(message.kind == MessageKind::Error ? QMessageBox::Critical

@@ -1,6 +1,8 @@
 // The window's side of the Host port.
 #pragma once
 
+#include <functional>
+
 #include <QPointer>
 
 #include "core/host.h"
@@ -11,8 +13,9 @@ namespace tricklet::ui {
 /// Asks by message boxes and file dialogs. Works without a window too; then no progress is shown.
 class QtHost : public Host {
  public:
-  /// Dialogs stand over `window` from now on, and progress shows in `progress`.
-  void Attach(QWidget* window, ProgressFrame* progress);
+  /// Dialogs stand over `window` from now on, progress shows in `progress`, and `say` shows the
+  /// results of commands, a line each.
+  void Attach(QWidget* window, ProgressFrame* progress, std::function<void(const QString&)> say);
 
   using Host::Ask;
   using Host::Tell;
@@ -39,6 +42,7 @@ class QtHost : public Host {
 
   QPointer<QWidget> window_;
   QPointer<ProgressFrame> progress_;
+  std::function<void(const QString&)> say_;
   QString lastFolder_;  // where the file choosers begin when nothing is suggested
   bool ended_ = false;
 };

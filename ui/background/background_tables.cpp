@@ -38,7 +38,7 @@ void BackgroundTables::ComputeMissing() {
 
 void BackgroundTables::ComputeAsked() {
   if (const std::string warning = DealWarning(session_.board.hands); !warning.empty()) {
-    session_.host.Tell(warning);
+    session_.host.TellError(warning);
   } else if (RequireSolver(session_)) {
     Post(true);
   }
@@ -68,7 +68,7 @@ bool BackgroundTables::IsCurrent(const Job& job) const {
 
 void BackgroundTables::TellFailure(const Job& job) {
   if (job.asked) {
-    session_.host.Tell(job.failure);
+    session_.host.TellError(job.failure);
   } else {
     emit Said(tr("No double-dummy table of board %1: %2")
                   .arg(job.boardNumber)

@@ -13,10 +13,13 @@ namespace {
 bool HaveSolverHost(Session& session, QWidget* window) {
   if (!session.settings.solverHost.empty()) return true;
   bool accepted = false;
-  const QString host =
-      QInputDialog::getText(window, Commands::tr("Online double-dummy page"),
-                            Commands::tr("Host of the page, for example www.example.org"),
-                            QLineEdit::Normal, QString(), &accepted);
+  const QString host = QInputDialog::getText(
+      window, Commands::tr("Online double-dummy page"),
+      Commands::tr("Host of the page (like www.example.org). It has to be one "
+                   "whose double-dummy page\ntakes deals by their address; "
+                   "your club or teacher can name one.\nThe board that is "
+                   "shown is sent there when you ask for it."),
+      QLineEdit::Normal, QString(), &accepted);
   if (!accepted || host.trimmed().isEmpty()) return false;
   session.settings.solverHost = FromQt(host.trimmed());
   SaveSetting(session, &Settings::solverHost);
@@ -42,7 +45,7 @@ void Commands::OnlineSolver() {
     const std::string record = linRecord_ ? linRecord_() : std::string();
     const std::string error = SolverAddressError(session_.board);
     if (record.empty() && !error.empty()) {
-      session_.host.Tell(error);
+      session_.host.TellError(error);
       return;
     }
     if (!HaveSolverHost(session_, window_)) return;

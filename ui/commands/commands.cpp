@@ -2,10 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDir>
-#include <QFileInfo>
 #include <QInputDialog>
-#include <QUrl>
 
 #include "core/fault.h"
 #include "formats/exchange/export.h"
@@ -14,8 +11,8 @@
 #include "library/board_store.h"
 #include "library/library_choice.h"
 #include "library/recent_files.h"
-#include "library/start_up.h"
 #include "library/unsaved_changes.h"
+#include "ui/commands/documents.h"
 #include "ui/control/edit_control.h"
 #include "ui/control/play_control.h"
 #include "ui/dialogs/frmBidding.h"
@@ -283,25 +280,11 @@ void Commands::Options() {
   });
 }
 
-void Commands::OpenDocument(const QString& fileName) {
-  Run([&] {
-    const QDir program(QCoreApplication::applicationDirPath());
-    for (const QDir& place :
-         {program, QDir(program.filePath(QStringLiteral(TRICKLET_DOCUMENT_DIR)))}) {
-      const QFileInfo document(place, fileName);
-      if (!document.exists()) continue;
-      session_.host.OpenUrl(FromQt(QUrl::fromLocalFile(document.canonicalFilePath()).toString()));
-      return;
-    }
-    session_.host.Tell(FromQt(tr("The help file has not been installed")));
-  });
-}
-
 void Commands::Help() {
-  OpenDocument(QStringLiteral("Tricklet.pdf"));
+  Run([this] { OpenDocument(session_.host, kManual); });
 }
 void Commands::NewFeatures() {
-  OpenDocument(QStringLiteral("TrickletLatest.pdf"));
+  Run([this] { OpenDocument(session_.host, kNewFeatures); });
 }
 
 void Commands::CheckForUpdates() {
@@ -318,23 +301,14 @@ void Commands::NewVersion() {
 void Commands::OpenNewVersion() {
   const UpdateAnswer* newer = updates_.Newer();
   if (newer == nullptr || session_.host.OpenUrl(newer->page)) return;
-  session_.host.Tell(
+  session_.host.TellError(
       FromQt(tr("The page could not be opened in the browser:\n%1").arg(ToQt(newer->page))));
 }
 
 void Commands::About() {
   Run([this] {
-    const QString text =
-        tr("A library of bridge deals: keep, look at and exchange hand records.\n\n"
-           "Free under the MIT licence. It works with Qt %1 (LGPL 3), pugixml (MIT), utf8proc "
-           "(MIT), "
-           "CLI11 (BSD) and, where it is installed, the double-dummy solver DDS (Apache 2.0). "
-           "Their "
-           "terms and where their sources are come with the package.")
-            .arg(QLatin1String(qVersion()));
     session_.host.Tell(
-        {.text = std::string(kProgramName) + "\n" + VersionText() + "\n\n" + FromQt(text),
-         .title = FromQt(tr("About Tricklet"))});
+        {.text = FromQt(AboutText(session_)), .title = FromQt(tr("About Tricklet"))});
   });
 }
 

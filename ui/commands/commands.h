@@ -175,7 +175,6 @@ class Commands : public QObject {
   void Copy(Runner run, bool (*copy)(Session&), const QString& said);
   void EnterAuction();
   void Remember(const ImportOutcome& outcome);
-  void OpenDocument(const QString& fileName);
   void OpenNewVersion();
 
   Session& session_;

@@ -298,6 +298,10 @@ void MainWindow::ShowFolder() {
   DisplayPlay();
 }
 
+void MainWindow::Say(const QString& text) {
+  status_->setText(text);
+}
+
 QString MainWindow::StatusText() const {
   if (QString text = watch_->Text(); !text.isEmpty()) return text;
   const Board& board = session_.board;

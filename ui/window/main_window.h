@@ -72,6 +72,8 @@ class MainWindow : public QMainWindow {
   /// Looks now for what other programs have done to the library, as it does from time to time.
   void LookAtDisk() { watch_->Look(); }
 
+  /// Shows what a command has done in the status line.
+  void Say(const QString& text);
   ProgressFrame* Progress() const { return progress_; }
 
  protected:

@@ -258,7 +258,8 @@ TEST_F(ImportTest, AsksAndRefuses) {
   write.reset();
   EXPECT_TRUE(ImportFile(session, file).refused);
   EXPECT_EQ(host.asked.detail,
-            "1 board would be replaced where the file has the same number: 3.\n"
+            "1 board would be replaced where the file has the same number: 3. What is replaced "
+            "goes to the recycle bin.\n"
             "2 results are kept with them: they would go to the recycle bin.");
   EXPECT_EQ(host.asked.safe, Answer::No);
   session.board.handChanged = true;

@@ -81,6 +81,17 @@ TEST_F(DialogsTest, AFolderThatIsNotThereYetCanBeChosen) {
   }
 }
 
+TEST_F(DialogsTest, AResultIsSaidInOneLineWithoutABox) {
+  QtHost asking;
+  QWidget window;
+  QStringList said;
+  asking.Attach(&window, nullptr, [&said](const QString& text) { said += text; });
+  asking.TellResult("2 tables have been computed\nAnalysis cancelled");
+  EXPECT_EQ(said, QStringList()) << "not before the command is over";
+  QTRY_COMPARE(said,
+               QStringList(QStringLiteral("2 tables have been computed; Analysis cancelled")));
+}
+
 TEST_F(DialogsTest, TheStartDialogStoresAutoLaunchAtOnce) {
   Updates updates(session.settings, nullptr);
   frmStart start(session, updates);
