@@ -11,6 +11,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "ui/dialogs/design_thumbnail.h"
 #include "ui/dialogs/font_editor.h"
 #include "ui/style/section.h"
 #include "ui/table/table_view.h"
@@ -18,6 +19,7 @@
 namespace tricklet::ui {
 namespace {
 
+constexpr QSize kThumbnail(76, 50);
 constexpr int kBelowCheck = 24;  // where the text of a check box begins, about
 
 /// A caption with its control to the right of it.
@@ -47,11 +49,13 @@ frmOptions::frmOptions(const Session& session, const QString& updateObstacle, QW
   setObjectName(QStringLiteral("frmOptions"));
   setWindowTitle(tr("Options"));
   auto* tabs = new QTabWidget(this);
+  tabs->setAccessibleName(tr("Options by subject"));
   tabs->addTab(CardsPage(), tr("&Cards"));
+  tabs->addTab(WindowPage(), tr("&Window"));
   tabs->addTab(CaptionsPage(), tr("Ca&ptions"));
   tabs->addTab(FontsPage(), tr("&Fonts"));
   tabs->addTab(StartPage(updateObstacle), tr("&Start and analysis"));
-  tabs->addTab(ExportPage(), tr("&Export"));
+  tabs->addTab(FilesPage(), tr("F&iles"));
   tabs->setMinimumWidth(tabs->tabBar()->sizeHint().width() + 8);
   preview_->setAccessibleName(tr("Preview"));
   preview_->setMinimumSize(380, 320);
@@ -80,9 +84,15 @@ QWidget* frmOptions::CardsPage() {
   auto* page = new QWidget(this);
   QVBoxLayout* column = MakePage(page);
   AddCheck(column, "CardsFaces", tr("Show hands as card faces"), &Settings::cardsFaces);
-  AddChoice(column, "CardDesign", tr("Card design"),
-            {tr("Design 1"), tr("Design 2"), tr("Design 3")}, &Settings::cardDesign,
-            CardDesign::IndexAndSymbol);
+  QComboBox* designs = AddChoice(column, "CardDesign", tr("Card design"),
+                                 {tr("Plain"), tr("Traditional"), tr("Large index")},
+                                 &Settings::cardDesign, CardDesign::IndexAndSymbol);
+  designs->setIconSize(kThumbnail);
+  for (int entry = 0; entry < designs->count(); ++entry) {
+    const int design = entry + IndexOf(CardDesign::IndexAndSymbol);
+    designs->setItemIcon(
+        entry, DesignThumbnail(static_cast<CardDesign>(design), kThumbnail, devicePixelRatioF()));
+  }
   AddCheck(column, "SuitColour", tr("Four suit colours"), &Settings::suitColour);
   suitFontSize_ = new QDoubleSpinBox(page);
   suitFontSize_->setObjectName(QStringLiteral("SuitFontSize"));
@@ -92,9 +102,6 @@ QWidget* frmOptions::CardsPage() {
   }
   connect(suitFontSize_, &QDoubleSpinBox::valueChanged, this, &frmOptions::Preview);
   AddRow(column, tr("Size of suit symbols (points)"), suitFontSize_);
-  AddChoice(column, "ColourScheme", tr("Colour scheme"),
-            {tr("As the system"), tr("Light"), tr("Dark")}, &Settings::colourScheme,
-            ColourScheme::System);
   AddChoice(column, "EditMethod", tr("Edit hands by"),
             {tr("Drag and drop"), tr("Click a seat"), tr("Type the holding")},
             &Settings::editMethod, EditMethod::Dragging);
@@ -102,9 +109,30 @@ QWidget* frmOptions::CardsPage() {
   return page;
 }
 
+QWidget* frmOptions::WindowPage() {
+  auto* page = new QWidget(this);
+  QVBoxLayout* column = MakePage(page);
+  AddChoice(column, "ColourScheme", tr("Colour scheme"),
+            {tr("As the system"), tr("Light"), tr("Dark")}, &Settings::colourScheme,
+            ColourScheme::System);
+  AddChoice(column, "ToolbarStyle", tr("Toolbar"),
+            {tr("Text under the icons"), tr("Text beside the icons"), tr("Icons alone")},
+            &Settings::toolbarStyle, ToolbarStyle::TextUnderIcon);
+  AddCheck(column, "ShowStats", tr("Show the statistics"), &Settings::showStats);
+  AddCheck(column, "ShowMakeable", tr("Show the makeable table"), &Settings::showMakeable);
+  AddCheck(column, "MakeableContract", tr("Makeable table as contracts, not tricks"),
+           &Settings::makeableContract);
+  AddCheck(column, "ShowBestCards", tr("In play, the tricks that each card leads to"),
+           &Settings::showBestCards);
+  column->addStretch(1);
+  return page;
+}
+
 QWidget* frmOptions::CaptionsPage() {
   auto* page = new QWidget(this);
   QVBoxLayout* column = MakePage(page);
+  AddChoice(column, "CaptionStyle", tr("Wording"), {tr("In full"), tr("Short")},
+            &Settings::captionStyle, CaptionStyle::Full);
   AddCheck(column, "CaptionPlayer", tr("Name of the seat"), &Settings::captionPlayer);
   AddCheck(column, "CaptionnCards", tr("Number of cards"), &Settings::captionnCards);
   AddCheck(column, "CaptionHCP", tr("High-card points"), &Settings::captionHcp);
@@ -149,19 +177,15 @@ QWidget* frmOptions::StartPage(const QString& updateObstacle) {
     column->addWidget(lblAutoUpdate);
   }
   AddCheck(column, "AutoMakeable", tr("Compute a missing makeable table"), &Settings::autoMakeable);
-  AddCheck(column, "ShowBestCards", tr("In play, the tricks that each card leads to"),
-           &Settings::showBestCards);
-  AddCheck(column, "ShowStats", tr("Show the statistics"), &Settings::showStats);
-  AddCheck(column, "ShowMakeable", tr("Show the makeable table"), &Settings::showMakeable);
-  AddCheck(column, "MakeableContract", tr("Makeable table as contracts, not tricks"),
-           &Settings::makeableContract);
   column->addStretch(1);
   return page;
 }
 
-QWidget* frmOptions::ExportPage() {
+QWidget* frmOptions::FilesPage() {
   auto* page = new QWidget(this);
   QVBoxLayout* column = MakePage(page);
+  AddCheck(column, "RecycleReplaced", tr("Boards that are replaced go to the recycle bin first"),
+           &Settings::recycleReplaced);
   AddCheck(column, "PBNBids", tr("PBN: write the auction"), &Settings::pbnBids);
   AddCheck(column, "PBNShark", tr("PBN: write a result tag and a board comment"),
            &Settings::pbnShark);
@@ -180,8 +204,8 @@ QCheckBox* frmOptions::AddCheck(QVBoxLayout* page, const char* key, const QStrin
 }
 
 template <class Value>
-void frmOptions::AddChoice(QVBoxLayout* page, const char* key, const QString& caption,
-                           const QStringList& texts, Value Settings::*setting, Value first) {
+QComboBox* frmOptions::AddChoice(QVBoxLayout* page, const char* key, const QString& caption,
+                                 const QStringList& texts, Value Settings::*setting, Value first) {
   auto* combo = new QComboBox;
   combo->setObjectName(QString::fromLatin1(key));
   combo->setAccessibleName(caption);
@@ -191,6 +215,7 @@ void frmOptions::AddChoice(QVBoxLayout* page, const char* key, const QString& ca
       {combo, [=](const Settings& from) { return IndexOf(from.*setting) - IndexOf(first); },
        [=](Settings& to, int entry) { to.*setting = static_cast<Value>(entry + IndexOf(first)); }});
   AddRow(page, caption, combo);
+  return combo;
 }
 
 void frmOptions::Fill(const Settings& settings) {

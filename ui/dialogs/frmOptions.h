@@ -43,16 +43,17 @@ class frmOptions : public QDialog {
   };
 
   QWidget* CardsPage();
+  QWidget* WindowPage();
   QWidget* CaptionsPage();
   QWidget* FontsPage();
   QWidget* StartPage(const QString& updateObstacle);
-  QWidget* ExportPage();
+  QWidget* FilesPage();
   QCheckBox* AddCheck(QVBoxLayout* page, const char* key, const QString& text,
                       bool Settings::*setting);
   /// A list with an entry for each value of `setting`, the first of which is `first`.
   template <class Value>
-  void AddChoice(QVBoxLayout* page, const char* key, const QString& caption,
-                 const QStringList& texts, Value Settings::*setting, Value first);
+  QComboBox* AddChoice(QVBoxLayout* page, const char* key, const QString& caption,
+                       const QStringList& texts, Value Settings::*setting, Value first);
   void Fill(const Settings& settings);
   void Preview();
 
