@@ -48,6 +48,8 @@ MainMenu::MainMenu(QMainWindow& window, const Actions& actions)
   bar_->setFont(font);
   actions.Fill(bar_);
   window.addToolBar(bar_);
+  auto* rest = bar_->findChild<QWidget*>(QStringLiteral("qt_toolbar_ext_button"));
+  if (rest != nullptr) rest->setAccessibleName(tr("More of the toolbar"));
 }
 
 void MainMenu::Show(const WindowState& state, bool shown) {
