@@ -2,20 +2,14 @@
 
 #include <optional>
 
-#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
-#include <QLabel>
-#include <QMenu>
-#include <QScrollArea>
 #include <QStatusBar>
 
-#include "library/library_choice.h"
 #include "library/recent_files.h"
 #include "library/unsaved_changes.h"
 #include "ui/actions/actions.h"
-#include "ui/actions/menu_table.h"
 #include "ui/actions/panes_shown.h"
 #include "ui/background/background_tables.h"
 #include "ui/background/best_cards_finder.h"
@@ -37,7 +31,6 @@
 #include "ui/panes/statistics_pane.h"
 #include "ui/panes/traveller_pane.h"
 #include "ui/panes/trick_pane.h"
-#include "ui/style/folding_section.h"
 #include "ui/style/progress_frame.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/section.h"
@@ -48,13 +41,11 @@
 #include "ui/window/main_menu.h"
 #include "ui/window/placing.h"
 #include "ui/window/state_of.h"
+#include "ui/window/status_line.h"
 #include "ui/window/work_area.h"
 
 namespace tricklet::ui {
 namespace {
-
-/// Below it not even scrolling helps.
-constexpr QSize kLeastWindow(320, 240);
 
 constexpr std::string_view kPlaceSection = "Window";
 constexpr std::string_view kPlaceKey = "Geometry";
@@ -76,186 +67,20 @@ MainWindow::MainWindow(Session& session, Updates& updates)
       drafts_(new DraftClock(session, this)),
       actions_(new Actions(*this, *commands_, *results_)),
       menu_(new MainMenu(*this, *actions_)),
-      library_(new LibraryPane(session, *summaries_)),
-      tricks_(new TrickPane),
-      editPane_(new EditPane(*commands_, *actions_)),
-      statistics_(new StatisticsPane),
-      table_(new TableView),
-      auction_(new AuctionPane),
-      contract_(new ContractPane(*commands_)),
-      makeable_(new MakeablePane),
-      traveller_(new TravellerPane(*results_)),
-      progress_(new ProgressFrame) {
+      panes_(session, *commands_, *actions_, *results_, *summaries_),
+      status_(new StatusLine(statusBar())) {
   setObjectName(QStringLiteral("frmMain"));
   setAcceptDrops(true);
-  LayOut();
-  BuildStatusLine();
+  setCentralWidget(panes_.Lay(this));
   Connect();
-  SetTabOrder();
-  table_->setFocus();
+  const QList<QWidget*> order = panes_.TabOrder();
+  for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order.at(i - 1), order.at(i));
+  panes_.table->setFocus();
   Display();
 }
 
 MainWindow::~MainWindow() {
-  editPane_->ForgetTyping();  // a line of text loses the focus when it is destroyed
-}
-
-void MainWindow::LayOut() {
-  left_ = new SideColumn(QStringLiteral("colLeft"), {library_, tricks_, editPane_, statistics_});
-  right_ = new SideColumn(QStringLiteral("colRight"), {auction_, contract_, makeable_, traveller_});
-  table_->setObjectName(QStringLiteral("picTable"));
-  table_->setAccessibleName(tr("Table"));
-  table_->setFocusPolicy(Qt::StrongFocus);
-  area_ = new WorkArea(left_, table_, right_, progress_);
-  // A window that is too small for the work area scrolls it as a whole.
-  auto* scroll = new QScrollArea(this);
-  scroll->setObjectName(QStringLiteral("scrWorkArea"));
-  scroll->setFrameShape(QFrame::NoFrame);
-  scroll->setFocusPolicy(Qt::NoFocus);
-  scroll->setWidgetResizable(true);
-  scroll->setMinimumSize(kLeastWindow);
-  scroll->setWidget(area_);
-  setCentralWidget(scroll);
-}
-
-void MainWindow::BuildStatusLine() {
-  status_ = new ElidedLabel(this);
-  status_->setObjectName(QStringLiteral("lblStatus"));
-  MakeQuiet(status_);
-  newVersion_ = new QLabel(this);
-  newVersion_->setObjectName(QStringLiteral("lblNewVersion"));
-  newVersion_->setTextFormat(Qt::PlainText);
-  auto* hint = new QLabel(tr("F1 help · F11 presentation"), this);
-  MakeQuiet(hint);
-  statusBar()->setSizeGripEnabled(false);
-  statusBar()->setContentsMargins(8, 0, 8, 4);
-  StyleStatusLine();
-  statusBar()->addWidget(status_, 1);
-  statusBar()->addPermanentWidget(newVersion_);
-  statusBar()->addPermanentWidget(hint);
-  ShowNewVersion();
-}
-
-/// No frames round its texts, as Windows has them. The texts keep the colours that they had when the
-/// sheet was set, so it is set again when they change.
-void MainWindow::StyleStatusLine() {
-  statusBar()->setStyleSheet(QString());
-  statusBar()->setStyleSheet(QStringLiteral("QStatusBar::item { border: none; }"));
-}
-
-void MainWindow::ShowNewVersion() {
-  const UpdateAnswer* newer = updates_.Newer();
-  newVersion_->setVisible(newer != nullptr);
-  if (newer != nullptr) {
-    newVersion_->setText(
-        tr("Version %1 is there: see the Help menu").arg(ToQt(newer->shownVersion)));
-  }
-}
-
-void MainWindow::Connect() {
-  connect(commands_, &Commands::Done, this, &MainWindow::Display);
-  connect(commands_, &Commands::Said, status_, &QLabel::setText);
-  connect(commands_, &Commands::Waiting, progress_, &ProgressFrame::SetWaiting);
-  connect(library_, &LibraryPane::LibraryChosen, commands_, &Commands::SelectLibrary);
-  connect(library_, &LibraryPane::LibraryNamed, commands_, &Commands::CreateLibrary);
-  connect(library_, &LibraryPane::BoardChosen, commands_, &Commands::SelectBoard);
-  connect(library_, &LibraryPane::HighestChosen, commands_, &Commands::SetMaxBoard);
-  connect(library_, &LibraryPane::StepAsked, commands_, &Commands::StepBoard);
-  connect(library_, &LibraryPane::Left, table_, qOverload<>(&QWidget::setFocus));
-  connect(commands_, &Commands::NewLibraryAsked, library_, &LibraryPane::BeginNewLibrary);
-  connect(actions_, &Actions::Asked, this, &MainWindow::CarryOut);
-  menu_->OfferAt(table_, kTableContext);
-  QMenu* ofBoard = menu_->ContextMenu(library_, kBoardListContext);
-  connect(library_->List(), &BoardList::MenuAsked, ofBoard,
-          [ofBoard](const QPoint& at) { ofBoard->popup(at); });
-  menu_->OfferAt(traveller_, kTravellerContext);
-  connect(menu_, &MainMenu::RecentAsked, this,
-          [this](const std::filesystem::path& file) { ImportFiles({file}); });
-  connect(commands_, &Commands::TableAsked, tables_, &BackgroundTables::ComputeAsked);
-  connect(tables_, &BackgroundTables::Changed, this, &MainWindow::Display);
-  connect(tables_, &BackgroundTables::Said, status_, &QLabel::setText);
-  connect(watch_, &DiskWatch::FolderChanged, this, &MainWindow::ShowFolder);
-  connect(watch_, &DiskWatch::Looked, summaries_, &BoardSummaries::LookAtSeen);
-  connect(watch_, &DiskWatch::Changed, this, &MainWindow::Display);
-  connect(watch_, &DiskWatch::Said, status_, &QLabel::setText);
-  connect(drafts_, &DraftClock::ProblemChanged, this, [this] { status_->setText(StatusText()); });
-  connect(&updates_, &Updates::Settled, this, [this] {
-    ShowNewVersion();
-    ShowState();
-  });
-  connect(progress_, &ProgressFrame::Begun, this, [this] { SetWorking(true); });
-  connect(progress_, &ProgressFrame::Ended, this, [this] { SetWorking(false); });
-  connect(commands_, &Commands::Dealing, this, [this](bool dealing) { state_.dealing = dealing; });
-  connect(progress_, &ProgressFrame::Drawn, this, &MainWindow::DisplayDeal);
-
-  ConnectPlay();
-  ConnectEdit();
-  ConnectResults();
-  ConnectColumns();
-}
-
-void MainWindow::ConnectEdit() {
-  commands_->SetFinishTyping([this] { return editPane_->FinishTyping(); });
-  commands_->SetLinRecord(
-      [this] { return LinPlayRecord(results_->OfBoard(), session_.board, results_->Row()); });
-  connect(commands_, &Commands::EditStarted, this, &MainWindow::BeginEditing);
-  connect(commands_, &Commands::SwapOpened, this, &MainWindow::PlaceBesideHands);
-  connect(commands_, &Commands::HandsChanged, this, &MainWindow::Display);
-  connect(table_, &TableView::MoveAsked, commands_, &Commands::MoveCard);
-  connect(table_, &TableView::Refused, status_, &QLabel::setText);
-  connect(table_, &TableView::OpenAsked, commands_, &Commands::Import);
-  connect(table_, &TableView::GenerateAsked, commands_, &Commands::Generate);
-}
-
-void MainWindow::ConnectPlay() {
-  connect(commands_, &Commands::AuctionOpened, this, &MainWindow::PlaceBesideAuction);
-  connect(commands_, &Commands::AuctionChanged, this, &MainWindow::DisplayAuction);
-  connect(commands_, &Commands::PlayStarted, table_, qOverload<>(&QWidget::setFocus));
-  connect(play_, &PlayControl::Changed, this, &MainWindow::DisplayPlay);
-  connect(best_, &BestCardsFinder::Changed, this, &MainWindow::DisplayPlay);
-  connect(table_, &TableView::TrickAsked, commands_, &Commands::QuitTrick);
-  connect(tricks_, &TrickPane::StopAsked, this,
-          [this] { results_->Record() != nullptr ? results_->Leave() : commands_->PlayOrStop(); });
-  connect(table_, &TableView::HideAsked, this, &MainWindow::Hide);
-}
-
-/// What is folded away and how wide the columns are outlasts the program.
-void MainWindow::ConnectColumns() {
-  const auto keep = [this](FoldingSection* pane, bool Settings::*setting) {
-    connect(pane, &FoldingSection::Folded, this, [this, setting](bool unfolded) {
-      session_.settings.*setting = unfolded;
-      SaveSetting(session_, setting);
-      Display();
-    });
-  };
-  keep(auction_, &Settings::showAuction);
-  keep(makeable_, &Settings::showMakeTable);
-  keep(traveller_, &Settings::showTraveller);
-  connect(area_, &WorkArea::WidthChosen, this, [this](bool right, int tenths) {
-    int Settings::*setting = right ? &Settings::rightWidth : &Settings::leftWidth;
-    session_.settings.*setting = tenths;
-    SaveSetting(session_, setting);
-    Display();
-  });
-  connect(area_, &WorkArea::FontChanged, this, [this] { Later(this, [this] { Display(); }); });
-}
-
-/// While a play record is looked at, cards that are clicked or typed are meant for it.
-void MainWindow::ConnectResults() {
-  connect(results_, &Results::Changed, this, &MainWindow::DisplayAuction);
-  connect(table_, &TableView::CardAsked, this, [this](Card card) {
-    results_->Record() != nullptr ? results_->PlayCard(card) : commands_->PlayCard(card);
-  });
-  connect(table_, &TableView::OnlyCardAsked, this, [this] {
-    results_->Record() != nullptr ? results_->Forward() : commands_->PlayOnlyCard();
-  });
-}
-
-void MainWindow::SetTabOrder() {
-  const QList<QWidget*> order = library_->TabOrder() + tricks_->TabOrder() + editPane_->TabOrder() +
-                                table_->TabOrder() + auction_->TabOrder() + contract_->TabOrder() +
-                                makeable_->TabOrder() + traveller_->TabOrder();
-  for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order.at(i - 1), order.at(i));
+  panes_.edit->ForgetTyping();  // a line of text loses the focus when it is destroyed
 }
 
 void MainWindow::Display() {
@@ -263,14 +88,14 @@ void MainWindow::Display() {
   edit_->DropStaleEdits();
   results_->ReadTraveller();
   summaries_->Show(results_->File());
-  library_->Show(session_);
-  editPane_->Show(session_, *edit_);
-  statistics_->Show(session_);
-  makeable_->Show(session_);
+  panes_.library->Show(session_);
+  panes_.edit->Show(session_, *edit_);
+  panes_.statistics->Show(session_);
+  panes_.makeable->Show(session_);
   DisplayAuction();
   if (!edit_->Editing()) tables_->ComputeMissing();
   ShowTitle();
-  status_->setText(StatusText());
+  status_->Say(StatusText());
 }
 
 void MainWindow::ShowTitle() {
@@ -284,10 +109,10 @@ void MainWindow::ShowTitle() {
 void MainWindow::DisplayDeal() {
   if (!state_.dealing) return;
   ShowTitle();
-  library_->Show(session_);
-  statistics_->Show(session_);
-  table_->Show(session_.board, session_.settings, nullptr);
-  table_->ShowBestCards({});
+  panes_.library->Show(session_);
+  panes_.statistics->Show(session_);
+  panes_.table->Show(session_.board, session_.settings, nullptr);
+  panes_.table->ShowBestCards({});
 }
 
 /// Files of the library that are not the current board's may be others: results, and other boards.
@@ -299,7 +124,7 @@ void MainWindow::ShowFolder() {
 }
 
 void MainWindow::Say(const QString& text) {
-  status_->setText(text);
+  status_->Say(text);
 }
 
 QString MainWindow::StatusText() const {
@@ -319,11 +144,11 @@ QString MainWindow::StatusText() const {
 /// Nothing under the eyes of a class, and nothing that would put away what is being typed.
 DiskWatch::Leave MainWindow::LeaveToWatch() const {
   using Leave = DiskWatch::Leave;
-  const bool busy = commands_->Running() || session_.batchRunning || progress_->IsWorking() ||
+  const bool busy = commands_->Running() || session_.batchRunning || panes_.progress->IsWorking() ||
                     QApplication::activeModalWidget() != nullptr ||
                     QApplication::activePopupWidget() != nullptr;
   if (busy || !isVisible() || isMinimized() || state_.presentation ||
-      results_->Record() != nullptr || library_->Typing(session_)) {
+      results_->Record() != nullptr || panes_.library->Typing(session_)) {
     return Leave::Nothing;
   }
   if (session_.board.playMode || edit_->Editing()) return Leave::Tell;
@@ -333,16 +158,16 @@ DiskWatch::Leave MainWindow::LeaveToWatch() const {
 void MainWindow::DisplayAuction() {
   results_->DropStaleRecord(commands_->Auction() != nullptr || edit_->Editing());
   const Replay* record = results_->Record();
-  auction_->Show(session_, commands_->Auction(),
-                 record != nullptr ? &record->Record().board : nullptr);
+  panes_.auction->Show(session_, commands_->Auction(),
+                       record != nullptr ? &record->Record().board : nullptr);
   DisplayPlay();
 }
 
 /// All that changes when a card is played or taken back.
 void MainWindow::DisplayPlay() {
-  if (progress_->IsWorking()) return;
-  library_->OfferNext(play_->Play().Finished());
-  traveller_->Show(session_);
+  if (panes_.progress->IsWorking()) return;
+  panes_.library->OfferNext(play_->Play().Finished());
+  panes_.traveller->Show(session_);
   DisplayTable();
   ShowTricks();
   ShowState();
@@ -350,11 +175,15 @@ void MainWindow::DisplayPlay() {
 
 /// Gathers the state, and sets the actions and what is shown by it.
 void MainWindow::ShowState() {
-  state_.working = progress_->IsWorking();
+  state_.working = panes_.progress->IsWorking();
   state_ = StateOf(std::move(state_), session_, *commands_, *play_, *edit_, *results_, updates_);
   actions_->Show(state_);
+  const PanesShown shown = ShownIn(state_);
+  menu_->Show(state_, shown.bars);
   menu_->ShowRecent(RecentFiles(session_.settings.recentFiles));
-  ShowPanes();
+  status_->SetVisible(shown.bars);
+  status_->ShowNewVersion(ToQt(state_.newerVersion));
+  panes_.Show(shown, session_.settings);
 }
 
 /// The board, its play or its auction; or the play record that is looked at.
@@ -364,9 +193,9 @@ void MainWindow::DisplayTable() {
     return;
   }
   const AuctionEntry* entry = commands_->Auction();
-  contract_->Show(session_, play_->Play());
+  panes_.contract->Show(session_, play_->Play());
   if (edit_->Editing()) {
-    table_->ShowEdit(session_.board, session_.settings);
+    panes_.table->ShowEdit(session_.board, session_.settings);
     return;
   }
   if (entry != nullptr) {
@@ -374,7 +203,7 @@ void MainWindow::DisplayTable() {
     return;
   }
   if (session_.library.boardCount == 0 && !HasCards(session_.board.hands)) {
-    table_->ShowEmpty();
+    panes_.table->ShowEmpty();
     return;
   }
   ShowPlayOf(session_.board, play_->Play());
@@ -383,9 +212,10 @@ void MainWindow::DisplayTable() {
 /// The hands of `board` as `play` has left them, and what each card leads to.
 void MainWindow::ShowPlayOf(const Board& board, const CardPlay& play,
                             const PerSeat<std::string>& names) {
-  table_->Show(board, session_.settings, play.PlayMode() ? &play : nullptr, std::nullopt, names);
+  panes_.table->Show(board, session_.settings, play.PlayMode() ? &play : nullptr, std::nullopt,
+                     names);
   best_->Find(play, board);
-  table_->ShowBestCards(best_->Tricks());
+  panes_.table->ShowBestCards(best_->Tricks());
 }
 
 /// Nobody is declarer until the auction has been taken over.
@@ -393,21 +223,21 @@ void MainWindow::DisplayBidding(const AuctionEntry& entry) {
   Board undecided = session_.board;
   undecided.contract.clear();
   undecided.contractLevel = 0;
-  table_->Show(undecided, session_.settings, nullptr,
-               entry.Over() ? std::nullopt : std::optional(entry.ToCall()));
-  table_->ShowBestCards({});
+  panes_.table->Show(undecided, session_.settings, nullptr,
+                     entry.Over() ? std::nullopt : std::optional(entry.ToCall()));
+  panes_.table->ShowBestCards({});
 }
 
 void MainWindow::DisplayRecord(const Replay& record) {
-  contract_->ShowRecord(record, session_.settings);
+  panes_.contract->ShowRecord(record, session_.settings);
   const auto row = static_cast<std::size_t>(results_->Row());
   ShowPlayOf(record.Record().board, record.Play(), results_->OfBoard().rows.at(row).players);
 }
 
 void MainWindow::BeginEditing() {
   Display();
-  QWidget* line = editPane_->FirstLine();
-  (line != nullptr ? line : table_)->setFocus();
+  QWidget* line = panes_.edit->FirstLine();
+  (line != nullptr ? line : panes_.table)->setFocus();
 }
 
 /// The lower left corner: there it covers neither the auction nor the middle of the table. Where
@@ -434,30 +264,11 @@ void MainWindow::ImportFiles(const std::vector<std::filesystem::path>& files) {
 }
 
 void MainWindow::SetWorking(bool working) {
-  left_->setEnabled(!working);
-  table_->setEnabled(!working);
+  panes_.left->setEnabled(!working);
+  panes_.table->setEnabled(!working);
   setAcceptDrops(!working);
   ShowState();
-  if (!working) table_->setFocus();
-}
-
-void MainWindow::ShowPanes() {
-  const PanesShown shown = ShownIn(state_);
-  menu_->Show(state_, shown.bars);
-  statusBar()->setVisible(shown.bars);
-  area_->ShowMargin(shown.bars);
-  area_->SetWidths(session_.settings.leftWidth, session_.settings.rightWidth);
-  KeepRoom(table_, true);
-  KeepRoom(left_, shown.leftRoom);
-  KeepRoom(right_, shown.rightRoom);
-  KeepRoom(makeable_, shown.makeableRoom);
-  const std::pair<QWidget*, bool> panes[] = {
-      {table_, shown.table},         {left_, shown.left},         {library_, shown.library},
-      {tricks_, shown.tricks},       {editPane_, shown.edit},     {statistics_, shown.statistics},
-      {right_, shown.right},         {contract_, shown.contract}, {makeable_, shown.makeable},
-      {traveller_, shown.traveller},
-  };
-  for (const auto& [pane, visible] : panes) pane->setVisible(visible);
+  if (!working) panes_.table->setFocus();
 }
 
 void MainWindow::CarryOut(WindowAsk what) {
@@ -473,10 +284,10 @@ void MainWindow::CarryOut(WindowAsk what) {
       Display();
       break;
     case WindowAsk::Traveller:
-      traveller_->Toggle();
+      panes_.traveller->Toggle();
       break;
     case WindowAsk::FindBoards:
-      library_->List()->BeginFind();
+      panes_.library->List()->BeginFind();
       break;
     case WindowAsk::HideHands:
       HideAll();
@@ -503,7 +314,7 @@ void MainWindow::Hide(Seat seat) {
 }
 
 void MainWindow::ShowHidden() {
-  table_->SetHidden(state_.hidden);
+  panes_.table->SetHidden(state_.hidden);
   ShowState();
 }
 
@@ -513,13 +324,13 @@ void MainWindow::ShowTricks() {
   const Board& board = record != nullptr ? record->Record().board : session_.board;
   const CardPlay& play = record != nullptr ? record->Play() : play_->Play();
   const auto known = [&](const PlayState& before) { return best_->Known(before, board.trumps); };
-  tricks_->Show(session_, board, MakeTrickGrid(play, known), record != nullptr);
+  panes_.tricks->Show(session_, board, MakeTrickGrid(play, known), record != nullptr);
 }
 
 void MainWindow::SetPresentation(bool on) {
   if (state_.presentation == on) return;
   state_.presentation = on;
-  table_->SetPresentation(on);
+  panes_.table->SetPresentation(on);
   Display();
   if (on) {
     stateBefore_ = windowState();
@@ -527,7 +338,7 @@ void MainWindow::SetPresentation(bool on) {
   } else {
     setWindowState(stateBefore_);
   }
-  table_->setFocus();
+  panes_.table->setFocus();
 }
 
 void MainWindow::RestorePlace() {
@@ -549,20 +360,17 @@ void MainWindow::changeEvent(QEvent* event) {
   if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
     Later(this, [this] { LookAtDisk(); });
   }
-  if (event->type() != QEvent::PaletteChange || status_ == nullptr) return;
-  Later(this, [this] {
-    StyleStatusLine();
-    Display();
-  });
+  if (event->type() != QEvent::PaletteChange || centralWidget() == nullptr) return;
+  Later(this, [this] { Display(); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  if (progress_->IsWorking()) {
-    progress_->Cancel();
+  if (panes_.progress->IsWorking()) {
+    panes_.progress->Cancel();
     event->ignore();
     return;
   }
-  if (!editPane_->FinishTyping() || !play_->Leave() ||
+  if (!panes_.edit->FinishTyping() || !play_->Leave() ||
       CheckSaveChanges(session_) == Answer::Cancel) {
     event->ignore();
     return;

@@ -11,8 +11,7 @@
 #include "ui/actions/action_table.h"
 #include "ui/actions/window_state.h"
 #include "ui/window/disk_watch.h"
-
-class QLabel;
+#include "ui/window/panes.h"
 
 namespace tricklet {
 class AuctionEntry;
@@ -23,28 +22,18 @@ class Replay;
 namespace tricklet::ui {
 
 class Actions;
-class AuctionPane;
 class BackgroundTables;
 class BestCardsFinder;
 class BoardSummaries;
 class Commands;
-class ContractPane;
 class DraftClock;
 class EditControl;
-class EditPane;
-class LibraryPane;
 class MainMenu;
-class MakeablePane;
 class PlayControl;
 class ProgressFrame;
 class Results;
-class SideColumn;
-class StatisticsPane;
-class TableView;
-class TravellerPane;
-class TrickPane;
+class StatusLine;
 class Updates;
-class WorkArea;
 
 /// Everything that it shows is derived from the session by `Display`.
 class MainWindow : public QMainWindow {
@@ -74,7 +63,7 @@ class MainWindow : public QMainWindow {
 
   /// Shows what a command has done in the status line.
   void Say(const QString& text);
-  ProgressFrame* Progress() const { return progress_; }
+  ProgressFrame* Progress() const { return panes_.progress; }
 
  protected:
   void changeEvent(QEvent* event) override;
@@ -83,7 +72,6 @@ class MainWindow : public QMainWindow {
   void dropEvent(QDropEvent* event) override;
 
  private:
-  void LayOut();
   void Connect();
   void ConnectPlay();
   void ConnectEdit();
@@ -103,13 +91,8 @@ class MainWindow : public QMainWindow {
   void BeginEditing();
   void PlaceBesideAuction(QWidget* dialog);
   void PlaceBesideHands(QWidget* dialog);
-  void SetTabOrder();
-  void BuildStatusLine();
-  void StyleStatusLine();
-  void ShowNewVersion();
   void SetWorking(bool working);
   void ShowState();
-  void ShowPanes();
   void ShowTricks();
   void CarryOut(WindowAsk what);
   void HideAll();
@@ -129,21 +112,8 @@ class MainWindow : public QMainWindow {
   DraftClock* drafts_;
   Actions* actions_;
   MainMenu* menu_;
-  LibraryPane* library_;
-  TrickPane* tricks_;
-  EditPane* editPane_;
-  StatisticsPane* statistics_;
-  TableView* table_;
-  AuctionPane* auction_;
-  ContractPane* contract_;
-  MakeablePane* makeable_;
-  TravellerPane* traveller_;
-  ProgressFrame* progress_;
-  SideColumn* left_ = nullptr;
-  SideColumn* right_ = nullptr;
-  WorkArea* area_ = nullptr;
-  QLabel* status_ = nullptr;
-  QLabel* newVersion_ = nullptr;
+  Panes panes_;
+  StatusLine* status_;
   WindowState state_;  // of the last display; what only the window knows is set here
   Qt::WindowStates stateBefore_;
 };

@@ -16,7 +16,7 @@ namespace tricklet::ui {
 namespace {
 
 // Widths of the columns in heights of their font.
-constexpr double kLeftWidth = 15;
+constexpr double kLeftWidth = 17;
 constexpr double kLeastChosenWidth = 10;
 constexpr double kLeastRightWidth = 22;
 constexpr double kRightWidthFromAfar = 17;
