@@ -12,9 +12,8 @@ namespace {
 class BoardHistoryTest : public testing::Test {
  protected:
   BoardHistoryTest() {
-    for (int card = 0; card < kCardsInPack; ++card) {
-      AddCard(board.hands, Card{kAllSuits[card / 13], static_cast<Rank>(card % 13)},
-              kAllSeats[card % 4]);
+    for (int index = 0; index < kCardsInPack; ++index) {
+      AddCard(board.hands, Card::FromIndex(index), SeatAfter(Seat::North, index % kSeats));
     }
     Note("");
   }

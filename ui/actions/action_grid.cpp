@@ -8,20 +8,30 @@ namespace {
 
 constexpr int kColumns = 2;
 
-void Follow(QPushButton* button, const QAction* action) {
-  button->setText(action->iconText());
+void ShowAction(QAbstractButton* button, const QAction* action) {
   button->setToolTip(action->toolTip());
   button->setEnabled(action->isEnabled());
 }
 
 }  // namespace
 
-QPushButton* MakeActionButton(const char* name, QAction* action) {
+void Follow(QAbstractButton* button, QAction* action) {
+  ShowAction(button, action);
+  QObject::connect(action, &QAction::changed, button,
+                   [button, action] { ShowAction(button, action); });
+  QObject::connect(button, &QAbstractButton::clicked, action, &QAction::trigger);
+}
+
+QPushButton* MakeActionButton(const char* name, QAction* action, ButtonText text) {
   auto* button = new QPushButton;
   button->setObjectName(QString::fromLatin1(name));
+  const auto showText = [button, action, text] {
+    const bool isShort = text == ButtonText::Short;
+    button->setText(isShort ? action->iconText() : action->text().remove(u'&'));
+  };
+  showText();
+  QObject::connect(action, &QAction::changed, button, showText);
   Follow(button, action);
-  QObject::connect(action, &QAction::changed, button, [button, action] { Follow(button, action); });
-  QObject::connect(button, &QPushButton::clicked, action, &QAction::trigger);
   return button;
 }
 

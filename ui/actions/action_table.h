@@ -27,6 +27,10 @@ enum class WindowAsk : std::uint8_t {
   HideEast,
   HideSouth,
   HideWest,
+  WidenLeft,
+  NarrowLeft,
+  WidenRight,
+  NarrowRight,
 };
 
 /// What carries an action out; a setting is flipped, a scheme or style is chosen.

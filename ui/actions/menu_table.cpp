@@ -29,7 +29,8 @@ constexpr std::array kMenus{
               "mnuHands mnuHideNorth mnuHideEast mnuHideSouth mnuHideWest | mnuStatistics "
               "mnuMakeable mnuBestCards mnuCardFaces | mnuColours> mnuColoursSystem "
               "mnuColoursLight mnuColoursDark < mnuTools> mnuToolsUnder mnuToolsBeside "
-              "mnuToolsIcons < | mnuPresentation mnuPresentationPanes mnuLeavePresentation"},
+              "mnuToolsIcons < mnuColumns> mnuWidenLeft mnuNarrowLeft mnuWidenRight mnuNarrowRight "
+              "< | mnuPresentation mnuPresentationPanes mnuLeavePresentation"},
     MenuEntry{QT_TR_NOOP("&Help"),
               "mnuHelp mnuNewFeatures | mnuNewVersion mnuCheckForUpdates | mnuAbout"},
 };

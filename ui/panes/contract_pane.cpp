@@ -6,7 +6,8 @@
 #include <QVBoxLayout>
 
 #include "core/scoring.h"
-#include "ui/commands/commands.h"
+#include "ui/actions/action_grid.h"
+#include "ui/actions/actions.h"
 #include "ui/style/follow_font.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/side_column.h"
@@ -38,20 +39,14 @@ std::string PassedOutText(const Board& board) {
 
 }  // namespace
 
-ContractPane::ContractPane(Commands& commands, QWidget* parent)
+ContractPane::ContractPane(const Actions& actions, QWidget* parent)
     : QWidget(parent),
       fraPlay_(new QWidget(this)),
-      cmdUndo(new QPushButton(tr("Undo"), fraPlay_)),
-      cmdClaim(new QPushButton(fraPlay_)),
+      cmdUndo(MakeActionButton("cmdUndo", actions.Of("mnuUndoCard"))),
+      cmdClaim(MakeActionButton("cmdClaim", actions.Of("mnuClaim"), ButtonText::OfMenus)),
       lblScore(MakeLabel(QStringLiteral("lblScore"), 1.0, this)) {
   setObjectName(QStringLiteral("fraContract"));
   fraPlay_->setObjectName(QStringLiteral("fraPlay"));
-  cmdUndo->setObjectName(QStringLiteral("cmdUndo"));
-  cmdUndo->setToolTip(tr("Take back the claim or the last card (Ctrl+Z)"));
-  cmdClaim->setObjectName(QStringLiteral("cmdClaim"));
-  cmdClaim->setToolTip(tr("All tricks that are left go to the side on play (Ctrl+L)"));
-  connect(cmdUndo, &QPushButton::clicked, &commands, &Commands::UndoCard);
-  connect(cmdClaim, &QPushButton::clicked, &commands, &Commands::Claim);
   auto* buttons = new QHBoxLayout(fraPlay_);
   buttons->setContentsMargins(0, 0, 0, 0);
   buttons->addWidget(cmdUndo, 2);
@@ -84,9 +79,6 @@ void ContractPane::ShowRecord(const Replay& record, const Settings& settings) {
 
 void ContractPane::ShowPlay(const CardPlay& play) {
   fraPlay_->setVisible(play.PlayMode());
-  cmdUndo->setEnabled(play.UndoEnabled());
-  cmdClaim->setEnabled(play.ClaimEnabled());
-  cmdClaim->setText(ToQt(play.ClaimCaption()));
 }
 
 }  // namespace tricklet::ui

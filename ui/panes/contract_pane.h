@@ -13,14 +13,14 @@ class QPushButton;
 
 namespace tricklet::ui {
 
-class Commands;
+class Actions;
 
 /// Undo and claim during play, and the result line. Contract and tricks lie on the table.
 class ContractPane : public QWidget {
   Q_OBJECT
 
  public:
-  explicit ContractPane(Commands& commands, QWidget* parent = nullptr);
+  explicit ContractPane(const Actions& actions, QWidget* parent = nullptr);
 
   /// Shows `play`, or the result of a board that was passed out.
   void Show(const Session& session, const CardPlay& play);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QAction>
 #include <QComboBox>
 #include <QEvent>
 #include <QHBoxLayout>
@@ -14,6 +15,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "ui/actions/action_grid.h"
+#include "ui/actions/actions.h"
 #include "ui/panes/traveller_delegate.h"
 #include "ui/panes/traveller_model.h"
 #include "ui/style/drawn_button.h"
@@ -36,7 +39,7 @@ constexpr int kStretch = 100;
 
 }  // namespace
 
-TravellerPane::TravellerPane(Results& results, QWidget* parent)
+TravellerPane::TravellerPane(Results& results, const Actions& actions, QWidget* parent)
     : FoldingSection(QStringLiteral("secTraveller"), QStringLiteral("cmdTraveller"),
                      {tr("Show the traveller"), tr("Show the traveller (Ctrl+J)"),
                       tr("Hide the traveller (Ctrl+J)")},
@@ -59,7 +62,7 @@ TravellerPane::TravellerPane(Results& results, QWidget* parent)
   cmbLinNames->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   connect(cmbLinNames, &QComboBox::activated, &results_, &Results::ShowRecord);
   column->addWidget(cmbLinNames);
-  BuildSteps(column);
+  BuildSteps(column, actions);
   BuildGrid();
   column->addWidget(flexTraveller, 1);  // last, as its height gives way
   SetSizes();
@@ -99,41 +102,32 @@ void TravellerPane::BuildGrid() {
   });
 }
 
-QToolButton* TravellerPane::AddStep(Step step, const char* name, const QString& text,
-                                    const QString& tip, void (Results::*procedure)()) {
+QToolButton* TravellerPane::AddStep(const char* name, const QString& text, QAction* action) {
   auto* button = new DrawnButton(QString::fromLatin1(name), Content());
   button->setText(text);
-  button->setToolTip(tip);
-  button->setAccessibleName(tip.section(QLatin1Char('('), 0, 0).trimmed());
-  connect(button, &QToolButton::clicked, &results_, procedure);
-  steps_.at(step) = button;
+  button->setAccessibleName(action->statusTip());
+  Follow(button, action);
+  steps_ += button;
   return button;
 }
 
-void TravellerPane::BuildSteps(QVBoxLayout* column) {
+void TravellerPane::BuildSteps(QVBoxLayout* column, const Actions& actions) {
   auto* row = new QHBoxLayout;
   row->setSpacing(4);
-  row->addWidget(AddStep(PreviousTrick, "cmdLinPreviousTrick", tr("<<"),
-                         tr("Back to the beginning of the trick (Alt+Shift+Left)"),
-                         &Results::PreviousTrick));
-  row->addWidget(
-      AddStep(Back, "cmdLinBack", tr("<"), tr("One card back (Alt+Left)"), &Results::Back));
-  row->addWidget(
-      AddStep(Forward, "cmdLinForward", tr(">"), tr("One card on (Alt+Right)"), &Results::Forward));
-  row->addWidget(AddStep(NextTrick, "cmdLinNextTrick", tr(">>"),
-                         tr("On to the end of the trick (Alt+Shift+Right)"), &Results::NextTrick));
+  row->addWidget(AddStep("cmdLinPreviousTrick", tr("<<"), actions.Of("mnuLinPreviousTrick")));
+  row->addWidget(AddStep("cmdLinBack", tr("<"), actions.Of("mnuLinBack")));
+  row->addWidget(AddStep("cmdLinForward", tr(">"), actions.Of("mnuLinForward")));
+  row->addWidget(AddStep("cmdLinNextTrick", tr(">>"), actions.Of("mnuLinNextTrick")));
   lblLinPlace_->setObjectName(QStringLiteral("lblLinPlace"));
   MakeQuiet(lblLinPlace_);
   row->addWidget(lblLinPlace_, 1);
-  row->addWidget(AddStep(Leave, "cmdLinLeave", tr("x"),
-                         tr("Put the play record away (Ctrl+Shift+J)"), &Results::Leave));
+  row->addWidget(AddStep("cmdLinLeave", tr("x"), actions.Of("mnuLinLeave")));
   column->addLayout(row);
 }
 
 QList<QWidget*> TravellerPane::TabOrder() const {
-  QList<QWidget*> order{Button(), cmbLinNames};
-  for (QToolButton* step : steps_) order += step;
-  return order + QList<QWidget*>{flexTraveller};
+  const QList<QWidget*> order{Button(), cmbLinNames};
+  return order + steps_ + QList<QWidget*>{flexTraveller};
 }
 
 int TravellerPane::RowAt(const QPoint& at) const {
@@ -172,7 +166,7 @@ void TravellerPane::Show(const Session& session) {
     FillNames();
   }
   MarkRecord();
-  ShowSteps();
+  ShowPlace();
 }
 
 void TravellerPane::FillGrid(const Session& session) {
@@ -234,13 +228,8 @@ void TravellerPane::MarkRecord() {
   marking_ = false;
 }
 
-void TravellerPane::ShowSteps() {
+void TravellerPane::ShowPlace() {
   const Replay* record = results_.Record();
-  const bool back = record != nullptr && record->BackEnabled();
-  const bool forward = record != nullptr && record->ForwardEnabled();
-  for (const Step step : {PreviousTrick, Back}) steps_.at(step)->setEnabled(back);
-  for (const Step step : {Forward, NextTrick}) steps_.at(step)->setEnabled(forward);
-  steps_.at(Leave)->setEnabled(record != nullptr);
   lblLinPlace_->setText(record == nullptr ? QString() : ToQt(record->PlaceText()));
   lblLinPlace_->setAccessibleName(lblLinPlace_->text());
 }

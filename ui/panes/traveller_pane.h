@@ -1,19 +1,20 @@
 // The right column's lowest part: the results of the board, and the play records among them.
 #pragma once
 
-#include <array>
 #include <optional>
 
 #include "analysis/par.h"
 #include "ui/control/results.h"
 #include "ui/style/folding_section.h"
 
+class QAction;
 class QComboBox;
 class QTableView;
 class QToolButton;
 
 namespace tricklet::ui {
 
+class Actions;
 enum class TravellerColumn;
 class TravellerModel;
 class TravellerOrder;
@@ -24,7 +25,7 @@ class TravellerPane : public FoldingSection {
 
  public:
   /// Asks `results` for records and steps.
-  explicit TravellerPane(Results& results, QWidget* parent = nullptr);
+  TravellerPane(Results& results, const Actions& actions, QWidget* parent = nullptr);
 
   /// Shows the results of the board that `results` was last read for, and its record if one is
   /// looked at. The order that the person has sorted them by stays.
@@ -41,17 +42,14 @@ class TravellerPane : public FoldingSection {
   void changeEvent(QEvent* event) override;
 
  private:
-  enum Step { PreviousTrick, Back, Forward, NextTrick, Leave, kSteps };
-
   void BuildGrid();
-  void BuildSteps(QVBoxLayout* column);
-  QToolButton* AddStep(Step step, const char* name, const QString& text, const QString& tip,
-                       void (Results::*procedure)());
+  void BuildSteps(QVBoxLayout* column, const Actions& actions);
+  QToolButton* AddStep(const char* name, const QString& text, QAction* action);
   void SetSizes();
   void FillGrid(const Session& session);
   void FillNames();
   void MarkRecord();
-  void ShowSteps();
+  void ShowPlace();
   int WidthOfColumn(TravellerColumn column) const;
   void TravellerResize();
   void SortByCurrentColumn();
@@ -66,7 +64,7 @@ class TravellerPane : public FoldingSection {
   TravellerOrder* order_;
   QTableView* flexTraveller;
   QComboBox* cmbLinNames;
-  std::array<QToolButton*, kSteps> steps_{};
+  QList<QWidget*> steps_;
   ElidedLabel* lblLinPlace_;
   QLabel* lblTables_;
 };

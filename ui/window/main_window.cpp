@@ -298,6 +298,14 @@ void MainWindow::CarryOut(WindowAsk what) {
     case WindowAsk::HideWest:
       Hide(static_cast<Seat>(IndexOf(what) - IndexOf(WindowAsk::HideNorth)));
       break;
+    case WindowAsk::WidenLeft:
+    case WindowAsk::NarrowLeft:
+      panes_.area->Widen(false, what == WindowAsk::WidenLeft);
+      break;
+    case WindowAsk::WidenRight:
+    case WindowAsk::NarrowRight:
+      panes_.area->Widen(true, what == WindowAsk::WidenRight);
+      break;
   }
 }
 

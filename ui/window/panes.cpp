@@ -34,9 +34,9 @@ Panes::Panes(Session& session, Commands& commands, const Actions& actions, Resul
       statistics(new StatisticsPane),
       table(new TableView),
       auction(new AuctionPane),
-      contract(new ContractPane(commands)),
+      contract(new ContractPane(actions)),
       makeable(new MakeablePane),
-      traveller(new TravellerPane(results)),
+      traveller(new TravellerPane(results, actions)),
       progress(new ProgressFrame) {}
 
 QWidget* Panes::Lay(QWidget* window) {

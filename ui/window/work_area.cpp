@@ -17,6 +17,7 @@ namespace {
 
 // Widths of the columns in heights of their font.
 constexpr double kLeftWidth = 17;
+constexpr int kWidthStep = 10;  // of a command, in tenths
 constexpr double kLeastChosenWidth = 10;
 constexpr double kLeastRightWidth = 22;
 constexpr double kRightWidthFromAfar = 17;
@@ -92,6 +93,11 @@ void WorkArea::SetWidths(int left, int right) {
   leftWidth_ = left;
   rightWidth_ = right;
   Arrange();
+}
+
+void WorkArea::Widen(bool right, bool wider) {
+  const int now = ToTenths((right ? right_ : left_)->width());
+  emit WidthChosen(right, std::max(1, now + (wider ? kWidthStep : -kWidthStep)));
 }
 
 /// What the margin leaves; the layout itself knows it only after it has been activated.

@@ -30,6 +30,8 @@ class WorkArea : public QWidget {
   /// The widths of the columns, in tenths of the window's font height; 0 as the window's size
   /// gives.
   void SetWidths(int left, int right);
+  /// Asks, by `WidthChosen`, for a column a little wider or narrower.
+  void Widen(bool right, bool wider);
 
  signals:
   /// The person has chosen the width of the left or the right column, in the unit of `SetWidths`.
