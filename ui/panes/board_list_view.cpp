@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QSortFilterProxyModel>
 
 #include "ui/panes/board_list_delegate.h"
@@ -13,6 +14,9 @@
 
 namespace tricklet::ui {
 namespace {
+
+/// The one of most digits: 13 undertricks, vulnerable and redoubled, are 7600.
+const QString kLongestScore = QStringLiteral("\u22127600");
 
 bool IsPlain(const QKeyEvent& event) {
   return (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
@@ -78,6 +82,7 @@ void BoardListView::SetColumnWidths() {
     header()->resizeSection(static_cast<int>(column), width);
   };
   header()->setMinimumSectionSize(margin);
+  scoreWidth_ = QFontMetrics(font()).horizontalAdvance(kLongestScore) + margin;
   setWidth(BoardColumn::Number, bold, QStringLiteral("999*"));
   for (const auto column :
        {BoardColumn::Dealer, BoardColumn::Vulnerability, BoardColumn::Contract}) {
@@ -217,8 +222,14 @@ QSize BoardListView::sizeHint() const {
   return {fontMetrics().averageCharWidth() * 30, HeightOf(12)};
 }
 
+/// No score is cut, for half of one reads as another.
 QSize BoardListView::minimumSizeHint() const {
-  return {fontMetrics().averageCharWidth() * 10, HeightOf(4)};
+  int width = scoreWidth_ + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+  for (const auto column : {BoardColumn::Number, BoardColumn::Dealer, BoardColumn::Vulnerability,
+                            BoardColumn::Contract}) {
+    width += columnWidth(static_cast<int>(column));
+  }
+  return {width, HeightOf(4)};
 }
 
 }  // namespace tricklet::ui

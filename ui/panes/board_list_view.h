@@ -62,8 +62,9 @@ class BoardListView : public QTreeView {
   BoardListModel* boards_;
   QSortFilterProxyModel* rows_;
   BoardListDelegate* delegate_;
-  int current_ = 0;  // board number
-  int typed_ = 0;    // the number that is being typed
+  int scoreWidth_ = 0;  // pixels
+  int current_ = 0;     // board number
+  int typed_ = 0;       // the number that is being typed
   QTimer typing_;
 };
 

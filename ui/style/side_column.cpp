@@ -1,5 +1,7 @@
 #include "ui/style/side_column.h"
 
+#include <algorithm>
+
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -32,8 +34,9 @@ int SideColumn::WidthFor(double heights) const {
   return static_cast<int>(widget()->fontMetrics().height() * heights);
 }
 
-int SideColumn::LeastWidth() const {
-  return widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
+int SideColumn::LeastWidth() {
+  widest_ = std::max(widest_, widget()->minimumSizeHint().width());
+  return widest_ + verticalScrollBar()->sizeHint().width();
 }
 
 bool SideColumn::SetFontFactor(double factor) {
@@ -41,6 +44,7 @@ bool SideColumn::SetFontFactor(double factor) {
   wanted.setPointSizeF(wanted.pointSizeF() * factor);
   if (wanted.pointSizeF() == widget()->font().pointSizeF()) return false;
   widget()->setFont(wanted);
+  widest_ = 0;
   return true;
 }
 

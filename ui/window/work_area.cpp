@@ -62,8 +62,10 @@ WorkArea::WorkArea(SideColumn* left, TableView* table, SideColumn* right, Progre
   column->addWidget(progress);
   ConnectHandle(leftHandle_, false);
   ConnectHandle(rightHandle_, true);
-  left->installEventFilter(this);
-  right->installEventFilter(this);
+  for (QWidget* watched : {static_cast<QWidget*>(left), static_cast<QWidget*>(right),
+                           left->widget(), right->widget()}) {
+    watched->installEventFilter(this);
+  }
   ShowMargin(true);
   Arrange();
 }
@@ -111,7 +113,7 @@ int WorkArea::ToTenths(int pixels) const {
 
 /// What was chosen or follows from the room, within what the column and the table need.
 int WorkArea::WidthOf(bool right) const {
-  const SideColumn* column = right ? right_ : left_;
+  SideColumn* column = right ? right_ : left_;
   const QSize room = Room();
   const int chosen = right ? rightWidth_ : leftWidth_;
   if (chosen > 0) {
@@ -151,9 +153,12 @@ void WorkArea::resizeEvent(QResizeEvent* event) {
   Arrange();
 }
 
-/// The gap beside a column comes, goes and stays with it.
+/// The gap beside a column comes, goes and stays with it. What a pane shows can need more width
+/// than it did when the column was laid out.
 bool WorkArea::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
+  if (watched == left_->widget() || watched == right_->widget()) {
+    if (event->type() == QEvent::LayoutRequest) Arrange();
+  } else if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
     const SideColumn* column = watched == left_ ? left_ : right_;
     ColumnHandle* handle = watched == left_ ? leftHandle_ : rightHandle_;
     KeepRoom(handle, column->sizePolicy().retainSizeWhenHidden());

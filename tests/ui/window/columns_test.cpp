@@ -1,7 +1,12 @@
 // The columns beside the table: their widths, their font and what is folded away in them.
+#include <QHeaderView>
+#include <QLabel>
 #include <QMouseEvent>
+#include <QScrollArea>
+#include <QTreeView>
 
 #include "tests/ui/window_fixture.h"
+#include "ui/panes/board_list_model.h"
 #include "ui/window/work_area.h"
 
 namespace tricklet::ui {
@@ -70,6 +75,17 @@ TEST_F(ColumnsTest, AreWidenedByTheirHandles) {
     EXPECT_EQ(Width(column), before);
     EXPECT_EQ(LoadSettings(session.store).*setting, 0);
   }
+}
+
+TEST_F(ColumnsTest, NothingIsCutByTheColumnsEdge) {
+  Open();
+  auto* column = Find<QScrollArea>("colLeft");
+  Find<QLabel>("lblLibrary")->setText(QString(50, QLatin1Char('8')));
+  QApplication::processEvents();
+  EXPECT_LE(column->widget()->width(), column->viewport()->width());
+  const auto* header = Find<QTreeView>("lstBoards")->header();
+  EXPECT_GT(header->sectionSize(static_cast<int>(BoardColumn::Score)),
+            header->fontMetrics().horizontalAdvance(QStringLiteral("+7600")));
 }
 
 TEST_F(ColumnsTest, NothingMovesWhenATableArrives) {
