@@ -3,9 +3,27 @@
 #include "core/statistics.h"
 #include "core/text.h"
 #include "generate/deal.h"
+#include "library/board_file.h"
 #include "ui/control/play_control.h"
 
 namespace tricklet::ui {
+namespace {
+
+/// Where a board comes with its changes, as a restored draft does: begins a new list with what is
+/// stored. False when that is not known.
+bool BeginWithStored(const Session& session, const std::string& place, BoardHistory& past) {
+  const SeenFile& seen = session.seenFile;
+  if (seen.path != session.BoardPath(session.board.boardNumber)) return false;
+  Board stored = session.board;
+  ClearAll(stored);
+  stored.handChanged = false;
+  if (seen.bytes && !ReadBoardText(*seen.bytes, stored, TableReading::Always)) return false;
+  past = {};
+  past.Note(place, stored, {}, {});
+  return true;
+}
+
+}  // namespace
 
 EditControl::EditControl(Session& session, PlayControl& play)
     : session_(session), play_(play), boardsLoaded_(session.boardsLoaded) {
@@ -22,6 +40,9 @@ void EditControl::DropStaleEdits() {
     boardsLoaded_ = session_.boardsLoaded;
     history_ = {};
     editing_ = false;
+    if (session_.board.handChanged && BeginWithStored(session_, Place(), past_)) {
+      Note("restore changes");
+    }
   }
   if (session_.board.playMode) editing_ = false;
   Note({});

@@ -54,6 +54,20 @@ class EditWindowTest : public WindowTest {
   }
 };
 
+TEST_F(EditWindowTest, ABoardThatComesWithItsChangesCanGoBackToItsFile) {
+  Open();
+  const HandTable stored = session.board.hands;
+  ClearAll(session.board);
+  session.board.handChanged = true;
+  ++session.boardsLoaded;
+  window->Display();
+  EXPECT_EQ(EnabledOf("mnuUndo mnuRevert"), "mnuUndo mnuRevert");
+  Find<QAction>("mnuUndo")->trigger();
+  EXPECT_TRUE(session.board.hands == stored && !session.board.handChanged);
+  Find<QAction>("mnuRedo")->trigger();
+  EXPECT_TRUE(session.board.hands != stored && session.board.handChanged);
+}
+
 TEST_F(EditWindowTest, EditingShowsThePackAndTakesTheRestAway) {
   session.board.makeableValid = true;
   test::SetAuction(session.board, "1S P P P");
