@@ -61,8 +61,7 @@ void BoardList::BuildFind() {
   connect(txtFindBoards, &QLineEdit::textChanged, this, &BoardList::Find);
   connect(txtFindBoards, &QLineEdit::returnPressed, this, &BoardList::GoToFound);
   new QShortcut(
-      Qt::Key_Down, txtFindBoards, lstBoards,
-      [this] { lstBoards->setFocus(Qt::ShortcutFocusReason); }, Qt::WidgetShortcut);
+      Qt::Key_Down, txtFindBoards, this, [this] { GoToFound(); }, Qt::WidgetShortcut);
   new QShortcut(
       Qt::Key_Escape, txtFindBoards, this,
       [this] {
@@ -94,7 +93,7 @@ void BoardList::ShowFound() {
   lblFound->setVisible(!found_->FindsAll());
 }
 
-/// Enter in the box: the first board that was found, unless the current one is among them.
+/// Enter or Down in the box: the first board that was found, unless the current one is among them.
 void BoardList::GoToFound() {
   if (found_->rowCount() == 0) return;
   lstBoards->setFocus(Qt::OtherFocusReason);

@@ -102,11 +102,16 @@ TEST_F(BoardListTest, FindsBoardsAndSaysHowManyAreLeftOut) {
   Open();
   EXPECT_FALSE(Shown("lblFound"));
   EXPECT_TRUE(QTest::qWaitFor([this] { return Row(21).contains(QStringLiteral("no trump")); }));
+  for (const char* key : {"Return", "Down"}) {
+    Type("txtFindBoards", "3nt");
+    EXPECT_EQ(Text("lblFound") + ", " + Chosen(), "1 of 24 boards, -");
+    FocusKey(key);
+    EXPECT_EQ(Chosen() + ", " + Focus(), "22, lstBoards");
+    Type("txtFindBoards", "1");
+    FocusKey(key);
+  }
   Type("txtFindBoards", "3nt");
-  EXPECT_EQ(Text("lblFound") + ", " + Chosen(), "1 of 24 boards, -");
   FocusKey("Return");
-  EXPECT_EQ(Chosen() + ", " + Focus(), "22, lstBoards");
-  FocusKey("Home");
   Type("txtFindBoards", "no such word");
   EXPECT_EQ(Text("lblFound"), "0 of 24 boards");
   FocusKey("Esc");
