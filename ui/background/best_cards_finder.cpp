@@ -9,7 +9,7 @@ namespace tricklet::ui {
 namespace {
 
 /// Four plays of a board.
-constexpr std::size_t kRemembered = 4 * kCardsInPack;
+constexpr std::size_t kRemembered = std::size_t{4} * kCardsInPack;
 
 }  // namespace
 
@@ -21,7 +21,7 @@ BestCardsFinder::~BestCardsFinder() = default;
 std::optional<BestCardsFinder::Question> BestCardsFinder::QuestionOf(const PlayState& state,
                                                                      Strain trumps) {
   const auto position = PositionOf(state, trumps);
-  if (!position) return std::nullopt;
+  if (!position || !state.onPlay) return std::nullopt;
   return Question{*position, state.tricksWon[SideOf(*state.onPlay)]};
 }
 
