@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "ui/cards/card_glyphs.h"
@@ -18,6 +19,7 @@ namespace tricklet::ui {
 namespace {
 
 constexpr int kMargin = 8;  // narrow, so that the dialog leaves the table in sight
+constexpr int kFrame = 48;  // room for the title bar and borders of a window
 
 QGridLayout* MakeGrid(QGroupBox* box) {
   auto* grid = new QGridLayout(box);
@@ -76,14 +78,18 @@ frmSwap::frmSwap(Session& session, EditControl& edit, QWidget* parent)
   setWindowTitle(tr("Rotate/Swap"));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  column->addWidget(MakeHands());
-  column->addWidget(MakeSuits());
+  auto* swaps = new QBoxLayout(QBoxLayout::TopToBottom);
+  swaps->addWidget(MakeHands());
+  swaps->addWidget(MakeSuits());
+  column->addLayout(swaps);
   column->addWidget(MakeRotation());
   QPushButton* cmdCancel = MakeButton(QStringLiteral("cmdCancel"), tr("&Done"), tr("Done"));
   cmdCancel->setDefault(true);
   connect(cmdCancel, &QPushButton::clicked, this, &QDialog::accept);
   column->addWidget(cmdCancel);
   column->setSizeConstraint(QLayout::SetFixedSize);
+  if (column->sizeHint().height() + kFrame > screen()->availableGeometry().height())
+    swaps->setDirection(QBoxLayout::LeftToRight);
 }
 
 QGroupBox* frmSwap::MakeHands() {
