@@ -1,6 +1,7 @@
 #include "ui/panes/makeable_pane.h"
 
 #include <QEvent>
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -60,22 +61,28 @@ MakeablePane::MakeablePane(QWidget* parent)
   SetSizes();
 }
 
-/// A style sheet keeps the colours that it was set with, so it is set again when they change. The
-/// colours are the program's, as the table's own palette changes later.
+/// A style sheet keeps the colours and the font that it was set with, so it is set again when they
+/// change. The colours are the program's, as the table's own palette changes later.
 void MakeablePane::StyleHeads() {
-  lvwMake->horizontalHeader()->setStyleSheet(
-      QStringLiteral("QHeaderView, QHeaderView::section { border: none; background: %1; }")
-          .arg(QGuiApplication::palette().color(QPalette::Base).name()));
+  const QString sheet =
+      QStringLiteral(
+          "QHeaderView, QHeaderView::section { border: none; background: %1; font-size: %2pt; }")
+          .arg(QGuiApplication::palette().color(QPalette::Base).name())
+          .arg(QFontInfo(font()).pointSizeF());
+  QHeaderView* heads = lvwMake->horizontalHeader();
+  if (heads->styleSheet() != sheet) heads->setStyleSheet(sheet);
 }
 
 void MakeablePane::changeEvent(QEvent* event) {
   FoldingSection::changeEvent(event);
   if (event->type() == QEvent::PaletteChange) StyleHeads();
-  if (event->type() == QEvent::FontChange) SetSizes();
+  if (event->type() == QEvent::FontChange) {
+    StyleHeads();
+    SetSizes();
+  }
 }
 
 void MakeablePane::SetSizes() {
-  lvwMake->horizontalHeader()->setFont(font());
   lvwMake->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowPadding);
   lvwMake->setFixedHeight(lvwMake->horizontalHeader()->sizeHint().height() +
                           lvwMake->verticalHeader()->length() + 2 * lvwMake->frameWidth());
