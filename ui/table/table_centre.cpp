@@ -125,6 +125,9 @@ struct CentreParts {
   QRectF dealer;    ///< below the line: dealer and vulnerability
 };
 
+/// How much wider than high a panel is that has its lines between West and East.
+constexpr double kWide = 1.25;
+
 CentreParts PartsOf(const QRectF& panel, const Board& board, const QFont& font) {
   const double unit = std::clamp(std::min(panel.width(), panel.height()) * 0.095, 5.0, 48.0);
   const auto mark = [&](Seat seat) {
@@ -147,6 +150,16 @@ CentreParts PartsOf(const QRectF& panel, const Board& board, const QFont& font) 
   const double down = ends + 1.4 * pad;
   const double half = std::max(size(Seat::West).height(), size(Seat::East).height()) / 2;
   const QRectF inner = panel.adjusted(pad, down, -pad, -down);
+  if (panel.width() > kWide * panel.height()) {
+    // Room enough between West and East for all lines, so that their line need not be kept free.
+    const double aside = sides + pad;
+    const QRectF lines = inner.adjusted(aside, 0, -aside, 0);
+    const double each = lines.height() / 4;  // dealer and vulnerability are two
+    parts.board = {lines.left(), lines.top(), lines.width(), each};
+    parts.contract = parts.board.translated(0, each);
+    parts.dealer = {lines.left(), parts.contract.bottom(), lines.width(), 2 * each};
+    return parts;
+  }
   const double above = middle.y() - half - inner.top();
   constexpr double kBoard = 0.56;
   parts.board = {inner.left(), inner.top(), inner.width(), kBoard * above};

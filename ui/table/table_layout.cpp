@@ -39,6 +39,12 @@ struct Measures {
   double cardHeight;
 };
 
+/// The size of text whose capitals are high enough for the back of a room.
+double PresentationText(double height) {
+  constexpr double kCapitals = 0.72;  // of the size, in common fonts
+  return kPresentationText / kCapitals * height;
+}
+
 Measures Measure(QSizeF size, bool presentation = false) {
   const double width = std::max(1.0, size.width());
   const double height = std::max(1.0, size.height());
@@ -47,8 +53,7 @@ Measures Measure(QSizeF size, bool presentation = false) {
   m.gap = std::round(0.7 * m.margin);
   m.captionHeight = std::round(std::clamp(0.042 * std::min(width, height), 14.0, 96.0));
   if (presentation) {
-    m.captionHeight =
-        std::max(m.captionHeight, std::ceil(kPresentationText / kCaptionText * height));
+    m.captionHeight = std::max(m.captionHeight, std::ceil(PresentationText(height) / kCaptionText));
   }
   const double across = std::min(width, height * kMostAspect) - 2 * m.margin;
   m.room = QRectF((width - across) / 2, m.margin, across, height - 2 * m.margin);
@@ -264,7 +269,7 @@ TableLayout LayOutTable(QSizeF size, const HandTable& hands, const TableNeeds& n
   TableLayout layout;
   layout.felt = QRectF(QPointF(), size);
   layout.cardSize = {measures.cardWidth, measures.cardHeight};
-  if (needs.presentation) layout.leastCaption = kPresentationText * size.height();
+  if (needs.presentation) layout.leastCaption = PresentationText(size.height());
   PlaceAreas(layout, measures, needs);
   if (needs.display == HandDisplay::Text) return layout;
   for (const Seat seat : kAllSeats) {
