@@ -125,12 +125,23 @@ int WorkArea::WidthOf(bool right) const {
     return std::max(least, std::min(wanted, most));
   }
   if (!right) return std::max(column->LeastWidth(), column->WidthFor(kLeftWidth));
-  const int table = static_cast<int>(WidthOfTable(room.height()));
-  const int rest = room.width() - left_->width() - table - 2 * kMargin;
-  return std::max(
-      column->LeastWidth(),
+  const int others = left_->width() + 2 * kMargin;
+  const int rest = room.width() - others - static_cast<int>(WidthOfTable(room.height()));
+  // A small window takes from what is comfortable before it is scrolled.
+  const int most = room.width() - others - table_->minimumSizeHint().width();
+  const int comfortable =
       std::clamp(rest, column->WidthFor(fromAfar_ ? kRightWidthFromAfar : kLeastRightWidth),
-                 column->WidthFor(kMostRightWidth)));
+                 column->WidthFor(kMostRightWidth));
+  return std::max(column->LeastWidth(), std::min(comfortable, most));
+}
+
+/// A right column that nobody has given a width gives way down to what it needs.
+QSize WorkArea::minimumSizeHint() const {
+  QSize size = QWidget::minimumSizeHint();
+  const bool takesRoom = !right_->isHidden() || right_->sizePolicy().retainSizeWhenHidden();
+  if (rightWidth_ == 0 && takesRoom)
+    size.rwidth() -= std::max(0, right_->width() - right_->LeastWidth());
+  return size;
 }
 
 void WorkArea::SetFonts() {

@@ -30,6 +30,7 @@ class WorkArea : public QWidget {
   /// The widths of the columns, in tenths of the window's font height; 0 as the window's size
   /// gives.
   void SetWidths(int left, int right);
+  QSize minimumSizeHint() const override;
   /// Asks, by `WidthChosen`, for a column a little wider or narrower.
   void Widen(bool right, bool wider);
 

@@ -7,6 +7,7 @@
 
 #include "tests/ui/window_fixture.h"
 #include "ui/panes/board_list_model.h"
+#include "ui/style/side_column.h"
 #include "ui/window/work_area.h"
 
 namespace tricklet::ui {
@@ -86,6 +87,17 @@ TEST_F(ColumnsTest, NothingIsCutByTheColumnsEdge) {
   const auto* header = Find<QTreeView>("lstBoards")->header();
   EXPECT_GT(header->sectionSize(static_cast<int>(BoardColumn::Score)),
             header->fontMetrics().horizontalAdvance(QStringLiteral("+7600")));
+}
+
+TEST_F(ColumnsTest, GiveWayBeforeTheWindowScrolls) {
+  Open();
+  auto* right = Find<SideColumn>("colRight");
+  const int table = Find<QWidget>("picTable")->minimumSizeHint().width();
+  window->resize(Width("colLeft") + table + right->LeastWidth() + 5 * WorkArea::kMargin, 700);
+  QCoreApplication::processEvents();
+  const auto* scroll = Find<QScrollArea>("scrWorkArea");
+  EXPECT_EQ(scroll->widget()->width(), scroll->viewport()->width());
+  EXPECT_GE(right->width(), right->LeastWidth());
 }
 
 TEST_F(ColumnsTest, NothingMovesWhenATableArrives) {
