@@ -11,6 +11,7 @@
 #include "ui/panes/board_list_delegate.h"
 #include "ui/panes/board_list_model.h"
 #include "ui/panes/board_row_text.h"
+#include "ui/style/focus_ring.h"
 
 namespace tricklet::ui {
 namespace {
@@ -48,6 +49,7 @@ BoardListView::BoardListView(BoardListModel* boards, QSortFilterProxyModel* rows
   setObjectName(QStringLiteral("lstBoards"));
   setAccessibleName(tr("Boards"));
   setModel(rows);
+  new FocusRing(this);
   setItemDelegate(delegate_);
   setRootIsDecorated(false);
   setUniformRowHeights(true);

@@ -90,7 +90,10 @@ bool IsMatchPoints(const Traveller& traveller) {
 TravellerCell PointsCell(const TravellerRow& row, const Traveller& traveller) {
   const auto ours = row.points[Side::NorthSouth];
   if (!ours) return NumberCell(std::nullopt, QString());
-  if (!IsMatchPoints(traveller)) return NumberCell(*ours, ToQt(ShortestText(*ours)));
+  if (!IsMatchPoints(traveller)) {
+    // With the minus sign of the scores beside them.
+    return NumberCell(*ours, ToQt(ShortestText(*ours)).replace(QLatin1Char('-'), QChar(0x2212)));
+  }
   const float all = *ours + row.points[Side::EastWest].value_or(0);
   if (all <= 0) return NumberCell(std::nullopt, QString());
   constexpr double kPercent = 100;

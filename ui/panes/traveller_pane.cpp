@@ -20,6 +20,7 @@
 #include "ui/panes/traveller_delegate.h"
 #include "ui/panes/traveller_model.h"
 #include "ui/style/drawn_button.h"
+#include "ui/style/focus_ring.h"
 #include "ui/style/follow_font.h"
 #include "ui/style/highlight.h"
 #include "ui/style/qt_text.h"
@@ -72,6 +73,7 @@ void TravellerPane::BuildGrid() {
   flexTraveller->setObjectName(QStringLiteral("flexTraveller"));
   flexTraveller->setAccessibleName(tr("Traveller"));
   new FollowFont(flexTraveller, kFontSize);
+  new FocusRing(flexTraveller);
   flexTraveller->setModel(order_);
   flexTraveller->setItemDelegate(new TravellerDelegate(flexTraveller));
   flexTraveller->viewport()->installEventFilter(this);
@@ -87,6 +89,7 @@ void TravellerPane::BuildGrid() {
   heads->setMinimumSectionSize(1);
   heads->setSectionResizeMode(QHeaderView::Fixed);
   heads->setHighlightSections(false);
+  heads->setTextElideMode(Qt::ElideRight);
   heads->setSortIndicatorClearable(true);
   flexTraveller->setSortingEnabled(true);
   heads->setSortIndicator(-1, Qt::AscendingOrder);

@@ -10,6 +10,7 @@
 
 #include "ui/panes/seat_header.h"
 #include "ui/panes/trick_delegate.h"
+#include "ui/style/focus_ring.h"
 #include "ui/style/follow_font.h"
 #include "ui/style/highlight.h"
 #include "ui/style/qt_text.h"
@@ -117,6 +118,7 @@ void TrickPane::BuildGrid() {
   flexTricks_->verticalHeader()->hide();
   flexTricks_->verticalHeader()->setMinimumSectionSize(1);
   new FollowFont(flexTricks_, kFontSize);
+  new FocusRing(flexTricks_);
   SetSizes();
 }
 

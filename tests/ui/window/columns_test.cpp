@@ -100,6 +100,20 @@ TEST_F(ColumnsTest, GiveWayBeforeTheWindowScrolls) {
   EXPECT_GE(right->width(), right->LeastWidth());
 }
 
+TEST_F(ColumnsTest, AListShowsThatKeysGoToIt) {
+  Open();
+  auto* list = Find<QWidget>("lstBoards");
+  const auto* ring = list->findChild<QWidget*>(QStringLiteral("focusRing"));
+  const std::pair<Qt::FocusReason, bool> reasons[] = {
+      {Qt::TabFocusReason, true}, {Qt::MouseFocusReason, false}, {Qt::ShortcutFocusReason, true}};
+  for (const auto& [reason, shown] : reasons) {
+    Find<QWidget>("picTable")->setFocus();
+    EXPECT_FALSE(ring->isVisible());
+    list->setFocus(reason);
+    EXPECT_EQ(ring->isVisible(), shown) << reason;
+  }
+}
+
 TEST_F(ColumnsTest, NothingMovesWhenATableArrives) {
   Open();
   window->resize(1280, 800);
