@@ -267,8 +267,12 @@ void MainWindow::SetWorking(bool working) {
   panes_.left->setEnabled(!working);
   panes_.table->setEnabled(!working);
   setAcceptDrops(!working);
-  ShowState();
-  if (!working) panes_.table->setFocus();
+  if (working) {
+    ShowState();
+  } else {
+    Display();  // before anybody is told how the work has ended
+    panes_.table->setFocus();
+  }
 }
 
 void MainWindow::CarryOut(WindowAsk what) {
