@@ -57,7 +57,7 @@ QAction* Actions::Make(const ActionEntry& entry) {
   action->setMenuRole(action->objectName() == QStringLiteral("mnuExit") ? QAction::QuitRole
                                                                         : QAction::NoRole);
   action->setToolTip(TipOf(entry));
-  action->setStatusTip(tr(entry.tip));
+  action->setWhatsThis(tr(entry.tip));  // a status tip would cover what the last command has said
   action->setCheckable(entry.checked != nullptr);
   if (*entry.icon != '\0') action->setIcon(DrawnIcon(QString::fromLatin1(entry.icon)));
   if (*entry.shortText != '\0') action->setIconText(tr(entry.shortText));
@@ -152,7 +152,6 @@ void Actions::ShowUpdates(const WindowState& state) {
   check->setVisible(!state.updatesLeftOut);
   if (!state.updateObstacle.empty()) {
     check->setToolTip(ToQt(state.updateObstacle));
-    check->setStatusTip(ToQt(state.updateObstacle));
   }
   Of("mnuNewVersion")->setVisible(!state.newerVersion.empty());
 }

@@ -108,7 +108,7 @@ void TravellerPane::BuildGrid() {
 QToolButton* TravellerPane::AddStep(const char* name, const QString& text, QAction* action) {
   auto* button = new DrawnButton(QString::fromLatin1(name), Content());
   button->setText(text);
-  button->setAccessibleName(action->statusTip());
+  button->setAccessibleName(action->whatsThis());
   Follow(button, action);
   steps_ += button;
   return button;
