@@ -53,6 +53,13 @@ void Commands::Run(const std::function<void()>& procedure) {
   if (Attempt(procedure)) emit Done();
 }
 
+/// For what would not keep a hand that is being typed: one that is refused must not stand in its
+/// way.
+void Commands::RunUntyped(const std::function<void()>& procedure) {
+  if (giveUpTyping_) giveUpTyping_();
+  Run(procedure);
+}
+
 /// For what may bring another board, or this one afresh from its file.
 void Commands::Leave(const std::function<void()>& procedure) {
   Run([&] {

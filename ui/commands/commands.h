@@ -43,6 +43,8 @@ class Commands : public QObject {
   /// `finish` takes over what is still being typed, before each command; false when that was
   /// refused, and then the command is not carried out.
   void SetFinishTyping(std::function<bool()> finish) { finishTyping_ = std::move(finish); }
+  /// `giveUp` puts away what is still being typed: before what takes the hands away anyway.
+  void SetGiveUpTyping(std::function<void()> giveUp) { giveUpTyping_ = std::move(giveUp); }
   /// `record` gives the LIN record of the current board; an empty text when it has none.
   void SetLinRecord(std::function<std::string()> record) { linRecord_ = std::move(record); }
 
@@ -169,6 +171,7 @@ class Commands : public QObject {
 
   bool Attempt(const std::function<void()>& procedure);
   void Run(const std::function<void()>& procedure);
+  void RunUntyped(const std::function<void()>& procedure);
   void Leave(const std::function<void()>& procedure);
   void LeaveUnsaved(const std::function<void()>& procedure);
   void Copy(Runner run, const std::function<QString()>& copy);
@@ -182,6 +185,7 @@ class Commands : public QObject {
   EditControl& edit_;
   Updates& updates_;
   std::function<bool()> finishTyping_;
+  std::function<void()> giveUpTyping_;
   std::function<std::string()> linRecord_;
   const AuctionEntry* auction_ = nullptr;
   QPointer<QWidget> window_;

@@ -24,7 +24,7 @@ void Commands::Redo() {
 }
 
 void Commands::Revert() {
-  Run([this] { edit_.Revert(); });
+  RunUntyped([this] { edit_.Revert(); });
 }
 
 void Commands::EditOrStop() {
@@ -47,10 +47,10 @@ void Commands::Swap() {
 }
 
 void Commands::ClearHands() {
-  Run([this] { edit_.Clear(); });
+  RunUntyped([this] { edit_.Clear(); });
 }
 void Commands::UndoClear() {
-  Run([this] { edit_.UndoClear(); });
+  RunUntyped([this] { edit_.UndoClear(); });
 }
 void Commands::RandomFill() {
   Run([this] { edit_.Fill(); });

@@ -161,6 +161,10 @@ void EditPane::ForgetTyping() {
   for (QLineEdit* line : txtHand) line->setModified(false);
 }
 
+void EditPane::GiveUpTyping() {
+  for (const Seat seat : kAllSeats) txtHand[seat]->setText(shown_[seat]);
+}
+
 bool EditPane::FinishTyping() {
   if (lines_->isHidden()) return true;
   for (const Seat seat : kAllSeats) {

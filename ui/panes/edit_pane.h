@@ -30,6 +30,8 @@ class EditPane : public Section {
   bool FinishTyping();
   /// From now on, what is being typed is not taken over.
   void ForgetTyping();
+  /// Puts the hands of the board back into the lines.
+  void GiveUpTyping();
   /// The line to begin with; nullptr where hands are not typed.
   QWidget* FirstLine() const;
 

@@ -73,6 +73,7 @@ void MainWindow::Connect() {
 
 void MainWindow::ConnectEdit() {
   commands_->SetFinishTyping([this] { return panes_.edit->FinishTyping(); });
+  commands_->SetGiveUpTyping([this] { panes_.edit->GiveUpTyping(); });
   commands_->SetLinRecord(
       [this] { return LinPlayRecord(results_->OfBoard(), session_.board, results_->Row()); });
   connect(commands_, &Commands::EditStarted, this, &MainWindow::BeginEditing);

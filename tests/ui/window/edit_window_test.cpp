@@ -135,6 +135,9 @@ TEST_F(EditWindowTest, HandsAreTypedAndRefusedWithTheReason) {
   EXPECT_FALSE(window->close());
   FocusKey("Esc");
   EXPECT_EQ(Text("txtHand_2"), "-.-.AKQJT98765432.-") << "given up";
+  Type("txtHand_2", "X.3..");
+  Click("cmdClear");
+  EXPECT_EQ(Text("txtHand_2"), "") << "a refused hand does not stand in the way";
 }
 
 TEST_F(EditWindowTest, ABoardIsClearedFilledAndSavedByClicks) {
