@@ -42,8 +42,7 @@ constexpr int kStretch = 100;
 
 TravellerPane::TravellerPane(Results& results, const Actions& actions, QWidget* parent)
     : FoldingSection(QStringLiteral("secTraveller"), QStringLiteral("cmdTraveller"),
-                     {tr("Show the traveller"), tr("Show the traveller (Ctrl+J)"),
-                      tr("Hide the traveller (Ctrl+J)")},
+                     {tr("Show the traveller"), tr("Show the traveller"), tr("Hide the traveller")},
                      parent),
       results_(results),
       rows_(new TravellerModel(this)),
