@@ -4,7 +4,6 @@
 // document is to bear (https://reproducible-builds.org/specs/source-date-epoch/).
 #include <algorithm>
 #include <cstdio>
-#include <utility>
 
 #include <QBuffer>
 #include <QDateTime>
@@ -32,7 +31,7 @@ constexpr int kTextWidth = 620;  // of a page, at the 96 dots per inch of the do
 /// A document whose pictures lie in a folder. The copy that is printed asks this one for them.
 class Document : public QTextDocument {
  public:
-  explicit Document(QDir folder) : folder_(std::move(folder)) {}
+  explicit Document(const QDir& folder) : folder_(folder) {}
 
   QVariant loadResource(int /*type*/, const QUrl& name) override {
     return QImage(folder_.filePath(name.path()));
