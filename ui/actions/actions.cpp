@@ -64,32 +64,22 @@ QAction* Actions::Make(const ActionEntry& entry) {
   return action;
 }
 
+/// Carries out what the row of an action names.
+struct Actions::Runner {
+  Actions* actions;
+
+  void operator()(std::monostate /*nothing*/) const {}
+  void operator()(void (Commands::*command)()) const { (actions->commands_.*command)(); }
+  void operator()(void (Results::*step)()) const { (actions->results_.*step)(); }
+  void operator()(bool Settings::*setting) const { actions->commands_.Toggle(setting); }
+  void operator()(ColourScheme scheme) const { actions->commands_.SetColourScheme(scheme); }
+  void operator()(ToolbarStyle style) const { actions->commands_.SetToolbarStyle(style); }
+  void operator()(WindowAsk what) const { emit actions->Asked(what); }
+};
+
 void Actions::Connect(QAction* action, const ActionEntry& entry) {
-  const auto connected = [&](const auto& run) { connect(action, &QAction::triggered, this, run); };
-  struct Route {
-    Actions& self;
-    decltype(connected)& connectTo;
-    void operator()(std::monostate /*nothing*/) const {}
-    void operator()(void (Commands::*command)()) const {
-      connectTo([&self = self, command] { (self.commands_.*command)(); });
-    }
-    void operator()(void (Results::*step)()) const {
-      connectTo([&self = self, step] { (self.results_.*step)(); });
-    }
-    void operator()(bool Settings::*setting) const {
-      connectTo([&self = self, setting] { self.commands_.Toggle(setting); });
-    }
-    void operator()(ColourScheme scheme) const {
-      connectTo([&self = self, scheme] { self.commands_.SetColourScheme(scheme); });
-    }
-    void operator()(ToolbarStyle style) const {
-      connectTo([&self = self, style] { self.commands_.SetToolbarStyle(style); });
-    }
-    void operator()(WindowAsk what) const {
-      connectTo([&self = self, what] { emit self.Asked(what); });
-    }
-  };
-  std::visit(Route{*this, connected}, entry.run);
+  connect(action, &QAction::triggered, this,
+          [this, run = entry.run] { std::visit(Runner{this}, run); });
 }
 
 QAction* Actions::Of(const char* name) const {

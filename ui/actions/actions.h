@@ -41,6 +41,8 @@ class Actions : public QObject {
   void Asked(WindowAsk what);
 
  private:
+  struct Runner;
+
   QAction* Make(const ActionEntry& entry);
   void Connect(QAction* action, const ActionEntry& entry);
   static void ShowOne(QAction* action, const ActionEntry& entry, const WindowState& state);
