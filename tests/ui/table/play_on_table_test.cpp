@@ -110,8 +110,8 @@ TEST_F(PlayOnTableTest, RevealsNothingOfAHiddenHand) {
   view_.ShowBestCards({{test::CardOf("C4"), 10}});
   const QSignalSpy hideAsked(&view_, &TableView::HideAsked);
   const auto clickCaption = [this] {
-    const PlacedHand& north = view_.Layout().hands[Seat::North];
-    Click(north.caption.center());
+    const TableLayout layout = view_.Layout();
+    Click(layout.hands[Seat::North].caption.center());
   };
   clickCaption();
   EXPECT_EQ(hideAsked.size(), 1);
@@ -131,7 +131,8 @@ TEST_F(PlayOnTableTest, RevealsNothingOfAHiddenHand) {
   EXPECT_EQ(hideAsked.size(), 2);
   settings_.cardsFaces = false;
   Show();
-  for (const PlacedCard& placed : view_.Layout().cards) EXPECT_NE(placed.seat, Seat::North);
+  const TableLayout asText = view_.Layout();
+  for (const PlacedCard& placed : asText.cards) EXPECT_NE(placed.seat, Seat::North);
 }
 
 TEST_F(PlayOnTableTest, PlaysByKeysAndLeavesOthersToTheWindow) {
