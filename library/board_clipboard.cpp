@@ -30,6 +30,11 @@ std::string LossByPaste(const Board& board) {
          std::to_string(board.boardNumber) + " would be replaced.";
 }
 
+/// The board is shown without cards only because that has not been saved yet.
+bool HidesStoredCards(const Session& session) {
+  return session.board.handChanged && FileExists(session.BoardPath(session.board.boardNumber));
+}
+
 /// The person agrees to what the paste replaces: what another program has stored, or the cards
 /// shown.
 bool AgreesToPaste(Session& session, DiskChange change) {
@@ -40,7 +45,7 @@ bool AgreesToPaste(Session& session, DiskChange change) {
     question.title = OverwriteTitle(session);
     return session.host.Ask(question) == Answer::Yes;
   }
-  if (!HasCards(session.board.hands)) return true;
+  if (!HasCards(session.board.hands) && !HidesStoredCards(session)) return true;
   return session.host.Ask({.text = OverwriteQuestion(session),
                            .title = OverwriteTitle(session),
                            .safe = Answer::No,

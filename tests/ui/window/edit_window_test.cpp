@@ -268,6 +268,10 @@ TEST_F(EditWindowTest, APasteAndAnAuctionAreStepsUntilTheBoardIsLeft) {
   Key("Ctrl+Z");
   EXPECT_TRUE(session.board.hands == dealt && session.board.handChanged);
   EXPECT_EQ(FromQt(Find<QAction>("mnuUndo")->text()), "&Undo auction");
+  Key("Ctrl+Shift+Del");
+  host.ExpectAskWith("Do you wish to overwrite", Answer::No);
+  Key("Ctrl+V");  // its cards are still stored
+  EXPECT_FALSE(HasCards(session.board.hands));
 }
 
 }  // namespace
