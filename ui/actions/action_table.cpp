@@ -21,14 +21,15 @@ struct Actions {
 
 using State = const WindowState&;
 
+template <bool WindowState::*kSwitch>
+bool IsOn(State state) {
+  return state.*kSwitch;
+}
 bool NotEditing(State state) {
   return !state.editing;
 }
 bool NotInPlay(State state) {
   return !state.PlayUnfinished();
-}
-bool Changed(State state) {
-  return state.changed;
 }
 bool CanRevert(State state) {
   return state.canRevert && !state.PlayUnfinished();
@@ -63,33 +64,9 @@ bool CanBid(State state) {
 bool CanPlayOrStop(State state) {
   return state.playing || state.complete;
 }
-bool CanUndoCard(State state) {
-  return state.canUndoCard;
-}
-bool TrickComplete(State state) {
-  return state.trickComplete;
-}
-bool CanClaim(State state) {
-  return state.canClaim;
-}
 /// Its table would not be seen while the hands are edited.
 bool CanAnalyse(State state) {
   return state.complete && !state.editing;
-}
-bool IsComplete(State state) {
-  return state.complete;
-}
-bool HasResults(State state) {
-  return state.hasResults;
-}
-bool CanGoForward(State state) {
-  return state.canGoForward;
-}
-bool CanGoBack(State state) {
-  return state.canGoBack;
-}
-bool RecordShown(State state) {
-  return state.recordShown;
 }
 /// In play and while hands are edited the digits are ranks of cards.
 bool DigitsAreFree(State state) {
@@ -102,22 +79,12 @@ bool CanCheckForUpdates(State state) {
   return state.updateObstacle.empty();
 }
 
-bool IsEditing(State state) {
-  return state.editing;
-}
-bool IsPlaying(State state) {
-  return state.playing;
-}
 bool AnyHidden(State state) {
   return state.AnyHidden();
 }
 template <Seat kSeat>
 bool IsHidden(State state) {
   return state.hidden[kSeat];
-}
-template <bool WindowState::*kSwitch>
-bool IsOn(State state) {
-  return state.*kSwitch;
 }
 template <ColourScheme kScheme>
 bool HasScheme(State state) {
@@ -169,7 +136,8 @@ const std::array kTable{
                 QT_TR_NOOP("Write boards of the library into a file for other programs"), "",
                 &Commands::Export},
     ActionEntry{"mnuSave", QT_TR_NOOP("&Save board"), QT_TR_NOOP("Save"), "Ctrl+S",
-                QT_TR_NOOP("Write the board to its library"), "save", &Commands::Save, Changed},
+                QT_TR_NOOP("Write the board to its library"), "save", &Commands::Save,
+                IsOn<&WindowState::changed>},
     ActionEntry{"mnuRevert", QT_TR_NOOP("Re&vert board"), "", "Ctrl+Shift+S",
                 QT_TR_NOOP("Take back every change that has not been saved"), "", &Commands::Revert,
                 CanRevert},
@@ -191,7 +159,7 @@ const std::array kTable{
                 &Commands::PasteHand, CanPaste},
     ActionEntry{"mnuEdit", QT_TR_NOOP("&Edit hands"), QT_TR_NOOP("Edit"), "Ctrl+H",
                 QT_TR_NOOP("Move cards between the hands"), "edit", &Commands::EditOrStop, nullptr,
-                IsEditing, EditCaption},
+                IsOn<&WindowState::editing>, EditCaption},
     ActionEntry{"mnuOptions", QT_TR_NOOP("Pre&ferences..."), "", "Ctrl+,",
                 QT_TR_NOOP("Choose how the program looks and works"), "", &Commands::Options},
     // Library
@@ -260,16 +228,16 @@ const std::array kTable{
                 QT_TR_NOOP("Enter the auction"), "bidding", &Commands::Bidding, CanBid},
     ActionEntry{"mnuPlay", QT_TR_NOOP("&Play"), QT_TR_NOOP("Play"), "Ctrl+P",
                 QT_TR_NOOP("Play the board card by card"), "play", &Commands::PlayOrStop,
-                CanPlayOrStop, IsPlaying, PlayCaption},
+                CanPlayOrStop, IsOn<&WindowState::playing>, PlayCaption},
     ActionEntry{"mnuUndoCard", QT_TR_NOOP("&Undo card"), QT_TR_NOOP("Undo"), "Ctrl+U",
                 QT_TR_NOOP("Take back the claim or the last card"), "", &Commands::UndoCard,
-                CanUndoCard},
+                IsOn<&WindowState::canUndoCard>},
     ActionEntry{"mnuGatherTrick", QT_TR_NOOP("&Gather trick"), "", "Ctrl+Return",
                 QT_TR_NOOP("Clear the finished trick from the table"), "", &Commands::QuitTrick,
-                TrickComplete},
+                IsOn<&WindowState::trickComplete>},
     ActionEntry{"mnuClaim", QT_TR_NOOP("&Claim"), QT_TR_NOOP("Claim"), "Ctrl+L",
                 QT_TR_NOOP("All tricks that are left go to the side on play"), "claim",
-                &Commands::Claim, CanClaim, nullptr, ClaimText},
+                &Commands::Claim, IsOn<&WindowState::canClaim>, nullptr, ClaimText},
     // Analysis
     ActionEntry{"mnuDDS", QT_TR_NOOP("Analyse &board"), QT_TR_NOOP("Analyse"), "Ctrl+D",
                 QT_TR_NOOP("Compute the double-dummy table"), "analyse", &Commands::AnalyseBoard,
@@ -279,24 +247,26 @@ const std::array kTable{
                 &Commands::AnalyseLibrary},
     ActionEntry{"mnuBSOL", QT_TR_NOOP("&Online double-dummy page"), QT_TR_NOOP("Online"),
                 "Ctrl+Shift+O", QT_TR_NOOP("Open the online double-dummy page on this board"),
-                "online", &Commands::OnlineSolver, IsComplete},
+                "online", &Commands::OnlineSolver, IsOn<&WindowState::complete>},
     // Results
     ActionEntry{"mnuTraveller", QT_TR_NOOP("&Traveller"), "", "Ctrl+J",
                 QT_TR_NOOP("Show or hide the results of the board"), "", WindowAsk::Traveller,
-                HasResults},
+                IsOn<&WindowState::hasResults>},
     ActionEntry{"mnuLinForward", QT_TR_NOOP("&Next card"), "", "Alt+Right",
                 QT_TR_NOOP("The next card of the play record"), "", &Results::Forward,
-                CanGoForward},
+                IsOn<&WindowState::canGoForward>},
     ActionEntry{"mnuLinBack", QT_TR_NOOP("&Card back"), "", "Alt+Left",
-                QT_TR_NOOP("One card back in the play record"), "", &Results::Back, CanGoBack},
+                QT_TR_NOOP("One card back in the play record"), "", &Results::Back,
+                IsOn<&WindowState::canGoBack>},
     ActionEntry{"mnuLinNextTrick", QT_TR_NOOP("Next tric&k"), "", "Alt+Shift+Right",
                 QT_TR_NOOP("The next trick of the play record"), "", &Results::NextTrick,
-                CanGoForward},
+                IsOn<&WindowState::canGoForward>},
     ActionEntry{"mnuLinPreviousTrick", QT_TR_NOOP("Trick &back"), "", "Alt+Shift+Left",
                 QT_TR_NOOP("One trick back in the play record"), "", &Results::PreviousTrick,
-                CanGoBack},
+                IsOn<&WindowState::canGoBack>},
     ActionEntry{"mnuLinLeave", QT_TR_NOOP("&Put the record away"), "", "Ctrl+Shift+J",
-                QT_TR_NOOP("Look at the board itself again"), "", &Results::Leave, RecordShown},
+                QT_TR_NOOP("Look at the board itself again"), "", &Results::Leave,
+                IsOn<&WindowState::recordShown>},
     // View
     ActionEntry{"mnuHands", QT_TR_NOOP("&Hide all hands"), QT_TR_NOOP("Hands"), "Ctrl+Shift+H",
                 QT_TR_NOOP("Turn all hands face down, or up again"), "hands", WindowAsk::HideHands,

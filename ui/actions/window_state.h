@@ -29,10 +29,9 @@ struct WindowState {
   bool complete = false;  ///< all four hands have 13 cards
   bool hasCalls = false;  ///< there is an auction, of the board or of the record
   bool makeableKnown = false;
-  bool changed = false;       ///< there are changes that are not saved
-  bool canPaste = false;      ///< a board has been copied
-  bool hasResults = false;    ///< the library has results of tables
-  bool hasTraveller = false;  ///< the current board has
+  bool changed = false;     ///< there are changes that are not saved
+  bool canPaste = false;    ///< a board has been copied
+  bool hasResults = false;  ///< the library has results of tables
 
   // What can be done in the play, the editing and the record.
   bool canUndoCard = false;

@@ -32,7 +32,7 @@ struct TableNeeds {
   bool presentation = false;  ///< captions that can be read from the back of a room
 };
 
-/// Least size of the captions' text in a presentation, as a share of the table's height.
+/// Least height of the captions' capitals in a presentation, as a share of the table's height.
 inline constexpr double kPresentationText = 1.0 / 30;
 /// Size of a caption's text, as a share of the height of its room.
 inline constexpr double kCaptionText = 0.66;
