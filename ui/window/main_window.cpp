@@ -168,15 +168,20 @@ void MainWindow::DisplayPlay() {
   if (panes_.progress->IsWorking()) return;
   panes_.library->OfferNext(play_->Play().Finished());
   panes_.traveller->Show(session_);
+  GatherState();
   DisplayTable();
   ShowTricks();
   ShowState();
 }
 
-/// Gathers the state, and sets the actions and what is shown by it.
-void MainWindow::ShowState() {
+void MainWindow::GatherState() {
   state_.working = panes_.progress->IsWorking();
   state_ = StateOf(std::move(state_), session_, *commands_, *play_, *edit_, *results_, updates_);
+}
+
+/// Gathers the state, and sets the actions and what is shown by it.
+void MainWindow::ShowState() {
+  GatherState();
   actions_->Show(state_);
   const PanesShown shown = ShownIn(state_);
   menu_->Show(state_, shown.bars);
@@ -202,7 +207,7 @@ void MainWindow::DisplayTable() {
     DisplayBidding(*entry);
     return;
   }
-  if (session_.library.boardCount == 0 && !HasCards(session_.board.hands)) {
+  if (ShownIn(state_).empty) {
     panes_.table->ShowEmpty();
     return;
   }

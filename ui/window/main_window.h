@@ -92,6 +92,7 @@ class MainWindow : public QMainWindow {
   void PlaceBesideAuction(QWidget* dialog);
   void PlaceBesideHands(QWidget* dialog);
   void SetWorking(bool working);
+  void GatherState();
   void ShowState();
   void ShowTricks();
   void CarryOut(WindowAsk what);
