@@ -18,11 +18,15 @@
 namespace tricklet::ui {
 namespace {
 
-constexpr int kLeastRows = 3;  // so that the pane below does not jump from board to board
-// An auction scrolls when it takes more than a third of the window's height and has more rows than
-// these.
+// Room for these rows is kept, so that the pane below does not jump from board to board: a longer
+// auction has its rows closer together. There are more of them in a higher window.
+constexpr int kLeastRows = 3;
+constexpr int kKeptPartOfWindow = 6;
+// An auction that is longer still pushes the pane below down. It scrolls when it takes more than a
+// third of the window's height and has more rows than these.
 constexpr int kMostRows = 8;
 constexpr int kPartOfWindow = 3;
+constexpr int kRowPadding = 4;
 constexpr double kHeadFont = 0.88;  // of the pane's, so that "North vul" fits
 
 /// Columns run West, North, East, South.
@@ -150,27 +154,54 @@ QFont AuctionPane::FontForCalls(const FontSetting& setting) const {
 
 void AuctionPane::ShowCalls(const Session& session, const CallList& calls) {
   const int offset = ColumnOf(session.board.Dealer());
-  const int rows = std::max(kLeastRows, (offset + calls.Count() + kSeats - 1) / kSeats);
-  const QFont font = FontForCalls(session.settings.hgFont[1]);
+  callFont_ = FontForCalls(session.settings.hgFont[1]);
   flexBids->clearContents();
-  flexBids->setRowCount(rows);
-  flexBids->setFont(font);
-  const int rowHeight = QFontMetrics(font).height() + 4;
-  flexBids->verticalHeader()->setDefaultSectionSize(rowHeight);
+  flexBids->setRowCount(std::max(kLeastRows, (offset + calls.Count() + kSeats - 1) / kSeats));
   for (int i = 0; i < calls.Count(); ++i) {
     const int place = offset + i;
     flexBids->setItem(place / kSeats, place % kSeats,
                       MakeCall(calls, i, session.settings, palette()));
   }
-  QFont headFont = this->font();
+  SetSizes();
+}
+
+void AuctionPane::SetSizes() {
+  QFont headFont = font();
   headFont.setBold(true);
   headFont.setPointSizeF(headFont.pointSizeF() * kHeadFont);
   flexBids->horizontalHeader()->setFont(headFont);
   const int headHeight = QFontMetrics(headFont).height() + 8;
   flexBids->horizontalHeader()->setFixedHeight(headHeight);
+
+  const int rows = flexBids->rowCount();
+  const int comfortable = QFontMetrics(callFont_).height() + kRowPadding;
+  const int least = std::min(comfortable, fontMetrics().height() + kRowPadding);
+  const int kept =
+      comfortable * std::max(kLeastRows, window()->height() / kKeptPartOfWindow / comfortable);
+  const int rowHeight = std::clamp(kept / rows, least, comfortable);
+  QFont fitting = callFont_;
+  if (rowHeight < comfortable) {
+    const double factor =
+        static_cast<double>(rowHeight - kRowPadding) / (comfortable - kRowPadding);
+    fitting.setPointSizeF(fitting.pointSizeF() * factor);
+  }
+  flexBids->setFont(fitting);
+  flexBids->verticalHeader()->setDefaultSectionSize(rowHeight);
   const int most = std::max(kMostRows, window()->height() / kPartOfWindow / rowHeight);
-  flexBids->setFixedHeight(headHeight + rowHeight * std::min(rows, most));
+  flexBids->setFixedHeight(headHeight + std::max(kept, rowHeight * std::min(rows, most)));
   flexBids->scrollToBottom();
+}
+
+void AuctionPane::showEvent(QShowEvent* event) {
+  FoldingSection::showEvent(event);
+  window()->installEventFilter(this);
+  SetSizes();
+}
+
+/// The room that is kept depends on the window's height.
+bool AuctionPane::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == window() && event->type() == QEvent::Resize) SetSizes();
+  return FoldingSection::eventFilter(watched, event);
 }
 
 }  // namespace tricklet::ui

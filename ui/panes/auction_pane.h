@@ -3,6 +3,8 @@
 
 #include <optional>
 
+#include <QFont>
+
 #include "library/session.h"
 #include "play/auction_entry.h"
 #include "ui/style/folding_section.h"
@@ -25,11 +27,18 @@ class AuctionPane : public FoldingSection {
   /// The controls in the order of the tab key.
   QList<QWidget*> TabOrder() const;
 
+ protected:
+  void showEvent(QShowEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void ShowHeads(const Board& board, std::optional<Seat> toCall);
   void ShowCalls(const Session& session, const CallList& calls);
   QFont FontForCalls(const FontSetting& setting) const;
 
+  void SetSizes();
+
+  QFont callFont_;  // of calls that have all the room that they want
   QTableWidget* flexBids;
 };
 

@@ -32,6 +32,12 @@ void SetContractText(QLabel* label, const std::string& text, const Settings& set
   label->setVisible(!text.empty());
 }
 
+/// Of a button that leaves as much room as it can to what stands beside it.
+int NarrowWidth(const QPushButton& button) {
+  const QFontMetrics metrics = button.fontMetrics();
+  return metrics.horizontalAdvance(button.text()) + 2 * metrics.height();
+}
+
 /// The result of a board that needs no play.
 std::string PassedOutText(const Board& board) {
   return board.contract == kAllPass ? ResultLine(board, 0) : "";
@@ -52,11 +58,13 @@ ContractPane::ContractPane(const Actions& actions, QWidget* parent)
   buttons->addWidget(cmdUndo, 2);
   buttons->addWidget(cmdClaim, 5);
 
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(8);
-  column->addWidget(lblScore);
-  column->addWidget(fraPlay_);
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(fraPlay_);
+  row->addWidget(lblScore, 1);
+  lblScore->setMinimumWidth(1);  // so that a result does not widen the column
+  cmdUndo->setMinimumWidth(1);
+  KeepRoom(this, true);
 }
 
 QList<QWidget*> ContractPane::TabOrder() const {
@@ -65,20 +73,19 @@ QList<QWidget*> ContractPane::TabOrder() const {
 
 void ContractPane::Show(const Session& session, const CardPlay& play) {
   const Board& board = session.board;
-  KeepRoom(this, board.NumCalls() > 0);
+  // The panes below stay where they are, whatever is shown of this one.
+  setMinimumHeight(cmdUndo->sizeHint().height());
   SetContractText(lblScore, play.PlayMode() ? play.ScoreText() : PassedOutText(board),
                   session.settings);
-  ShowPlay(play);
+  fraPlay_->setVisible(play.PlayMode());
+  if (play.Finished() && cmdClaim->hasFocus()) emit Left();
+  cmdClaim->setVisible(!play.Finished());  // the result takes its place
+  fraPlay_->setMaximumWidth(play.Finished() ? NarrowWidth(*cmdUndo) : QWIDGETSIZE_MAX);
 }
 
 void ContractPane::ShowRecord(const Replay& record, const Settings& settings) {
-  KeepRoom(this, true);
   SetContractText(lblScore, record.ScoreText(), settings);
   fraPlay_->setVisible(false);
-}
-
-void ContractPane::ShowPlay(const CardPlay& play) {
-  fraPlay_->setVisible(play.PlayMode());
 }
 
 }  // namespace tricklet::ui

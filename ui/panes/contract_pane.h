@@ -31,9 +31,11 @@ class ContractPane : public QWidget {
   /// The controls in the order of the tab key.
   QList<QWidget*> TabOrder() const;
 
- private:
-  void ShowPlay(const CardPlay& play);
+ signals:
+  /// The control that has the focus is about to go.
+  void Left();
 
+ private:
   QWidget* fraPlay_;
   QPushButton* cmdUndo;
   QPushButton* cmdClaim;

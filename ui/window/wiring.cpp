@@ -15,6 +15,7 @@
 #include "ui/dialogs/frmSwap.h"
 #include "ui/panes/auction_pane.h"
 #include "ui/panes/board_list.h"
+#include "ui/panes/contract_pane.h"
 #include "ui/panes/edit_pane.h"
 #include "ui/panes/library_pane.h"
 #include "ui/panes/makeable_pane.h"
@@ -89,6 +90,7 @@ void MainWindow::ConnectPlay() {
   connect(commands_, &Commands::AuctionOpened, this, &MainWindow::PlaceBesideAuction);
   connect(commands_, &Commands::AuctionChanged, this, &MainWindow::DisplayAuction);
   connect(commands_, &Commands::PlayStarted, panes_.table, qOverload<>(&QWidget::setFocus));
+  connect(panes_.contract, &ContractPane::Left, panes_.table, qOverload<>(&QWidget::setFocus));
   connect(play_, &PlayControl::Changed, this, &MainWindow::DisplayPlay);
   connect(best_, &BestCardsFinder::Changed, this, &MainWindow::DisplayPlay);
   connect(panes_.table, &TableView::TrickAsked, commands_, &Commands::QuitTrick);
