@@ -23,11 +23,13 @@ TravellerCell NumberCell(std::optional<double> number, const QString& text) {
   return {text, number.value_or(TravellerCell::kNothing), true};
 }
 
+const QString kBetweenNames = QStringLiteral(", ");
+
 /// "12 Cy, Di": sorted by the pair's number.
 TravellerCell PairCell(const TravellerRow& row, Side side) {
   const QString pair = ToQt(row.pair[side]);
   QString names = ToQt(row.names[side]);
-  names.replace(QStringLiteral(" & "), QStringLiteral(", "));
+  names.replace(QStringLiteral(" & "), kBetweenNames);
   bool number = false;
   const double key = pair.toDouble(&number);
   return {QStringList{pair, names}.join(QLatin1Char(' ')).trimmed(), pair.isEmpty()
@@ -139,23 +141,32 @@ TravellerCell MakeParCell(TravellerColumn column, const Par& par) {
   return cell;
 }
 
+QString InTwoLines(const QString& names) {
+  const qsizetype between = names.indexOf(kBetweenNames);
+  if (between < 0) return names;
+  return names.left(between) + QLatin1Char('\n') + names.mid(between + kBetweenNames.size());
+}
+
 TravellerHead MakeTravellerHead(TravellerColumn column, const Traveller& traveller) {
   struct Head {
     const char* text;
+    const char* brief;
     const char* tip;
   };
   constexpr std::array<Head, kTravellerColumns> kHeads{{
       {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "North-South"),
+       QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "N-S"),
        QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Pair sitting North-South")},
       {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "East-West"),
+       QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "E-W"),
        QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Pair sitting East-West")},
-      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Contract"),
+      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Contract"), nullptr,
        QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Contract, declarer and result")},
-      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Lead"),
+      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Lead"), nullptr,
        QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Opening lead")},
-      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Score"),
+      {QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Score"), nullptr,
        QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "Score of North-South")},
-      {"%1", QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "%1 of North-South")},
+      {"%1", nullptr, QT_TRANSLATE_NOOP("tricklet::ui::TravellerPane", "%1 of North-South")},
   }};
   const Head& head = kHeads.at(static_cast<std::size_t>(column));
   QString text = Text(head.text);
@@ -167,7 +178,7 @@ TravellerHead MakeTravellerHead(TravellerColumn column, const Traveller& travell
     tip = tip.arg(points);
     if (traveller.computed) tip += Text(", computed from the scores");
   }
-  return {text, tip};
+  return {text, head.brief == nullptr ? text : Text(head.brief), tip};
 }
 
 }  // namespace tricklet::ui

@@ -37,9 +37,13 @@ TravellerCell MakeTravellerCell(TravellerColumn column, const TravellerRow& row,
 /// The same for the line of par.
 TravellerCell MakeParCell(TravellerColumn column, const Par& par);
 
+/// The text with the second player's name on a line of its own.
+QString InTwoLines(const QString& names);
+
 struct TravellerHead {
   QString text;
-  QString tip;  ///< the whole of what `text` stands for
+  QString brief;  ///< where there is no room for `text`
+  QString tip;    ///< the whole of what `text` stands for
 };
 
 TravellerHead MakeTravellerHead(TravellerColumn column, const Traveller& traveller);

@@ -7,6 +7,14 @@
 #include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
+namespace {
+
+bool HasNames(int column) {
+  return column == static_cast<int>(TravellerColumn::NorthSouth) ||
+         column == static_cast<int>(TravellerColumn::EastWest);
+}
+
+}  // namespace
 
 void TravellerModel::Show(const Traveller& traveller, const std::optional<Par>& par,
                           bool fourColours, const QPalette& palette) {
@@ -16,9 +24,7 @@ void TravellerModel::Show(const Traveller& traveller, const std::optional<Par>& 
   rows_.assign(traveller.rows.size(), {});
   for (std::size_t row = 0; row < rows_.size(); ++row) {
     rows_[row].row = static_cast<int>(row);
-    // As rich text with everything escaped, so that no part of it is taken for mark-up.
-    rows_[row].tip = QStringLiteral("<span>%1</span>")
-                         .arg(ToQt(ReadLinBidding(traveller.rows[row])).toHtmlEscaped());
+    rows_[row].tip = ToQt(ReadLinBidding(traveller.rows[row]));
   }
   for (int column = 0; column < kTravellerColumns; ++column) {
     const auto place = static_cast<std::size_t>(column);
@@ -50,6 +56,14 @@ void TravellerModel::Mark(int row) {
   marked_ = row;
   if (rows_.empty()) return;
   emit dataChanged(index(0, 0), index(rowCount() - 1, kTravellerColumns - 1), {Qt::FontRole});
+}
+
+void TravellerModel::SetTwoLines(bool twoLines) {
+  if (twoLines == twoLines_) return;
+  twoLines_ = twoLines;
+  emit headerDataChanged(Qt::Horizontal, 0, kTravellerColumns - 1);
+  if (rows_.empty()) return;
+  emit dataChanged(index(0, 0), index(rowCount() - 1, kTravellerColumns - 1), {Qt::DisplayRole});
 }
 
 const TravellerCell& TravellerModel::At(const QModelIndex& index) const {
@@ -86,15 +100,25 @@ QVariant TravellerModel::FontOf(const QModelIndex& index) const {
   return font;
 }
 
+/// Names are shown whole before the auction, as they may be cut in the grid. Rich text with
+/// everything escaped, so that no part of it is taken for mark-up.
+QString TravellerModel::TipOf(const QModelIndex& index) const {
+  QString tip = rows_.at(static_cast<std::size_t>(index.row())).tip.toHtmlEscaped();
+  if (HasNames(index.column()) && RowOf(index) >= 0) {
+    tip = At(index).text.toHtmlEscaped() + QStringLiteral("<br>") + tip;
+  }
+  return QStringLiteral("<span>%1</span>").arg(tip);
+}
+
 QVariant TravellerModel::data(const QModelIndex& index, int role) const {
   const TravellerCell& cell = At(index);
   switch (role) {
     case Qt::DisplayRole:
-      return cell.text;
+      return twoLines_ && HasNames(index.column()) ? InTwoLines(cell.text) : cell.text;
     case Qt::AccessibleTextRole:
       return cell.spoken.isEmpty() ? cell.text : cell.spoken;
     case Qt::ToolTipRole:
-      return rows_.at(static_cast<std::size_t>(index.row())).tip;
+      return TipOf(index);
     case Qt::TextAlignmentRole:
       return QVariant((cell.isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     case Qt::ForegroundRole:
@@ -115,7 +139,7 @@ QVariant TravellerModel::data(const QModelIndex& index, int role) const {
 QVariant TravellerModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation == Qt::Vertical) return {};
   const TravellerHead& head = heads_.at(static_cast<std::size_t>(section));
-  if (role == Qt::DisplayRole) return head.text;
+  if (role == Qt::DisplayRole) return twoLines_ ? head.brief : head.text;
   if (role == Qt::ToolTipRole || role == Qt::AccessibleTextRole) return head.tip;
   if (role == Qt::TextAlignmentRole) {
     const bool number = section >= static_cast<int>(TravellerColumn::Score);

@@ -33,6 +33,9 @@ class TravellerModel : public QAbstractTableModel {
   /// none.
   void Mark(int row);
 
+  /// Whether the names of both sides take two lines, below short headings.
+  void SetTwoLines(bool twoLines);
+
   const TravellerCell& At(const QModelIndex& index) const;
   /// The row of the traveller; -1 for par.
   int RowOf(const QModelIndex& index) const;
@@ -49,17 +52,19 @@ class TravellerModel : public QAbstractTableModel {
  private:
   struct Row {
     std::array<TravellerCell, kTravellerColumns> cells;
-    QString tip;   // the auction in one line
+    QString tip;   // the auction in one line, or par
     int row = -1;  // of the traveller
   };
 
   void InsertPar(const Traveller& traveller, const Par& par);
   QVariant FontOf(const QModelIndex& index) const;
+  QString TipOf(const QModelIndex& index) const;
 
   std::vector<Row> rows_;
   std::array<TravellerHead, kTravellerColumns> heads_;
   QColor quiet_;
   int marked_ = -1;
+  bool twoLines_ = false;
 };
 
 /// The rows of a `TravellerModel` in the order of a column; in their own without one. Par is last

@@ -138,11 +138,17 @@ int TravellerPane::RowAt(const QPoint& at) const {
 }
 
 /// The grid takes the height that is left in the column, but at least a few rows.
-void TravellerPane::SetSizes() {
-  const int row = QFontMetrics(flexTraveller->font()).height() + kRowPadding;
-  flexTraveller->horizontalHeader()->setFont(flexTraveller->font());
+void TravellerPane::SetRowHeight(int lines) {
+  const int height = QFontMetrics(flexTraveller->font()).height();
+  const int row = height * lines + kRowPadding;
   flexTraveller->verticalHeader()->setDefaultSectionSize(row);
-  flexTraveller->setMinimumHeight((kLeastRows + 2) * row + 2 * flexTraveller->frameWidth());
+  flexTraveller->setMinimumHeight(kLeastRows * row + 2 * (height + kRowPadding) +
+                                  2 * flexTraveller->frameWidth());
+}
+
+void TravellerPane::SetSizes() {
+  flexTraveller->horizontalHeader()->setFont(flexTraveller->font());
+  TravellerResize();
   QPalette marked;  // all but these two is the window's
   marked.setColor(QPalette::Highlight, MarkedRowColour(palette()));
   marked.setColor(QPalette::HighlightedText, palette().color(QPalette::Text));
@@ -249,41 +255,49 @@ int TravellerPane::WidthOfColumn(TravellerColumn column) const {
     width += head->style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, head);
   }
   for (int row = 0; row < rows_->rowCount(); ++row) {
-    const QString text = rows_->At(rows_->index(row, place)).text;
-    width = std::max(width, static_cast<int>(std::ceil(metrics.horizontalAdvance(text))));
+    const QString text = rows_->index(row, place).data().toString();
+    for (const QString& line : text.split(QLatin1Char('\n'))) {
+      width = std::max(width, static_cast<int>(std::ceil(metrics.horizontalAdvance(line))));
+    }
   }
   return width + kCellPadding;
 }
 
-/// Contracts and numbers are shown whole. The names of both sides share what is left and are cut
-/// where that is too little; the lead is left out where they would be.
+/// Contracts and numbers are shown whole. The names of both sides share what is left: in one line
+/// if they fit, even if the lead has to be left out for them, and otherwise in two.
 void TravellerPane::TravellerResize() {
   using Column = TravellerColumn;
-  const auto set = [this](Column column, int width) {
-    flexTraveller->setColumnWidth(static_cast<int>(column), width);
-  };
+  rows_->SetTwoLines(false);
   int left = flexTraveller->viewport()->width();
   for (const Column column : {Column::Contract, Column::Score, Column::Points}) {
     const int width = WidthOfColumn(column);
-    set(column, width);
+    flexTraveller->setColumnWidth(static_cast<int>(column), width);
     left -= width;
   }
-  const int ours = WidthOfColumn(Column::NorthSouth);
-  const int theirs = WidthOfColumn(Column::EastWest);
+  const int names = WidthOfColumn(Column::NorthSouth) + WidthOfColumn(Column::EastWest);
   const int lead = WidthOfColumn(Column::Lead);
-  const bool showLead = ours + theirs + lead <= left;
+  const bool showLead = names + lead <= left;
   flexTraveller->setColumnHidden(static_cast<int>(Column::Lead), !showLead);
   if (showLead) {
-    set(Column::Lead, lead);
+    flexTraveller->setColumnWidth(static_cast<int>(Column::Lead), lead);
     left -= lead;
   }
+  rows_->SetTwoLines(names > left);
+  SetRowHeight(names > left ? 2 : 1);
+  ShareNames(left);
+}
+
+/// Names that need more than the half of `width` have what the others leave, and are cut where that
+/// is too little.
+void TravellerPane::ShareNames(int width) {
+  const int ours = WidthOfColumn(TravellerColumn::NorthSouth);
+  const int theirs = WidthOfColumn(TravellerColumn::EastWest);
   const int least = QFontMetrics(flexTraveller->font()).height() * kLeastNames;
-  const int half = left / 2;
-  // What one side does not need, the other may have.
   const int first = std::max(
-      least, std::clamp(half, std::min(ours, left - theirs), std::max(ours, left - theirs)));
-  set(Column::NorthSouth, first);
-  set(Column::EastWest, std::max(least, left - first));
+      least, std::clamp(width / 2, std::min(ours, width - theirs), std::max(ours, width - theirs)));
+  flexTraveller->setColumnWidth(static_cast<int>(TravellerColumn::NorthSouth), first);
+  flexTraveller->setColumnWidth(static_cast<int>(TravellerColumn::EastWest),
+                                std::max(least, width - first));
 }
 
 bool TravellerPane::eventFilter(QObject* watched, QEvent* event) {

@@ -45,12 +45,14 @@ class TravellerPane : public FoldingSection {
   void BuildGrid();
   void BuildSteps(QVBoxLayout* column, const Actions& actions);
   QToolButton* AddStep(const char* name, const QString& text, QAction* action);
+  void SetRowHeight(int lines);
   void SetSizes();
   void FillGrid(const Session& session);
   void FillNames();
   void MarkRecord();
   void ShowPlace();
   int WidthOfColumn(TravellerColumn column) const;
+  void ShareNames(int width);
   void TravellerResize();
   void SortByCurrentColumn();
   void ChooseRow(int row);

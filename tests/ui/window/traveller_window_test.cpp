@@ -81,6 +81,8 @@ class TravellerWindowTest : public WindowTest {
 
 TEST_F(TravellerWindowTest, ShowsAndHidesTheTraveller) {
   Open();
+  window->resize(1600, 900);
+  QCoreApplication::processEvents();
   EXPECT_TRUE(Shown("fraTraveller"));
   EXPECT_EQ(Text("cmdTraveller"), "v");
   Click("cmdTraveller");
@@ -98,6 +100,17 @@ TEST_F(TravellerWindowTest, ShowsAndHidesTheTraveller) {
   TypeAndEnter("cmbLibs", "Teaching");
   EXPECT_FALSE(Shown("cmdTraveller")) << "the other library has none at all";
   EXPECT_FALSE(Enabled("mnuTraveller"));
+}
+
+TEST_F(TravellerWindowTest, NamesTakeTwoLinesWhereOneIsTooShort) {
+  Open();
+  window->resize(1024, 600);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Row(), "N-S|E-W|Contract|Lead|Score|MP %");
+  EXPECT_EQ(FromQt(At(0, 1).data().toString()), "12 Cy\nDi");
+  EXPECT_GE(Grid()->rowHeight(0), 2 * Grid()->fontMetrics().height());
+  EXPECT_TRUE(At(0, 1).data(Qt::ToolTipRole).toString().contains(QLatin1String("12 Cy, Di")));
+  EXPECT_EQ(FromQt(At(0, 1).data(Qt::AccessibleTextRole).toString()), "12 Cy, Di");
 }
 
 TEST_F(TravellerWindowTest, IsSortedByEveryColumn) {
