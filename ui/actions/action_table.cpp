@@ -111,6 +111,7 @@ QString EditCaption(State state) {
   return state.editing ? Actions::tr("Stop &editing") : Actions::tr("&Edit hands");
 }
 QString PlayCaption(State state) {
+  if (state.playFinished) return Actions::tr("Put the &play away");
   return state.playing ? Actions::tr("Stop &play") : Actions::tr("&Play");
 }
 QString ClaimText(State state) {

@@ -24,8 +24,13 @@ QVariant SuitOf(const ListedBoard& board) {
   return static_cast<int>(IndexOf(board.summary->trumps));
 }
 
-QVariant FontOf(BoardColumn column) {
-  if (column != BoardColumn::Number) return {};
+/// Of a board that can be chosen like any other, but has nothing to show yet.
+bool IsEmpty(const ListedBoard& board) {
+  return !board.stored && !board.changed;
+}
+
+QVariant FontOf(const ListedBoard& board, BoardColumn column) {
+  if (column != BoardColumn::Number || IsEmpty(board)) return {};
   QFont font;
   font.setBold(true);
   return font;
@@ -98,10 +103,10 @@ QVariant BoardListModel::data(const QModelIndex& index, int role) const {
     case Qt::TextAlignmentRole:
       return QVariant::fromValue(AlignmentOf(column));
     case Qt::FontRole:
-      return FontOf(column);
+      return FontOf(board, column);
     case Qt::ForegroundRole:
-      if (board.stored || board.changed) return {};
-      return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+      if (!IsEmpty(board)) return {};
+      return QGuiApplication::palette().brush(QPalette::PlaceholderText);
     case kSuitRole:
       return column == BoardColumn::Contract ? SuitOf(board) : QVariant();
     case kVulnerableRole:

@@ -31,6 +31,7 @@ QString VulnerabilityText(int boardNumber) {
 }
 
 QString ContractText(const ListedBoard& board) {
+  if (!board.stored && !board.changed) return Text("empty");
   if (!board.summary) return {};
   const BoardSummary& summary = *board.summary;
   if (!summary.readable) return Text("unreadable");

@@ -8,8 +8,8 @@
 
 namespace tricklet::ui {
 
-/// A cell: "7*" (changed), "S", "NS", "4\u2660x S", "\u221250". Empty where there is nothing to
-/// say.
+/// A cell: "7*" (changed), "S", "NS", "4\u2660x S" ("empty" for a board that is not stored),
+/// "\u221250". Nothing where there is nothing to say.
 QString CellText(const ListedBoard& board, BoardColumn column);
 
 /// The whole row in words: "Board 7, dealer South, NS vulnerable, 4 spades doubled by South, score

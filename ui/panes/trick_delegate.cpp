@@ -70,6 +70,12 @@ void TrickDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   if (index.data(LedRole).toBool()) {
     DrawTriangle(*painter, {room.left(), room.center().y() - side / 2, side * 0.8, side}, text);
   }
+  if (symbol.isEmpty()) {  // the number of a trick, or a claim
+    painter->setPen(text);
+    painter->drawText(room, static_cast<int>(cell.displayAlignment), cell.text);
+    painter->restore();
+    return;
+  }
   room.setLeft(room.left() + side + 1);
   const double symbolWidth = metrics.horizontalAdvance(symbol);
   const double width = symbolWidth + metrics.horizontalAdvance(cell.text);

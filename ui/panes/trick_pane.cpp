@@ -26,7 +26,7 @@ constexpr int kColumns = 1 + kSeats;
 constexpr double kFontSize = 0.97;  // of the window's, so that four cards fit beside each other
 constexpr double kRowHeight = 1.5;  // in heights of the grid's font, as are the next two
 constexpr double kHeadHeight = 1.5;
-constexpr double kNumberWidth = 1.3;
+constexpr double kNumberWidth = 1.5;
 constexpr int kLeastRows = 6;  // before the column scrolls
 /// So that the grid takes the room that the column has left, up to its last row.
 constexpr int kStretch = 100;
@@ -73,6 +73,18 @@ QTableWidgetItem* MakeGap(Seat seat, bool next) {
   return item;
 }
 
+QString CaptionOf(TrickPane::Leaving leaving) {
+  switch (leaving) {
+    case TrickPane::Leaving::Record:
+      return TrickPane::tr("Put the record away");
+    case TrickPane::Leaving::FinishedPlay:
+      return TrickPane::tr("Put the play away");
+    case TrickPane::Leaving::Play:
+      break;
+  }
+  return TrickPane::tr("Stop play");
+}
+
 }  // namespace
 
 TrickPane::TrickPane(QWidget* parent)
@@ -80,7 +92,7 @@ TrickPane::TrickPane(QWidget* parent)
       lblDeal_(new ElidedLabel(this)),
       flexTricks_(new QTableWidget(0, kColumns, this)),
       lblGiven_(new QLabel(tr("Red: gave a trick away double-dummy"), this)),
-      cmdStopPlay_(new QPushButton(tr("Stop play"), this)) {
+      cmdStopPlay_(new QPushButton(CaptionOf(Leaving::Play), this)) {
   lblDeal_->setObjectName(QStringLiteral("lblTrickDeal"));
   MakeQuiet(lblDeal_);
   Body()->addWidget(lblDeal_);
@@ -141,13 +153,13 @@ QList<QWidget*> TrickPane::TabOrder() const {
 }
 
 void TrickPane::Show(const Session& session, const Board& board, const TrickGrid& grid,
-                     bool recorded) {
+                     Leaving leaving) {
   SetTitle(
       tr("Board %1 · %2").arg(QString::number(board.boardNumber), ToQt(session.ShownLibrary())));
   lblDeal_->setText(
       tr("Dealer %1 · %2")
           .arg(ToQt(SeatName[board.Dealer()]), ToQt(VulShort[board.Vulnerability()])));
-  cmdStopPlay_->setText(recorded ? tr("Put the record away") : tr("Stop play"));
+  cmdStopPlay_->setText(CaptionOf(leaving));
   for (int column = 0; column < kColumns; ++column) {
     auto* head = new QTableWidgetItem;
     head->setBackground(palette().brush(QPalette::Base));

@@ -16,11 +16,14 @@ class TrickPane : public Section {
   Q_OBJECT
 
  public:
+  /// What is left by `cmdStopPlay`.
+  enum class Leaving { Play, FinishedPlay, Record };
+
   explicit TrickPane(QWidget* parent = nullptr);
 
-  /// Fills the pane; `recorded` when the play is that of a record which is looked at. `board` gives
-  /// the deal's heading, `session` the library's name and the suits' colours.
-  void Show(const Session& session, const Board& board, const TrickGrid& grid, bool recorded);
+  /// Fills the pane. `board` gives the deal's heading, `session` the library's name and the suits'
+  /// colours, `leaving` the button's caption.
+  void Show(const Session& session, const Board& board, const TrickGrid& grid, Leaving leaving);
 
   /// The controls in the order of the tab key.
   QList<QWidget*> TabOrder() const;

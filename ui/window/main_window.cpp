@@ -341,7 +341,11 @@ void MainWindow::ShowTricks() {
   const Board& board = record != nullptr ? record->Record().board : session_.board;
   const CardPlay& play = record != nullptr ? record->Play() : play_->Play();
   const auto known = [&](const PlayState& before) { return best_->Known(before, board.trumps); };
-  panes_.tricks->Show(session_, board, MakeTrickGrid(play, known), record != nullptr);
+  using Leaving = TrickPane::Leaving;
+  const Leaving leaving = record != nullptr ? Leaving::Record
+                          : play.Finished() ? Leaving::FinishedPlay
+                                            : Leaving::Play;
+  panes_.tricks->Show(session_, board, MakeTrickGrid(play, known), leaving);
 }
 
 void MainWindow::SetPresentation(bool on) {

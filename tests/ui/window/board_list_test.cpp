@@ -51,6 +51,10 @@ TEST_F(BoardListTest, RowsSayWhatTheFilesTell) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return Row(number - 1) == QLatin1String(text); }))
         << FromQt(Row(number - 1));
   }
+  const auto contract = [this](int number) {
+    return FromQt(List()->model()->index(number - 1, 3).data().toString());
+  };
+  EXPECT_EQ(contract(2) + " " + contract(3), "empty Pass");
 }
 
 TEST_F(BoardListTest, IsWorkedByKeysAndClicks) {

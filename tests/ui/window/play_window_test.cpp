@@ -221,6 +221,29 @@ TEST_F(PlayWindowTest, AWholeBoardIsPlayedByKeysAndClicks) {
   ExpectNothingLeftOfPlay("the next board");
 }
 
+TEST_F(PlayWindowTest, TheMakeableTableStaysInPlace) {
+  Open();
+  session.board.makeableValid = true;
+  Bid("1S X P P XX P P P");
+  const auto place = [this] {
+    QCoreApplication::processEvents();
+    const auto* table = Find<QWidget>("lvwMake");
+    return QRect(table->mapTo(window.get(), QPoint()), table->size());
+  };
+  const QRect before = place();
+  Bid("1C 1D 1H 1S 1NT 2C 2D 2H 2S 2NT 3C 3D P P P");
+  EXPECT_EQ(place(), before) << "beside more rows of calls";
+  StartPlay();
+  EXPECT_EQ(place(), before) << "in play";
+  Click("cmdClaim");
+  EXPECT_EQ(place(), before) << "beside the result";
+  EXPECT_EQ(Focus(), "picTable") << "the button is gone";
+  EXPECT_EQ(Text("cmdStopPlay") + FromQt(Find<QAction>("mnuPlay")->text()),
+            "Put the play awayPut the &play away");
+  Click("lblNext");
+  EXPECT_FALSE(Shown("fraPlay"));
+}
+
 TEST_F(PlayWindowTest, TheTricksTakeThePlaceOfTheLibrary) {
   Open();
   EXPECT_EQ(ShownOf("fraLibrary fraTricks"), "fraLibrary");
