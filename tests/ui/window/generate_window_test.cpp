@@ -220,6 +220,22 @@ TEST_F(GenerateWindowTest, ThePreviewTakesADealDealsAgainOrEnds) {
   EXPECT_EQ(Text("cmbBoard"), "Board 31");
 }
 
+TEST_F(GenerateWindowTest, ANoToOverwritingReturnsToTheDialog) {
+  Open();
+  const Board before = Stored(24);
+  Generate([&](const Driven& form) {
+    host.ExpectAskWith("You will overwrite existing boards", Answer::No);
+    Choose(form, "cmbBoards_1=31 cmbBoards_0=24 cmbMinPoints_0=12");
+    Expect([](const Driven& again) {
+      EXPECT_EQ(again.Text("cmbBoards_0") + again.Text("cmbMinPoints_0"), "2412");
+      Choose(again, "cmbBoards_0=31 cmdGo");
+    });
+    form.Press("cmdGo");
+  });
+  EXPECT_EQ(Stored(24).hands, before.hands);
+  EXPECT_EQ(Text("cmbBoard"), "Board 31");
+}
+
 TEST_F(GenerateWindowTest, EachDealIsShownBesideItsNumber) {
   std::map<int, std::string> shown;
   Open();
