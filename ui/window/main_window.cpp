@@ -401,12 +401,16 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-  if (!DroppedRecords(*event->mimeData()).Empty()) event->acceptProposedAction();
+  if (DroppedRecords(*event->mimeData()).Empty()) return;
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
   const DroppedRecords dropped(*event->mimeData());
-  event->acceptProposedAction();
+  // Never the move that is proposed for one: its source would then delete the file.
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
   // Questions come after the drop, so that the program that it came from does not wait for them.
   Later(this, [this, dropped] {
     ImportFiles(dropped.files);

@@ -23,12 +23,15 @@ class LinWindowTest : public WindowTest {
   }
   /// Whether the window takes `data` when it is dragged over it; then drops it.
   bool Drop(const QMimeData& data) const {
-    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    const Qt::DropActions possible = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter(QPoint(9, 9), possible, &data, Qt::LeftButton, Qt::NoModifier);
     enter.ignore();
     QCoreApplication::sendEvent(top, &enter);
     if (!enter.isAccepted()) return false;
-    QDropEvent drop(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent drop(QPointF(9, 9), possible, &data, Qt::LeftButton, Qt::NoModifier);
+    drop.setDropAction(Qt::MoveAction);  // as file managers propose
     QCoreApplication::sendEvent(top, &drop);
+    EXPECT_EQ(drop.dropAction(), Qt::CopyAction) << "a moved file is deleted where it was";
     QTest::qWait(1);
     return true;
   }
