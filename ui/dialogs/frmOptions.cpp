@@ -1,5 +1,7 @@
 #include "ui/dialogs/frmOptions.h"
 
+#include <utility>
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -7,6 +9,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -78,6 +81,18 @@ frmOptions::frmOptions(const Session& session, const QString& updateObstacle, QW
   column->addLayout(row, 1);
   column->addWidget(buttons);
   Fill(before_);
+  TurnPagesByKey(tabs);
+  tabs->setFocus();
+}
+
+/// From wherever the focus is: the tabs themselves know the keys only while it is within them.
+void frmOptions::TurnPagesByKey(QTabWidget* tabs) {
+  for (const auto& [key, step] : {std::pair("Ctrl+Tab", 1), std::pair("Ctrl+Shift+Tab", -1)}) {
+    connect(new QShortcut(QKeySequence(QString::fromLatin1(key)), this), &QShortcut::activated,
+            tabs, [tabs, step = step] {
+              tabs->setCurrentIndex((tabs->currentIndex() + step + tabs->count()) % tabs->count());
+            });
+  }
 }
 
 QWidget* frmOptions::CardsPage() {

@@ -12,6 +12,7 @@
 class QCheckBox;
 class QComboBox;
 class QDoubleSpinBox;
+class QTabWidget;
 class QVBoxLayout;
 
 namespace tricklet::ui {
@@ -42,6 +43,7 @@ class frmOptions : public QDialog {
     std::function<void(Settings&, int)> set;
   };
 
+  void TurnPagesByKey(QTabWidget* tabs);
   QWidget* CardsPage();
   QWidget* WindowPage();
   QWidget* CaptionsPage();
