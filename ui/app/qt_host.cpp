@@ -1,10 +1,13 @@
 #include "ui/app/qt_host.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -26,6 +29,24 @@ QString NameFilter(const FileChoice& choice) {
     patterns += QStringLiteral("*.") + ToQt(extension);
   }
   return QStringLiteral("%1 (%2)").arg(ToQt(choice.description), patterns.join(u' '));
+}
+
+// In heights of a line of text.
+constexpr int kFrameButtons = 8;  // what stands beside the title in the frame
+constexpr int kMostForTitle = 32;
+
+/// A box is laid out by its texts, and a title that is longer than a short text is cut. To be
+/// called last: whatever else is set lays the box out anew.
+void MakeRoomForTitle(QMessageBox& box) {
+  auto* rows = qobject_cast<QGridLayout*>(box.layout());
+  if (rows == nullptr) return;
+  QFont bold = box.font();
+  bold.setBold(true);
+  const QFontMetrics metrics(bold);
+  const int title = metrics.horizontalAdvance(box.windowTitle());
+  const int width = title + kFrameButtons * metrics.height();
+  rows->addItem(new QSpacerItem(std::min(width, kMostForTitle * metrics.height()), 0),
+                rows->rowCount(), 0, 1, rows->columnCount());
 }
 
 /// Texts can hold names and bytes of foreign files: nothing in them is markup.
@@ -123,6 +144,7 @@ void QtHost::Tell(const Message& message) {
   Prepare(box, message.text, message.title);
   box.setIcon(message.kind == MessageKind::Error ? QMessageBox::Critical
                                                  : QMessageBox::Information);
+  MakeRoomForTitle(box);
   box.exec();
 }
 
@@ -134,6 +156,7 @@ Answer QtHost::Ask(const Question& question) {
   ShowButtons(box, question.buttons);
   Caption(box, question);
   if (question.safe) box.setDefaultButton(ButtonFor(*question.safe));
+  MakeRoomForTitle(box);
   switch (box.exec()) {
     case QMessageBox::Yes:
       return Answer::Yes;

@@ -2,15 +2,19 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabBar>
+#include <QTabWidget>
 
 #include "tests/ui/window_fixture.h"
 #include "ui/app/qt_host.h"
 #include "ui/background/later.h"
 #include "ui/dialogs/folder_browser.h"
 #include "ui/dialogs/frmExport.h"
+#include "ui/dialogs/frmOptions.h"
 #include "ui/dialogs/frmStart.h"
 
 namespace tricklet::ui {
@@ -66,6 +70,21 @@ TEST_F(DialogsTest, EnterIsTheSafeAnswerAndButtonsSayWhatTheyDo) {
             Answer::No);
 }
 
+TEST_F(DialogsTest, ABoxHasRoomForItsTitleAndItsText) {
+  QtHost asking;
+  const std::string words = "Hand already in library Tuesday";
+  for (const auto& [text, title] : {std::pair(std::string("7?"), words), {words, "7?"}}) {
+    Later(qApp, [&words] {
+      QWidget* box = QApplication::activeModalWidget();
+      EXPECT_GT(box->width(), box->fontMetrics().horizontalAdvance(ToQt(words)) + 50);
+      const auto* label = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+      EXPECT_GE(label->width(), label->sizeHint().width());
+      box->close();
+    });
+    asking.Tell({.text = text, .title = title});
+  }
+}
+
 TEST_F(DialogsTest, AFolderThatIsNotThereYetCanBeChosen) {
   const QString here = QDir::tempPath();
   const QString there = QFileInfo(here).fileName();
@@ -103,6 +122,21 @@ TEST_F(DialogsTest, TheStartDialogStoresAutoLaunchAtOnce) {
   }
   Later(&start, [&form] { form.Press("cmdLaunch"); });
   EXPECT_EQ(start.exec(), QDialog::Accepted);
+}
+
+TEST_F(DialogsTest, CtrlTabTurnsThePagesOfTheOptionsFromAnywhere) {
+  frmOptions options(session, QString(), nullptr);
+  options.show();
+  QApplication::setActiveWindow(&options);
+  const auto* tabs = options.findChild<QTabWidget*>();
+  EXPECT_TRUE(tabs->tabBar()->hasFocus());
+  const std::pair<const char*, int> keys[] = {
+      {"Ctrl+Tab", 1}, {"Ctrl+Shift+Tab", 0}, {"Ctrl+Shift+Tab", tabs->count() - 1}};
+  for (const auto& [key, page] : keys) {
+    options.findChild<QPushButton*>(QStringLiteral("cmdDefaults"))->setFocus();
+    Driven::FocusKey(key);
+    EXPECT_EQ(tabs->currentIndex(), page) << key;
+  }
 }
 
 TEST_F(DialogsTest, TheExportDialogStaysUntilItsRangeIsValid) {
