@@ -134,14 +134,20 @@ std::string LibraryOfNamedRoot(const std::filesystem::path& root, const std::str
   }
 }
 
+/// A pane that asks for another height is heard by the one around it in the event loop's next turn.
+void LetLayoutSettle() {
+  constexpr int kTurns = 10;  // more than panes lie in each other
+  for (int turn = 0; turn < kTurns; ++turn) QCoreApplication::processEvents();
+}
+
 /// The window as a picture file; false when that could not be written.
 bool WriteScreenshot(MainWindow& window, const LaunchOptions& options) {
   window.setAttribute(Qt::WA_DontShowOnScreen);
   window.resize(options.size);
   window.show();
-  QCoreApplication::processEvents();
+  LetLayoutSettle();
   window.Display();  // widths are known by now
-  QCoreApplication::processEvents();
+  LetLayoutSettle();
   return window.grab().save(options.screenshot, "PNG");
 }
 
