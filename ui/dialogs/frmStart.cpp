@@ -32,7 +32,7 @@ QLabel* AddText(QWidget* parent, const char* name, const QString& text) {
 frmStart::frmStart(Session& session, Updates& updates, std::chrono::milliseconds patience)
     : updates_(updates),
       lblUpdate(AddText(this, "lblUpdate", updates.StartText())),
-      lblNotes(AddText(this, "lblNotes", QString())),
+      lblNotes(AddText(this, "lblNotes", updates.StartNotes())),
       cmdLaunch(new QPushButton(tr("&Launch"), this)) {
   setObjectName(QStringLiteral("frmStart"));
   setWindowTitle(ToQt(kProgramName));
@@ -46,7 +46,7 @@ frmStart::frmStart(Session& session, Updates& updates, std::chrono::milliseconds
   lblVersion->setObjectName(QStringLiteral("lblVersion"));
   MakeQuiet(lblVersion);
   MakeQuiet(lblNotes);
-  lblNotes->hide();
+  lblNotes->setVisible(!lblNotes->text().isEmpty());
 
   auto* chkAutoLaunch = new QCheckBox(tr("&Open the main window at once next time"), this);
   chkAutoLaunch->setObjectName(QStringLiteral("chkAutoLaunch"));

@@ -19,6 +19,13 @@ QString Updates::StartText() const {
   return settings_.autoUpdate && LeftOut() ? Obstacle() : ToQt(UpdateText(settings_));
 }
 
+QString Updates::StartNotes() const {
+  if (!settings_.autoUpdate || LeftOut() || !settings_.updateAddress.empty()) return {};
+  return tr(
+      "You need not do anything: the program works in full without one. The manual tells how to "
+      "set it.");
+}
+
 void Updates::Ask() {
   asking_ = true;
   fetcher_->Fetch(settings_.updateAddress, [this](const Fetched& fetched) {

@@ -29,6 +29,8 @@ class Updates : public QObject {
   bool WantedAtStart() const { return settings_.autoUpdate && Obstacle().isEmpty(); }
   /// What the start dialog says before anything has been asked.
   QString StartText() const;
+  /// What that means to somebody who has never heard of an update check; empty when it is plain.
+  QString StartNotes() const;
 
   /// Asks now; a question under way is given up. To be called only where there is no obstacle.
   void Ask();

@@ -89,7 +89,9 @@ TEST_F(UpdatesTest, WithoutAnAddressNothingIsAskedAndTheReasonIsSaid) {
     EXPECT_NE(FromQt(Action("mnuCheckForUpdates")->toolTip()).find(reason), std::string::npos);
     Key("Ctrl+Shift+F1");
     frmStart start(session, updates);
-    EXPECT_EQ(Driven{&start}.Text("lblUpdate").find(reason), 0U);
+    const Driven form{&start};
+    EXPECT_EQ(form.Text("lblUpdate").find(reason), 0U);
+    EXPECT_EQ(form.Text("lblNotes").empty(), !session.settings.updateAddress.empty());
   }
   EXPECT_TRUE(fetcher->asked.empty());
 }
