@@ -1,7 +1,6 @@
 #include "ui/table/contract_labels.h"
 
 #include <algorithm>
-#include <array>
 
 #include <QFontMetricsF>
 #include <QLabel>
@@ -78,22 +77,36 @@ void ContractLabels::Place(const TableScene& scene, const TableLayout& layout,
     lblContract->setGeometry(room.toRect());
     return;
   }
-  const QRectF& line = layout.line;
-  const QString all = lblContract->text() + lblTricks[Side::NorthSouth]->text() +
-                      lblTricks[Side::EastWest]->text() + QStringLiteral("MM");  // for the gaps
-  const QFont bold = Fitted(Bold(font), {all}, line.size(), kTextInLine * line.height());
+  rows_ = RowsFor(layout.linesInLine);
+  QStringList texts;
+  for (const std::vector<QLabel*>& row : rows_) {
+    texts << QString(static_cast<int>(row.size()) - 1, u'M');  // for the gaps
+    for (const QLabel* label : row) texts.back() += label->text();
+  }
+  QRectF line = layout.line;
+  line.setHeight(line.height() / static_cast<double>(rows_.size()));
+  const double most = std::max(kTextInLine * line.height(), layout.leastCaption);
+  const QFont bold = Fitted(Bold(font), texts, line.size(), most);
   QFont plain = bold;
   plain.setBold(false);
   lblContract->setFont(bold);
   for (QLabel* label : lblTricks) label->setFont(plain);
-  PlaceInLine(line);
+  for (const std::vector<QLabel*>& row : rows_) {
+    PlaceInLine(row, line);
+    line.translate(0, line.height());
+  }
 }
 
-void ContractLabels::PlaceInLine(const QRectF& line) {
+/// Everything in one line, or the contract above the tricks.
+std::vector<std::vector<QLabel*>> ContractLabels::RowsFor(int lines) const {
+  const std::vector<QLabel*> tricks(lblTricks.begin(), lblTricks.end());
+  if (lines > 1) return {{lblContract}, tricks};
+  return {{lblContract, tricks.front(), tricks.back()}};
+}
+
+void ContractLabels::PlaceInLine(const std::vector<QLabel*>& labels, const QRectF& line) {
   const double gap = kGap * lblContract->font().pixelSize();
-  const std::array<QLabel*, 3> labels{lblContract, lblTricks[Side::NorthSouth],
-                                      lblTricks[Side::EastWest]};
-  double width = 2 * gap;
+  double width = static_cast<double>(labels.size() - 1) * gap;
   for (const QLabel* label : labels) width += WidthOf(label);
   double x = line.center().x() - width / 2;
   for (QLabel* label : labels) {
@@ -106,9 +119,12 @@ void ContractLabels::DrawDots(QPainter& painter, const TableColours& colours) co
   const double size = lblContract->font().pixelSize();
   painter.setPen(Qt::NoPen);
   painter.setBrush(colours.text);
-  for (const QLabel* label : lblTricks) {
-    const QPointF middle(label->x() - kGap / 2 * size, label->geometry().center().y() + 1);
-    painter.drawEllipse(middle, kDot * size, kDot * size);
+  for (const std::vector<QLabel*>& row : rows_) {
+    for (const QLabel* label : row) {
+      if (label == row.front()) continue;
+      const QPointF middle(label->x() - kGap / 2 * size, label->geometry().center().y() + 1);
+      painter.drawEllipse(middle, kDot * size, kDot * size);
+    }
   }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include <QPainter>
 
@@ -13,8 +14,8 @@ class QWidget;
 
 namespace tricklet::ui {
 
-/// During play "4S by South · NS: 4 · EW: 2" lies in the line below the trick; at other times the
-/// contract alone in the middle of the table. The labels let the mouse through.
+/// During play "4S by South · NS: 4 · EW: 2" lies in the line below the trick, or in its two lines;
+/// at other times the contract alone in the middle of the table. The labels let the mouse through.
 class ContractLabels {
  public:
   explicit ContractLabels(QWidget* table);
@@ -28,10 +29,12 @@ class ContractLabels {
   void DrawDots(QPainter& painter, const TableColours& colours) const;
 
  private:
-  void PlaceInLine(const QRectF& line);
+  std::vector<std::vector<QLabel*>> RowsFor(int lines) const;
+  void PlaceInLine(const std::vector<QLabel*>& labels, const QRectF& line);
 
   QLabel* lblContract;
   PerSide<QLabel*> lblTricks;
+  std::vector<std::vector<QLabel*>> rows_;  // during play, from left to right
 };
 
 }  // namespace tricklet::ui

@@ -31,7 +31,7 @@ QString SeatLetter(Seat seat) {
 }
 
 /// Where the dealer's disc goes.
-enum class DiscSide : std::uint8_t { Left, Right };
+enum class DiscSide : std::uint8_t { Left, Right, Below };
 
 /// The mark of one seat: a badge, red where vulnerable, and the dealer's disc beside it.
 class SeatMark {
@@ -67,13 +67,19 @@ class SeatMark {
     painter.drawText(badge, Qt::AlignCenter, text_);
     if (!dealer_) return;
     QRectF disc(0, 0, 1.35 * unit_, 1.35 * unit_);
-    const double across = badge_.width() / 2 + 0.3 * unit_ + disc.width() / 2;
-    const QPointF away(across, 0);
-    disc.moveCenter(discSide_ == DiscSide::Left ? middle - away : middle + away);
+    disc.moveCenter(middle + ToDisc(disc.width()));
     DrawDisc(painter, disc);
   }
 
  private:
+  /// From the middle of the badge to that of the disc.
+  QPointF ToDisc(double disc) const {
+    const double apart = 0.3 * unit_ + disc / 2;
+    if (discSide_ == DiscSide::Below) return {0, badge_.height() / 2 + apart};
+    const double across = badge_.width() / 2 + apart;
+    return {discSide_ == DiscSide::Left ? -across : across, 0};
+  }
+
   void DrawDisc(QPainter& painter, const QRectF& disc) const {
     painter.setPen(Qt::NoPen);
     painter.setBrush(kDealerYellow);
@@ -125,13 +131,19 @@ struct CentreParts {
   QRectF dealer;    ///< below the line: dealer and vulnerability
 };
 
-/// How much wider than high a panel is that has its lines between West and East.
-constexpr double kWide = 1.25;
+// Of the height of a wide panel's lines; dealer and vulnerability share the rest.
+constexpr double kBoardLine = 0.28;
+constexpr double kContractLine = 0.3;
 
 CentreParts PartsOf(const QRectF& panel, const Board& board, const QFont& font) {
   const double unit = std::clamp(std::min(panel.width(), panel.height()) * 0.095, 5.0, 48.0);
+  const bool wide = panel.width() >= kWideCentre * panel.height();
   const auto mark = [&](Seat seat) {
-    const DiscSide discSide = seat == Seat::East ? DiscSide::Left : DiscSide::Right;
+    const bool atSide = seat == Seat::West || seat == Seat::East;
+    // Beside the text between West and East there is no room for the disc.
+    const DiscSide discSide = atSide && wide       ? DiscSide::Below
+                              : seat == Seat::East ? DiscSide::Left
+                                                   : DiscSide::Right;
     return SeatMark(board, seat, font, unit, discSide);
   };
   CentreParts parts{
@@ -150,14 +162,15 @@ CentreParts PartsOf(const QRectF& panel, const Board& board, const QFont& font) 
   const double down = ends + 1.4 * pad;
   const double half = std::max(size(Seat::West).height(), size(Seat::East).height()) / 2;
   const QRectF inner = panel.adjusted(pad, down, -pad, -down);
-  if (panel.width() > kWide * panel.height()) {
+  if (wide) {
     // Room enough between West and East for all lines, so that their line need not be kept free.
     const double aside = sides + pad;
     const QRectF lines = inner.adjusted(aside, 0, -aside, 0);
-    const double each = lines.height() / 4;  // dealer and vulnerability are two
-    parts.board = {lines.left(), lines.top(), lines.width(), each};
-    parts.contract = parts.board.translated(0, each);
-    parts.dealer = {lines.left(), parts.contract.bottom(), lines.width(), 2 * each};
+    parts.board = {lines.left(), lines.top(), lines.width(), kBoardLine * lines.height()};
+    parts.contract = {lines.left(), parts.board.bottom(), lines.width(),
+                      kContractLine * lines.height()};
+    parts.dealer = {lines.left(), parts.contract.bottom(), lines.width(),
+                    lines.bottom() - parts.contract.bottom()};
     return parts;
   }
   const double above = middle.y() - half - inner.top();

@@ -25,7 +25,8 @@ constexpr double kLeastMark = 0.15;  // its height where a row below leaves no m
 constexpr double kRowStep = 0.5;  // from one suit's row to the next
 constexpr double kMostRowStep = 0.62;
 constexpr double kCentreHeight = 2.2;
-constexpr int kBacksInRow = 4;  // West and East face down
+constexpr double kCentreShare = 0.7;  // of the height of West's and East's areas
+constexpr int kBacksInRow = 4;        // West and East face down
 /// North and South draw the sides towards the middle on a table that is wider than this.
 constexpr double kMostAspect = 1.7;
 
@@ -35,32 +36,43 @@ struct Measures {
   QRectF room;    // the felt without it
   double gap;
   double captionHeight;
+  double sideCaptionHeight;  // West and East
+  double lineHeight;         // below the trick
   double cardWidth;
   double cardHeight;
 };
 
 /// The size of text whose capitals are high enough for the back of a room.
 double PresentationText(double height) {
-  constexpr double kCapitals = 0.72;  // of the size, in common fonts
+  constexpr double kCapitals = 0.7;  // of the size, in common fonts
   return kPresentationText / kCapitals * height;
 }
 
-Measures Measure(QSizeF size, bool presentation = false) {
+/// What is left of the height between the captions and their gaps.
+double HeightForHands(const Measures& m) {
+  return m.room.height() - 2 * m.captionHeight - m.sideCaptionHeight - 5 * m.gap;
+}
+
+Measures Measure(QSizeF size, const TableNeeds& needs = {}) {
   const double width = std::max(1.0, size.width());
   const double height = std::max(1.0, size.height());
   Measures m{};
   m.margin = std::clamp(0.018 * std::min(width, height), 4.0, 28.0);
   m.gap = std::round(0.7 * m.margin);
   m.captionHeight = std::round(std::clamp(0.042 * std::min(width, height), 14.0, 96.0));
-  if (presentation) {
-    m.captionHeight = std::max(m.captionHeight, std::ceil(PresentationText(height) / kCaptionText));
+  m.lineHeight = m.captionHeight;
+  const double text = PresentationText(height);
+  if (needs.presentation) {
+    m.captionHeight = std::max(m.captionHeight, std::ceil(text / kCaptionText));
+    // Contract and tricks, one above the other, as letters of this size need more than the trick.
+    m.lineHeight = std::ceil(2 * kLineStep * text);
   }
+  m.sideCaptionHeight = m.captionHeight + std::ceil((needs.sideLines - 1) * kLineStep * text);
   const double across = std::min(width, height * kMostAspect) - 2 * m.margin;
   m.room = QRectF((width - across) / 2, m.margin, across, height - 2 * m.margin);
-  const double high = m.room.height() - 3 * m.captionHeight - 5 * m.gap;
   const double wide = m.room.width() - 2 * m.gap;
-  m.cardWidth = std::floor(
-      std::min(wide / (2 * kLeastSide + kLeastCentre), high / (3 + 3 * kRowStep) / kCardAspect));
+  m.cardWidth = std::floor(std::min(wide / (2 * kLeastSide + kLeastCentre),
+                                    HeightForHands(m) / (3 + 3 * kRowStep) / kCardAspect));
   m.cardWidth = std::max(1.0, m.cardWidth);
   m.cardHeight = std::round(m.cardWidth * kCardAspect);
   return m;
@@ -73,7 +85,7 @@ struct Heights {
 };
 
 Heights AreaHeights(const Measures& m, HandDisplay display) {
-  const double high = m.room.height() - 3 * m.captionHeight - 5 * m.gap;
+  const double high = HeightForHands(m);
   if (display == HandDisplay::Text) return {high / 3, high / 3};
   const double side = std::min(high - 2 * m.cardHeight, m.cardHeight * (1 + 3 * kMostRowStep));
   return {m.cardHeight, std::max(side, m.cardHeight)};
@@ -89,17 +101,19 @@ double CentreWidth(const Measures& m, const TableNeeds& needs) {
 
 /// The middle between plays; during play it reaches from the side hands' upper edge down to the
 /// line below it.
-void PlaceCentre(TableLayout& layout, const Measures& m, bool play) {
+void PlaceCentre(TableLayout& layout, const Measures& m, const TableNeeds& needs) {
   const QRectF& west = layout.hands[Seat::West].area;
   const double left = west.right() + m.gap;
   const double width = layout.hands[Seat::East].area.left() - m.gap - left;
-  if (play) {
-    layout.line = QRectF(left, west.bottom() - m.captionHeight, width, m.captionHeight);
+  if (needs.play) {
+    layout.line = QRectF(left, west.bottom() - m.lineHeight, width, m.lineHeight);
+    layout.linesInLine = needs.presentation ? 2 : 1;
     layout.centre = QRectF(left, west.top(), width, layout.line.top() - m.gap / 2 - west.top());
     return;
   }
-  const double height =
-      std::min(west.height(), std::max(kCentreHeight * m.cardHeight, west.height() * 0.7));
+  double wished = std::max(kCentreHeight * m.cardHeight, west.height() * kCentreShare);
+  if (needs.presentation) wished = std::max(wished, width / kWideCentre);
+  const double height = std::min(west.height(), std::floor(wished));
   layout.centre = QRectF(0, 0, width, std::round(height));
   layout.centre.moveCenter({m.room.center().x(), west.center().y()});
 }
@@ -108,6 +122,7 @@ void PlaceAreas(TableLayout& layout, const Measures& m, const TableNeeds& needs)
   const Heights heights = AreaHeights(m, needs.display);
   const QRectF& room = m.room;
   const double step = m.captionHeight + m.gap;
+  const double sideStep = m.sideCaptionHeight + m.gap;
   PlacedHand& north = layout.hands[Seat::North];
   PlacedHand& south = layout.hands[Seat::South];
   north.caption = {room.left(), room.top(), room.width(), m.captionHeight};
@@ -116,17 +131,18 @@ void PlaceAreas(TableLayout& layout, const Measures& m, const TableNeeds& needs)
   south.area = {room.left(), room.bottom() - step - heights.row, room.width(), heights.row};
 
   const double middle = (north.area.bottom() + south.area.top()) / 2;
-  const double top = std::round(middle - (step + heights.side) / 2);
+  const double top = std::round(middle - (sideStep + heights.side) / 2);
   const double centreWidth = std::round(CentreWidth(m, needs));
   const double sideWidth = (room.width() - centreWidth) / 2 - m.gap;
   const double captionWidth = (room.width() - m.gap) / 2;
   PlacedHand& west = layout.hands[Seat::West];
   PlacedHand& east = layout.hands[Seat::East];
-  west.caption = {room.left(), top, captionWidth, m.captionHeight};
-  west.area = {room.left(), top + step, sideWidth, heights.side};
-  east.caption = {room.right() - captionWidth, top, captionWidth, m.captionHeight};
-  east.area = {room.right() - sideWidth, top + step, sideWidth, heights.side};
-  PlaceCentre(layout, m, needs.play);
+  west.caption = {room.left(), top, captionWidth, m.sideCaptionHeight};
+  west.area = {room.left(), top + sideStep, sideWidth, heights.side};
+  east.caption = {room.right() - captionWidth, top, captionWidth, m.sideCaptionHeight};
+  east.area = {room.right() - sideWidth, top + sideStep, sideWidth, heights.side};
+  west.lines = east.lines = needs.sideLines;
+  PlaceCentre(layout, m, needs);
 }
 
 std::vector<Card> CardsOf(Suit suit, Holding holding) {
@@ -265,7 +281,7 @@ int CardsIn(const PerSuit<Holding>& hand) {
 }  // namespace
 
 TableLayout LayOutTable(QSizeF size, const HandTable& hands, const TableNeeds& needs) {
-  const Measures measures = Measure(size, needs.presentation);
+  const Measures measures = Measure(size, needs);
   TableLayout layout;
   layout.felt = QRectF(QPointF(), size);
   layout.cardSize = {measures.cardWidth, measures.cardHeight};

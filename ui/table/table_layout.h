@@ -30,12 +30,19 @@ struct TableNeeds {
   PerSeat<bool> hidden{};     ///< these hands lie face down
   bool play = false;          ///< a trick in the middle and a line of text below it
   bool presentation = false;  ///< captions that can be read from the back of a room
+  int sideLines = 1;          ///< of text in West's and East's captions
 };
+
+/// The centre of a table that is at least as wide, in its heights, has all its lines between West
+/// and East.
+inline constexpr double kWideCentre = 1.25;
 
 /// Least height of the captions' capitals in a presentation, as a share of the table's height.
 inline constexpr double kPresentationText = 1.0 / 30;
 /// Size of a caption's text, as a share of the height of its room.
 inline constexpr double kCaptionText = 0.66;
+/// From one line of text to the next, in sizes of the text.
+inline constexpr double kLineStep = 1.2;
 
 struct PlacedCard {
   Seat seat = Seat::North;
@@ -52,6 +59,7 @@ struct PlacedBack {
 
 struct PlacedHand {
   QRectF caption;  ///< room for the caption, which may be smaller
+  int lines = 1;   ///< of text in the caption, at the most
   QRectF area;     ///< room for the cards or the text
 };
 
@@ -59,7 +67,8 @@ struct PlacedHand {
 struct TableLayout {
   QRectF felt;
   QRectF centre;
-  QRectF line;  ///< below the centre: room for contract and tricks; empty outside of play
+  QRectF line;          ///< below the centre: room for contract and tricks; empty outside of play
+  int linesInLine = 1;  ///< of text in `line`
   QSizeF cardSize;
   double leastCaption = 0;  ///< size of the captions' text, in pixels, that is not to be missed
   PerSeat<PlacedHand> hands;

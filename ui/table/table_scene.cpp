@@ -33,12 +33,32 @@ void PlaceRanksLeft(TableLayout& layout, const TableScene& scene, double dotsPer
   }
 }
 
+/// The longest captions that this scene's hands can get: with a role, and to act. By these nothing
+/// moves as the turn goes round.
+PerSeat<Caption> LongestSideCaptions(const TableScene& scene) {
+  TableScene longest = scene;
+  longest.hidden = {};
+  if (longest.board.contract.empty()) longest.board.contract = "1C";
+  PerSeat<Caption> captions;
+  for (const Seat seat : {Seat::West, Seat::East}) {
+    longest.board.declarer = seat;
+    if (scene.toCall) longest.toCall = seat;
+    if (scene.play) longest.play->now.onPlay = seat;
+    captions[seat] = SceneCaptions(longest, {})[seat];
+  }
+  return captions;
+}
+
 }  // namespace
 
 TableLayout LayOutScene(const TableScene& scene, QSizeF size, double dotsPerInch) {
   const HandDisplay display = scene.settings.cardsFaces ? HandDisplay::Cards : HandDisplay::Text;
-  const TableNeeds needs{display, scene.hidden, scene.play.has_value(), scene.presentation};
+  TableNeeds needs{display, scene.hidden, scene.play.has_value(), scene.presentation};
   TableLayout layout = LayOutTable(size, scene.Hands(), needs);
+  if (scene.presentation) {
+    needs.sideLines = SideLinesFor(layout, LongestSideCaptions(scene), scene.settings);
+    if (needs.sideLines > 1) layout = LayOutTable(size, scene.Hands(), needs);
+  }
   if (!scene.play) return layout;
   if (display == HandDisplay::Cards) {
     RaiseLegalCards(layout, *scene.play);

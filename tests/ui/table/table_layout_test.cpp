@@ -14,6 +14,7 @@
 #include "ui/table/descriptions.h"
 #include "ui/table/table_captions.h"
 #include "ui/table/table_centre.h"
+#include "ui/table/table_scene.h"
 #include "ui/table/table_trick.h"
 #include "ui/table/tricks_won.h"
 
@@ -55,6 +56,7 @@ TEST_P(TableGeometry, KeepsHandsCaptionsAndCentreApartAndOnTheFelt) {
   const TableNeeds needs[] = {{HandDisplay::Cards},
                               {HandDisplay::Text},
                               {HandDisplay::Cards, {}, true, true},
+                              {HandDisplay::Cards, {}, false, true, 2},
                               {HandDisplay::Text, {}, true, false}};
   for (const TableNeeds& each : needs) {
     const TableLayout layout = LayOutTable(layout_.felt.size(), hands_, each);
@@ -179,14 +181,26 @@ TEST(TableLayoutTest, CloseUpWhatIsLeft) {
 }
 
 TEST(TableLayoutTest, WritesCaptionsForTheBackOfTheRoom) {
-  for (const QSizeF size : {QSizeF(1024, 600), QSizeF(1366, 768), QSizeF(1920, 1080)}) {
-    TableNeeds needs;
-    needs.presentation = true;
-    const TableLayout layout = LayOutTable(size, HandsOf(kOrdinaryDeal), needs);
-    PerSeat<Caption> captions;
-    captions.fill({QStringLiteral("13 cards : HCP=15 LTC=7 Declarer"), {}, {}});
-    const CaptionLayout pills = LayOutCaptions(layout, captions, Settings(), 96);
-    EXPECT_GT(QFontMetricsF(pills.font).capHeight(), size.height() / 30 - 1) << size.height();
+  const std::pair<QSizeF, int> cases[] = {{{1024, 600}, 1},
+                                          {{1366, 768}, 1},
+                                          {{1920, 1080}, 1},
+                                          {{880, 768}, 2},  // with panes beside it
+                                          {{1230, 1080}, 2}};
+  for (const auto& [size, lines] : cases) {
+    TableScene scene;
+    scene.board = OrdinaryBoard();
+    scene.board.contract = "4S";
+    scene.board.declarer = Seat::West;
+    scene.presentation = true;
+    const TableLayout layout = LayOutScene(scene, size, 96);
+    EXPECT_EQ(layout.hands[Seat::East].lines, lines) << size.width();
+    const PerSeat<Caption> captions = SceneCaptions(scene, {});
+    const CaptionLayout pills = LayOutCaptions(layout, captions, scene.settings, 96);
+    EXPECT_GE(QFontMetricsF(pills.font).capHeight(), size.height() / 30) << size.width();
+    for (const Seat seat : kAllSeats) {
+      EXPECT_TRUE(layout.hands[seat].caption.contains(pills.pills[seat])) << size.width();
+      EXPECT_EQ(pills.texts[seat].simplified(), captions[seat].text) << "nothing is left out";
+    }
   }
 }
 
