@@ -106,6 +106,12 @@ QList<QWidget*> AuctionPane::TabOrder() const {
   return {Button(), flexBids};
 }
 
+/// The heads follow when the auction is shown, as they do when the column's font changes.
+void AuctionPane::SetFromAfar(bool afar) {
+  FoldingSection::SetFromAfar(afar);
+  afar_ = afar;
+}
+
 void AuctionPane::Show(const Session& session, const AuctionEntry* entry, const Board* recorded) {
   const Board& board = recorded != nullptr ? *recorded : session.board;
   SetTitle(recorded != nullptr ? tr("Recorded auction") : tr("Auction"));
@@ -122,8 +128,12 @@ void AuctionPane::ShowHeads(const Board& board, std::optional<Seat> toCall) {
     const QString name = ToQt(SeatName[seat]);
     const bool vulnerable = IsVulnerable(board.Vulnerability(), SideOf(seat));
     const bool calls = seat == toCall;
-    const QString text = vulnerable ? tr("%1 vul").arg(name) : name;
-    auto* head = new QTableWidgetItem(calls ? QStringLiteral("\u25B8 ") + text : text);
+    const auto text = [&](const QString& seatText) {
+      const QString marked = vulnerable ? tr("%1 vul").arg(seatText) : seatText;
+      return calls ? QStringLiteral("\u25B8 ") + marked : marked;
+    };
+    auto* head = new QTableWidgetItem(text(name));
+    head->setData(SeatHeader::kShortRole, text(name.left(1)));
     QString spoken =
         vulnerable ? tr("%1, vulnerable").arg(name) : tr("%1, not vulnerable").arg(name);
     if (calls) spoken += tr(", to call");
@@ -168,14 +178,15 @@ void AuctionPane::ShowCalls(const Session& session, const CallList& calls) {
 void AuctionPane::SetSizes() {
   QFont headFont = font();
   headFont.setBold(true);
-  headFont.setPointSizeF(headFont.pointSizeF() * kHeadFont);
+  headFont.setPointSizeF(headFont.pointSizeF() * (afar_ ? kAfar : kHeadFont));
   flexBids->horizontalHeader()->setFont(headFont);
   const int headHeight = QFontMetrics(headFont).height() + 8;
   flexBids->horizontalHeader()->setFixedHeight(headHeight);
 
   const int rows = flexBids->rowCount();
   const int comfortable = QFontMetrics(callFont_).height() + kRowPadding;
-  const int least = std::min(comfortable, fontMetrics().height() + kRowPadding);
+  const double readable = (afar_ ? kAfar : 1) * fontMetrics().height();
+  const int least = std::min(comfortable, static_cast<int>(readable) + kRowPadding);
   const int kept =
       comfortable * std::max(kLeastRows, window()->height() / kKeptPartOfWindow / comfortable);
   const int rowHeight = std::clamp(kept / rows, least, comfortable);

@@ -27,6 +27,8 @@ class AuctionPane : public FoldingSection {
   /// The controls in the order of the tab key.
   QList<QWidget*> TabOrder() const;
 
+  void SetFromAfar(bool afar) override;
+
  protected:
   void showEvent(QShowEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -40,6 +42,7 @@ class AuctionPane : public FoldingSection {
 
   QFont callFont_;  // of calls that have all the room that they want
   QTableWidget* flexBids;
+  bool afar_ = false;
 };
 
 }  // namespace tricklet::ui

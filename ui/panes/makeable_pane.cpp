@@ -11,6 +11,7 @@
 
 #include "analysis/makeable_view.h"
 #include "analysis/par.h"
+#include "ui/style/follow_font.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/symbols.h"
 #include "ui/style/theme.h"
@@ -40,6 +41,7 @@ MakeablePane::MakeablePane(QWidget* parent)
   lvwMake->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lvwMake->horizontalHeader()->setMinimumSectionSize(1);
   lvwMake->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+  lvwMake->horizontalHeader()->setSectionResizeMode(kSeatColumn, QHeaderView::ResizeToContents);
   lvwMake->horizontalHeader()->setSectionsClickable(false);
   StyleHeads();
   lvwMake->verticalHeader()->hide();
@@ -54,10 +56,28 @@ MakeablePane::MakeablePane(QWidget* parent)
     }
   }
   ContentLayout()->addWidget(lvwMake);
+  tableFont_ = new FollowFont(lvwMake, 1);
   lblPar->setObjectName(QStringLiteral("lblPar"));
   lblPar->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   MakeQuiet(lblPar);
   TitleRow()->insertWidget(1, lblPar);
+  parFont_ = new FollowFont(lblPar, 1);
+  SetSizes();
+}
+
+void MakeablePane::SetFromAfar(bool afar) {
+  FoldingSection::SetFromAfar(afar);
+  if (afar == afar_) return;
+  afar_ = afar;
+  tableFont_->SetFactor(afar ? kAfar : 1);
+  parFont_->SetFactor(afar ? kAfar : 1);
+  if (afar) {
+    Body()->insertWidget(1, lblPar);
+  } else {
+    TitleRow()->insertWidget(1, lblPar);
+  }
+  lblPar->setAlignment((afar ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+  StyleHeads();
   SetSizes();
 }
 
@@ -68,7 +88,7 @@ void MakeablePane::StyleHeads() {
       QStringLiteral(
           "QHeaderView, QHeaderView::section { border: none; background: %1; font-size: %2pt; }")
           .arg(QGuiApplication::palette().color(QPalette::Base).name())
-          .arg(QFontInfo(font()).pointSizeF());
+          .arg(QFontInfo(lvwMake->font()).pointSizeF());
   QHeaderView* heads = lvwMake->horizontalHeader();
   if (heads->styleSheet() != sheet) heads->setStyleSheet(sheet);
 }
@@ -83,7 +103,7 @@ void MakeablePane::changeEvent(QEvent* event) {
 }
 
 void MakeablePane::SetSizes() {
-  lvwMake->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowPadding);
+  lvwMake->verticalHeader()->setDefaultSectionSize(lvwMake->fontMetrics().height() + kRowPadding);
   lvwMake->setFixedHeight(lvwMake->horizontalHeader()->sizeHint().height() +
                           lvwMake->verticalHeader()->length() + 2 * lvwMake->frameWidth());
 }

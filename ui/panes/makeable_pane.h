@@ -8,7 +8,8 @@ class QTableWidget;
 
 namespace tricklet::ui {
 
-/// The tricks or contracts of all declarers in a table, and par beside the title.
+/// The tricks or contracts of all declarers in a table, and par beside the title; from afar below
+/// it.
 class MakeablePane : public FoldingSection {
   Q_OBJECT
 
@@ -22,6 +23,8 @@ class MakeablePane : public FoldingSection {
   /// The controls in the order of the tab key.
   QList<QWidget*> TabOrder() const;
 
+  void SetFromAfar(bool afar) override;
+
  protected:
   void changeEvent(QEvent* event) override;
 
@@ -33,6 +36,9 @@ class MakeablePane : public FoldingSection {
 
   QTableWidget* lvwMake;
   ElidedLabel* lblPar;
+  FollowFont* tableFont_;
+  FollowFont* parFont_;
+  bool afar_ = false;
 };
 
 }  // namespace tricklet::ui

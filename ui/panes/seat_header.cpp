@@ -20,7 +20,17 @@ void SeatHeader::paintSection(QPainter* painter, const QRect& rect, int section)
   if (section + 1 < count()) painter->drawLine(rect.topRight(), rect.bottomRight());
   painter->setFont(font());
   painter->setPen(brush(Qt::ForegroundRole, QPalette::ButtonText).color());
-  painter->drawText(rect, Qt::AlignCenter, model()->headerData(section, orientation()).toString());
+  QString text = model()->headerData(section, orientation()).toString();
+  if (fontMetrics().horizontalAdvance(text) > rect.width()) {
+    text = model()->headerData(section, orientation(), kShortRole).toString();
+  }
+  QFont fitting = font();
+  const int width = fontMetrics().horizontalAdvance(text);
+  if (width > rect.width()) {
+    fitting.setPointSizeF(fitting.pointSizeF() * rect.width() / width);
+    painter->setFont(fitting);
+  }
+  painter->drawText(rect, Qt::AlignCenter, text);
   painter->restore();
 }
 

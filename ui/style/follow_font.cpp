@@ -11,6 +11,12 @@ FollowFont::FollowFont(QWidget* widget, double factor, bool bold)
   Apply();
 }
 
+void FollowFont::SetFactor(double factor) {
+  if (factor == factor_) return;
+  factor_ = factor;
+  Apply();
+}
+
 void FollowFont::Apply() {
   QFont font = widget_->parentWidget()->font();
   if (font.pointSizeF() > 0) {

@@ -16,6 +16,8 @@ class FollowFont : public QObject {
   /// Belongs to `widget`, which must have a parent and keep it. `factor` is of the parent's size.
   FollowFont(QWidget* widget, double factor, bool bold = false);
 
+  void SetFactor(double factor);
+
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -5,6 +5,8 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "ui/style/follow_font.h"
+
 namespace tricklet::ui {
 
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
@@ -29,11 +31,9 @@ Section::Section(const QString& name, QWidget* parent)
     : QFrame(parent),
       body_(new QVBoxLayout(this)),
       titleRow_(new QHBoxLayout),
-      title_(new ElidedLabel(this)) {
+      title_(new ElidedLabel(this)),
+      titleFont_(new FollowFont(title_, 1, true)) {
   setObjectName(name);
-  QFont bold;  // all but its weight is the section's
-  bold.setBold(true);
-  title_->setFont(bold);
   titleRow_->addWidget(title_, 1);
   body_->setContentsMargins(0, 0, 0, 0);
   body_->setSpacing(6);
@@ -43,6 +43,10 @@ Section::Section(const QString& name, QWidget* parent)
 void Section::SetTitle(const QString& title) {
   title_->setText(title);
   setAccessibleName(title);
+}
+
+void Section::SetFromAfar(bool afar) {
+  titleFont_->SetFactor(afar ? kAfar : 1);
 }
 
 void MakeQuiet(QLabel* label) {

@@ -9,6 +9,8 @@ class QVBoxLayout;
 
 namespace tricklet::ui {
 
+class FollowFont;
+
 /// A line of plain text that can shrink: a text that does not fit ends in "...", and the tool tip
 /// then has the whole of it.
 class ElidedLabel : public QLabel {
@@ -36,10 +38,19 @@ class Section : public QFrame {
   QHBoxLayout* TitleRow() const { return titleRow_; }
   QVBoxLayout* Body() const { return body_; }
 
+  /// The title, and what else a section wants to be read from the back of a room, in letters of a
+  /// thirtieth of the screen's height, where the column's font is that of a column seen from afar.
+  virtual void SetFromAfar(bool afar);
+
+ protected:
+  /// Larger than the column's font by this.
+  static constexpr double kAfar = 1.45;
+
  private:
   QVBoxLayout* body_;
   QHBoxLayout* titleRow_;
   ElidedLabel* title_;
+  FollowFont* titleFont_;
 };
 
 /// A label in the quiet colour of secondary text.

@@ -58,6 +58,10 @@ QWidget* Panes::Lay(QWidget* window) {
 }
 
 void Panes::Show(const PanesShown& shown, const Settings& settings) {
+  for (Section* section : {static_cast<Section*>(auction), static_cast<Section*>(makeable),
+                           static_cast<Section*>(traveller)}) {
+    section->SetFromAfar(!shown.bars);
+  }
   area->ShowMargin(shown.bars);
   area->SetWidths(settings.leftWidth, settings.rightWidth);
   KeepRoom(left, shown.leftRoom);

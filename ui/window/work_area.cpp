@@ -24,12 +24,18 @@ constexpr double kRightWidthFromAfar = 17;
 constexpr double kMostRightWidth = 46;  // a traveller with its names
 /// Lines of text in the height of a work area whose columns have the window's font.
 constexpr double kLines = 56;
-/// Lines of text on a screen that is looked at from afar: the heads of the auction, which are
-/// smaller, are then a thirtieth of its height.
+/// Lines of text on a screen that is looked at from afar; what is to be read from the back row is
+/// larger (`Section::SetFromAfar`).
 constexpr double kLinesFromAfar = 26;
 /// So that a window that is dragged larger does not lay out its texts anew for every pixel.
 constexpr double kFactorStep = 0.05;
 constexpr int kTenths = 10;
+
+/// A column that is hidden may keep its room.
+int WidthTaken(const SideColumn* column) {
+  const bool takesRoom = !column->isHidden() || column->sizePolicy().retainSizeWhenHidden();
+  return takesRoom ? column->width() : 0;
+}
 
 }  // namespace
 
@@ -119,13 +125,13 @@ int WorkArea::WidthOf(bool right) const {
   if (chosen > 0) {
     const SideColumn* other = right ? left_ : right_;
     const int most =
-        room.width() - other->width() - table_->minimumSizeHint().width() - 2 * kMargin;
+        room.width() - WidthTaken(other) - table_->minimumSizeHint().width() - 2 * kMargin;
     const int wanted = chosen * fontMetrics().height() / kTenths;
     const int least = std::max(column->LeastWidth(), column->WidthFor(kLeastChosenWidth));
     return std::max(least, std::min(wanted, most));
   }
   if (!right) return std::max(column->LeastWidth(), column->WidthFor(kLeftWidth));
-  const int others = left_->width() + 2 * kMargin;
+  const int others = WidthTaken(left_) + 2 * kMargin;
   const int rest = room.width() - others - static_cast<int>(WidthOfTable(room.height()));
   // A small window takes from what is comfortable before it is scrolled.
   const int most = room.width() - others - table_->minimumSizeHint().width();
@@ -138,9 +144,7 @@ int WorkArea::WidthOf(bool right) const {
 /// A right column that nobody has given a width gives way down to what it needs.
 QSize WorkArea::minimumSizeHint() const {
   QSize size = QWidget::minimumSizeHint();
-  const bool takesRoom = !right_->isHidden() || right_->sizePolicy().retainSizeWhenHidden();
-  if (rightWidth_ == 0 && takesRoom)
-    size.rwidth() -= std::max(0, right_->width() - right_->LeastWidth());
+  if (rightWidth_ == 0) size.rwidth() -= std::max(0, WidthTaken(right_) - right_->LeastWidth());
   return size;
 }
 
@@ -174,6 +178,7 @@ bool WorkArea::eventFilter(QObject* watched, QEvent* event) {
     ColumnHandle* handle = watched == left_ ? leftHandle_ : rightHandle_;
     KeepRoom(handle, column->sizePolicy().retainSizeWhenHidden());
     handle->setVisible(!column->isHidden());
+    Arrange();
   }
   return QWidget::eventFilter(watched, event);
 }

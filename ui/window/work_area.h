@@ -64,7 +64,7 @@ class WorkArea : public QWidget {
 
 /// How much larger than the window's font the font of the side columns is in a work area of
 /// `height` pixels, where the window's font is `fontHeight` pixels high: 1 to `kMostGrowth`, in
-/// steps. `fromAfar`: at least a thirtieth of the height, as for the back row of a class.
+/// steps. `fromAfar`: at least a 26th of the height, as for a class.
 double ColumnFontFactor(int height, int fontHeight, bool fromAfar);
 inline constexpr double kMostGrowth = 1.75;
 

@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QScrollArea>
+#include <QTableWidget>
 #include <QTreeView>
 
 #include "tests/ui/window_fixture.h"
@@ -98,6 +99,26 @@ TEST_F(ColumnsTest, GiveWayBeforeTheWindowScrolls) {
   const auto* scroll = Find<QScrollArea>("scrWorkArea");
   EXPECT_EQ(scroll->widget()->width(), scroll->viewport()->width());
   EXPECT_GE(right->width(), right->LeastWidth());
+}
+
+TEST_F(ColumnsTest, CanBeReadFromTheBackRow) {
+  Open();
+  session.board.makeableValid = true;
+  window->resize(1366, 768);
+  Find<QAction>("mnuPresentationPanes")->trigger();
+  const auto capitals = [&](const char* name) {
+    return Find<QWidget>(name)->fontMetrics().capHeight();
+  };
+  const int before = capitals("lvwMake");
+  Find<QAction>("mnuPresentation")->trigger();
+  QCoreApplication::processEvents();
+  const int least = window->height() / 30 - 1;
+  EXPECT_GE(capitals("lvwMake"), least);
+  EXPECT_GE(capitals("lblPar"), least);
+  EXPECT_GE(Find<QTableWidget>("flexBids")->horizontalHeader()->fontMetrics().capHeight(), least);
+  Find<QAction>("mnuPresentation")->trigger();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(capitals("lvwMake"), before);
 }
 
 TEST_F(ColumnsTest, AListShowsThatKeysGoToIt) {
