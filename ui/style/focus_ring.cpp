@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QFocusEvent>
+#include <QGuiApplication>
 #include <QPainter>
 
 namespace tricklet::ui {
@@ -17,7 +18,8 @@ FocusRing::FocusRing(QAbstractItemView* list) : QWidget(list) {
 void FocusRing::paintEvent(QPaintEvent* /*event*/) {
   constexpr int kWeight = 2;
   QPainter painter(this);
-  QPen pen(palette().color(QPalette::Highlight), kWeight);
+  // The program's colour: a list may mark its rows in a paler one.
+  QPen pen(QGuiApplication::palette().color(QPalette::Highlight), kWeight);
   pen.setJoinStyle(Qt::MiterJoin);
   painter.setPen(pen);
   painter.drawRect(rect().adjusted(kWeight / 2, kWeight / 2, -kWeight / 2, -kWeight / 2));

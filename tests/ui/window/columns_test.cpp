@@ -9,6 +9,7 @@
 #include "tests/ui/window_fixture.h"
 #include "ui/panes/board_list_model.h"
 #include "ui/style/side_column.h"
+#include "ui/style/theme.h"
 #include "ui/window/work_area.h"
 
 namespace tricklet::ui {
@@ -132,6 +133,16 @@ TEST_F(ColumnsTest, AListShowsThatKeysGoToIt) {
     EXPECT_FALSE(ring->isVisible());
     list->setFocus(reason);
     EXPECT_EQ(ring->isVisible(), shown) << reason;
+  }
+}
+
+TEST_F(ColumnsTest, TheFocusOfAListStandsOut) {
+  Open();
+  for (const char* name : {"lstBoards", "flexTricks", "flexTraveller"}) {
+    auto* ring = Find<QWidget>(name)->findChild<QWidget*>(QStringLiteral("focusRing"));
+    constexpr double kLeast = 3;  // WCAG 2.1, success criterion 1.4.11
+    const QColor line = ring->grab().toImage().pixelColor(0, 0);
+    EXPECT_GE(Contrast(line, window->palette().color(QPalette::Base)), kLeast) << name;
   }
 }
 
