@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
-#include <QStatusBar>
 
 #include "library/recent_files.h"
 #include "library/unsaved_changes.h"
@@ -68,7 +67,8 @@ MainWindow::MainWindow(Session& session, Updates& updates)
       actions_(new Actions(*this, *commands_, *results_)),
       menu_(new MainMenu(*this, *actions_)),
       panes_(session, *commands_, *actions_, *results_, *summaries_),
-      status_(new StatusLine(statusBar())) {
+      status_(new StatusLine(this)) {
+  setStatusBar(status_);
   setObjectName(QStringLiteral("frmMain"));
   setAcceptDrops(true);
   setCentralWidget(panes_.Lay(this));
@@ -186,7 +186,7 @@ void MainWindow::ShowState() {
   const PanesShown shown = ShownIn(state_);
   menu_->Show(state_, shown.bars);
   menu_->ShowRecent(RecentFiles(session_.settings.recentFiles));
-  status_->SetVisible(shown.bars);
+  status_->setVisible(shown.bars);
   status_->ShowNewVersion(ToQt(state_.newerVersion));
   panes_.Show(shown, session_.settings);
 }

@@ -146,6 +146,11 @@ TEST_F(MainWindowTest, TablesFollowTheColours) {
     const auto* table = Find<QTableWidget>("lvwMake");
     const QImage head = table->horizontalHeader()->grab().toImage();
     EXPECT_EQ(head.pixelColor(2, 2), table->palette().color(QPalette::Base)) << key;
+    for (const char* name : {"lblStatus", "lblKeys"}) {
+      EXPECT_EQ(Find<QWidget>(name)->palette().color(QPalette::PlaceholderText),
+                window->palette().color(QPalette::PlaceholderText))
+          << name << key;
+    }
     const auto* grid = Find<QTableWidget>("flexBids");
     const QTableWidgetItem* pass = grid->item(1, 0);
     ASSERT_NE(pass, nullptr);
