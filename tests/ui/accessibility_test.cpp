@@ -1,6 +1,8 @@
 // Every window and dialog, as a screen reader and the keyboard find it.
 #include "tests/ui/accessibility.h"
 
+#include <cstring>
+
 #include <QTabWidget>
 
 #include "tests/ui/window_fixture.h"
@@ -61,6 +63,27 @@ TEST_F(AccessibilityTest, EveryControlOfTheWindowHasANameInEveryMode) {
   ExpectNames("presenting");
   Key("Shift+F11");
   ExpectNames("presenting with the panes");
+}
+
+TEST_F(AccessibilityTest, TheTableIsDescribedByWhatHasJustHappenedFirst) {
+  Open();
+  Bid("1S P P P");
+  const std::pair<const char*, const char*> steps[] = {
+      {"Ctrl+P", "1S by North. East to play. Board 1."},
+      {"H", "1S by North. East to play. Board 1."},
+      {"A", "East plays the ace of hearts. South to play. Board 1."},
+      {"Ctrl+Z", "East takes back the ace of hearts. East to play. Board 1."},
+      {"Ctrl+L", "NS: 0. EW: 13. 1S-7 by North : EW +350. Board 1."},
+      {"Ctrl+Z", "NS: 0. EW: 0. East to play. Board 1."},
+      {"Ctrl+P", "The play has ended. Board 1."},
+      {"1", "North is hidden. Board 1."},
+      {"PgDown", "Board 2. Dealer East."},
+  };
+  for (const auto& [key, told] : steps) {
+    FocusKey(key);
+    const std::string description = FromQt(Table()->accessibleDescription());
+    EXPECT_EQ(description.substr(0, std::strlen(told)), told) << key;
+  }
 }
 
 TEST_F(AccessibilityTest, DialogsAreCompleteByKeyboard) {

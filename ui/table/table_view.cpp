@@ -101,11 +101,16 @@ void TableView::SetPresentation(bool on) {
 }
 
 /// Brings what hangs on the state up to date, and tells a screen reader what is new.
+/// The news goes before the description until that becomes another one: a screen reader may fetch
+/// it only after the table has been shown once more.
 void TableView::Describe(const QString& news) {
   const QString words = isEmpty_ ? tr("The library is empty.")
                         : edit_  ? DescribeEdit(scene_.board, *edit_)
                                  : DescribeScene(scene_);
-  setAccessibleDescription(words.startsWith(news) ? words : news + u' ' + words);
+  if (!news.isEmpty() || words != described_) {
+    setAccessibleDescription(words.startsWith(news) ? words : news + u' ' + words);
+  }
+  described_ = words;
   if (!news.isEmpty() && isVisible()) ReadAloud(this, news);
   PlaceChildren();
   ShowCursor(mapFromGlobal(QCursor::pos()));

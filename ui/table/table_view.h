@@ -106,6 +106,7 @@ class TableView : public QWidget {
 
   TableScene scene_;
   std::optional<TableEdit> edit_;
+  QString described_;  // what is on the table, in words
   bool isEmpty_ = false;
   bool ring_ = false;  // the focus has come by the keyboard
   std::vector<CardScore> best_;
