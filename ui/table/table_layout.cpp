@@ -27,6 +27,8 @@ constexpr double kMostRowStep = 0.62;
 constexpr double kCentreHeight = 2.2;
 constexpr double kCentreShare = 0.7;  // of the height of West's and East's areas
 constexpr int kBacksInRow = 4;        // West and East face down
+/// Contract and tricks would be too small to be read in a single line of less, in pixels.
+constexpr double kLeastLine = 160;
 /// North and South draw the sides towards the middle on a table that is wider than this.
 constexpr double kMostAspect = 1.7;
 
@@ -106,8 +108,9 @@ void PlaceCentre(TableLayout& layout, const Measures& m, const TableNeeds& needs
   const double left = west.right() + m.gap;
   const double width = layout.hands[Seat::East].area.left() - m.gap - left;
   if (needs.play) {
-    layout.line = QRectF(left, west.bottom() - m.lineHeight, width, m.lineHeight);
-    layout.linesInLine = needs.presentation ? 2 : 1;
+    layout.linesInLine = needs.presentation || width < kLeastLine ? 2 : 1;
+    const double height = needs.presentation ? m.lineHeight : layout.linesInLine * m.captionHeight;
+    layout.line = QRectF(left, west.bottom() - height, width, height);
     layout.centre = QRectF(left, west.top(), width, layout.line.top() - m.gap / 2 - west.top());
     return;
   }
