@@ -27,7 +27,8 @@ constexpr int kKeptPartOfWindow = 6;
 constexpr int kMostRows = 8;
 constexpr int kPartOfWindow = 3;
 constexpr int kRowPadding = 4;
-constexpr double kHeadFont = 0.88;  // of the pane's, so that "North vul" fits
+constexpr int kLeastRowPadding = 2;  // of calls as small as the heads
+constexpr double kHeadFont = 0.88;   // of the pane's, so that "North vul" fits
 
 /// Columns run West, North, East, South.
 constexpr int ColumnOf(Seat seat) {
@@ -185,17 +186,15 @@ void AuctionPane::SetSizes() {
 
   const int rows = flexBids->rowCount();
   const int comfortable = QFontMetrics(callFont_).height() + kRowPadding;
-  const double readable = (afar_ ? kAfar : 1) * fontMetrics().height();
-  const int least = std::min(comfortable, static_cast<int>(readable) + kRowPadding);
+  QFont fitting = callFont_;
+  fitting.setPointSizeF(std::min(callFont_.pointSizeF(), headFont.pointSizeF()));
+  const int least = std::min(comfortable, QFontMetrics(fitting).height() + kLeastRowPadding);
   const int kept =
       comfortable * std::max(kLeastRows, window()->height() / kKeptPartOfWindow / comfortable);
   const int rowHeight = std::clamp(kept / rows, least, comfortable);
-  QFont fitting = callFont_;
-  if (rowHeight < comfortable) {
-    const double factor =
-        static_cast<double>(rowHeight - kRowPadding) / (comfortable - kRowPadding);
-    fitting.setPointSizeF(fitting.pointSizeF() * factor);
-  }
+  const double size =
+      callFont_.pointSizeF() * (rowHeight - kRowPadding) / (comfortable - kRowPadding);
+  fitting.setPointSizeF(std::max(size, fitting.pointSizeF()));
   flexBids->setFont(fitting);
   flexBids->verticalHeader()->setDefaultSectionSize(rowHeight);
   const int most = std::max(kMostRows, window()->height() / kPartOfWindow / rowHeight);
