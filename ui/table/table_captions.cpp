@@ -62,7 +62,7 @@ double LineHeight(double pixels, const QRectF& room) {
   return std::min(room.height(), pixels / kCaptionText);
 }
 
-/// The text, broken between two words into lines as equally long as can be, but not after a colon.
+/// The text, broken between two words into lines as equally long as can be, but not at a colon.
 /// Of a dot between two parts nothing is left where the line is broken.
 QString InTwoLines(const QString& text, const QFontMetricsF& metrics) {
   QString best = text;
@@ -70,7 +70,7 @@ QString InTwoLines(const QString& text, const QFontMetricsF& metrics) {
   for (qsizetype at = text.indexOf(u' '); at >= 0; at = text.indexOf(u' ', at + 1)) {
     QString first = text.left(at);
     QString second = text.mid(at + 1);
-    if (first.endsWith(u':')) continue;
+    if (first.endsWith(u':') || second.startsWith(u':')) continue;
     if (first.endsWith(kDot)) first.chop(2);
     if (second.startsWith(kDot)) second.remove(0, 2);
     const double width =
