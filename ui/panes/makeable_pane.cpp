@@ -71,14 +71,48 @@ void MakeablePane::SetFromAfar(bool afar) {
   afar_ = afar;
   tableFont_->SetFactor(afar ? kAfar : 1);
   parFont_->SetFactor(afar ? kAfar : 1);
-  if (afar) {
+  PlacePar();
+  StyleHeads();
+  SetSizes();
+}
+
+/// Beside the title, or below it where one of the two would be cut. That depends on the widths of
+/// the column and of the longest usual text, so that nothing moves from board to board.
+void MakeablePane::PlacePar() {
+  const QFontMetrics metrics = fontMetrics();
+  QFont bold = font();
+  bold.setBold(true);
+  const int needed = QFontMetrics(bold).horizontalAdvance(tr("Makeable contracts")) +
+                     metrics.horizontalAdvance(WithSymbols(tr("Par 4H=, 4S= EW +1430"))) +
+                     Button()->sizeHint().width() + 3 * TitleRow()->spacing();
+  const bool below = afar_ || WidthInColumn() < needed;
+  if (below == parBelow_) return;
+  parBelow_ = below;
+  if (below) {
     Body()->insertWidget(1, lblPar);
   } else {
     TitleRow()->insertWidget(1, lblPar);
   }
-  lblPar->setAlignment((afar ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
-  StyleHeads();
-  SetSizes();
+  lblPar->setAlignment((below ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+}
+
+/// A hidden pane keeps its room but is not resized until it is shown.
+int MakeablePane::WidthInColumn() const {
+  const QWidget* column = parentWidget();
+  if (column == nullptr || column->layout() == nullptr) return width();
+  return column->rect().marginsRemoved(column->layout()->contentsMargins()).width();
+}
+
+bool MakeablePane::event(QEvent* event) {
+  if (event->type() == QEvent::ParentChange && parentWidget() != nullptr) {
+    parentWidget()->installEventFilter(this);
+  }
+  return FoldingSection::event(event);
+}
+
+bool MakeablePane::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == parentWidget() && event->type() == QEvent::Resize) PlacePar();
+  return FoldingSection::eventFilter(watched, event);
 }
 
 /// A style sheet keeps the colours and the font that it was set with, so it is set again when they
@@ -99,6 +133,7 @@ void MakeablePane::changeEvent(QEvent* event) {
   if (event->type() == QEvent::FontChange) {
     StyleHeads();
     SetSizes();
+    PlacePar();
   }
 }
 

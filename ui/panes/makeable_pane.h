@@ -8,8 +8,7 @@ class QTableWidget;
 
 namespace tricklet::ui {
 
-/// The tricks or contracts of all declarers in a table, and par beside the title; from afar below
-/// it.
+/// The tricks or contracts of all declarers in a table, and par beside the title or below it.
 class MakeablePane : public FoldingSection {
   Q_OBJECT
 
@@ -27,18 +26,23 @@ class MakeablePane : public FoldingSection {
 
  protected:
   void changeEvent(QEvent* event) override;
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void StyleHeads();
   void ShowHeads(const Settings& settings);
   void ShowTable(const Session& session);
   void SetSizes();
+  void PlacePar();
+  int WidthInColumn() const;
 
   QTableWidget* lvwMake;
   ElidedLabel* lblPar;
   FollowFont* tableFont_;
   FollowFont* parFont_;
   bool afar_ = false;
+  bool parBelow_ = false;
 };
 
 }  // namespace tricklet::ui
