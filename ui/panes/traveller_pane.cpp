@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QStyle>
@@ -75,6 +76,7 @@ void TravellerPane::BuildGrid() {
   new FocusRing(flexTraveller);
   flexTraveller->setModel(order_);
   flexTraveller->setItemDelegate(new TravellerDelegate(flexTraveller));
+  flexTraveller->installEventFilter(this);
   flexTraveller->viewport()->installEventFilter(this);
   flexTraveller->setSelectionBehavior(QAbstractItemView::SelectRows);
   flexTraveller->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -196,6 +198,22 @@ void TravellerPane::FillNames() {
   cmbLinNames->setCurrentIndex(-1);
 }
 
+/// From column to column without choosing the row: nobody who sorts wants its record.
+bool TravellerPane::MoveAcross(int key) {
+  const int step = key == Qt::Key_Right ? 1 : key == Qt::Key_Left ? -1 : 0;
+  if (step == 0 || results_.Record() != nullptr || rows_->rowCount() == 0) return false;
+  const QModelIndex now = flexTraveller->currentIndex();
+  int column = now.isValid() ? now.column() + step : 0;
+  const int lead = static_cast<int>(TravellerColumn::Lead);
+  if (column == lead && flexTraveller->isColumnHidden(lead)) column += step;
+  const QModelIndex next = order_->index(now.isValid() ? now.row() : 0, column);
+  if (next.isValid()) {
+    flexTraveller->selectionModel()->setCurrentIndex(next, QItemSelectionModel::NoUpdate);
+    flexTraveller->scrollTo(next);
+  }
+  return true;
+}
+
 /// Does what a click on the heading of the current cell's column does: sorts upwards, then
 /// downwards, then restores the traveller's order.
 void TravellerPane::SortByCurrentColumn() {
@@ -228,8 +246,8 @@ void TravellerPane::MarkRecord() {
   marking_ = true;
   const QModelIndex place = order_->mapFromSource(rows_->PlaceOf(row));
   if (!place.isValid()) {
+    if (flexTraveller->selectionModel()->hasSelection()) flexTraveller->setCurrentIndex({});
     flexTraveller->clearSelection();
-    flexTraveller->setCurrentIndex({});
   } else if (flexTraveller->currentIndex().row() != place.row()) {
     flexTraveller->selectRow(place.row());
   }
@@ -302,6 +320,10 @@ void TravellerPane::ShareNames(int width) {
 
 bool TravellerPane::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Resize && shownEdition_ > 0) TravellerResize();
+  if (watched == flexTraveller && event->type() == QEvent::KeyPress) {
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (key->modifiers() == Qt::NoModifier && MoveAcross(key->key())) return true;
+  }
   return FoldingSection::eventFilter(watched, event);
 }
 

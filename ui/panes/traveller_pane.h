@@ -54,6 +54,7 @@ class TravellerPane : public FoldingSection {
   int WidthOfColumn(TravellerColumn column) const;
   void ShareNames(int width);
   void TravellerResize();
+  bool MoveAcross(int key);
   void SortByCurrentColumn();
   void ChooseRow(int row);
 

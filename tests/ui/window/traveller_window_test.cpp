@@ -127,6 +127,12 @@ TEST_F(TravellerWindowTest, IsSortedByEveryColumn) {
     ClickHead(column);
     EXPECT_EQ(Pairs(), "1357") << "as it was";
   }
+  Grid()->setFocus();
+  for (const char* key : {"Right", "Right", "Space"}) FocusKey(key);
+  EXPECT_EQ(Pairs(), "3571");
+  EXPECT_EQ(Record(), nullptr) << "to sort is not to choose";
+  ClickHead(1);
+  ClickHead(1);
   ClickRow(0);  // that of pair 1, the best score
   EXPECT_EQ(Grid()->currentIndex().column(), 0);
   Grid()->setFocus();
