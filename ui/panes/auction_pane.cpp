@@ -22,8 +22,8 @@ namespace {
 // auction has its rows closer together. There are more of them in a higher window.
 constexpr int kLeastRows = 3;
 constexpr int kKeptPartOfWindow = 6;
-// An auction that is longer still pushes the pane below down. It scrolls when it takes more than a
-// third of the window's height and has more rows than these.
+// An auction that is longer still scrolls; in a presentation only one that takes more than a third
+// of the window's height and has more rows than these, for there a class is to see it whole.
 constexpr int kMostRows = 8;
 constexpr int kPartOfWindow = 3;
 constexpr int kRowPadding = 4;
@@ -198,7 +198,8 @@ void AuctionPane::SetSizes() {
   flexBids->setFont(fitting);
   flexBids->verticalHeader()->setDefaultSectionSize(rowHeight);
   const int most = std::max(kMostRows, window()->height() / kPartOfWindow / rowHeight);
-  flexBids->setFixedHeight(headHeight + std::max(kept, rowHeight * std::min(rows, most)));
+  const int wanted = afar_ ? rowHeight * std::min(rows, most) : 0;
+  flexBids->setFixedHeight(headHeight + std::max(kept, wanted));
   flexBids->scrollToBottom();
 }
 

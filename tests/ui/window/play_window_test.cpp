@@ -231,7 +231,7 @@ TEST_F(PlayWindowTest, TheMakeableTableStaysInPlace) {
     return QRect(table->mapTo(window.get(), QPoint()), table->size());
   };
   const QRect before = place();
-  Bid("1C 1D 1H 1S 1NT 2C 2D 2H 2S 2NT 3C 3D P P P");
+  Bid("1C P P 1D P P 1H P P 1S P P 1NT P P 2C P P 2D P P 2H P P 2S P P 2NT P P 3C P P P");
   EXPECT_EQ(place(), before) << "beside more rows of calls";
   StartPlay();
   EXPECT_EQ(place(), before) << "in play";
