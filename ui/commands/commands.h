@@ -176,7 +176,7 @@ class Commands : public QObject {
   void LeaveUnsaved(const std::function<void()>& procedure);
   void Copy(Runner run, const std::function<QString()>& copy);
   void Copy(Runner run, bool (*copy)(Session&), const QString& said);
-  bool RunGenerator();
+  bool RunGenerator(QString& said);
   void EnterAuction();
   void Remember(const ImportOutcome& outcome);
   void OpenNewVersion();

@@ -46,10 +46,15 @@ void Commands::CopyLibrary() {
 }
 
 void Commands::DeleteLibrary() {
-  Run([this] {
+  QString said;
+  Run([&] {
     const std::vector<std::string> names = RequireLibraries(session_);
-    if (!names.empty()) frmDeleteLib(session_, names, window_).exec();
+    if (names.empty()) return;
+    frmDeleteLib dialog(session_, names, window_);
+    if (dialog.exec() != QDialog::Accepted) return;
+    said = tr("The library %1 is in the recycle bin").arg(dialog.Chosen());
   });
+  if (!said.isEmpty()) emit Said(said);
 }
 
 }  // namespace tricklet::ui

@@ -53,6 +53,10 @@ void frmDeleteLib::ShowChoice() {
   cmdOK->setDefault(chosen);
 }
 
+QString frmDeleteLib::Chosen() const {
+  return cmbLibs->currentText();
+}
+
 void frmDeleteLib::Delete() {
   if (DeleteLibrary(session_, FromQt(cmbLibs->currentData().toString()))) accept();
 }

@@ -22,6 +22,9 @@ class frmDeleteLib : public QDialog {
  public:
   frmDeleteLib(Session& session, const std::vector<std::string>& names, QWidget* parent);
 
+  /// The name of the library that is chosen, as it is shown; empty while none is.
+  QString Chosen() const;
+
  private:
   void ShowChoice();
   void Delete();

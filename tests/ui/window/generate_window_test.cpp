@@ -70,6 +70,7 @@ TEST_F(GenerateWindowTest, TheBoardsAreStoredAsChosen) {
     EXPECT_GE(statistics.suitLength[board.Dealer()][Suit::Spades], 5) << number;
     EXPECT_LE(statistics.suitLength[board.Dealer()][Suit::Clubs], 3) << number;
   }
+  EXPECT_EQ(Text("lblStatus"), "Boards 30 to 37 have been dealt");
   EXPECT_EQ(session.library.boardCount, 12);
   EXPECT_EQ(Text("cmbBoard"), "Board 30");
 }
