@@ -98,6 +98,14 @@ void MainWindow::Display() {
   status_->Say(StatusText());
 }
 
+/// For what no command has done: what the last one has said stays, unless there is something to
+/// save now.
+void MainWindow::DisplayAgain() {
+  const QString said = status_->Said();
+  Display();
+  if (!session_.board.handChanged) status_->Say(said);
+}
+
 void MainWindow::ShowTitle() {
   const Board& board = session_.board;
   setWindowTitle(tr("%1 - Board %2[*] - Tricklet")
@@ -382,7 +390,7 @@ void MainWindow::changeEvent(QEvent* event) {
     Later(this, [this] { LookAtDisk(); });
   }
   if (event->type() != QEvent::PaletteChange || centralWidget() == nullptr) return;
-  Later(this, [this] { Display(); });
+  Later(this, [this] { DisplayAgain(); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

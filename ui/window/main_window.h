@@ -80,6 +80,7 @@ class MainWindow : public QMainWindow {
   void ConnectColumns();
   QString StatusText() const;
   DiskWatch::Leave LeaveToWatch() const;
+  void DisplayAgain();
   void ShowTitle();
   void DisplayDeal();
   void DisplayAuction();

@@ -28,6 +28,10 @@ void StatusLine::Say(const QString& text) {
   status_->setText(text);
 }
 
+QString StatusLine::Said() const {
+  return status_->text();
+}
+
 void StatusLine::ShowNewVersion(const QString& version) {
   newVersion_->setVisible(!version.isEmpty());
   newVersion_->setText(tr("Version %1 is there: see the Help menu").arg(version));

@@ -18,6 +18,7 @@ class StatusLine : public QStatusBar {
   explicit StatusLine(QWidget* parent = nullptr);
 
   void Say(const QString& text);
+  QString Said() const;
   /// The number of a newer version; empty when none is known.
   void ShowNewVersion(const QString& version);
 

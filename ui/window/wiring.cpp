@@ -53,7 +53,7 @@ void MainWindow::Connect() {
   connect(menu_, &MainMenu::RecentAsked, this,
           [this](const std::filesystem::path& file) { ImportFiles({file}); });
   connect(commands_, &Commands::TableAsked, tables_, &BackgroundTables::ComputeAsked);
-  connect(tables_, &BackgroundTables::Changed, this, &MainWindow::Display);
+  connect(tables_, &BackgroundTables::Changed, this, &MainWindow::DisplayAgain);
   connect(tables_, &BackgroundTables::Said, status_, &StatusLine::Say);
   connect(watch_, &DiskWatch::FolderChanged, this, &MainWindow::ShowFolder);
   connect(watch_, &DiskWatch::Looked, summaries_, &BoardSummaries::LookAtSeen);
@@ -118,7 +118,7 @@ void MainWindow::ConnectColumns() {
     Display();
   });
   connect(panes_.area, &WorkArea::FontChanged, this,
-          [this] { Later(this, [this] { Display(); }); });
+          [this] { Later(this, [this] { DisplayAgain(); }); });
 }
 
 /// While a play record is looked at, cards that are clicked or typed are meant for it.

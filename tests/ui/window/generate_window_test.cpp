@@ -193,6 +193,9 @@ TEST_F(GenerateWindowTest, AContradictionIsToldAndLeadsToWhereItIs) {
 }
 
 TEST_F(GenerateWindowTest, ThePreviewTakesADealDealsAgainOrEnds) {
+  test::FakeSolver solver;
+  session.getSolver = [&solver]() -> Solver& { return solver; };
+  session.tablesInBackground = true;
   Open();
   const std::pair<const char*, std::string> answers[] = {
       {"N", "31"}, {"N", "31"}, {"Return", "31"}, {"Y", "32"}, {"Esc", "33"}};
@@ -218,6 +221,8 @@ TEST_F(GenerateWindowTest, ThePreviewTakesADealDealsAgainOrEnds) {
   EXPECT_EQ(Stored(31).hands, shown[2]);
   EXPECT_EQ(Stored(32).hands, shown[3]);
   EXPECT_EQ(session.library.lastBoard, 32);
+  QTRY_VERIFY(session.board.makeableValid);
+  EXPECT_EQ(Text("lblStatus"), "Boards 31 to 32 have been dealt") << "the table says nothing new";
   EXPECT_EQ(Text("cmbBoard"), "Board 31");
 }
 
