@@ -17,6 +17,8 @@ class SideColumn : public QScrollArea {
   /// The width in pixels at which no pane is cut, even beside the scroll bar. It only grows while
   /// the font stays, so that the column does not move to and fro as panes come and go.
   int LeastWidth();
+  /// Lets `LeastWidth` begin anew, as the panes have been shown in another font.
+  void ForgetWidth() { widest_ = 0; }
   /// Makes the panes' font larger than the column's own; false when it was so already.
   bool SetFontFactor(double factor);
 

@@ -117,8 +117,12 @@ void MainWindow::ConnectColumns() {
     SaveSetting(session_, setting);
     Display();
   });
-  connect(panes_.area, &WorkArea::FontChanged, this,
-          [this] { Later(this, [this] { DisplayAgain(); }); });
+  connect(panes_.area, &WorkArea::FontChanged, this, [this] {
+    Later(this, [this] {
+      DisplayAgain();
+      panes_.area->Remeasure();
+    });
+  });
 }
 
 /// While a play record is looked at, cards that are clicked or typed are meant for it.

@@ -163,6 +163,12 @@ void WorkArea::Arrange() {
   right_->setFixedWidth(WidthOf(true));
 }
 
+void WorkArea::Remeasure() {
+  left_->ForgetWidth();
+  right_->ForgetWidth();
+  Arrange();
+}
+
 void WorkArea::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   Arrange();

@@ -31,6 +31,9 @@ class WorkArea : public QWidget {
   /// gives.
   void SetWidths(int left, int right);
   QSize minimumSizeHint() const override;
+  /// Gives the columns the widths that their panes need in a font in which they have been shown
+  /// afresh.
+  void Remeasure();
   /// Asks, by `WidthChosen`, for a column a little wider or narrower.
   void Widen(bool right, bool wider);
 

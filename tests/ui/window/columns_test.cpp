@@ -111,7 +111,9 @@ TEST_F(ColumnsTest, CanBeReadFromTheBackRow) {
   const auto capitals = [&](const char* name) {
     return Find<QWidget>(name)->fontMetrics().capHeight();
   };
+  QCoreApplication::processEvents();
   const int before = capitals("lvwMake");
+  const std::pair widths(Width("colLeft"), Width("colRight"));
   Find<QAction>("mnuPresentation")->trigger();
   QCoreApplication::processEvents();
   const int least = window->height() / 30 - 1;
@@ -122,6 +124,7 @@ TEST_F(ColumnsTest, CanBeReadFromTheBackRow) {
   Find<QAction>("mnuPresentation")->trigger();
   QCoreApplication::processEvents();
   EXPECT_EQ(capitals("lvwMake"), before);
+  EXPECT_EQ(std::pair(Width("colLeft"), Width("colRight")), widths);
 }
 
 TEST_F(ColumnsTest, AListShowsThatKeysGoToIt) {
