@@ -13,12 +13,13 @@ namespace tricklet {
 
 /// What is wrong with a deal by itself, whatever the library. Bits of `FoundGame::troubles`.
 enum class DealTrouble : std::uint8_t {
-  NoCards = 1,          ///< the file gives no card of it
-  Incomplete = 2,       ///< some hand has fewer than 13 cards; never set with `Impossible`
-  Impossible = 4,       ///< a card occurs twice, or a hand has more than 13
-  OddTable = 8,         ///< its double-dummy table has another number of rows than 20
-  WrongCheck = 16,      ///< its check value is another than that of its letters
-  OverlongAuction = 32  ///< more than 100 calls, which no board holds: the board has none
+  NoCards = 1,           ///< the file gives no card of it
+  Incomplete = 2,        ///< some hand has fewer than 13 cards, and none too many
+  Impossible = 4,        ///< a card occurs twice, or a hand has more than 13
+  OddTable = 8,          ///< its double-dummy table has another number of rows than 20
+  WrongCheck = 16,       ///< its check value is another than that of its letters
+  OverlongAuction = 32,  ///< more than 100 calls, which no board holds: the board has none
+  OutsideRange = 64      ///< its number is outside the range of boards that the file says it has
 };
 
 class DealTroubles {

@@ -12,11 +12,7 @@ namespace tricklet {
 /// The text holds a LIN deal, as it stands or percent-encoded in an address.
 bool LooksLikeLin(std::string_view text);
 
-/// Reads all records of `text`, however they are broken into lines; a text that is not UTF-8 is
-/// taken as Latin-1. Records may be percent-encoded, with or without their bars, after "lin=" in an
-/// address or on their own. A record ends where the next one's board or deal begins; after a page
-/// mark, any field that may stand before a deal begins the next one. Names hold until others are
-/// given. A record without a number takes the next one that its dealer deals.
+/// Reads all records of `text`, as `LinRecords` finds them.
 ///
 /// The first record of a board gives its deal and auction; a further one of the same deal (the
 /// closed room, another table) adds no board. The result lists what is left out: a record of
