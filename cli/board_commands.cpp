@@ -17,7 +17,6 @@
 #include "core/text.h"
 #include "disk/presence.h"
 #include "formats/exchange/export.h"
-#include "formats/exchange/import.h"
 #include "library/board_store.h"
 #include "library/library_folders.h"
 #include "library/library_names.h"
@@ -29,9 +28,6 @@ namespace tricklet::cli {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// An import of one file into the current library: `ImportFile`, `ImportLinFile`.
-using Importer = ImportOutcome (*)(Session&, const std::filesystem::path&);
 
 /// The name by which a setting is listed: with its section only where the key alone is not enough.
 std::string ListedName(const SettingEntry& entry) {
@@ -59,12 +55,6 @@ ExitCode WriteSetting(const Context& context, const SettingEntry& entry, std::st
   }
   SaveSetting(session.settings, entry, session.store);
   return StoreSettings(session) ? ExitCode::Done : ExitCode::Refused;
-}
-
-/// Removes the library that this call made for boards when none of them arrived.
-void RemoveIfEmpty(const Session& session) {
-  std::error_code ignored;
-  fs::remove(session.LibraryPath(), ignored);  // only an empty folder goes
 }
 
 ExitCode Libraries(const Context& context) {
@@ -109,23 +99,6 @@ ExitCode Show(const Context& context, int boardNumber) {
   return ExitCode::Done;
 }
 
-ExitCode ImportFiles(const Context& context, Importer import, const std::vector<fs::path>& files,
-                     const std::function<bool()>& ended) {
-  const bool existed = IsTaken(context.session.LibraryPath());
-  if (!OpenLibrary(context, true)) return ExitCode::Refused;
-  bool allDone = true;
-  for (const fs::path& file : files) {
-    const ImportOutcome outcome = import(context.session, file);
-    allDone = allDone && outcome.boardsSaved > 0 && !outcome.failed && !outcome.cancelled;
-    if (outcome.cancelled || ended()) {
-      allDone = false;
-      break;
-    }
-  }
-  if (!existed) RemoveIfEmpty(context.session);
-  return allDone ? ExitCode::Done : ExitCode::Refused;
-}
-
 ExitCode ExportBoards(const Context& context, const std::string& first, const std::string& last,
                       const fs::path& file) {
   Session& session = context.session;
@@ -166,13 +139,6 @@ ExitCode SettingsCommand(const Context& context, const std::string& key,
   return listed;
 }
 
-std::vector<fs::path> Paths(const std::vector<std::string>& texts) {
-  std::vector<fs::path> paths;
-  paths.reserve(texts.size());
-  for (const std::string& text : texts) paths.push_back(PathFromText(text));
-  return paths;
-}
-
 void AddListings(CLI::App& app, Command& command) {
   WhenChosen(*app.add_subcommand("libraries", "Each library and its number of boards"), command,
              [](const Context& context, const ConsoleHost&) { return Libraries(context); });
@@ -188,16 +154,6 @@ void AddListings(CLI::App& app, Command& command) {
   AddBoardArgument(*show, *board);
   WhenChosen(*show, command,
              [board](const Context& context, const ConsoleHost&) { return Show(context, *board); });
-}
-
-void AddImporter(CLI::App& app, Command& command, const char* name, const char* description,
-                 Importer import) {
-  const auto files = std::make_shared<std::vector<std::string>>();
-  auto* reader = app.add_subcommand(name, description);
-  reader->add_option("FILE", *files, "Files, told apart by their ending")->required();
-  WhenChosen(*reader, command, [files, import](const Context& context, const ConsoleHost& host) {
-    return ImportFiles(context, import, Paths(*files), [&host] { return host.Ended(); });
-  });
 }
 
 void AddExport(CLI::App& app, Command& command) {
@@ -234,10 +190,6 @@ void AddSettings(CLI::App& app, Command& command) {
 
 void AddBoardCommands(CLI::App& app, Command& command) {
   AddListings(app, command);
-  AddImporter(app, command, "import", "Store the boards of hand-record files (pbn, dlm, xml)",
-              ImportFile);
-  AddImporter(app, command, "import-lin", "Store the boards and records of LIN files",
-              ImportLinFile);
   AddExport(app, command);
   AddSettings(app, command);
 }

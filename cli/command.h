@@ -26,8 +26,10 @@ std::string NotEmpty(const std::string& text);
 /// Adds the argument N, a board number 1..999.
 void AddBoardArgument(CLI::App& command, int& board);
 
-/// libraries, boards, show, import, import-lin, export, settings.
+/// libraries, boards, show, export, settings.
 void AddBoardCommands(CLI::App& app, Command& command);
+/// import, import-lin.
+void AddImportCommands(CLI::App& app, Command& command);
 /// library.
 void AddLibraryCommands(CLI::App& app, Command& command);
 /// auction, play, score.

@@ -2,16 +2,23 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/fault.h"
+#include "core/text.h"
+#include "disk/file_io.h"
 #include "formats/exchange/file_type.h"
+#include "formats/exchange/import_planned.h"
 #include "formats/exchange/import_run.h"
+#include "formats/exchange/look_at.h"
 #include "formats/exchange/record_reader.h"
 #include "formats/lin/lin_reader.h"
 #include "formats/results/lin_file.h"
 #include "library/board_store.h"
+#include "library/library_choice.h"
 #include "library/library_scan.h"
 #include "library/loss_text.h"
 #include "library/unsaved_changes.h"
@@ -20,6 +27,13 @@ namespace tricklet {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// The records of a whole season take a few MiB; more than this is no hand-record file.
+constexpr std::size_t kMaxHandRecordBytes = std::size_t{256} * 1024 * 1024;
+
+std::string UnreadableText(const fs::path& path) {
+  return "Cannot read the file " + ShownPath(path);
+}
 
 /// What an import does with the results that the library keeps.
 enum class Results : std::uint8_t {
@@ -92,58 +106,154 @@ ImportOutcome Refused(Session& session) {
   return {.refused = true};
 }
 
-ImportOutcome ImportChosen(Session& session, const fs::path& path, const Importable& importable) {
-  const std::string type = FileTypeOf(path);
-  const auto& types = importable.types;
-  if (std::find(types.begin(), types.end(), type) != types.end()) {
-    ImportOutcome outcome = StoreFile(session, path, ReaderOf(type));
-    outcome.file = path;
-    return outcome;
+/// Does what somebody has decided after a look at the file; nothing when it is to be imported
+/// without one, since that would lose nothing, or since that is what was decided. `outside`: the
+/// open library was not chosen for it, so that its boards are at stake too.
+std::optional<ImportOutcome> ImportByLook(Session& session, const RecordSource& source,
+                                          const RecordReader& reader, const Looker& look,
+                                          bool outside) {
+  if (!look.decide) return std::nullopt;
+  ImportLook seen = LookAt(session, source, reader);
+  const bool lossless = LosesNothing(reader, source, seen.contents);
+  const bool atStake = outside && session.library.boardCount > 0;
+  const bool asked = !lossless || atStake || look.always;
+  if (seen.contents.sections.empty() || !asked) return std::nullopt;
+  if (atStake) seen.choices.newLibrary = seen.suggestedLibrary;
+  const auto choices = look.decide(seen);
+  if (!choices) return Refused(session);
+  ImportChoices same = seen.choices;
+  same.newLibrary = choices->newLibrary;
+  if (IsWithoutALook(*choices) || (lossless && *choices == same)) {
+    if (choices->newLibrary.empty() || CreateLibrary(session, choices->newLibrary)) {
+      return std::nullopt;
+    }
+    return Refused(session);
   }
-  session.host.TellError(importable.otherType);
-  return Refused(session);
+  return StorePlanned(session, seen, *choices);
 }
 
-ImportOutcome Import(Session& session, const Importable& importable) {
+/// Imports what is in memory. `unreadable` is told when the reader throws.
+ImportOutcome ImportSource(Session& session, RecordSource source, const std::string& unreadable,
+                           const RecordReader& reader, const Looker& look, bool outside) {
+  if (auto outcome = ImportByLook(session, source, reader, look, outside)) return *outcome;
+  const fs::path file = source.path;
+  ImportOutcome outcome = StoreText(session, std::move(source), unreadable, reader);
+  outcome.file = file;
+  return outcome;
+}
+
+/// The bytes of a hand-record file; nothing, after a message, when it cannot be read.
+std::optional<RecordSource> ReadSource(Session& session, const fs::path& path) {
+  try {
+    return RecordSource{path, ReadWholeFile(path, kMaxHandRecordBytes)};
+  } catch (const Fault&) {
+    session.host.TellError(UnreadableText(path));
+    return std::nullopt;
+  }
+}
+
+/// A file with hand records of a known type.
+struct TypedSource {
+  RecordSource records;
+  std::string type;
+};
+
+/// The file by its content; nothing, after a message, when it cannot be read or has no hand
+/// records.
+std::optional<TypedSource> ReadRecords(Session& session, const fs::path& path) {
+  auto source = ReadSource(session, path);
+  if (!source) return std::nullopt;
+  std::string type = TypeOfRecords(FileTypeOf(path), source->bytes);
+  if (!type.empty()) return TypedSource{std::move(*source), std::move(type)};
+  session.host.TellError("There are no hand records in the file " + ShownPath(path));
+  return std::nullopt;
+}
+
+ImportOutcome Unreadable(Session& session) {
+  ListAndShow(session, session.board.boardNumber);
+  return {.failed = true};
+}
+
+ImportOutcome ImportChosen(Session& session, const fs::path& path, const Importable& importable,
+                           const Looker& look) {
+  const std::string type = FileTypeOf(path);
+  const auto& types = importable.types;
+  if (std::find(types.begin(), types.end(), type) == types.end()) {
+    session.host.TellError(importable.otherType);
+    return Refused(session);
+  }
+  auto source = ReadSource(session, path);
+  if (!source) return Unreadable(session);
+  return ImportSource(session, std::move(*source), UnreadableText(path), ReaderOf(type), look,
+                      false);
+}
+
+ImportOutcome Import(Session& session, const Importable& importable, const Looker& look) {
   if (!MayImport(session, importable.results)) return {.refused = true};
   const auto path =
       session.host.ChooseOpenFile({importable.description, importable.types, fs::path()});
-  if (path && !path->empty()) return ImportChosen(session, *path, importable);
+  if (path && !path->empty()) return ImportChosen(session, *path, importable, look);
   return Refused(session);
 }
 
-ImportOutcome ImportFile(Session& session, const fs::path& path, const Importable& importable) {
+ImportOutcome ImportFile(Session& session, const fs::path& path, const Importable& importable,
+                         const Looker& look) {
   if (!MayImport(session, importable.results)) return {.refused = true};
-  return ImportChosen(session, path, importable);
+  return ImportChosen(session, path, importable, look);
 }
 
 }  // namespace
 
-ImportOutcome Import(Session& session) {
-  return Import(session, HandRecords());
-}
-ImportOutcome ImportFile(Session& session, const fs::path& path) {
-  return ImportFile(session, path, HandRecords());
-}
-ImportOutcome ImportLin(Session& session) {
-  return Import(session, LinRecords());
-}
-ImportOutcome ImportLinFile(Session& session, const fs::path& path) {
-  return ImportFile(session, path, LinRecords());
+ImportLook LookAt(const Session& session, const RecordSource& source, const RecordReader& reader) {
+  ImportLook look;
+  look.file = source.path;
+  look.contents = ReadContents(reader.type, source.bytes);
+  look.there = session.library.boardPresent;
+  look.library = session.ShownLibrary();
+  look.suggestedLibrary = LibraryNameFor(session, PathText(source.path.stem()));
+  look.loss = LossOf(look.contents, reader);
+  return look;
 }
 
-ImportOutcome ImportLinText(Session& session, std::string_view text) {
+ImportOutcome Import(Session& session, const Looker& look) {
+  return Import(session, HandRecords(), look);
+}
+ImportOutcome ImportFile(Session& session, const fs::path& path, const Looker& look) {
+  return ImportFile(session, path, HandRecords(), look);
+}
+ImportOutcome ImportLin(Session& session, const Looker& look) {
+  return Import(session, LinRecords(), look);
+}
+ImportOutcome ImportLinFile(Session& session, const fs::path& path, const Looker& look) {
+  return ImportFile(session, path, LinRecords(), look);
+}
+
+ImportOutcome ImportLinText(Session& session, std::string_view text, const Looker& look) {
   if (!LooksLikeLin(text)) {
     session.host.TellError("There are no LIN records in this text");
     return {.refused = true};
   }
   if (!MayImport(session, Results::Replaced)) return {.refused = true};
-  return StoreText(session, {fs::path(), std::string(text)}, "Cannot read the LIN records",
-                   ReaderOf("lin"));
+  return ImportSource(session, {fs::path(), std::string(text)}, "Cannot read the LIN records",
+                      ReaderOf("lin"), look, false);
 }
 
-ImportOutcome ImportAnyFile(Session& session, const fs::path& path) {
-  return FileTypeOf(path) == "lin" ? ImportLinFile(session, path) : ImportFile(session, path);
+std::optional<ImportLook> LookAtFile(Session& session, const fs::path& path) {
+  const auto source = ReadRecords(session, path);
+  if (!source) return std::nullopt;
+  return LookAt(session, source->records, ReaderOf(source->type));
+}
+
+ImportOutcome ImportAnyFile(Session& session, const fs::path& path, const Looker& look) {
+  if (!look.decide) {
+    return FileTypeOf(path) == "lin" ? ImportLinFile(session, path) : ImportFile(session, path);
+  }
+  auto source = ReadRecords(session, path);
+  if (!source) return {.failed = true};
+  if (!SettleChanges(session)) return {.refused = true};
+  CountHands(session);
+  return ImportSource(session, std::move(source->records), UnreadableText(path),
+                      ReaderOf(source->type), look, true);
 }
 
 }  // namespace tricklet

@@ -7,7 +7,6 @@
 
 #include "core/fault.h"
 #include "core/text.h"
-#include "disk/file_io.h"
 #include "formats/exchange/import_messages.h"
 #include "formats/exchange/keep_results.h"
 #include "formats/exchange/library_sink.h"
@@ -22,9 +21,6 @@ namespace tricklet {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// The records of a whole season take a few MiB; more than this is no hand-record file.
-constexpr std::size_t kMaxHandRecordBytes = std::size_t{256} * 1024 * 1024;
 
 /// What went wrong, if anything did.
 struct Failures {
@@ -67,6 +63,7 @@ Failures ReadAndStore(Session& session, RecordSource& source, const RecordReader
     }
   };
   write([&] { KeepResults(session, reader.brings, sink, reading); });
+  write([&] { KeepNotes(session, sink, reading); });
   write([&] { failures.notRecycled = sink.Write().RecycleReplaced(session.host); });
   write([&] { sink.Write().Finish(); });
   return failures;
@@ -96,15 +93,17 @@ void TellUnwritten(Host& host, const LibrarySink& sink, const RecordReader& read
   }
 }
 
-void TellResult(Session& session, const LibrarySink& sink, const ReadResult& result,
+void TellResult(Session& session, const LibrarySink& sink, const Reading& reading,
                 const std::string& file) {
   Host& host = session.host;
+  const ReadResult& result = reading.result;
   for (const std::string& message : result.messages) host.TellError(message);
   if (result.badLine) {
     host.TellError("Can't read this line:\n" + Showable(*result.badLine));
     host.Tell(BadLineText(result, file));
   }
   host.Tell(SavedText(result, session.ShownLibrary()));
+  TellIfAny(host, reading.summary);
   TellIfAny(host, StoredText(result, sink.Stored()));
   TellIfAny(host, LeftOutText(result.leftOut));
   if (sink.ResultsStayed()) host.TellError(kResultsNotRecycled);
@@ -146,7 +145,7 @@ ImportOutcome StoreText(Session& session, RecordSource source, const std::string
   ReadResult& result = reading.result;
   if (sink.Failure()) CountStored(sink, result);
   if (failures.writing) TellUnwritten(session.host, sink, reader, *failures.writing);
-  TellResult(session, sink, result, ShownPath(source.path));
+  TellResult(session, sink, reading, ShownPath(source.path));
   if (sink.Failure()) TellIfAny(session.host, PartText(sink.Stored(), failures.unstored));
   TellErrorIfAny(session.host, failures.notRecycled);
   ListAndShow(session, result.boardsSaved > 0 ? BoardToShow(result, sink) : boardBefore);
@@ -155,17 +154,6 @@ ImportOutcome StoreText(Session& session, RecordSource source, const std::string
           .failed = failures.writing || result.badLine || !result.messages.empty() ||
                     result.leftOut.Unreadable() || sink.ResultsStayed() ||
                     !failures.notRecycled.empty()};
-}
-
-ImportOutcome StoreFile(Session& session, const fs::path& path, const RecordReader& reader) {
-  const std::string unreadable = "Cannot read the file " + ShownPath(path);
-  RecordSource source{path, {}};
-  try {
-    source.bytes = ReadWholeFile(path, kMaxHandRecordBytes);
-  } catch (const Fault&) {
-    return TellUnreadable(session, unreadable, session.board.boardNumber);
-  }
-  return StoreText(session, std::move(source), unreadable, reader);
 }
 
 }  // namespace tricklet

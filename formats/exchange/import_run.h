@@ -2,7 +2,6 @@
 // the results, telling how it went.
 #pragma once
 
-#include <filesystem>
 #include <string>
 
 #include "formats/exchange/import_outcome.h"
@@ -11,12 +10,9 @@
 
 namespace tricklet {
 
-/// Stores the boards of a file in the current library, tells how it went and shows the first.
-ImportOutcome StoreFile(Session& session, const std::filesystem::path& path,
-                        const RecordReader& reader);
-
-/// Does so with bytes that have been read already; tells `unreadable` when the reader throws. A
-/// board that cannot be written ends the import with the reason and the count of those before it.
+/// Stores the boards of a text in the current library, tells how it went and shows the first; tells
+/// `unreadable` when the reader throws. A board that cannot be written ends the import with the
+/// reason and the count of those before it.
 ImportOutcome StoreText(Session& session, RecordSource source, const std::string& unreadable,
                         const RecordReader& reader);
 

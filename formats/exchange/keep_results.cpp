@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/fault.h"
 #include "formats/results/lin_boards.h"
 #include "formats/results/lin_file.h"
 
@@ -58,10 +59,52 @@ void LeaveOutUnstored(const LibrarySink& sink, Reading& reading) {
   });
 }
 
+/// Leaves out the records of boards that `boards` has, or those of all others.
+void LeaveOut(std::vector<std::string>& records, const std::set<int>& boards, bool others) {
+  std::erase_if(records, [&](const std::string& record) {
+    return boards.contains(BoardNumberOfLin(record)) != others;
+  });
+}
+
+/// The results of boards that were stored, in the place of all that the library has of them.
+void KeepPlanned(Session& session, LinFile found, LibrarySink& sink) {
+  LeaveOut(found.lin, sink.Stored(), true);
+  LinFile kept = LoadLinData(session);
+  const std::size_t before = kept.lin.size();
+  LeaveOut(kept.lin, sink.Stored(), false);
+  if (before == 0 && found.Empty()) return;
+  if (!kept.Empty()) {
+    if (kept.lin.size() == before && found.Empty()) return;
+    kept.lin.insert(kept.lin.end(), std::move_iterator(found.lin.begin()),
+                    std::move_iterator(found.lin.end()));
+    StoreLinData(session, kept, sink.Write());
+  } else if (!found.Empty()) {
+    RenewLinData(session, found, sink.Write());
+  } else if (!RecycleLinData(session)) {
+    throw Fault(FaultNumber::PathFileAccess, kResultsNotRecycled);
+  }
+}
+
 }  // namespace
+
+void KeepNotes(Session& session, LibrarySink& sink, const Reading& reading) {
+  if (sink.Stored().empty()) return;
+  const BoardNotes before = LoadNotes(session);
+  BoardNotes notes = before;
+  for (const int board : sink.Stored()) {
+    notes.erase(board);
+    const auto found = reading.notes.find(board);
+    if (found != reading.notes.end()) notes.insert(*found);
+  }
+  if (notes != before) StoreNotes(session, notes, sink.Write());
+}
 
 void KeepResults(Session& session, Brings brings, LibrarySink& sink, Reading& reading) {
   if (sink.Stored().empty() || brings == Brings::Nothing) return;
+  if (brings == Brings::Planned) {
+    KeepPlanned(session, std::move(reading.results), sink);
+    return;
+  }
   if (brings == Brings::Records) {
     KeepRecords(session, std::move(reading.results.lin), sink.Write());
     return;

@@ -6,6 +6,7 @@
 
 #include "formats/results/lin_file.h"
 #include "formats/sink/board_sink.h"
+#include "library/board_notes.h"
 
 namespace tricklet {
 
@@ -20,6 +21,8 @@ struct Reading {
   ReadResult result;
   LinFile results;       ///< of the boards, for "LIN.txt"
   std::string extended;  ///< bytes for "QENXML.xml"; empty when none is needed
+  BoardNotes notes;      ///< of the boards, for "Notes.txt"
+  std::string summary;   ///< what is told after the count of boards; may be empty
 };
 
 }  // namespace tricklet

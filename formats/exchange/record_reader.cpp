@@ -26,7 +26,7 @@ void ReadLinFile(RecordSource& source, BoardSink& sink, Reading& reading) {
 }  // namespace
 
 const RecordReader& ReaderOf(std::string_view type) {
-  static constexpr std::array<RecordReader, 4> kReaders{{
+  static const std::array<RecordReader, 4> kReaders{{
       {"pbn", Brings::Nothing, ReadPbnFile, ErrorReport},
       {"dlm", Brings::Nothing, ReadDlmFile, ErrorReport},
       {"xml", Brings::Session, ReadXML, TellXmlFailure},

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string_view>
 
 #include "core/fault.h"
@@ -15,6 +16,7 @@ enum class Brings : std::uint8_t {
   Nothing,  ///< "LIN.txt" belongs to the deals that are replaced, so it is recycled
   Records,  ///< records of its own boards: those of other boards stay
   Session,  ///< a whole session with names and scoring: "LIN.txt" is replaced
+  Planned,  ///< results of its own boards, if any: those of other boards stay
 };
 
 struct RecordReader {
@@ -22,7 +24,7 @@ struct RecordReader {
   Brings brings;
   /// Reads a whole file, whose bytes it may use up. What it throws is reported and ends the import;
   /// boards stored before it stay.
-  void (*read)(RecordSource& source, BoardSink& sink, Reading& reading);
+  std::function<void(RecordSource& source, BoardSink& sink, Reading& reading)> read;
   /// Tells that a file of the library could not be written.
   void (*tellUnwritten)(Host& host, const Fault& fault);
 };

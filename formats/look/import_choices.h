@@ -22,6 +22,9 @@ enum class DealerBy : std::uint8_t {
   File     ///< the file: the deal gets the next number that goes with it
 };
 
+/// Instead of a section: every one of the file, each in a new library of its own.
+inline constexpr std::size_t kEverySection = static_cast<std::size_t>(-1);
+
 struct ImportChoices {
   Numbering numbers = Numbering::Next;
   int from = 1;  ///< for `Numbering::From`, 1..999
@@ -29,9 +32,10 @@ struct ImportChoices {
   /// What cannot be read is left out by itself; else nothing after it is stored.
   bool skipBad = true;
   bool keepResults = true;         ///< results, play and notes come into the library too
-  std::size_t section = 0;         ///< which session or section of the file
+  std::size_t section = 0;         ///< which session or section of the file, or `kEverySection`
   std::set<std::size_t> unwanted;  ///< boards that the person left out, as `ImportPlan` counts them
   std::string newLibrary;          ///< the library to make for it; empty: the open one
+  friend bool operator==(const ImportChoices&, const ImportChoices&) = default;
 };
 
 /// Choices that import a file as if nobody had looked at it.

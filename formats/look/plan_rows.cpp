@@ -229,9 +229,9 @@ std::string PlanSummary(const FileContents& contents, const ImportPlan& plan) {
   return text;
 }
 
-std::string TablesText(const ImportPlan& plan) {
-  if (plan.tables <= plan.stored) return "";
-  return Count(plan.stored, "board", "boards") + " from " + Count(plan.tables, "table", "tables");
+std::string TablesText(int boards, int tables) {
+  if (tables <= boards) return "";
+  return Count(boards, "board", "boards") + " from " + Count(tables, "table", "tables");
 }
 
 }  // namespace tricklet

@@ -31,6 +31,6 @@ std::vector<PlanRow> PlanRows(const FileContents& contents, const ImportChoices&
 std::string PlanSummary(const FileContents& contents, const ImportPlan& plan);
 
 /// "12 boards from 576 tables"; empty where no board was played more than once.
-std::string TablesText(const ImportPlan& plan);
+std::string TablesText(int boards, int tables);
 
 }  // namespace tricklet

@@ -272,19 +272,19 @@ TEST_F(ImportTest, AsksAndRefuses) {
   const fs::path other = File("x", "hands.doc");
   const char* stored = "Hand 3 has been saved to the library - Club";
   // The command, the file chosen, what is said, and how many boards are stored
-  const std::tuple<ImportOutcome (*)(Session&), fs::path, const char*, int> kChoices[] = {
-      {tricklet::Import, "", "", 0},
-      {tricklet::Import, other, "The file must be of type pbn, dlm or xml", 0},
-      {tricklet::Import, file, stored, 1},
-      {ImportLin, "", "", 0},
-      {ImportLin, other, "The file must be of type lin", 0},
-      {ImportLin, lin, stored, 1}};
+  const std::tuple<ImportOutcome (*)(Session&, const Looker&), fs::path, const char*, int>
+      kChoices[] = {{tricklet::Import, "", "", 0},
+                    {tricklet::Import, other, "The file must be of type pbn, dlm or xml", 0},
+                    {tricklet::Import, file, stored, 1},
+                    {ImportLin, "", "", 0},
+                    {ImportLin, other, "The file must be of type lin", 0},
+                    {ImportLin, lin, stored, 1}};
   for (const auto& [command, chosen, said, boards] : kChoices) {
     PutBoard(3);
     host.ExpectAskWith("Overwrite", Answer::Yes);
     host.Choose(chosen.empty() ? std::nullopt : std::optional(chosen));
     if (*said != '\0') host.ExpectTell(said);
-    const ImportOutcome outcome = command(session);
+    const ImportOutcome outcome = command(session, {});
     EXPECT_EQ(outcome.boardsSaved, boards);
     EXPECT_EQ(outcome.refused, boards == 0);
     EXPECT_EQ(ReadFile(session.BoardPath(3)) == OneSuitEachText(), boards == 0);

@@ -1,0 +1,188 @@
+#include "formats/exchange/import_planned.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "core/text.h"
+#include "formats/exchange/import_run.h"
+#include "formats/look/plan_rows.h"
+#include "formats/results/table_record.h"
+#include "formats/sink/record_text.h"
+#include "library/library_choice.h"
+#include "library/library_names.h"
+#include "library/library_scan.h"
+
+namespace tricklet {
+namespace {
+
+/// "Club-2", or the next such name that no library has.
+std::string NextName(const Session& session, const std::string& name) {
+  for (int number = 2;; ++number) {
+    std::string next = name + "-" + std::to_string(number);
+    if (!IsTakenInRoot(session, next)) return next;
+  }
+}
+
+/// The boards of one library of a plan, on their way into it.
+class PartReader {
+ public:
+  PartReader(const FileContents& contents, const ImportChoices& choices, const ImportPlan& plan,
+             int part)
+      : section_(contents.sections.at(choices.section)), choices_(choices) {
+    for (const PlannedBoard& board : plan.boards) {
+      if (IsStored(board.fate) && board.part == part) boards_.push_back(&board);
+    }
+  }
+
+  void Read(BoardSink& sink, Reading& reading) const {
+    reading.results = section_.results;
+    reading.results.lin.clear();
+    int done = 0;
+    for (const PlannedBoard* board : boards_) {
+      // What belongs to a board is known before it is stored, whatever ends the storing.
+      if (choices_.keepResults) TakeResults(*board, reading);
+      if (!Store(*board, done++, sink, reading.result)) return;
+    }
+  }
+
+  int Tables() const {
+    std::size_t tables = 0;
+    for (const PlannedBoard* board : boards_) {
+      for (const std::size_t game : board->games) tables += section_.games[game].records.size();
+    }
+    return static_cast<int>(tables);
+  }
+  int Boards() const { return static_cast<int>(boards_.size()); }
+
+ private:
+  void TakeResults(const PlannedBoard& planned, Reading& reading) const {
+    for (const std::size_t at : planned.games) {
+      const FoundGame& game = section_.games[at];
+      for (const std::string& line : game.records) {
+        reading.results.lin.push_back(
+            planned.number == game.number ? line : RenumberedLin(line, planned.number));
+      }
+      if (game.notes.empty()) continue;
+      std::string& notes = reading.notes[planned.number];
+      notes += (notes.empty() ? "" : "\n") + game.notes;
+    }
+  }
+
+  bool Store(const PlannedBoard& planned, int done, BoardSink& sink, ReadResult& result) const {
+    if (!sink.Begin(planned.number, done * kWholeText / Boards())) {
+      result.cancelled = true;
+      return false;
+    }
+    Board board = section_.games[planned.games.front()].board;
+    board.boardNumber = planned.number;
+    GetContract(board);
+    sink.Store(board);
+    if (++result.boardsSaved == 1) result.firstBoard = planned.number;
+    result.firstBoard = std::min(result.firstBoard, planned.number);
+    result.lastBoard = std::max(result.lastBoard, planned.number);
+    return true;
+  }
+
+  const FoundSection& section_;
+  const ImportChoices& choices_;
+  std::vector<const PlannedBoard*> boards_;
+};
+
+/// What was not stored, for the last message.
+std::string LeftOutSummary(const FileContents& contents, const ImportPlan& plan) {
+  const auto left = static_cast<int>(plan.boards.size()) - plan.stored;
+  const auto unread = contents.unread.size();
+  std::string text;
+  if (left > 0) {
+    text = std::to_string(left) +
+           (left == 1 ? " board of the file was" : " boards of the file were") + " left out";
+  }
+  if (unread > 0) {
+    text += (text.empty() ? "" : "\n") + std::to_string(unread) +
+            (unread == 1 ? " part of the file could not be read"
+                         : " parts of the file could not be read");
+  }
+  return text;
+}
+
+ImportOutcome StorePart(Session& session, const ImportLook& look, const PartReader& part,
+                        std::string summary) {
+  RecordReader reader{"", Brings::Planned, {}, ErrorReport};
+  reader.read = [&](RecordSource& /*source*/, BoardSink& sink, Reading& reading) {
+    reading.summary = std::move(summary);
+    part.Read(sink, reading);
+  };
+  return StoreText(session, {look.file, {}}, "Cannot read the file " + ShownPath(look.file),
+                   reader);
+}
+
+void Add(ImportOutcome& whole, const ImportOutcome& part) {
+  whole.boardsSaved += part.boardsSaved;
+  whole.cancelled = part.cancelled;
+  whole.refused = part.refused;
+  whole.failed = whole.failed || part.failed;
+}
+
+void Join(std::string& text, const std::string& more) {
+  if (!more.empty()) text += (text.empty() ? "" : "\n") + more;
+}
+
+/// Stores one section; opens the first of the libraries that it fills.
+ImportOutcome StoreSection(Session& session, const ImportLook& look, const ImportChoices& choices) {
+  if (!choices.newLibrary.empty() && !CreateLibrary(session, choices.newLibrary)) {
+    return {.refused = true};
+  }
+  CountHands(session);
+  const ImportPlan plan = PlanImport(look.contents, choices, session.library.boardPresent);
+  const std::string first = session.LibraryName();
+  ImportOutcome whole{.file = look.file};
+  for (int part = 0; part < plan.parts && !whole.cancelled && !whole.refused; ++part) {
+    if (part > 0 && !CreateLibrary(session, NextName(session, first))) {
+      whole.failed = true;
+      break;
+    }
+    const PartReader boards(look.contents, choices, plan, part);
+    std::string summary;
+    if (choices.keepResults) summary = TablesText(boards.Boards(), boards.Tables());
+    if (part + 1 == plan.parts) Join(summary, LeftOutSummary(look.contents, plan));
+    Add(whole, StorePart(session, look, boards, std::move(summary)));
+  }
+  if (session.LibraryName() != first) SelectLibrary(session, first);
+  return whole;
+}
+
+}  // namespace
+
+std::string LibraryNameFor(const Session& session, std::string_view wanted) {
+  std::string name;
+  for (const char c : wanted) {
+    name += static_cast<unsigned char>(c) < 0x80 &&
+                    !AllowedInLibraryName(static_cast<char32_t>(c), name.empty())
+                ? '-'
+                : c;
+  }
+  name = Trim(name);
+  if (!HasAllowedCharacters(name)) name = "Imported";
+  return IsTakenInRoot(session, name) ? NextName(session, name) : name;
+}
+
+ImportOutcome StorePlanned(Session& session, const ImportLook& look, const ImportChoices& choices) {
+  if (choices.section != kEverySection) return StoreSection(session, look, choices);
+  ImportOutcome whole{.file = look.file};
+  std::string first;
+  for (std::size_t at = 0; at < look.contents.sections.size(); ++at) {
+    ImportChoices each = choices;
+    each.section = at;
+    each.unwanted.clear();
+    each.newLibrary =
+        LibraryNameFor(session, PathText(look.file.stem()) + " " + look.contents.sections[at].name);
+    Add(whole, StoreSection(session, look, each));
+    if (whole.cancelled || whole.refused) break;
+    if (first.empty()) first = session.LibraryName();
+  }
+  if (!first.empty() && session.LibraryName() != first) SelectLibrary(session, first);
+  return whole;
+}
+
+}  // namespace tricklet

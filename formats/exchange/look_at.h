@@ -1,0 +1,51 @@
+// The look at a hand-record file before it is imported.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "formats/contents/contents.h"
+#include "formats/exchange/record_reader.h"
+#include "formats/look/import_choices.h"
+#include "formats/look/import_plan.h"
+
+namespace tricklet {
+
+/// What a person is shown who is to decide about an import.
+struct ImportLook {
+  std::filesystem::path file;  ///< empty for a text that is in no file
+  FileContents contents;
+  BoardsThere there{};           ///< of the open library
+  std::string library;           ///< the name of the open library
+  std::string suggestedLibrary;  ///< a name for a new one, which none has yet
+  ImportChoices choices;         ///< those that are offered first
+  std::string loss;              ///< what would be lost without a look, in a line; may be empty
+};
+
+/// Somebody who decides.
+struct Looker {
+  /// What is to be done; nothing when the import is not to take place. Called where an import
+  /// without a look would lose or alter something. Empty: nobody decides.
+  std::function<std::optional<ImportChoices>(const ImportLook&)> decide = {};
+  /// It is called where nothing would be lost, too.
+  bool always = false;
+};
+
+/// What a look at a file of the reader's type shows; `session` has scanned its library.
+ImportLook LookAt(const Session& session, const RecordSource& source, const RecordReader& reader);
+
+/// Everything that the bytes of a file of `type` ("pbn", "dlm", "xml", "lin") hold.
+FileContents ReadContents(std::string_view type, const std::string& bytes);
+
+/// Importing the file without a look stores all that `contents` has, as the file has it. A file
+/// without any deal or result loses nothing either: the import tells what is wrong with it.
+bool LosesNothing(const RecordReader& reader, const RecordSource& source,
+                  const FileContents& contents);
+
+/// What an import without a look would lose or alter: "lost: 2170 deals whose number a later one
+/// has, 12 results; other dealer or vulnerability: 375 boards". Empty when that is nothing.
+std::string LossOf(const FileContents& contents, const RecordReader& reader);
+
+}  // namespace tricklet

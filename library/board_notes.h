@@ -1,0 +1,39 @@
+// "Notes.txt" of a library: what is written about its boards.
+//
+// UTF-8. A line "[7]" stands before the text of board 7, which may have any number of lines. A line
+// of a text that would read as such a heading has a blank before it.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "library/library_write.h"
+#include "library/session.h"
+
+namespace tricklet {
+
+/// By board number 1..999; no text is empty, lines are divided by "\n".
+using BoardNotes = std::map<int, std::string>;
+
+/// Largest "Notes.txt" that is read or written.
+inline constexpr std::size_t kMaxNotesBytes = std::size_t{16} * 1024 * 1024;
+
+/// Reads the text of the file, whichever way its lines end. Text that is no UTF-8 is taken as
+/// Latin-1. What stands before the first heading, or under one that is no board's, is passed over;
+/// texts under one number are joined.
+BoardNotes ParseNotes(std::string_view text);
+std::string NotesText(const BoardNotes& notes);
+
+std::filesystem::path NotesPath(const Session& session);
+
+/// The notes of the current library; none when it has no such file. Throws `Fault`.
+BoardNotes LoadNotes(const Session& session);
+
+/// Puts them into the current library's file, which is kept for the recycle bin as `write` keeps
+/// what it replaces. Throws `Fault`, and then the old file is as it was.
+void StoreNotes(const Session& session, const BoardNotes& notes, LibraryWrite& write);
+
+}  // namespace tricklet
