@@ -22,8 +22,10 @@ TEST(TableRecordTest, ATravellerShowsWhatTheTableDid) {
   table.players = {{"Ann|a", "Bob, jr", "Cy", ""}};
   table.hands = SuitEach().hands;
   table.dealer = Seat::East;
-  table.auction = {{Call::Pass(), ""}, {Call::Bid(1, BidStrain::NoTrump), "15-17\nbalanced"},
-                   {Call::Double(), ""}, {Call::Redouble(), ""}};
+  table.auction = {{Call::Pass(), ""},
+                   {Call::Bid(1, BidStrain::NoTrump), "15-17\nbalanced"},
+                   {Call::Double(), ""},
+                   {Call::Redouble(), ""}};
   table.play = {{Suit::Clubs, Rank::Ten}};
   table.tricks = "7";
   table.contract = "1NTxx";
