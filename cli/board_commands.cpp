@@ -17,6 +17,7 @@
 #include "core/text.h"
 #include "disk/presence.h"
 #include "formats/exchange/export.h"
+#include "library/board_notes.h"
 #include "library/board_store.h"
 #include "library/library_folders.h"
 #include "library/library_names.h"
@@ -96,6 +97,10 @@ ExitCode Show(const Context& context, int boardNumber) {
   const Session& session = context.session;
   if (!LoadBoard(context, boardNumber)) return ExitCode::Refused;
   context.data << BoardText(session.board, session.ShownLibrary(), session.settings);
+  const BoardNotes notes = LoadNotes(session);
+  if (const auto note = notes.find(boardNumber); note != notes.end()) {
+    context.data << "\nNotes:\n" << note->second << '\n';
+  }
   return ExitCode::Done;
 }
 

@@ -75,6 +75,8 @@ struct FileContents {
   std::string encoding;                ///< for the person: "UTF-8", "Latin-1"
   std::vector<FoundSection> sections;  ///< at least one where there is a game
   std::vector<UnreadPart> unread;      ///< in the order of the file
+  /// Deals that are no games but that an import without a look stores: they only fill the file.
+  int fillers = 0;
 };
 
 /// Adds to `game.troubles` what its hands show: `NoCards`, `Incomplete`, `Impossible`.

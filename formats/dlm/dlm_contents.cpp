@@ -108,7 +108,10 @@ class DlmContentsReader {
     for (std::size_t at = 0; at < letters_.size(); ++at) {
       FoundGame& game = section_.games[at];
       if (IsOutside(game)) {
-        if (letters_[at] == kDLMPlaceholderDeal || outside[letters_[at]] > 1) continue;
+        if (letters_[at] == kDLMPlaceholderDeal || outside[letters_[at]] > 1) {
+          if (!last_ || game.number <= *last_) ++contents_.fillers;
+          continue;
+        }
         game.troubles.Add(DealTrouble::OutsideRange);
       }
       kept.push_back(std::move(game));

@@ -155,6 +155,10 @@ std::string LossOf(const FileContents& contents, const RecordReader& reader) {
     text += (text.empty() ? "" : "; ") + std::string("other dealer or vulnerability: ") +
             altered.Text();
   }
+  if (contents.fillers > 0) {
+    text += (text.empty() ? "" : "; ") + std::string("stored though they only fill the file: ") +
+            Count(static_cast<std::size_t>(contents.fillers), "deal", "deals");
+  }
   return text;
 }
 
