@@ -34,7 +34,8 @@ inline void MeasureImportFloor(benchmark::State& state, const TemporaryRoot& roo
 
 /// The import itself, which must bring in so many boards.
 inline void MeasureImport(benchmark::State& state, const TemporaryRoot& root,
-                          const std::filesystem::path& file, std::size_t boards) {
+                          const std::filesystem::path& file, std::size_t boards,
+                          const Looker& look = {}) {
   QuietHost host;
   MemoryStore store;
   Session session(host, store);
@@ -43,7 +44,7 @@ inline void MeasureImport(benchmark::State& state, const TemporaryRoot& root,
   int saved = 0;
   Measure(
       state, [&root] { root.Emptied(kImportLibrary); },
-      [&] { saved = ImportAnyFile(session, file).boardsSaved; });
+      [&] { saved = ImportAnyFile(session, file, look).boardsSaved; });
   if (saved != static_cast<int>(boards)) state.SkipWithError("not all boards came in");
 }
 

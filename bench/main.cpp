@@ -23,6 +23,8 @@ int main(int argc, char** argv) {
       {"ImportDlm", "ReadDlmFloor", 2.0},
       {"ImportLinRecords", "ReadLinFloor", 2.0},
       {"ImportUsebio", "UsebioFloor", 2.0},
+      {"LookAndImportCleanBoards", "ImportCleanBoards", 1.1},
+      {"LookAndImportClub", "ReadClubFloor", 1.5},
   });
   benchmark::RunSpecifiedBenchmarks(&reporter);
   benchmark::Shutdown();
