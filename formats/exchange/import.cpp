@@ -211,7 +211,7 @@ ImportLook LookAt(const Session& session, const RecordSource& source, const Reco
   look.there = session.library.boardPresent;
   look.library = session.ShownLibrary();
   look.suggestedLibrary = LibraryNameFor(session, PathText(source.path.stem()));
-  look.loss = LossOf(look.contents, reader);
+  look.loss = LossOf(reader, source, look.contents);
   return look;
 }
 

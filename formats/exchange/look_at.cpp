@@ -7,6 +7,7 @@
 #include "core/fault.h"
 #include "formats/contents/lin_contents.h"
 #include "formats/dlm/dlm_contents.h"
+#include "formats/pbn/pbn_contents.h"
 
 namespace tricklet {
 namespace {
@@ -82,22 +83,52 @@ std::string Count(std::size_t number, const std::string& one, const std::string&
   return std::to_string(number) + " " + (number == 1 ? one : several);
 }
 
-/// "lost: 3 results, notes": the parts of a line about the loss.
-class LossLine {
- public:
-  void Add(std::size_t number, const std::string& one, const std::string& several) {
-    if (number > 0) Add(Count(number, one, several));
-  }
-  void Add(const std::string& what) { text_ += (text_.empty() ? "" : ", ") + what; }
-  const std::string& Text() const { return text_; }
+/// What an import without a look makes of a file.
+struct Loss {
+  std::size_t deals = 0;
+  std::size_t lostDeals = 0;
+  std::size_t otherDealers = 0;
+  std::size_t results = 0;
+  std::size_t fillers = 0;
+  bool notes = false;
 
- private:
-  std::string text_;
+  void AddBoards(const ImportPlan& plan, const std::vector<FoundGame>& games,
+                 const std::map<int, Board>& stored) {
+    for (const PlannedBoard& planned : plan.boards) {
+      const FoundGame& game = games[planned.games.front()];
+      if (game.troubles.Has(DealTrouble::NoCards)) continue;
+      ++deals;
+      const auto board = stored.find(game.number);
+      const bool kept = board != stored.end() && board->second.hands == game.board.hands;
+      if (!kept) ++lostDeals;
+      if (kept && planned.otherDealer) ++otherDealers;
+    }
+  }
+
+  std::string Text() const {
+    std::vector<std::string> lost;
+    if (lostDeals > 0)
+      lost.push_back(std::to_string(lostDeals) + " of " + Count(deals, "deal", "deals"));
+    if (results > 0) lost.push_back(Count(results, "result", "results"));
+    if (notes) lost.emplace_back("notes");
+    std::string text;
+    for (const std::string& each : lost) text += (text.empty() ? "lost: " : ", ") + each;
+    const auto add = [&text](const std::string& more) {
+      text += (text.empty() ? "" : "; ") + more;
+    };
+    if (otherDealers > 0) {
+      add("other dealer or vulnerability: " + Count(otherDealers, "board", "boards"));
+    }
+    if (fillers > 0)
+      add("stored though they only fill the file: " + Count(fillers, "deal", "deals"));
+    return text;
+  }
 };
 
 }  // namespace
 
 FileContents ReadContents(std::string_view type, const std::string& bytes) {
+  if (type == "pbn") return ReadPbnContents(bytes);
   if (type == "dlm") return ReadDlmContents(bytes);
   if (type == "lin") return ReadLinContents(bytes);
   return {};  // no full reader yet: imported without a look
@@ -118,48 +149,25 @@ bool LosesNothing(const RecordReader& reader, const RecordSource& source,
                    again.sink.Boards());
 }
 
-std::string LossOf(const FileContents& contents, const RecordReader& reader) {
-  LossLine lost;
-  LossLine altered;
-  std::size_t results = 0;
-  bool notes = false;
+std::string LossOf(const RecordReader& reader, const RecordSource& source,
+                   const FileContents& contents) {
+  Reread again;
+  ReadAgain(reader, source, again);
+  Loss loss;
   for (std::size_t section = 0; section < contents.sections.size(); ++section) {
-    const auto& games = contents.sections[section].games;
     ImportChoices choices = WithoutALook();
+    choices.skipBad = true;  // what cannot be read here is not what ends such an import
     choices.section = section;
-    const ImportPlan plan = PlanImport(contents, choices, BoardsThere{});
-    const auto of = [&plan](const auto& holds) {
-      return static_cast<std::size_t>(std::count_if(plan.boards.begin(), plan.boards.end(), holds));
-    };
-    const auto withFate = [&of](Fate fate) {
-      return of([fate](const PlannedBoard& board) { return board.fate == fate; });
-    };
-    lost.Add(withFate(Fate::Replaced), "deal whose number a later one has",
-             "deals whose number a later one has");
-    lost.Add(withFate(Fate::NoNumber), "deal without a number that a library can hold",
-             "deals without a number that a library can hold");
-    lost.Add(withFate(Fate::Impossible), "impossible deal", "impossible deals");
-    lost.Add(withFate(Fate::AfterFault), "deal after a line that cannot be read",
-             "deals after a line that cannot be read");
-    altered.Add(
-        of([](const PlannedBoard& board) { return IsStored(board.fate) && board.otherDealer; }),
-        "board", "boards");
-    results += CountRecords(games);
-    notes = notes || HasNotes(games);
+    const auto& games = contents.sections[section].games;
+    loss.AddBoards(PlanImport(contents, choices, BoardsThere{}), games, again.sink.Boards());
+    loss.notes = loss.notes || HasNotes(games);
+    loss.results += CountRecords(games);
   }
-  lost.Add(contents.unread.size(), "part that cannot be read", "parts that cannot be read");
-  if (!KeepsResults(reader)) lost.Add(results, "result", "results");
-  if (notes) lost.Add("notes");
-  std::string text = lost.Text().empty() ? "" : "lost: " + lost.Text();
-  if (!altered.Text().empty()) {
-    text += (text.empty() ? "" : "; ") + std::string("other dealer or vulnerability: ") +
-            altered.Text();
+  if (KeepsResults(reader)) {
+    loss.results -= std::min(loss.results, again.reading.results.lin.size());
   }
-  if (contents.fillers > 0) {
-    text += (text.empty() ? "" : "; ") + std::string("stored though they only fill the file: ") +
-            Count(static_cast<std::size_t>(contents.fillers), "deal", "deals");
-  }
-  return text;
+  loss.fillers = static_cast<std::size_t>(contents.fillers);
+  return loss.Text();
 }
 
 }  // namespace tricklet
