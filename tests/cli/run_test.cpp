@@ -24,7 +24,38 @@ TEST_F(CommandLine, CarriesBoardsThroughTheTypes) {
   EXPECT_EQ(Run("--library B import-lin @in.pbn"), 1) << "the type is asked for";
   ASSERT_EQ(Run("--library B export 7 7 @out.pbn"), 0);
   EXPECT_NE(ReadFile(File("out.pbn")).find(" QT62.KQ62.K93.K8 "), std::string::npos);
-  EXPECT_EQ(Run("--library B import @out.lin"), 1) << "not of this command";
+  EXPECT_EQ(Answer("--library C import @out.lin"), "0 Hand 7 has been saved to the library - C\n");
+}
+
+TEST_F(CommandLine, DecidesAboutAnImportByOptions) {
+  const std::string hands =
+      "A873.AJ83.52.Q32 95.74.AQJ84.T754 QT62.KQ62.K93.K8 KJ4.T95.T76.AJ96\"]\n";
+  WriteFile(File("two.pbn"), "%\n[Board \"7\"]\n[Deal \"N:" + hands + "[Board \"7\"]\n[Deal \"E:" +
+                                 hands + "[Contract \"1NT\"]\n[Declarer \"S\"]\n[Result \"7\"]\n");
+  const std::pair<const char*, const char*> kCases[] = {
+      {"--library A import @two.pbn",
+       "0 two.pbn: lost: 1 of 2 deals, 1 result\n"
+       "2 hands (7-7) have been saved to the library - A\n"},
+      {"--library A boards", "0 7\n"},
+      {"import --into B --numbers first @two.pbn",
+       "0 Hand 7 has been saved to the library - B\n1 board of the file was left out\n"},
+      {"import --new C --numbers from=998 @two.pbn",
+       "0 2 hands (998-999) have been saved to the library - C\n"},
+      {"import --new C @two.pbn", "1 C already exists\nPlease choose a different name\n"},
+      {"import --dry-run --new D --results drop @two.pbn",
+       "0 two.pbn\tPBN\t2 boards found, 2 can be stored\n"
+       "7\t7\t♠A873 ♥AJ83 ♦52 ♣Q32\tnew\n"
+       "7\t8\t♠KJ4 ♥T95 ♦T76 ♣AJ96\tanother board 7 of the file: "
+       "stored as the next free number\n"},
+      {"libraries", "0 A\t1\nB\t1\nC\t2\n"},
+  };
+  for (const auto& [line, answer] : kCases) {
+    std::string said = Answer(line);
+    if (const auto at = said.find(File("")); at != std::string::npos)
+      said.erase(at, File("").size());
+    EXPECT_EQ(said, answer) << line;
+  }
+  EXPECT_EQ(Run("import --numbers from=0 @two.pbn"), 2);
 }
 
 TEST_F(CommandLine, ShowsNothingThatATerminalObeys) {
