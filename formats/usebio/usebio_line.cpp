@@ -81,13 +81,9 @@ bool NamesPlayers(std::string_view record) {
 /// The players by the numbers of their pairs: "pn|South,West,North,East|". Empty when neither pair
 /// is known.
 std::string PlayersField(const TravellerLine& line, const SessionPairs& pairs) {
-  auto nsPair = TravellerLine::NsPair;
-  auto ewPair = TravellerLine::EwPair;
-  if (pairs.oneWinner && TextOf(line.At(TravellerLine::Direction)) == "EW") {
-    std::swap(nsPair, ewPair);
-  }
-  PairPlayers ns = pairs.names.PlayersOf(TextOf(line.At(nsPair)), Side::NorthSouth);
-  PairPlayers ew = pairs.names.PlayersOf(TextOf(line.At(ewPair)), Side::EastWest);
+  const PerSide<std::string> numbers = PairNumbersOf(line, pairs.oneWinner);
+  PairPlayers ns = pairs.names.PlayersOf(numbers[Side::NorthSouth], Side::NorthSouth);
+  PairPlayers ew = pairs.names.PlayersOf(numbers[Side::EastWest], Side::EastWest);
   const std::array inOrder{&ns.second, &ew.second, &ns.first, &ew.first};
   std::string names;
   bool known = false;
@@ -117,25 +113,46 @@ std::string RecordOf(const TravellerLine& line, int boardNumber, const SessionPa
 }  // namespace
 
 bool TravellerLine::Take(std::string_view name, pugi::xml_node child) {
-  constexpr std::array<std::string_view, Direction + 1> kNames{"LIN_DATA",
-                                                               "TRICKS",
-                                                               "SCORE",
-                                                               "CONTRACT",
-                                                               "PLAYED_BY",
-                                                               "LEAD",
-                                                               "NS_MATCH_POINTS",
-                                                               "EW_MATCH_POINTS",
-                                                               "NS_CROSS_IMP_POINTS",
-                                                               "EW_CROSS_IMP_POINTS",
-                                                               "NS_BUTLER_POINTS",
-                                                               "NS_PAIR_NUMBER",
-                                                               "EW_PAIR_NUMBER",
-                                                               "DIRECTION"};
+  constexpr std::array<std::string_view, kElements> kNames{"LIN_DATA",
+                                                           "TRICKS",
+                                                           "SCORE",
+                                                           "CONTRACT",
+                                                           "PLAYED_BY",
+                                                           "LEAD",
+                                                           "NS_MATCH_POINTS",
+                                                           "EW_MATCH_POINTS",
+                                                           "NS_CROSS_IMP_POINTS",
+                                                           "EW_CROSS_IMP_POINTS",
+                                                           "NS_BUTLER_POINTS",
+                                                           "NS_PAIR_NUMBER",
+                                                           "EW_PAIR_NUMBER",
+                                                           "DIRECTION",
+                                                           "EW_BUTLER_POINTS",
+                                                           "N_PLAYER_NUMBER",
+                                                           "E_PLAYER_NUMBER",
+                                                           "S_PLAYER_NUMBER",
+                                                           "W_PLAYER_NUMBER",
+                                                           "NOTES"};
   const auto* const known = std::find(kNames.begin(), kNames.end(), name);
   if (known == kNames.end()) return false;
   pugi::xml_node& element = elements_.at(static_cast<std::size_t>(known - kNames.begin()));
   if (!element) element = child;
   return true;
+}
+
+PerSide<std::string> PairNumbersOf(const TravellerLine& line, bool oneWinner) {
+  PerSide<std::string> numbers{
+      {TextOf(line.At(TravellerLine::NsPair)), TextOf(line.At(TravellerLine::EwPair))}};
+  if (oneWinner && TextOf(line.At(TravellerLine::Direction)) == "EW") {
+    std::swap(numbers[Side::NorthSouth], numbers[Side::EastWest]);
+  }
+  return numbers;
+}
+
+std::string NumberText(const pugi::xml_node& element) {
+  std::string text;
+  AppendNumber(text, element);
+  return text;
 }
 
 std::string LinLine(const TravellerLine& line, int boardNumber, const SessionPairs& pairs) {

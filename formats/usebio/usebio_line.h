@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -29,7 +30,14 @@ class TravellerLine {
     NsPair,
     EwPair,
     Direction,
+    EwButler,
+    NorthPlayer,
+    EastPlayer,
+    SouthPlayer,
+    WestPlayer,
+    Notes,
   };
+  static constexpr std::size_t kElements = std::size_t{Notes} + 1;
 
   /// Takes a child of the line's element, by its name; of several of a name the first counts. False
   /// when its name is none of these.
@@ -45,7 +53,7 @@ class TravellerLine {
   void ForgetLinData() { elements_.at(LinData) = {}; }
 
  private:
-  std::array<pugi::xml_node, Direction + 1> elements_;
+  std::array<pugi::xml_node, kElements> elements_;
 };
 
 /// The pairs of a session.
@@ -54,6 +62,12 @@ struct SessionPairs {
   /// Pairs change direction from board to board, and a line's direction is that of its first pair.
   bool oneWinner = false;
 };
+
+/// The numbers of the line's pairs by the side on which they sit; empty where the line has none.
+PerSide<std::string> PairNumbersOf(const TravellerLine& line, bool oneWinner);
+
+/// The number with which the element begins, in shortest form; "0" when it begins with none.
+std::string NumberText(const pugi::xml_node& element);
 
 /// The line's LIN record, decoded, and after it the scorer's own tags. The first board that it
 /// names is `boardNumber`; players that the record lacks are those of the line's pairs. Throws

@@ -8,6 +8,7 @@
 
 #include "core/text.h"
 #include "formats/results/pair_names.h"
+#include "formats/usebio/usebio_event.h"
 #include "formats/usebio/usebio_line.h"
 #include "formats/usebio/usebio_outline.h"
 #include "formats/usebio/usebio_text.h"
@@ -18,48 +19,20 @@ namespace {
 constexpr const char* kOneSession = "Only Single Session Imports supported";
 constexpr const char* kOneSection = "Only Single Section Imports supported";
 
-// Scoring words.
-constexpr const char* kMatchPoints = "MATCH_POINTS";
-constexpr const char* kImps = "IMPS";
-constexpr const char* kCrossImps = "CROSS_IMPS";
-
 void Keep(std::vector<std::string>& lines, std::string line) {
   if (lines.size() == kMaxUsebioLines) throw UsebioRefusal{kUnexpectedFormat};
   lines.push_back(std::move(line));
 }
 
-/// "3 NS Ann & Bob".
-std::string NamesLine(const pugi::xml_node& pair) {
-  std::string line = ChildText(pair, "PAIR_NUMBER") + " " + ChildText(pair, "DIRECTION");
-  std::string_view joint = " ";
-  for (const pugi::xml_node& player : pair.children("PLAYER")) {
-    line += joint;
-    line += PlayerName(ChildText(player, "PLAYER_NAME"));
-    joint = " & ";
-  }
-  return line;
-}
-
-/// "1 Hearts".
-std::string TeamLine(const pugi::xml_node& team) {
-  return std::string(Trim(NamedText(team, "TEAM_ID") + " " + NamedText(team, "TEAM_NAME")));
-}
-
-/// The first of these elements of the event, or of its session, that holds a word.
-std::string WordOf(const pugi::xml_node& event, std::initializer_list<const char*> names) {
-  for (const char* name : names) {
-    for (const pugi::xml_node& parent : {event, event.child("SESSION")}) {
-      std::string word = ChildText(parent, name);
-      if (!word.empty()) return word;
-    }
-  }
-  return {};
+/// The count that the event, or its session, gives.
+int CountOf(const pugi::xml_node& event, const char* name) {
+  const std::string count = ChildText(event, name);
+  return LeadingNumber(count.empty() ? ChildText(event.child("SESSION"), name) : count);
 }
 
 bool MoreThanOne(const pugi::xml_node& event, std::initializer_list<const char*> counts) {
-  return std::any_of(counts.begin(), counts.end(), [&event](const char* count) {
-    return LeadingNumber(WordOf(event, {count})) > 1;
-  });
+  return std::any_of(counts.begin(), counts.end(),
+                     [&event](const char* count) { return CountOf(event, count) > 1; });
 }
 
 /// Reads a document that has been parsed.
@@ -69,18 +42,19 @@ class UsebioReader {
       : document_(document), outline_(outline) {}
 
   UsebioResults Read() {
-    const pugi::xml_node club = document_.select_node("//CLUB").node();
-    const pugi::xml_node event = document_.select_node("//EVENT").node();
-    if (IsEmpty(club) || IsEmpty(event)) throw UsebioRefusal{kUnexpectedFormat};
+    const pugi::xml_node event = EventOf(document_);
     RefuseSeveral(event);
-    ReadScoring(event);
+    const EventWords words = FirstOf(WordsOf(event), WordsOf(event.child("SESSION")));
+    const bool teams = std::string_view(event.attribute("EVENT_TYPE").value()) == "TEAMS";
+    SetScoring(words, teams, results_.data);
+    bool directions = false;
     for (const pugi::xml_node& list : outline_.participants) {
-      for (const auto& pair : list.select_nodes(".//PAIR")) {
-        Keep(results_.data.names, NamesLine(pair.node()));
-        directions_ = directions_ || !ChildText(pair.node(), "DIRECTION").empty();
-      }
+      const ParticipantList read = ReadParticipants(list, teams);
+      AddParticipants(read, results_.data);
+      directions = directions || read.directions;
     }
-    const SessionPairs pairs{PairNames(results_.data.names), IsOneWinner(event)};
+    const SessionPairs pairs{PairNames(results_.data.names),
+                             IsOneWinner(words, results_.data, directions)};
     for (const UsebioBoard& board : outline_.boards) ReadBoard(board, pairs);
     // The word "IMPS" does not tell which kind of IMPs.
     if (crossImps_ && results_.data.boardScoringAbb == GetAbbreviations(kImps)) {
@@ -97,36 +71,6 @@ class UsebioReader {
     if (MoreThanOne(event, {"SECTION_COUNT"}) || outline_.sections > 1) {
       throw UsebioRefusal{kOneSection};
     }
-  }
-
-  void ReadScoring(const pugi::xml_node& event) {
-    LinFile& data = results_.data;
-    const bool teams = std::string_view(event.attribute("EVENT_TYPE").value()) == "TEAMS";
-    const std::string usual = teams ? kImps : kMatchPoints;
-    // The general word says how the match is scored in a team event, and how the boards are in a
-    // pairs event.
-    std::string word = WordOf(event, {"BOARD_SCORING_METHOD", "PAIRWISE_SCORING_METHOD"});
-    const std::string general = WordOf(event, {"SCORING_METHOD"});
-    if (word.empty() && !teams) word = general;
-    data.boardScoringMethod = word.empty() ? usual : word;
-    data.boardScoringAbb = GetAbbreviations(data.boardScoringMethod);
-    if (!teams) return;
-    data.teamEvent.emplace();
-    data.teamEvent->teamScoringMethod = general.empty() ? usual : general;
-    data.teamEvent->teamScoringAbb = GetAbbreviations(data.teamEvent->teamScoringMethod);
-    for (const pugi::xml_node& list : outline_.participants) {
-      for (const auto& team : list.select_nodes(".//TEAM")) {
-        Keep(data.teamEvent->teams, TeamLine(team.node()));
-      }
-    }
-  }
-
-  /// As the event says; if it does not, pairs have one winner when no pair of the list has a
-  /// direction.
-  bool IsOneWinner(const pugi::xml_node& event) const {
-    const std::string winners = WordOf(event, {"WINNER_TYPE"});
-    if (!winners.empty()) return LeadingNumber(winners) == 1;
-    return !results_.data.teamEvent && !directions_;
   }
 
   void ReadBoard(const UsebioBoard& board, const SessionPairs& pairs) {
@@ -163,20 +107,14 @@ class UsebioReader {
   const UsebioOutline& outline_;
   UsebioResults results_;
   bool any_ = false;
-  bool directions_ = false;  // a pair of the list has one
-  bool crossImps_ = false;   // a line gives some
+  bool crossImps_ = false;  // a line gives some
 };
 
 }  // namespace
 
 std::variant<UsebioResults, UsebioRefusal> ReadUsebio(std::string text) {
-  // An element's text becomes its value instead of a node of its own, which halves the nodes of a
-  // file whose elements hold one text each.
-  constexpr unsigned kParsing = pugi::parse_default | pugi::parse_embed_pcdata;
   pugi::xml_document document;
-  if (!document.load_buffer_inplace(text.data(), text.size(), kParsing, pugi::encoding_utf8)) {
-    return UsebioRefusal{kXmlLoadFailed};
-  }
+  if (!LoadUsebio(text, document)) return UsebioRefusal{kXmlLoadFailed};
   try {
     const UsebioOutline outline = OutlineOf(document);
     return UsebioReader(document, outline).Read();
@@ -190,7 +128,7 @@ std::string GetAbbreviations(std::string_view scoring) {
       {kMatchPoints, "MP"},
       {kImps, "IMP"},
       {kCrossImps, "XIMP"},
-      {"BUTLER_IMPS", "BIMP"},
+      {kButlerImps, "BIMP"},
   }};
   const auto* const word = std::find_if(kWords.begin(), kWords.end(), [scoring](const auto& entry) {
     return entry.first == scoring;

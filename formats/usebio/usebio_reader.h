@@ -14,6 +14,12 @@
 
 namespace tricklet {
 
+// Scoring words.
+inline constexpr const char* kMatchPoints = "MATCH_POINTS";
+inline constexpr const char* kImps = "IMPS";
+inline constexpr const char* kCrossImps = "CROSS_IMPS";
+inline constexpr const char* kButlerImps = "BUTLER_IMPS";
+
 /// What one file holds.
 struct UsebioResults {
   LinFile data;        ///< a LIN record per traveller line, with the private tags

@@ -8,6 +8,9 @@
 
 namespace tricklet {
 
+/// Parses `text` (UTF-8) in its place; it must outlive `document`. False when it is no XML.
+bool LoadUsebio(std::string& text, pugi::xml_document& document);
+
 // All of these throw `UsebioRefusal` for a text that is longer than any in a results file, and give
 // an empty text for an element that is not there.
 
