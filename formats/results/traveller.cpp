@@ -11,6 +11,7 @@
 #include "formats/lin/lin_record.h"
 #include "formats/results/lin_boards.h"
 #include "formats/results/pair_names.h"
+#include "formats/results/ruling.h"
 
 namespace tricklet {
 namespace {
@@ -81,7 +82,8 @@ bool SaysPassedOut(std::string_view contract) {
                      [&](std::string_view word) { return EqualNoCase(word, contract); });
 }
 
-/// The score is a ruling: "A6040". What was bid and played did not decide it.
+/// The score is a ruling: "A6040", or says that there is none. What was bid and played did not
+/// decide it.
 bool IsAdjusted(const LinRecord& record) {
   const std::string& score = Result(record, LinResultTag::Qens);
   return !score.empty() && !NumberOf<int>(score);
@@ -125,7 +127,7 @@ void ReadScore(const LinRecord& record, const Board& scored, TravellerRow& row) 
   row.score = NumberOf<int>(text);
   if (row.score) return;
   constexpr std::size_t kLongest = 12;  // longer ones are no rulings, and would fill the line
-  row.adjusted = Showable(text, kLongest);
+  if (!IsNotPlayed(text)) row.adjusted = Showable(text, kLongest);
   if (!text.empty()) return;
   if (row.contract == kAllPass) row.score = 0;
   if (scored.contractLevel > 0 && row.tricks) {
@@ -179,7 +181,17 @@ bool HasPoints(const TravellerRow& row) {
                      [](const auto& points) { return points && *points != 0; });
 }
 
+/// The tables with a score are compared among themselves; a ruling gets its percentage of the top.
 void GiveMatchPoints(BoardScores scores, Traveller& traveller) {
+  const auto played = std::count_if(scores.begin(), scores.end(),
+                                    [](const auto& score) { return score.has_value(); });
+  const auto top = static_cast<float>(2 * (played - 1));
+  for (TravellerRow& row : traveller.rows) {
+    const auto percentages = PercentagesOf(row.adjusted);
+    for (const Side side : {Side::NorthSouth, Side::EastWest}) {
+      if (const auto share = percentages[side]) row.points[side] = top * *share / 100;
+    }
+  }
   const auto points = MatchPoints(scores);
   for (std::size_t table = 0; table < points.size(); ++table) {
     if (!points[table]) continue;

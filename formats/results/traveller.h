@@ -60,7 +60,8 @@ TravellerRow MakeTravellerRow(const std::string& record, int boardNumber);
 /// The traveller of `boardNumber`; without rows where the file has no record of the board.
 ///
 /// Where all points of the board are 0 or missing they are computed when there are at least two
-/// scores: match points, or IMPs against every other table. In a match of teams only two tables can
+/// scores: match points, of which a ruling gets its percentage, or IMPs against every other table,
+/// where a ruling gets none. In a match of teams only two tables can
 /// be compared, as the file does not say which of more belong together.
 Traveller MakeTraveller(const LinFile& file, int boardNumber);
 

@@ -8,6 +8,7 @@
 
 #include "core/board.h"
 #include "core/text.h"
+#include "formats/results/ruling.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/symbols.h"
 #include "ui/style/theme.h"
@@ -97,9 +98,11 @@ TravellerCell PointsCell(const TravellerRow& row, const Traveller& traveller) {
     return NumberCell(*ours, ToQt(ShortestText(*ours)).replace(QLatin1Char('-'), QChar(0x2212)));
   }
   const float all = *ours + row.points[Side::EastWest].value_or(0);
-  if (all <= 0) return NumberCell(std::nullopt, QString());
+  const auto ruled = PercentagesOf(row.adjusted)[Side::NorthSouth];
+  if (all <= 0 && !ruled) return NumberCell(std::nullopt, QString());
   constexpr double kPercent = 100;
-  const double share = kPercent * *ours / all;
+  // What a ruling gives the two sides need not add up.
+  const double share = ruled ? double{*ruled} : kPercent * *ours / all;
   return NumberCell(share, QString::number(std::lround(share)));
 }
 

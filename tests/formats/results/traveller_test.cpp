@@ -136,6 +136,10 @@ TEST(Traveller, PointsAreComputedWhereTheFileHasNone) {
       {"MATCH_POINTS", "620 -100 620", "", "MP= 3:1 0:4 3:1"},
       {"MATCH_POINTS", "620", "", "MP= -"},
       {"MATCH_POINTS", "620 A50 50", "", "MP= 2:0 - 0:2"},
+      // a ruling has its share of the top of the others
+      {"MATCH_POINTS", "620 A6040 50 AVE 50 60%/60% NP", "",
+       "MP= 4:0 2.4:1.6 1:3 2:2 1:3 2.4:2.4 -"},
+      {"MATCH_POINTS", "620 av-/AV+ 50 A9 A60/x A140/0 100/-1", "", "MP= 2:0 0.8:1.2 0:2 - - - -"},
       {"CROSS_IMPS", "A50 620", "", "XIMP= - -"},
       {"CROSS_IMPS", "620 600 -100", "", "XIMP= 13:-13 11:-11 -24:24"},
       {"CROSS_IMPS", "50 50", "", "XIMP= 0:0 0:0"},
