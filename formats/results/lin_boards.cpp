@@ -1,27 +1,16 @@
 #include "formats/results/lin_boards.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <map>
 #include <optional>
 #include <utility>
 
 #include "core/statistics.h"
 #include "core/text.h"
-#include "formats/lin/lin_record.h"
 #include "formats/sink/record_text.h"
 
 namespace tricklet {
 namespace {
-
-/// How much a record tells of the deal, in ascending order.
-enum class DealRank : std::uint8_t { None, Any, Possible, Complete };
-
-DealRank RankOf(const LinRecord& record) {
-  if (!record.hasDeal) return DealRank::None;
-  if (!CanBeDealt(record)) return DealRank::Any;
-  return GetStats(record.hands).allHandsComplete ? DealRank::Complete : DealRank::Possible;
-}
 
 /// A record, and how much of the deal it tells.
 struct RankedRecord {
@@ -59,6 +48,12 @@ std::optional<std::string_view> AfterHeader(std::string_view record) {
 }
 
 }  // namespace
+
+DealRank RankOf(const LinRecord& record) {
+  if (!record.hasDeal) return DealRank::None;
+  if (!CanBeDealt(record)) return DealRank::Any;
+  return GetStats(record.hands).allHandsComplete ? DealRank::Complete : DealRank::Possible;
+}
 
 int BoardNumberOfLin(std::string_view record) {
   const auto number = AfterHeader(record);

@@ -25,18 +25,6 @@ void Keep(const std::vector<std::string>& lines, std::vector<std::string>& kept)
   kept.insert(kept.end(), lines.begin(), lines.end());
 }
 
-/// "3 NS Ann & Bob".
-std::string NamesLine(const pugi::xml_node& pair) {
-  std::string line = ChildText(pair, "PAIR_NUMBER") + " " + ChildText(pair, "DIRECTION");
-  std::string_view joint = " ";
-  for (const pugi::xml_node& player : pair.children("PLAYER")) {
-    line += joint;
-    line += PlayerName(ChildText(player, "PLAYER_NAME"));
-    joint = " & ";
-  }
-  return line;
-}
-
 /// "1 Hearts".
 std::string TeamLine(const pugi::xml_node& team) {
   return std::string(Trim(NamedText(team, "TEAM_ID") + " " + NamedText(team, "TEAM_NAME")));
@@ -63,6 +51,17 @@ EventWords FirstOf(EventWords first, const EventWords& second) {
     if ((first.*word).empty()) first.*word = second.*word;
   }
   return first;
+}
+
+std::string NamesLine(const pugi::xml_node& pair) {
+  std::string line = ChildText(pair, "PAIR_NUMBER") + " " + ChildText(pair, "DIRECTION");
+  std::string_view joint = " ";
+  for (const pugi::xml_node& player : pair.children("PLAYER")) {
+    line += joint;
+    line += PlayerName(ChildText(player, "PLAYER_NAME"));
+    joint = " & ";
+  }
+  return line;
 }
 
 ParticipantList ReadParticipants(const pugi::xml_node& list, bool teams) {

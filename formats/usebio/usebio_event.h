@@ -26,10 +26,13 @@ EventWords FirstOf(EventWords first, const EventWords& second);
 
 /// One list of participants.
 struct ParticipantList {
-  std::vector<std::string> names;  ///< a line per pair: "3 NS Ann & Bob"
+  std::vector<std::string> names;  ///< `NamesLine` of each pair
   std::vector<std::string> teams;  ///< a line per team: "1 Hearts"
   bool directions = false;         ///< a pair of the list has one
 };
+
+/// A pair's line: "3 NS Ann & Bob".
+std::string NamesLine(const pugi::xml_node& pair);
 
 /// Reads a list; its teams only where the event is one of `teams`.
 ParticipantList ReadParticipants(const pugi::xml_node& list, bool teams);
