@@ -8,6 +8,7 @@
 #include "formats/contents/lin_contents.h"
 #include "formats/dlm/dlm_contents.h"
 #include "formats/pbn/pbn_contents.h"
+#include "formats/usebio/usebio_contents.h"
 
 namespace tricklet {
 namespace {
@@ -131,7 +132,7 @@ FileContents ReadContents(std::string_view type, const std::string& bytes) {
   if (type == "pbn") return ReadPbnContents(bytes);
   if (type == "dlm") return ReadDlmContents(bytes);
   if (type == "lin") return ReadLinContents(bytes);
-  return {};  // no full reader yet: imported without a look
+  return ReadUsebioContents(bytes);
 }
 
 bool LosesNothing(const RecordReader& reader, const RecordSource& source,
