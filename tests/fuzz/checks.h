@@ -3,12 +3,17 @@
 #pragma once
 
 #include <cstdlib>
+#include <set>
+#include <string>
 #include <string_view>
+#include <utility>
 
 #include "core/statistics.h"
 #include "core/text.h"
+#include "formats/look/plan_rows.h"
 #include "formats/pbn/pbn_writer.h"
 #include "formats/results/lin_boards.h"
+#include "formats/results/table_record.h"
 #include "formats/sink/board_sink.h"
 #include "formats/sink/record_text.h"
 #include "library/board_file.h"
@@ -64,6 +69,47 @@ inline void CheckLinFile(const LinFile& results) {
   CheckingSink sink;
   ReadResult result;
   ReadLinCards(read, kFirstBoardNumber, kLastBoardNumber, sink, result);
+}
+
+/// A plan gives each board that it stores a place of its own, and the board and its results can be
+/// kept under its number. All that is shown of the plan can be shown.
+inline void CheckPlan(const FileContents& contents, const ImportChoices& choices) {
+  BoardsThere there{};
+  there.at(2) = true;
+  const ImportPlan plan = PlanImport(contents, choices, there);
+  std::set<std::pair<int, int>> places;
+  for (const PlannedBoard& planned : plan.boards) {
+    Require(!planned.games.empty());
+    if (!IsStored(planned.fate)) continue;
+    Require(places.emplace(planned.part, planned.number).second);
+    const FoundGame& game = contents.sections.at(choices.section).games.at(planned.games.front());
+    Board board = game.board;
+    board.boardNumber = planned.number;
+    GetContract(board);
+    CheckBoard(board);
+    for (const std::string& line : game.records) {
+      Require(BoardNumberOfLin(RenumberedLin(line, planned.number)) == planned.number);
+    }
+  }
+  Require(plan.stored == static_cast<int>(places.size()));
+  for (const PlanRow& row : PlanRows(contents, choices, plan, "Club")) {
+    Require(IsValidUtf8(row.inFile + row.hand + row.what));
+    Require(row.what.find('\n') == std::string::npos);
+  }
+}
+
+/// Every plan for the file holds, whatever somebody decides.
+inline void CheckContents(const FileContents& contents) {
+  for (ImportChoices choices; choices.section < contents.sections.size(); ++choices.section) {
+    for (const Numbering numbers :
+         {Numbering::Keep, Numbering::First, Numbering::Next, Numbering::From}) {
+      choices.numbers = numbers;
+      choices.from = kLastBoardNumber;
+      choices.dealer = choices.dealer == DealerBy::File ? DealerBy::Number : DealerBy::File;
+      choices.skipBad = !choices.skipBad;
+      CheckPlan(contents, choices);
+    }
+  }
 }
 
 }  // namespace tricklet::fuzz

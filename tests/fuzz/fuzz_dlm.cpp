@@ -1,6 +1,7 @@
 // Any bytes as a DLM file: nothing but boards, a bad line or a fault may come of them, and every
 // board that is stored has the letters that it was read from.
 #include "core/fault.h"
+#include "formats/dlm/dlm_contents.h"
 #include "formats/dlm/dlm_deal.h"
 #include "formats/dlm/dlm_reader.h"
 #include "tests/fuzz/checks.h"
@@ -26,6 +27,7 @@ void Check(std::string_view bytes) {
   } catch (const Fault&) {
     // a deal with a bad letter
   }
+  CheckContents(ReadDlmContents(bytes));
 }
 
 }  // namespace tricklet::fuzz

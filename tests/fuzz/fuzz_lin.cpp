@@ -1,6 +1,7 @@
 // Any bytes as a LIN file: nothing but boards may come of them; a board that is stored can be
 // written to its file and comes back, and its record for "LIN.txt" names it.
 #include "core/fault.h"
+#include "formats/contents/lin_contents.h"
 #include "formats/lin/lin_reader.h"
 #include "formats/lin/lin_record.h"
 #include "tests/fuzz/checks.h"
@@ -18,4 +19,5 @@ void tricklet::fuzz::Check(std::string_view bytes) {
   } catch (const Fault&) {
     // a broken escape
   }
+  CheckContents(ReadLinContents(bytes));
 }
