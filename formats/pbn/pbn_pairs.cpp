@@ -36,13 +36,17 @@ PairPlayers PbnPlayers(std::string_view names) {
 void PbnPairs::Add(const PbnGame& game) {
   if (!game.Has(PbnTag::TotalScoreTable)) return;
   PbnTable table(game, PbnTag::TotalScoreTable);
+  const auto namesOf = table.Find({"NAMES", "NAME", "PLAYERS", "PLAYER"});
+  const auto player = table.Find({"PLAYERID"});
+  const auto number = table.Find({"PAIRID", "PAIR"});
+  const auto direction = table.Find({"DIRECTION"});
   while (table.NextRow()) {
-    const std::string names = table.Cell({"NAMES", "NAME", "PLAYERS", "PLAYER"});
+    const std::string names = table.Cell(namesOf);
     if (names.empty()) continue;
-    if (const std::string player = WithoutBlanks(table.Cell({"PLAYERID"})); !player.empty()) {
-      players_.try_emplace(player, PlayerName(names));
+    if (const std::string own = WithoutBlanks(table.Cell(player)); !own.empty()) {
+      players_.try_emplace(own, PlayerName(names));
     }
-    Pair pair{WithoutBlanks(table.Cell({"PAIRID", "PAIR"})), Direction(table.Cell({"DIRECTION"})),
+    Pair pair{WithoutBlanks(table.Cell(number)), Direction(table.Cell(direction)),
               PbnPlayers(names)};
     if (pair.number.empty()) continue;
     if (!directions_[pair.number].insert(pair.direction).second) continue;

@@ -7,9 +7,8 @@
 
 #include "formats/contents/contents.h"
 #include "formats/pbn/pbn_games.h"
-#include "formats/pbn/pbn_pairs.h"
 #include "formats/pbn/pbn_play.h"
-#include "formats/pbn/pbn_table.h"
+#include "formats/pbn/pbn_score_table.h"
 #include "formats/results/table_record.h"
 
 namespace tricklet {
@@ -19,12 +18,6 @@ struct PbnPoints {
   bool matchPoints = false;  ///< some are given
   bool imps = false;
   bool fractions = false;  ///< IMPs with a fraction: against several tables
-};
-
-/// The pairs of a file by their numbers.
-struct PbnSession {
-  PbnPairs pairs;
-  PairNames names;  ///< of `pairs`
 };
 
 /// Most records that are made of the rows of one file's score tables, of which one can say that it
@@ -52,15 +45,13 @@ class PbnResults {
     std::size_t tables = 1;  // that it stands for
   };
 
-  const PbnSession& session_;
-  PbnPoints points_;
-  std::size_t rows_ = 0;
-
-  TableRecord RowOf(const PbnTable& table, const TableRecord& common) const;
-  PerSeat<std::string> PlayersOf(const PbnTable& table) const;
   std::vector<Row> RowsOf(const PbnGame& game, const TableRecord& common,
                           std::vector<UnreadPart>& unread);
   void NotePoints(const TableRecord& record);
+
+  const PbnSession& session_;
+  PbnPoints points_;
+  std::size_t rows_ = 0;
 };
 
 /// The game gives a result of its own: a contract, tricks, a score, a play or a table.

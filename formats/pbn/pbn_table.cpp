@@ -33,7 +33,7 @@ std::string ColumnName(std::string_view column) {
 
 PbnTable::PbnTable(const PbnGame& game, PbnTag tag)
     : game_(game), field_(game.fields[tag]), next_(field_.firstPiece) {
-  // No table has more columns; each row is searched for each column that is wanted.
+  // No table has more columns.
   constexpr std::size_t kMostColumns = 100;
   std::string_view rest = field_.value;
   while (!rest.empty() && columns_.size() < kMostColumns) {
@@ -57,15 +57,18 @@ bool PbnTable::NextRow() {
   return true;
 }
 
-std::string PbnTable::Cell(std::initializer_list<std::string_view> columns) const {
-  for (const std::string_view wanted : columns) {
-    const auto column = std::find(columns_.begin(), columns_.end(), wanted);
-    const auto at = static_cast<std::size_t>(column - columns_.begin());
-    if (at >= cells_.size()) continue;
-    std::string cell = PbnText(cells_[at]);
-    if (!IsUnknownPbn(cell)) return cell;
+PbnTable::Column PbnTable::Find(std::initializer_list<std::string_view> names) const {
+  for (const std::string_view name : names) {
+    const auto column = std::find(columns_.begin(), columns_.end(), name);
+    if (column != columns_.end()) return static_cast<std::size_t>(column - columns_.begin());
   }
-  return {};
+  return std::nullopt;
+}
+
+std::string PbnTable::Cell(Column column) const {
+  if (!column || *column >= cells_.size() || IsUnknownPbn(cells_[*column])) return {};
+  std::string cell = PbnText(cells_[*column]);
+  return IsUnknownPbn(cell) ? "" : cell;
 }
 
 }  // namespace tricklet

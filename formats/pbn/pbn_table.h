@@ -20,9 +20,14 @@ class PbnTable {
   /// Moves to the next row; false past the last. An empty line ends the table.
   bool NextRow();
 
-  /// The cell of the current row under the first of these columns that knows it: in any letter
-  /// case, without the quotes, escapes and blanks around it. Empty where none does.
-  std::string Cell(std::initializer_list<std::string_view> columns) const;
+  /// The position of a column; nothing for one that the table has not.
+  using Column = std::optional<std::size_t>;
+  /// The first of these, their names in upper case, that the table has.
+  Column Find(std::initializer_list<std::string_view> names) const;
+
+  /// The cell of the current row without the quotes, escapes and blanks around it; empty where it
+  /// is unknown or not there.
+  std::string Cell(Column column) const;
 
  private:
   const PbnGame& game_;
