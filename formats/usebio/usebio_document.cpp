@@ -38,6 +38,16 @@ bool IsOf(std::string_view type, std::string_view word) {
   return type.find(word) != std::string_view::npos;
 }
 
+/// What a list takes in memory, in bytes, for each section that it serves.
+std::size_t SizeOf(const ListedPlayers& listed) {
+  constexpr std::size_t kEach = 64;  // what a text takes beside its bytes
+  const std::size_t texts = listed.list.names.size() + listed.list.teams.size() +
+                            listed.individuals.size() + listed.ofTeams.size();
+  std::size_t size = kEach + kEach * texts;
+  for (const std::string& name : listed.list.names) size += name.size();
+  return size;
+}
+
 /// The scoring word where the event has only its type.
 void AddUsualWord(std::string_view type, EventWords& words) {
   if (!words.boardScoring.empty() || !words.pairwiseScoring.empty() || !words.scoring.empty()) {
@@ -113,8 +123,20 @@ void UsebioDocument::FindSections() {
   for (const GivenDeal& deal : deals_) {
     if (!served.contains(deal.place)) find(deal.place);
   }
+  RefuseTooManyPlayers();
   sections_.reserve(sectionPlaces_.size());
   for (const UsebioPlace& place : sectionPlaces_) sections_.push_back(MakeSection(place));
+}
+
+/// Lists that serve many sections must not fill the memory.
+void UsebioDocument::RefuseTooManyPlayers() const {
+  std::vector<std::size_t> sizes;
+  for (const ListedPlayers& listed : lists_) sizes.push_back(SizeOf(listed));
+  std::size_t all = 0;
+  for (const UsebioPlace& place : sectionPlaces_) {
+    for (const std::size_t at : ListsFor(place)) all += sizes[at];
+    if (all > kMaxXmlBytes) throw UsebioRefusal{kUnexpectedFormat};
+  }
 }
 
 UsebioSection UsebioDocument::MakeSection(const UsebioPlace& place) {
@@ -122,7 +144,8 @@ UsebioSection UsebioDocument::MakeSection(const UsebioPlace& place) {
   const std::string type = TypeOf(own ? own : event_);
   EventWords words = WordsAt(place);
   AddUsualWord(type, words);
-  const std::vector<const ListedPlayers*> lists = ListsFor(place);
+  std::vector<const ListedPlayers*> lists;
+  for (const std::size_t at : ListsFor(place)) lists.push_back(&lists_[at]);
   LinFile results;
   SetScoring(words, IsOf(type, "TEAM"), results);
   bool directions = false;
@@ -130,7 +153,6 @@ UsebioSection UsebioDocument::MakeSection(const UsebioPlace& place) {
     AddParticipants(listed->list, results);
     directions = directions || listed->list.directions;
   }
-  Spend(results, lists);
   SessionPairs pairs{PairNames(results.names), IsOneWinner(words, results, directions)};
   return {std::move(results), UsebioPlayers(std::move(pairs), lists)};
 }
@@ -154,7 +176,7 @@ EventWords UsebioDocument::WordsAt(const UsebioPlace& place) {
 }
 
 /// Those of the place and of all that it lies in; for a single section those of the whole file.
-std::vector<const ListedPlayers*> UsebioDocument::ListsFor(const UsebioPlace& place) const {
+std::set<std::size_t> UsebioDocument::ListsFor(const UsebioPlace& place) const {
   std::set<std::size_t> inOrder;
   for (const UsebioPlace& around : PlacesAround(place)) {
     const auto found = listsAt_.find(around);
@@ -163,20 +185,7 @@ std::vector<const ListedPlayers*> UsebioDocument::ListsFor(const UsebioPlace& pl
   for (std::size_t at = 0; sectionPlaces_.size() == 1 && at < lists_.size(); ++at) {
     inOrder.insert(at);
   }
-  std::vector<const ListedPlayers*> lists;
-  for (const std::size_t at : inOrder) lists.push_back(&lists_[at]);
-  return lists;
-}
-
-/// Lists that serve many sections must not fill the memory.
-void UsebioDocument::Spend(const LinFile& results, const std::vector<const ListedPlayers*>& lists) {
-  constexpr std::size_t kEach = 64;  // what a text takes beside its bytes
-  for (const std::string& name : results.names) spent_ += kEach + name.size();
-  for (const ListedPlayers* listed : lists) {
-    spent_ += kEach + kEach * (listed->individuals.size() + listed->ofTeams.size() +
-                               listed->list.teams.size());
-  }
-  if (spent_ > kMaxXmlBytes) throw UsebioRefusal{kUnexpectedFormat};
+  return inOrder;
 }
 
 /// The board's own deal, else the one that is given for the board in the smallest place around it.
@@ -217,20 +226,19 @@ void UsebioDocument::AddUnplayed() {
   for (const GivenDeal& deal : deals_) {
     if (!deal.played) unplayed[deal.place].push_back(&deal);
   }
-  std::size_t added = 0;
+  std::vector<std::pair<std::size_t, const GivenDeal*>> missing;  // in which section
   for (std::size_t at = 0; at < sections_.size(); ++at) {
-    UsebioPlace before{-1, -1, -1};
-    for (const UsebioPlace& around : PlacesAround(sectionPlaces_[at])) {
-      const auto found = around == before ? unplayed.end() : unplayed.find(around);
-      before = around;
+    const auto around = PlacesAround(sectionPlaces_[at]);
+    for (const UsebioPlace& place : std::set<UsebioPlace>(around.begin(), around.end())) {
+      const auto found = unplayed.find(place);
       if (found == unplayed.end()) continue;
-      added += found->second.size();
-      if (added > kMaxUsebioLines) throw UsebioRefusal{kUnexpectedFormat};
-      UsebioGames& games = sections_[at].Games();
-      for (const GivenDeal* deal : found->second) {
-        games.AddDeal(games.Open(deal->label, deal->line), deal->hands);
-      }
+      for (const GivenDeal* deal : found->second) missing.emplace_back(at, deal);
+      if (missing.size() > kMaxUsebioLines) throw UsebioRefusal{kUnexpectedFormat};
     }
+  }
+  for (const auto& [at, deal] : missing) {
+    UsebioGames& games = sections_[at].Games();
+    games.AddDeal(games.Open(deal->label, deal->line), deal->hands);
   }
 }
 

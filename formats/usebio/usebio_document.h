@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <map>
+#include <set>
 #include <string_view>
 #include <unordered_map>
 #include <utility>
@@ -56,8 +57,8 @@ class UsebioDocument {
   void AddFileNote(FileContents& contents) const;
   std::size_t DealOf(const PlayedBoard& board) const;
   const UsebioMatch* MatchOf(const pugi::xml_node& match);
-  std::vector<const ListedPlayers*> ListsFor(const UsebioPlace& place) const;
-  void Spend(const LinFile& results, const std::vector<const ListedPlayers*>& lists);
+  std::set<std::size_t> ListsFor(const UsebioPlace& place) const;
+  void RefuseTooManyPlayers() const;
 
   pugi::xml_document& document_;
   LineIndex lines_;
@@ -75,7 +76,6 @@ class UsebioDocument {
   std::map<UsebioPlace, std::size_t> sectionAt_;
   std::vector<UsebioPlace> sectionPlaces_;
   std::vector<UsebioSection> sections_;
-  std::size_t spent_ = 0;  // bytes that names of all sections take
 };
 
 }  // namespace tricklet
