@@ -27,7 +27,7 @@ void Check(std::string_view bytes) {
   } catch (const Fault&) {
     // a deal with a bad letter
   }
-  CheckContents(ReadDlmContents(bytes));
+  CheckPlans(ReadDlmContents(bytes));
 }
 
 }  // namespace tricklet::fuzz

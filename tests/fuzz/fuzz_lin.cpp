@@ -19,5 +19,5 @@ void tricklet::fuzz::Check(std::string_view bytes) {
   } catch (const Fault&) {
     // a broken escape
   }
-  CheckContents(ReadLinContents(bytes));
+  CheckPlans(ReadLinContents(bytes));
 }

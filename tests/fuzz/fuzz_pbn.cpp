@@ -47,7 +47,9 @@ void CheckContents(const FileContents& contents) {
 }  // namespace tricklet::fuzz
 
 void tricklet::fuzz::Check(std::string_view bytes) {
-  CheckContents(ReadPbnContents(bytes));
+  const FileContents contents = ReadPbnContents(bytes);
+  CheckContents(contents);
+  CheckPlans(contents);
   CheckingSink sink;
   try {
     ReadPBN(bytes, sink);

@@ -36,6 +36,7 @@ void CheckContents(std::string_view bytes) {
   for (const UnreadPart& part : contents.unread) {
     Require(IsValidUtf8(part.label) && IsValidUtf8(part.text) && !part.reason.empty());
   }
+  CheckPlans(contents);
 }
 
 }  // namespace
