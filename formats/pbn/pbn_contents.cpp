@@ -26,6 +26,13 @@ struct DealBefore {
   std::optional<tricklet::Vulnerability> vulnerability;
 };
 
+/// The game has no deal of its own, or the same, and no other number.
+bool IsOf(const DealBefore& before, const FoundGame& found, bool withoutDeal) {
+  const bool sameNumber = found.label.empty() || found.label == before.label;
+  const bool sameDeal = HasCards(found.board.hands) && found.board.hands == before.hands;
+  return sameNumber && (withoutDeal || sameDeal);
+}
+
 /// The value of the tag, fit to be shown.
 std::string ShownValue(const PbnGame& game, PbnTag tag) {
   return Showable(game.Value(tag));
@@ -131,7 +138,7 @@ class ContentsReader {
     }
     found.dealer = PbnSeat(game.Value(PbnTag::Dealer));
     found.vulnerability = PbnVulnerability(PbnText(game.fields[PbnTag::Vulnerable].value));
-    if (before_ && IsOfDealBefore(found, !field.given)) {
+    if (before_ && IsOf(*before_, found, !field.given)) {
       found.label = before_->label;
       found.board.hands = before_->hands;
       if (!found.dealer) found.dealer = before_->dealer;
@@ -141,12 +148,6 @@ class ContentsReader {
     found.number = LeadingNumber(found.label);
     before_ = {found.label, found.board.hands, found.dealer, found.vulnerability};
     return read;
-  }
-
-  bool IsOfDealBefore(const FoundGame& found, bool withoutDeal) const {
-    const bool sameNumber = found.label.empty() || found.label == before_->label;
-    const bool sameDeal = HasCards(found.board.hands) && found.board.hands == before_->hands;
-    return sameNumber && (withoutDeal || sameDeal);
   }
 
   std::string_view text_;

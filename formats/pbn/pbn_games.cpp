@@ -16,7 +16,7 @@ std::string PbnGame::Value(PbnTag tag) const {
 bool PbnGames::Next(PbnGame& game) {
   using Item = PbnScanner::Item;
   Clear(game);
-  if (pending_) AddTag(game, *std::exchange(pending_, std::nullopt));
+  if (const auto first = std::exchange(pending_, std::nullopt)) AddTag(game, *first);
   while (!pending_) {
     const Item item = scanner_.Next();
     if (item == Item::End) break;
@@ -108,14 +108,15 @@ void PbnGames::Inherit(PbnGame& game) {
   for (int index = 0; index < kPbnTags; ++index) {
     const auto tag = static_cast<PbnTag>(index);
     PbnField& field = game.fields[tag];
+    std::optional<std::string_view>& standing = standing_[tag];
     const bool canPass = field.value.size() <= kLongest;
     if (field.given && field.value == "#") {
       field.value = before_[tag].value_or("");
     } else if (field.given && field.value.starts_with("##")) {
       field.value.remove_prefix(2);
-      standing_[tag] = canPass ? std::optional(field.value) : std::nullopt;
-    } else if (!field.given && standing_[tag]) {
-      field.value = *standing_[tag];
+      standing = canPass ? std::optional(field.value) : std::nullopt;
+    } else if (!field.given && standing) {
+      field.value = *standing;
       field.given = true;
     }
     before_[tag] = field.given && canPass ? std::optional(field.value) : std::nullopt;

@@ -39,19 +39,19 @@ std::optional<TableRow> ReadRow(std::string_view row) {
 struct Rows {
   int count = 0;
   MakeableTable table;
-  std::array<bool, kTableRows> seen{};
+  EnumArray<TableSeat, EnumArray<TableStrain, bool, kStrains>, kSeats> seen;
   std::int16_t last = 0;
 
   void Add(const TableRow& row) {
     ++count;
     table[row.declarer][row.strain] = row.tricks;
-    seen.at(static_cast<std::size_t>(IndexOf(row.declarer) * kStrains + IndexOf(row.strain))) =
-        true;
+    seen[row.declarer][row.strain] = true;
     last = row.tricks;
   }
   bool Complete() const {
-    return count == kTableRows &&
-           std::all_of(seen.begin(), seen.end(), [](bool cell) { return cell; });
+    return count == kTableRows && std::all_of(seen.begin(), seen.end(), [](const auto& strains) {
+             return std::all_of(strains.begin(), strains.end(), [](bool cell) { return cell; });
+           });
   }
 };
 

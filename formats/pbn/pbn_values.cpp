@@ -167,7 +167,7 @@ std::optional<int> PbnTricks(std::string_view text, std::optional<Seat> declarer
   if (numbers.own) return TricksOf(*numbers.own);
   if (!declarer) return std::nullopt;
   const Side side = SideOf(*declarer);
-  if (numbers.of[side]) return TricksOf(*numbers.of[side]);
+  if (const auto own = numbers.of[side]) return TricksOf(*own);
   const auto others = numbers.of[OtherSide(side)];
   return others ? TricksOf(kCardsInHand - *others) : std::nullopt;
 }
