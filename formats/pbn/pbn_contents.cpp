@@ -65,7 +65,11 @@ void AddLine(const std::string& line, std::string& text) {
 /// The comments, then the notes; those of the calls only where no record has them.
 std::string NotesOf(const PbnGame& game, const PbnAuction& auction, bool callsKept) {
   std::string text;
-  for (const std::string_view comment : game.comments) AddLine(PbnComment(comment), text);
+  const std::string number = "Board " + ShownValue(game, PbnTag::Board);
+  for (const std::string_view comment : game.comments) {
+    const std::string line = PbnComment(comment);
+    if (line != number) AddLine(line, text);  // which `PbnOptions::shark` writes
+  }
   for (const PbnNote& note : game.notes) {
     if (note.section != PbnTag::Auction || !callsKept) AddLine(PbnNoteLine(note.text), text);
   }

@@ -11,6 +11,7 @@
 #include "core/text.h"
 #include "formats/lin/lin_record.h"
 #include "formats/pbn/pbn_reader.h"
+#include "formats/pbn/pbn_writer.h"
 #include "formats/results/traveller.h"
 #include "tests/support/collector.h"
 #include "tests/support/records.h"
@@ -171,7 +172,7 @@ TEST(PbnContents, MakesARecordOfAResult) {
   const std::pair<std::string, const char*> kCases[] = {
       {"", ""},
       {"[Auction \"N\"]\n1C AP", ""},
-      {"[Auction \"N\"]\n1C AP\n[Result \"0\"]", ""},  // not known
+      {"[Auction \"N\"]\n1C AP\n[Result \"0\"]", ""},
       {names, "Not played A & B v \n"},
       {"[Contract \"4HX\"]\n[Declarer \"^S\"]\n[Result \"^9\"]", "4Hx by South -1 -100  v \n"},
       {"[Contract \"3N\"]\n[Declarer \"W\"]\n[Result \"NS 4\"]", "3NT by West = -400  v \n"},
@@ -248,6 +249,16 @@ TEST(PbnContents, TellsTheScoring) {
     Tables(head + body, &scoring);
     EXPECT_EQ(scoring, expected) << body;
   }
+}
+
+TEST(PbnContents, FindsNothingButTheBoardInOurOwnFiles) {
+  Board board = OneGame("[Board \"7\"]\n" + kPbnDeal + "[Auction \"S\"]\n1C X AP\n").board;
+  board.boardNumber = 7;
+  const FoundGame game = OneGame(PbnRecord(board, "Library", {.bids = true, .shark = true}));
+  EXPECT_EQ(game.label + game.notes, "7");
+  EXPECT_EQ(game.board.hands, board.hands);
+  EXPECT_EQ(game.board.calls, board.calls);
+  EXPECT_EQ(game.records.size(), 0U) << "the result 0 that is written is none";
 }
 
 TEST(PbnContents, KeepsCommentsAndNotes) {
