@@ -77,9 +77,9 @@ class RowMaker {
 
  private:
   std::string PlaceText(const PlannedBoard& board) const {
-    const std::string number = std::to_string(board.number);
-    if (board.part == 0) return number;
-    return number + " in " + Showable(library_) + "-" + std::to_string(board.part + 1);
+    std::string text = std::to_string(board.number);
+    if (board.part > 0) text += " in " + Showable(library_) + "-" + std::to_string(board.part + 1);
+    return text;
   }
 
   static void Add(std::string& text, const std::string& more) {
