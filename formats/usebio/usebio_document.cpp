@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <limits>
-#include <set>
+#include <optional>
 #include <string>
 
 #include "core/text.h"
@@ -30,6 +30,7 @@ std::optional<BoardLabel> LabelOf(const pugi::xml_node& board) {
   return BoardLabel{end == label.size() ? std::to_string(number) : Showable(label), number};
 }
 
+/// The kind of event in upper case: "MP_PAIRS".
 std::string TypeOf(const pugi::xml_node& event) {
   return ToUpper(std::string_view(event.attribute("EVENT_TYPE").value()));
 }
@@ -131,6 +132,7 @@ void UsebioDocument::FindSections() {
 /// Lists that serve many sections must not fill the memory.
 void UsebioDocument::RefuseTooManyPlayers() const {
   std::vector<std::size_t> sizes;
+  sizes.reserve(lists_.size());
   for (const ListedPlayers& listed : lists_) sizes.push_back(SizeOf(listed));
   std::size_t all = 0;
   for (const UsebioPlace& place : sectionPlaces_) {

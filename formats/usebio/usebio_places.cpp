@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <map>
 #include <optional>
-#include <set>
 #include <string_view>
 #include <utility>
 
@@ -131,6 +130,7 @@ std::vector<std::string> UsebioPlaces::NamesOf(const std::vector<UsebioPlace>& p
   const std::array<bool, 3> differ = LevelsThatDiffer(places);
   std::map<int, std::string> known;
   std::vector<std::string> names;
+  names.reserve(places.size());
   std::map<std::string, int> taken;
   for (const UsebioPlace& place : places) {
     const std::string plain = NameOf(place, differ, known);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -56,9 +57,8 @@ std::string ContractOf(const TravellerLine& line) {
 }
 
 std::optional<int> ScoreOf(const TravellerLine& line) {
-  std::string_view score;
   const ElementText text(line.At(Line::Score));
-  score = text.View();
+  std::string_view score = text.View();
   if (score.starts_with('+')) score.remove_prefix(1);
   return NumberFromText(score);
 }
@@ -80,6 +80,7 @@ std::vector<MatchPoint> PointsOfMatch(const UsebioBoard& board) {
   const auto imps = NumberIn(board.element.child("IMPS"));
   const auto teamPoints = NumberIn(board.element.child("TEAM_POINTS"));
   std::vector<std::optional<int>> scores;
+  scores.reserve(board.lines.size());
   for (const TravellerLine& line : board.lines) scores.push_back(ScoreOf(line));
   const bool compared = scores.size() == 2 && scores[0] && scores[1];
   for (std::size_t at = 0; at < points.size(); ++at) {
