@@ -74,10 +74,7 @@ class PartReader {
       result.cancelled = true;
       return false;
     }
-    Board board = section_.games[planned.games.front()].board;
-    board.boardNumber = planned.number;
-    GetContract(board);
-    sink.Store(board);
+    sink.Store(StorableBoard(section_.games[planned.games.front()], planned.number));
     if (++result.boardsSaved == 1) result.firstBoard = planned.number;
     result.firstBoard = std::min(result.firstBoard, planned.number);
     result.lastBoard = std::max(result.lastBoard, planned.number);

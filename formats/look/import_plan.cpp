@@ -121,7 +121,8 @@ class Planner {
     board.otherDealer = IsStorable(game.number) && !Fits(DealerGameOf(board), game.number);
     if (game.line >= fault) {
       board.fate = Fate::AfterFault;
-    } else if (game.troubles.Has(DealTrouble::Impossible)) {
+    } else if (game.troubles.Has(DealTrouble::Impossible) &&
+               (game.records.empty() || !choices_.keepResults)) {
       board.fate = Fate::Impossible;
     } else if (game.troubles.Has(DealTrouble::OutsideRange)) {
       board.fate = Fate::Outside;
@@ -254,6 +255,14 @@ class Planner {
 };
 
 }  // namespace
+
+Board StorableBoard(const FoundGame& game, int boardNumber) {
+  Board board = game.board;
+  if (game.troubles.Has(DealTrouble::Impossible)) board = Board();
+  board.boardNumber = boardNumber;
+  GetContract(board);
+  return board;
+}
 
 ImportChoices WithoutALook() {
   return {.numbers = Numbering::Keep,

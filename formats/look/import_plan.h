@@ -20,7 +20,7 @@ enum class Fate : std::uint8_t {
   Replaced,    ///< a later deal of the file takes its number
   Repeated,    ///< an earlier deal of the file has its number
   NoNumber,    ///< it has no number that a library can hold
-  Impossible,  ///< no such deal exists
+  Impossible,  ///< no such deal exists, and there are no results of it to be kept
   Outside,     ///< the file says that it does not belong to it
   Empty,       ///< neither cards nor results
   AfterFault,  ///< a part of the file that cannot be read comes before it
@@ -47,6 +47,10 @@ struct ImportPlan {
   int tables = 0;                    ///< results that come with them
   int parts = 0;                     ///< libraries that they fill
 };
+
+/// The board of a game as a library stores it under `boardNumber`. An impossible deal is left out,
+/// so that only the results remain.
+Board StorableBoard(const FoundGame& game, int boardNumber);
 
 /// By board number: the library has the board. Nothing for a new library.
 using BoardsThere = std::array<bool, kLastBoardNumber + 1>;

@@ -8,6 +8,8 @@
 namespace tricklet {
 namespace {
 
+constexpr const char* kImpossible = "a card occurs twice, or a hand has more than 13";
+
 std::string Count(int number, const std::string& one, const std::string& several) {
   return std::to_string(number) + " " + (number == 1 ? one : several);
 }
@@ -112,6 +114,10 @@ class RowMaker {
     if (board.fate == Fate::Moved && !board.repeats && !board.otherDealer) {
       Add(text, "numbered in the order of the file");
     }
+    if (game.troubles.Has(DealTrouble::Impossible)) {
+      Add(text, "the deal is left out, as it is impossible (" + std::string(kImpossible) +
+                    "): results only");
+    }
     if (game.troubles.Has(DealTrouble::NoCards)) Add(text, "no deal in the file: results only");
     if (game.troubles.Has(DealTrouble::Incomplete)) Add(text, MissingText(game.board.hands));
     if (game.troubles.Has(DealTrouble::OddTable)) Add(text, "its double-dummy table is not whole");
@@ -155,7 +161,7 @@ class RowMaker {
         return game.label.empty() ? "left out: it has no number"
                                   : "left out: a library holds boards 1 to 999";
       case Fate::Impossible:
-        return "left out: a card occurs twice, or a hand has more than 13";
+        return "left out: " + std::string(kImpossible);
       case Fate::Outside:
         return "left out: outside \"From board\" to \"To board\" of the file";
       case Fate::Empty:

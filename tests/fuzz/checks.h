@@ -83,10 +83,7 @@ inline void CheckPlan(const FileContents& contents, const ImportChoices& choices
     if (!IsStored(planned.fate)) continue;
     Require(places.emplace(planned.part, planned.number).second);
     const FoundGame& game = contents.sections.at(choices.section).games.at(planned.games.front());
-    Board board = game.board;
-    board.boardNumber = planned.number;
-    GetContract(board);
-    CheckBoard(board);
+    CheckBoard(StorableBoard(game, planned.number));
     const std::string* last = nullptr;
     for (const std::string& line : game.records) {
       if (last != nullptr && *last == line) continue;  // one row of a table can be many of these

@@ -89,6 +89,7 @@ TEST(ImportPlanTest, NumbersTheDealsOfAFile) {
       {"999 999/1 -", With(kNext, kByFile), "999 1 3"},  // gaps are filled before a library begins
       {"1000 1", With(kNext, kByFile), "3 1"},
       {"1! 2", With(kNext, kByFile), "x 2*"},
+      {"1!+ 2", With(kNext, kByFile), "1 2*"},   // its results are kept
       {"3@N 4@W", With(kNext, kByFile), "9 4"},  // 5 is there
       {"3@N 4@W", With(kNext, kByNumber), "3 4"},
       {"3@N 3@N", With(kKeep, kByFile), "9"},
