@@ -21,6 +21,9 @@ class QuietHost : public Host {
   std::optional<std::filesystem::path> ChooseOpenFile(const FileChoice& /*choice*/) override {
     return std::nullopt;
   }
+  std::vector<std::filesystem::path> ChooseOpenFiles(const FileChoice& /*choice*/) override {
+    return {};
+  }
   std::optional<std::filesystem::path> ChooseSaveFile(const FileChoice& /*choice*/) override {
     return std::nullopt;
   }

@@ -92,6 +92,9 @@ std::optional<std::filesystem::path> ConsoleHost::ChooseFolder(
 std::optional<std::filesystem::path> ConsoleHost::ChooseOpenFile(const FileChoice& /*choice*/) {
   return std::nullopt;
 }
+std::vector<std::filesystem::path> ConsoleHost::ChooseOpenFiles(const FileChoice& /*choice*/) {
+  return {};
+}
 std::optional<std::filesystem::path> ConsoleHost::ChooseSaveFile(const FileChoice& /*choice*/) {
   return std::nullopt;
 }

@@ -54,6 +54,7 @@ struct FileChoice {
   std::string description;              ///< "Hand Records"
   std::vector<std::string> extensions;  ///< without the dot
   std::filesystem::path suggested;      ///< file or folder to begin with; may be empty
+  bool anyFile = false;                 ///< files of other extensions are offered too
 };
 
 /// A window, a console or a test script.
@@ -90,6 +91,8 @@ class Host {
   virtual std::optional<std::filesystem::path> ChooseFolder(const std::string& title,
                                                             const std::filesystem::path& start) = 0;
   virtual std::optional<std::filesystem::path> ChooseOpenFile(const FileChoice& choice) = 0;
+  /// Several files at once; none when the person chooses none.
+  virtual std::vector<std::filesystem::path> ChooseOpenFiles(const FileChoice& choice) = 0;
   virtual std::optional<std::filesystem::path> ChooseSaveFile(const FileChoice& choice) = 0;
 
   /// Sends a file or folder to the recycle bin; false when that could not be done, and then it is

@@ -93,4 +93,21 @@ bool PasteHand(Session& session) {
   return true;
 }
 
+bool PasteDeal(Session& session, const HandTable& hands) {
+  Board& board = session.board;
+  if (board.hands == hands) return false;
+  const std::string number = std::to_string(board.boardNumber);
+  if (HasCards(board.hands) &&
+      session.host.Ask(
+          {.text = "Do you wish to overwrite board " + number + "\nwith the deal that was copied?",
+           .title = "Paste deal to Library " + session.ShownLibrary() + ": board " + number,
+           .safe = Answer::No,
+           .detail = LossByPaste(board) + " Undo brings it back."}) != Answer::Yes) {
+    return false;
+  }
+  ClearAll(board);
+  board.hands = hands;
+  return true;
+}
+
 }  // namespace tricklet

@@ -14,4 +14,9 @@ void CopyHand(Session& session);
 /// is marked read-only, or a file could not be read or written; the last three are told.
 bool PasteHand(Session& session);
 
+/// Gives the current board the deal of a text, without an auction and not saved yet; asks first
+/// when it holds cards. False, and nothing changed, when the person does not agree, or when these
+/// are its hands already.
+bool PasteDeal(Session& session, const HandTable& hands);
+
 }  // namespace tricklet

@@ -10,11 +10,13 @@
 #include "core/fault.h"
 #include "core/text.h"
 #include "disk/file_io.h"
+#include "disk/presence.h"
 #include "formats/exchange/file_type.h"
 #include "formats/exchange/import_planned.h"
 #include "formats/exchange/import_run.h"
 #include "formats/exchange/look_at.h"
 #include "formats/exchange/record_reader.h"
+#include "formats/exchange/text_deals.h"
 #include "formats/lin/lin_reader.h"
 #include "formats/results/lin_file.h"
 #include "library/board_store.h"
@@ -188,6 +190,25 @@ ImportOutcome ImportChosen(Session& session, const fs::path& path, const Importa
                       false);
 }
 
+ImportLook LookOf(const Session& session, const fs::path& file, FileContents contents) {
+  ImportLook look;
+  look.file = file;
+  look.contents = std::move(contents);
+  look.there = session.library.boardPresent;
+  look.library = session.ShownLibrary();
+  look.suggestedLibrary = LibraryNameFor(session, PathText(file.stem()));
+  return look;
+}
+
+/// The deals of a text have no other reader, so that their import is always a planned one.
+ImportOutcome ImportDeals(Session& session, FileContents contents, const Looker& look) {
+  if (!SettleChanges(session)) return {.refused = true};
+  CountHands(session);
+  const ImportLook seen = LookOf(session, {}, std::move(contents));
+  const auto choices = look.decide ? look.decide(seen) : seen.choices;
+  return choices ? StorePlanned(session, seen, *choices) : Refused(session);
+}
+
 ImportOutcome Import(Session& session, const Importable& importable, const Looker& look) {
   if (!MayImport(session, importable.results)) return {.refused = true};
   const auto path =
@@ -205,12 +226,7 @@ ImportOutcome ImportFile(Session& session, const fs::path& path, const Importabl
 }  // namespace
 
 ImportLook LookAt(const Session& session, const RecordSource& source, const RecordReader& reader) {
-  ImportLook look;
-  look.file = source.path;
-  look.contents = ReadContents(reader.type, source.bytes);
-  look.there = session.library.boardPresent;
-  look.library = session.ShownLibrary();
-  look.suggestedLibrary = LibraryNameFor(session, PathText(source.path.stem()));
+  ImportLook look = LookOf(session, source.path, ReadContents(reader.type, source.bytes));
   look.loss = LossOf(reader, source, look.contents);
   return look;
 }
@@ -236,6 +252,39 @@ ImportOutcome ImportLinText(Session& session, std::string_view text, const Looke
   if (!MayImport(session, Results::Replaced)) return {.refused = true};
   return ImportSource(session, {fs::path(), std::string(text)}, "Cannot read the LIN records",
                       ReaderOf("lin"), look, false);
+}
+
+ImportOutcome ImportText(Session& session, std::string_view text, const Looker& look) {
+  const std::string type = TypeOfRecords("", text);
+  if (type == "lin") return ImportLinText(session, text, look);
+  if (!type.empty()) {
+    if (!MayImport(session, Results::Go)) return {.refused = true};
+    return ImportSource(session, {fs::path(), std::string(text)}, "Cannot read the hand records",
+                        ReaderOf(type), look, false);
+  }
+  FileContents deals = ReadTextDeals(text);
+  if (!deals.sections.empty()) return ImportDeals(session, std::move(deals), look);
+  session.host.TellError("There are no hand records in this text");
+  return {.refused = true};
+}
+
+bool HasHandRecords(std::string_view text) {
+  return !TypeOfRecords("", text).empty() || DealInText(text) ||
+         !ReadTextDeals(text).sections.empty();
+}
+
+std::vector<fs::path> ChooseHandRecords(Host& host) {
+  return host.ChooseOpenFiles({"Hand Records", {"pbn", "dlm", "xml", "lin"}, fs::path(), true});
+}
+
+bool IsMissing(Host& host, const fs::path& path) {
+  try {
+    if (FileExists(path)) return false;
+  } catch (const Fault&) {
+    return false;  // reading it tells why
+  }
+  host.TellError(UnreadableText(path) + "\nThere is no such file");
+  return true;
 }
 
 std::optional<ImportLook> LookAtFile(Session& session, const fs::path& path) {

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "formats/exchange/import_outcome.h"
 #include "formats/exchange/look_at.h"
@@ -41,6 +42,21 @@ ImportOutcome ImportLinFile(Session& session, const std::filesystem::path& path,
 /// `mnuImportLin` for a text: pasted records, or the address of a page that shows some. Refused
 /// with a message, before any question, when it holds none.
 ImportOutcome ImportLinText(Session& session, std::string_view text, const Looker& look = {});
+
+/// A text with hand records of any type, as a file of that type that was chosen; LIN records as
+/// `ImportLinText`. Deals that stand in it by themselves, as `ReadTextDeals` finds them, become
+/// boards by what `look` decides, and without it as `ImportChoices` has them. Refused with a
+/// message, before any question, when there is neither.
+ImportOutcome ImportText(Session& session, std::string_view text, const Looker& look = {});
+
+/// `ImportText` finds something in the text.
+bool HasHandRecords(std::string_view text);
+
+/// Files of any type that can be imported, which the person chooses; none when they choose none.
+std::vector<std::filesystem::path> ChooseHandRecords(Host& host);
+
+/// There is no such file; the person is then told. What cannot be seen is not missing.
+bool IsMissing(Host& host, const std::filesystem::path& path);
 
 /// A file dropped on the window or given to it, of any type that can be imported, whatever its name
 /// ends in. A missing file is told before anything is asked. Nobody has chosen the open library for

@@ -42,6 +42,10 @@ class MonkeyHost : public Host {
     static const char* const kFiles[] = {"three.pbn", "torn.pbn", "none.pbn", "out/x.pbn"};
     return Chosen(kFiles[random_() % std::size(kFiles)]);
   }
+  std::vector<std::filesystem::path> ChooseOpenFiles(const FileChoice& choice) override {
+    const auto path = ChooseOpenFile(choice);
+    return path ? std::vector{*path} : std::vector<std::filesystem::path>();
+  }
   std::optional<std::filesystem::path> ChooseSaveFile(const FileChoice& choice) override {
     return Chosen("out/x." + (choice.extensions.empty() ? "pbn" : choice.extensions.front()));
   }

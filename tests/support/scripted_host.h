@@ -77,6 +77,11 @@ class ScriptedHost : public Host {
   std::optional<std::filesystem::path> ChooseOpenFile(const FileChoice& choice) override {
     return Next(choices_, choice.description);
   }
+  /// The next choice, if it is one.
+  std::vector<std::filesystem::path> ChooseOpenFiles(const FileChoice& choice) override {
+    const auto path = Next(choices_, choice.description);
+    return path ? std::vector{*path} : std::vector<std::filesystem::path>();
+  }
   std::optional<std::filesystem::path> ChooseSaveFile(const FileChoice& choice) override {
     suggested = choice.suggested;
     return Next(choices_, choice.description);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
@@ -22,13 +23,20 @@
 namespace tricklet::ui {
 namespace {
 
+/// Texts of this file are translated under this name.
+struct Words {
+  Q_DECLARE_TR_FUNCTIONS(QtHost)
+};
+
 /// "Hand Records (*.pbn *.dlm *.xml)".
 QString NameFilter(const FileChoice& choice) {
   QStringList patterns;
   for (const std::string& extension : choice.extensions) {
     patterns += QStringLiteral("*.") + ToQt(extension);
   }
-  return QStringLiteral("%1 (%2)").arg(ToQt(choice.description), patterns.join(u' '));
+  const QString filter =
+      QStringLiteral("%1 (%2)").arg(ToQt(choice.description), patterns.join(u' '));
+  return choice.anyFile ? filter + QStringLiteral(";;") + Words::tr("All files (*)") : filter;
 }
 
 // In heights of a line of text.
@@ -189,6 +197,16 @@ std::optional<std::filesystem::path> QtHost::ChooseOpenFile(const FileChoice& ch
   if (file.isEmpty()) return std::nullopt;
   lastFolder_ = QFileInfo(file).path();
   return PathFromQt(file);
+}
+
+std::vector<std::filesystem::path> QtHost::ChooseOpenFiles(const FileChoice& choice) {
+  const QString start = choice.suggested.empty() ? lastFolder_ : PathToQt(choice.suggested);
+  const QStringList files =
+      QFileDialog::getOpenFileNames(Parent(), QString(), start, NameFilter(choice));
+  std::vector<std::filesystem::path> paths;
+  for (const QString& file : files) paths.push_back(PathFromQt(file));
+  if (!files.isEmpty()) lastFolder_ = QFileInfo(files.constFirst()).path();
+  return paths;
 }
 
 std::optional<std::filesystem::path> QtHost::ChooseSaveFile(const FileChoice& choice) {

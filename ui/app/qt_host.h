@@ -25,6 +25,7 @@ class QtHost : public Host {
   std::optional<std::filesystem::path> ChooseFolder(const std::string& title,
                                                     const std::filesystem::path& start) override;
   std::optional<std::filesystem::path> ChooseOpenFile(const FileChoice& choice) override;
+  std::vector<std::filesystem::path> ChooseOpenFiles(const FileChoice& choice) override;
   std::optional<std::filesystem::path> ChooseSaveFile(const FileChoice& choice) override;
   bool Recycle(const std::filesystem::path& path) override;
   bool OpenUrl(const std::string& address) override;
