@@ -13,6 +13,7 @@
 #include "ui/dialogs/frmDeleteLib.h"
 #include "ui/dialogs/frmExport.h"
 #include "ui/dialogs/frmGenerate.h"
+#include "ui/dialogs/frmImport.h"
 #include "ui/dialogs/frmOptions.h"
 #include "ui/dialogs/frmPreview.h"
 #include "ui/dialogs/frmStart.h"
@@ -91,12 +92,23 @@ TEST_F(AccessibilityTest, DialogsAreCompleteByKeyboard) {
   EditControl edit(session, play);
   session.board.hands = test::OneSuitEach();
   updates.Ask();
+  ImportLook look;
+  look.choices.numbers = Numbering::From;
+  look.choices.newLibrary = "New";
+  look.contents.unread.emplace_back();
+  look.contents.sections.resize(2);
+  FoundGame& game = look.contents.sections[0].games.emplace_back();
+  game.number = 1;
+  game.dealer = Seat::North;
+  game.records = {""};
+  game.board.hands = test::OneSuitEach();
   const std::function<std::unique_ptr<QDialog>()> dialogs[] = {
       [&] { return std::make_unique<frmBidding>(session, nullptr); },
       [&] { return std::make_unique<frmCopyLib>(session, nullptr); },
       [&] { return std::make_unique<frmDeleteLib>(session, session.libraryNames, nullptr); },
       [&] { return std::make_unique<frmExport>(session, nullptr); },
       [&] { return std::make_unique<frmGenerate>(session, GenerateChoices(), nullptr); },
+      [&] { return std::make_unique<frmImport>(session, look, nullptr); },
       [&] { return std::make_unique<frmOptions>(session, QString(), nullptr); },
       [&] { return std::make_unique<frmPreview>(session.board, session.settings, nullptr); },
       [&] { return std::make_unique<frmStart>(session, updates); },
