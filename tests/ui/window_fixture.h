@@ -161,7 +161,8 @@ class WindowTest : public test::LibraryTestBy<WindowHost>, protected Driven {
     test::WriteFile(folder.Path() / "five.pbn", test::PbnText({5}));
     host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
     host.ExpectTell("Hand 5 has been saved to the library - Club");
-    window->ImportFiles({folder.Path() / "five.pbn"});
+    host.Choose(folder.Path() / "five.pbn");
+    Find<QAction>("mnuImport")->trigger();
   }
 
   void Open() {

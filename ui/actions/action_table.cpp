@@ -126,13 +126,17 @@ QString NewVersionCaption(State state) {
 
 const std::array kTable{
     // File
-    ActionEntry{"mnuImport", QT_TR_NOOP("&Import hand records..."), QT_TR_NOOP("Open"), "Ctrl+O",
-                QT_TR_NOOP("Bring the boards of a file into the library"), "open",
-                &Commands::Import},
+    ActionEntry{"mnuOpen", QT_TR_NOOP("&Open..."), QT_TR_NOOP("Open"), "Ctrl+O",
+                QT_TR_NOOP("Look at files of hand records and import them: PBN, LIN, DLM, USEBIO"),
+                "open", &Commands::Open},
+    ActionEntry{"mnuImport", QT_TR_NOOP("&Import hand records..."), "", "Ctrl+I",
+                QT_TR_NOOP("Bring the boards of a file into the library"), "", &Commands::Import},
     ActionEntry{"mnuImportLin", QT_TR_NOOP("Import &LIN records..."), "", "Ctrl+Shift+I",
                 QT_TR_NOOP("Bring in LIN records from a file"), "", &Commands::ImportLin},
-    ActionEntry{"mnuPasteLin", QT_TR_NOOP("&Paste LIN records"), "", "Ctrl+Shift+V",
-                QT_TR_NOOP("Bring in the LIN records of the clipboard"), "", &Commands::PasteLin},
+    ActionEntry{
+        "mnuPasteLin", QT_TR_NOOP("&Paste records or deal"), "", "Ctrl+Shift+V",
+        QT_TR_NOOP("Bring in the hand records of the clipboard, or one deal for this board"), "",
+        &Commands::PasteRecords},
     ActionEntry{"mnuExport", QT_TR_NOOP("&Export hand records..."), QT_TR_NOOP("Export"), "Ctrl+E",
                 QT_TR_NOOP("Write boards of the library into a file for other programs"), "",
                 &Commands::Export},

@@ -8,9 +8,10 @@ namespace tricklet::ui {
 namespace {
 
 constexpr std::array kMenus{
-    MenuEntry{QT_TR_NOOP("&File"),
-              "mnuImport mnuRecent> < mnuImportLin mnuPasteLin mnuExport | mnuSave mnuRevert | "
-              "mnuExit"},
+    MenuEntry{
+        QT_TR_NOOP("&File"),
+        "mnuOpen mnuRecent> < mnuImport mnuImportLin mnuPasteLin mnuExport | mnuSave mnuRevert | "
+        "mnuExit"},
     MenuEntry{QT_TR_NOOP("&Edit"),
               "mnuUndo mnuRedo | mnuCopyHand mnuPasteHand | mnuEdit | mnuOptions"},
     MenuEntry{QT_TR_NOOP("&Library"),
@@ -38,7 +39,7 @@ constexpr std::array kMenus{
 }  // namespace
 
 const char* const kToolbar =
-    "tbrOpen=mnuImport cmdSave=mnuSave | tbrPrevious=mnuPrevious tbrNext=mnuNext | "
+    "tbrOpen=mnuOpen cmdSave=mnuSave | tbrPrevious=mnuPrevious tbrNext=mnuNext | "
     "cmdBidding=mnuBidding cmdPlay=mnuPlay tbrUndo=mnuUndo tbrRedo=mnuRedo tbrClaim=mnuClaim | "
     "tbrBestCards=mnuBestCards cmdDDS=mnuDDS cmdBSOL=mnuBSOL | cmdEdit=mnuEdit cmdSwap=mnuSwap "
     "cmdGenerate=mnuGenerate | tbrHands=mnuHands tbrPresent=mnuPresentation";

@@ -7,6 +7,7 @@
 #include "core/fault.h"
 #include "formats/exchange/export.h"
 #include "formats/exchange/import.h"
+#include "formats/exchange/text_deals.h"
 #include "library/board_clipboard.h"
 #include "library/board_store.h"
 #include "library/library_choice.h"
@@ -17,6 +18,7 @@
 #include "ui/control/play_control.h"
 #include "ui/dialogs/frmBidding.h"
 #include "ui/dialogs/frmExport.h"
+#include "ui/dialogs/frmImport.h"
 #include "ui/dialogs/frmOptions.h"
 #include "ui/dialogs/frmUpdate.h"
 #include "ui/dialogs/library_name_dialog.h"
@@ -75,11 +77,16 @@ void Commands::LeaveUnsaved(const std::function<void()>& procedure) {
 }
 
 void Commands::Import() {
-  Leave([this] { Remember(tricklet::Import(session_)); });
+  Leave([this] { Remember(tricklet::Import(session_, Look())); });
 }
 
 void Commands::ImportLin() {
-  Leave([this] { Remember(tricklet::ImportLin(session_)); });
+  Leave([this] { Remember(tricklet::ImportLin(session_, Look())); });
+}
+
+/// Somebody looks at a file before anything of it is lost.
+Looker Commands::Look() const {
+  return LookDialog(window_, session_);
 }
 
 /// A file that has been read is offered under "Open recent".
@@ -90,21 +97,36 @@ void Commands::Remember(const ImportOutcome& outcome) {
   SaveSetting(session_, &Settings::recentFiles);
 }
 
-void Commands::ImportLinText(const QString& text) {
-  Leave([&] { tricklet::ImportLinText(session_, FromQt(text)); });
+void Commands::ImportText(const QString& text) {
+  const std::string records = FromQt(text);
+  Leave([&] {
+    if (const auto deal = DealInText(records)) {
+      edit_.PasteDeal(*deal);
+    } else {
+      tricklet::ImportText(session_, records, Look());
+    }
+  });
 }
 
-void Commands::PasteLin() {
-  ImportLinText(QApplication::clipboard()->text());
+void Commands::PasteRecords() {
+  ImportText(QApplication::clipboard()->text());
+}
+
+void Commands::Open() {
+  std::vector<std::filesystem::path> files;
+  Leave([&] { files = ChooseHandRecords(session_.host); });
+  ImportFiles(files);
 }
 
 void Commands::ImportFiles(const std::vector<std::filesystem::path>& files) {
   for (const std::filesystem::path& file : files) {
     bool goOn = false;
-    Leave([&] {
-      const ImportOutcome outcome = ImportAnyFile(session_, file);
+    Run([&] {
+      goOn = IsMissing(session_.host, file);
+      if (goOn || !play_.Leave()) return;
+      const ImportOutcome outcome = ImportAnyFile(session_, file, Look());
       Remember(outcome);
-      goOn = !outcome.cancelled;
+      goOn = !outcome.cancelled && !outcome.refused;
     });
     if (!goOn) return;
   }

@@ -19,6 +19,7 @@ class QWidget;
 namespace tricklet {
 class AuctionEntry;
 struct ImportOutcome;
+struct Looker;
 }  // namespace tricklet
 
 namespace tricklet::ui {
@@ -56,9 +57,13 @@ class Commands : public QObject {
 
   void Import();
   void ImportLin();
-  /// The LIN records, or the address of some, that the clipboard or a drop brought.
-  void ImportLinText(const QString& text);
-  void PasteLin();
+  /// `mnuOpen`: files of any type, several at once.
+  void Open();
+  /// What the clipboard or a drop brought: hand records, the address of some, or deals. One deal
+  /// becomes that of the current board.
+  void ImportText(const QString& text);
+  void PasteRecords();
+  /// One after another, until the person cancels one.
   void ImportFiles(const std::vector<std::filesystem::path>& files);
   void Export();
   void Save();
@@ -178,6 +183,7 @@ class Commands : public QObject {
   void Copy(Runner run, bool (*copy)(Session&), const QString& said);
   bool RunGenerator(QString& said);
   void EnterAuction();
+  Looker Look() const;
   void Remember(const ImportOutcome& outcome);
   void OpenNewVersion();
 

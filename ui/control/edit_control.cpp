@@ -3,6 +3,7 @@
 #include "core/statistics.h"
 #include "core/text.h"
 #include "generate/deal.h"
+#include "library/board_clipboard.h"
 #include "library/board_file.h"
 #include "ui/control/play_control.h"
 
@@ -121,6 +122,10 @@ void EditControl::FillFourth() {
 void EditControl::UndoFill() {
   tricklet::UndoFill(ForEditing(), history_);
   Note("undo fill");
+}
+
+void EditControl::PasteDeal(const HandTable& hands) {
+  if (tricklet::PasteDeal(session_, hands)) Note("paste deal");
 }
 
 void EditControl::SwapHands(Seat from, Seat to) {

@@ -46,6 +46,8 @@ class EditControl {
   void Fill();
   void FillFourth();
   void UndoFill();
+  /// Asks where the board holds cards.
+  void PasteDeal(const HandTable& hands);
   void SwapHands(Seat from, Seat to);
   void SwapSuits(Suit suit1, Suit suit2);
   /// When the auction is to be taken along but cannot be, tells the person and changes nothing.

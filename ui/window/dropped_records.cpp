@@ -3,7 +3,7 @@
 #include <QMimeData>
 #include <QUrl>
 
-#include "formats/lin/lin_reader.h"
+#include "formats/exchange/import.h"
 #include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
@@ -12,7 +12,7 @@ DroppedRecords::DroppedRecords(const QMimeData& data) {
   for (const QUrl& url : data.urls()) {
     if (url.isLocalFile()) files.push_back(PathFromQt(url.toLocalFile()));
   }
-  if (files.empty() && LooksLikeLin(FromQt(data.text()))) lin = data.text();
+  if (files.empty() && HasHandRecords(FromQt(data.text()))) text = data.text();
 }
 
 }  // namespace tricklet::ui

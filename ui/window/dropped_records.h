@@ -10,14 +10,14 @@ class QMimeData;
 
 namespace tricklet::ui {
 
-/// What can be imported of a drop: its files, or else the LIN records of its text.
+/// What can be imported of a drop: its files, or else the hand records or deals of its text.
 struct DroppedRecords {
   explicit DroppedRecords(const QMimeData& data);
 
-  bool Empty() const { return files.empty() && lin.isEmpty(); }
+  bool Empty() const { return files.empty() && text.isEmpty(); }
 
   std::vector<std::filesystem::path> files;
-  QString lin;
+  QString text;
 };
 
 }  // namespace tricklet::ui

@@ -149,6 +149,14 @@ QString MainWindow::StatusText() const {
   return tr("The library is empty: drop hand records here, import them, or generate deals");
 }
 
+/// What is dropped beside boards may go into a library of its own, which is asked then.
+QString MainWindow::DropText() const {
+  const QString library = ToQt(session_.ShownLibrary());
+  return session_.library.boardCount == 0
+             ? tr("Drop to import into %1").arg(library)
+             : tr("Drop to import into %1 or a new library").arg(library);
+}
+
 /// Nothing under the eyes of a class, and nothing that would put away what is being typed.
 DiskWatch::Leave MainWindow::LeaveToWatch() const {
   using Leave = DiskWatch::Leave;
@@ -412,6 +420,11 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
   if (DroppedRecords(*event->mimeData()).Empty()) return;
   event->setDropAction(Qt::CopyAction);
   event->accept();
+  status_->Say(DropText());
+}
+
+void MainWindow::dragLeaveEvent(QDragLeaveEvent* /*event*/) {
+  status_->Say(StatusText());
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
@@ -419,10 +432,11 @@ void MainWindow::dropEvent(QDropEvent* event) {
   // Never the move that is proposed for one: its source would then delete the file.
   event->setDropAction(Qt::CopyAction);
   event->accept();
+  status_->Say(StatusText());
   // Questions come after the drop, so that the program that it came from does not wait for them.
   Later(this, [this, dropped] {
     ImportFiles(dropped.files);
-    if (!dropped.lin.isEmpty()) commands_->ImportLinText(dropped.lin);
+    if (!dropped.text.isEmpty()) commands_->ImportText(dropped.text);
   });
 }
 

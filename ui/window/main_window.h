@@ -69,6 +69,7 @@ class MainWindow : public QMainWindow {
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
+  void dragLeaveEvent(QDragLeaveEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
  private:
@@ -79,6 +80,7 @@ class MainWindow : public QMainWindow {
   void ShowFolder();
   void ConnectColumns();
   QString StatusText() const;
+  QString DropText() const;
   DiskWatch::Leave LeaveToWatch() const;
   void DisplayAgain();
   void ShowTitle();

@@ -82,7 +82,7 @@ void MainWindow::ConnectEdit() {
   connect(commands_, &Commands::HandsChanged, this, &MainWindow::Display);
   connect(panes_.table, &TableView::MoveAsked, commands_, &Commands::MoveCard);
   connect(panes_.table, &TableView::Refused, status_, &StatusLine::Say);
-  connect(panes_.table, &TableView::OpenAsked, commands_, &Commands::Import);
+  connect(panes_.table, &TableView::OpenAsked, commands_, &Commands::Open);
   connect(panes_.table, &TableView::GenerateAsked, commands_, &Commands::Generate);
 }
 

@@ -50,13 +50,8 @@ TEST_F(LinWindowTest, AreChosenPastedOrDropped) {
     host.Choose(file);
     Key("Ctrl+Shift+I");
   };
-  const auto dropFiles = [&] {
-    host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
-    host.ExpectTellWith("The file must be of type");
-    EXPECT_TRUE(Drop(files)) << "one after another, whatever comes of each";
-  };
   const std::function<void()> ways[] = {choose, [this] { Paste(kRecord); },
-                                        [&] { EXPECT_TRUE(Drop(text)); }, dropFiles};
+                                        [&] { EXPECT_TRUE(Drop(text)); }};
   for (const auto& way : ways) {
     if (&way != &ways[0]) host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
     host.ExpectTell("Hand 7 has been saved to the library - Teaching");
@@ -64,10 +59,42 @@ TEST_F(LinWindowTest, AreChosenPastedOrDropped) {
     EXPECT_EQ(Text("cmbBoard"), "Board 7");
     EXPECT_EQ(session.board.contract, "1C");
   }
+  // Beside boards a new library is offered.
+  host.ExpectTell("Hand 7 has been saved to the library - a");
+  host.ExpectTellWith("There are no hand records in the file");
+  Expect([](const Driven& look) {
+    EXPECT_EQ(look.Text("lblFile") + " into " + look.Text("txtLibName"), "a.lin into a");
+    look.Press("cmdImport");
+  });
+  EXPECT_TRUE(Drop(files)) << "one after another, whatever comes of each";
+}
+
+TEST_F(LinWindowTest, CancelEndsAnImportOfSeveralFilesAndAMissingOneIsToldFirst) {
+  PutBoard(1);
+  GetLibraryNames(session);
+  const auto file = folder.Path() / "a.lin";
+  test::WriteFile(file, FromQt(kRecord));
+  host.ExpectTellWith("There is no such file");
+  Expect([](const Driven& look) { look.Press("cmdCancel"); });
+  window->ImportFiles({folder.Path() / "gone.lin", file, file});
+  EXPECT_FALSE(std::filesystem::exists(session.BoardPath(7)));
+}
+
+TEST_F(LinWindowTest, OneDealBecomesThatOfTheBoardAndCanBeUndone) {
+  const QString deal = QStringLiteral("N:AKQJT98765432... .AKQJT98765432.. - -");
+  Paste(deal);
+  EXPECT_EQ(session.board.boardNumber, 1);
+  EXPECT_TRUE(session.board.hands[Seat::North][Suit::Spades].Has(Rank::Ace));
+  EXPECT_TRUE(session.board.handChanged);
+  host.ExpectAskWith("Do you wish to overwrite board 1", Answer::No);
+  Paste(QStringLiteral("E:AKQJT98765432... - - -"));
+  EXPECT_TRUE(session.board.hands[Seat::North][Suit::Spades].Has(Rank::Ace));
+  Key("Ctrl+Z");
+  EXPECT_FALSE(HasCards(session.board.hands));
 }
 
 TEST_F(LinWindowTest, OtherTextIsRefused) {
-  host.ExpectTell("There are no LIN records in this text");
+  host.ExpectTell("There are no hand records in this text");
   Paste(QStringLiteral("Dear Ann"));
   QMimeData text;
   text.setText(QStringLiteral("Dear Ann"));

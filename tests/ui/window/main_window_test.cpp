@@ -106,7 +106,8 @@ TEST_F(MainWindowTest, AnImportShowsProgressTakesNoCommandsAndCanBeCancelled) {
     };
     if (&cancel != &cancels[0]) host.ExpectAskWith("Overwrite existing hands", Answer::Yes);
     host.ExpectTell("3 hands (1-3) have been saved to the library - Teaching");
-    window->ImportFiles({file, file});
+    host.Choose(file);
+    Find<QAction>("mnuImport")->trigger();
     EXPECT_EQ(host.steps.size(), 4U);
     EXPECT_EQ(ShownOf(names), "picTable cmbLibs");
     EXPECT_TRUE(Enabled("cmbLibs"));

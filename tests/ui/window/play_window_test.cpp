@@ -274,7 +274,7 @@ TEST_F(PlayWindowTest, NothingLeavesAPlayUnderWayUnasked) {
     host.ExpectAsk("Do you wish to stop the play of board 1?", "Tricklet", Answer::No);
   };
   const std::string keys =
-      "Ctrl+P PgDown PgUp Ctrl+Home Ctrl+End Ctrl+G Ctrl+N Ctrl+O Ctrl+Shift+I Ctrl+Shift+V "
+      "Ctrl+P PgDown PgUp Ctrl+Home Ctrl+End Ctrl+G Ctrl+N Ctrl+O Ctrl+I Ctrl+Shift+I Ctrl+Shift+V "
       "Ctrl+Shift+G F5 F7 Shift+F6 ";
   const std::string readingAfresh = "Ctrl+E Ctrl+Shift+D F8 Shift+F2";  // when changes are given up
   for (const std::string& key : test::Words(keys + readingAfresh)) {
@@ -283,8 +283,10 @@ TEST_F(PlayWindowTest, NothingLeavesAPlayUnderWayUnasked) {
     Key(key.c_str());
     ASSERT_TRUE(host.Done() && session.board.playMode) << key;
   }
+  const auto file = folder.Path() / "deals.pbn";
+  test::WriteFile(file, test::PbnText({5}));
   expectNo();
-  window->ImportFiles({"deals.pbn", "more.pbn"});
+  window->ImportFiles({file, file});
   expectNo();
   EXPECT_FALSE(window->close());
   host.ExpectAsk("Confirm that you wish to edit this hand", "Tricklet", Answer::No);
