@@ -37,10 +37,11 @@ QList<Piece> PiecesOfHand(const QString& text, const QStyleOptionViewItem& cell,
   return pieces;
 }
 
-/// What is out of the ordinary stands before the colon, what is done about it after that.
+/// What is out of the ordinary comes first; what is done about it follows a colon, anything else a
+/// semicolon.
 QList<Piece> PiecesOfOddity(const QString& text, const QColor& colour) {
-  const qsizetype colon = text.indexOf(u':');
-  const qsizetype end = colon < 0 ? text.size() : colon;
+  qsizetype end = 0;
+  while (end < text.size() && text[end] != u':' && text[end] != u';') ++end;
   return {{text.left(end), colour, true}, {text.mid(end), colour}};
 }
 
