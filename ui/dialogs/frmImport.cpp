@@ -100,7 +100,6 @@ frmImport::frmImport(const Session& session, const ImportLook& look, QWidget* pa
   Connect();
   SetTabOrder();
   Choose();
-  grdBoards->FitColumns();
   // The keys begin at the first row, but nobody has chosen it.
   grdBoards->selectionModel()->setCurrentIndex(rows_->index(0, 0), QItemSelectionModel::NoUpdate);
   cmbInto->setFocus();
@@ -272,6 +271,7 @@ void frmImport::Choose() {
   if (chkSkipBad != nullptr) choices_.skipBad = chkSkipBad->isChecked();
   if (chkResults != nullptr) choices_.keepResults = chkResults->isChecked();
   Show();
+  grdBoards->FitColumns();
 }
 
 /// The boards that were left out were those of another section.
@@ -281,7 +281,6 @@ void frmImport::ChooseSection() {
   choices_.section = every ? kEverySection : static_cast<std::size_t>(chosen);
   choices_.unwanted.clear();
   Choose();
-  grdBoards->FitColumns();
 }
 
 void frmImport::Want(const QList<std::size_t>& boards, bool wanted) {

@@ -69,6 +69,21 @@ TEST_F(LinWindowTest, AreChosenPastedOrDropped) {
   EXPECT_TRUE(Drop(files)) << "one after another, whatever comes of each";
 }
 
+TEST_F(LinWindowTest, TheStatusLineSaysWhereADropWillLand) {
+  QMimeData text;
+  text.setText(kRecord);
+  for (const char* place : {"Teaching", "Teaching or a new library"}) {
+    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(top, &enter);
+    EXPECT_EQ(Text("lblStatus"), std::string("Drop to import into ") + place);
+    QDragLeaveEvent leave;
+    QCoreApplication::sendEvent(top, &leave);
+    EXPECT_EQ(Text("lblStatus").find("Drop to"), std::string::npos);
+    PutBoard(1);
+    Key("F5");
+  }
+}
+
 TEST_F(LinWindowTest, CancelEndsAnImportOfSeveralFilesAndAMissingOneIsToldFirst) {
   PutBoard(1);
   GetLibraryNames(session);
