@@ -90,12 +90,12 @@ TEST_F(CommandLine, ShowsTheTravellerOfABoard) {
             "pn|Q,R,S,T|ah|Board 7|qens|A6040||qenc|4S||qend|S|\n");
   EXPECT_EQ(
       Answer("traveller 7"),
-      "0 NS  EW  Contract    By  Lead  Tricks    NS+  EW+  MP  MP  Names\n"
-      " 1  12  4S          S   \u266510       10    620        4   0  J\u00fcrg & Bo v Cy & D i\n"
-      "        3NTx        N   \u26632         5         800   0   4  G & E v H & F\n"
-      "        Not played                                        K & I v L & J\n"
-      "                                              50   2   2  O & M v P & N\n"
-      "        4S          S                 A6040               S & Q v T & R\n");
+      "0 NS  EW  Contract    By  Lead  Tricks    NS+  EW+   MP   MP  Names\n"
+      " 1  12  4S          S   \u266510       10    620         4    0  J\u00fcrg & Bo v Cy & D i\n"
+      "        3NTx        N   \u26632         5         800    0    4  G & E v H & F\n"
+      "        Not played                                          K & I v L & J\n"
+      "                                              50    2    2  O & M v P & N\n"
+      "        4S          S                 A6040       2.4  1.6  S & Q v T & R\n");
   EXPECT_EQ(Answer("traveller 8"), "1 There are no results of board 8\n");
 }
 
