@@ -24,7 +24,7 @@ std::optional<Seat> SeatOfName(std::string_view text) {
 }
 
 bool IsVoid(std::string_view text) {
-  return text.find_first_not_of("-") == std::string_view::npos || EqualNoCase(text, "void") ||
+  return text.find_first_not_of('-') == std::string_view::npos || EqualNoCase(text, "void") ||
          text == "\u2014" || text == "\u2013";
 }
 

@@ -29,7 +29,7 @@ std::string TextOrNone(const pugi::xml_node& element) {
 }
 
 std::string Opposite(const pugi::xml_node& element) {
-  const std::string text = TextOrNone(element);
+  std::string text = TextOrNone(element);
   if (text.empty() || text == "0") return text;
   return text.starts_with('-') ? text.substr(1) : "-" + text;
 }
@@ -67,7 +67,7 @@ std::optional<int> ScoreOf(const TravellerLine& line) {
 /// board's team.
 float SideOfMatch(std::optional<float> own, std::optional<float> computed, bool eastWest,
                   float sum) {
-  if (!own) return *computed;
+  if (!own) return computed.value_or(0);
   if (computed && (*computed == *own || *computed == sum - *own)) return *computed;
   return eastWest ? sum - *own : *own;
 }
@@ -82,13 +82,14 @@ std::vector<MatchPoint> PointsOfMatch(const UsebioBoard& board) {
   std::vector<std::optional<int>> scores;
   scores.reserve(board.lines.size());
   for (const TravellerLine& line : board.lines) scores.push_back(ScoreOf(line));
-  const bool compared = scores.size() == 2 && scores[0] && scores[1];
   for (std::size_t at = 0; at < points.size(); ++at) {
     const bool eastWest = TextOf(board.lines[at].At(Line::Direction)) == "EW";
     std::optional<float> ownImps;
     std::optional<float> ownPoints;
-    if (compared) {
-      const std::int64_t difference = std::int64_t{*scores[at]} - *scores[1 - at];
+    const auto score = scores[at];
+    const auto other = scores.size() == 2 ? scores[1 - at] : std::nullopt;
+    if (score && other) {
+      const std::int64_t difference = std::int64_t{*score} - *other;
       constexpr std::int64_t kBeyondScale = 10'000;
       ownImps = static_cast<float>(
           ToImps(static_cast<int>(std::clamp(difference, -kBeyondScale, kBeyondScale))));

@@ -32,7 +32,7 @@ HandTable DealOf(int number) {
 /// An element for each name and value: "NS_PAIR_NUMBER=1 SCORE=420"; a value has "_" for a blank.
 std::string Elements(const std::string& values) {
   std::string text;
-  for (std::string word : Words(values)) {
+  for (const std::string& word : Words(values)) {
     const auto equals = word.find('=');
     std::string value = word.substr(equals + 1);
     std::replace(value.begin(), value.end(), '_', ' ');
