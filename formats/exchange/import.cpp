@@ -219,6 +219,11 @@ ImportOutcome Import(Session& session, const Importable& importable, const Looke
 
 ImportOutcome ImportFile(Session& session, const fs::path& path, const Importable& importable,
                          const Looker& look) {
+  // Nobody is asked about a file that is not there.
+  if (!FileExists(path)) {
+    session.host.TellError(UnreadableText(path));
+    return Unreadable(session);
+  }
   if (!MayImport(session, importable.results)) return {.refused = true};
   return ImportChosen(session, path, importable, look);
 }
