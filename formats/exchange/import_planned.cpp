@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/bounded_list.h"
 #include "core/text.h"
 #include "formats/exchange/import_run.h"
 #include "formats/look/plan_rows.h"
@@ -15,6 +16,8 @@
 
 namespace tricklet {
 namespace {
+
+constexpr std::size_t kLongestLabel = 16;  // bytes
 
 /// "Club-2", or the next such name that no library has.
 std::string NextName(const Session& session, const std::string& name) {
@@ -86,20 +89,47 @@ class PartReader {
   std::vector<const PlannedBoard*> boards_;
 };
 
+void Join(std::string& text, const std::string& more) {
+  if (!more.empty()) text += (text.empty() ? "" : "\n") + more;
+}
+
+/// How a board is named that the file numbers so, or does not number.
+std::string NameOf(const std::string& label, int line) {
+  if (!label.empty()) return Showable(label, kLongestLabel);
+  return line > 0 ? "line " + std::to_string(line) : "one without a number";
+}
+
+/// "3 boards were left out: 5, 7, line 32"; empty when there are none.
+std::string ListText(const std::vector<std::string>& names, const std::string& one,
+                     const std::string& several) {
+  if (names.empty()) return "";
+  return std::to_string(names.size()) + " " + (names.size() == 1 ? one : several) + ": " +
+         BoundedList(names);
+}
+
 /// What was not stored, for the last message.
-std::string LeftOutSummary(const FileContents& contents, const ImportPlan& plan) {
-  const auto left = static_cast<int>(plan.boards.size()) - plan.stored;
-  const auto unread = contents.unread.size();
+std::string LeftOutSummary(const FileContents& contents, const FoundSection& section,
+                           const ImportPlan& plan) {
+  std::vector<std::string> boards;
+  std::vector<std::string> deals;
+  std::vector<std::string> parts;
+  parts.reserve(contents.unread.size());
+  for (const PlannedBoard& board : plan.boards) {
+    const FoundGame& game = section.games[board.games.front()];
+    if (!IsStored(board.fate)) {
+      boards.push_back(NameOf(game.label, game.line));
+    } else if (game.troubles.Has(DealTrouble::Impossible)) {
+      deals.push_back(NameOf(game.label, game.line));
+    }
+  }
+  for (const UnreadPart& part : contents.unread) parts.push_back(NameOf(part.label, part.line));
   std::string text;
-  if (left > 0) {
-    text = std::to_string(left) +
-           (left == 1 ? " board of the file was" : " boards of the file were") + " left out";
-  }
-  if (unread > 0) {
-    text += (text.empty() ? "" : "\n") + std::to_string(unread) +
-            (unread == 1 ? " part of the file could not be read"
-                         : " parts of the file could not be read");
-  }
+  Join(text,
+       ListText(boards, "board of the file was left out", "boards of the file were left out"));
+  Join(text, ListText(deals, "board has its results without its impossible deal",
+                      "boards have their results without their impossible deals"));
+  Join(text, ListText(parts, "part of the file could not be read",
+                      "parts of the file could not be read"));
   return text;
 }
 
@@ -121,10 +151,6 @@ void Add(ImportOutcome& whole, const ImportOutcome& part) {
   whole.failed = whole.failed || part.failed;
 }
 
-void Join(std::string& text, const std::string& more) {
-  if (!more.empty()) text += (text.empty() ? "" : "\n") + more;
-}
-
 /// Stores one section; opens the first of the libraries that it fills.
 ImportOutcome StoreSection(Session& session, const ImportLook& look, const ImportChoices& choices) {
   if (!choices.newLibrary.empty() && !CreateLibrary(session, choices.newLibrary)) {
@@ -142,7 +168,9 @@ ImportOutcome StoreSection(Session& session, const ImportLook& look, const Impor
     const PartReader boards(look.contents, choices, plan, part);
     std::string summary;
     if (choices.keepResults) summary = TablesText(boards.Boards(), boards.Tables());
-    if (part + 1 == plan.parts) Join(summary, LeftOutSummary(look.contents, plan));
+    if (part + 1 == plan.parts)
+      Join(summary,
+           LeftOutSummary(look.contents, look.contents.sections.at(choices.section), plan));
     Add(whole, StorePart(session, look, boards, std::move(summary)));
   }
   if (session.LibraryName() != first) SelectLibrary(session, first);

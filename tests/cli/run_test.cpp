@@ -38,7 +38,7 @@ TEST_F(CommandLine, DecidesAboutAnImportByOptions) {
        "2 hands (7-7) have been saved to the library - A\n"},
       {"--library A boards", "0 7\n"},
       {"import --into B --numbers first @two.pbn",
-       "0 Hand 7 has been saved to the library - B\n1 board of the file was left out\n"},
+       "0 Hand 7 has been saved to the library - B\n1 board of the file was left out: 7\n"},
       {"import --new C --numbers from=998 @two.pbn",
        "0 2 hands (998-999) have been saved to the library - C\n"},
       {"import --new C @two.pbn", "1 C already exists\nPlease choose a different name\n"},
