@@ -307,6 +307,7 @@ void frmImport::ShowButton() {
   cmdImport->setText(boards == 1 ? tr("I&mport 1 board") : tr("I&mport %1 boards").arg(boards));
   const QString obstacle = Obstacle();
   lblObstacle->setText(obstacle);
+  txtLibName->setAccessibleDescription(obstacle);  // a screen reader does not come to the label
   cmdImport->setEnabled(obstacle.isEmpty());
 }
 
