@@ -74,4 +74,17 @@ void StoreNotes(const Session& session, const BoardNotes& notes, LibraryWrite& w
   write.Replace(NotesPath(session), text);
 }
 
+const BoardNotes& NotesData::Of(Session& session) {
+  const FileStamp stamp = StampOf(NotesPath(session));
+  if (stamp == stamp_) return notes_;
+  stamp_ = stamp;
+  notes_.clear();
+  try {
+    notes_ = LoadNotes(session);
+  } catch (const Fault& fault) {
+    ErrorReport(session.host, fault);
+  }
+  return notes_;
+}
+
 }  // namespace tricklet

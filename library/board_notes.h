@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+#include "disk/file_stamp.h"
 #include "library/library_write.h"
 #include "library/session.h"
 
@@ -35,5 +36,18 @@ BoardNotes LoadNotes(const Session& session);
 /// Puts them into the current library's file, which is kept for the recycle bin as `write` keeps
 /// what it replaces. Throws `Fault`, and then the old file is as it was.
 void StoreNotes(const Session& session, const BoardNotes& notes, LibraryWrite& write);
+
+/// The notes of the current library, kept in memory.
+class NotesData {
+ public:
+  /// Reads the file when it is first asked for, and again when the library is another one or the
+  /// file has changed. One that cannot be read is reported once and counts as empty. Holds until
+  /// the next call.
+  const BoardNotes& Of(Session& session);
+
+ private:
+  FileStamp stamp_;
+  BoardNotes notes_;
+};
 
 }  // namespace tricklet

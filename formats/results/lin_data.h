@@ -1,10 +1,9 @@
 // The LIN data of the current library, kept in memory.
 #pragma once
 
-#include <filesystem>
 #include <memory>
-#include <system_error>
 
+#include "disk/file_stamp.h"
 #include "formats/results/lin_file.h"
 #include "library/session.h"
 
@@ -19,17 +18,7 @@ class LinData {
   std::shared_ptr<const LinFile> Of(Session& session);
 
  private:
-  /// What tells one file from another without reading it.
-  struct Stamp {
-    std::filesystem::path path;
-    std::error_code failure;  ///< why it cannot be looked at, if it cannot
-    std::uintmax_t size = 0;
-    std::filesystem::file_time_type written;
-    friend bool operator==(const Stamp&, const Stamp&) = default;
-  };
-  static Stamp StampOf(const Session& session);
-
-  Stamp stamp_;
+  FileStamp stamp_;
   std::shared_ptr<const LinFile> file_;  // none as long as nothing has been asked for
 };
 

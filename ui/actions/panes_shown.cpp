@@ -22,6 +22,8 @@ PanesShown ShownIn(const WindowState& state) {
   shown.contract = state.recordShown || (state.hasCalls && !state.entering);
   shown.makeable = state.makeableKnown && state.showMakeable && answers;
   shown.makeableRoom = state.complete && state.showMakeable && answers;
+  // They may tell how the board is played and what hidden hands hold.
+  shown.notes = state.hasNotes && answers && !state.AnyHidden() && !state.PlayUnfinished();
   shown.traveller = state.hasResults && answers;
 
   shown.leftRoom = !state.presentation;

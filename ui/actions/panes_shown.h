@@ -21,6 +21,7 @@ struct PanesShown {
   bool contract = false;
   bool makeable = false;
   bool makeableRoom = false;  ///< its room is kept: a table can still come
+  bool notes = false;
   bool traveller = false;
 
   bool leftRoom = false;  ///< the room of a hidden column is kept, so that the table stays in place

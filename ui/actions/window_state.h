@@ -31,6 +31,7 @@ struct WindowState {
   bool makeableKnown = false;
   bool changed = false;     ///< there are changes that are not saved
   bool canPaste = false;    ///< a board has been copied
+  bool hasNotes = false;    ///< something is written about the board
   bool hasResults = false;  ///< the library has results of tables
 
   // What can be done in the play, the editing and the record.

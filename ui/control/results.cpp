@@ -7,6 +7,9 @@ Results::Results(Session& session, QObject* parent) : QObject(parent), session_(
 void Results::ReadTraveller() {
   const auto file = lin_.Of(session_);
   const int boardNumber = session_.board.boardNumber;
+  const BoardNotes& notes = notes_.Of(session_);
+  const auto note = notes.find(boardNumber);
+  note_ = note == notes.end() ? std::string() : note->second;
   if (edition_ > 0 && file == file_ && traveller_.boardNumber == boardNumber) return;
   file_ = file;
   traveller_ = MakeTraveller(*file_, boardNumber);

@@ -9,6 +9,7 @@
 
 #include "formats/results/lin_data.h"
 #include "formats/results/traveller.h"
+#include "library/board_notes.h"
 #include "library/session.h"
 #include "play/replay.h"
 
@@ -28,6 +29,8 @@ class Results : public QObject {
   const std::shared_ptr<const LinFile>& File() const { return file_; }
   /// The current board's results; without rows when there are none.
   const Traveller& OfBoard() const { return traveller_; }
+  /// What is written about the current board; may be empty.
+  const std::string& Note() const { return note_; }
   /// Grows with each new traveller of `OfBoard`, so that a pane knows when to show it afresh.
   int Edition() const { return edition_; }
 
@@ -36,8 +39,8 @@ class Results : public QObject {
   /// The record being looked at; nullptr when none is.
   const Replay* Record() const { return replay_.get(); }
 
-  /// Reads the current board's traveller again where it may have changed: to be called whenever the
-  /// board, the library or its results may be others.
+  /// Reads the current board's traveller and notes again where they may have changed: to be called
+  /// whenever the board, the library or its results may be others.
   void ReadTraveller();
   /// Puts the record away when it no longer belongs to the current board, when the board is being
   /// played, and when its auction or its hands are being entered (`entering`).
@@ -64,6 +67,8 @@ class Results : public QObject {
 
   Session& session_;
   LinData lin_;
+  NotesData notes_;
+  std::string note_;                                                         // of the current board
   std::shared_ptr<const LinFile> file_ = std::make_shared<const LinFile>();  // of `traveller_`
   Traveller traveller_;
   int edition_ = 0;

@@ -27,6 +27,7 @@
 #include "ui/panes/edit_pane.h"
 #include "ui/panes/library_pane.h"
 #include "ui/panes/makeable_pane.h"
+#include "ui/panes/notes_pane.h"
 #include "ui/panes/statistics_pane.h"
 #include "ui/panes/traveller_pane.h"
 #include "ui/panes/trick_pane.h"
@@ -184,6 +185,7 @@ void MainWindow::DisplayPlay() {
   if (panes_.progress->IsWorking()) return;
   panes_.library->OfferNext(play_->Play().Finished());
   panes_.traveller->Show(session_);
+  panes_.notes->Show(results_->Note());
   GatherState();
   DisplayTable();
   ShowTricks();

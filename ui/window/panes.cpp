@@ -10,6 +10,7 @@
 #include "ui/panes/edit_pane.h"
 #include "ui/panes/library_pane.h"
 #include "ui/panes/makeable_pane.h"
+#include "ui/panes/notes_pane.h"
 #include "ui/panes/statistics_pane.h"
 #include "ui/panes/traveller_pane.h"
 #include "ui/panes/trick_pane.h"
@@ -36,12 +37,14 @@ Panes::Panes(Session& session, Commands& commands, const Actions& actions, Resul
       auction(new AuctionPane),
       contract(new ContractPane(actions)),
       makeable(new MakeablePane),
+      notes(new NotesPane),
       traveller(new TravellerPane(results, actions)),
       progress(new ProgressFrame) {}
 
 QWidget* Panes::Lay(QWidget* window) {
   left = new SideColumn(QStringLiteral("colLeft"), {library, tricks, edit, statistics});
-  right = new SideColumn(QStringLiteral("colRight"), {auction, contract, makeable, traveller});
+  right =
+      new SideColumn(QStringLiteral("colRight"), {auction, contract, makeable, notes, traveller});
   table->setObjectName(QStringLiteral("picTable"));
   table->setAccessibleName(TableView::tr("Table"));
   table->setFocusPolicy(Qt::StrongFocus);
@@ -59,7 +62,7 @@ QWidget* Panes::Lay(QWidget* window) {
 
 void Panes::Show(const PanesShown& shown, const Settings& settings) {
   for (Section* section : {static_cast<Section*>(auction), static_cast<Section*>(makeable),
-                           static_cast<Section*>(traveller)}) {
+                           static_cast<Section*>(notes), static_cast<Section*>(traveller)}) {
     section->SetFromAfar(!shown.bars);
   }
   area->ShowMargin(shown.bars);
@@ -68,17 +71,18 @@ void Panes::Show(const PanesShown& shown, const Settings& settings) {
   KeepRoom(right, shown.rightRoom);
   KeepRoom(makeable, shown.makeableRoom);
   const std::pair<QWidget*, bool> panes[] = {
-      {table, shown.table},         {left, shown.left},         {library, shown.library},
-      {tricks, shown.tricks},       {edit, shown.edit},         {statistics, shown.statistics},
-      {right, shown.right},         {contract, shown.contract}, {makeable, shown.makeable},
-      {traveller, shown.traveller},
+      {table, shown.table},   {left, shown.left},           {library, shown.library},
+      {tricks, shown.tricks}, {edit, shown.edit},           {statistics, shown.statistics},
+      {right, shown.right},   {contract, shown.contract},   {makeable, shown.makeable},
+      {notes, shown.notes},   {traveller, shown.traveller},
   };
   for (const auto& [pane, visible] : panes) pane->setVisible(visible);
 }
 
 QList<QWidget*> Panes::TabOrder() const {
   return library->TabOrder() + tricks->TabOrder() + edit->TabOrder() + table->TabOrder() +
-         auction->TabOrder() + contract->TabOrder() + makeable->TabOrder() + traveller->TabOrder();
+         auction->TabOrder() + contract->TabOrder() + makeable->TabOrder() + notes->TabOrder() +
+         traveller->TabOrder();
 }
 
 }  // namespace tricklet::ui

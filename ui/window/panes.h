@@ -17,6 +17,7 @@ class ContractPane;
 class EditPane;
 class LibraryPane;
 class MakeablePane;
+class NotesPane;
 class ProgressFrame;
 class Results;
 class SideColumn;
@@ -51,6 +52,7 @@ class Panes {
   AuctionPane* auction;
   ContractPane* contract;
   MakeablePane* makeable;
+  NotesPane* notes;
   TravellerPane* traveller;
   ProgressFrame* progress;
   SideColumn* left = nullptr;

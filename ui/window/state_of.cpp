@@ -49,6 +49,7 @@ void AddResults(WindowState& state, const Results& results) {
   state.canGoForward = record != nullptr && record->ForwardEnabled();
   state.canGoBack = record != nullptr && record->BackEnabled();
   state.hasResults = results.HasLinData();
+  state.hasNotes = !results.Note().empty();
 }
 
 void AddUpdates(WindowState& state, const Updates& updates) {

@@ -20,6 +20,7 @@ std::string NamesOf(const PanesShown& shown) {
       {"right", shown.right},
       {"contract", shown.right && shown.contract},
       {"makeable", shown.right && shown.makeable},
+      {"notes", shown.right && shown.notes},
       {"traveller", shown.right && shown.traveller},
   };
   std::string names;
@@ -42,6 +43,13 @@ TEST(PanesShown, FollowFromTheStateAlone) {
   const std::tuple<const char*, std::function<void(S&)>, const char*> cases[] = {
       {"between plays", [](S&) {},
        "bars table left library statistics right contract makeable traveller"},
+      {"notes", [](S& s) { s.hasNotes = true; },
+       "bars table left library statistics right contract makeable notes traveller"},
+      {"notes of a board that is played", [](S& s) { s.hasNotes = s.playing = true; },
+       "bars table left tricks right contract makeable traveller"},
+      {"notes of a board with a hidden hand",
+       [](S& s) { s.hasNotes = s.hidden[Seat::East] = true; },
+       "bars table left library right contract makeable traveller"},
       {"a hidden hand", [](S& s) { s.hidden[Seat::East] = true; },
        "bars table left library right contract makeable traveller"},
       {"play", [](S& s) { s.playing = true; },
