@@ -38,18 +38,21 @@ bool IsOfSide(const PbnNumbers& score, std::optional<Seat> declarer) {
 void SetResult(TableRecord& record, const std::string& result, const PbnNumbers& score) {
   const auto declarer = DeclarerOf(record);
   const bool passedOut = IsPassedOut(record.contract);
-  const auto tricks = passedOut ? std::nullopt : PbnTricks(result, declarer, record.contract);
-  if (tricks) record.tricks = std::to_string(*tricks);
+  constexpr int kUnknown = -1;
+  const int tricks =
+      passedOut ? kUnknown : PbnTricks(result, declarer, record.contract).value_or(kUnknown);
+  if (tricks != kUnknown) record.tricks = std::to_string(tricks);
   const auto given = IsOfSide(score, declarer) ? NorthSouthOf(score, declarer) : std::nullopt;
   Board board;
   if (given && std::fabs(*given) < 100'000) {
     record.score = std::to_string(static_cast<int>(*given));
   } else if (passedOut) {
     record.score = "0";
-  } else if (tricks && declarer && record.vulnerability && SetContract(board, record.contract)) {
+  } else if (tricks != kUnknown && declarer && record.vulnerability &&
+             SetContract(board, record.contract)) {
     record.score = std::to_string(ScoreContract(*record.vulnerability, board.contractLevel,
                                                 board.trumps, DoublingOf(board.contract),
-                                                *tricks - board.contractLevel - kBook, *declarer));
+                                                tricks - board.contractLevel - kBook, *declarer));
   }
 }
 
