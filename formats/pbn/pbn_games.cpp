@@ -117,6 +117,8 @@ void PbnGames::Inherit(PbnGame& game) {
       standing = canPass ? std::optional(field.value) : std::nullopt;
     } else if (!field.given && standing) {
       field.value = *standing;
+      field.source = *standing;
+      field.line = game.line;
       field.given = true;
     }
     before_[tag] = field.given && canPass ? std::optional(field.value) : std::nullopt;

@@ -24,8 +24,8 @@ struct PbnPiece {
 struct PbnField {
   bool given = false;       ///< by the game itself, or handed on by the games before it
   std::string_view value;   ///< with its escapes
-  std::string_view source;  ///< the line that holds the tag
-  int line = 0;             ///< of the file, the first being 1
+  std::string_view source;  ///< the line that holds the tag; what was handed on, where none does
+  int line = 0;             ///< of the file, the first being 1; the game's where it was handed on
   int place = 0;            ///< among the game's tags, the first being 1; 0: not among them
   std::size_t firstPiece = 0;
   std::size_t endPiece = 0;  ///< past the last of its section's pieces

@@ -5,6 +5,7 @@
 
 #include "formats/lin/lin_text.h"
 #include "formats/lin/lin_writer.h"
+#include "formats/results/lin_boards.h"
 
 namespace tricklet {
 namespace {
@@ -70,8 +71,9 @@ std::string NumberOr0(const std::string& number) {
 
 std::string LinLineOf(const TableRecord& table) {
   const std::string number = std::to_string(table.boardNumber);
-  std::string line = std::string("qx|") + (table.closedRoom ? "c" : "o") + number + "|pn|" +
-                     PlayersText(table.players) + "|rh||ah|Board " + number + "|";
+  // The header comes before the names, of which one may be "Board 7".
+  std::string line = std::string("qx|") + (table.closedRoom ? "c" : "o") + number +
+                     "|rh||ah|Board " + number + "|pn|" + PlayersText(table.players) + "|";
   if (HasCards(table.hands)) line += "md|" + DealText(table) + "|";
   line += "sv|";
   line += LinVulnerability(table.vulnerability.value_or(VulOfBoard(table.boardNumber)));
@@ -102,9 +104,9 @@ std::string RenumberedLin(std::string_view line, int boardNumber) {
     putNumber(at);
   }
   const auto header = text.find(kHeader);
-  if (header == std::string::npos) return "rh||ah|Board " + number + "|" + text;
-  putNumber(header + kHeader.size());
-  return text;
+  if (header != std::string::npos) putNumber(header + kHeader.size());
+  // A name may read as a header.
+  return BoardNumberOfLin(text) == boardNumber ? text : "rh||ah|Board " + number + "|" + text;
 }
 
 }  // namespace tricklet

@@ -49,6 +49,8 @@ TEST(TableRecordTest, ATravellerShowsWhatTheTableDid) {
 TEST(TableRecordTest, ALineTakesAnotherNumber) {
   EXPECT_EQ(RenumberedLin("qx|c7|pn|a,b,c,d|ah|Board 7|md|3|", 41),
             "qx|c41|pn|a,b,c,d|ah|Board 41|md|3|");
+  EXPECT_EQ(RenumberedLin("qx|o7|pn|Board 9,b,c,d|ah|Board 7|", 41),
+            "rh||ah|Board 41|qx|o41|pn|Board 9,b,c,d|ah|Board 41|");
   EXPECT_EQ(RenumberedLin("md|3|qent||", 5), "rh||ah|Board 5|md|3|qent||");
 }
 
