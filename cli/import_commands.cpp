@@ -6,6 +6,7 @@
 #include <optional>
 #include <ostream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <CLI/CLI.hpp>
@@ -46,14 +47,18 @@ struct ImportWords {
 /// An import of one file into the current library: `ImportFile`, `ImportLinFile`.
 using Importer = ImportOutcome (*)(Session&, const fs::path&, const Looker&);
 
-constexpr const char* kFrom = "from=";
+constexpr std::string_view kFrom = "from=";
+
+/// N of "from=N"; 0 when it is no number.
+int FirstNumber(std::string_view text) {
+  return NumberFromText(text.substr(kFrom.size())).value_or(0);
+}
 
 /// The complaint about a value of --numbers; empty when it is one.
 std::string NotNumbers(const std::string& text) {
   if (text == "keep" || text == "first" || text == "next") return "";
-  const auto number =
-      text.starts_with(kFrom) ? NumberFromText(std::string_view(text).substr(5)) : std::nullopt;
-  return number && IsStorable(*number) ? "" : "keep, first, next or from=N with N from 1 to 999";
+  const int number = text.starts_with(kFrom) ? FirstNumber(text) : 0;
+  return IsStorable(number) ? "" : "keep, first, next or from=N with N from 1 to 999";
 }
 
 ImportChoices ChoicesOf(const ImportWords& words) {
@@ -62,7 +67,7 @@ ImportChoices ChoicesOf(const ImportWords& words) {
   if (words.numbers == "first") choices.numbers = Numbering::First;
   if (words.numbers.starts_with(kFrom)) {
     choices.numbers = Numbering::From;
-    choices.from = LeadingNumber(std::string_view(words.numbers).substr(5));
+    choices.from = FirstNumber(words.numbers);
   }
   if (words.dealer == "number") choices.dealer = DealerBy::Number;
   choices.skipBad = words.skipBad;
@@ -147,26 +152,35 @@ ExitCode ImportFiles(const Context& context, Importer import, const ImportWords&
   return allDone ? ExitCode::Done : ExitCode::Refused;
 }
 
-/// Prints what an import of the file would do.
-bool PrintPlan(const Context& context, const fs::path& file, const ImportWords& words) {
-  const auto look = LookAtFile(context.session, file);
-  if (!look) return false;
+/// Prints what an import of one section would do.
+void PrintSection(const Context& context, const ImportLook& look, const ImportChoices& choices) {
+  const ImportPlan plan = PlanImport(look.contents, choices, look.there);
+  context.data << ShownPath(look.file) << '\t' << look.contents.format << '\t'
+               << PlanSummary(look.contents, plan) << '\n';
+  for (const PlanRow& row : PlanRows(look.contents, choices, plan, look.library)) {
+    context.data << (row.inFile.empty() ? "-" : row.inFile) << '\t'
+                 << (row.storedAs.empty() ? "-" : row.storedAs) << '\t'
+                 << (row.hand.empty() ? "-" : row.hand) << '\t' << row.what << '\n';
+  }
+}
+
+/// Prints what an import of a file would do.
+bool PrintLook(const Context& context, const ImportLook& look, const ImportWords& words) {
   ImportChoices choices = ChoicesOf(words);
-  if (!ChooseSection(*look, words, context.session.host, choices)) return false;
-  const bool every = choices.section == kEverySection;
-  const std::size_t first = every ? 0 : choices.section;
-  const std::size_t end = every ? look->contents.sections.size() : first + 1;
-  for (choices.section = first; choices.section < end; ++choices.section) {
-    const ImportPlan plan = PlanImport(look->contents, choices, look->there);
-    context.data << ShownPath(file) << '\t' << look->contents.format << '\t'
-                 << PlanSummary(look->contents, plan) << '\n';
-    for (const PlanRow& row : PlanRows(look->contents, choices, plan, look->library)) {
-      context.data << (row.inFile.empty() ? "-" : row.inFile) << '\t'
-                   << (row.storedAs.empty() ? "-" : row.storedAs) << '\t'
-                   << (row.hand.empty() ? "-" : row.hand) << '\t' << row.what << '\n';
-    }
+  if (!ChooseSection(look, words, context.session.host, choices)) return false;
+  if (choices.section != kEverySection) {
+    PrintSection(context, look, choices);
+    return true;
+  }
+  for (choices.section = 0; choices.section < look.contents.sections.size(); ++choices.section) {
+    PrintSection(context, look, choices);
   }
   return true;
+}
+
+bool PrintPlan(const Context& context, const fs::path& file, const ImportWords& words) {
+  const auto look = LookAtFile(context.session, file);
+  return look && PrintLook(context, *look, words);
 }
 
 ExitCode PrintPlans(const Context& context, const ImportWords& words) {
