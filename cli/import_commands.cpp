@@ -109,7 +109,8 @@ Looker LookerFor(const ImportWords& words, Host& host) {
       return WithoutALook();
     }
     ImportChoices choices = ChoicesOf(words);
-    if (!ChooseSection(look, words, host, choices)) return std::nullopt;
+    const bool plain = IsWithoutALook(choices) && words.section.empty();
+    if (!plain && !ChooseSection(look, words, host, choices)) return std::nullopt;
     return choices;
   };
   return looker;
