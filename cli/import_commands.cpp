@@ -105,7 +105,8 @@ Looker LookerFor(const ImportWords& words, Host& host) {
   looker.always = !words.AsTheyAre();
   looker.decide = [&words, &host](const ImportLook& look) -> std::optional<ImportChoices> {
     if (words.AsTheyAre()) {
-      if (!look.loss.empty()) host.Tell(ShownPath(look.file.filename()) + ": " + look.loss);
+      const std::string& loss = look.plain.loss;
+      if (!loss.empty()) host.Tell(ShownPath(look.file.filename()) + ": " + loss);
       return WithoutALook();
     }
     ImportChoices choices = ChoicesOf(words);

@@ -116,7 +116,7 @@ std::optional<ImportOutcome> ImportByLook(Session& session, const RecordSource& 
                                           bool outside) {
   if (!look.decide) return std::nullopt;
   ImportLook seen = LookAt(session, source, reader);
-  const bool lossless = LosesNothing(reader, source, seen.contents);
+  const bool lossless = seen.plain.losesNothing;
   const bool atStake = outside && session.library.boardCount > 0;
   const bool asked = !lossless || atStake || look.always;
   if (seen.contents.sections.empty() || !asked) return std::nullopt;
@@ -232,7 +232,7 @@ ImportOutcome ImportFile(Session& session, const fs::path& path, const Importabl
 
 ImportLook LookAt(const Session& session, const RecordSource& source, const RecordReader& reader) {
   ImportLook look = LookOf(session, source.path, ReadContents(reader.type, source.bytes));
-  look.loss = LossOf(reader, source, look.contents);
+  look.plain = WithoutLook(reader, source, look.contents);
   return look;
 }
 

@@ -126,34 +126,18 @@ struct Loss {
   }
 };
 
-}  // namespace
-
-FileContents ReadContents(std::string_view type, const std::string& bytes) {
-  if (type == "pbn") return ReadPbnContents(bytes);
-  if (type == "dlm") return ReadDlmContents(bytes);
-  if (type == "lin") return ReadLinContents(bytes);
-  return ReadUsebioContents(bytes);
-}
-
-bool LosesNothing(const RecordReader& reader, const RecordSource& source,
-                  const FileContents& contents) {
-  if (contents.sections.empty()) return true;
-  if (contents.sections.size() > 1 || !contents.unread.empty()) return false;
+/// The import leaves all that the file has, as the file has it.
+bool KeepsAll(const RecordReader& reader, const Reread& again, const FileContents& contents) {
+  if (!again.whole || contents.sections.size() > 1 || !contents.unread.empty()) return false;
   const auto& games = contents.sections.front().games;
   const std::size_t records = CountRecords(games);
-  if (HasNotes(games) || (!KeepsResults(reader) && records > 0)) return false;
-  Reread again;
-  ReadAgain(reader, source, again);
-  if (!again.whole) return false;
-  if (KeepsResults(reader) && again.reading.results.lin.size() != records) return false;
-  return StoresAll(PlanImport(contents, ImportChoices(), BoardsThere{}), games,
-                   again.sink.Boards());
+  if (HasNotes(games)) return false;
+  const std::size_t kept = KeepsResults(reader) ? again.reading.results.lin.size() : 0;
+  return kept == records && StoresAll(PlanImport(contents, ImportChoices(), BoardsThere{}), games,
+                                      again.sink.Boards());
 }
 
-std::string LossOf(const RecordReader& reader, const RecordSource& source,
-                   const FileContents& contents) {
-  Reread again;
-  ReadAgain(reader, source, again);
+std::string LossOf(const RecordReader& reader, const Reread& again, const FileContents& contents) {
   Loss loss;
   for (std::size_t section = 0; section < contents.sections.size(); ++section) {
     ImportChoices choices = WithoutALook();
@@ -169,6 +153,26 @@ std::string LossOf(const RecordReader& reader, const RecordSource& source,
   }
   loss.fillers = static_cast<std::size_t>(contents.fillers);
   return loss.Text();
+}
+
+}  // namespace
+
+FileContents ReadContents(std::string_view type, const std::string& bytes) {
+  if (type == "pbn") return ReadPbnContents(bytes);
+  if (type == "dlm") return ReadDlmContents(bytes);
+  if (type == "lin") return ReadLinContents(bytes);
+  return ReadUsebioContents(bytes);
+}
+
+PlainImport WithoutLook(const RecordReader& reader, const RecordSource& source,
+                        const FileContents& contents) {
+  PlainImport plain;
+  if (contents.sections.empty()) return plain;
+  Reread again;
+  ReadAgain(reader, source, again);
+  plain.losesNothing = KeepsAll(reader, again, contents);
+  if (!plain.losesNothing) plain.loss = LossOf(reader, again, contents);
+  return plain;
 }
 
 }  // namespace tricklet

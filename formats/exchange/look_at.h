@@ -13,6 +13,16 @@
 
 namespace tricklet {
 
+/// What an import without a look would make of a file. One without any deal or result loses
+/// nothing: the import tells what is wrong with it.
+struct PlainImport {
+  /// It stores all that the file has, as the file has it.
+  bool losesNothing = true;
+  /// Else what it would lose or alter: "lost: 2170 of 2298 deals, 12 results; other dealer or
+  /// vulnerability: 375 boards". May be empty all the same.
+  std::string loss;
+};
+
 /// What a person is shown who is to decide about an import.
 struct ImportLook {
   std::filesystem::path file;  ///< empty for a text that is in no file
@@ -21,7 +31,7 @@ struct ImportLook {
   std::string library;           ///< the name of the open library
   std::string suggestedLibrary;  ///< a name for a new one, which none has yet
   ImportChoices choices;         ///< those that are offered first
-  std::string loss;              ///< what would be lost without a look, in a line; may be empty
+  PlainImport plain;             ///< the import without a look
 };
 
 /// Somebody who decides.
@@ -39,14 +49,8 @@ ImportLook LookAt(const Session& session, const RecordSource& source, const Reco
 /// Everything that the bytes of a file of `type` ("pbn", "dlm", "xml", "lin") hold.
 FileContents ReadContents(std::string_view type, const std::string& bytes);
 
-/// Importing the file without a look stores all that `contents` has, as the file has it. A file
-/// without any deal or result loses nothing either: the import tells what is wrong with it.
-bool LosesNothing(const RecordReader& reader, const RecordSource& source,
-                  const FileContents& contents);
-
-/// What an import without a look would lose or alter: "lost: 2170 of 2298 deals, 12 results; other
-/// dealer or vulnerability: 375 boards". Empty when that is nothing.
-std::string LossOf(const RecordReader& reader, const RecordSource& source,
-                   const FileContents& contents);
+/// Reads the file once more, as that import would. `contents` is all that it holds.
+PlainImport WithoutLook(const RecordReader& reader, const RecordSource& source,
+                        const FileContents& contents);
 
 }  // namespace tricklet

@@ -40,7 +40,7 @@ class ImportLookTest : public LibraryTestBy<Diary> {
     GetLibraryNames(session);
     looker.decide = [this](const ImportLook& look) {
       ++looks;
-      loss = look.loss;
+      loss = look.plain.loss;
       return decision ? decision : std::optional(look.choices);
     };
   }
