@@ -17,6 +17,7 @@
 #include "disk/presence.h"
 #include "formats/exchange/file_type.h"
 #include "formats/exchange/import.h"
+#include "formats/exchange/import_planned.h"
 #include "formats/look/plan_rows.h"
 #include "library/library_choice.h"
 
@@ -156,10 +157,13 @@ ExitCode ImportFiles(const Context& context, Importer import, const ImportWords&
 
 /// Prints what an import of one section would do.
 void PrintSection(const Context& context, const ImportLook& look, const ImportChoices& choices) {
-  const ImportPlan plan = PlanImport(look.contents, choices, look.there);
+  const bool intoNew = !choices.newLibrary.empty();
+  const ImportPlan plan = PlanImport(look.contents, choices, intoNew ? BoardsThere{} : look.there);
   context.data << ShownPath(look.file) << '\t' << look.contents.format << '\t'
                << PlanSummary(look.contents, plan) << '\n';
-  for (const PlanRow& row : PlanRows(look.contents, choices, plan, look.library)) {
+  for (const PlanRow& row :
+       PlanRows(look.contents, choices, plan,
+                look.partNames(intoNew ? choices.newLibrary : look.library, plan.parts))) {
     context.data << (row.inFile.empty() ? "-" : row.inFile) << '\t'
                  << (row.storedAs.empty() ? "-" : row.storedAs) << '\t'
                  << (row.hand.empty() ? "-" : row.hand) << '\t' << row.what << '\n';
@@ -175,6 +179,7 @@ bool PrintLook(const Context& context, const ImportLook& look, const ImportWords
     return true;
   }
   for (choices.section = 0; choices.section < look.contents.sections.size(); ++choices.section) {
+    choices.newLibrary = SectionLibrary(context.session, look, choices.section);
     PrintSection(context, look, choices);
   }
   return true;

@@ -196,6 +196,9 @@ ImportLook LookOf(const Session& session, const fs::path& file, FileContents con
   look.contents = std::move(contents);
   look.there = session.library.boardPresent;
   look.library = session.ShownLibrary();
+  look.partNames = [&session](const std::string& library, int parts) {
+    return PartNames(session, library, parts);
+  };
   look.suggestedLibrary = LibraryNameFor(session, PathText(file.stem()));
   return look;
 }

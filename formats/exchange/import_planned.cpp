@@ -19,10 +19,10 @@ namespace {
 
 constexpr std::size_t kLongestLabel = 16;  // bytes
 
-/// "Club-2", or the next such name that no library has.
-std::string NextName(const Session& session, const std::string& name) {
-  for (int number = 2;; ++number) {
-    std::string next = name + "-" + std::to_string(number);
+/// "Club-2", or the next such name from `number` on that no library has; leaves `number` after it.
+std::string NextName(const Session& session, const std::string& name, int& number) {
+  for (;;) {
+    std::string next = name + "-" + std::to_string(number++);
     if (!IsTakenInRoot(session, next)) return next;
   }
 }
@@ -159,9 +159,10 @@ ImportOutcome StoreSection(Session& session, const ImportLook& look, const Impor
   CountHands(session);
   const ImportPlan plan = PlanImport(look.contents, choices, session.library.boardPresent);
   const std::string first = session.LibraryName();
+  const std::vector<std::string> names = PartNames(session, first, plan.parts);
   ImportOutcome whole{.file = look.file};
   for (int part = 0; part < plan.parts && !whole.cancelled && !whole.refused; ++part) {
-    if (part > 0 && !CreateLibrary(session, NextName(session, first))) {
+    if (part > 0 && !CreateLibrary(session, names.at(static_cast<std::size_t>(part)))) {
       whole.failed = true;
       break;
     }
@@ -179,6 +180,13 @@ ImportOutcome StoreSection(Session& session, const ImportLook& look, const Impor
 
 }  // namespace
 
+std::vector<std::string> PartNames(const Session& session, const std::string& library, int parts) {
+  std::vector<std::string> names{library};
+  int number = 2;
+  for (int part = 1; part < parts; ++part) names.push_back(NextName(session, library, number));
+  return names;
+}
+
 std::string LibraryNameFor(const Session& session, std::string_view wanted) {
   std::string name;
   for (const char c : wanted) {
@@ -189,7 +197,13 @@ std::string LibraryNameFor(const Session& session, std::string_view wanted) {
   }
   name = Trim(name);
   if (!HasAllowedCharacters(name)) name = "Imported";
-  return IsTakenInRoot(session, name) ? NextName(session, name) : name;
+  int number = 2;
+  return IsTakenInRoot(session, name) ? NextName(session, name, number) : name;
+}
+
+std::string SectionLibrary(const Session& session, const ImportLook& look, std::size_t at) {
+  const std::string& section = look.contents.sections.at(at).name;
+  return LibraryNameFor(session, PathText(look.file.stem()) + " " + section);
 }
 
 ImportOutcome StorePlanned(Session& session, const ImportLook& look, const ImportChoices& choices) {
@@ -200,8 +214,7 @@ ImportOutcome StorePlanned(Session& session, const ImportLook& look, const Impor
     ImportChoices each = choices;
     each.section = at;
     each.unwanted.clear();
-    each.newLibrary =
-        LibraryNameFor(session, PathText(look.file.stem()) + " " + look.contents.sections[at].name);
+    each.newLibrary = SectionLibrary(session, look, at);
     Add(whole, StoreSection(session, look, each));
     if (whole.cancelled || whole.refused) break;
     if (first.empty()) first = session.LibraryName();

@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "formats/contents/contents.h"
 #include "formats/exchange/record_reader.h"
@@ -27,8 +28,11 @@ struct PlainImport {
 struct ImportLook {
   std::filesystem::path file;  ///< empty for a text that is in no file
   FileContents contents;
-  BoardsThere there{};           ///< of the open library
-  std::string library;           ///< the name of the open library
+  BoardsThere there{};  ///< of the open library
+  std::string library;  ///< the name of the open library
+  /// The names of the libraries that a plan of so many parts would fill, from this one on. Not
+  /// after the import.
+  std::function<std::vector<std::string>(const std::string& library, int parts)> partNames;
   std::string suggestedLibrary;  ///< a name for a new one, which none has yet
   ImportChoices choices;         ///< those that are offered first
   PlainImport plain;             ///< the import without a look

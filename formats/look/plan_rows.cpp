@@ -61,8 +61,11 @@ std::string NumberOfText(const FoundGame& game) {
 
 class RowMaker {
  public:
-  RowMaker(const FileContents& contents, const ImportChoices& choices, const std::string& library)
-      : games_(contents.sections[choices.section].games), choices_(choices), library_(library) {}
+  RowMaker(const FileContents& contents, const ImportChoices& choices,
+           const std::vector<std::string>& libraries)
+      : games_(contents.sections[choices.section].games),
+        choices_(choices),
+        libraries_(libraries) {}
 
   PlanRow RowOf(const PlannedBoard& board, std::size_t at) const {
     const FoundGame& game = games_[board.games.front()];
@@ -80,7 +83,8 @@ class RowMaker {
  private:
   std::string PlaceText(const PlannedBoard& board) const {
     std::string text = std::to_string(board.number);
-    if (board.part > 0) text += " in " + Showable(library_) + "-" + std::to_string(board.part + 1);
+    if (board.part > 0)
+      text += " in " + Showable(libraries_.at(static_cast<std::size_t>(board.part)));
     return text;
   }
 
@@ -190,7 +194,7 @@ class RowMaker {
 
   const std::vector<FoundGame>& games_;
   const ImportChoices& choices_;
-  const std::string& library_;
+  const std::vector<std::string>& libraries_;
 };
 
 PlanRow RowOf(const UnreadPart& part) {
@@ -207,11 +211,11 @@ PlanRow RowOf(const UnreadPart& part) {
 }  // namespace
 
 std::vector<PlanRow> PlanRows(const FileContents& contents, const ImportChoices& choices,
-                              const ImportPlan& plan, const std::string& library) {
+                              const ImportPlan& plan, const std::vector<std::string>& libraries) {
   std::vector<PlanRow> rows;
   auto unread = contents.unread.begin();
   if (choices.section < contents.sections.size()) {
-    const RowMaker maker(contents, choices, library);
+    const RowMaker maker(contents, choices, libraries);
     const auto& games = contents.sections[choices.section].games;
     for (std::size_t at = 0; at < plan.boards.size(); ++at) {
       const int line = games[plan.boards[at].games.front()].line;

@@ -23,9 +23,10 @@ struct PlanRow {
   bool optional = false;
 };
 
-/// In the order of the file. `library`: the name of the library that the plan is for.
+/// In the order of the file. `libraries`: the names of the libraries that the plan fills, one for
+/// each of its parts.
 std::vector<PlanRow> PlanRows(const FileContents& contents, const ImportChoices& choices,
-                              const ImportPlan& plan, const std::string& library);
+                              const ImportPlan& plan, const std::vector<std::string>& libraries);
 
 /// "45 boards found, 44 can be stored, 576 results".
 std::string PlanSummary(const FileContents& contents, const ImportPlan& plan);

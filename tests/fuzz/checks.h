@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "core/statistics.h"
 #include "core/text.h"
@@ -92,7 +93,8 @@ inline void CheckPlan(const FileContents& contents, const ImportChoices& choices
     }
   }
   Require(plan.stored == static_cast<int>(places.size()));
-  for (const PlanRow& row : PlanRows(contents, choices, plan, "Club")) {
+  const std::vector<std::string> names(static_cast<std::size_t>(plan.parts) + 1, "Club");
+  for (const PlanRow& row : PlanRows(contents, choices, plan, names)) {
     Require(IsValidUtf8(row.inFile + row.hand + row.what));
     Require(row.what.find('\n') == std::string::npos);
   }

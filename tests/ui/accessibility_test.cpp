@@ -93,6 +93,9 @@ TEST_F(AccessibilityTest, DialogsAreCompleteByKeyboard) {
   session.board.hands = test::OneSuitEach();
   updates.Ask();
   ImportLook look;
+  look.partNames = [](const std::string& library, int parts) {
+    return std::vector<std::string>(static_cast<std::size_t>(parts) + 1, library);
+  };
   look.choices.numbers = Numbering::From;
   look.choices.newLibrary = "New";
   look.contents.unread.emplace_back();

@@ -14,8 +14,9 @@ ImportRowsModel::Planned ImportRowsModel::PlanOf(const ImportChoices& choices) c
   const bool intoNew = !choices.newLibrary.empty();
   Planned planned;
   planned.plan = PlanImport(look_.contents, choices, intoNew ? BoardsThere{} : look_.there);
+  const std::string& library = intoNew ? choices.newLibrary : look_.library;
   planned.rows =
-      PlanRows(look_.contents, choices, planned.plan, intoNew ? choices.newLibrary : look_.library);
+      PlanRows(look_.contents, choices, planned.plan, look_.partNames(library, planned.plan.parts));
   return planned;
 }
 

@@ -160,12 +160,13 @@ TEST_F(ImportLookTest, GoesOnInAFurtherLibrary) {
   decision = ImportChoices();
   decision->numbers = Numbering::From;
   decision->from = 999;
+  fs::create_directories(folder.Path() / "Club-2");
   const fs::path file = File(GameText("1", 'N') + GameText("2", 'E') + GameText("3", 'S'));
   looker.always = true;
   EXPECT_EQ(ImportInto("Club", file, looker).boardsSaved, 3);
   EXPECT_EQ(session.LibraryName(), "Club");
   EXPECT_TRUE(FileExists(session.BoardPath(999)));
-  EXPECT_TRUE(FileExists(folder.Path() / "Club-2/002.txt"));
+  EXPECT_TRUE(FileExists(folder.Path() / "Club-3/002.txt")) << "Club-2 is another library";
 }
 
 TEST_F(ImportLookTest, KnowsAFileByItsContent) {

@@ -146,7 +146,7 @@ TEST(PlanRowsTest, SayWhatHappens) {
   const ImportChoices choices;
   const ImportPlan plan = PlanImport(contents, choices, there);
   std::string text;
-  for (const PlanRow& row : PlanRows(contents, choices, plan, "Club")) {
+  for (const PlanRow& row : PlanRows(contents, choices, plan, {"Club"})) {
     text += row.inFile + "|" + row.storedAs + "|" + row.what + "\n";
   }
   EXPECT_EQ(text,

@@ -27,6 +27,9 @@ FoundGame GameOf(int number, int deal) {
 class ImportDialogTest : public test::LibraryTest {
  protected:
   ImportDialogTest() {
+    look.partNames = [](const std::string& library, int parts) {
+      return std::vector<std::string>(static_cast<std::size_t>(parts) + 1, library);
+    };
     PutBoard(2);
     GetLibraryNames(session);
     CountHands(session);
