@@ -126,7 +126,6 @@ void RemoveIfEmpty(const Session& session) {
 
 /// Opens the library that the words name, or the current one.
 bool OpenTarget(const Context& context, const ImportWords& words) {
-  if (!words.into.empty()) context.session.settings.library = words.into;
   if (!words.newLibrary.empty()) {
     return RootExists(context) && CreateLibrary(context.session, words.newLibrary);
   }
@@ -136,8 +135,8 @@ bool OpenTarget(const Context& context, const ImportWords& words) {
 ExitCode ImportFiles(const Context& context, Importer import, const ImportWords& words,
                      const std::function<bool()>& ended) {
   Session& session = context.session;
-  const bool existed =
-      words.newLibrary.empty() && words.into.empty() && IsTaken(session.LibraryPath());
+  if (!words.into.empty()) session.settings.library = words.into;
+  const bool existed = words.newLibrary.empty() && IsTaken(session.LibraryPath());
   if (!OpenTarget(context, words)) return ExitCode::Refused;
   const std::string target = session.LibraryName();
   const Looker looker = LookerFor(words, session.host);

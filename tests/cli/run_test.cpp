@@ -56,6 +56,12 @@ TEST_F(CommandLine, DecidesAboutAnImportByOptions) {
     EXPECT_EQ(said, answer) << line;
   }
   EXPECT_EQ(Run("import --numbers from=0 @two.pbn"), 2);
+  std::filesystem::create_directories(Root() / "Empty");
+  for (const char* line : {"import --into Empty @gone.pbn", "import --into Made @gone.pbn"}) {
+    EXPECT_EQ(Run(line), 1);
+  }
+  EXPECT_TRUE(Exists("root/Empty")) << "it was there before";
+  EXPECT_FALSE(Exists("root/Made"));
 }
 
 TEST_F(CommandLine, ShowsNothingThatATerminalObeys) {
