@@ -132,9 +132,28 @@ bool OpenTarget(const Context& context, const ImportWords& words) {
   return OpenLibrary(context, true);
 }
 
+/// The library that is open in the window stays that, whichever this call has made or filled.
+class KeepsCurrentLibrary {
+ public:
+  explicit KeepsCurrentLibrary(Session& session)
+      : session_(session), name_(session.LibraryName()) {}
+  ~KeepsCurrentLibrary() {
+    if (session_.settings.library == name_) return;
+    session_.settings.library = name_;
+    SaveSetting(session_, &Settings::library);
+  }
+  KeepsCurrentLibrary(const KeepsCurrentLibrary&) = delete;
+  KeepsCurrentLibrary& operator=(const KeepsCurrentLibrary&) = delete;
+
+ private:
+  Session& session_;
+  std::string name_;
+};
+
 ExitCode ImportFiles(const Context& context, Importer import, const ImportWords& words,
                      const std::function<bool()>& ended) {
   Session& session = context.session;
+  const KeepsCurrentLibrary keeps(session);
   if (!words.into.empty()) session.settings.library = words.into;
   const bool existed = words.newLibrary.empty() && IsTaken(session.LibraryPath());
   if (!OpenTarget(context, words)) return ExitCode::Refused;

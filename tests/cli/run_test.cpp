@@ -56,6 +56,7 @@ TEST_F(CommandLine, DecidesAboutAnImportByOptions) {
     EXPECT_EQ(said, answer) << line;
   }
   EXPECT_EQ(Run("import --numbers from=0 @two.pbn"), 2);
+  EXPECT_EQ(store.Read("macro", "library").value_or("Default"), "Default") << "which is open";
   std::filesystem::create_directories(Root() / "Empty");
   for (const char* line : {"import --into Empty @gone.pbn", "import --into Made @gone.pbn"}) {
     EXPECT_EQ(Run(line), 1);
