@@ -161,15 +161,18 @@ ImportOutcome StoreSection(Session& session, const ImportLook& look, const Impor
   const std::string first = session.LibraryName();
   const std::vector<std::string> names = PartNames(session, first, plan.parts);
   ImportOutcome whole{.file = look.file};
-  for (int part = 0; part < plan.parts && !whole.cancelled && !whole.refused; ++part) {
+  // Without any board, too, the person is told so.
+  const int parts = std::max(plan.parts, 1);
+  for (int part = 0; part < parts && !whole.cancelled && !whole.refused; ++part) {
+    const PartReader boards(look.contents, choices, plan, part);
+    if (boards.Boards() == 0 && plan.stored > 0) continue;  // no number of this one fits a deal
     if (part > 0 && !CreateLibrary(session, names.at(static_cast<std::size_t>(part)))) {
       whole.failed = true;
       break;
     }
-    const PartReader boards(look.contents, choices, plan, part);
     std::string summary;
     if (choices.keepResults) summary = TablesText(boards.Boards(), boards.Tables());
-    if (part + 1 == plan.parts)
+    if (part + 1 == parts)
       Join(summary,
            LeftOutSummary(look.contents, look.contents.sections.at(choices.section), plan));
     Add(whole, StorePart(session, look, boards, std::move(summary)));

@@ -169,6 +169,14 @@ TEST_F(ImportLookTest, GoesOnInAFurtherLibrary) {
   EXPECT_TRUE(FileExists(folder.Path() / "Club-3/002.txt")) << "Club-2 is another library";
 }
 
+TEST_F(ImportLookTest, TellsWhenNothingIsLeftToStore) {
+  decision = ImportChoices();
+  decision->unwanted = {0, 1};
+  const fs::path file = File("%\n" + GameText("1", 'N') + GameText("1", 'E'));
+  EXPECT_EQ(ImportInto("Club", file, looker).boardsSaved, 0);
+  EXPECT_NE(host.said.find("No hands have been saved to the library - Club"), std::string::npos);
+}
+
 TEST_F(ImportLookTest, KnowsAFileByItsContent) {
   looker.always = true;
   EXPECT_EQ(ImportAnyFile(session, File(PbnText({5}), "hands.txt"), looker).boardsSaved, 1);
