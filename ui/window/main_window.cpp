@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDragEnterEvent>
 
 #include "library/recent_files.h"
 #include "library/unsaved_changes.h"
@@ -37,7 +36,6 @@
 #include "ui/style/side_column.h"
 #include "ui/table/table_view.h"
 #include "ui/updates/updates.h"
-#include "ui/window/dropped_records.h"
 #include "ui/window/main_menu.h"
 #include "ui/window/placing.h"
 #include "ui/window/state_of.h"
@@ -71,7 +69,6 @@ MainWindow::MainWindow(Session& session, Updates& updates)
       status_(new StatusLine(this)) {
   setStatusBar(status_);
   setObjectName(QStringLiteral("frmMain"));
-  setAcceptDrops(true);
   setCentralWidget(panes_.Lay(this));
   Connect();
   const QList<QWidget*> order = panes_.TabOrder();
@@ -416,30 +413,6 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   }
   Display();
   event->accept();
-}
-
-void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-  if (DroppedRecords(*event->mimeData()).Empty()) return;
-  event->setDropAction(Qt::CopyAction);
-  event->accept();
-  status_->Say(DropText());
-}
-
-void MainWindow::dragLeaveEvent(QDragLeaveEvent* /*event*/) {
-  status_->Say(StatusText());
-}
-
-void MainWindow::dropEvent(QDropEvent* event) {
-  const DroppedRecords dropped(*event->mimeData());
-  // Never the move that is proposed for one: its source would then delete the file.
-  event->setDropAction(Qt::CopyAction);
-  event->accept();
-  status_->Say(StatusText());
-  // Questions come after the drop, so that the program that it came from does not wait for them.
-  Later(this, [this, dropped] {
-    ImportFiles(dropped.files);
-    if (!dropped.text.isEmpty()) commands_->ImportText(dropped.text);
-  });
 }
 
 }  // namespace tricklet::ui

@@ -26,6 +26,7 @@
 #include "ui/style/section.h"
 #include "ui/table/table_view.h"
 #include "ui/updates/updates.h"
+#include "ui/window/drop_target.h"
 #include "ui/window/main_menu.h"
 #include "ui/window/main_window.h"
 #include "ui/window/status_line.h"
@@ -52,6 +53,13 @@ void MainWindow::Connect() {
   menu_->OfferAt(panes_.traveller, kTravellerContext);
   connect(menu_, &MainMenu::RecentAsked, this,
           [this](const std::filesystem::path& file) { ImportFiles({file}); });
+  auto* drops = new DropTarget(this);
+  connect(drops, &DropTarget::Entered, this, [this] { status_->Say(DropText()); });
+  connect(drops, &DropTarget::Left, this, [this] { status_->Say(StatusText()); });
+  connect(drops, &DropTarget::Dropped, this, [this](const DroppedRecords& dropped) {
+    ImportFiles(dropped.files);
+    if (!dropped.text.isEmpty()) commands_->ImportText(dropped.text);
+  });
   connect(commands_, &Commands::TableAsked, tables_, &BackgroundTables::ComputeAsked);
   connect(tables_, &BackgroundTables::Changed, this, &MainWindow::DisplayAgain);
   connect(tables_, &BackgroundTables::Said, status_, &StatusLine::Say);
