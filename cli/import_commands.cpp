@@ -106,7 +106,8 @@ Looker LookerFor(const ImportWords& words, Host& host) {
   looker.always = !words.AsTheyAre();
   looker.decide = [&words, &host](const ImportLook& look) -> std::optional<ImportChoices> {
     if (words.AsTheyAre()) {
-      const std::string& loss = look.plain.loss;
+      const std::string loss =
+          look.plain.losesNothing ? std::string() : look.plain.loss(look.contents);
       if (!loss.empty()) host.Tell(ShownPath(look.file.filename()) + ": " + loss);
       return WithoutALook();
     }

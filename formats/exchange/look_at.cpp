@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 #include <vector>
 
 #include "core/fault.h"
@@ -18,7 +19,7 @@ class BoardsKept : public BoardSink {
  public:
   void Store(const Board& board) override { boards_.insert_or_assign(board.boardNumber, board); }
   bool Begin(int /*boardNumber*/, int /*done*/) override { return true; }
-  const std::map<int, Board>& Boards() const { return boards_; }
+  std::map<int, Board> Take() { return std::move(boards_); }
 
  private:
   std::map<int, Board> boards_;
@@ -64,20 +65,24 @@ bool StoresAll(const ImportPlan& plan, const std::vector<FoundGame>& games,
 }
 
 struct Reread {
-  BoardsKept sink;
+  std::map<int, Board> boards;  // by number
   Reading reading;
   bool whole = false;  // nothing was left out, and nothing failed
 };
 
-void ReadAgain(const RecordReader& reader, const RecordSource& source, Reread& again) {
+Reread ReadAgain(const RecordReader& reader, const RecordSource& source) {
+  Reread again;
+  BoardsKept sink;
   RecordSource copy = source;  // a reader may use the bytes up
   try {
-    reader.read(copy, again.sink, again.reading);
+    reader.read(copy, sink, again.reading);
+    const ReadResult& result = again.reading.result;
+    again.whole = !result.badLine && result.messages.empty() && !HasLeftOut(result.leftOut);
   } catch (const std::exception&) {
-    return;
+    again.whole = false;  // what had been read is kept, as the import keeps it
   }
-  const ReadResult& result = again.reading.result;
-  again.whole = !result.badLine && result.messages.empty() && !HasLeftOut(result.leftOut);
+  again.boards = sink.Take();
+  return again;
 }
 
 std::string Count(std::size_t number, const std::string& one, const std::string& several) {
@@ -126,15 +131,22 @@ struct Loss {
   }
 };
 
-/// The import leaves all that the file has, as the file has it.
-bool KeepsAll(const RecordReader& reader, const Reread& again, const FileContents& contents) {
-  if (!again.whole || contents.sections.size() > 1 || !contents.unread.empty()) return false;
+/// The file has something that the import never keeps.
+bool HasWhatIsLost(const RecordReader& reader, const FileContents& contents) {
+  if (contents.sections.size() > 1 || !contents.unread.empty()) return true;
   const auto& games = contents.sections.front().games;
-  const std::size_t records = CountRecords(games);
-  if (HasNotes(games)) return false;
-  const std::size_t kept = KeepsResults(reader) ? again.reading.results.lin.size() : 0;
-  return kept == records && StoresAll(PlanImport(contents, ImportChoices(), BoardsThere{}), games,
-                                      again.sink.Boards());
+  return HasNotes(games) || (!KeepsResults(reader) && CountRecords(games) > 0);
+}
+
+/// The import leaves all that the file has, as the file has it.
+bool KeepsAll(const RecordReader& reader, const RecordSource& source,
+              const FileContents& contents) {
+  if (HasWhatIsLost(reader, contents)) return false;
+  const Reread again = ReadAgain(reader, source);
+  const auto& games = contents.sections.front().games;
+  return again.whole &&
+         (!KeepsResults(reader) || again.reading.results.lin.size() == CountRecords(games)) &&
+         StoresAll(PlanImport(contents, ImportChoices(), BoardsThere{}), games, again.boards);
 }
 
 std::string LossOf(const RecordReader& reader, const Reread& again, const FileContents& contents) {
@@ -144,7 +156,7 @@ std::string LossOf(const RecordReader& reader, const Reread& again, const FileCo
     choices.skipBad = true;  // what cannot be read here is not what ends such an import
     choices.section = section;
     const auto& games = contents.sections[section].games;
-    loss.AddBoards(PlanImport(contents, choices, BoardsThere{}), games, again.sink.Boards());
+    loss.AddBoards(PlanImport(contents, choices, BoardsThere{}), games, again.boards);
     loss.notes = loss.notes || HasNotes(games);
     loss.results += CountRecords(games);
   }
@@ -167,11 +179,11 @@ FileContents ReadContents(std::string_view type, const std::string& bytes) {
 PlainImport WithoutLook(const RecordReader& reader, const RecordSource& source,
                         const FileContents& contents) {
   PlainImport plain;
-  if (contents.sections.empty()) return plain;
-  Reread again;
-  ReadAgain(reader, source, again);
-  plain.losesNothing = KeepsAll(reader, again, contents);
-  if (!plain.losesNothing) plain.loss = LossOf(reader, again, contents);
+  plain.losesNothing = contents.sections.empty() || KeepsAll(reader, source, contents);
+  if (plain.losesNothing) return plain;
+  plain.loss = [&reader, source](const FileContents& all) {
+    return LossOf(reader, ReadAgain(reader, source), all);
+  };
   return plain;
 }
 

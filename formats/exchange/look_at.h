@@ -19,9 +19,10 @@ namespace tricklet {
 struct PlainImport {
   /// It stores all that the file has, as the file has it.
   bool losesNothing = true;
-  /// Else what it would lose or alter: "lost: 2170 of 2298 deals, 12 results; other dealer or
-  /// vulnerability: 375 boards". May be empty all the same.
-  std::string loss;
+  /// Else tells what it would lose or alter: "lost: 2170 of 2298 deals, 12 results; other dealer or
+  /// vulnerability: 375 boards". May be empty all the same. Takes what the file holds, and reads
+  /// the file once more.
+  std::function<std::string(const FileContents& contents)> loss;
 };
 
 /// What a person is shown who is to decide about an import.
@@ -53,7 +54,8 @@ ImportLook LookAt(const Session& session, const RecordSource& source, const Reco
 /// Everything that the bytes of a file of `type` ("pbn", "dlm", "xml", "lin") hold.
 FileContents ReadContents(std::string_view type, const std::string& bytes);
 
-/// Reads the file once more, as that import would. `contents` is all that it holds.
+/// `contents` is all that the file holds. It is read once more, as that import would, unless that
+/// alone shows that something would be lost.
 PlainImport WithoutLook(const RecordReader& reader, const RecordSource& source,
                         const FileContents& contents);
 

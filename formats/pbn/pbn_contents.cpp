@@ -1,6 +1,7 @@
 #include "formats/pbn/pbn_contents.h"
 
 #include <algorithm>
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -79,6 +80,14 @@ std::string NotesOf(const PbnGame& game, const PbnAuction& auction, bool callsKe
   return ShowableLines(text);
 }
 
+/// The name of the tag stands somewhere in the text, in any letter case.
+bool NamesTag(std::string_view text, std::string_view name) {
+  const auto hash = [](char c) { return static_cast<std::size_t>(ToUpper(c)); };
+  const auto equal = [](char a, char b) { return ToUpper(a) == ToUpper(b); };
+  const std::boyer_moore_horspool_searcher searcher(name.begin(), name.end(), hash, equal);
+  return std::search(text.begin(), text.end(), searcher) != text.end();
+}
+
 /// Reads the games of one text.
 class ContentsReader {
  public:
@@ -106,8 +115,10 @@ class ContentsReader {
   /// The pairs come first, since the table that names them may stand in any game.
   PbnSession ReadSession() const {
     PbnPairs pairs;
-    PbnGames games(text_);
-    for (PbnGame game; games.Next(game);) pairs.Add(game);
+    if (NamesTag(text_, "TotalScoreTable")) {
+      PbnGames games(text_);
+      for (PbnGame game; games.Next(game);) pairs.Add(game);
+    }
     PairNames names(pairs.Lines());
     return {std::move(pairs), std::move(names)};
   }

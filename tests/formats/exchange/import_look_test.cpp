@@ -40,7 +40,7 @@ class ImportLookTest : public LibraryTestBy<Diary> {
     GetLibraryNames(session);
     looker.decide = [this](const ImportLook& look) {
       ++looks;
-      loss = look.plain.loss;
+      loss = look.plain.losesNothing ? "" : look.plain.loss(look.contents);
       return decision ? decision : std::optional(look.choices);
     };
   }
