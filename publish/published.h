@@ -1,0 +1,57 @@
+// What is published of a session: its boards, with all that belongs to each of them, as values.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "analysis/par.h"
+#include "core/board.h"
+#include "formats/results/lin_file.h"
+#include "formats/results/traveller.h"
+#include "library/session.h"
+
+namespace tricklet {
+
+struct PublishedBoard {
+  Board board;
+  bool complete = false;   ///< four hands of thirteen cards
+  std::optional<Par> par;  ///< of a complete board with a table
+  std::string notes;       ///< UTF-8, lines divided by "\n"; empty where there are none
+  Traveller traveller;     ///< without rows where there are no results
+};
+
+/// The boards in the order of their numbers, and the results that they come from.
+struct Published {
+  std::vector<PublishedBoard> boards;
+  LinFile results;
+};
+
+/// Boards of the current library, 1..999.
+struct BoardRange {
+  int first = kFirstBoardNumber;
+  int last = kLastBoardNumber;
+  friend bool operator==(const BoardRange&, const BoardRange&) = default;
+};
+
+/// "1-36", "7": nothing when `text` is no range within 1..999.
+std::optional<BoardRange> ReadBoardRange(std::string_view text);
+/// "1-36", "7".
+std::string BoardRangeText(const BoardRange& range);
+
+/// Told when a range has no board.
+inline constexpr const char* kNothingToPublish = "There are no boards in this range";
+
+/// What has been found, and what the person is to be told of it at the end.
+struct Gathered {
+  Published published;
+  std::string remark;  ///< why tables are missing, which deals are incomplete; may be empty
+};
+
+/// Reads the boards of `range` that the current library has. With `tables` those that are complete
+/// and have no table get one first, with progress: it is stored where the file may be written, else
+/// it is in the answer alone. Nothing, after a message, when there is no board or one cannot be
+/// read; nothing and no message when the person has cancelled.
+std::optional<Gathered> GatherBoards(Session& session, const BoardRange& range, bool tables);
+
+}  // namespace tricklet
