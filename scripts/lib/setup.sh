@@ -7,7 +7,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 # The one list of packages (Debian 12).
 build_packages=(
   g++ cmake ninja-build ccache
-  qt6-base-dev qt6-svg-dev librsvg2-bin libcli11-dev libpugixml-dev libutf8proc-dev
+  qt6-base-dev librsvg2-bin libcli11-dev libpugixml-dev libutf8proc-dev
   libdds0            # the double-dummy solver, loaded at run time
   fonts-dejavu-core  # has the four suit symbols
 )
