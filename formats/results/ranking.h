@@ -1,44 +1,78 @@
 // The ranking of a session, from its travellers.
+//
+// Match points. The percentage of a contestant is the mean of its percentages of the boards that it
+// has played, each by the board's own top, so that every board weighs the same however many tables
+// have played it (Laws of Duplicate Bridge, 78A, which says how a board is scored; with the same
+// top everywhere it is the total by what could be had). A ruling counts as its percentage. A board
+// that a contestant has not played does not count for it.
+//
+// IMPs. The total is the sum over the boards (Laws of Duplicate Bridge, 78B): those of a match, or
+// Butler points or cross-IMPs. Cross-IMPs that are computed for boards with different numbers of
+// results are divided by the number of comparisons, board by board; others are not. A ruling counts
+// only where the file gives points for it.
+//
+// Points of the file win over computed ones where it gives them for all results of a board. Where
+// match points are missing those of the whole board are computed from the scores. Where IMPs are
+// missing from a file that gives some the result does not count, since those of the file may be
+// against another datum.
+//
+// Who is who. The same number is the same pair; in both directions it is one only where the same
+// players sit under it and it is never in both directions of one board. Without numbers the names
+// decide. Where somebody has sat in both directions there is one field, else one for each
+// direction. Without numbers of pairs, and with most players having changed partners, the players
+// are ranked. Teams are ranked where no board has more than two tables: North-South of one and
+// East-West of the other are a team.
 #pragma once
 
 #include <cstdint>
 #include <string>
 #include <vector>
 
-#include "core/notation.h"
 #include "formats/results/lin_file.h"
 #include "formats/results/traveller.h"
 
 namespace tricklet {
 
 /// How the totals of a ranking are counted.
-enum class RankingUnit : std::uint8_t { Percentage, Imps };
+enum class RankingUnit : std::uint8_t { Percentage, Imps, ImpsPerComparison };
+
+/// Who is ranked.
+enum class Contestants : std::uint8_t { Pairs, Players, Teams };
 
 /// A pair, player or team and what it has reached.
 struct RankedEntrant {
   int place = 0;          ///< 1 for the first; those who are equal share the best of their places
   bool shared = false;    ///< there are others in this place
   std::string number;     ///< as in the file; empty where there is none
-  std::string names;      ///< "Ann & Bob"; empty where not known
-  int boards = 0;         ///< that count towards the total
-  double total = 0;       ///< match points, or IMPs
+  std::string names;      ///< "Ann & Bob", of a team "Ann & Bob, Cy & Di"; empty where not known
+  int boards = 0;         ///< that count towards the total, at least 1
+  double total = 0;       ///< match points in the scale of the travellers, or IMPs
   double percentage = 0;  ///< of the match points that could be had, 0..100; with IMPs 0
+
+  /// "3", "3=".
+  std::string PlaceText() const;
 };
 
-/// Those who are compared with each other: all pairs, or those of one direction.
+/// Those who are compared with each other.
 struct RankingTable {
-  std::string heading;  ///< "North-South", "East-West"; empty where there is one table only
-  std::vector<RankedEntrant> entrants;  ///< the best first
+  std::string heading;  ///< "North-South", "East-West"; empty where there is one field only
+  std::vector<RankedEntrant> entrants;  ///< at least two; the best first, those who are equal in
+                                        ///< the order of their numbers
 };
 
 struct Ranking {
   RankingUnit unit = RankingUnit::Percentage;
-  std::vector<RankingTable> tables;
-  /// What could not be ranked and why, a sentence each, for the person.
+  Contestants contestants = Contestants::Pairs;
+  std::vector<RankingTable> tables;  ///< none where nobody can be ranked, two at the most
+  /// What could not be ranked and why, a sentence each, for the person. It is fit to be shown, and
+  /// never empty where `tables` is.
   std::vector<std::string> notRanked;
+
+  /// The heading of the column that decides: "%", "IMPs", "IMPs per comparison".
+  std::string UnitText() const;
 };
 
-/// Ranks those who have played `travellers`, which are of the session of `file`.
+/// Ranks those who have played `travellers`, each of another board of the session of `file`.
 Ranking MakeRanking(const LinFile& file, const std::vector<Traveller>& travellers);
 
 }  // namespace tricklet
