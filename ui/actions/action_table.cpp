@@ -231,7 +231,7 @@ const std::array kTable{
     // Play
     ActionEntry{"mnuBidding", QT_TR_NOOP("&Bidding..."), QT_TR_NOOP("Bidding"), "Ctrl+B",
                 QT_TR_NOOP("Enter the auction"), "bidding", &Commands::Bidding, CanBid},
-    ActionEntry{"mnuPlay", QT_TR_NOOP("&Play"), QT_TR_NOOP("Play"), "Ctrl+P",
+    ActionEntry{"mnuPlay", QT_TR_NOOP("&Play"), QT_TR_NOOP("Play"), "F9",
                 QT_TR_NOOP("Play the board card by card"), "play", &Commands::PlayOrStop,
                 CanPlayOrStop, IsOn<&WindowState::playing>, PlayCaption},
     ActionEntry{"mnuUndoCard", QT_TR_NOOP("&Undo card"), QT_TR_NOOP("Undo"), "Ctrl+U",

@@ -170,7 +170,7 @@ TEST_F(PlayWindowTest, BiddingInAPresentationShowsNoAnswersUnlessTheyAreSwitched
 TEST_F(PlayWindowTest, PlayComesAfterTheAuctionThatItNeeds) {
   Open();
   const auto play = [this](const char* buttons) {
-    WithDialog("Ctrl+P", [&](const Driven& form) { form.PressAll(buttons); });
+    WithDialog("F9", [&](const Driven& form) { form.PressAll(buttons); });
     const std::string menu = FromQt(Find<QAction>("mnuPlay")->text());
     return menu + ". " + Spoken("lblScore");
   };
@@ -274,7 +274,7 @@ TEST_F(PlayWindowTest, NothingLeavesAPlayUnderWayUnasked) {
     host.ExpectAsk("Do you wish to stop the play of board 1?", "Tricklet", Answer::No);
   };
   const std::string keys =
-      "Ctrl+P PgDown PgUp Ctrl+Home Ctrl+End Ctrl+G Ctrl+N Ctrl+O Ctrl+I Ctrl+Shift+I Ctrl+Shift+V "
+      "F9 PgDown PgUp Ctrl+Home Ctrl+End Ctrl+G Ctrl+N Ctrl+O Ctrl+I Ctrl+Shift+I Ctrl+Shift+V "
       "Ctrl+Shift+G F5 F7 Shift+F6 ";
   const std::string readingAfresh = "Ctrl+E Ctrl+Shift+D F8 Shift+F2";  // when changes are given up
   for (const std::string& key : test::Words(keys + readingAfresh)) {
