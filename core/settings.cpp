@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::string_view kMacro = "macro";
 constexpr std::string_view kOptions = "Tricklet";
+constexpr std::string_view kPrint = "Print";
 constexpr std::string_view kWindowText = "&H80000008";
 constexpr double kMostWidth = 2000;  // tenths of a font's height: more than any screen
 
@@ -55,6 +56,27 @@ constexpr std::array kTable{
     SettingEntry{kOptions, "RightWidth", "0", TRICKLET_FIELD(rightWidth), 0, kMostWidth},
     SettingEntry{kOptions, "RecycleReplaced", "True", TRICKLET_FIELD(recycleReplaced)},
     SettingEntry{kOptions, "RecentFiles", "", TRICKLET_FIELD(recentFiles)},
+    SettingEntry{kPrint, "Layout", "0", TRICKLET_FIELD(print.layout), 0, 3},
+    SettingEntry{kPrint, "RecordsPerPage", "18", TRICKLET_FIELD(print.recordsPerPage), 1, 18},
+    SettingEntry{kPrint, "LessonPerPage", "2", TRICKLET_FIELD(print.lessonPerPage), 1, 4},
+    SettingEntry{kPrint, "Paper", "0", TRICKLET_FIELD(print.paper), 0, 1},
+    SettingEntry{kPrint, "Landscape", "False", TRICKLET_FIELD(print.landscape)},
+    SettingEntry{kPrint, "Colours", "True", TRICKLET_FIELD(print.colours)},
+    SettingEntry{kPrint, "Hands", "NESW", TRICKLET_FIELD(print.hands)},
+    SettingEntry{kPrint, "Points", "True", TRICKLET_FIELD(print.points)},
+    SettingEntry{kPrint, "Table", "True", TRICKLET_FIELD(print.table)},
+    SettingEntry{kPrint, "Par", "True", TRICKLET_FIELD(print.par)},
+    SettingEntry{kPrint, "Auction", "True", TRICKLET_FIELD(print.auction)},
+    SettingEntry{kPrint, "Notes", "True", TRICKLET_FIELD(print.notes)},
+    SettingEntry{kPrint, "Answers", "True", TRICKLET_FIELD(print.answers)},
+    SettingEntry{kPrint, "BySeat", "True", TRICKLET_FIELD(print.bySeat)},
+    SettingEntry{kPrint, "Ranking", "True", TRICKLET_FIELD(print.ranking)},
+    SettingEntry{kPrint, "Library", "", TRICKLET_FIELD(print.library)},
+    SettingEntry{kPrint, "Boards", "", TRICKLET_FIELD(print.boards)},
+    SettingEntry{kPrint, "OwnTitle", "False", TRICKLET_FIELD(print.ownTitle)},
+    SettingEntry{kPrint, "OwnSubtitle", "False", TRICKLET_FIELD(print.ownSubtitle)},
+    SettingEntry{kPrint, "Title", "", TRICKLET_FIELD(print.title)},
+    SettingEntry{kPrint, "Subtitle", "", TRICKLET_FIELD(print.subtitle)},
     SettingEntry{"HGFont0", "Name", "Arial Narrow", TRICKLET_FIELD(hgFont[0].name)},
     SettingEntry{"HGFont0", "Size", "24", TRICKLET_FIELD(hgFont[0].size), 6, 96},
     SettingEntry{"HGFont0", "Bold", "False", TRICKLET_FIELD(hgFont[0].bold)},
@@ -206,9 +228,9 @@ std::span<const SettingEntry> SettingTable() {
 
 const SettingEntry* FindSetting(std::string_view name) {
   for (const SettingEntry& entry : kTable) {
-    const bool font = entry.section != kMacro && entry.section != kOptions;
+    const bool alone = entry.section == kMacro || entry.section == kOptions;
     if (EqualNoCase(name, StoreName(entry.section, entry.key)) ||
-        (!font && EqualNoCase(name, entry.key))) {
+        (alone && EqualNoCase(name, entry.key))) {
       return &entry;
     }
   }
@@ -241,8 +263,14 @@ Settings LoadSettings(const SettingsStore& store) {
 
 void SaveSettings(const Settings& settings, SettingsStore& store) {
   for (const SettingEntry& entry : kTable) {
-    if (entry.section == kMacro || entry.key == "ShowMessage") continue;
+    if (entry.section == kMacro || entry.section == kPrint || entry.key == "ShowMessage") continue;
     SaveSetting(settings, entry, store);
+  }
+}
+
+void SavePrintSettings(const Settings& settings, SettingsStore& store) {
+  for (const SettingEntry& entry : kTable) {
+    if (entry.section == kPrint) SaveSetting(settings, entry, store);
   }
 }
 

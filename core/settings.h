@@ -32,6 +32,9 @@ enum class ColourScheme : std::uint8_t { System = 0, Light = 1, Dark = 2 };
 enum class ToolbarStyle : std::uint8_t { TextUnderIcon = 1, TextBesideIcon = 2, IconAlone = 3 };
 /// How the hands are captioned: in the system's own words, or briefly.
 enum class CaptionStyle : std::uint8_t { Full = 1, Short = 2 };
+/// What a printed sheet is for.
+enum class SheetLayout : std::uint8_t { Records, Lesson, Slips, Travellers };
+enum class Paper : std::uint8_t { A4, Letter };
 
 struct FontSetting {
   std::string name;
@@ -42,6 +45,33 @@ struct FontSetting {
   bool underline = false;
   ColourNumber forecolour = kWindowTextColour;
   friend bool operator==(const FontSetting&, const FontSetting&) = default;
+};
+
+/// What was chosen for the last sheets that were printed. Wording and range belong to one library:
+/// they are offered again for `library` and for no other.
+struct PrintSettings {
+  SheetLayout layout = SheetLayout::Records;
+  int recordsPerPage = 0;  ///< boards on a page of hand records, and of a lesson
+  int lessonPerPage = 0;
+  Paper paper = Paper::A4;
+  bool landscape = false;
+  bool colours = false;  ///< else black alone
+  std::string hands;     ///< letters of the seats that a lesson shows: "NESW"
+  bool points = false;   ///< shown beside the hands; likewise the next four
+  bool table = false;    ///< of makeable tricks
+  bool par = false;
+  bool auction = false;
+  bool notes = false;
+  bool answers = false;   ///< what a lesson leaves out stands on pages at the end
+  bool bySeat = false;    ///< slips of one seat on a page; else all of a board
+  bool ranking = false;   ///< after the travellers
+  std::string library;    ///< whose wording and range the following are
+  std::string boards;     ///< "1-36"; empty for the whole library
+  bool ownTitle = false;  ///< `title`, else the one that is proposed
+  bool ownSubtitle = false;
+  std::string title;  ///< UTF-8
+  std::string subtitle;
+  friend bool operator==(const PrintSettings&, const PrintSettings&) = default;
 };
 
 /// Every setting under the name of its key.
@@ -82,6 +112,7 @@ struct Settings {
   int rightWidth = 0;           ///< likewise of the right column
   bool recycleReplaced = true;  ///< boards that are replaced go to the recycle bin first
   std::string recentFiles;      ///< the newest first, UTF-8, separated by '|'
+  PrintSettings print;
   std::array<FontSetting, 2> hgFont;  ///< 0: holdings as text; 1: captions and auction
 
   /// All defaults, from the table.
@@ -138,8 +169,9 @@ class OverlayStore : public SettingsStore {
 };
 
 /// The member of `Settings` that an entry of the table stands for.
-using SettingField = std::variant<bool*, int*, double*, std::string*, ColourNumber*, CardDesign*,
-                                  EditMethod*, ColourScheme*, ToolbarStyle*, CaptionStyle*>;
+using SettingField =
+    std::variant<bool*, int*, double*, std::string*, ColourNumber*, CardDesign*, EditMethod*,
+                 ColourScheme*, ToolbarStyle*, CaptionStyle*, SheetLayout*, Paper*>;
 
 /// One row of the table.
 struct SettingEntry {
@@ -154,8 +186,8 @@ struct SettingEntry {
 /// The table: every key that is stored, in the order of `Settings`.
 std::span<const SettingEntry> SettingTable();
 
-/// An entry by "key" or "section/key", in any letter case; null when there is none. The seven font
-/// keys exist twice and need their section.
+/// An entry by "key" or "section/key", in any letter case; null when there is none. The keys of the
+/// two fonts, which exist twice, and those of printing need their section.
 const SettingEntry* FindSetting(std::string_view name);
 
 /// The entry whose field of `settings` is `field`. Throws `std::logic_error` when there is none.
@@ -182,11 +214,14 @@ bool SetFromText(Settings& settings, const SettingEntry& entry, std::string_view
 /// Reads every key; a missing or unreadable one takes its default.
 Settings LoadSettings(const SettingsStore& store);
 
-/// Writes every key of the options (not those of section "macro", which are written when they
-/// change, nor "ShowMessage").
+/// Writes every key of the options (not those of the sections "macro" and "Print", which are
+/// written when they change, nor "ShowMessage").
 void SaveSettings(const Settings& settings, SettingsStore& store);
 
 /// Writes the one key of `entry`.
 void SaveSetting(const Settings& settings, const SettingEntry& entry, SettingsStore& store);
+
+/// Writes the keys of `Settings::print`.
+void SavePrintSettings(const Settings& settings, SettingsStore& store);
 
 }  // namespace tricklet

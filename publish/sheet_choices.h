@@ -1,18 +1,15 @@
 // What is printed of a session, and how: what a person chooses before sheets are made.
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 
 #include "core/notation.h"
+#include "core/settings.h"
 
 namespace tricklet {
-
-enum class SheetLayout : std::uint8_t { Records, Lesson, Slips, Travellers };
-enum class Paper : std::uint8_t { A4, Letter };
 
 struct SheetChoices {
   SheetLayout layout = SheetLayout::Records;
