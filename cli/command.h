@@ -34,6 +34,8 @@ void AddImportCommands(CLI::App& app, Command& command);
 void AddLibraryCommands(CLI::App& app, Command& command);
 /// auction, play, score.
 void AddPlayCommands(CLI::App& app, Command& command);
+/// diagram.
+void AddDiagramCommand(CLI::App& app, Command& command);
 /// traveller.
 void AddResultCommands(CLI::App& app, Command& command);
 /// analyse, link.

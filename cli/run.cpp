@@ -122,6 +122,7 @@ int ParseAndExecute(const std::vector<std::string>& arguments, SettingsStore& st
   AddImportCommands(app, command);
   AddLibraryCommands(app, command);
   AddPlayCommands(app, command);
+  AddDiagramCommand(app, command);
   AddResultCommands(app, command);
   AddAnalysisCommands(app, command);
   AddEditCommands(app, command);

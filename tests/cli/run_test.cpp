@@ -84,6 +84,18 @@ TEST_F(CommandLine, IsNotDoneWhenItsOutputIsLost) {
   }
 }
 
+TEST_F(CommandLine, PrintsDiagrams) {
+  ASSERT_EQ(Run("import @in.pbn"), 0);
+  ASSERT_EQ(Run("diagram 7 --hands NS"), 0);
+  EXPECT_NE(out.find("\u2660 A873\n"), std::string::npos) << out;
+  EXPECT_EQ(out.find("KJ4"), std::string::npos) << "West's " << out;
+  const std::string north = "<span style=\"color:#1b2468\">\u2660</span> A873<br>";
+  ASSERT_EQ(Run("diagram --html"), 0);
+  EXPECT_NE(out.find(north), std::string::npos) << out;
+  EXPECT_EQ(Answer("diagram 8"), "1 There is no board 8 in library Default\n");
+  EXPECT_EQ(Run("diagram 7 --hands X"), 2);
+}
+
 TEST_F(CommandLine, ShowsTheTravellerOfABoard) {
   ASSERT_EQ(Run("import @in.pbn"), 0);
   EXPECT_EQ(Answer("traveller 7"), "1 The library Default has no results\n");

@@ -1,0 +1,192 @@
+#include "publish/diagram.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace tricklet {
+namespace {
+
+constexpr std::size_t kHandWidth = 14;    // at least: a holding of ten cards
+constexpr std::size_t kCentreWidth = 12;  // at least: between West and East
+constexpr std::size_t kCallWidth = 7;
+
+const std::string kDash = "\u2014";
+
+std::string SymbolOf(Strain strain) {
+  return strain == Strain::NoTrump ? "NT"
+                                   : std::string(SuitSymbol[static_cast<Suit>(IndexOf(strain))]);
+}
+
+/// The column of a seat in an auction, which begins at West.
+std::size_t ColumnOf(Seat seat) {
+  return static_cast<std::size_t>(IndexOf(SeatAfter(seat)));
+}
+
+std::string CallText(const CallList& calls, int index) {
+  const Call call = calls[index];
+  if (!call.IsBid()) return calls.ShownAt(index);
+  return std::to_string(call.Level()) + SymbolOf(ToStrain(call.Denomination()));
+}
+
+/// "4♠x by South": the contract with the symbol of its strain.
+std::string ContractText(const Board& board) {
+  const std::string label = ContractLabel(board);
+  if (board.contractLevel == 0) return label;
+  const std::size_t letters = StrainLetter[board.trumps].size();
+  return label.substr(0, 1) + SymbolOf(board.trumps) + label.substr(1 + letters);
+}
+
+std::string PlayText(const DiagramPlay& play) {
+  std::string text = "NS: " + std::to_string(play.tricks[Side::NorthSouth]) +
+                     " \u00b7 EW: " + std::to_string(play.tricks[Side::EastWest]);
+  if (play.onPlay) text += " \u00b7 " + std::string(SeatName[*play.onPlay]) + " to play";
+  return text;
+}
+
+/// Characters, not bytes.
+std::size_t Width(std::string_view text) {
+  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+  }));
+}
+
+std::string Padded(std::string text, std::size_t width) {
+  const std::size_t has = Width(text);
+  if (has < width) text.append(width - has, ' ');
+  return text;
+}
+
+/// `text` as a line, without the blanks at its end.
+std::string Line(std::string text) {
+  text.erase(text.find_last_not_of(' ') + 1);
+  return text + "\n";
+}
+
+using Lines = std::vector<std::string>;
+
+/// Seat, and player where known; then the suits, which are blank where no card is seen.
+Lines HandLines(const Diagram& diagram, Seat seat) {
+  std::string title(SeatName[seat]);
+  if (!diagram.names[seat].empty()) title += " \u00b7 " + diagram.names[seat];
+  Lines lines{std::move(title)};
+  for (const Suit suit : kAllSuits) {
+    lines.push_back(HandSeen(diagram, seat) ? std::string(SuitSymbol[suit]) + " " +
+                                                  DiagramRanks(diagram.board.hands[seat][suit])
+                                            : std::string());
+  }
+  return lines;
+}
+
+std::string CardOnTable(const Diagram& diagram, Seat seat) {
+  if (!diagram.play || !diagram.play->trick[seat]) return {};
+  const Card card = *diagram.play->trick[seat];
+  return std::string(SuitSymbol[card.suit]) + std::string(RankText[card.rank]);
+}
+
+/// The lines between West and East: a blank one beside their names, then the trick on the table.
+Lines CentreLines(const Diagram& diagram) {
+  const auto card = [&](Seat seat) { return CardOnTable(diagram, seat); };
+  return {"", Padded("", 4) + card(Seat::North),
+          Padded(card(Seat::West), kCentreWidth - 4) + card(Seat::East),
+          Padded("", 4) + card(Seat::South), ""};
+}
+
+std::size_t WidthOf(const Lines& lines, std::size_t least) {
+  for (const std::string& line : lines) least = std::max(least, Width(line) + 2);
+  return least;
+}
+
+/// North or South: nobody stands beside the suits.
+std::string HandAlone(const Diagram& diagram, Seat seat, std::size_t left) {
+  std::string text;
+  for (const std::string& line : HandLines(diagram, seat)) {
+    if (!line.empty()) text += Line(std::string(left, ' ') + line);
+  }
+  return text;
+}
+
+std::string HandsText(const Diagram& diagram) {
+  const Lines west = HandLines(diagram, Seat::West);
+  const Lines east = HandLines(diagram, Seat::East);
+  const Lines centre = CentreLines(diagram);
+  const std::size_t left = WidthOf(west, kHandWidth);
+  std::string text = HandAlone(diagram, Seat::North, left);
+  for (std::size_t i = 0; i < west.size(); ++i) {
+    text += Line(Padded(west[i], left) + Padded(centre[i], kCentreWidth) + east[i]);
+  }
+  return text + HandAlone(diagram, Seat::South, left);
+}
+
+std::string RowText(const CallRow& row) {
+  std::string line;
+  for (const std::string& call : row) line += Padded(call + ' ', kCallWidth);
+  return Line(line);
+}
+
+}  // namespace
+
+std::string DiagramRanks(Holding holding) {
+  std::string ranks;
+  for (int i = 0; i < kRanks; ++i) {
+    const auto rank = static_cast<Rank>(i);
+    if (holding.Has(rank)) ranks += RankText[rank];
+  }
+  return ranks.empty() ? kDash : ranks;
+}
+
+bool HandSeen(const Diagram& diagram, Seat seat) {
+  const PerSuit<Holding>& hand = diagram.board.hands[seat];
+  return !diagram.hidden[seat] &&
+         std::any_of(hand.begin(), hand.end(), [](Holding suit) { return !suit.Empty(); });
+}
+
+std::vector<std::string> DiagramHeading(const Diagram& diagram) {
+  const Board& board = diagram.board;
+  if (!IsStorable(board.boardNumber)) return {};
+  return {"Board " + std::to_string(board.boardNumber),
+          "Dealer " + std::string(SeatName[board.Dealer()]),
+          std::string(VulText[board.Vulnerability()])};
+}
+
+std::vector<CallRow> DiagramCalls(const Diagram& diagram) {
+  std::vector<CallRow> rows;
+  const Board& board = diagram.board;
+  if (!diagram.auction || board.NumCalls() == 0) return rows;
+  const std::size_t first = ColumnOf(board.Dealer());
+  for (int i = 0; i < board.NumCalls(); ++i) {
+    const std::size_t place = first + static_cast<std::size_t>(i);
+    rows.resize(place / kSeats + 1);
+    rows.back().at(place % kSeats) = CallText(board.calls, i);
+  }
+  return rows;
+}
+
+std::vector<std::string> DiagramFoot(const Diagram& diagram) {
+  std::vector<std::string> lines;
+  if (!diagram.board.contract.empty()) lines.push_back(ContractText(diagram.board));
+  if (diagram.play) {
+    lines.push_back(PlayText(*diagram.play));
+    if (!diagram.play->result.empty()) lines.push_back(diagram.play->result);
+  }
+  return lines;
+}
+
+std::string DiagramText(const Diagram& diagram) {
+  std::string text;
+  std::string heading;
+  for (const std::string& part : DiagramHeading(diagram)) {
+    heading += (heading.empty() ? "" : " \u00b7 ") + part;
+  }
+  if (!heading.empty()) text += heading + "\n\n";
+  text += HandsText(diagram);
+  if (const auto rows = DiagramCalls(diagram); !rows.empty()) {
+    text += "\n" + RowText({"West", "North", "East", "South"});
+    for (const CallRow& row : rows) text += RowText(row);
+  }
+  const auto foot = DiagramFoot(diagram);
+  if (!foot.empty()) text += "\n";
+  for (const std::string& line : foot) text += line + "\n";
+  return text;
+}
+
+}  // namespace tricklet

@@ -1,0 +1,204 @@
+// The diagram as HTML.
+#include <algorithm>
+#include <string_view>
+
+#include "publish/diagram.h"
+
+namespace tricklet {
+namespace {
+
+// Dark enough to be read on white, 4.5 to 1 or more.
+constexpr PerSuit<std::string_view> kFourColours{{"#1b2468", "#c8202f", "#b85a00", "#1d7a34"}};
+constexpr PerSuit<std::string_view> kTwoColours{{"#16181c", "#c8202f", "#c8202f", "#16181c"}};
+
+constexpr std::string_view kVulnerable = "color:#c8202f;font-weight:bold";
+// Word processors and mails keep the style of a cell rather than that of the table.
+constexpr std::string_view kCell = "padding:2px 10px;vertical-align:top;text-align:left";
+constexpr std::string_view kMiddle = "padding:2px 10px;vertical-align:middle;text-align:center";
+
+/// Writes into one text.
+class HtmlWriter {
+ public:
+  HtmlWriter(const Diagram& diagram, bool fourColours)
+      : diagram_(diagram), colours_(fourColours ? kFourColours : kTwoColours) {}
+
+  std::string Write() {
+    text_ = "<meta charset=\"utf-8\">\n";
+    Table([this] {
+      const auto heading = DiagramHeading(diagram_);
+      if (!heading.empty()) {
+        Row([&] { Cell(3, kCell, [&] { Heading(heading); }); });
+      }
+      Row([this] { Corner(), Hand(Seat::North), Corner(); });
+      Row([this] { Hand(Seat::West), Centre(), Hand(Seat::East); });
+      Row([this] { Corner(), Hand(Seat::South), Corner(); });
+    });
+    Auction();
+    Foot();
+    return std::move(text_);
+  }
+
+ private:
+  template <class Content>
+  void Table(const Content& content) {
+    text_ +=
+        "<table cellspacing=\"0\" cellpadding=\"0\" border=\"0\" "
+        "style=\"border-collapse:collapse;border:none;background:#ffffff;color:#111111;"
+        "font-family:Arial,Helvetica,sans-serif;font-size:11pt;line-height:1.3\">\n";
+    content();
+    text_ += "</table>\n";
+  }
+  template <class Content>
+  void Row(const Content& content) {
+    text_ += "<tr>";
+    content();
+    text_ += "</tr>\n";
+  }
+  template <class Content>
+  void Cell(int columns, std::string_view style, const Content& content) {
+    text_ += "<td";
+    if (columns > 1) text_ += " colspan=\"" + std::to_string(columns) + "\"";
+    text_ += " style=\"" + std::string(style) + "\">";
+    content();
+    text_ += "</td>";
+  }
+  void Corner() {
+    Cell(1, kCell, [] {});
+  }
+
+  /// Escaped, and with suit symbols in their colours.
+  void Text(std::string_view text) {
+    while (!text.empty()) {
+      const auto suit = std::find_if(kAllSuits.begin(), kAllSuits.end(), [text](Suit each) {
+        return text.substr(0, SuitSymbol[each].size()) == SuitSymbol[each];
+      });
+      if (suit != kAllSuits.end()) {
+        Symbol(*suit);
+        text.remove_prefix(SuitSymbol[*suit].size());
+      } else {
+        Escaped(text.front());
+        text.remove_prefix(1);
+      }
+    }
+  }
+  void Symbol(Suit suit) {
+    text_ += "<span style=\"color:" + std::string(colours_[suit]) + "\">" +
+             std::string(SuitSymbol[suit]) + "</span>";
+  }
+  void Escaped(char character) {
+    switch (character) {
+      case '&':
+        text_ += "&amp;";
+        break;
+      case '<':
+        text_ += "&lt;";
+        break;
+      case '>':
+        text_ += "&gt;";
+        break;
+      case '"':
+        text_ += "&quot;";
+        break;
+      default:
+        text_ += character;
+    }
+  }
+
+  void Heading(const std::vector<std::string>& parts) {
+    text_ += "<b>";
+    Text(parts.front());
+    text_ += "</b>";
+    for (std::size_t i = 1; i < parts.size(); ++i) {
+      text_ += "<br>";
+      Text(parts[i]);
+    }
+  }
+
+  void Hand(Seat seat) {
+    Cell(1, kCell, [&] {
+      text_ += "<b>" + std::string(SeatName[seat]) + "</b>";
+      if (const std::string& name = diagram_.names[seat]; !name.empty()) {
+        text_ += " \u00b7 ";
+        Text(name);
+      }
+      if (!HandSeen(diagram_, seat)) return;
+      for (const Suit suit : kAllSuits) {
+        text_ += "<br>";
+        Symbol(suit);
+        text_ += " " + DiagramRanks(diagram_.board.hands[seat][suit]);
+      }
+    });
+  }
+
+  /// The trick on the table, or the seats, of which those that are vulnerable stand out.
+  void Centre() {
+    const bool trick = diagram_.play.has_value();
+    Cell(1, kMiddle, [&] {
+      const auto place = [&](Seat seat) { trick ? OnTable(seat) : Letter(seat); };
+      place(Seat::North);
+      text_ += "<br>";
+      place(Seat::West);
+      text_ += " &nbsp; &nbsp; ";
+      place(Seat::East);
+      text_ += "<br>";
+      place(Seat::South);
+    });
+  }
+  void OnTable(Seat seat) {
+    const auto& card = diagram_.play->trick[seat];
+    if (card) {
+      Symbol(card->suit);
+      text_ += RankText[card->rank];
+    } else {
+      text_ += "&nbsp;";
+    }
+  }
+  void Letter(Seat seat) {
+    const Board& board = diagram_.board;
+    const bool vulnerable =
+        IsStorable(board.boardNumber) && IsVulnerable(board.Vulnerability(), SideOf(seat));
+    if (vulnerable) text_ += "<span style=\"" + std::string(kVulnerable) + "\">";
+    text_ += SeatName[seat].front();
+    if (vulnerable) text_ += "</span>";
+  }
+
+  void Auction() {
+    const auto rows = DiagramCalls(diagram_);
+    if (rows.empty()) return;
+    text_ += "<br>\n";
+    Table([&] {
+      Row([this] {
+        for (const char* seat : {"West", "North", "East", "South"}) {
+          Cell(1, kCell, [&] { text_ += "<b>" + std::string(seat) + "</b>"; });
+        }
+      });
+      for (const CallRow& row : rows) {
+        Row([&] {
+          for (const std::string& call : row) Cell(1, kCell, [&] { Text(call); });
+        });
+      }
+    });
+  }
+
+  void Foot() {
+    for (const std::string& line : DiagramFoot(diagram_)) {
+      text_ +=
+          "<p style=\"margin:4px 10px;color:#111111;"
+          "font-family:Arial,Helvetica,sans-serif;font-size:11pt\">";
+      Text(line);
+      text_ += "</p>\n";
+    }
+  }
+
+  const Diagram& diagram_;
+  const PerSuit<std::string_view>& colours_;
+  std::string text_;
+};
+
+}  // namespace
+
+std::string DiagramHtml(const Diagram& diagram, bool fourColours) {
+  return HtmlWriter(diagram, fourColours).Write();
+}
+
+}  // namespace tricklet

@@ -1,0 +1,109 @@
+#include "publish/diagram.h"
+
+#include <string>
+#include <utility>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/calls.h"
+#include "tests/support/hands.h"
+
+namespace tricklet {
+namespace {
+
+Diagram Deal() {
+  Diagram diagram;
+  diagram.board.boardNumber = 7;
+  diagram.board.hands =
+      test::HandsOf("N:AKT5.Q3.J94.KQ72 QJ9.AK2.KQT83.A9 876432.JT94..J86 .8765.A7652.T543");
+  return diagram;
+}
+
+TEST(Diagram, TextIsACompassOfColumns) {
+  EXPECT_EQ(DiagramText(Deal()), R"(Board 7 · Dealer South · All vulnerable
+
+              North
+              ♠ AK105
+              ♥ Q3
+              ♦ J94
+              ♣ KQ72
+West                      East
+♠ —                       ♠ QJ9
+♥ 8765                    ♥ AK2
+♦ A7652                   ♦ KQ1083
+♣ 10543                   ♣ A9
+              South
+              ♠ 876432
+              ♥ J1094
+              ♦ —
+              ♣ J86
+)");
+}
+
+/// In play, with a name that is markup and with South and East hidden.
+Diagram Position() {
+  Diagram diagram = Deal();
+  test::SetAuction(diagram.board, "1S X P 3NT");
+  diagram.board.hands[Seat::West][Suit::Diamonds].Remove(Rank::Ace);
+  diagram.hidden[Seat::East] = diagram.hidden[Seat::South] = true;
+  diagram.names[Seat::West] = "A&B <b>";
+  diagram.play = DiagramPlay{};
+  diagram.play->trick[Seat::West] = test::CardOf("DA");
+  diagram.play->onPlay = Seat::North;
+  diagram.play->tricks[Side::EastWest] = 5;
+  return diagram;
+}
+
+TEST(Diagram, APlayUnderWayHasItsTrickAndNothingOfHiddenHands) {
+  EXPECT_EQ(DiagramText(Position()), R"(Board 7 · Dealer South · All vulnerable
+
+                North
+                ♠ AK105
+                ♥ Q3
+                ♦ J94
+                ♣ KQ72
+West · A&B <b>              East
+♠ —
+♥ 8765          ♦A
+♦ 7652
+♣ 10543
+                South
+
+West   North  East   South
+                     1♠
+Dbl    Pass   3NT
+
+3NT by East
+NS: 0 · EW: 5 · North to play
+)");
+}
+
+TEST(Diagram, TheHtmlHasTheSameEscapedAndColoured) {
+  const std::string html = DiagramHtml(Position(), true);
+  const std::pair<const char*, bool> cases[] = {
+      {"<b>West</b> \u00b7 A&amp;B &lt;b&gt;<br>", true},
+      {"<span style=\"color:#c8202f\">\u2665</span> 8765<br>", true},
+      {"<span style=\"color:#b85a00\">\u2666</span>A", true},  // on the table
+      {">1<span style=\"color:#1b2468\">\u2660</span></td>", true},
+      {"876432", false},  // South's
+      {"KQ1083", false},  // East's
+      {"<b>South</b></td>", true},
+      {"NS: 0 \u00b7 EW: 5 \u00b7 North to play</p>", true}};
+  for (const auto& [text, there] : cases) {
+    EXPECT_EQ(html.find(text) != std::string::npos, there) << text << " in\n" << html;
+  }
+  EXPECT_EQ(DiagramHtml(Position(), false).find("#b85a00"), std::string::npos);
+}
+
+TEST(Diagram, WhatIsNotKnownIsNotTold) {
+  Diagram diagram = Deal();
+  diagram.board.boardNumber = 0;
+  EXPECT_EQ(DiagramText(diagram).find("Dealer"), std::string::npos);
+  diagram = Position();
+  diagram.auction = false;
+  EXPECT_EQ(DiagramText(diagram).find("Dbl"), std::string::npos);
+  EXPECT_NE(DiagramText(diagram).find("3NT by East"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace tricklet
