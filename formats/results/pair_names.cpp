@@ -57,7 +57,7 @@ std::string TakeDirection(std::string& number) {
 
 std::string PlayerName(std::string_view name) {
   const std::string_view trimmed = Trim(name);
-  return EqualNoCase(trimmed, "advanced bbo") ? "Robot" : Showable(trimmed);
+  return EqualNoCase(trimmed, "advanced bbo") ? std::string(kRobot) : Showable(trimmed);
 }
 
 std::string JoinPlayers(const PairPlayers& players) {

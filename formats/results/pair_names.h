@@ -14,7 +14,10 @@ namespace tricklet {
 /// The players of a pair, in either order.
 using PairPlayers = std::pair<std::string, std::string>;
 
-/// The name under which a player is shown: the robot of an online table as "Robot", and any other
+/// The name that all robots of online tables share.
+inline constexpr std::string_view kRobot = "Robot";
+
+/// The name under which a player is shown: the robot of an online table as `kRobot`, and any other
 /// made fit for display.
 std::string PlayerName(std::string_view name);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <map>
 #include <utility>
 
 #include "core/comparison.h"
@@ -239,6 +240,23 @@ std::string ScoringOf(const LinFile& file, bool matchPoints, bool teams, bool co
   return teams ? "IMP" : "XIMP";
 }
 
+/// The traveller of the board whose records are `lines`.
+Traveller TravellerOf(const LinFile& file, int boardNumber,
+                      const std::vector<const std::string*>& lines, const PairNames& pairs) {
+  const bool matchPoints = file.boardScoringMethod == "MATCH_POINTS";
+  const bool teams = file.teamEvent.has_value() || file.boardScoringMethod == "IMPS";
+  Traveller traveller;
+  traveller.boardNumber = boardNumber;
+  for (const std::string* line : lines) {
+    traveller.rows.push_back(MakeRow(ParseLinRecord(*line), boardNumber, pairs, matchPoints));
+    traveller.rows.back().lin = line->substr(0, line->find(kOwnTags));
+  }
+  traveller.computed = std::none_of(traveller.rows.begin(), traveller.rows.end(), HasPoints);
+  if (traveller.computed) ComputePoints(traveller, matchPoints, teams);
+  traveller.scoring = ScoringOf(file, matchPoints, teams, traveller.computed);
+  return traveller;
+}
+
 /// "+1", "-2", "=".
 std::string Signed(int number) {
   return ResultText(number);
@@ -267,21 +285,29 @@ TravellerRow MakeTravellerRow(const std::string& record, int boardNumber) {
 }
 
 Traveller MakeTraveller(const LinFile& file, int boardNumber) {
-  const bool matchPoints = file.boardScoringMethod == "MATCH_POINTS";
-  const bool teams = file.teamEvent.has_value() || file.boardScoringMethod == "IMPS";
-  Traveller traveller;
-  traveller.boardNumber = boardNumber;
-  const PairNames pairs(file.names);
+  std::vector<const std::string*> lines;
   for (const std::string& line : file.lin) {
-    if (traveller.rows.size() == kMaxTravellerRows) break;
-    if (BoardNumberOfLin(line) != boardNumber) continue;
-    traveller.rows.push_back(MakeRow(ParseLinRecord(line), boardNumber, pairs, matchPoints));
-    traveller.rows.back().lin = line.substr(0, line.find(kOwnTags));
+    if (lines.size() == kMaxTravellerRows) break;
+    if (BoardNumberOfLin(line) == boardNumber) lines.push_back(&line);
   }
-  traveller.computed = std::none_of(traveller.rows.begin(), traveller.rows.end(), HasPoints);
-  if (traveller.computed) ComputePoints(traveller, matchPoints, teams);
-  traveller.scoring = ScoringOf(file, matchPoints, teams, traveller.computed);
-  return traveller;
+  return TravellerOf(file, boardNumber, lines, PairNames(file.names));
+}
+
+std::vector<Traveller> MakeTravellers(const LinFile& file) {
+  std::map<int, std::vector<const std::string*>> lines;
+  for (const std::string& line : file.lin) {
+    const int boardNumber = BoardNumberOfLin(line);
+    if (!IsStorable(boardNumber)) continue;
+    auto& ofBoard = lines[boardNumber];
+    if (ofBoard.size() < kMaxTravellerRows) ofBoard.push_back(&line);
+  }
+  const PairNames pairs(file.names);
+  std::vector<Traveller> travellers;
+  travellers.reserve(lines.size());
+  for (const auto& [boardNumber, ofBoard] : lines) {
+    travellers.push_back(TravellerOf(file, boardNumber, ofBoard, pairs));
+  }
+  return travellers;
 }
 
 std::string LinPlayRecord(const Traveller& traveller, const Board& board, int row) {

@@ -65,6 +65,9 @@ TravellerRow MakeTravellerRow(const std::string& record, int boardNumber);
 /// be compared, as the file does not say which of more belong together.
 Traveller MakeTraveller(const LinFile& file, int boardNumber);
 
+/// Those of all boards, 1..999, of which the file has records, in the order of their numbers.
+std::vector<Traveller> MakeTravellers(const LinFile& file);
+
 /// The LIN record of `row`, or of the first row with a play when `row` is -1. Rows of another deal
 /// than that of `board` do not count; empty when none is left.
 std::string LinPlayRecord(const Traveller& traveller, const Board& board, int row = -1);
