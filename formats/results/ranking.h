@@ -16,12 +16,8 @@
 // missing from a file that gives some the result does not count, since those of the file may be
 // against another datum.
 //
-// Who is who. The same number is the same pair; in both directions it is one only where the same
-// players sit under it and it is never in both directions of one board. Without numbers the names
-// decide. Where somebody has sat in both directions there is one field, else one for each
-// direction. Without numbers of pairs, and with most players having changed partners, the players
-// are ranked. Teams are ranked where no board has more than two tables: North-South of one and
-// East-West of the other are a team.
+// seating.h tells who the contestants are. Where somebody has sat in both directions there is one field, else one
+// for each direction.
 #pragma once
 
 #include <cstdint>
@@ -29,15 +25,13 @@
 #include <vector>
 
 #include "formats/results/lin_file.h"
+#include "formats/results/seating.h"
 #include "formats/results/traveller.h"
 
 namespace tricklet {
 
 /// How the totals of a ranking are counted.
 enum class RankingUnit : std::uint8_t { Percentage, Imps, ImpsPerComparison };
-
-/// Who is ranked.
-enum class Contestants : std::uint8_t { Pairs, Players, Teams };
 
 /// A pair, player or team and what it has reached.
 struct RankedEntrant {
@@ -51,6 +45,10 @@ struct RankedEntrant {
 
   /// "3", "3=".
   std::string PlaceText() const;
+  /// "31.5", "-3": with two decimals at the most, a point whatever the locale.
+  std::string TotalText() const;
+  /// "54.17": with two decimals.
+  std::string PercentageText() const;
 };
 
 /// Those who are compared with each other.
@@ -73,6 +71,7 @@ struct Ranking {
 };
 
 /// Ranks those who have played `travellers`, each of another board of the session of `file`.
+Ranking MakeRanking(const LinFile& file, Travellers travellers);
 Ranking MakeRanking(const LinFile& file, const std::vector<Traveller>& travellers);
 
 }  // namespace tricklet
