@@ -11,15 +11,38 @@
 #include "cli/columns.h"
 #include "cli/command.h"
 #include "core/text.h"
+#include "formats/results/ranking.h"
 #include "formats/results/traveller.h"
 
 namespace tricklet::cli {
 namespace {
 
+/// The lines in columns as wide as their widest cell; those without any text are left out. Words
+/// stand at the left of their column, numbers at the right.
+template <std::size_t kColumns>
+std::string InColumns(const std::vector<std::array<std::string, kColumns>>& lines,
+                      const std::array<bool, kColumns>& left) {
+  std::array<std::size_t, kColumns> widths{};
+  for (const auto& line : lines) {
+    for (std::size_t i = 0; i < kColumns; ++i) {
+      widths.at(i) = std::max(widths.at(i), Width(line.at(i)));
+    }
+  }
+  std::string text;
+  for (const auto& line : lines) {
+    std::string aligned;
+    for (std::size_t i = 0; i < kColumns; ++i) {
+      if (widths.at(i) == 0) continue;
+      aligned += (i == 0 ? "" : "  ") + (left.at(i) ? PadRight(line.at(i), widths.at(i))
+                                                    : PadLeft(line.at(i), widths.at(i)));
+    }
+    AppendLine(text, aligned);
+  }
+  return text;
+}
+
 constexpr std::size_t kColumns = 11;
 using Line = std::array<std::string, kColumns>;
-
-/// Words stand at the left of their column, numbers at the right.
 constexpr std::array<bool, kColumns> kLeft{false, false, true,  true,  true, false,
                                            false, false, false, false, true};
 
@@ -46,20 +69,7 @@ std::string TravellerText(const Traveller& traveller) {
   std::vector<Line> lines{{"NS", "EW", "Contract", "By", "Lead", "Tricks", "NS+", "EW+",
                            traveller.scoring, traveller.scoring, "Names"}};
   for (const TravellerRow& row : traveller.rows) lines.push_back(LineOf(row));
-  std::array<std::size_t, kColumns> widths{};
-  for (const Line& line : lines) {
-    for (std::size_t i = 0; i < kColumns; ++i) widths[i] = std::max(widths[i], Width(line[i]));
-  }
-  std::string text;
-  for (const Line& line : lines) {
-    std::string aligned;
-    for (std::size_t i = 0; i < kColumns; ++i) {
-      aligned += (i == 0 ? "" : "  ") +
-                 (kLeft[i] ? PadRight(line[i], widths[i]) : PadLeft(line[i], widths[i]));
-    }
-    AppendLine(text, aligned);
-  }
-  return text;
+  return InColumns(lines, kLeft);
 }
 
 ExitCode TravellerOf(const Context& context, int boardNumber) {
@@ -77,6 +87,40 @@ ExitCode TravellerOf(const Context& context, int boardNumber) {
   return ExitCode::Done;
 }
 
+constexpr std::size_t kRankingColumns = 6;
+using RankingLine = std::array<std::string, kRankingColumns>;
+constexpr std::array<bool, kRankingColumns> kRankingLeft{false, false, false, false, false, true};
+
+/// With IMPs the total decides, and there is no percentage.
+std::string RankingTableText(const Ranking& ranking, const RankingTable& table) {
+  const bool percentages = ranking.unit == RankingUnit::Percentage;
+  std::vector<RankingLine> lines{{"Place", "No", "Boards", percentages ? "MP" : ranking.UnitText(),
+                                  percentages ? ranking.UnitText() : "", "Names"}};
+  for (const RankedEntrant& one : table.entrants) {
+    lines.push_back({std::to_string(one.place) + (one.shared ? "=" : " "), one.number,
+                     std::to_string(one.boards), one.TotalText(),
+                     percentages ? one.PercentageText() : "", one.names});
+  }
+  return (table.heading.empty() ? "" : table.heading + "\n") + InColumns(lines, kRankingLeft);
+}
+
+ExitCode ShowRanking(const Context& context) {
+  Session& session = context.session;
+  if (!OpenLibrary(context, false)) return ExitCode::Refused;
+  const LinFile file = LoadLinData(session);
+  if (file.Empty()) {
+    session.host.Tell("The library " + session.ShownLibrary() + " has no results");
+    return ExitCode::Refused;
+  }
+  const Ranking ranking = MakeRanking(file, MakeTravellers(file));
+  for (const RankingTable& table : ranking.tables) {
+    context.data << (&table == ranking.tables.data() ? "" : "\n")
+                 << RankingTableText(ranking, table);
+  }
+  for (const std::string& sentence : ranking.notRanked) session.host.Tell(sentence);
+  return ranking.tables.empty() ? ExitCode::Refused : ExitCode::Done;
+}
+
 }  // namespace
 
 void AddResultCommands(CLI::App& app, Command& command) {
@@ -86,6 +130,10 @@ void AddResultCommands(CLI::App& app, Command& command) {
   WhenChosen(*traveller, command, [board](const Context& context, const ConsoleHost&) {
     return TravellerOf(context, *board);
   });
+
+  auto* ranking = app.add_subcommand("ranking", "The ranking of the session");
+  WhenChosen(*ranking, command,
+             [](const Context& context, const ConsoleHost&) { return ShowRanking(context); });
 }
 
 }  // namespace tricklet::cli

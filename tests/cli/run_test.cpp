@@ -96,9 +96,11 @@ TEST_F(CommandLine, PrintsDiagrams) {
   EXPECT_EQ(Run("diagram 7 --hands X"), 2);
 }
 
-TEST_F(CommandLine, ShowsTheTravellerOfABoard) {
+TEST_F(CommandLine, ShowsTheTravellerOfABoardAndTheRanking) {
   ASSERT_EQ(Run("import @in.pbn"), 0);
-  EXPECT_EQ(Answer("traveller 7"), "1 The library Default has no results\n");
+  for (const char* command : {"traveller 7", "ranking"}) {
+    EXPECT_EQ(Answer(command), "1 The library Default has no results\n");
+  }
   WriteFile(Root() / "Default" / "LIN.txt",
             "[BoardScoringMethod]\nMATCH_POINTS\n"
             "[Names]\n1 NS J\u00fcrg & Bo\n12 EW Cy & D\x1Bi\n[LIN]\n"
@@ -116,6 +118,20 @@ TEST_F(CommandLine, ShowsTheTravellerOfABoard) {
       "                                              50    2    2  O & M v P & N\n"
       "        4S          S                 A6040       2.4  1.6  S & Q v T & R\n");
   EXPECT_EQ(Answer("traveller 8"), "1 There are no results of board 8\n");
+  EXPECT_EQ(Answer("ranking"),
+            "0 North-South\n"
+            "Place  No  Boards   MP       %  Names\n"
+            "   1    1       1    4  100.00  J\u00fcrg & Bo\n"
+            "   2            1  2.4   60.00  S & Q\n"
+            "   3            1    2   50.00  O & M\n"
+            "   4            1    0    0.00  G & E\n"
+            "\n"
+            "East-West\n"
+            "Place  No  Boards   MP       %  Names\n"
+            "   1            1    4  100.00  H & F\n"
+            "   2            1    2   50.00  P & N\n"
+            "   3            1  1.6   40.00  T & R\n"
+            "   4   12       1    0    0.00  Cy & D i\n");
 }
 
 TEST_F(CommandLine, QuestionsAreAnsweredByOptionTerminalOrCaution) {
