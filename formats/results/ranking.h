@@ -16,8 +16,8 @@
 // missing from a file that gives some the result does not count, since those of the file may be
 // against another datum.
 //
-// seating.h tells who the contestants are. Where somebody has sat in both directions there is one field, else one
-// for each direction.
+// Who the contestants are is found out as seating.h says. Where somebody has sat in both directions
+// there is one field, else one for each direction.
 #pragma once
 
 #include <cstdint>
