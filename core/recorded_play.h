@@ -17,6 +17,17 @@ struct RecordedPlay {
   std::optional<int> tricks;
 };
 
+/// A play as far as it goes by the rules.
+struct LegalPlay {
+  int cards = 0;  ///< 0..52: those before the first illegal one
+  /// Who leads to each trick. The last of them has won the trick before it and leads to the one
+  /// that has begun, or would: `cards` / 4 + 1 in all. Empty when there is no contract.
+  std::vector<Seat> leaders;
+};
+
+/// Follows `cards` up to the first that is not legal.
+LegalPlay FollowPlay(const Board& board, std::span<const Card> cards);
+
 /// The tricks of the declaring side, 0..13, when `cards` play `board` to its end: all 52 in an
 /// order that is legal. Nothing otherwise.
 std::optional<int> DeclarerTricks(const Board& board, std::span<const Card> cards);

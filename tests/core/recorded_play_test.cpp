@@ -20,10 +20,15 @@ TEST(DeclarerTricks, CountsThoseOfBothHandsOfALegalPlayToItsEnd) {
   }
   EXPECT_EQ(DeclarerTricks(board, cards), 13);
   EXPECT_FALSE(DeclarerTricks(board, std::span(cards).first(51)));
+  const LegalPlay play = FollowPlay(board, std::span(cards).first(7));
+  EXPECT_EQ(play.cards, 7);
+  EXPECT_EQ(play.leaders, (std::vector{Seat::West, Seat::North})) << "North has ruffed";
   // East and West change their twos, so East has a club at the first lead.
   board.hands = HandsOf("N:AKQJT98765432... .AKQJT9876543..2 ..AKQJT98765432. .2..AKQJT9876543");
   std::swap(cards[49], cards[51]);
   EXPECT_FALSE(DeclarerTricks(board, cards)) << "a revoke";
+  EXPECT_EQ(FollowPlay(board, cards).cards, 2) << "up to East, who has revoked";
+  EXPECT_TRUE(FollowPlay({}, cards).leaders.empty()) << "no contract";
 }
 
 }  // namespace
