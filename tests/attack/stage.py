@@ -182,6 +182,7 @@ COMMANDS = {
     "library-import-all": "--yes library import more --all",
     "library-move": "--yes library move new/root",
     "library-delete": "library delete Other",
+    "publish": "--library Other publish new/site",
     "settings": "settings PBNShark True",
 }
 

@@ -1,0 +1,128 @@
+#include "publish/web/publish_web.h"
+
+#include <array>
+#include <ctime>
+#include <vector>
+
+#include "core/fault.h"
+#include "core/text.h"
+#include "disk/file_io.h"
+#include "disk/leftovers.h"
+#include "disk/presence.h"
+#include "library/unsaved_changes.h"
+#include "publish/web/web_page.h"
+
+namespace tricklet {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t kMaxPageBytes = std::size_t{256} * 1024 * 1024;
+
+/// "17 November 2026", by the clock of this computer.
+std::string Today() {
+  constexpr std::array kMonths{"January",   "February", "March",    "April",
+                               "May",       "June",     "July",     "August",
+                               "September", "October",  "November", "December"};
+  const std::time_t now = std::time(nullptr);
+  std::tm local{};
+#ifdef _WIN32
+  localtime_s(&local, &now);
+#else
+  localtime_r(&now, &local);
+#endif
+  constexpr int kFirstYear = 1900;  // of `tm_year`
+  return std::to_string(local.tm_mday) + " " + kMonths.at(static_cast<std::size_t>(local.tm_mon)) +
+         " " + std::to_string(local.tm_year + kFirstYear);
+}
+
+/// What is in the places of the page and its PBN and was not written by this command.
+std::vector<fs::path> ForeignFiles(const fs::path& page, const fs::path& pbn) {
+  const bool pageThere = IsTaken(page);
+  if (pageThere && FileExists(page) && IsWebPage(ReadWholeFile(page, kMaxPageBytes))) return {};
+  std::vector<fs::path> foreign;
+  if (pageThere) foreign.push_back(page);
+  if (IsTaken(pbn)) foreign.push_back(pbn);
+  return foreign;
+}
+
+/// The person wants files that others have written replaced.
+bool WantsReplaced(Host& host, const std::vector<fs::path>& foreign) {
+  std::string list;
+  for (const fs::path& file : foreign) list += "\n" + ShownPath(file);
+  return host.Ask({.text = std::string(kProgramName) + " has not written what is there:" + list +
+                           "\nDo you want to replace it?",
+                   .safe = Answer::No,
+                   .detail = "It would go to the recycle bin.",
+                   .agree = "Replace",
+                   .refuse = "Keep"}) == Answer::Yes;
+}
+
+/// False, after a message, when one of them is still in its place.
+bool RecycleAll(Host& host, const std::vector<fs::path>& files) {
+  for (const fs::path& file : files) {
+    const fs::path old = fs::canonical(file);  // a link stays one
+    if (host.Recycle(old)) continue;
+    host.TellError("Unable to send the old file to the recycle bin:\n" + ShownPath(old));
+    return false;
+  }
+  return true;
+}
+
+struct Places {
+  fs::path page;
+  fs::path pbn;
+  std::vector<fs::path> foreign;  // what is there and has to make way
+};
+
+/// Both files are complete on the disk before anything that is there makes way for them.
+bool WriteBoth(Host& host, const Places& places, std::string_view html, std::string_view boards) {
+  UnflushedFolders unflushed;
+  Replacement page(places.page);
+  Replacement pbn(places.pbn);
+  page.File().Write(html);
+  pbn.File().Write(boards);
+  page.Complete();
+  pbn.Complete();
+  if (!RecycleAll(host, places.foreign)) return false;
+  pbn.PutInPlace(unflushed);
+  page.PutInPlace(unflushed);
+  unflushed.Flush();
+  return true;
+}
+
+std::optional<fs::path> Publish(Session& session, const PublishChoices& choices) {
+  Places places{choices.folder / kWebPageName, choices.folder / kWebPbnName, {}};
+  places.foreign = ForeignFiles(places.page, places.pbn);
+  if (!places.foreign.empty() && !choices.replaceForeign &&
+      !WantsReplaced(session.host, places.foreign)) {
+    return std::nullopt;
+  }
+  const auto gathered = GatherBoards(session, choices.boards, true);
+  if (!gathered) return std::nullopt;
+  const WebChoices web{choices.title.empty() ? session.LibraryName() : choices.title, Today(),
+                       choices.names};
+  MakeFolders(choices.folder);
+  SweepLeftovers(session.host, choices.folder);
+  if (!WriteBoth(session.host, places, WebPage(gathered->published, web),
+                 WebPbn(gathered->published, web))) {
+    return std::nullopt;
+  }
+  if (!gathered->remark.empty()) session.host.TellError(gathered->remark);
+  return places.page;
+}
+
+}  // namespace
+
+std::optional<fs::path> PublishWebPage(Session& session, const PublishChoices& choices) {
+  // What is published is what is stored, so changes to the current board are settled first.
+  if (!SettleChanges(session)) return std::nullopt;
+  try {
+    return Publish(session, choices);
+  } catch (const std::exception& failure) {
+    session.host.TellError(FaultFrom(failure).Description());
+    return std::nullopt;
+  }
+}
+
+}  // namespace tricklet

@@ -1,0 +1,35 @@
+// A session as a web page: one file that needs nothing beside it.
+#pragma once
+
+#include <string>
+
+#include "publish/published.h"
+#include "publish/web/shown_names.h"
+
+namespace tricklet {
+
+/// What is chosen before a session becomes a page.
+struct WebChoices {
+  std::string title;  ///< UTF-8
+  std::string date;   ///< below the title, "17 November 2026"; may be empty
+  NamesShown names = NamesShown::Full;
+};
+
+/// The file beside the page that holds the boards, by its name in the page.
+inline constexpr const char* kWebPbnName = "boards.pbn";
+
+/// The whole page, UTF-8. It shows texts of foreign files as text, runs its own script alone (a
+/// Content-Security-Policy says so) and names no address but that of `kWebPbnName`. Of the players
+/// it holds no more than `choices.names` says; notes to the boards are left out, as they are for
+/// whoever keeps the library.
+std::string WebPage(const Published& published, const WebChoices& choices);
+
+/// The boards of the page with their auctions and tables, without players, as PBN for
+/// `kWebPbnName`. Boards with an incomplete deal are left out. Where names are held back, so is an
+/// auction with a call that cannot be read.
+std::string WebPbn(const Published& published, const WebChoices& choices);
+
+/// `page` begins like one that `WebPage` has made.
+bool IsWebPage(std::string_view page);
+
+}  // namespace tricklet

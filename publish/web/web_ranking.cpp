@@ -1,0 +1,76 @@
+#include "publish/web/web_ranking.h"
+
+#include <algorithm>
+
+#include "formats/results/ranking.h"
+
+namespace tricklet {
+namespace {
+
+/// The names of a contestant as they are published; those of a team pair by pair.
+std::string NamesOf(const RankedEntrant& entrant, Contestants contestants, NamesShown names) {
+  constexpr std::string_view kBetweenPairs = ", ";
+  std::string text;
+  std::string_view rest = entrant.names;
+  if (contestants != Contestants::Teams) return PublishedNames(rest, names);
+  for (;;) {
+    const auto end = rest.find(kBetweenPairs);
+    const std::string pair = PublishedNames(rest.substr(0, end), names);
+    text += (text.empty() || pair.empty() ? "" : std::string(kBetweenPairs)) + pair;
+    if (end == std::string_view::npos) return text;
+    rest.remove_prefix(end + kBetweenPairs.size());
+  }
+}
+
+/// A player of the session is named in the sentence.
+bool NamesSomebody(const std::string& sentence, const Published& published) {
+  const auto named = [&sentence](const std::string& player) {
+    return !player.empty() && sentence.find(player) != std::string::npos;
+  };
+  return std::any_of(
+      published.boards.begin(), published.boards.end(), [&named](const PublishedBoard& board) {
+        const auto& rows = board.traveller.rows;
+        return std::any_of(rows.begin(), rows.end(), [&named](const TravellerRow& row) {
+          return std::any_of(row.players.begin(), row.players.end(), named);
+        });
+      });
+}
+
+void WriteEntrant(JsonWriter& json, const RankedEntrant& ranked, const Entrants& entrants,
+                  Contestants contestants, NamesShown names) {
+  json.BeginObject().Key("place").String(ranked.PlaceText());
+  json.Key("entrant").Number(
+      contestants == Contestants::Teams ? -1 : entrants.EntrantOf(ranked.number, ranked.names));
+  json.Key("number").String(ranked.number);
+  json.Key("names").String(NamesOf(ranked, contestants, names));
+  json.Key("boards").Number(ranked.boards).Key("total").Number(ranked.total);
+  json.Key("percentage").Number(ranked.percentage).EndObject();
+}
+
+}  // namespace
+
+void WriteRanking(JsonWriter& json, const Published& published, const Entrants& entrants,
+                  NamesShown names) {
+  std::vector<Traveller> travellers;
+  for (const PublishedBoard& board : published.boards) {
+    if (!board.traveller.rows.empty()) travellers.push_back(board.traveller);
+  }
+  if (travellers.empty()) return;
+  const Ranking ranking = MakeRanking(published.results, travellers);
+  json.Key("ranking").BeginObject().Key("unit").String(ranking.UnitText());
+  json.Key("tables").BeginArray();
+  for (const RankingTable& table : ranking.tables) {
+    json.BeginObject().Key("heading").String(table.heading).Key("rows").BeginArray();
+    for (const RankedEntrant& ranked : table.entrants) {
+      WriteEntrant(json, ranked, entrants, ranking.contestants, names);
+    }
+    json.EndArray().EndObject();
+  }
+  json.EndArray().Key("notes").BeginArray();
+  for (const std::string& sentence : ranking.notRanked) {
+    if (names == NamesShown::Full || !NamesSomebody(sentence, published)) json.String(sentence);
+  }
+  json.EndArray().EndObject();
+}
+
+}  // namespace tricklet

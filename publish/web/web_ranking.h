@@ -1,0 +1,16 @@
+// The ranking of a session as a member of the page's data.
+#pragma once
+
+#include "publish/published.h"
+#include "publish/web/entrants.h"
+#include "publish/web/json_writer.h"
+#include "publish/web/shown_names.h"
+
+namespace tricklet {
+
+/// Writes the key "ranking" and its object into the open object, as `WebData` describes it; nothing
+/// when the session has no results.
+void WriteRanking(JsonWriter& json, const Published& published, const Entrants& entrants,
+                  NamesShown names);
+
+}  // namespace tricklet
