@@ -81,9 +81,10 @@ void Entrants::ListPairs() {
             [&rank](std::size_t a, std::size_t b) { return rank(a) < rank(b); });
   for (const std::size_t at : order) {
     const WebPair& pair = pairs_[at];
-    std::string label = pair.number + DirectionOf(seen_[at]);
-    if (pair.names.empty()) label = "Pair " + label;
-    if (!pair.names.empty()) label += (label.empty() ? "" : " ") + pair.names;
+    std::string label = pair.names.empty() ? "Pair " : "";
+    label.append(pair.number).append(DirectionOf(seen_[at]));
+    if (!label.empty() && !pair.names.empty()) label += ' ';
+    label += pair.names;
     seen_[at].entrant = static_cast<int>(list_.size());
     list_.push_back({std::move(label), {static_cast<int>(at)}});
   }
@@ -98,9 +99,9 @@ void Entrants::ListPlayers(NamesShown names) {
   }
   for (const auto& [player, pairs] : pairsOf) {
     std::string label = PublishedName(player, names);
-    if (pairs.size() > 1 && !label.empty()) {
-      list_.push_back({std::move(label), {pairs.begin(), pairs.end()}});
-    }
+    if (pairs.size() < 2 || label.empty()) continue;
+    players_.emplace(player, static_cast<int>(list_.size()));
+    list_.push_back({std::move(label), {pairs.begin(), pairs.end()}});
   }
 }
 
@@ -110,13 +111,17 @@ int Entrants::PairOf(const TravellerRow& row, Side side) const {
 }
 
 int Entrants::EntrantOf(const std::string& number, const std::string& fullNames) const {
-  int entrant = -1;
-  for (const Seen& seen : seen_) {
-    if (seen.number != number || seen.fullNames != fullNames) continue;
-    if (entrant >= 0) return -1;
-    entrant = seen.entrant;
-  }
-  return entrant;
+  if (const auto player = players_.find(fullNames); player != players_.end()) return player->second;
+  const auto onlyOne = [this](const auto& matches) {
+    const auto first = std::find_if(seen_.begin(), seen_.end(), matches);
+    if (first == seen_.end() || std::find_if(first + 1, seen_.end(), matches) != seen_.end())
+      return -1;
+    return first->entrant;
+  };
+  const int exact = onlyOne(
+      [&](const Seen& seen) { return seen.number == number && seen.fullNames == fullNames; });
+  if (exact >= 0 || number.empty()) return exact;
+  return onlyOne([&](const Seen& seen) { return seen.number == number; });
 }
 
 }  // namespace tricklet

@@ -35,8 +35,8 @@ class Entrants {
   /// The position in `Pairs` of those on `side` of the row, which is of the session; -1 when
   /// nothing is known or published of them.
   int PairOf(const TravellerRow& row, Side side) const;
-  /// The position in `List` of the pair with this number and the names as they are in the file; -1
-  /// when there is no such pair, or several.
+  /// The position in `List` of the player of this name, or of the pair with this number and the
+  /// names as they are in the file, or else with this number; -1 when there is none, or several.
   int EntrantOf(const std::string& number, const std::string& fullNames) const;
 
  private:
@@ -58,6 +58,7 @@ class Entrants {
   std::vector<Seen> seen_;                // as `pairs_`
   std::vector<WebPair> pairs_;
   std::vector<WebEntrant> list_;
+  std::map<std::string, int> players_;  // in `list_`, by the full name
 };
 
 }  // namespace tricklet

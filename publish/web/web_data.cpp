@@ -1,14 +1,15 @@
 #include "publish/web/web_data.h"
 
-#include <algorithm>
 #include <array>
 
 #include "core/recorded_play.h"
 #include "core/statistics.h"
 #include "core/text.h"
+#include "formats/results/board_points.h"
 #include "formats/results/ruling.h"
 #include "publish/web/entrants.h"
 #include "publish/web/json_writer.h"
+#include "publish/web/web_ranking.h"
 
 namespace tricklet {
 namespace {
@@ -68,24 +69,23 @@ void WritePairOfNumbers(JsonWriter& json, std::string_view key,
   json.EndArray();
 }
 
-/// The match points that one table of the board shares out; 0 where there are none.
-double TopOf(const Traveller& traveller) {
-  double top = 0;
-  for (const TravellerRow& row : traveller.rows) {
-    const auto& points = row.points;
-    if (!row.score || !points[Side::NorthSouth] || !points[Side::EastWest]) continue;
-    top = std::max(top, double{*points[Side::NorthSouth]} + double{*points[Side::EastWest]});
-  }
-  return traveller.scoring == "MP" ? top : 0;
+/// What the rows of a board are worth, and in match points of what.
+struct Worth {
+  BoardPoints points;
+  bool matchPoints = false;
+};
+
+Worth WorthOf(const Traveller& traveller) {
+  if (traveller.scoring == "MP") return {MatchPointsOf(traveller), true};
+  return {};
 }
 
-void WritePoints(JsonWriter& json, const TravellerRow& row, double top) {
+void WritePoints(JsonWriter& json, const TravellerRow& row, std::size_t at, const Worth& worth) {
   PerSide<std::optional<double>> points;
   PerSide<std::optional<double>> percentages;
   for (const Side side : {Side::NorthSouth, Side::EastWest}) {
-    if (!row.points[side]) continue;
-    points[side] = double{*row.points[side]};
-    if (top > 0) percentages[side] = 100 * *points[side] / top;
+    if (const auto own = row.points[side]) points[side] = double{*own};
+    if (worth.matchPoints) percentages[side] = PercentageOf(worth.points, at, side);
   }
   WritePairOfNumbers(json, "points", points);
   WritePairOfNumbers(json, "percent", percentages);
@@ -134,7 +134,9 @@ void WriteContract(JsonWriter& json, const TravellerRow& row) {
   if (const auto result = row.Result()) json.Key("result").Number(*result);
 }
 
-void WriteTable(const Writing& writing, const TravellerRow& row, const Board& board, double top) {
+void WriteTable(const Writing& writing, const PublishedBoard& published, std::size_t at,
+                const Worth& worth) {
+  const TravellerRow& row = published.traveller.rows[at];
   JsonWriter& json = writing.json;
   json.BeginObject().Key("pairs").BeginArray();
   for (const Side side : {Side::NorthSouth, Side::EastWest}) {
@@ -146,9 +148,9 @@ void WriteTable(const Writing& writing, const TravellerRow& row, const Board& bo
   if (const std::string ruling = RulingOf(row.adjusted, writing.names); !ruling.empty()) {
     json.Key("ruling").String(ruling);
   }
-  WritePoints(json, row, top);
+  WritePoints(json, row, at, worth);
   WriteCalls(writing, row.record.board.calls);
-  WritePlay(json, row.record, board);
+  WritePlay(json, row.record, published.board);
   json.EndObject();
 }
 
@@ -187,8 +189,10 @@ void WriteBoard(const Writing& writing, const PublishedBoard& published) {
   if (board.makeableValid) WriteTricks(json, board.makeable);
   if (published.par) json.Key("par").String(ParText(*published.par));
   json.Key("tables").BeginArray();
-  const double top = TopOf(published.traveller);
-  for (const TravellerRow& row : published.traveller.rows) WriteTable(writing, row, board, top);
+  const Worth worth = WorthOf(published.traveller);
+  for (std::size_t at = 0; at < published.traveller.rows.size(); ++at) {
+    WriteTable(writing, published, at, worth);
+  }
   json.EndArray().EndObject();
 }
 
@@ -225,6 +229,7 @@ std::string WebData(const Published& published, const WebChoices& choices) {
   json.Key("boards").BeginArray();
   for (const PublishedBoard& board : published.boards) WriteBoard(writing, board);
   json.EndArray();
+  WriteRanking(json, published, entrants, choices.names);
   json.EndObject();
   return json.Text();
 }

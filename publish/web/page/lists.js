@@ -71,12 +71,12 @@ function showList(current) {
       make("span", { class: "sum" }, summaryNodes(board))))));
 }
 
-function rankingRow(row, percentages) {
+function rankingRow(row, percentages, numbers) {
   const mine = own >= 0 && row.entrant === own;
   const name = row.names || (row.number ? `Pair ${row.number}` : "\u2013");
   return make("tr", { class: mine ? "ownrow" : undefined },
     make("td", { class: "number" }, row.place),
-    make("td", { class: "number" }, row.number),
+    numbers ? make("td", { class: "number" }, row.number) : null,
     make("th", { scope: "row", class: "names" },
       row.entrant >= 0 ? make("a", { href: `#p${row.entrant + 1}` }, name) : name),
     make("td", { class: "number" }, String(row.boards)),
@@ -88,14 +88,15 @@ function rankingNode() {
   const ranking = session.ranking;
   if (!ranking) return make("p", null, "There are no results to rank.");
   const percentages = ranking.unit === "%";
-  const columns = [["Place", "number"], ["Pair", "number"], "Names", ["Boards", "number"],
-    [percentages ? "Match points" : "IMPs", "number"]];
+  const numbers = ranking.tables.some((table) => table.rows.some((row) => row.number));
+  const columns = [["Place", "number"], ...(numbers ? [["No.", "number"]] : []), "Names",
+    ["Boards", "number"], [percentages ? "Match points" : ranking.unit, "number"]];
   if (percentages) columns.push(["%", "number"]);
   const tables = ranking.tables.map((table) => make("section", { class: "scroll" },
     make("table", { class: "ranking" },
       make("caption", table.heading ? null : { class: "hidden" }, table.heading || "Ranking"),
       tableHead(columns),
-      make("tbody", null, table.rows.map((row) => rankingRow(row, percentages))))));
+      make("tbody", null, table.rows.map((row) => rankingRow(row, percentages, numbers))))));
   return make("div", { class: "beside" }, tables,
     ranking.notes.map((note) => make("p", { class: "muted" }, note)));
 }
