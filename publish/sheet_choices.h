@@ -16,8 +16,8 @@ struct SheetChoices {
   int perPage = 18;  ///< boards on a page: one of `BoardsPerPage(layout)`
   Paper paper = Paper::A4;
   bool landscape = false;
-  std::string title;                            ///< UTF-8
-  std::string subtitle;                         ///< UTF-8
+  std::string title = {};                       ///< UTF-8
+  std::string subtitle = {};                    ///< UTF-8
   bool colours = true;                          ///< else black alone
   PerSeat<bool> hands{true, true, true, true};  ///< those that a lesson shows
   // What is shown beside the hands.
