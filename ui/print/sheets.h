@@ -2,7 +2,10 @@
 // pictures.
 #pragma once
 
+#include <memory>
+
 #include <QPageLayout>
+#include <QRectF>
 
 #include "publish/published.h"
 #include "publish/sheet_choices.h"
@@ -11,11 +14,17 @@ class QPainter;
 
 namespace tricklet::ui {
 
-/// Everything is measured in points (1/72 inch) from the upper left corner of the paper.
+class PageSource;
+
+/// Everything is measured in points (1/72 inch) from the upper left corner of the paper. A value:
+/// copies share the boards.
 class Sheets {
  public:
   Sheets(Published published, SheetChoices choices);
+  /// Shares boards that others look at too.
+  Sheets(std::shared_ptr<const Published> published, SheetChoices choices);
 
+  const SheetChoices& Choices() const { return choices_; }
   /// At least one.
   int Pages() const;
   /// The paper with its orientation, without margins: the sheets have their own.
@@ -25,8 +34,13 @@ class Sheets {
   void Paint(QPainter& painter, int page) const;
 
  private:
-  Published published_;
+  /// Between the head and the foot of a page.
+  QRectF Room() const;
+  void PaintFrame(QPainter& painter, int page) const;
+
+  std::shared_ptr<const Published> published_;
   SheetChoices choices_;
+  std::shared_ptr<const PageSource> source_;
 };
 
 }  // namespace tricklet::ui
