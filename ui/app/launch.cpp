@@ -10,6 +10,7 @@
 #include "library/library_choice.h"
 #include "library/start_up.h"
 #include "ui/app/application.h"
+#include "ui/app/print_run.h"
 #include "ui/app/qt_host.h"
 #include "ui/background/later.h"
 #include "ui/commands/documents.h"
@@ -57,6 +58,7 @@ struct Parser {
     parser.setApplicationDescription(
         QCoreApplication::translate("Launch", "Keeps, shows and exchanges bridge deals."));
     parser.addOptions({help, version, root, library, board, seed, screenshot, size});
+    AddPrintOptions(parser);
     parser.addPositionalArgument(
         QStringLiteral("files"),
         QCoreApplication::translate("Launch", "Hand records to import into the library."),
@@ -212,6 +214,7 @@ LaunchOptions ParseLaunch(const QStringList& arguments) {
   if (known.parser.isSet(known.board)) ReadBoard(known.parser.value(known.board), options);
   if (known.parser.isSet(known.seed)) ReadSeed(known.parser.value(known.seed), options);
   if (known.parser.isSet(known.size)) ReadSize(known.parser.value(known.size), options);
+  options.print = ReadPrintOptions(known.parser, options.error);
   for (const QString& file : known.parser.positionalArguments()) {
     options.files.push_back(PathFromQt(file));
   }
@@ -233,17 +236,20 @@ int Launch(Application& application, const LaunchOptions& options, SettingsStore
 
   QtHost asking;
   SilentHost silent;
-  QtHost& host = options.screenshot.isEmpty() ? asking : silent;
+  const bool printOnly = options.print.Wanted();
+  const bool pictureOnly = !printOnly && !options.screenshot.isEmpty();
+  QtHost& host = printOnly || pictureOnly ? silent : asking;
   Session session(host, overlaid ? static_cast<SettingsStore&>(overlay) : store);
-  if (options.screenshot.isEmpty()) {
+  if (!pictureOnly) {
     session.getSolver = SolverOnDemand(PathFromQt(QCoreApplication::applicationDirPath()));
-    session.tablesInBackground = true;
+    session.tablesInBackground = !printOnly;
   }
   if (options.seed) session.random = RandomSource(*options.seed);
   application.host = &host;
   int exitCode = 1;
   try {
-    exitCode = RunSession(application, options, session, host);
+    exitCode = printOnly ? RunPrint(session, options.library, options.print)
+                         : RunSession(application, options, session, host);
   } catch (const std::exception& failure) {
     ErrorReport(host, FaultFrom(failure));
   }

@@ -11,6 +11,7 @@
 #include <QStringList>
 
 #include "core/settings.h"
+#include "ui/app/print_options.h"
 
 namespace tricklet::ui {
 
@@ -25,6 +26,7 @@ struct LaunchOptions {
   QString screenshot;     ///< where to write a picture of the window and end; empty: nowhere
   QSize size{1280, 800};  ///< of the picture
   std::vector<std::filesystem::path> files;  ///< to import
+  PrintOptions print;                        ///< what to write instead of opening a window
 
   bool help = false;
   bool version = false;

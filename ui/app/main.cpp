@@ -12,6 +12,7 @@
 #include "platform/signals.h"
 #include "ui/app/application.h"
 #include "ui/app/launch.h"
+#include "ui/app/print_options.h"
 #include "ui/style/qt_text.h"
 
 namespace {
@@ -35,6 +36,15 @@ int ShowText(int count, char** values) {
   return printed ? 0 : 1;
 }
 
+/// Sheets can be written where there is no display. Elsewhere than on the systems that may lack one
+/// Qt finds the fonts by the display's own means.
+void WorkWithoutScreen([[maybe_unused]] int count, [[maybe_unused]] char** values) {
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+  if (tricklet::ui::AsksForPrint(count, values) && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+#endif
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -44,6 +54,7 @@ int main(int argc, char** argv) {
   QGuiApplication::setDesktopFileName(QStringLiteral("org.tricklet.Tricklet"));
   if (AsksForTextOnly(argc, argv)) return ShowText(argc, argv);
 
+  WorkWithoutScreen(argc, argv);
   tricklet::ui::Application application(argc, argv);
   const LaunchOptions options = tricklet::ui::ParseLaunch(QCoreApplication::arguments());
   if (!options.error.isEmpty()) {

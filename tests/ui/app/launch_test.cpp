@@ -3,6 +3,7 @@
 
 #include <QImage>
 
+#include "disk/file_io.h"
 #include "library/library_names.h"
 #include "library/start_up.h"
 #include "tests/support/library_fixture.h"
@@ -36,9 +37,31 @@ TEST(LaunchTest, ReadsTheCommandLine) {
 }
 
 TEST(LaunchTest, RefusesWhatMakesNoSense) {
-  for (const char* line : {"--board 0", "--board 1000", "--board x", "--size 12", "--size 0x9",
-                           "--size 1024x700x3", "--size 99999x800", "--seed", "--seed x",
-                           "--seed -1", "--nonsense", "--board", "--root=", "--library="}) {
+  for (const char* line : {"--board 0",
+                           "--board 1000",
+                           "--board x",
+                           "--size 12",
+                           "--size 0x9",
+                           "--size 1024x700x3",
+                           "--size 99999x800",
+                           "--seed",
+                           "--seed x",
+                           "--seed -1",
+                           "--nonsense",
+                           "--board",
+                           "--root=",
+                           "--library=",
+                           "--pdf=",
+                           "--pdf a --boards 9-1",
+                           "--pdf a --layout x",
+                           "--pdf a --per-page 5",
+                           "--pdf a --layout slips --per-page 4",
+                           "--pdf a --paper a5",
+                           "--pdf a --layout lesson --hands NX",
+                           "--pdf a --hands NS",
+                           "--boards 1",
+                           "--pdf a --screenshot b",
+                           "--pdf a x.pbn"}) {
     EXPECT_FALSE(Parse(QString::fromLatin1(line)).error.isEmpty()) << line;
   }
 }
@@ -68,6 +91,60 @@ TEST(LaunchTest, DrawsTheWindowOnALibraryThatTheRootHasAndLeavesTheStoredOneAlon
   options.screenshot = PathToQt(folder.Path() / "no such folder" / "window.png");
   EXPECT_EQ(Launch(TheApplication(), options, fresh), 1);
   EXPECT_FALSE(fresh.Read("macro", "library").has_value());
+}
+
+TEST(LaunchTest, ReadsWhatIsToBePrinted) {
+  const PrintOptions print =
+      Parse(QStringLiteral("--pdf a.pdf --svg out --boards 3-7 --layout lesson --hands ns "
+                           "--paper letter --landscape --title Club --black"))
+          .print;
+  EXPECT_EQ(print.pdf.filename(), "a.pdf");
+  EXPECT_TRUE(print.pdf.is_absolute());
+  EXPECT_TRUE(print.png.empty());
+  EXPECT_EQ(print.boards, (BoardRange{3, 7}));
+  const SheetChoices expected{.layout = SheetLayout::Lesson,
+                              .perPage = 2,
+                              .paper = Paper::Letter,
+                              .landscape = true,
+                              .title = "Club",
+                              .colours = false,
+                              .hands = {true, false, true, false}};
+  EXPECT_EQ(print.choices, expected);
+  EXPECT_TRUE(print.titled);
+  EXPECT_FALSE(print.subtitled);
+}
+
+TEST(LaunchTest, PrintsWithoutAWindowOrLeavesTheFileAsItWas) {
+  const test::TempFolder folder;
+  const std::filesystem::path pdf = folder.Path() / "a.pdf";
+  std::filesystem::create_directories(folder.Path() / "root" / "Club");
+  std::filesystem::create_directories(folder.Path() / "root" / "Empty");
+  Board board;
+  AddCard(board.hands, {}, Seat::North);  // a deal that is not complete
+  ReplaceWholeFile(folder.Path() / "root" / "Club" / BoardFileName(7), WriteBoardText(board));
+  const struct {
+    const char* library;
+    BoardRange boards;
+    const char* file;
+    int exitCode;
+  } rows[]{{"Empty", {}, "a.pdf", 1},
+           {"None", {}, "a.pdf", 1},
+           {"Club", {8, 9}, "a.pdf", 1},
+           {"Club", {}, "no such folder/a.pdf", 1},
+           {"club", {}, "a.pdf", 0}};
+  for (const auto& row : rows) {
+    EXPECT_FALSE(std::filesystem::exists(pdf)) << row.library;
+    LaunchOptions options;
+    options.root = PathToQt(folder.Path() / "root");
+    options.library = QString::fromLatin1(row.library);
+    options.print.pdf = folder.Path() / row.file;
+    options.print.boards = row.boards;
+    options.print.choices.table = options.print.choices.par = false;
+    MemoryStore store;
+    EXPECT_EQ(Launch(TheApplication(), options, store), row.exitCode) << row.library;
+  }
+  EXPECT_TRUE(std::filesystem::exists(pdf));
+  EXPECT_EQ(FoldersOf(folder.Path() / "root"), (std::vector<std::string>{"Club", "Empty"}));
 }
 
 TEST(LaunchTest, WhatAnEventThrowsIsReported) {
