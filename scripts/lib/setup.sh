@@ -25,6 +25,7 @@ lint_packages=(
 fuzz_packages=("clang-$clang_version" "libclang-rt-$clang_version-dev")
 smoke_packages=(xvfb xauth x11-utils)
 attack_packages=(python3)
+web_packages=(python3 chromium chromium-driver)
 debian_packages=(debhelper dpkg-dev lintian)
 root_packages=(mmdebstrap)
 power_packages=(e2fsprogs xfsprogs btrfs-progs)

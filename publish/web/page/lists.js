@@ -1,8 +1,8 @@
 // What is shown in rows: the boards beside the page, a traveller, the ranking, the reader's boards.
 
 const playLink = (board, at) =>
-  make("a", { href: `#b${board.number}t${at + 1}` }, "\u25b8 play",
-    make("span", { class: "hidden" }, ` of table ${at + 1}`));
+  make("a", { href: `#b${board.number}t${at + 1}`, "aria-label": `Play of table ${at + 1}` },
+    "\u25b8", make("span", { class: "wide" }, " play"));
 
 // A row's table can be looked at when it has an auction or a play.
 const canBeShown = (table) => table.play !== undefined || table.calls !== undefined;
@@ -79,8 +79,9 @@ function rankingRow(row, percentages, numbers) {
     numbers ? make("td", { class: "number" }, row.number) : null,
     make("th", { scope: "row", class: "names" },
       row.entrant >= 0 ? make("a", { href: `#p${row.entrant + 1}` }, name) : name),
-    make("td", { class: "number" }, String(row.boards)),
-    make("td", { class: "number" }, percentages ? fixed(row.total, 2) : withPlus(row.total)),
+    make("td", { class: "number wide" }, String(row.boards)),
+    make("td", { class: `number${percentages ? " wide" : ""}` },
+      percentages ? signed(row.total) : withPlus(row.total)),
     percentages ? make("td", { class: "number" }, fixed(row.percentage, 2)) : null);
 }
 
@@ -90,7 +91,8 @@ function rankingNode() {
   const percentages = ranking.unit === "%";
   const numbers = ranking.tables.some((table) => table.rows.some((row) => row.number));
   const columns = [["Place", "number"], ...(numbers ? [["No.", "number"]] : []), "Names",
-    ["Boards", "number"], [percentages ? "Match points" : ranking.unit, "number"]];
+    ["Boards", "number wide"],
+    percentages ? ["Match points", "number wide"] : [ranking.unit, "number"]];
   if (percentages) columns.push(["%", "number"]);
   const tables = ranking.tables.map((table) => make("section", { class: "scroll" },
     make("table", { class: "ranking" },
