@@ -107,11 +107,12 @@ void PaintTitle(QPainter& painter, const HandsDiagram& diagram, const DiagramPla
 void PaintPoints(QPainter& painter, const HandsDiagram& diagram, const DiagramPlaces& places,
                  const PrintStyle& style) {
   const double size = places.size * kSmall;
-  QRectF box(places.left.left(), 0, 5.2 * size, 5.2 * size);
+  QRectF box(places.left.left() + size / 2, 0, 5.2 * size, 5.2 * size);
   box.moveBottom(places.left.bottom());
   for (const Seat seat : kAllSeats) {
     if (!diagram.points[seat]) continue;
-    PaintLine(painter, AtSide(box, seat, size), QString::number(*diagram.points[seat]),
+    const QRectF place = AtSide(box, seat, size).adjusted(-size / 2, 0, size / 2, 0);
+    PaintLine(painter, place, QString::number(*diagram.points[seat]),
               {.size = size, .colour = style.Text(), .align = Qt::AlignHCenter}, style);
   }
 }

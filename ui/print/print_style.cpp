@@ -18,7 +18,8 @@ namespace {
 
 constexpr double kFontPixels = 100;  // size at which texts are measured
 constexpr double kSmallest = 0.7;    // of the size that was asked for
-constexpr double kAscent = 0.36;     // from the middle of a line to its baseline, of the size
+constexpr double kRounding = 1e-6;
+constexpr double kAscent = 0.36;  // from the middle of a line to its baseline, of the size
 
 // A reader of PDF takes a gap of a tenth of the size for a blank; poppler's limit is 0.1.
 constexpr double kRankGap = 0.085;
@@ -137,10 +138,11 @@ double PaintLine(QPainter& painter, const QRectF& room, const QString& text, con
   TextStyle fitting = style;
   if (width > room.width()) {
     fitting.size = style.size * std::max(kSmallest, room.width() / width);
-    const QString elided =
-        Metrics(style.bold)
-            .elidedText(text, Qt::ElideRight, room.width() * kFontPixels / fitting.size);
-    pieces = PiecesOf(elided);
+    if (fitting.size * width > room.width() * style.size * (1 + kRounding)) {
+      pieces = PiecesOf(
+          Metrics(style.bold)
+              .elidedText(text, Qt::ElideRight, room.width() * kFontPixels / fitting.size));
+    }
     width = WidthOf(pieces, fitting.size, fitting.bold);
   }
   double x = room.left();

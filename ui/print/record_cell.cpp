@@ -62,7 +62,7 @@ void PaintTable(QPainter& painter, const MakeableTable& table, const QRectF& roo
   }
 }
 
-void PaintRecord(QPainter& painter, const PublishedBoard& published, const SheetChoices& choices,
+void PaintRecord(QPainter& painter, const PublishedBoard& published, const RecordParts& parts,
                  const QRectF& cell, const PrintStyle& style) {
   const double size = RecordFontSize(cell.size());
   const double padding = kPadding * size;
@@ -70,11 +70,12 @@ void PaintRecord(QPainter& painter, const PublishedBoard& published, const Sheet
   const DiagramPlaces places = PlaceDiagram(room, size);
   const QRectF par(room.left(), places.right.bottom(), room.width(), kParLine * size);
   HandsDiagram diagram = DiagramOf(published.board);
-  if (!choices.points) diagram.points.fill(std::nullopt);
+  diagram.shown = parts.hands;
+  if (!parts.points) diagram.points.fill(std::nullopt);
   PaintDiagram(painter, diagram, places, style);
-  if (choices.table && published.board.makeableValid)
+  if (parts.table && published.board.makeableValid)
     PaintTable(painter, published.board.makeable, places.right, kSmall * size, style);
-  if (choices.par && published.par) {
+  if (parts.par && published.par) {
     PaintLine(painter, par, ToQt(ParSymbols(*published.par)),
               {.size = kSmall * size, .colour = style.Quiet(), .align = Qt::AlignRight}, style);
   }

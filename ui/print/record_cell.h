@@ -5,7 +5,6 @@
 #include <QSizeF>
 
 #include "publish/published.h"
-#include "publish/sheet_choices.h"
 #include "ui/print/print_style.h"
 
 class QPainter;
@@ -15,8 +14,16 @@ namespace tricklet::ui {
 /// The size of the font in which a board fits a cell of this size.
 double RecordFontSize(QSizeF cell);
 
-/// Paints nothing outside `cell`. Which of points, table and par are shown is in `choices`.
-void PaintRecord(QPainter& painter, const PublishedBoard& published, const SheetChoices& choices,
+/// What is shown of a board.
+struct RecordParts {
+  PerSeat<bool> hands{true, true, true, true};
+  bool points = true;
+  bool table = true;
+  bool par = true;
+};
+
+/// Paints nothing outside `cell`.
+void PaintRecord(QPainter& painter, const PublishedBoard& published, const RecordParts& parts,
                  const QRectF& cell, const PrintStyle& style);
 
 /// Paints the table of makeable tricks into the lower right corner of `room`, in a font of `size`

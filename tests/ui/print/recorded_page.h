@@ -21,6 +21,13 @@ struct RecordedText {
   double baseline = 0;
 };
 
+/// `place` may be empty, as that of a joiner between letters is.
+inline bool Within(const QRectF& room, const QRectF& place) {
+  constexpr double kRounding = 0.01;
+  return place.left() >= room.left() - kRounding && place.right() <= room.right() + kRounding &&
+         place.top() >= room.top() - kRounding && place.bottom() <= room.bottom() + kRounding;
+}
+
 class RecordedPage : public QPaintDevice {
  public:
   QPaintEngine* paintEngine() const override { return &engine_; }

@@ -5,8 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "bench/random_board.h"
-#include "core/statistics.h"
+#include "tests/ui/print/painted_boards.h"
 #include "tests/ui/print/recorded_page.h"
 #include "ui/print/diagram.h"
 #include "ui/print/record_cell.h"
@@ -14,29 +13,6 @@
 
 namespace tricklet::ui {
 namespace {
-
-/// Boards of random deals with tables and par.
-Published RandomBoards(int count) {
-  std::mt19937 random(15);
-  Published published;
-  for (int number = 1; number <= count; ++number) {
-    PublishedBoard one;
-    one.board = bench::RandomBoard(number, random);
-    one.complete = true;
-    for (auto& row : one.board.makeable)
-      std::generate(row.begin(), row.end(),
-                    [&] { return static_cast<std::int16_t>(random() % 14); });
-    one.board.makeableValid = true;
-    one.par = ComputePar(one.board.makeable, one.board.Dealer(), one.board.Vulnerability());
-    published.boards.push_back(std::move(one));
-  }
-  return published;
-}
-
-void Paint(RecordedPage& device, const Sheets& sheets, int page) {
-  QPainter painter(&device);
-  sheets.Paint(painter, page);
-}
 
 /// "♠AKQ107" for every holding of a board, with how often it is there.
 std::map<QString, int> HoldingsOf(const Published& published, std::size_t from, std::size_t to) {
@@ -67,7 +43,7 @@ TEST(Sheets, ShowEveryHoldingOfEveryBoardWithinThePage) {
         EXPECT_EQ(painted[holding], count) << FromQt(holding);
       const QRectF paperRect = sheets.Layout().fullRect(QPageLayout::Point);
       for (const RecordedText& text : device.Texts())
-        EXPECT_TRUE(paperRect.adjusted(18, 18, -18, -18).contains(text.place)) << FromQt(text.text);
+        EXPECT_TRUE(Within(paperRect.adjusted(18, 18, -18, -18), text.place)) << FromQt(text.text);
     }
   }
 }
@@ -99,8 +75,8 @@ TEST(Sheets, PaintNothingOutsideTheCell) {
       painter.end();
       EXPECT_GT(device.Texts().size(), 40U);
       for (const RecordedText& text : device.Texts())
-        EXPECT_TRUE(cell.contains(text.place)) << FromQt(text.text) << " " << hand;
-      EXPECT_TRUE(cell.contains(device.Shapes()));
+        EXPECT_TRUE(Within(cell, text.place)) << FromQt(text.text) << " " << hand;
+      EXPECT_TRUE(Within(cell, device.Shapes()));
     }
   }
 }
