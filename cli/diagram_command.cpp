@@ -20,12 +20,12 @@ struct DiagramOptions {
 };
 
 void Print(const Context& context, const Board& board, const DiagramOptions& options) {
-  Diagram diagram;
-  diagram.board = board;
+  SeenBoard seen;
+  seen.board = board;
   const PerSeat<bool> shown = SeatsOf(options.hands).value_or(PerSeat<bool>{});
-  for (const Seat seat : kAllSeats) diagram.hidden[seat] = !shown[seat];
-  context.data << (options.html ? DiagramHtml(diagram, context.session.settings.suitColour)
-                                : DiagramText(diagram));
+  for (const Seat seat : kAllSeats) seen.hidden[seat] = !shown[seat];
+  context.data << (options.html ? DiagramHtml(seen, context.session.settings.suitColour)
+                                : DiagramText(seen));
 }
 
 ExitCode PrintLibrary(const Context& context, const DiagramOptions& options) {

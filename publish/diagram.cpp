@@ -36,7 +36,7 @@ std::string ContractText(const Board& board) {
   return label.substr(0, 1) + SymbolOf(board.trumps) + label.substr(1 + letters);
 }
 
-std::string PlayText(const DiagramPlay& play) {
+std::string PlayText(const SeenPlay& play) {
   std::string text = "NS: " + std::to_string(play.tricks[Side::NorthSouth]) +
                      " \u00b7 EW: " + std::to_string(play.tricks[Side::EastWest]);
   if (play.onPlay) text += " \u00b7 " + std::string(SeatName[*play.onPlay]) + " to play";
@@ -65,27 +65,27 @@ std::string Line(std::string text) {
 using Lines = std::vector<std::string>;
 
 /// Seat, and player where known; then the suits, which are blank where no card is seen.
-Lines HandLines(const Diagram& diagram, Seat seat) {
+Lines HandLines(const SeenBoard& seen, Seat seat) {
   std::string title(SeatName[seat]);
-  if (!diagram.names[seat].empty()) title += " \u00b7 " + diagram.names[seat];
+  if (!seen.names[seat].empty()) title += " \u00b7 " + seen.names[seat];
   Lines lines{std::move(title)};
   for (const Suit suit : kAllSuits) {
-    lines.push_back(HandSeen(diagram, seat) ? std::string(SuitSymbol[suit]) + " " +
-                                                  DiagramRanks(diagram.board.hands[seat][suit])
-                                            : std::string());
+    lines.push_back(HandSeen(seen, seat) ? std::string(SuitSymbol[suit]) + " " +
+                                               DiagramRanks(seen.board.hands[seat][suit])
+                                         : std::string());
   }
   return lines;
 }
 
-std::string CardOnTable(const Diagram& diagram, Seat seat) {
-  if (!diagram.play || !diagram.play->trick[seat]) return {};
-  const Card card = *diagram.play->trick[seat];
+std::string CardOnTable(const SeenBoard& seen, Seat seat) {
+  if (!seen.play || !seen.play->trick[seat]) return {};
+  const Card card = *seen.play->trick[seat];
   return std::string(SuitSymbol[card.suit]) + std::string(RankText[card.rank]);
 }
 
 /// The lines between West and East: a blank one beside their names, then the trick on the table.
-Lines CentreLines(const Diagram& diagram) {
-  const auto card = [&](Seat seat) { return CardOnTable(diagram, seat); };
+Lines CentreLines(const SeenBoard& seen) {
+  const auto card = [&](Seat seat) { return CardOnTable(seen, seat); };
   return {"", Padded("", 4) + card(Seat::North),
           Padded(card(Seat::West), kCentreWidth - 4) + card(Seat::East),
           Padded("", 4) + card(Seat::South), ""};
@@ -97,24 +97,24 @@ std::size_t WidthOf(const Lines& lines, std::size_t least) {
 }
 
 /// North or South: nobody stands beside the suits.
-std::string HandAlone(const Diagram& diagram, Seat seat, std::size_t left) {
+std::string HandAlone(const SeenBoard& seen, Seat seat, std::size_t left) {
   std::string text;
-  for (const std::string& line : HandLines(diagram, seat)) {
+  for (const std::string& line : HandLines(seen, seat)) {
     if (!line.empty()) text += Line(std::string(left, ' ') + line);
   }
   return text;
 }
 
-std::string HandsText(const Diagram& diagram) {
-  const Lines west = HandLines(diagram, Seat::West);
-  const Lines east = HandLines(diagram, Seat::East);
-  const Lines centre = CentreLines(diagram);
+std::string HandsText(const SeenBoard& seen) {
+  const Lines west = HandLines(seen, Seat::West);
+  const Lines east = HandLines(seen, Seat::East);
+  const Lines centre = CentreLines(seen);
   const std::size_t left = WidthOf(west, kHandWidth);
-  std::string text = HandAlone(diagram, Seat::North, left);
+  std::string text = HandAlone(seen, Seat::North, left);
   for (std::size_t i = 0; i < west.size(); ++i) {
     text += Line(Padded(west[i], left) + Padded(centre[i], kCentreWidth) + east[i]);
   }
-  return text + HandAlone(diagram, Seat::South, left);
+  return text + HandAlone(seen, Seat::South, left);
 }
 
 std::string RowText(const CallRow& row) {
@@ -134,24 +134,24 @@ std::string DiagramRanks(Holding holding) {
   return ranks.empty() ? kDash : ranks;
 }
 
-bool HandSeen(const Diagram& diagram, Seat seat) {
-  const PerSuit<Holding>& hand = diagram.board.hands[seat];
-  return !diagram.hidden[seat] &&
+bool HandSeen(const SeenBoard& seen, Seat seat) {
+  const PerSuit<Holding>& hand = seen.board.hands[seat];
+  return !seen.hidden[seat] &&
          std::any_of(hand.begin(), hand.end(), [](Holding suit) { return !suit.Empty(); });
 }
 
-std::vector<std::string> DiagramHeading(const Diagram& diagram) {
-  const Board& board = diagram.board;
+std::vector<std::string> DiagramHeading(const SeenBoard& seen) {
+  const Board& board = seen.board;
   if (!IsStorable(board.boardNumber)) return {};
   return {"Board " + std::to_string(board.boardNumber),
           "Dealer " + std::string(SeatName[board.Dealer()]),
           std::string(VulText[board.Vulnerability()])};
 }
 
-std::vector<CallRow> DiagramCalls(const Diagram& diagram) {
+std::vector<CallRow> DiagramCalls(const SeenBoard& seen) {
   std::vector<CallRow> rows;
-  const Board& board = diagram.board;
-  if (!diagram.auction || board.NumCalls() == 0) return rows;
+  const Board& board = seen.board;
+  if (!seen.auction || board.NumCalls() == 0) return rows;
   const std::size_t first = ColumnOf(board.Dealer());
   for (int i = 0; i < board.NumCalls(); ++i) {
     const std::size_t place = first + static_cast<std::size_t>(i);
@@ -161,29 +161,29 @@ std::vector<CallRow> DiagramCalls(const Diagram& diagram) {
   return rows;
 }
 
-std::vector<std::string> DiagramFoot(const Diagram& diagram) {
+std::vector<std::string> DiagramFoot(const SeenBoard& seen) {
   std::vector<std::string> lines;
-  if (!diagram.board.contract.empty()) lines.push_back(ContractText(diagram.board));
-  if (diagram.play) {
-    lines.push_back(PlayText(*diagram.play));
-    if (!diagram.play->result.empty()) lines.push_back(diagram.play->result);
+  if (!seen.board.contract.empty()) lines.push_back(ContractText(seen.board));
+  if (seen.play) {
+    lines.push_back(PlayText(*seen.play));
+    if (!seen.play->result.empty()) lines.push_back(seen.play->result);
   }
   return lines;
 }
 
-std::string DiagramText(const Diagram& diagram) {
+std::string DiagramText(const SeenBoard& seen) {
   std::string text;
   std::string heading;
-  for (const std::string& part : DiagramHeading(diagram)) {
+  for (const std::string& part : DiagramHeading(seen)) {
     heading += (heading.empty() ? "" : " \u00b7 ") + part;
   }
   if (!heading.empty()) text += heading + "\n\n";
-  text += HandsText(diagram);
-  if (const auto rows = DiagramCalls(diagram); !rows.empty()) {
+  text += HandsText(seen);
+  if (const auto rows = DiagramCalls(seen); !rows.empty()) {
     text += "\n" + RowText({"West", "North", "East", "South"});
     for (const CallRow& row : rows) text += RowText(row);
   }
-  const auto foot = DiagramFoot(diagram);
+  const auto foot = DiagramFoot(seen);
   if (!foot.empty()) text += "\n";
   for (const std::string& line : foot) text += line + "\n";
   return text;

@@ -19,13 +19,13 @@ constexpr std::string_view kMiddle = "padding:2px 10px;vertical-align:middle;tex
 /// Writes into one text.
 class HtmlWriter {
  public:
-  HtmlWriter(const Diagram& diagram, bool fourColours)
-      : diagram_(diagram), colours_(fourColours ? kFourColours : kTwoColours) {}
+  HtmlWriter(const SeenBoard& seen, bool fourColours)
+      : seen_(seen), colours_(fourColours ? kFourColours : kTwoColours) {}
 
   std::string Write() {
     text_ = "<meta charset=\"utf-8\">\n";
     Table([this] {
-      const auto heading = DiagramHeading(diagram_);
+      const auto heading = DiagramHeading(seen_);
       if (!heading.empty()) {
         Row([&] { Cell(3, kCell, [&] { Heading(heading); }); });
       }
@@ -117,22 +117,22 @@ class HtmlWriter {
   void Hand(Seat seat) {
     Cell(1, kCell, [&] {
       text_ += "<b>" + std::string(SeatName[seat]) + "</b>";
-      if (const std::string& name = diagram_.names[seat]; !name.empty()) {
+      if (const std::string& name = seen_.names[seat]; !name.empty()) {
         text_ += " \u00b7 ";
         Text(name);
       }
-      if (!HandSeen(diagram_, seat)) return;
+      if (!HandSeen(seen_, seat)) return;
       for (const Suit suit : kAllSuits) {
         text_ += "<br>";
         Symbol(suit);
-        text_ += " " + DiagramRanks(diagram_.board.hands[seat][suit]);
+        text_ += " " + DiagramRanks(seen_.board.hands[seat][suit]);
       }
     });
   }
 
   /// The trick on the table, or the seats, of which those that are vulnerable stand out.
   void Centre() {
-    const bool trick = diagram_.play.has_value();
+    const bool trick = seen_.play.has_value();
     Cell(1, kMiddle, [&] {
       const auto place = [&](Seat seat) { trick ? OnTable(seat) : Letter(seat); };
       place(Seat::North);
@@ -145,7 +145,7 @@ class HtmlWriter {
     });
   }
   void OnTable(Seat seat) {
-    const auto& card = diagram_.play->trick[seat];
+    const auto& card = seen_.play->trick[seat];
     if (card) {
       Symbol(card->suit);
       text_ += RankText[card->rank];
@@ -154,7 +154,7 @@ class HtmlWriter {
     }
   }
   void Letter(Seat seat) {
-    const Board& board = diagram_.board;
+    const Board& board = seen_.board;
     const bool vulnerable =
         IsStorable(board.boardNumber) && IsVulnerable(board.Vulnerability(), SideOf(seat));
     if (vulnerable) text_ += "<span style=\"" + std::string(kVulnerable) + "\">";
@@ -163,7 +163,7 @@ class HtmlWriter {
   }
 
   void Auction() {
-    const auto rows = DiagramCalls(diagram_);
+    const auto rows = DiagramCalls(seen_);
     if (rows.empty()) return;
     text_ += "<br>\n";
     Table([&] {
@@ -181,7 +181,7 @@ class HtmlWriter {
   }
 
   void Foot() {
-    for (const std::string& line : DiagramFoot(diagram_)) {
+    for (const std::string& line : DiagramFoot(seen_)) {
       text_ +=
           "<p style=\"margin:4px 10px;color:#111111;"
           "font-family:Arial,Helvetica,sans-serif;font-size:11pt\">";
@@ -190,15 +190,15 @@ class HtmlWriter {
     }
   }
 
-  const Diagram& diagram_;
+  const SeenBoard& seen_;
   const PerSuit<std::string_view>& colours_;
   std::string text_;
 };
 
 }  // namespace
 
-std::string DiagramHtml(const Diagram& diagram, bool fourColours) {
-  return HtmlWriter(diagram, fourColours).Write();
+std::string DiagramHtml(const SeenBoard& seen, bool fourColours) {
+  return HtmlWriter(seen, fourColours).Write();
 }
 
 }  // namespace tricklet

@@ -36,17 +36,17 @@ std::optional<Card> LeadOf(const PublishedBoard& published) {
 }
 
 std::vector<std::string> ContractLines(const PublishedBoard& published) {
-  Diagram diagram;
-  diagram.board = published.board;
-  std::vector<std::string> lines = DiagramFoot(diagram);
+  SeenBoard seen;
+  seen.board = published.board;
+  std::vector<std::string> lines = DiagramFoot(seen);
   if (const auto lead = LeadOf(published)) lines.push_back("Lead " + CardText(*lead));
   return lines;
 }
 
 std::vector<CallRow> CallRowsOf(const Board& board) {
-  Diagram diagram;
-  diagram.board = board;
-  return DiagramCalls(diagram);
+  SeenBoard seen;
+  seen.board = board;
+  return DiagramCalls(seen);
 }
 
 }  // namespace tricklet

@@ -11,12 +11,12 @@
 namespace tricklet {
 namespace {
 
-Diagram Deal() {
-  Diagram diagram;
-  diagram.board.boardNumber = 7;
-  diagram.board.hands =
+SeenBoard Deal() {
+  SeenBoard seen;
+  seen.board.boardNumber = 7;
+  seen.board.hands =
       test::HandsOf("N:AKT5.Q3.J94.KQ72 QJ9.AK2.KQT83.A9 876432.JT94..J86 .8765.A7652.T543");
-  return diagram;
+  return seen;
 }
 
 TEST(Diagram, TextIsACompassOfColumns) {
@@ -41,17 +41,17 @@ West                      East
 }
 
 /// In play, with a name that is markup and with South and East hidden.
-Diagram Position() {
-  Diagram diagram = Deal();
-  test::SetAuction(diagram.board, "1S X P 3NT");
-  diagram.board.hands[Seat::West][Suit::Diamonds].Remove(Rank::Ace);
-  diagram.hidden[Seat::East] = diagram.hidden[Seat::South] = true;
-  diagram.names[Seat::West] = "A&B <b>";
-  diagram.play = DiagramPlay{};
-  diagram.play->trick[Seat::West] = test::CardOf("DA");
-  diagram.play->onPlay = Seat::North;
-  diagram.play->tricks[Side::EastWest] = 5;
-  return diagram;
+SeenBoard Position() {
+  SeenBoard seen = Deal();
+  test::SetAuction(seen.board, "1S X P 3NT");
+  seen.board.hands[Seat::West][Suit::Diamonds].Remove(Rank::Ace);
+  seen.hidden[Seat::East] = seen.hidden[Seat::South] = true;
+  seen.names[Seat::West] = "A&B <b>";
+  seen.play = SeenPlay{};
+  seen.play->trick[Seat::West] = test::CardOf("DA");
+  seen.play->onPlay = Seat::North;
+  seen.play->tricks[Side::EastWest] = 5;
+  return seen;
 }
 
 TEST(Diagram, APlayUnderWayHasItsTrickAndNothingOfHiddenHands) {
@@ -96,13 +96,13 @@ TEST(Diagram, TheHtmlHasTheSameEscapedAndColoured) {
 }
 
 TEST(Diagram, WhatIsNotKnownIsNotTold) {
-  Diagram diagram = Deal();
-  diagram.board.boardNumber = 0;
-  EXPECT_EQ(DiagramText(diagram).find("Dealer"), std::string::npos);
-  diagram = Position();
-  diagram.auction = false;
-  EXPECT_EQ(DiagramText(diagram).find("Dbl"), std::string::npos);
-  EXPECT_NE(DiagramText(diagram).find("3NT by East"), std::string::npos);
+  SeenBoard seen = Deal();
+  seen.board.boardNumber = 0;
+  EXPECT_EQ(DiagramText(seen).find("Dealer"), std::string::npos);
+  seen = Position();
+  seen.auction = false;
+  EXPECT_EQ(DiagramText(seen).find("Dbl"), std::string::npos);
+  EXPECT_NE(DiagramText(seen).find("3NT by East"), std::string::npos);
 }
 
 }  // namespace
