@@ -35,17 +35,21 @@ class WindowHost : public test::ScriptedHost {
  public:
   bool Step(const std::string& text, int done, int total) override {
     test::ScriptedHost::Step(text, done, total);
-    return progress->Step(ToQt(text), done, total);
+    return working->Step(ToQt(text), done, total);
   }
   void BeginWork() override {
     test::ScriptedHost::BeginWork();
-    progress->Begin();
+    if (works++ == 0) working = ProgressFrame::InFront(progress);
+    working->Begin();
   }
   void EndWork() override {
     test::ScriptedHost::EndWork();
-    progress->End();
+    working->End();
+    --works;
   }
 
+  ProgressFrame* working = nullptr;
+  int works = 0;
   ProgressFrame* progress = nullptr;
 };
 
@@ -176,13 +180,15 @@ class WindowTest : public test::LibraryTestBy<WindowHost>, protected Driven {
 
   void TearDown() override { EXPECT_EQ(dialogsLeft, 0) << "expected but not opened"; }
 
-  /// Has `work` work the next dialog once it is up; it has to close it.
+  /// Has `work` work the next dialog once it is up and has no work of its own; it has to close it.
   void Expect(const std::function<void(const Driven&)>& work) {
     ++dialogsLeft;
     auto* timer = new QTimer(window.get());
     QObject::connect(timer, &QTimer::timeout, timer, [this, timer, work] {
       auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
       if (dialog == nullptr) return;
+      const auto* busy = dialog->findChild<ProgressFrame*>();
+      if (busy != nullptr && busy->IsWorking()) return;
       timer->stop();
       timer->deleteLater();
       --dialogsLeft;

@@ -231,15 +231,17 @@ bool QtHost::OpenUrl(const std::string& address) {
 }
 
 bool QtHost::Step(const std::string& text, int done, int total) {
-  return progress_ == nullptr || progress_->Step(ToQt(text), done, total);
+  return working_ == nullptr || working_->Step(ToQt(text), done, total);
 }
 
 void QtHost::BeginWork() {
-  if (progress_ != nullptr) progress_->Begin();
+  if (works_++ == 0) working_ = ProgressFrame::InFront(progress_);
+  if (working_ != nullptr) working_->Begin();
 }
 
 void QtHost::EndWork() {
-  if (progress_ != nullptr) progress_->End();
+  if (working_ != nullptr) working_->End();
+  if (--works_ == 0) working_ = nullptr;
 }
 
 void QtHost::EndProgram() {

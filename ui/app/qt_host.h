@@ -43,6 +43,8 @@ class QtHost : public Host {
 
   QPointer<QWidget> window_;
   QPointer<ProgressFrame> progress_;
+  QPointer<ProgressFrame> working_;  // where the work that is under way shows
+  int works_ = 0;                    // begun and not ended
   std::function<void(const QString&)> say_;
   QString lastFolder_;  // where the file choosers begin when nothing is suggested
   bool ended_ = false;

@@ -1,6 +1,6 @@
 #include "ui/style/progress_frame.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -46,6 +46,12 @@ ProgressFrame::ProgressFrame(QWidget* parent)
   row->addWidget(bar_, 1);
   row->addWidget(cmdCancelImport);
   hide();
+}
+
+ProgressFrame* ProgressFrame::InFront(ProgressFrame* ofWindow) {
+  const QWidget* modal = QApplication::activeModalWidget();
+  auto* ofDialog = modal != nullptr ? modal->findChild<ProgressFrame*>() : nullptr;
+  return ofDialog != nullptr ? ofDialog : ofWindow;
 }
 
 void ProgressFrame::Begin() {

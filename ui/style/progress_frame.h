@@ -17,6 +17,10 @@ class ProgressFrame : public QFrame {
  public:
   explicit ProgressFrame(QWidget* parent = nullptr);
 
+  /// Where work that begins now shows its progress: in the dialog in front when that has a frame
+  /// of its own, since nobody can reach another one; else in `ofWindow`, which may be null.
+  static ProgressFrame* InFront(ProgressFrame* ofWindow);
+
   /// Begin and end long work; pairs may be nested, and only the outermost shows and hides the
   /// frame.
   void Begin();
