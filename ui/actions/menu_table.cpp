@@ -10,8 +10,8 @@ namespace {
 constexpr std::array kMenus{
     MenuEntry{
         QT_TR_NOOP("&File"),
-        "mnuOpen mnuRecent> < mnuImport mnuImportLin mnuPasteLin mnuExport | mnuSave mnuRevert | "
-        "mnuExit"},
+        "mnuOpen mnuRecent> < mnuImport mnuImportLin mnuPasteLin mnuExport | mnuPrint | mnuSave "
+        "mnuRevert | mnuExit"},
     MenuEntry{QT_TR_NOOP("&Edit"),
               "mnuUndo mnuRedo | mnuCopyHand mnuPasteHand | mnuEdit | mnuOptions"},
     MenuEntry{QT_TR_NOOP("&Library"),
@@ -39,7 +39,7 @@ constexpr std::array kMenus{
 }  // namespace
 
 const char* const kToolbar =
-    "tbrOpen=mnuOpen cmdSave=mnuSave | tbrPrevious=mnuPrevious tbrNext=mnuNext | "
+    "tbrOpen=mnuOpen cmdSave=mnuSave tbrPrint=mnuPrint | tbrPrevious=mnuPrevious tbrNext=mnuNext | "
     "cmdBidding=mnuBidding cmdPlay=mnuPlay tbrUndo=mnuUndo tbrRedo=mnuRedo tbrClaim=mnuClaim | "
     "tbrBestCards=mnuBestCards cmdDDS=mnuDDS cmdBSOL=mnuBSOL | cmdEdit=mnuEdit cmdSwap=mnuSwap "
     "cmdGenerate=mnuGenerate | tbrHands=mnuHands tbrPresent=mnuPresentation";

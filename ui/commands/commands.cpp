@@ -20,6 +20,7 @@
 #include "ui/dialogs/frmExport.h"
 #include "ui/dialogs/frmImport.h"
 #include "ui/dialogs/frmOptions.h"
+#include "ui/dialogs/frmPrint.h"
 #include "ui/dialogs/frmUpdate.h"
 #include "ui/dialogs/library_name_dialog.h"
 #include "ui/style/qt_text.h"
@@ -139,6 +140,14 @@ void Commands::Export() {
     if (dialog.exec() == QDialog::Accepted) {
       tricklet::Export(session_, dialog.Range(), exportPath_);
     }
+  });
+}
+
+void Commands::Print() {
+  LeaveUnsaved([this] {
+    if (!SettleChanges(session_)) return;
+    frmPrint dialog(session_, window_);
+    if (dialog.Gather()) dialog.exec();
   });
 }
 

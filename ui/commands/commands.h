@@ -66,6 +66,8 @@ class Commands : public QObject {
   /// One after another, until the person cancels one.
   void ImportFiles(const std::vector<std::filesystem::path>& files);
   void Export();
+  /// `mnuPrint`: the dialog that prints sheets of the library's boards or stores them as files.
+  void Print();
   void Save();
   void Exit();
 

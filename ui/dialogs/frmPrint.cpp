@@ -1,0 +1,357 @@
+#include "ui/dialogs/frmPrint.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include <QComboBox>
+#include <QDate>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMenu>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "formats/exchange/export.h"
+#include "library/library_scan.h"
+#include "publish/sheet_pages.h"
+#include "ui/dialogs/sheet_options.h"
+#include "ui/dialogs/sheet_preview.h"
+#include "ui/style/progress_frame.h"
+#include "ui/style/qt_text.h"
+#include "ui/style/section.h"
+
+namespace tricklet::ui {
+namespace {
+
+constexpr int kFrame = 48;  // room for the title bar and borders of a window
+
+SheetProposal ProposalFor(const Session& session) {
+  const QLocale english(QLocale::English);  // as the texts on the sheets
+  return {.library = session.LibraryName(),
+          .title = session.LibraryName(),
+          .subtitle = FromQt(english.toString(QDate::currentDate(), QStringLiteral("d MMMM yyyy"))),
+          .range = {session.library.firstBoard, session.library.lastBoard}};
+}
+
+bool IsIn(const BoardRange& range, const PublishedBoard& one) {
+  return one.board.boardNumber >= range.first && one.board.boardNumber <= range.last;
+}
+
+}  // namespace
+
+frmPrint::frmPrint(Session& session, QWidget* parent) : QDialog(parent), session_(session) {
+  setObjectName(QStringLiteral("frmPrint"));
+  setWindowTitle(tr("Print"));
+}
+
+bool frmPrint::Gather() {
+  CountHands(session_);
+  if (session_.library.boardCount == 0) {
+    session_.host.Tell(FromQt(tr("There are no hands to print")));
+    return false;
+  }
+  proposal_ = ProposalFor(session_);
+  auto gathered = GatherBoards(session_, proposal_.range, false);
+  if (!gathered) return false;
+  all_ = std::move(gathered->published);
+  remark_ = std::move(gathered->remark);
+  remarked_ = proposal_.range;
+  MakeFields();
+  wantsTables_ = WantsTables(options_->Choices());
+  return true;
+}
+
+void frmPrint::MakeFields() {
+  options_ = new SheetOptions(session_.settings.print, proposal_, this);
+  auto* scroll = new QScrollArea(this);
+  scroll->setWidget(options_);
+  scroll->setWidgetResizable(true);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setFocusPolicy(Qt::NoFocus);
+  scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  scroll->setMinimumWidth(options_->sizeHint().width() + fontMetrics().height());
+
+  auto* fields = new QHBoxLayout;
+  fields->addWidget(scroll);
+  fields->addWidget(MakePreview(), 1);
+  auto* column = new QVBoxLayout(this);
+  column->addLayout(fields, 1);
+  column->addWidget(MakeButtons());
+  SetTabOrder();
+  SetFirstSize();
+  connect(options_, &SheetOptions::Changed, this, &frmPrint::Choose);
+  connect(progress_, &ProgressFrame::Begun, this, &frmPrint::ShowState);
+  connect(progress_, &ProgressFrame::Ended, this, &frmPrint::ShowState);
+  Show();
+}
+
+/// The page, and what turns it.
+QWidget* frmPrint::MakePreview() {
+  auto* preview = new QWidget(this);
+  picSheet = new SheetPreview(preview);
+  cmdPreviousPage = MakeButton("cmdPreviousPage", QStringLiteral("\u25C0"));
+  cmdPreviousPage->setAccessibleName(tr("Previous page"));
+  cmdPreviousPage->setToolTip(tr("Previous page (Page Up)"));
+  cmdNextPage = MakeButton("cmdNextPage", QStringLiteral("\u25B6"));
+  cmdNextPage->setAccessibleName(tr("Next page"));
+  cmdNextPage->setToolTip(tr("Next page (Page Down)"));
+  lblPage = new QLabel(preview);
+  lblPage->setObjectName(QStringLiteral("lblPage"));
+  lblPage->setAlignment(Qt::AlignCenter);
+  auto* turn = new QHBoxLayout;
+  turn->addStretch(1);
+  turn->addWidget(cmdPreviousPage);
+  turn->addWidget(lblPage);
+  turn->addWidget(cmdNextPage);
+  turn->addStretch(1);
+  auto* column = new QVBoxLayout(preview);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(picSheet, 1);
+  column->addLayout(turn);
+
+  const auto back = [this] { picSheet->TurnTo(picSheet->Page() - 1); };
+  const auto forward = [this] { picSheet->TurnTo(picSheet->Page() + 1); };
+  connect(cmdPreviousPage, &QPushButton::clicked, this, back);
+  connect(cmdNextPage, &QPushButton::clicked, this, forward);
+  new QShortcut(Qt::Key_PageUp, this, back);
+  new QShortcut(Qt::Key_PageDown, this, forward);
+  connect(picSheet, &SheetPreview::Turned, this, &frmPrint::ShowPlace);
+  return preview;
+}
+
+QPushButton* frmPrint::MakeButton(const char* name, const QString& text) {
+  auto* button = new QPushButton(text, this);
+  button->setObjectName(QString::fromLatin1(name));
+  button->setAutoDefault(false);
+  return button;
+}
+
+QWidget* frmPrint::MakeButtons() {
+  auto* buttons = new QWidget(this);
+  lblSaid = new ElidedLabel(buttons);
+  lblSaid->setObjectName(QStringLiteral("lblSaid"));
+  progress_ = new ProgressFrame(buttons);
+  MakeQuiet(lblSaid);
+  cmdPrint = MakeButton("cmdPrint", tr("&Print..."));
+  cmdPrint->setDefault(true);
+  cmdPdf = MakeButton("cmdPdf", tr("Save as P&DF..."));
+  cmdPictures = MakeButton("cmdPictures", tr("Sa&ve as pictures..."));
+  cmdClose = MakeButton("cmdClose", tr("Close"));
+  auto* row = new QHBoxLayout(buttons);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(lblSaid, 1);
+  row->addWidget(progress_, 1);  // in its place, so that nothing moves
+  for (QPushButton* button : {cmdPrint, cmdPdf, cmdPictures, cmdClose}) row->addWidget(button);
+
+  auto* formats = new QMenu(cmdPictures);
+  const auto offer = [&](const char* name, const QString& text, PictureFormat format) {
+    QAction* action = formats->addAction(text, this, [this, format] {
+      PutOut([this, format](const Sheets& sheets) {
+        return SaveAsPictures(session_, sheets, format);
+      });
+    });
+    action->setObjectName(QString::fromLatin1(name));
+  };
+  offer("mnuPng", tr("P&NG, for letters and web pages..."), PictureFormat::Png);
+  offer("mnuSvg", tr("&SVG, for drawing programs..."), PictureFormat::Svg);
+  cmdPictures->setMenu(formats);
+  connect(cmdPrint, &QPushButton::clicked, this, [this] {
+    PutOut([this](const Sheets& sheets) {
+      return PrintOnPaper(session_, sheets, choosePrinter_, this);
+    });
+  });
+  connect(cmdPdf, &QPushButton::clicked, this,
+          [this] { PutOut([this](const Sheets& sheets) { return SaveAsPdf(session_, sheets); }); });
+  connect(cmdClose, &QPushButton::clicked, this, &frmPrint::reject);
+  return buttons;
+}
+
+void frmPrint::SetTabOrder() {
+  QList<QWidget*> order = options_->TabOrder();
+  order += {picSheet, cmdPreviousPage, cmdNextPage, cmdPrint, cmdPdf, cmdPictures, cmdClose};
+  for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order.at(i - 1), order.at(i));
+  options_->FirstField()->setFocus();
+  options_->FirstField()->lineEdit()->selectAll();
+}
+
+/// So large that the page can be read, on its side too, where the screen has room for that.
+void frmPrint::SetFirstSize() {
+  const QSize room = screen()->availableSize() - QSize(kFrame, kFrame);
+  const int height = std::min(room.height(), picSheet->sizeHint().height() * 5 / 4);
+  const int width = sizeHint().width() - picSheet->sizeHint().width() + height;
+  resize(QSize(width, height).boundedTo(room));
+}
+
+/// The range as it is typed; nothing while it is none.
+std::optional<BoardRange> frmPrint::Range() const {
+  return ReadBoardRange(FromQt(options_->From() + u'-' + options_->To()));
+}
+
+/// Why the sheets cannot be printed; empty when they can.
+std::string frmPrint::Nothing(const SheetChoices& choices) const {
+  return WhyNothingToPrint(*shown_, choices);
+}
+
+/// Takes the boards of `range` from those of the library, when others are shown.
+void frmPrint::ShowBoards(const BoardRange& range) {
+  if (shown_ != nullptr && shownRange_ == range) return;
+  auto boards = std::make_shared<Published>();
+  boards->results = all_.results;
+  std::copy_if(all_.boards.begin(), all_.boards.end(), std::back_inserter(boards->boards),
+               [&range](const PublishedBoard& one) { return IsIn(range, one); });
+  shown_ = std::move(boards);
+  shownRange_ = range;
+}
+
+void frmPrint::Choose() {
+  const bool wanted = WantsTables(options_->Choices());
+  if (wanted && !wantsTables_) tried_.reset();  // asked for once more
+  wantsTables_ = wanted;
+  Show();
+  ComputeLater();
+}
+
+/// Draws the sheets as they are chosen. While a number is being typed the boards before stay.
+void frmPrint::Show() {
+  const auto range = Range();
+  if (range || shown_ == nullptr) ShowBoards(range.value_or(proposal_.range));
+  const SheetChoices choices = options_->Choices();
+  const std::string nothing = Nothing(choices);
+  if (nothing.empty()) {
+    if (choices.layout != std::exchange(shownLayout_, choices.layout)) picSheet->TurnTo(0);
+    picSheet->Show(Sheets(shown_, choices));
+  } else {
+    picSheet->ShowNothing(ToQt(nothing));
+  }
+  lblSaid->clear();
+  ShowState();
+}
+
+void frmPrint::ShowPlace() {
+  const int pages = picSheet->Pages();
+  lblPage->setText(pages == 0 ? QString()
+                              : tr("Page %1 of %2").arg(picSheet->Page() + 1).arg(pages));
+  cmdPreviousPage->setEnabled(picSheet->Page() > 0);
+  cmdNextPage->setEnabled(picSheet->Page() + 1 < pages);
+}
+
+/// Nothing is printed while the tables for it are still coming.
+void frmPrint::ShowState() {
+  ShowPlace();
+  for (QPushButton* button : {cmdPrint, cmdPdf, cmdPictures}) {
+    button->setEnabled(!progress_->IsWorking());
+  }
+  lblSaid->setVisible(!progress_->IsWorking());
+}
+
+void frmPrint::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  ComputeLater();
+}
+
+bool frmPrint::Lacks(const BoardRange& range) const {
+  return std::any_of(all_.boards.begin(), all_.boards.end(), [&range](const PublishedBoard& one) {
+    return IsIn(range, one) && one.complete && !one.board.makeableValid;
+  });
+}
+
+/// Once what has just been chosen can be seen.
+void frmPrint::ComputeLater() {
+  QTimer::singleShot(0, this, &frmPrint::Compute);
+}
+
+/// Computes the tables that the chosen sheets want and lack. The person can go on choosing
+/// meanwhile; for other boards it begins anew.
+void frmPrint::Compute() {
+  const auto range = Range();
+  if (computing_) {
+    again_ = range && !(range == tried_);
+    if (again_) progress_->Cancel();
+    return;
+  }
+  const bool wanted = range && WantsTables(options_->Choices()) && Lacks(*range);
+  if (!wanted || range == tried_) return;
+  tried_ = range;
+  computing_ = true;
+  auto gathered = GatherBoards(session_, *range, true);
+  if (!gathered) gathered = GatherBoards(session_, *range, false);  // with the tables until then
+  computing_ = false;
+  if (gathered) Take(std::move(*gathered), *range);
+  if (closing_) {
+    reject();
+    return;
+  }
+  Show();
+  if (std::exchange(again_, false)) ComputeLater();
+}
+
+/// Puts boards of `range` that were read afresh in the place of those before.
+void frmPrint::Take(Gathered fresh, const BoardRange& range) {
+  for (PublishedBoard& one : fresh.published.boards) {
+    const auto before =
+        std::find_if(all_.boards.begin(), all_.boards.end(), [&one](const PublishedBoard& known) {
+          return known.board.boardNumber == one.board.boardNumber;
+        });
+    if (before != all_.boards.end()) *before = std::move(one);
+  }
+  remark_ = std::move(fresh.remark);
+  remarked_ = range;
+  ofTables_ = true;
+  shown_ = nullptr;
+}
+
+/// What there is to be said of the boards of `range` when they have been put out; of tables only
+/// where they are wanted.
+std::string frmPrint::RemarkOn(const BoardRange& range) {
+  if (!(remarked_ == range) || (ofTables_ && !wantsTables_)) {
+    const auto gathered = GatherBoards(session_, range, false);
+    remark_ = gathered ? gathered->remark : std::string();
+    remarked_ = range;
+    ofTables_ = false;
+  }
+  return remark_;
+}
+
+/// Puts out what the preview shows.
+void frmPrint::PutOut(const Output& output) {
+  ExportRange range;
+  if (!CheckRangeTexts(session_, FromQt(options_->From()), FromQt(options_->To()), range)) {
+    options_->FirstField()->setFocus();
+    return;
+  }
+  Show();
+  if (const std::string nothing = Nothing(options_->Choices()); !nothing.empty()) {
+    session_.host.TellError(nothing);
+    return;
+  }
+  const QString said = output(Sheets(shown_, options_->Choices()));
+  ShowState();
+  lblSaid->setText(said);
+  if (said.isEmpty()) return;
+  if (const std::string remark = RemarkOn(shownRange_); !remark.empty()) session_.host.Tell(remark);
+}
+
+void frmPrint::Remember() {
+  RememberSheets(session_.settings.print, proposal_,
+                 {.range = Range().value_or(shownRange_), .choices = options_->Choices()});
+  SavePrintSettings(session_.settings, session_.store);
+  StoreSettings(session_);
+}
+
+void frmPrint::reject() {
+  if (progress_ != nullptr && progress_->IsWorking()) {
+    closing_ = true;
+    progress_->Cancel();
+    return;
+  }
+  if (options_ != nullptr) Remember();
+  QDialog::reject();
+}
+
+}  // namespace tricklet::ui

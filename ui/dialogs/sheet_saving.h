@@ -1,0 +1,33 @@
+// Where sheets go: a file, pictures in a folder, a printer. The person chooses which.
+#pragma once
+
+#include <functional>
+
+#include <QString>
+
+#include "library/session.h"
+#include "ui/print/sheet_output.h"
+
+class QPrinter;
+class QWidget;
+
+namespace tricklet::ui {
+
+/// Lets the person choose a printer and, of `pages`, those to be printed; false when none was
+/// chosen.
+using PrinterChooser = std::function<bool(QPrinter& printer, int pages, QWidget* parent)>;
+
+/// The print dialog of the system.
+bool AskForPrinter(QPrinter& printer, int pages, QWidget* parent);
+
+// Each shows its progress and tells by a message when it fails. The answer says what has been done,
+// in one line; it is empty when that is nothing.
+
+/// The file that is offered has the name of the library, and so do the pictures.
+QString SaveAsPdf(Session& session, const Sheets& sheets);
+/// A file for each page, in a folder that the person chooses; asks before files are replaced.
+QString SaveAsPictures(Session& session, const Sheets& sheets, PictureFormat format);
+QString PrintOnPaper(Session& session, const Sheets& sheets, const PrinterChooser& choose,
+                     QWidget* parent);
+
+}  // namespace tricklet::ui
