@@ -104,7 +104,7 @@ QColor PrintStyle::Vulnerable() const {
 }
 
 QColor PrintStyle::OfSuit(Suit suit) const {
-  return colours ? SuitColourOnCard(suit, true) : QColor(Qt::black);
+  return colours ? SuitColourOnCard(suit, fourColours) : QColor(Qt::black);
 }
 
 QFont PrintFont(bool bold) {

@@ -19,7 +19,8 @@ namespace tricklet::ui {
 
 /// The colours of printed pages: paper is white, whatever the window's colours are.
 struct PrintStyle {
-  bool colours = true;  ///< else black alone
+  bool colours = true;      ///< else black alone
+  bool fourColours = true;  ///< of the suits, else red and black
 
   QColor Text() const;
   QColor Quiet() const;  ///< of what is less important
