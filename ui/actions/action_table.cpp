@@ -72,6 +72,9 @@ bool CanAnalyse(State state) {
 bool DigitsAreFree(State state) {
   return !state.playing && !state.editing && !state.recordShown;
 }
+bool CanCopyDiagram(State state) {
+  return state.hasCards || state.recordShown;
+}
 bool CanHide(State state) {
   return !state.editing;
 }
@@ -162,6 +165,9 @@ const std::array kTable{
                 nullptr, RedoCaption},
     ActionEntry{"mnuCopyHand", QT_TR_NOOP("&Copy board"), "", "Ctrl+C",
                 QT_TR_NOOP("Copy the board to the program's clipboard"), "", &Commands::CopyHand},
+    ActionEntry{"mnuCopyDiagram", QT_TR_NOOP("Copy &diagram"), "", "Ctrl+Shift+C",
+                QT_TR_NOOP("Copy what is on the table for letters, mails and forums"), "",
+                WindowAsk::CopyDiagram, CanCopyDiagram},
     ActionEntry{"mnuPasteHand", QT_TR_NOOP("&Paste board"), "", "Ctrl+V",
                 QT_TR_NOOP("Put the copied board in the place of this one"), "",
                 &Commands::PasteHand, CanPaste},

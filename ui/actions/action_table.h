@@ -22,6 +22,7 @@ enum class WindowAsk : std::uint8_t {
   LeavePresentation,
   Traveller,
   FindBoards,
+  CopyDiagram,
   HideHands,
   HideNorth,
   HideEast,

@@ -13,7 +13,7 @@ constexpr std::array kMenus{
         "mnuOpen mnuRecent> < mnuImport mnuImportLin mnuPasteLin mnuExport | mnuPrint | mnuSave "
         "mnuRevert | mnuExit"},
     MenuEntry{QT_TR_NOOP("&Edit"),
-              "mnuUndo mnuRedo | mnuCopyHand mnuPasteHand | mnuEdit | mnuOptions"},
+              "mnuUndo mnuRedo | mnuCopyHand mnuCopyDiagram mnuPasteHand | mnuEdit | mnuOptions"},
     MenuEntry{QT_TR_NOOP("&Library"),
               "mnuRenameLibrary mnuNewLibrary mnuCopyLibrary mnuDeleteLibrary | mnuGenerate | "
               "mnuRefresh | mnuImportLibrary mnuImportLibraries mnuExportLibrary "
@@ -46,7 +46,7 @@ const char* const kToolbar =
 const char* const kTableContext =
     "mnuUndo mnuRedo | mnuBidding mnuPlay mnuClaim | mnuEdit mnuSwap | mnuDDS mnuBSOL | mnuHands "
     "mnuHideNorth "
-    "mnuHideEast mnuHideSouth mnuHideWest | mnuCopyHand mnuPasteHand | mnuSave "
+    "mnuHideEast mnuHideSouth mnuHideWest | mnuCopyHand mnuCopyDiagram mnuPasteHand | mnuSave "
     "mnuRevert | mnuPresentation";
 const char* const kBoardListContext =
     "mnuCopyHand mnuPasteHand | mnuSave mnuRevert | mnuDDS mnuAnalyse | mnuFind mnuGoTo";

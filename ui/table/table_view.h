@@ -49,6 +49,9 @@ class TableView : public QWidget {
   /// Captions that can be read from the back of a room: at least 1/30 of the table's height.
   void SetPresentation(bool on);
 
+  /// What is shown. While hands are edited, nothing is hidden, whatever it says.
+  const TableScene& Scene() const { return scene_; }
+
   /// Where everything lies at the present size. During play these are the cards left, the legal
   /// ones raised, and their ranks in the text display.
   TableLayout Layout() const;

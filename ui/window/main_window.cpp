@@ -3,6 +3,7 @@
 #include <optional>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 
 #include "library/recent_files.h"
@@ -36,6 +37,7 @@
 #include "ui/style/side_column.h"
 #include "ui/table/table_view.h"
 #include "ui/updates/updates.h"
+#include "ui/window/copied_diagram.h"
 #include "ui/window/main_menu.h"
 #include "ui/window/placing.h"
 #include "ui/window/state_of.h"
@@ -313,6 +315,9 @@ void MainWindow::CarryOut(WindowAsk what) {
     case WindowAsk::FindBoards:
       panes_.library->List()->BeginFind();
       break;
+    case WindowAsk::CopyDiagram:
+      CopyDiagram();
+      break;
     case WindowAsk::HideHands:
       HideAll();
       break;
@@ -331,6 +336,15 @@ void MainWindow::CarryOut(WindowAsk what) {
       panes_.area->Widen(true, what == WindowAsk::WidenRight);
       break;
   }
+}
+
+/// What is in sight goes to the clipboard, and no more.
+void MainWindow::CopyDiagram() {
+  const bool auction = ShownIn(state_).right && session_.settings.showAuction;
+  SeenBoard seen = SeenOn(panes_.table->Scene(), auction);
+  if (edit_->Editing()) seen.hidden = {};
+  QApplication::clipboard()->setMimeData(DiagramForOthers(seen, session_.settings).release());
+  status_->Say(tr("The diagram is on the clipboard: as picture, HTML and text"));
 }
 
 /// Turns all hands face down, or up again when any is.

@@ -96,6 +96,7 @@ class MainWindow : public QMainWindow {
   void ShowState();
   void ShowTricks();
   void CarryOut(WindowAsk what);
+  void CopyDiagram();
   void HideAll();
   void Hide(Seat seat);
   void ShowHidden();
