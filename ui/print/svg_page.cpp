@@ -80,6 +80,20 @@ QString JoinName(Qt::PenJoinStyle join) {
   return join == Qt::BevelJoin ? QStringLiteral("bevel") : QStringLiteral("miter");
 }
 
+/// The family that is used here, then those that a reader may have instead.
+QString FamiliesOf(const QFont& font) {
+  QStringList families{QFontInfo(font).family()};
+  families += font.families();
+  families += QStringLiteral("sans-serif");
+  families.removeDuplicates();
+  return families.join(QStringLiteral(", "));
+}
+
+/// In points: a pixel of this device is one.
+double SizeOf(const QFont& font) {
+  return font.pixelSize() > 0 ? font.pixelSize() : QFontInfo(font).pointSizeF();
+}
+
 }  // namespace
 
 class SvgPage::Engine : public QPaintEngine {
@@ -139,8 +153,8 @@ class SvgPage::Engine : public QPaintEngine {
     xml_.writeAttribute(QStringLiteral("x"), Number(at.x()));
     xml_.writeAttribute(QStringLiteral("y"), Number(at.y()));
     xml_.writeAttribute(QStringLiteral("xml:space"), QStringLiteral("preserve"));
-    xml_.writeAttribute(QStringLiteral("font-family"), QFontInfo(font).family());
-    xml_.writeAttribute(QStringLiteral("font-size"), Number(QFontInfo(font).pointSizeF()));
+    xml_.writeAttribute(QStringLiteral("font-family"), FamiliesOf(font));
+    xml_.writeAttribute(QStringLiteral("font-size"), Number(SizeOf(font)));
     if (font.weight() != QFont::Normal)
       xml_.writeAttribute(QStringLiteral("font-weight"), QString::number(font.weight()));
     if (font.italic()) xml_.writeAttribute(QStringLiteral("font-style"), QStringLiteral("italic"));

@@ -40,6 +40,23 @@ TEST(SvgPage, KeepsTextAndEscapesIt) {
   EXPECT_EQ(texts.mid(1).join(QString()).remove(u'\n'), QStringLiteral("\u2660 AKQ7 </svg> &amp;"));
 }
 
+TEST(SvgPage, TheSizeOfAFontIsInPointsHoweverItWasSet) {
+  for (const bool pixels : {false, true}) {
+    SvgPage page({200, 100}, QString());
+    {
+      QPainter painter(&page);
+      QFont font(QStringLiteral("DejaVu Sans"));
+      if (pixels) font.setPixelSize(40);
+      if (!pixels) font.setPointSizeF(40);
+      painter.setFont(font);
+      painter.drawText(QPointF(10, 50), QStringLiteral("A"));
+    }
+    const auto text = Elements(page.Document()).value(QStringLiteral("text"));
+    EXPECT_EQ(text.value(QStringLiteral("font-size")), QStringLiteral("40"));
+    EXPECT_TRUE(text.value(QStringLiteral("font-family")).endsWith(QStringLiteral(", sans-serif")));
+  }
+}
+
 TEST(SvgPage, PlacesClipsAndTransforms) {
   SvgPage page({200, 100}, QString());
   {
