@@ -129,6 +129,13 @@ std::optional<Gathered> Gather(Session& session, const BoardRange& range, bool t
 
 }  // namespace
 
+Ranking RankingOf(const Published& published) {
+  std::vector<const Traveller*> travellers;
+  travellers.reserve(published.boards.size());
+  for (const PublishedBoard& one : published.boards) travellers.push_back(&one.traveller);
+  return MakeRanking(published.results, travellers);
+}
+
 std::optional<BoardRange> ReadBoardRange(std::string_view text) {
   const auto dash = text.find('-');
   const auto first = NumberFromText(Trim(text.substr(0, dash)));

@@ -8,6 +8,7 @@
 #include "analysis/par.h"
 #include "core/board.h"
 #include "formats/results/lin_file.h"
+#include "formats/results/ranking.h"
 #include "formats/results/traveller.h"
 #include "library/session.h"
 
@@ -26,6 +27,9 @@ struct Published {
   std::vector<PublishedBoard> boards;
   LinFile results;
 };
+
+/// The ranking of those who have played the boards.
+Ranking RankingOf(const Published& published);
 
 /// Boards of the current library, 1..999.
 struct BoardRange {

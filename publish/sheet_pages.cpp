@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "publish/sheet_tables.h"
+
 namespace tricklet {
 namespace {
 
@@ -64,8 +66,7 @@ bool WantsTables(const SheetChoices& choices) {
 
 std::string WhyNothingToPrint(const Published& published, const SheetChoices& choices) {
   if (published.boards.empty()) return kNothingToPublish;
-  const bool results = std::any_of(published.boards.begin(), published.boards.end(),
-                                   [](const auto& one) { return !one.traveller.rows.empty(); });
+  const bool results = std::any_of(published.boards.begin(), published.boards.end(), HasResults);
   if (choices.layout == SheetLayout::Travellers && !results) return kNoResultsToPrint;
   return {};
 }

@@ -9,6 +9,7 @@
 #include "ui/print/board_pages.h"
 #include "ui/print/page_source.h"
 #include "ui/print/print_style.h"
+#include "ui/print/traveller_sheets.h"
 #include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
@@ -40,7 +41,10 @@ Sheets::Sheets(Published published, SheetChoices choices)
 
 Sheets::Sheets(std::shared_ptr<const Published> published, SheetChoices choices)
     : published_(std::move(published)), choices_(std::move(choices)) {
-  source_ = MakeBoardPages(*published_, choices_, Room().size());
+  const QSizeF room = Room().size();
+  source_ = choices_.layout == SheetLayout::Travellers
+                ? MakeTravellerPages(*published_, choices_, room)
+                : MakeBoardPages(*published_, choices_, room);
 }
 
 int Sheets::Pages() const {
