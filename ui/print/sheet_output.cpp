@@ -123,20 +123,19 @@ bool WritePictures(const Sheets& sheets, PictureFormat format, const std::filesy
 }
 
 bool PrintSheets(const Sheets& sheets, QPrinter& printer, const PageStep& step) {
+  const int first = std::max(printer.fromPage() - 1, 0);
+  const int last =
+      printer.toPage() > 0 ? std::min(printer.toPage(), sheets.Pages()) : sheets.Pages();
   printer.setFullPage(true);
   printer.setDocName(ToQt(sheets.Choices().title));
   QPainter painter;
-  if (!painter.begin(&printer)) return false;
+  if (first >= last || !painter.begin(&printer)) return false;
   const QSizeF paper = PaperOf(sheets);
   const QSizeF target = printer.pageLayout().fullRectPixels(printer.resolution()).size();
   const double scale = std::min(target.width() / paper.width(), target.height() / paper.height());
   painter.scale(scale, scale);
-  const int first = std::max(printer.fromPage() - 1, 0);
-  const int last =
-      printer.toPage() > 0 ? std::min(printer.toPage(), sheets.Pages()) : sheets.Pages();
   for (int page = first; page < last; ++page) {
-    const bool goesOn = GoesOn(step, page, sheets.Pages()) && (page == first || printer.newPage());
-    if (!goesOn) {
+    if (!GoesOn(step, page, sheets.Pages()) || (page > first && !printer.newPage())) {
       printer.abort();
       return false;
     }

@@ -45,8 +45,8 @@ bool WritePictures(const Sheets& sheets, PictureFormat format, const std::filesy
                    const std::string& name, const PageStep& step = {});
 
 /// Prints the pages that `printer` is set to, all where it has no range, as large as they fit its
-/// paper. False when the printer does not take them or `step` has ended the work; what was sent
-/// before may be printed.
+/// paper. False when the printer does not take them, there are none in its range, or `step` has
+/// ended the work; what was sent before may be printed.
 bool PrintSheets(const Sheets& sheets, QPrinter& printer, const PageStep& step = {});
 
 }  // namespace tricklet::ui

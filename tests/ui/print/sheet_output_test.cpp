@@ -1,11 +1,13 @@
 #include "ui/print/sheet_output.h"
 
-#include <fstream>
+#include <algorithm>
 
 #include <QImage>
+#include <QPrinter>
 #include <gtest/gtest.h>
 
 #include "core/fault.h"
+#include "disk/file_io.h"
 #include "tests/support/library_fixture.h"
 #include "ui/style/qt_text.h"
 
@@ -61,6 +63,28 @@ TEST(SheetOutput, MakesAPdfOfAllPagesWithItsFonts) {
   EXPECT_TRUE(pdf.contains("/Count 2"));
   EXPECT_TRUE(pdf.contains("/FontFile2"));
   EXPECT_FALSE(pdf.contains("/Subtype /Image"));
+}
+
+TEST(SheetOutput, PrintsTheRangeThatThePrinterIsSetTo) {
+  const test::TempFolder folder;
+  const struct {
+    int from;
+    int to;
+    bool printed;
+    int pages;
+  } rows[]{{0, 0, true, 2}, {2, 2, true, 1}, {1, 9, true, 2}, {3, 4, false, 0}};
+  for (const auto& row : rows) {
+    const fs::path file = folder.Path() / ("printed" + std::to_string(row.from) + ".pdf");
+    QPrinter printer;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(PathToQt(file));
+    printer.setFromTo(row.from, row.to);
+    EXPECT_EQ(PrintSheets(TwoPages(), printer), row.printed) << row.from;
+    EXPECT_EQ(fs::exists(file), row.printed);
+    if (!row.printed) continue;
+    const std::string count = "/Count " + std::to_string(row.pages);
+    EXPECT_NE(ReadWholeFile(file, 1 << 24).find(count), std::string::npos) << row.from;
+  }
 }
 
 }  // namespace
