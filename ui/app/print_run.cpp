@@ -52,6 +52,7 @@ void Write(const Sheets& sheets, const std::string& name, const PrintOptions& op
 
 int RunPrint(Session& session, const QString& library, const PrintOptions& options) {
   try {
+    TellUnreadSettings(session);
     if (!OpenNamed(session, library)) return 1;
     const SheetChoices choices = ChoicesFor(session, options);
     auto gathered = GatherBoards(session, options.boards, WantsTables(choices));

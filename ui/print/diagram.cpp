@@ -125,7 +125,11 @@ HandsDiagram DiagramOf(const Board& board) {
                        .vulnerability = board.Vulnerability(),
                        .hands = board.hands};
   const Statistics statistics = GetStats(board.hands);
-  for (const Seat seat : kAllSeats) diagram.points[seat] = statistics.seatHcp[seat];
+  for (const Seat seat : kAllSeats) {
+    // A hand without cards is not known, and no four voids.
+    diagram.shown[seat] = statistics.seatCardCount[seat] > 0;
+    if (diagram.shown[seat]) diagram.points[seat] = statistics.seatHcp[seat];
+  }
   return diagram;
 }
 

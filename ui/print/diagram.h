@@ -22,7 +22,7 @@ struct HandsDiagram {
   PerSeat<std::optional<Card>> trick = {};      ///< cards on the table, inside the compass
 };
 
-/// The board as it was dealt, with number and points.
+/// The board as it was dealt, with number and points. A hand without cards is not shown.
 HandsDiagram DiagramOf(const Board& board);
 
 /// Where the parts of a diagram stand.

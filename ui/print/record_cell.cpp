@@ -70,7 +70,7 @@ void PaintRecord(QPainter& painter, const PublishedBoard& published, const Recor
   const DiagramPlaces places = PlaceDiagram(room, size);
   const QRectF par(room.left(), places.right.bottom(), room.width(), kParLine * size);
   HandsDiagram diagram = DiagramOf(published.board);
-  diagram.shown = parts.hands;
+  for (const Seat seat : kAllSeats) diagram.shown[seat] = diagram.shown[seat] && parts.hands[seat];
   if (!parts.points) diagram.points.fill(std::nullopt);
   PaintDiagram(painter, diagram, places, style);
   if (parts.table && published.board.makeableValid)

@@ -16,6 +16,10 @@ constexpr double kLongest = 10.7;  // symbol and 13 cards, the same
 constexpr double kLine = 0.4;      // in points
 constexpr double kMark = 5;
 
+bool HasCards(const PerSuit<Holding>& hand) {
+  return std::any_of(hand.begin(), hand.end(), [](Holding suit) { return !suit.Empty(); });
+}
+
 }  // namespace
 
 void PaintSlip(QPainter& painter, const Board& board, Seat seat, const QRectF& cell,
@@ -28,6 +32,7 @@ void PaintSlip(QPainter& painter, const Board& board, Seat seat, const QRectF& c
   const QString number = QString::number(board.boardNumber);
   heading.setLeft(heading.left() + PaintLine(painter, heading, number, text, style) + size);
   PaintLine(painter, heading, ToQt(SeatName[seat]), text, style);
+  if (!HasCards(board.hands[seat])) return;  // not known, and no four voids
   double baseline = heading.bottom() + (kLineHeight + 0.72) / 2 * size;
   for (const Suit suit : kAllSuits) {
     PaintHolding(painter, {room.left(), baseline}, room.width(), suit, board.hands[seat][suit],

@@ -2,13 +2,16 @@
 #include "ui/print/sheets.h"
 
 #include <map>
+#include <set>
 
+#include <QRegularExpression>
 #include <gtest/gtest.h>
 
 #include "tests/ui/print/painted_boards.h"
 #include "tests/ui/print/recorded_page.h"
 #include "ui/print/diagram.h"
 #include "ui/print/record_cell.h"
+#include "ui/print/svg_page.h"
 #include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
@@ -98,6 +101,39 @@ TEST(Diagram, LeavesHiddenHandsOut) {
   }
   EXPECT_EQ(all.left(hand.size()), hand);
   EXPECT_EQ(all.count(ToQt("♠")), 1);
+}
+
+TEST(Sheets, AHandThatIsNotKnownIsNotPaintedAsFourVoids) {
+  Published published = RandomBoards(1);
+  published.boards[0].board.hands[Seat::East] = {};
+  for (const SheetLayout layout : {SheetLayout::Records, SheetLayout::Lesson, SheetLayout::Slips}) {
+    const Sheets sheets(published, {.layout = layout, .perPage = 4, .table = false, .par = false});
+    int spades = 0;
+    for (int page = 0; page < sheets.Pages(); ++page) {
+      RecordedPage device;
+      Paint(device, sheets, page);
+      for (const RecordedText& text : device.Texts()) spades += text.text == ToQt("♠") ? 1 : 0;
+    }
+    EXPECT_EQ(spades, 3);
+  }
+}
+
+TEST(Sheets, BlackPrintingHasNoOtherColour) {
+  const Published published = RandomBoards(4);
+  static const QRegularExpression colour(ToQt("#[0-9a-f]{6}"));
+  for (const SheetLayout layout : {SheetLayout::Records, SheetLayout::Lesson, SheetLayout::Slips}) {
+    SheetChoices choices{.layout = layout, .perPage = 4, .colours = false};
+    SvgPage page({595, 842}, {});
+    Paint(page, {published, choices}, 0);
+    std::set<QString> colours;
+    const QString document = QString::fromUtf8(page.Document());
+    for (auto found = colour.globalMatch(document); found.hasNext();)
+      colours.insert(found.next().captured());
+    // A vulnerable side is white in a black box.
+    std::set<QString> expected{ToQt("#000000")};
+    if (layout != SheetLayout::Slips) expected.insert(ToQt("#ffffff"));
+    EXPECT_EQ(colours, expected);
+  }
 }
 
 TEST(Sheets, LongTitlesStayOnThePage) {
