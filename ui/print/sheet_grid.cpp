@@ -13,10 +13,10 @@ constexpr double kRuleWidth = 0.5;
 }  // namespace
 
 QRectF SheetGrid::Cell(const QRectF& room, int index) const {
-  const double width = room.width() / columns;
-  const double height = room.height() / rows;
-  return {room.left() + index % columns * width, room.top() + index / columns * height, width,
-          height};
+  const int column = index % columns;
+  const int row = index / columns;
+  const QSizeF size(room.width() / columns, room.height() / rows);
+  return {room.topLeft() + QPointF(column * size.width(), row * size.height()), size};
 }
 
 void SheetGrid::PaintRules(QPainter& painter, const QRectF& room, int cells,
