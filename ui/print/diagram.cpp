@@ -14,10 +14,10 @@ namespace {
 // Measures of a diagram, as multiples of its font's size.
 constexpr double kWidth = 21;
 constexpr double kHandHeight = kSuits * kLineHeight;
-constexpr double kGap = 0.5;  // between the hands and the compass
+constexpr double kGap = 0.75;  // between the hands and the compass
 constexpr double kHeight = 3 * kHandHeight + 2 * kGap;
 constexpr double kWidestGap = 1.5;  // in a room that is higher than that
-constexpr double kCompass = 5.2;
+constexpr double kCompass = 4.9;
 constexpr double kNumber = 2.4;  // font of the board number
 constexpr double kSmall = 0.85;  // font of what is beside the hands
 

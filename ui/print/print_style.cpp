@@ -23,8 +23,8 @@ constexpr double kAscent = 0.36;  // from the middle of a line to its baseline, 
 
 // A reader of PDF takes a gap of a tenth of the size for a blank; poppler's limit is 0.1.
 constexpr double kRankGap = 0.085;
-constexpr double kTenWidth = 0.82;    // its digits are narrower, so that they read as one rank
-constexpr double kSymbolWidth = 1.1;  // of a suit symbol with the gap after it
+constexpr double kTenWidth = 0.82;     // its digits are narrower, so that they read as one rank
+constexpr double kSymbolWidth = 1.18;  // of a suit symbol with the gap after it
 
 const QString kDash = QStringLiteral("\u2014");
 
