@@ -57,9 +57,14 @@ SheetTable TravellerTable(const PublishedBoard& published, bool par) {
   table.title = "Board " + std::to_string(board.boardNumber);
   table.details = DealerText(board.Dealer()) + ", " + std::string(VulShort[board.Vulnerability()]);
   if (par && published.par) table.aside = ParSymbols(*published.par);
-  if (published.traveller.computed) table.foot = "The points are computed from the scores";
+  const std::vector<TravellerRow>& rows = published.traveller.rows;
+  const bool points = std::any_of(rows.begin(), rows.end(), [](const TravellerRow& row) {
+    return row.points[Side::NorthSouth].has_value();
+  });
+  if (points && published.traveller.computed)
+    table.foot = "The points are computed from the scores";
   table.columns = TravellerColumns(published.traveller.scoring);
-  for (const TravellerRow& row : published.traveller.rows) table.rows.push_back(CellsOf(row));
+  for (const TravellerRow& row : rows) table.rows.push_back(CellsOf(row));
   return table;
 }
 

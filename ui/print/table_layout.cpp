@@ -46,16 +46,37 @@ double NaturalWidth(const std::vector<const SheetTable*>& tables, std::size_t co
   return width > 0 ? std::max(width, heading) : 0;
 }
 
-/// Makes the columns of one sort smaller where they are more than `room` together, and with `fill`
-/// wider where they are less.
-void FitInto(std::vector<double>& widths, const SheetTable& table, bool names, double room,
-             bool fill) {
+/// The sum of the columns of one sort.
+double SumOf(const std::vector<double>& widths, const SheetTable& table, bool names) {
   double sum = 0;
   for (std::size_t i = 0; i < widths.size(); ++i) sum += IsNames(table, i) == names ? widths[i] : 0;
-  if (sum <= 0 || (sum <= room && !fill)) return;
+  return sum;
+}
+
+/// Makes the columns of one sort `room` wide together.
+void Stretch(std::vector<double>& widths, const SheetTable& table, bool names, double room) {
+  const double sum = SumOf(widths, table, names);
+  if (sum <= 0) return;
   for (std::size_t i = 0; i < widths.size(); ++i) {
     if (IsNames(table, i) == names) widths[i] *= room / sum;
   }
+}
+
+/// Fits the names into `room`. Those that need no more than an equal share of it keep their width,
+/// so that one name without measure does not push the others aside.
+void FitNames(std::vector<double>& widths, const SheetTable& table, double room) {
+  const auto names = std::count_if(table.columns.begin(), table.columns.end(),
+                                   [](const auto& own) { return own.kind == ColumnKind::Names; });
+  const double share = room / static_cast<double>(std::max<std::ptrdiff_t>(names, 1));
+  double needed = 0;
+  for (std::size_t i = 0; i < widths.size(); ++i) {
+    if (IsNames(table, i)) needed += std::min(widths[i], share);
+  }
+  for (std::size_t i = 0; i < widths.size(); ++i) {
+    if (IsNames(table, i))
+      widths[i] = std::min(widths[i], room - needed + std::min(widths[i], share));
+  }
+  if (SumOf(widths, table, true) > room) Stretch(widths, table, true, room);
 }
 
 /// Two lines, divided between two players or pairs as near to the middle as can be.
@@ -102,10 +123,11 @@ TableColumns::TableColumns(const std::vector<const SheetTable*>& tables, double 
   const auto shown = std::count_if(widths.begin(), widths.end(), [](double w) { return w > 0; });
   const double text =
       room - kColumnGap * static_cast<double>(std::max<std::ptrdiff_t>(shown, 1) - 1);
-  FitInto(widths, table, false, kCellsPart * text, false);
-  double cells = 0;
-  for (std::size_t i = 0; i < widths.size(); ++i) cells += IsNames(table, i) ? 0 : widths[i];
-  FitInto(widths, table, true, text - cells, table.kind == SheetTableKind::Traveller);
+  if (SumOf(widths, table, false) > kCellsPart * text)
+    Stretch(widths, table, false, kCellsPart * text);
+  const double names = text - SumOf(widths, table, false);
+  FitNames(widths, table, names);
+  if (table.kind == SheetTableKind::Traveller) Stretch(widths, table, true, names);
   for (const double width : widths) {
     if (width > 0 && width_ > 0) width_ += kColumnGap;
     places_.push_back({width_, width});
