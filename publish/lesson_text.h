@@ -25,7 +25,8 @@ struct LessonParts {
 /// stand there only with all four.
 LessonParts LessonPartsOf(const SheetChoices& choices);
 
-/// What stands among the answers: all hands, and what the lesson leaves out.
+/// What stands among the answers: all hands, and auction and notes where the lesson leaves them
+/// out.
 LessonParts AnswerPartsOf(const SheetChoices& choices);
 
 /// The card led by the first table of the traveller that played the board's own contract; nothing

@@ -71,13 +71,10 @@ std::string WhyNothingToPrint(const Published& published, const SheetChoices& ch
   return {};
 }
 
-bool HasAnswers(const Published& published, const SheetChoices& choices) {
-  if (choices.layout != SheetLayout::Lesson || !choices.answers) return false;
+bool HasAnswers(const SheetChoices& choices) {
   const bool allHands =
       std::all_of(choices.hands.begin(), choices.hands.end(), [](bool shown) { return shown; });
-  return !allHands || (!choices.auction &&
-                       std::any_of(published.boards.begin(), published.boards.end(),
-                                   [](const auto& one) { return !one.board.calls.Empty(); }));
+  return choices.layout == SheetLayout::Lesson && choices.answers && !allHands;
 }
 
 std::vector<SheetPage> PlanSheets(const Published& published, const SheetChoices& choices) {
@@ -90,7 +87,7 @@ std::vector<SheetPage> PlanSheets(const Published& published, const SheetChoices
       break;
     case SheetLayout::Lesson:
       AddPages(published, boards, choices.perPage, {}, "Lesson", pages);
-      if (HasAnswers(published, choices)) {
+      if (HasAnswers(choices)) {
         AddPages(published, boards, kAnswersPerPage, {.kind = SheetKind::Answers}, "Answers",
                  pages);
       }

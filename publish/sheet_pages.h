@@ -44,7 +44,7 @@ bool WantsTables(const SheetChoices& choices);
 /// when it has.
 std::string WhyNothingToPrint(const Published& published, const SheetChoices& choices);
 
-/// A lesson leaves something out that is to be found at its end.
-bool HasAnswers(const Published& published, const SheetChoices& choices);
+/// It is a lesson that leaves hands out, which are to be found at its end.
+bool HasAnswers(const SheetChoices& choices);
 
 }  // namespace tricklet

@@ -62,16 +62,13 @@ TEST(SheetPages, SlipsOfABoardAreTogetherOrWithTheirSeat) {
   EXPECT_EQ(byBoard[1].heading, "Deal slips, boards 4 to 6");
 }
 
-TEST(SheetPages, AnswersHoldWhatALessonLeavesOut) {
-  Published published = Boards(1, 1);
-  SheetChoices choices = Choices(SheetLayout::Lesson, 2);
-  EXPECT_FALSE(HasAnswers(published, choices));
-  choices.auction = false;
-  EXPECT_FALSE(HasAnswers(published, choices));
-  published.boards[0].board.calls.Add(Call::Pass());
-  EXPECT_TRUE(HasAnswers(published, choices));
+TEST(SheetPages, ALessonHasAnswersWhereItLeavesHandsOut) {
+  EXPECT_FALSE(HasAnswers(Choices(SheetLayout::Lesson, 2)));
+  EXPECT_FALSE(HasAnswers(Choices(SheetLayout::Records, 18, "N")));
+  SheetChoices choices = Choices(SheetLayout::Lesson, 2, "N");
+  EXPECT_TRUE(HasAnswers(choices));
   choices.answers = false;
-  EXPECT_FALSE(HasAnswers(published, choices));
+  EXPECT_FALSE(HasAnswers(choices));
 }
 
 TEST(SheetPages, SayWhatIsMissing) {
