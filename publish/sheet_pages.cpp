@@ -71,6 +71,10 @@ std::string WhyNothingToPrint(const Published& published, const SheetChoices& ch
   return {};
 }
 
+int AnswersPerPage(const SheetChoices& choices) {
+  return choices.auction && choices.notes ? 6 : 4;
+}
+
 bool HasAnswers(const SheetChoices& choices) {
   const bool allHands =
       std::all_of(choices.hands.begin(), choices.hands.end(), [](bool shown) { return shown; });
@@ -88,8 +92,8 @@ std::vector<SheetPage> PlanSheets(const Published& published, const SheetChoices
     case SheetLayout::Lesson:
       AddPages(published, boards, choices.perPage, {}, "Lesson", pages);
       if (HasAnswers(choices)) {
-        AddPages(published, boards, kAnswersPerPage, {.kind = SheetKind::Answers}, "Answers",
-                 pages);
+        AddPages(published, boards, AnswersPerPage(choices), {.kind = SheetKind::Answers},
+                 "Answers", pages);
       }
       break;
     case SheetLayout::Slips:

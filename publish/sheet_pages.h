@@ -14,8 +14,8 @@ namespace tricklet {
 
 /// Deal slips on a page.
 inline constexpr int kSlipsPerPage = 12;
-/// Boards on a page of a lesson's answers.
-inline constexpr int kAnswersPerPage = 6;
+/// Boards on a page of a lesson's answers: fewer where these tell of auction or notes, too.
+int AnswersPerPage(const SheetChoices& choices);
 
 /// One place of a page.
 struct SheetItem {

@@ -32,7 +32,7 @@ class BoardPages : public PageSource {
         boards_(choices.layout == SheetLayout::Slips
                     ? SlipGrid(room)
                     : BestGrid(room, choices.perPage, RecordFontSize)),
-        answers_(BestGrid(room, kAnswersPerPage, RecordFontSize)) {}
+        answers_(BestGrid(room, AnswersPerPage(choices), RecordFontSize)) {}
 
   int Pages() const override { return static_cast<int>(pages_.size()); }
   QString Heading(int page) const override { return ToQt(At(page).heading); }
