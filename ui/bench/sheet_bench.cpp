@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <functional>
 #include <random>
+#include <utility>
 #include <vector>
 
 #include <QApplication>
@@ -113,7 +114,10 @@ class Bench : public TemporaryRoot {
     SelectLibrary(session, "Boards");
   }
 
-  ui::Sheets Gather() { return {GatherBoards(session, {}, true)->published, {.title = "Boards"}}; }
+  ui::Sheets Gather() {
+    auto gathered = GatherBoards(session, {}, true);
+    return {gathered ? std::move(gathered->published) : Published(), {.title = "Boards"}};
+  }
 
   QuietHost host;
   MemoryStore store;
