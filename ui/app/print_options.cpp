@@ -165,12 +165,15 @@ PrintOptions ReadPrintOptions(const QCommandLineParser& parser, QString& error) 
 }
 
 bool AsksForPrint(int count, char** values) {
-  return std::any_of(values, values + count, [](std::string_view value) {
-    return std::any_of(kOutputs.begin(), kOutputs.end(), [&](const Described& option) {
+  const auto isOutput = [](std::string_view value) {
+    return std::any_of(kOutputs.begin(), kOutputs.end(), [value](const Described& option) {
       const std::string name = std::string("--") + option.name;
       return value == name || value.starts_with(name + "=");
     });
-  });
+  };
+  char** const files =
+      std::find_if(values, values + count, [](std::string_view value) { return value == "--"; });
+  return std::any_of(values, files, isOutput);
 }
 
 }  // namespace tricklet::ui

@@ -34,6 +34,17 @@ const QFontMetricsF& Metrics(bool bold) {
   return bold ? strong : regular;
 }
 
+/// `text` without what would begin another line or shows as a box.
+QString OnOneLine(QString text) {
+  for (QChar& character : text) {
+    const bool breaks = character == QChar::LineSeparator ||
+                        character == QChar::ParagraphSeparator ||
+                        character.category() == QChar::Other_Control;
+    if (breaks) character = u' ';
+  }
+  return text;
+}
+
 /// A piece of text without suit symbols, or one symbol.
 struct Piece {
   QString text;
@@ -133,7 +144,8 @@ void PaintText(QPainter& painter, QPointF at, const QString& text, const TextSty
 
 double PaintLine(QPainter& painter, const QRectF& room, const QString& text, const TextStyle& style,
                  const PrintStyle& colours) {
-  std::vector<Piece> pieces = PiecesOf(text);
+  const QString line = OnOneLine(text);
+  std::vector<Piece> pieces = PiecesOf(line);
   double width = WidthOf(pieces, style.size, style.bold);
   TextStyle fitting = style;
   if (width > room.width()) {
@@ -141,7 +153,7 @@ double PaintLine(QPainter& painter, const QRectF& room, const QString& text, con
     if (fitting.size * width > room.width() * style.size * (1 + kRounding)) {
       pieces = PiecesOf(
           Metrics(style.bold)
-              .elidedText(text, Qt::ElideRight, room.width() * kFontPixels / fitting.size));
+              .elidedText(line, Qt::ElideRight, room.width() * kFontPixels / fitting.size));
     }
     width = WidthOf(pieces, fitting.size, fitting.bold);
   }

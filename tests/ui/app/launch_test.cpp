@@ -114,6 +114,18 @@ TEST(LaunchTest, ReadsWhatIsToBePrinted) {
   EXPECT_FALSE(print.subtitled);
 }
 
+TEST(LaunchTest, NeedsNoScreenToPrint) {
+  const auto asks = [](std::vector<std::string> words) {
+    std::vector<char*> values;
+    for (std::string& word : words) values.push_back(word.data());
+    return AsksForPrint(static_cast<int>(values.size()), values.data());
+  };
+  EXPECT_TRUE(asks({"tricklet", "--library", "Club", "--pdf", "a.pdf"}));
+  EXPECT_TRUE(asks({"tricklet", "--svg=out"}));
+  EXPECT_FALSE(asks({"tricklet", "--pdfs", "a.pbn"}));
+  EXPECT_FALSE(asks({"tricklet", "--", "--pdf"}));
+}
+
 TEST(LaunchTest, PrintsWithoutAWindowOrLeavesTheFileAsItWas) {
   const test::TempFolder folder;
   const std::filesystem::path pdf = folder.Path() / "a.pdf";
