@@ -91,7 +91,7 @@ QString FamiliesOf(const QFont& font) {
 
 /// In points: a pixel of this device is one.
 double SizeOf(const QFont& font) {
-  return font.pixelSize() > 0 ? font.pixelSize() : QFontInfo(font).pointSizeF();
+  return font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF();
 }
 
 }  // namespace
