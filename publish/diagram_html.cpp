@@ -181,13 +181,14 @@ class HtmlWriter {
   }
 
   void Foot() {
-    for (const std::string& line : DiagramFoot(seen_)) {
-      text_ +=
-          "<p style=\"margin:4px 10px;color:#111111;"
-          "font-family:Arial,Helvetica,sans-serif;font-size:11pt\">";
-      Text(line);
-      text_ += "</p>\n";
-    }
+    const auto lines = DiagramFoot(seen_);
+    if (lines.empty()) return;
+    text_ += "<br>\n";
+    Table([&] {
+      for (const std::string& line : lines) {
+        Row([&] { Cell(1, kCell, [&] { Text(line); }); });
+      }
+    });
   }
 
   const SeenBoard& seen_;

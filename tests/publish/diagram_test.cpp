@@ -88,7 +88,7 @@ TEST(Diagram, TheHtmlHasTheSameEscapedAndColoured) {
       {"876432", false},  // South's
       {"KQ1083", false},  // East's
       {"<b>South</b></td>", true},
-      {"NS: 0 \u00b7 EW: 5 \u00b7 North to play</p>", true}};
+      {"NS: 0 \u00b7 EW: 5 \u00b7 North to play</td>", true}};
   for (const auto& [text, there] : cases) {
     EXPECT_EQ(html.find(text) != std::string::npos, there) << text << " in\n" << html;
   }

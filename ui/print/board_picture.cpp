@@ -22,22 +22,23 @@ constexpr double kScreenDots = 96;  // to the inch
 constexpr double kPointsToInch = 72;
 constexpr double kMetresToInch = 0.0254;
 
-/// "North Ann · East Bob"; empty where nobody is known.
-QString PlayersLine(const SeenBoard& seen) {
-  QStringList players;
-  for (const Seat seat : kAllSeats) {
-    if (!seen.names[seat].empty()) {
-      players += ToQt(SeatName[seat]) + u' ' + ToQt(seen.names[seat]);
+/// "North Ann · South Bob", "East Cy · West Di", of those who are known.
+QStringList PlayersLines(const SeenBoard& seen) {
+  QStringList lines;
+  for (const Seat first : {Seat::North, Seat::East}) {
+    QStringList pair;
+    for (const Seat seat : {first, PartnerOf(first)}) {
+      if (!seen.names[seat].empty()) pair += ToQt(SeatName[seat]) + u' ' + ToQt(seen.names[seat]);
     }
+    if (!pair.isEmpty()) lines += pair.join(QStringLiteral(" \u00b7 "));
   }
-  return players.join(QStringLiteral(" \u00b7 "));
+  return lines;
 }
 
 QStringList FootLines(const SeenBoard& seen) {
   QStringList lines;
   for (const std::string& line : DiagramFoot(seen)) lines += ToQt(line);
-  if (const QString players = PlayersLine(seen); !players.isEmpty()) lines += players;
-  return lines;
+  return lines + PlayersLines(seen);
 }
 
 HandsDiagram HandsOf(const SeenBoard& seen) {
