@@ -146,7 +146,7 @@ void Commands::Export() {
 void Commands::Print() {
   LeaveUnsaved([this] {
     if (!SettleChanges(session_)) return;
-    frmPrint dialog(session_, window_);
+    frmPrint dialog(session_, sheetFolder_, window_);
     if (dialog.Gather()) dialog.exec();
   });
 }

@@ -198,8 +198,9 @@ class Commands : public QObject {
   std::function<std::string()> linRecord_;
   const AuctionEntry* auction_ = nullptr;
   QPointer<QWidget> window_;
-  std::filesystem::path exportPath_;  // of the last export, where the next one begins
-  GenerateChoices generateChoices_;   // of the last run, where the next one begins
+  std::filesystem::path exportPath_;   // of the last export, where the next one begins
+  std::filesystem::path sheetFolder_;  // where sheets were saved last
+  GenerateChoices generateChoices_;    // of the last run, where the next one begins
   bool running_ = false;
 };
 

@@ -45,7 +45,8 @@ bool IsIn(const BoardRange& range, const PublishedBoard& one) {
 
 }  // namespace
 
-frmPrint::frmPrint(Session& session, QWidget* parent) : QDialog(parent), session_(session) {
+frmPrint::frmPrint(Session& session, std::filesystem::path& folder, QWidget* parent)
+    : QDialog(parent), session_(session), folder_(folder) {
   setObjectName(QStringLiteral("frmPrint"));
   setWindowTitle(tr("Print"));
 }
@@ -153,7 +154,7 @@ QWidget* frmPrint::MakeButtons() {
   const auto offer = [&](const char* name, const QString& text, PictureFormat format) {
     QAction* action = formats->addAction(text, this, [this, format] {
       PutOut([this, format](const Sheets& sheets) {
-        return SaveAsPictures(session_, sheets, format);
+        return SaveAsPictures(session_, sheets, format, folder_);
       });
     });
     action->setObjectName(QString::fromLatin1(name));
@@ -166,8 +167,9 @@ QWidget* frmPrint::MakeButtons() {
       return PrintOnPaper(session_, sheets, choosePrinter_, this);
     });
   });
-  connect(cmdPdf, &QPushButton::clicked, this,
-          [this] { PutOut([this](const Sheets& sheets) { return SaveAsPdf(session_, sheets); }); });
+  connect(cmdPdf, &QPushButton::clicked, this, [this] {
+    PutOut([this](const Sheets& sheets) { return SaveAsPdf(session_, sheets, folder_); });
+  });
   connect(cmdClose, &QPushButton::clicked, this, &frmPrint::reject);
   return buttons;
 }

@@ -29,8 +29,9 @@ class frmPrint : public QDialog {
   Q_OBJECT
 
  public:
-  /// For the library of `session`, which is to outlive it.
-  frmPrint(Session& session, QWidget* parent);
+  /// For the library of `session`. `folder`, where sheets were saved last, takes each that is
+  /// chosen; it may be empty. Both are to outlive the dialog.
+  frmPrint(Session& session, std::filesystem::path& folder, QWidget* parent);
 
   /// Reads the boards. False, after a message, when there is nothing that could be printed: the
   /// dialog is not to be shown then.
@@ -73,6 +74,7 @@ class frmPrint : public QDialog {
   void Remember();
 
   Session& session_;
+  std::filesystem::path& folder_;
   SheetProposal proposal_;
   PrinterChooser choosePrinter_ = AskForPrinter;
   Published all_;                           // the boards of the library

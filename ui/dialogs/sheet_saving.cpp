@@ -6,8 +6,11 @@
 #include <vector>
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QStandardPaths>
 
 #include "core/fault.h"
 #include "core/text.h"
@@ -56,6 +59,14 @@ bool MayReplace(Session& session, const std::vector<fs::path>& files) {
                            .refuse = "Keep"}) == Answer::Yes;
 }
 
+/// Where sheets were saved last, else where the system keeps `kind`, else where people begin.
+fs::path FolderFor(const fs::path& last, QStandardPaths::StandardLocation kind) {
+  for (const QString& folder : {PathToQt(last), QStandardPaths::writableLocation(kind)}) {
+    if (!folder.isEmpty() && QFileInfo(folder).isDir()) return PathFromQt(folder);
+  }
+  return PathFromQt(QDir::homePath());
+}
+
 /// What `save` says; nothing, after a message, when a disk or the like has failed.
 template <class Save>
 QString Told(Session& session, const Save& save) {
@@ -76,12 +87,14 @@ bool AskForPrinter(QPrinter& printer, int pages, QWidget* parent) {
   return dialog.exec() == QDialog::Accepted;
 }
 
-QString SaveAsPdf(Session& session, const Sheets& sheets) {
+QString SaveAsPdf(Session& session, const Sheets& sheets, fs::path& last) {
   const auto file =
       session.host.ChooseSaveFile({.description = FromQt(Words::tr("PDF documents")),
                                    .extensions = {"pdf"},
-                                   .suggested = PathFromText(session.LibraryName() + ".pdf")});
+                                   .suggested = FolderFor(last, QStandardPaths::DocumentsLocation) /
+                                                PathFromText(session.LibraryName() + ".pdf")});
   if (!file) return {};
+  last = file->parent_path();
   return Told(session, [&] {
     const WorkScope work(session.host);
     PageProgress progress{session, Words::tr("Saving page %1 of %2")};
@@ -91,10 +104,13 @@ QString SaveAsPdf(Session& session, const Sheets& sheets) {
   });
 }
 
-QString SaveAsPictures(Session& session, const Sheets& sheets, PictureFormat format) {
+QString SaveAsPictures(Session& session, const Sheets& sheets, PictureFormat format,
+                       fs::path& last) {
   const auto folder =
-      session.host.ChooseFolder(FromQt(Words::tr("Choose the folder for the pictures")), {});
+      session.host.ChooseFolder(FromQt(Words::tr("Choose the folder for the pictures")),
+                                FolderFor(last, QStandardPaths::PicturesLocation));
   if (!folder) return {};
+  last = *folder;
   return Told(session, [&] {
     const std::string name = session.LibraryName();
     const auto files = PicturePaths(sheets, format, *folder, name);

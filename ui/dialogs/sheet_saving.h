@@ -1,6 +1,7 @@
 // Where sheets go: a file, pictures in a folder, a printer. The person chooses which.
 #pragma once
 
+#include <filesystem>
 #include <functional>
 
 #include <QString>
@@ -21,12 +22,15 @@ using PrinterChooser = std::function<bool(QPrinter& printer, int pages, QWidget*
 bool AskForPrinter(QPrinter& printer, int pages, QWidget* parent);
 
 // Each shows its progress and tells by a message when it fails. The answer says what has been done,
-// in one line; it is empty when that is nothing.
+// in one line; it is empty when that is nothing. `last` is the folder where sheets were saved last,
+// which is offered first and takes the one that is chosen; it may be empty.
 
-/// The file that is offered has the name of the library, and so do the pictures.
-QString SaveAsPdf(Session& session, const Sheets& sheets);
-/// A file for each page, in a folder that the person chooses; asks before files are replaced.
-QString SaveAsPictures(Session& session, const Sheets& sheets, PictureFormat format);
+/// Offers a file of the library's name.
+QString SaveAsPdf(Session& session, const Sheets& sheets, std::filesystem::path& last);
+/// A file for each page, named after the library, in a folder that the person chooses; asks before
+/// files are replaced.
+QString SaveAsPictures(Session& session, const Sheets& sheets, PictureFormat format,
+                       std::filesystem::path& last);
 QString PrintOnPaper(Session& session, const Sheets& sheets, const PrinterChooser& choose,
                      QWidget* parent);
 

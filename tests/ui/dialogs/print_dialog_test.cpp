@@ -86,7 +86,7 @@ TEST_F(PrintDialogTest, SheetsAreSavedPrintedOrRefused) {
     host.Choose(Out("a.pdf"));
     host.ExpectTell("There is no double-dummy solver");
     form.Press("cmdPdf");
-    EXPECT_EQ(host.suggested, "Club.pdf");
+    EXPECT_EQ(host.suggested.filename(), "Club.pdf");
     EXPECT_EQ(Head("a.pdf"), "%PDF");
     EXPECT_NE(said(form).find("Saved as "), std::string::npos) << said(form);
 
@@ -95,6 +95,7 @@ TEST_F(PrintDialogTest, SheetsAreSavedPrintedOrRefused) {
     host.Choose(Out(""));
     form.Find<QAction>("mnuPng")->trigger();
     EXPECT_EQ(Head("Club-1.png"), "\x89PNG");
+    EXPECT_EQ(host.folderStart, Out("a.pdf").parent_path()) << "where the last sheets went";
     test::WriteFile(Out("Club-1.png"), "mine");
     host.Choose(Out(""));
     host.ExpectAskWith("already exists", Answer::No);
