@@ -9,6 +9,7 @@
 #include <random>
 
 #include <QAbstractButton>
+#include <QAbstractPrintDialog>
 #include <QAction>
 #include <QComboBox>
 #include <QCommandLineParser>
@@ -225,6 +226,10 @@ class Monkey {
     }
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr) return;
+    if (qobject_cast<QAbstractPrintDialog*>(dialog) != nullptr) {
+      dialog->reject();  // there may be a printer
+      return;
+    }
     ++dialogSteps_;
     if (dialogSteps_ > 40 || random_() % 12 == 0) {
       Note("leave", dialog);
