@@ -1,6 +1,8 @@
 // The command line of the program with a window, and its picture mode.
 #include "ui/app/launch.h"
 
+#include <algorithm>
+
 #include <QImage>
 
 #include "disk/file_io.h"
@@ -116,8 +118,9 @@ TEST(LaunchTest, ReadsWhatIsToBePrinted) {
 
 TEST(LaunchTest, NeedsNoScreenToPrint) {
   const auto asks = [](std::vector<std::string> words) {
-    std::vector<char*> values;
-    for (std::string& word : words) values.push_back(word.data());
+    std::vector<char*> values(words.size());
+    std::transform(words.begin(), words.end(), values.begin(),
+                   [](std::string& word) { return word.data(); });
     return AsksForPrint(static_cast<int>(values.size()), values.data());
   };
   EXPECT_TRUE(asks({"tricklet", "--library", "Club", "--pdf", "a.pdf"}));
