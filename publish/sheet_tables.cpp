@@ -106,6 +106,7 @@ std::vector<SheetTable> TravellerTables(const Published& published, bool par) {
 
 std::vector<SheetTable> RankingTables(const Ranking& ranking) {
   std::vector<SheetTable> tables;
+  tables.reserve(ranking.tables.size() + 1);
   for (const RankingTable& ranked : ranking.tables) tables.push_back(RankingSheet(ranking, ranked));
   if (ranking.notRanked.empty()) return tables;
   SheetTable remarks;

@@ -29,7 +29,8 @@ bool HasBoth(const TravellerRow& row) {
 }
 
 double SumOf(const TravellerRow& row) {
-  return Exact(*row.points[Side::NorthSouth]) + Exact(*row.points[Side::EastWest]);
+  return Exact(row.points[Side::NorthSouth].value_or(0)) +
+         Exact(row.points[Side::EastWest].value_or(0));
 }
 
 /// What the sides of a table with a score have together, or would have, by the percentages of the

@@ -176,8 +176,6 @@ void GivePlaces(std::vector<RankedEntrant>& entrants, RankingUnit unit) {
   for (std::size_t next = 0; next < entrants.size();) next = GivePlace(entrants, next, unit);
 }
 
-constexpr PerSide<const char*> kDirections{{"North-South", "East-West"}};
-
 /// One table for all, or one for each direction when nobody has sat in both.
 std::vector<RankingTable> TablesOf(const Seating& seating, const std::vector<Tally>& tallies) {
   const auto counts = [&](std::size_t index) { return tallies[index].boards > 0; };
@@ -188,7 +186,8 @@ std::vector<RankingTable> TablesOf(const Seating& seating, const std::vector<Tal
   }
   std::vector<RankingTable> tables(oneField ? 1 : 2);
   if (!oneField) {
-    for (const Side side : kSides) tables.at(IndexOf(side)).heading = kDirections[side];
+    tables.front().heading = "North-South";
+    tables.back().heading = "East-West";
   }
   for (std::size_t i = 0; i < tallies.size(); ++i) {
     if (!counts(i)) continue;

@@ -23,10 +23,9 @@ bool IsTeamEvent(const LinFile& file, Travellers travellers) {
          });
 }
 
-/// The key of a player; nothing for nobody and for a robot, of which there are many.
-std::optional<std::string> PlayerKey(const std::string& name) {
-  if (name.empty() || EqualNoCase(name, kRobot)) return std::nullopt;
-  return FoldCase(name);
+/// The name is not that of all robots.
+bool IsSomebody(const std::string& name) {
+  return !name.empty() && !EqualNoCase(name, kRobot);
 }
 
 /// Most of the players who have played several boards have had several partners on them.
@@ -41,10 +40,9 @@ bool ChangePartners(Travellers travellers) {
   ForEachTable(travellers, [&](std::size_t at, std::size_t row) {
     const PerSeat<std::string>& names = travellers[at]->rows[row].players;
     for (const Seat seat : kAllSeats) {
-      const auto own = PlayerKey(names[seat]);
-      if (!own) continue;
+      if (!IsSomebody(names[seat])) continue;
       const std::string partner = FoldCase(names[PartnerOf(seat)]);
-      Met& met = players.try_emplace(*own, Met{partner, at}).first->second;
+      Met& met = players.try_emplace(FoldCase(names[seat]), Met{partner, at}).first->second;
       if (met.board == at) continue;
       met.often = true;
       met.several = met.several || met.partner != partner;
@@ -136,9 +134,11 @@ Seating Unranked(Travellers travellers, Contestants kind, const std::string& why
 
 Seating SeatingOf(const LinFile& file, Travellers travellers) {
   if (IsTeamEvent(file, travellers)) {
-    auto teams = SeatTeams(travellers);
-    const std::size_t listed = file.teamEvent ? file.teamEvent->teams.size() : 0;
-    if (teams && (listed == 0 || teams->contestants.size() <= listed)) return std::move(*teams);
+    if (auto teams = SeatTeams(travellers)) {
+      const bool listed = file.teamEvent && !file.teamEvent->teams.empty();
+      const bool tooMany = listed && teams->contestants.size() > file.teamEvent->teams.size();
+      if (!tooMany) return std::move(*teams);
+    }
     return Unranked(travellers, Contestants::Teams,
                     "The teams cannot be ranked: it is not known which tables belong together");
   }

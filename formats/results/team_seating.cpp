@@ -78,7 +78,7 @@ class TeamFinder {
   }
 
   int TeamOf(Seating& seating, const TravellerRow& row, Side side) {
-    const int group = groups_.Of(NodeOf(row, side).value());
+    const int group = groups_.Of(NodeOf(row, side).value_or(Seating::kNobody));
     const auto [team, isNew] =
         teams_.try_emplace(group, static_cast<int>(seating.contestants.size()));
     if (isNew) seating.contestants.emplace_back();

@@ -1,6 +1,8 @@
 // Travellers and rankings on paper.
 #include "ui/print/traveller_sheets.h"
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "tests/ui/print/recorded_page.h"
@@ -69,8 +71,9 @@ TEST(TravellerSheets, StayInTheirRoomWhateverTheNamesAre) {
 TEST(TravellerSheets, AreDividedBetweenTablesAndRepeatTheirHeadings) {
   const QSizeF size(539, 740);
   const QRectF room(QPointF(), size);
-  std::vector<std::string> names;
-  for (int pair = 0; pair < 20; ++pair) names.push_back("Pair" + std::to_string(pair));
+  std::vector<std::string> names(20);
+  std::generate(names.begin(), names.end(),
+                [pair = 0]() mutable { return "Pair" + std::to_string(pair++); });
   SheetChoices choices;
   choices.ranking = false;
   // 20 rows of 12 points with title and headings take 266 points, and the gap 14.
@@ -82,7 +85,7 @@ TEST(TravellerSheets, AreDividedBetweenTablesAndRepeatTheirHeadings) {
   choices.ranking = true;
   pages = MakeTravellerPages(Session(5, names), choices, size);
   EXPECT_EQ(FromQt(pages->Heading(3)), "Ranking");
-  while (names.size() < 100) names.push_back("Pair" + std::to_string(names.size()));
+  names.resize(100, "Others");
   choices.ranking = false;
   pages = MakeTravellerPages(Session(1, names), choices, size);
   EXPECT_EQ(pages->Pages(), 2);
