@@ -14,6 +14,7 @@ namespace {
 constexpr std::string_view kMacro = "macro";
 constexpr std::string_view kOptions = "Tricklet";
 constexpr std::string_view kPrint = "Print";
+constexpr std::string_view kPublish = "Publish";
 constexpr std::string_view kWindowText = "&H80000008";
 constexpr double kMostWidth = 2000;  // tenths of a font's height: more than any screen
 
@@ -77,6 +78,10 @@ constexpr std::array kTable{
     SettingEntry{kPrint, "OwnSubtitle", "False", TRICKLET_FIELD(print.ownSubtitle)},
     SettingEntry{kPrint, "Title", "", TRICKLET_FIELD(print.title)},
     SettingEntry{kPrint, "Subtitle", "", TRICKLET_FIELD(print.subtitle)},
+    SettingEntry{kPublish, "WebNames", "full", TRICKLET_FIELD(publish.names)},
+    SettingEntry{kPublish, "WebFolder", "", TRICKLET_FIELD(publish.folder)},
+    SettingEntry{kPublish, "WebLibrary", "", TRICKLET_FIELD(publish.library)},
+    SettingEntry{kPublish, "WebTitle", "", TRICKLET_FIELD(publish.title)},
     SettingEntry{"HGFont0", "Name", "Arial Narrow", TRICKLET_FIELD(hgFont[0].name)},
     SettingEntry{"HGFont0", "Size", "24", TRICKLET_FIELD(hgFont[0].size), 6, 96},
     SettingEntry{"HGFont0", "Bold", "False", TRICKLET_FIELD(hgFont[0].bold)},
@@ -253,6 +258,16 @@ bool SetFromText(Settings& settings, const SettingEntry& entry, std::string_view
   return std::visit(Reader{entry, text}, entry.field(settings));
 }
 
+namespace {
+
+void SaveSection(std::string_view section, const Settings& settings, SettingsStore& store) {
+  for (const SettingEntry& entry : kTable) {
+    if (entry.section == section) SaveSetting(settings, entry, store);
+  }
+}
+
+}  // namespace
+
 Settings LoadSettings(const SettingsStore& store) {
   Settings settings;
   for (const SettingEntry& entry : kTable) {
@@ -263,15 +278,18 @@ Settings LoadSettings(const SettingsStore& store) {
 
 void SaveSettings(const Settings& settings, SettingsStore& store) {
   for (const SettingEntry& entry : kTable) {
-    if (entry.section == kMacro || entry.section == kPrint || entry.key == "ShowMessage") continue;
-    SaveSetting(settings, entry, store);
+    const bool ofOptions =
+        entry.section != kMacro && entry.section != kPrint && entry.section != kPublish;
+    if (ofOptions && entry.key != "ShowMessage") SaveSetting(settings, entry, store);
   }
 }
 
 void SavePrintSettings(const Settings& settings, SettingsStore& store) {
-  for (const SettingEntry& entry : kTable) {
-    if (entry.section == kPrint) SaveSetting(settings, entry, store);
-  }
+  SaveSection(kPrint, settings, store);
+}
+
+void SavePublishSettings(const Settings& settings, SettingsStore& store) {
+  SaveSection(kPublish, settings, store);
 }
 
 void SaveSetting(const Settings& settings, const SettingEntry& entry, SettingsStore& store) {

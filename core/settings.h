@@ -74,6 +74,15 @@ struct PrintSettings {
   friend bool operator==(const PrintSettings&, const PrintSettings&) = default;
 };
 
+/// What was chosen for the last web page. The title belongs to one library, as above.
+struct PublishSettings {
+  std::string names;    ///< of the players: "full", "initials" or "none"
+  std::string folder;   ///< UTF-8; empty when none has been chosen yet
+  std::string library;  ///< whose title the following is
+  std::string title;    ///< UTF-8
+  friend bool operator==(const PublishSettings&, const PublishSettings&) = default;
+};
+
 /// Every setting under the name of its key.
 struct Settings {
   std::string filelocation;  ///< library root, ending in the platform's separator; UTF-8
@@ -113,6 +122,7 @@ struct Settings {
   bool recycleReplaced = true;  ///< boards that are replaced go to the recycle bin first
   std::string recentFiles;      ///< the newest first, UTF-8, separated by '|'
   PrintSettings print;
+  PublishSettings publish;
   std::array<FontSetting, 2> hgFont;  ///< 0: holdings as text; 1: captions and auction
 
   /// All defaults, from the table.
@@ -214,8 +224,8 @@ bool SetFromText(Settings& settings, const SettingEntry& entry, std::string_view
 /// Reads every key; a missing or unreadable one takes its default.
 Settings LoadSettings(const SettingsStore& store);
 
-/// Writes every key of the options (not those of the sections "macro" and "Print", which are
-/// written when they change, nor "ShowMessage").
+/// Writes every key of the options (not those of the sections "macro", "Print" and "Publish", which
+/// are written when they change, nor "ShowMessage").
 void SaveSettings(const Settings& settings, SettingsStore& store);
 
 /// Writes the one key of `entry`.
@@ -223,5 +233,7 @@ void SaveSetting(const Settings& settings, const SettingEntry& entry, SettingsSt
 
 /// Writes the keys of `Settings::print`.
 void SavePrintSettings(const Settings& settings, SettingsStore& store);
+/// Writes the keys of `Settings::publish`.
+void SavePublishSettings(const Settings& settings, SettingsStore& store);
 
 }  // namespace tricklet

@@ -114,6 +114,28 @@ std::optional<fs::path> Publish(Session& session, const PublishChoices& choices)
 
 }  // namespace
 
+PublishChoices ProposedPublish(const Session& session) {
+  const PublishSettings& last = session.settings.publish;
+  PublishChoices choices;
+  if (session.library.boardCount > 0)
+    choices.boards = {session.library.firstBoard, session.library.lastBoard};
+  const bool titled = last.library == session.LibraryName() && !last.title.empty();
+  choices.title = titled ? last.title : session.LibraryName();
+  choices.names = NamesShownOf(last.names).value_or(NamesShown::Full);
+  choices.folder = PathFromText(last.folder);
+  return choices;
+}
+
+void RememberPublish(Session& session, const PublishChoices& choices) {
+  PublishSettings& settings = session.settings.publish;
+  settings.names = NamesShownName(choices.names);
+  settings.folder = PathText(choices.folder);
+  settings.library = session.LibraryName();
+  settings.title = choices.title;
+  SavePublishSettings(session.settings, session.store);
+  StoreSettings(session);
+}
+
 std::optional<fs::path> PublishWebPage(Session& session, const PublishChoices& choices) {
   // What is published is what is stored, so changes to the current board are settled first.
   if (!SettleChanges(session)) return std::nullopt;

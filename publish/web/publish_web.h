@@ -20,6 +20,12 @@ struct PublishChoices {
   bool replaceForeign = false;   ///< what others have written is replaced without a question
 };
 
+/// What to begin with: what was chosen last, all boards of the current library, and the library's
+/// name as the title unless another was chosen for this very library.
+PublishChoices ProposedPublish(const Session& session);
+/// Keeps `choices` for `ProposedPublish`; tells when they could not be stored.
+void RememberPublish(Session& session, const PublishChoices& choices);
+
 /// The page in a folder of its own.
 inline constexpr const char* kWebPageName = "index.html";
 

@@ -16,6 +16,7 @@
 #include "ui/dialogs/frmImport.h"
 #include "ui/dialogs/frmOptions.h"
 #include "ui/dialogs/frmPreview.h"
+#include "ui/dialogs/frmPublish.h"
 #include "ui/dialogs/frmStart.h"
 #include "ui/dialogs/frmSwap.h"
 #include "ui/dialogs/frmUpdate.h"
@@ -114,6 +115,7 @@ TEST_F(AccessibilityTest, DialogsAreCompleteByKeyboard) {
       [&] { return std::make_unique<frmImport>(session, look, nullptr); },
       [&] { return std::make_unique<frmOptions>(session, QString(), nullptr); },
       [&] { return std::make_unique<frmPreview>(session.board, session.settings, nullptr); },
+      [&] { return std::make_unique<frmPublish>(session, PublishChoices(), nullptr); },
       [&] { return std::make_unique<frmStart>(session, updates); },
       [&] { return std::make_unique<frmSwap>(session, edit, nullptr); },
       [&] { return std::make_unique<frmUpdate>(updates, nullptr); },

@@ -10,8 +10,8 @@ namespace {
 constexpr std::array kMenus{
     MenuEntry{
         QT_TR_NOOP("&File"),
-        "mnuOpen mnuRecent> < mnuImport mnuImportLin mnuPasteLin mnuExport | mnuPrint | mnuSave "
-        "mnuRevert | mnuExit"},
+        "mnuOpen mnuRecent> < mnuImport mnuImportLin mnuPasteLin mnuExport | mnuPrint mnuPublish | "
+        "mnuSave mnuRevert | mnuExit"},
     MenuEntry{QT_TR_NOOP("&Edit"),
               "mnuUndo mnuRedo | mnuCopyHand mnuCopyDiagram mnuPasteHand | mnuEdit | mnuOptions"},
     MenuEntry{QT_TR_NOOP("&Library"),

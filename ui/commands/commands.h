@@ -68,6 +68,8 @@ class Commands : public QObject {
   void Export();
   /// `mnuPrint`: the dialog that prints sheets of the library's boards or stores them as files.
   void Print();
+  /// `mnuPublish`: the library as a web page.
+  void Publish();
   void Save();
   void Exit();
 

@@ -185,5 +185,26 @@ TEST_F(PublishTest, LeavesNothingWhereItCannotBeDone) {
   EXPECT_EQ(ReadFile(out), "a file");
 }
 
+TEST_F(PublishTest, ATitleIsProposedAgainForItsOwnLibraryAlone) {
+  PutBoard(3);
+  PutBoard(9);
+  FindFiles(session);
+  PublishChoices choices = ProposedPublish(session);
+  EXPECT_EQ(choices.title, "Club");
+  EXPECT_EQ(choices.boards, (BoardRange{3, 9}));
+  choices.title = "Tuesday";
+  choices.names = NamesShown::Initials;
+  choices.folder = folder.Path();
+  RememberPublish(session, choices);
+  session.settings = LoadSettings(store);
+  session.settings.library = "Club";
+  EXPECT_EQ(ProposedPublish(session).title, "Tuesday");
+  session.settings.library = "Other";
+  choices = ProposedPublish(session);
+  EXPECT_EQ(choices.title, "Other");
+  EXPECT_EQ(choices.names, NamesShown::Initials);
+  EXPECT_EQ(choices.folder, folder.Path());
+}
+
 }  // namespace
 }  // namespace tricklet::test

@@ -1,0 +1,39 @@
+// The dialog before a library becomes a web page.
+#pragma once
+
+#include <QDialog>
+
+#include "library/session.h"
+#include "publish/web/publish_web.h"
+
+class QButtonGroup;
+class QLineEdit;
+
+namespace tricklet::ui {
+
+/// Asks for boards, title, names and folder. It closes only with all of them or by Cancel.
+class frmPublish : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// Begins with `proposed`.
+  frmPublish(Session& session, const PublishChoices& proposed, QWidget* parent);
+
+  /// What was chosen, once accepted.
+  const PublishChoices& Choices() const { return choices_; }
+
+ private:
+  QWidget* MakeNames();
+  QWidget* MakeFolder();
+  void ChooseFolder();
+  void Go();
+
+  Session& session_;
+  PublishChoices choices_;
+  QLineEdit* txtBoards;
+  QLineEdit* txtTitle;
+  QLineEdit* txtFolder = nullptr;
+  QButtonGroup* optNames = nullptr;
+};
+
+}  // namespace tricklet::ui
