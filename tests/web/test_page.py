@@ -271,8 +271,9 @@ class Pages(unittest.TestCase):
         self.browser.devtools("Emulation.setEmulatedMedia", media="print")
         try:
             self.open("Club", "#b1")
-            for selector, shown in (("#side", False), ("#print", False), (".step", False),
-                                    (".results", True), (".diagram", True), ("td.play", False)):
+            for selector, shown in (("#session", True), ("#list", False), ("#print", False),
+                                    (".step", False), (".results", True), (".diagram", True),
+                                    ("td.play", False)):
                 self.assertEqual(self.browser.run(
                     "return document.querySelector(arguments[0]).checkVisibility()", selector),
                     shown, selector)

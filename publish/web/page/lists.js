@@ -44,9 +44,11 @@ function summaryNodes(board) {
     const table = tablesOf(own, board)[0];
     if (!table) return [];
     const side = sideOf(own, table);
-    const share = comparison(table, side);
+    const percent = percentOf(table, side);
+    const share = hasPercent && percent !== null ? `${Math.round(percent)}%`
+      : comparison(table, side);
     return [contractNodes({ ...table, result: undefined }), ` ${scoreText(table, side)}`,
-      share ? ` \u00b7 ${share}${hasPercent ? "%" : ""}` : null];
+      share ? make("b", { class: "share" }, ` ${share}`) : null];
   }
   if (board.tables.length === 1) {
     const table = board.tables[0];
@@ -59,8 +61,7 @@ function summaryNodes(board) {
 
 function listNote() {
   if (own >= 0) return `Contract, my score and ${comparisonHead}`;
-  if (boards.some((board) => board.tables.length > 1)) return "Par of each board";
-  return "";
+  return boards.some((board) => board.tables.length === 1) ? "" : "Par of each board";
 }
 
 function showList(current) {
