@@ -61,7 +61,16 @@ std::vector<SheetPage> PlanSlips(const Published& published, const SheetChoices&
 }  // namespace
 
 bool WantsTables(const SheetChoices& choices) {
-  return choices.layout != SheetLayout::Slips && (choices.table || choices.par);
+  switch (choices.layout) {
+    case SheetLayout::Records:
+    case SheetLayout::Lesson:
+      return choices.table || choices.par;
+    case SheetLayout::Travellers:
+      return choices.par;
+    case SheetLayout::Slips:
+      break;
+  }
+  return false;
 }
 
 std::string WhyNothingToPrint(const Published& published, const SheetChoices& choices) {
