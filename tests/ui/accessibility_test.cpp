@@ -16,6 +16,7 @@
 #include "ui/dialogs/frmImport.h"
 #include "ui/dialogs/frmOptions.h"
 #include "ui/dialogs/frmPreview.h"
+#include "ui/dialogs/frmPrint.h"
 #include "ui/dialogs/frmPublish.h"
 #include "ui/dialogs/frmStart.h"
 #include "ui/dialogs/frmSwap.h"
@@ -93,6 +94,7 @@ TEST_F(AccessibilityTest, DialogsAreCompleteByKeyboard) {
   EditControl edit(session, play);
   session.board.hands = test::OneSuitEach();
   updates.Ask();
+  std::filesystem::path sheets;
   ImportLook look;
   look.partNames = [](const std::string& library, int parts) {
     return std::vector<std::string>(static_cast<std::size_t>(parts) + 1, library);
@@ -115,6 +117,11 @@ TEST_F(AccessibilityTest, DialogsAreCompleteByKeyboard) {
       [&] { return std::make_unique<frmImport>(session, look, nullptr); },
       [&] { return std::make_unique<frmOptions>(session, QString(), nullptr); },
       [&] { return std::make_unique<frmPreview>(session.board, session.settings, nullptr); },
+      [&] {
+        auto print = std::make_unique<frmPrint>(session, sheets, nullptr);
+        EXPECT_TRUE(print->Gather());
+        return print;
+      },
       [&] { return std::make_unique<frmPublish>(session, PublishChoices(), nullptr); },
       [&] { return std::make_unique<frmStart>(session, updates); },
       [&] { return std::make_unique<frmSwap>(session, edit, nullptr); },

@@ -46,9 +46,11 @@ bool IsIn(const BoardRange& range, const PublishedBoard& one) {
 }  // namespace
 
 frmPrint::frmPrint(Session& session, std::filesystem::path& folder, QWidget* parent)
-    : QDialog(parent), session_(session), folder_(folder) {
+    : QDialog(parent), session_(session), folder_(folder), timCompute(new QTimer(this)) {
   setObjectName(QStringLiteral("frmPrint"));
   setWindowTitle(tr("Print"));
+  timCompute->setSingleShot(true);
+  connect(timCompute, &QTimer::timeout, this, &frmPrint::Compute);
 }
 
 bool frmPrint::Gather() {
@@ -216,7 +218,7 @@ void frmPrint::Choose() {
   if (wanted && !wantsTables_) tried_.reset();  // asked for once more
   wantsTables_ = wanted;
   Show();
-  ComputeLater();
+  timCompute->start(0);  // once what was chosen can be seen
 }
 
 /// Draws the sheets as they are chosen. While a number is being typed the boards before stay.
@@ -254,18 +256,13 @@ void frmPrint::ShowState() {
 
 void frmPrint::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
-  ComputeLater();
+  timCompute->start(0);
 }
 
 bool frmPrint::Lacks(const BoardRange& range) const {
   return std::any_of(all_.boards.begin(), all_.boards.end(), [&range](const PublishedBoard& one) {
     return IsIn(range, one) && one.complete && !one.board.makeableValid;
   });
-}
-
-/// Once what has just been chosen can be seen.
-void frmPrint::ComputeLater() {
-  QTimer::singleShot(0, this, &frmPrint::Compute);
 }
 
 /// Computes the tables that the chosen sheets want and lack. The person can go on choosing
@@ -290,7 +287,7 @@ void frmPrint::Compute() {
     return;
   }
   Show();
-  if (std::exchange(again_, false)) ComputeLater();
+  if (std::exchange(again_, false)) timCompute->start(0);
 }
 
 /// Puts boards of `range` that were read afresh in the place of those before.

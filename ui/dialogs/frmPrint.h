@@ -14,6 +14,7 @@
 
 class QLabel;
 class QPushButton;
+class QTimer;
 
 namespace tricklet::ui {
 
@@ -63,7 +64,6 @@ class frmPrint : public QDialog {
   void ShowState();
 
   bool Lacks(const BoardRange& range) const;
-  void ComputeLater();
   void Compute();
   void Take(Gathered fresh, const BoardRange& range);
   std::string RemarkOn(const BoardRange& range);
@@ -75,6 +75,7 @@ class frmPrint : public QDialog {
 
   Session& session_;
   std::filesystem::path& folder_;
+  QTimer* timCompute;  // until what was chosen has been drawn
   SheetProposal proposal_;
   PrinterChooser choosePrinter_ = AskForPrinter;
   Published all_;                           // the boards of the library
