@@ -180,6 +180,11 @@ void frmPrint::SetTabOrder() {
   QList<QWidget*> order = options_->TabOrder();
   order += {picSheet, cmdPreviousPage, cmdNextPage, cmdPrint, cmdPdf, cmdPictures, cmdClose};
   for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order.at(i - 1), order.at(i));
+  BeginAtRange();
+}
+
+/// So that the next number that is typed takes the place of the one that is there.
+void frmPrint::BeginAtRange() {
   options_->FirstField()->setFocus();
   options_->FirstField()->lineEdit()->selectAll();
 }
@@ -321,7 +326,7 @@ std::string frmPrint::RemarkOn(const BoardRange& range) {
 void frmPrint::PutOut(const Output& output) {
   ExportRange range;
   if (!CheckRangeTexts(session_, FromQt(options_->From()), FromQt(options_->To()), range)) {
-    options_->FirstField()->setFocus();
+    BeginAtRange();
     return;
   }
   Show();

@@ -53,6 +53,7 @@ class frmPrint : public QDialog {
   QWidget* MakeButtons();
   QPushButton* MakeButton(const char* name, const QString& text);
   void SetTabOrder();
+  void BeginAtRange();
   void SetFirstSize();
 
   std::optional<BoardRange> Range() const;

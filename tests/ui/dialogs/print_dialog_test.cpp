@@ -77,6 +77,8 @@ TEST_F(PrintDialogTest, SheetsAreSavedPrintedOrRefused) {
     host.ExpectTell("Please enter a valid range");
     form.Press("cmdPdf");
     EXPECT_EQ(form.Focus(), "cmbFrom");
+    Driven::FocusKey("2");
+    EXPECT_EQ(form.Text("cmbFrom"), "2");
 
     form.Type("cmbFrom", "1");
     host.Choose(std::nullopt);
