@@ -162,6 +162,7 @@ QLineEdit* SheetOptions::AddLine(const char* name, const QString& caption,
   line->setObjectName(QString::fromLatin1(name));
   line->setAccessibleName(QString(caption).remove(u'&'));
   line->setMaxLength(kTitleLength);
+  line->setCursorPosition(0);  // a long text is seen from its beginning
   form_->addRow(caption, line);
   return line;
 }
