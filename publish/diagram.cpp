@@ -30,7 +30,7 @@ std::string CallText(const CallList& calls, int index) {
 
 /// "4♠x by South": the contract with the symbol of its strain.
 std::string ContractText(const Board& board) {
-  const std::string label = ContractLabel(board);
+  std::string label = ContractLabel(board);
   if (board.contractLevel == 0) return label;
   const std::size_t letters = StrainLetter[board.trumps].size();
   return label.substr(0, 1) + SymbolOf(board.trumps) + label.substr(1 + letters);
@@ -77,15 +77,15 @@ Lines HandLines(const SeenBoard& seen, Seat seat) {
   return lines;
 }
 
-std::string CardOnTable(const SeenBoard& seen, Seat seat) {
-  if (!seen.play || !seen.play->trick[seat]) return {};
-  const Card card = *seen.play->trick[seat];
-  return std::string(SuitSymbol[card.suit]) + std::string(RankText[card.rank]);
+std::string CardLine(const SeenBoard& seen, Seat seat) {
+  const auto card = CardOnTable(seen, seat);
+  return card ? std::string(SuitSymbol[card->suit]) + std::string(RankText[card->rank])
+              : std::string();
 }
 
 /// The lines between West and East: a blank one beside their names, then the trick on the table.
 Lines CentreLines(const SeenBoard& seen) {
-  const auto card = [&](Seat seat) { return CardOnTable(seen, seat); };
+  const auto card = [&](Seat seat) { return CardLine(seen, seat); };
   return {"", Padded("", 4) + card(Seat::North),
           Padded(card(Seat::West), kCentreWidth - 4) + card(Seat::East),
           Padded("", 4) + card(Seat::South), ""};
@@ -138,6 +138,10 @@ bool HandSeen(const SeenBoard& seen, Seat seat) {
   const PerSuit<Holding>& hand = seen.board.hands[seat];
   return !seen.hidden[seat] &&
          std::any_of(hand.begin(), hand.end(), [](Holding suit) { return !suit.Empty(); });
+}
+
+std::optional<Card> CardOnTable(const SeenBoard& seen, Seat seat) {
+  return seen.play ? seen.play->trick[seat] : std::nullopt;
 }
 
 std::vector<std::string> DiagramHeading(const SeenBoard& seen) {

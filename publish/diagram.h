@@ -34,6 +34,9 @@ std::vector<std::string> DiagramHeading(const SeenBoard& seen);
 /// The hand is not hidden, and has cards.
 bool HandSeen(const SeenBoard& seen, Seat seat);
 
+/// The card that the seat has played to the trick on the table.
+std::optional<Card> CardOnTable(const SeenBoard& seen, Seat seat);
+
 /// The ranks from the ace down without blanks, "AK105"; a dash for a void.
 std::string DiagramRanks(Holding holding);
 

@@ -145,8 +145,7 @@ class HtmlWriter {
     });
   }
   void OnTable(Seat seat) {
-    const auto& card = seen_.play->trick[seat];
-    if (card) {
+    if (const auto card = CardOnTable(seen_, seat)) {
       Symbol(card->suit);
       text_ += RankText[card->rank];
     } else {
