@@ -79,8 +79,7 @@ Lines HandLines(const SeenBoard& seen, Seat seat) {
 
 std::string CardLine(const SeenBoard& seen, Seat seat) {
   const auto card = CardOnTable(seen, seat);
-  return card ? std::string(SuitSymbol[card->suit]) + std::string(RankText[card->rank])
-              : std::string();
+  return card ? CardText(*card) : std::string();
 }
 
 /// The lines between West and East: a blank one beside their names, then the trick on the table.

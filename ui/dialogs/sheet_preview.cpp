@@ -67,29 +67,29 @@ void SheetPreview::Describe() {
   emit Turned();
 }
 
-QRect SheetPreview::Paper() const {
+QRect SheetPreview::PaperOf(const Sheets& sheets) const {
   const QRect room = rect().adjusted(kMargin, kMargin, -kMargin, -kMargin);
-  const QSizeF paper = sheets_->Layout().fullRectPoints().size();
+  const QSizeF paper = sheets.Layout().fullRectPoints().size();
   const QSize size = paper.scaled(room.size(), Qt::KeepAspectRatio).toSize();
   return {room.center() - QPoint((size.width() - 1) / 2, (size.height() - 1) / 2), size};
 }
 
-void SheetPreview::DrawPage(QSize pixels) {
+void SheetPreview::DrawPage(const Sheets& sheets, QSize pixels) {
   if (picture_.size() == pixels || pixels.isEmpty()) return;
   picture_ = QPixmap(pixels);
   picture_.fill(Qt::white);
   QPainter painter(&picture_);
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-  const double scale = pixels.width() / sheets_->Layout().fullRectPoints().toRectF().width();
+  const double scale = pixels.width() / sheets.Layout().fullRectPoints().toRectF().width();
   painter.scale(scale, scale);
-  sheets_->Paint(painter, page_);
+  sheets.Paint(painter, page_);
 }
 
 void SheetPreview::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   if (sheets_) {
-    const QRect paper = Paper();
-    DrawPage((QSizeF(paper.size()) * devicePixelRatioF()).toSize());
+    const QRect paper = PaperOf(*sheets_);
+    DrawPage(*sheets_, (QSizeF(paper.size()) * devicePixelRatioF()).toSize());
     painter.fillRect(paper.translated(2, 2), kShadow);
     painter.drawPixmap(paper, picture_);
     painter.setPen(kEdge);

@@ -44,8 +44,8 @@ class SheetPreview : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  QRect Paper() const;
-  void DrawPage(QSize pixels);
+  QRect PaperOf(const Sheets& sheets) const;
+  void DrawPage(const Sheets& sheets, QSize pixels);
   void Describe();
 
   std::optional<Sheets> sheets_;
