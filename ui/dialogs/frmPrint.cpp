@@ -275,7 +275,7 @@ bool frmPrint::Lacks(const BoardRange& range) const {
 void frmPrint::Compute() {
   const auto range = Range();
   if (computing_) {
-    again_ = range && !(range == tried_);
+    again_ = again_ || (range && !(range == tried_));
     if (again_) progress_->Cancel();
     return;
   }
@@ -292,7 +292,10 @@ void frmPrint::Compute() {
     return;
   }
   Show();
-  if (std::exchange(again_, false)) timCompute->start(0);
+  if (std::exchange(again_, false)) {
+    tried_.reset();  // the person has not cancelled it
+    timCompute->start(0);
+  }
 }
 
 /// Puts boards of `range` that were read afresh in the place of those before.
@@ -337,8 +340,9 @@ void frmPrint::PutOut(const Output& output) {
   const QString said = output(Sheets(shown_, options_->Choices()));
   ShowState();
   lblSaid->setText(said);
-  if (said.isEmpty()) return;
-  if (const std::string remark = RemarkOn(shownRange_); !remark.empty()) session_.host.Tell(remark);
+  const std::string remark = said.isEmpty() ? std::string() : RemarkOn(shownRange_);
+  if (!remark.empty()) session_.host.Tell(remark);
+  if (closing_) reject();
 }
 
 void frmPrint::Remember() {
