@@ -1,7 +1,6 @@
 #include "ui/dialogs/frmPrint.h"
 
 #include <algorithm>
-#include <iterator>
 
 #include <QComboBox>
 #include <QDate>
@@ -39,14 +38,14 @@ SheetProposal ProposalFor(const Session& session) {
           .range = {session.library.firstBoard, session.library.lastBoard}};
 }
 
-bool IsIn(const BoardRange& range, const PublishedBoard& one) {
-  return one.board.boardNumber >= range.first && one.board.boardNumber <= range.last;
-}
-
 }  // namespace
 
 frmPrint::frmPrint(Session& session, std::filesystem::path& folder, QWidget* parent)
-    : QDialog(parent), session_(session), folder_(folder), timCompute(new QTimer(this)) {
+    : QDialog(parent),
+      session_(session),
+      folder_(folder),
+      timCompute(new QTimer(this)),
+      boards_(session) {
   setObjectName(QStringLiteral("frmPrint"));
   setWindowTitle(tr("Print"));
   timCompute->setSingleShot(true);
@@ -60,11 +59,8 @@ bool frmPrint::Gather() {
     return false;
   }
   proposal_ = ProposalFor(session_);
-  auto gathered = GatherBoards(session_, proposal_.range, false);
-  if (!gathered) return false;
-  all_ = std::move(gathered->published);
-  remark_ = std::move(gathered->remark);
-  remarked_ = proposal_.range;
+  shownRange_ = proposal_.range;
+  if (!boards_.Read(proposal_.range)) return false;
   MakeFields();
   wantsTables_ = WantsTables(options_->Choices());
   return true;
@@ -207,17 +203,6 @@ std::string frmPrint::Nothing(const SheetChoices& choices) const {
   return WhyNothingToPrint(*shown_, choices);
 }
 
-/// Takes the boards of `range` from those of the library, when others are shown.
-void frmPrint::ShowBoards(const BoardRange& range) {
-  if (shown_ != nullptr && shownRange_ == range) return;
-  auto boards = std::make_shared<Published>();
-  boards->results = all_.results;
-  std::copy_if(all_.boards.begin(), all_.boards.end(), std::back_inserter(boards->boards),
-               [&range](const PublishedBoard& one) { return IsIn(range, one); });
-  shown_ = std::move(boards);
-  shownRange_ = range;
-}
-
 void frmPrint::Choose() {
   const bool wanted = WantsTables(options_->Choices());
   if (wanted && !wantsTables_) tried_.reset();  // asked for once more
@@ -229,7 +214,8 @@ void frmPrint::Choose() {
 /// Draws the sheets as they are chosen. While a number is being typed the boards before stay.
 void frmPrint::Show() {
   const auto range = Range();
-  if (range || shown_ == nullptr) ShowBoards(range.value_or(proposal_.range));
+  if (range) shownRange_ = *range;
+  shown_ = boards_.Of(shownRange_);
   const SheetChoices choices = options_->Choices();
   const std::string nothing = Nothing(choices);
   if (nothing.empty()) {
@@ -264,12 +250,6 @@ void frmPrint::showEvent(QShowEvent* event) {
   timCompute->start(0);
 }
 
-bool frmPrint::Lacks(const BoardRange& range) const {
-  return std::any_of(all_.boards.begin(), all_.boards.end(), [&range](const PublishedBoard& one) {
-    return IsIn(range, one) && one.complete && !one.board.makeableValid;
-  });
-}
-
 /// Computes the tables that the chosen sheets want and lack. The person can go on choosing
 /// meanwhile; for other boards it begins anew.
 void frmPrint::Compute() {
@@ -279,14 +259,12 @@ void frmPrint::Compute() {
     if (again_) progress_->Cancel();
     return;
   }
-  const bool wanted = range && WantsTables(options_->Choices()) && Lacks(*range);
+  const bool wanted = range && WantsTables(options_->Choices()) && boards_.LackTables(*range);
   if (!wanted || range == tried_) return;
   tried_ = range;
   computing_ = true;
-  auto gathered = GatherBoards(session_, *range, true);
-  if (!gathered) gathered = GatherBoards(session_, *range, false);  // with the tables until then
+  boards_.ComputeTables(*range);
   computing_ = false;
-  if (gathered) Take(std::move(*gathered), *range);
   if (closing_) {
     reject();
     return;
@@ -296,33 +274,6 @@ void frmPrint::Compute() {
     tried_.reset();  // the person has not cancelled it
     timCompute->start(0);
   }
-}
-
-/// Puts boards of `range` that were read afresh in the place of those before.
-void frmPrint::Take(Gathered fresh, const BoardRange& range) {
-  for (PublishedBoard& one : fresh.published.boards) {
-    const auto before =
-        std::find_if(all_.boards.begin(), all_.boards.end(), [&one](const PublishedBoard& known) {
-          return known.board.boardNumber == one.board.boardNumber;
-        });
-    if (before != all_.boards.end()) *before = std::move(one);
-  }
-  remark_ = std::move(fresh.remark);
-  remarked_ = range;
-  ofTables_ = true;
-  shown_ = nullptr;
-}
-
-/// What there is to be said of the boards of `range` when they have been put out; of tables only
-/// where they are wanted.
-std::string frmPrint::RemarkOn(const BoardRange& range) {
-  if (!(remarked_ == range) || (ofTables_ && !wantsTables_)) {
-    const auto gathered = GatherBoards(session_, range, false);
-    remark_ = gathered ? gathered->remark : std::string();
-    remarked_ = range;
-    ofTables_ = false;
-  }
-  return remark_;
 }
 
 /// Puts out what the preview shows.
@@ -340,7 +291,8 @@ void frmPrint::PutOut(const Output& output) {
   const QString said = output(Sheets(shown_, options_->Choices()));
   ShowState();
   lblSaid->setText(said);
-  const std::string remark = said.isEmpty() ? std::string() : RemarkOn(shownRange_);
+  const std::string remark =
+      said.isEmpty() ? std::string() : boards_.RemarkOn(shownRange_, wantsTables_);
   if (!remark.empty()) session_.host.Tell(remark);
   if (closing_) reject();
 }

@@ -10,6 +10,7 @@
 #include <QDialog>
 
 #include "publish/remembered_sheets.h"
+#include "publish/sheet_boards.h"
 #include "ui/dialogs/sheet_saving.h"
 
 class QLabel;
@@ -58,16 +59,12 @@ class frmPrint : public QDialog {
 
   std::optional<BoardRange> Range() const;
   std::string Nothing(const SheetChoices& choices) const;
-  void ShowBoards(const BoardRange& range);
   void Choose();
   void Show();
   void ShowPlace();
   void ShowState();
 
-  bool Lacks(const BoardRange& range) const;
   void Compute();
-  void Take(Gathered fresh, const BoardRange& range);
-  std::string RemarkOn(const BoardRange& range);
 
   /// Says what it has done with the sheets; nothing when that is nothing.
   using Output = std::function<QString(const Sheets&)>;
@@ -79,13 +76,10 @@ class frmPrint : public QDialog {
   QTimer* timCompute;  // until what was chosen has been drawn
   SheetProposal proposal_;
   PrinterChooser choosePrinter_ = AskForPrinter;
-  Published all_;                           // the boards of the library
+  SheetBoards boards_;
   std::shared_ptr<const Published> shown_;  // those of them that are in `shownRange_`
   BoardRange shownRange_;
   SheetLayout shownLayout_ = SheetLayout::Records;
-  std::string remark_;  // on the boards of `remarked_`
-  std::optional<BoardRange> remarked_;
-  bool ofTables_ = false;            // it may say why there are none
   std::optional<BoardRange> tried_;  // whose tables were computed, as far as that went
   bool wantsTables_ = false;         // the sheets that are chosen
   bool computing_ = false;
