@@ -115,6 +115,8 @@ class Stage:
         shutil.copytree(self.home / "root/Other", self.home / "more/Third")
         shutil.copytree(self.home / "root/Other", self.home / "there/Sample")
         self.require("export", "1", "1", "old.pbn")
+        # What is published is then no other when a table cannot be stored.
+        self.require("--library", "Other", "analyse")
         self.require("settings", "RecycleReplaced", "True")
         self.keep()
 
