@@ -6,11 +6,12 @@ const kSuitOrder = "SHDC";
 const suitsOf = (hand) => hand.split(".");
 
 function handNode(seat, suits, { name, points, turn }) {
-  const title = make("h3", null, kSeats[seat], name ? ` \u00b7 ${name}` : null);
+  // What does not fit is cut at the end: a long name, but not whose turn it is.
+  const title = make("h3", null, kSeats[seat], turn ? " \u00b7 to play" : null,
+    name ? ` \u00b7 ${name}` : null);
   if (points !== undefined) {
     title.append(" ", make("span", { class: "muted" }, readAs(points, `${points} points`)));
   }
-  if (turn) title.append(" \u00b7 to play");
   const rows = suits.map((ranks, suit) => make("li", null, suitSign(kSuitOrder[suit]),
     make("span", null, ranks ? [...ranks].map(rankText).join(" ") : readAs("\u2013", "none"))));
   return make("section", { class: `hand ${kSeats[seat][0]}${turn ? " turn" : ""}` }, title,
