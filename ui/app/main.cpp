@@ -60,7 +60,8 @@ int main(int argc, char** argv) {
   if (!options.error.isEmpty()) {
     std::fprintf(stderr, "%s\n",
                  tricklet::ShowableLines(tricklet::ui::FromQt(options.error)).c_str());
-    return 2;
+    // A script that prints need tell "done" from "not done" alone.
+    return tricklet::ui::AsksForPrint(argc, argv) ? 1 : 2;
   }
   const auto store = tricklet::platform::MakeSettingsStore();
   return tricklet::ui::Launch(application, options, *store);
