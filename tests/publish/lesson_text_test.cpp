@@ -26,19 +26,18 @@ TEST(LessonText, TheLeadIsThatOfATableWithTheContractOfTheBoard) {
   GetContract(board);
   const Card held{Suit::Hearts, Rank::King};
   AddCard(board.hands, held, Seat::East);
-  const auto row = [](const char* contract, Seat declarer, std::optional<Card> lead) {
-    TravellerRow made;
-    made.contract = contract;
-    made.declarer = declarer;
-    made.lead = lead;
-    return made;
+  const auto add = [&](const char* contract, Seat declarer, std::optional<Card> lead) {
+    TravellerRow& row = published.traveller.rows.emplace_back();
+    row.contract = contract;
+    row.declarer = declarer;
+    row.lead = lead;
   };
-  published.traveller.rows = {
-      row("3NT", Seat::North, held), row("4S", Seat::South, held),
-      row("4S", Seat::North, std::nullopt),
-      row("4S", Seat::North, Card{Suit::Clubs, Rank::Ace})};  // which East does not hold
+  add("3NT", Seat::North, held);
+  add("4S", Seat::South, held);
+  add("4S", Seat::North, std::nullopt);
+  add("4S", Seat::North, Card{Suit::Clubs, Rank::Ace});  // which East does not hold
   EXPECT_EQ(ContractLines(published), std::vector<std::string>{"4♠ by North"});
-  published.traveller.rows.push_back(row("4S", Seat::North, held));
+  add("4S", Seat::North, held);
   EXPECT_EQ(ContractLines(published), (std::vector<std::string>{"4♠ by North", "Lead ♥K"}));
 }
 
