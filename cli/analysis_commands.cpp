@@ -10,6 +10,7 @@
 #include "cli/board_text.h"
 #include "cli/command.h"
 #include "formats/results/traveller.h"
+#include "library/board_range.h"
 #include "library/board_store.h"
 #include "library/tables.h"
 
@@ -41,7 +42,7 @@ ExitCode Analyse(const Context& context, const AnalyseArguments& arguments) {
   const int first = arguments.first.value_or(kFirstBoardNumber);
   const int last = arguments.last.value_or(arguments.first.value_or(kLastBoardNumber));
   if (last < first) {
-    session.host.Tell("Please enter a valid range");
+    session.host.Tell(kInvalidRange);
     return ExitCode::Refused;
   }
   if (!RequireSolver(session)) return ExitCode::Refused;

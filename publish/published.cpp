@@ -136,21 +136,6 @@ Ranking RankingOf(const Published& published) {
   return MakeRanking(published.results, travellers);
 }
 
-std::optional<BoardRange> ReadBoardRange(std::string_view text) {
-  const auto dash = text.find('-');
-  const auto first = NumberFromText(Trim(text.substr(0, dash)));
-  const auto last =
-      dash == std::string_view::npos ? first : NumberFromText(Trim(text.substr(dash + 1)));
-  if (!first || !last || !IsStorable(*first) || !IsStorable(*last) || *first > *last)
-    return std::nullopt;
-  return BoardRange{*first, *last};
-}
-
-std::string BoardRangeText(const BoardRange& range) {
-  const std::string first = std::to_string(range.first);
-  return range.first == range.last ? first : first + "-" + std::to_string(range.last);
-}
-
 std::optional<Gathered> GatherBoards(Session& session, const BoardRange& range, bool tables) {
   try {
     return Gather(session, range, tables);

@@ -10,6 +10,7 @@
 #include "formats/results/lin_file.h"
 #include "formats/results/ranking.h"
 #include "formats/results/traveller.h"
+#include "library/board_range.h"
 #include "library/session.h"
 
 namespace tricklet {
@@ -30,18 +31,6 @@ struct Published {
 
 /// The ranking of those who have played the boards.
 Ranking RankingOf(const Published& published);
-
-/// Boards of the current library, 1..999.
-struct BoardRange {
-  int first = kFirstBoardNumber;
-  int last = kLastBoardNumber;
-  friend bool operator==(const BoardRange&, const BoardRange&) = default;
-};
-
-/// "1-36", "7": nothing when `text` is no range within 1..999.
-std::optional<BoardRange> ReadBoardRange(std::string_view text);
-/// "1-36", "7".
-std::string BoardRangeText(const BoardRange& range);
 
 /// Told when a range has no board.
 inline constexpr const char* kNothingToPublish = "There are no boards in this range";

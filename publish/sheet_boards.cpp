@@ -5,14 +5,6 @@
 #include <utility>
 
 namespace tricklet {
-namespace {
-
-bool IsIn(const BoardRange& range, const PublishedBoard& one) {
-  return one.board.boardNumber >= range.first && one.board.boardNumber <= range.last;
-}
-
-}  // namespace
-
 bool SheetBoards::Read(const BoardRange& range) {
   auto gathered = GatherBoards(session_, range, false);
   if (!gathered) return false;
@@ -29,7 +21,7 @@ std::shared_ptr<const Published> SheetBoards::Of(const BoardRange& range) {
   auto boards = std::make_shared<Published>();
   boards->results = all_.results;
   std::copy_if(all_.boards.begin(), all_.boards.end(), std::back_inserter(boards->boards),
-               [&range](const PublishedBoard& one) { return IsIn(range, one); });
+               [&range](const PublishedBoard& one) { return range.Has(one.board.boardNumber); });
   last_ = std::move(boards);
   lastRange_ = range;
   return last_;
@@ -37,7 +29,7 @@ std::shared_ptr<const Published> SheetBoards::Of(const BoardRange& range) {
 
 bool SheetBoards::LackTables(const BoardRange& range) const {
   return std::any_of(all_.boards.begin(), all_.boards.end(), [&range](const PublishedBoard& one) {
-    return IsIn(range, one) && one.complete && !one.board.makeableValid;
+    return range.Has(one.board.boardNumber) && one.complete && !one.board.makeableValid;
   });
 }
 

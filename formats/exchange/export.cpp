@@ -13,6 +13,7 @@
 #include "formats/lin/lin_writer.h"
 #include "formats/pbn/pbn_writer.h"
 #include "library/board_file.h"
+#include "library/board_range.h"
 #include "library/board_store.h"
 #include "library/library_scan.h"
 #include "library/tables.h"
@@ -25,11 +26,6 @@ namespace fs = std::filesystem;
 
 constexpr int kMissingListed = 20;     // fewer missing boards than this are listed
 constexpr int kIncompleteListed = 10;  // fewer incomplete boards than this are listed
-
-/// The number that is all of a text box, blanks aside; 0 when it holds anything else.
-int BoardNumberFromText(std::string_view text) {
-  return NumberFromText(Trim(text)).value_or(0);
-}
 
 /// Boards of a range on their way into one file.
 struct ExportRun {
@@ -223,14 +219,13 @@ bool HasHandsToExport(Session& session) {
 
 bool CheckRangeTexts(Session& session, std::string_view from, std::string_view to,
                      ExportRange& range) {
-  const int first = BoardNumberFromText(from);
-  const int last = BoardNumberFromText(to);
-  if (!IsStorable(first) || !IsStorable(last) || last < first) {
-    session.host.Tell("Please enter a valid range");
+  const auto boards = BoardRangeBetween(from, to);
+  if (!boards) {
+    session.host.Tell(kInvalidRange);
     return false;
   }
-  range.first = first;
-  range.last = last;
+  range.first = boards->first;
+  range.last = boards->last;
   return true;
 }
 

@@ -10,14 +10,6 @@
 namespace tricklet::test {
 namespace {
 
-TEST(PublishedRange, IsTwoBoardNumbersInOrder) {
-  EXPECT_EQ(ReadBoardRange("1-36"), (BoardRange{1, 36}));
-  EXPECT_EQ(ReadBoardRange(" 7 "), (BoardRange{7, 7}));
-  for (const char* text : {"", "0", "1000", "9-8", "1-", "-3", "1-2-3", "a-b", "1,3"}) {
-    EXPECT_EQ(ReadBoardRange(text), std::nullopt) << text;
-  }
-}
-
 class GatherTest : public LibraryTest {
  protected:
   GatherTest() {

@@ -16,7 +16,6 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "formats/exchange/export.h"
 #include "library/library_scan.h"
 #include "publish/sheet_pages.h"
 #include "ui/dialogs/sheet_options.h"
@@ -195,7 +194,7 @@ void frmPrint::SetFirstSize() {
 
 /// The range as it is typed; nothing while it is none.
 std::optional<BoardRange> frmPrint::Range() const {
-  return ReadBoardRange(FromQt(options_->From() + u'-' + options_->To()));
+  return BoardRangeBetween(FromQt(options_->From()), FromQt(options_->To()));
 }
 
 /// Why the sheets cannot be printed; empty when they can.
@@ -278,8 +277,8 @@ void frmPrint::Compute() {
 
 /// Puts out what the preview shows.
 void frmPrint::PutOut(const Output& output) {
-  ExportRange range;
-  if (!CheckRangeTexts(session_, FromQt(options_->From()), FromQt(options_->To()), range)) {
+  if (!Range()) {
+    session_.host.Tell(kInvalidRange);
     BeginAtRange();
     return;
   }

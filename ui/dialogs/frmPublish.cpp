@@ -98,7 +98,7 @@ void frmPublish::ChooseFolder() {
 void frmPublish::Go() {
   const auto boards = ReadBoardRange(FromQt(txtBoards->text()));
   if (!boards) {
-    session_.host.Tell("Please enter a valid range");
+    session_.host.Tell(kInvalidRange);
     txtBoards->setFocus();
     return;
   }

@@ -60,7 +60,6 @@ function comparison(table, side) {
   return hasPercent ? fixed(number, 1) : withPlus(Math.round(number * 100) / 100);
 }
 
-const hasNumbers = session.pairs.some((pair) => pair.number);
 const dealerText = (board) =>
   `${kSeats[board.dealer]} deals \u00b7 ` +
   ["nobody vulnerable", "North-South vulnerable", "East-West vulnerable", "all vulnerable"][
