@@ -1,6 +1,7 @@
 #include "publish/published.h"
 
 #include <algorithm>
+#include <map>
 #include <set>
 #include <utility>
 
@@ -8,7 +9,6 @@
 #include "core/bounded_list.h"
 #include "core/fault.h"
 #include "core/statistics.h"
-#include "core/text.h"
 #include "disk/file_io.h"
 #include "library/board_file.h"
 #include "library/board_notes.h"
@@ -17,10 +17,6 @@
 
 namespace tricklet {
 namespace {
-
-bool LacksTable(const PublishedBoard& published) {
-  return published.complete && !published.board.makeableValid;
-}
 
 /// A board as it is stored; one whose file is broken as far as it can be read. Throws `Fault` when
 /// the disk does not give it.
@@ -79,52 +75,41 @@ bool AddTables(Session& session, std::vector<PublishedBoard>& boards, std::strin
          SolveInMemory(session, solver, std::move(unsolved), failure);
 }
 
-/// What the person is told at the end.
-std::string RemarkOn(const std::vector<PublishedBoard>& boards, const std::string& failure) {
-  std::set<int> incomplete;
-  for (const PublishedBoard& published : boards) {
-    if (!published.complete) incomplete.insert(published.board.boardNumber);
-  }
-  std::string remark = failure;
-  if (!incomplete.empty()) {
-    if (!remark.empty()) remark += "\n";
-    remark += (incomplete.size() == 1 ? "The deal of board " : "The deals of boards ") +
-              RangesText(incomplete) + (incomplete.size() == 1 ? " is" : " are") + " incomplete";
-  }
-  return remark;
-}
-
 /// The notes and results of the library, each with its board, and par.
 void AddWhatIsKnown(Session& session, Published& published) {
   published.results = LoadLinData(session);
   const BoardNotes notes = LoadNotes(session);
+  std::map<int, Traveller> travellers;
+  for (Traveller& traveller : MakeTravellers(published.results)) {
+    const int number = traveller.boardNumber;
+    travellers.emplace(number, std::move(traveller));
+  }
   for (PublishedBoard& one : published.boards) {
     const Board& board = one.board;
     if (one.complete && board.makeableValid)
       one.par = ComputePar(board.makeable, board.Dealer(), board.Vulnerability());
     const auto note = notes.find(board.boardNumber);
     if (note != notes.end()) one.notes = note->second;
-    one.traveller = MakeTraveller(published.results, board.boardNumber);
+    one.traveller.boardNumber = board.boardNumber;
+    const auto traveller = travellers.find(board.boardNumber);
+    if (traveller != travellers.end()) one.traveller = std::move(traveller->second);
   }
 }
 
-std::optional<Gathered> Gather(Session& session, const BoardRange& range, bool tables) {
-  Gathered gathered;
-  std::vector<PublishedBoard>& boards = gathered.published.boards;
+std::optional<Published> Gather(Session& session, const BoardRange& range, bool tables) {
+  Published published;
   CountHands(session);
   for (int number = range.first; number <= range.last; ++number) {
     if (session.library.boardPresent.at(static_cast<std::size_t>(number)))
-      boards.push_back(ReadStored(session, number));
+      published.boards.push_back(ReadStored(session, number));
   }
-  if (boards.empty()) {
+  if (published.boards.empty()) {
     session.host.TellError(kNothingToPublish);
     return std::nullopt;
   }
-  std::string failure;
-  if (tables && !AddTables(session, boards, failure)) return std::nullopt;
-  AddWhatIsKnown(session, gathered.published);
-  gathered.remark = RemarkOn(boards, failure);
-  return gathered;
+  if (tables && !AddTables(session, published.boards, published.whyNoTables)) return std::nullopt;
+  AddWhatIsKnown(session, published);
+  return published;
 }
 
 }  // namespace
@@ -136,7 +121,24 @@ Ranking RankingOf(const Published& published) {
   return MakeRanking(published.results, travellers);
 }
 
-std::optional<Gathered> GatherBoards(Session& session, const BoardRange& range, bool tables) {
+bool LacksTable(const PublishedBoard& published) {
+  return published.complete && !published.board.makeableValid;
+}
+
+std::string RemarkOn(const Published& published, bool tables) {
+  std::set<int> incomplete;
+  for (const PublishedBoard& one : published.boards) {
+    if (!one.complete) incomplete.insert(one.board.boardNumber);
+  }
+  std::string remark = tables ? published.whyNoTables : std::string();
+  if (incomplete.empty()) return remark;
+  if (!remark.empty()) remark += "\n";
+  const bool single = incomplete.size() == 1;
+  return remark + (single ? "The deal of board " : "The deals of boards ") +
+         RangesText(incomplete) + (single ? " is" : " are") + " incomplete";
+}
+
+std::optional<Published> GatherBoards(Session& session, const BoardRange& range, bool tables) {
   try {
     return Gather(session, range, tables);
   } catch (const Fault& fault) {

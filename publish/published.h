@@ -27,24 +27,25 @@ struct PublishedBoard {
 struct Published {
   std::vector<PublishedBoard> boards;
   LinFile results;
+  std::string whyNoTables;  ///< that were to be computed and are missing; empty when none are
 };
+
+bool LacksTable(const PublishedBoard& published);
 
 /// The ranking of those who have played the boards.
 Ranking RankingOf(const Published& published);
 
+/// What the person is told once the boards are published: which deals are incomplete, and, `tables`
+/// being wanted, why some are missing. May be empty.
+std::string RemarkOn(const Published& published, bool tables);
+
 /// Told when a range has no board.
 inline constexpr const char* kNothingToPublish = "There are no boards in this range";
-
-/// What has been found, and what the person is to be told of it at the end.
-struct Gathered {
-  Published published;
-  std::string remark;  ///< why tables are missing, which deals are incomplete; may be empty
-};
 
 /// Reads the boards of `range` that the current library has. With `tables` those that are complete
 /// and have no table get one first, with progress: it is stored where the file may be written, else
 /// it is in the answer alone. Nothing, after a message, when there is no board or one cannot be
 /// read; nothing and no message when the person has cancelled.
-std::optional<Gathered> GatherBoards(Session& session, const BoardRange& range, bool tables);
+std::optional<Published> GatherBoards(Session& session, const BoardRange& range, bool tables);
 
 }  // namespace tricklet

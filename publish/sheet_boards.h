@@ -2,8 +2,6 @@
 #pragma once
 
 #include <memory>
-#include <optional>
-#include <string>
 
 #include "publish/published.h"
 
@@ -18,7 +16,8 @@ class SheetBoards {
   /// Reads the boards of `range`, as `GatherBoards` without tables. False after a message.
   bool Read(const BoardRange& range);
 
-  /// Those of the boards that are in `range`; may be none. They stay as they are.
+  /// Those of the boards that are in `range`; may be none. They stay as they are. Why tables are
+  /// missing is known once `ComputeTables` has tried.
   std::shared_ptr<const Published> Of(const BoardRange& range);
 
   /// A complete deal of `range` has no table.
@@ -27,20 +26,11 @@ class SheetBoards {
   /// until then are kept.
   void ComputeTables(const BoardRange& range);
 
-  /// What there is to be said of the boards of `range` once they are printed: deals that are not
-  /// complete, and, with `tables`, why there are none. May be empty.
-  std::string RemarkOn(const BoardRange& range, bool tables);
-
  private:
-  void Take(Gathered fresh, const BoardRange& range);
-
   Session& session_;
   Published all_;
   std::shared_ptr<const Published> last_;  // what `Of` has given for `lastRange_`
   BoardRange lastRange_;
-  std::string remark_;  // on the boards of `remarked_`
-  std::optional<BoardRange> remarked_;
-  bool ofTables_ = false;  // it may say why there are none
 };
 
 }  // namespace tricklet

@@ -98,17 +98,17 @@ std::optional<fs::path> Publish(Session& session, const PublishChoices& choices)
       !WantsReplaced(session.host, places.foreign)) {
     return std::nullopt;
   }
-  const auto gathered = GatherBoards(session, choices.boards, true);
-  if (!gathered) return std::nullopt;
+  const auto published = GatherBoards(session, choices.boards, true);
+  if (!published) return std::nullopt;
   const WebChoices web{choices.title.empty() ? session.LibraryName() : choices.title, Today(),
                        choices.names};
   MakeFolders(choices.folder);
   SweepLeftovers(session.host, choices.folder);
-  if (!WriteBoth(session.host, places, WebPage(gathered->published, web),
-                 WebPbn(gathered->published, web))) {
+  if (!WriteBoth(session.host, places, WebPage(*published, web), WebPbn(*published, web))) {
     return std::nullopt;
   }
-  if (!gathered->remark.empty()) session.host.TellError(gathered->remark);
+  const std::string remark = RemarkOn(*published, true);
+  if (!remark.empty()) session.host.TellError(remark);
   return places.page;
 }
 

@@ -51,12 +51,11 @@ void WriteEntrant(JsonWriter& json, const RankedEntrant& ranked, const Entrants&
 
 void WriteRanking(JsonWriter& json, const Published& published, const Entrants& entrants,
                   NamesShown names) {
-  std::vector<Traveller> travellers;
-  for (const PublishedBoard& board : published.boards) {
-    if (!board.traveller.rows.empty()) travellers.push_back(board.traveller);
-  }
-  if (travellers.empty()) return;
-  const Ranking ranking = MakeRanking(published.results, travellers);
+  const bool played =
+      std::any_of(published.boards.begin(), published.boards.end(),
+                  [](const PublishedBoard& board) { return !board.traveller.rows.empty(); });
+  if (!played) return;
+  const Ranking ranking = RankingOf(published);
   json.Key("ranking").BeginObject().Key("unit").String(ranking.UnitText());
   json.Key("tables").BeginArray();
   for (const RankingTable& table : ranking.tables) {

@@ -35,8 +35,8 @@ TEST_F(GatherTest, BoardsComeWithTablesParNotesAndResults) {
   std::filesystem::permissions(session.BoardPath(7), std::filesystem::perms::owner_read);
   const auto gathered = GatherBoards(session, {1, 7}, true);
   ASSERT_TRUE(gathered);
-  EXPECT_EQ(gathered->remark, "The deal of board 3 is incomplete");
-  const auto& boards = gathered->published.boards;
+  EXPECT_EQ(RemarkOn(*gathered, true), "The deal of board 3 is incomplete");
+  const auto& boards = gathered->boards;
   ASSERT_EQ(boards.size(), 3U);
   for (const std::size_t at : {0U, 2U}) {
     EXPECT_TRUE(boards[at].complete);
@@ -61,10 +61,8 @@ TEST_F(GatherTest, WhatStandsInTheWayIsTold) {
   solver.missing = "no solver";
   auto gathered = GatherBoards(session, {1, 9}, true);
   ASSERT_TRUE(gathered) << "without tables";
-  EXPECT_EQ(gathered->remark, "no solver");
-  gathered = GatherBoards(session, {1, 9}, false);
-  ASSERT_TRUE(gathered);
-  EXPECT_EQ(gathered->remark, "");
+  EXPECT_EQ(RemarkOn(*gathered, true), "no solver");
+  EXPECT_EQ(RemarkOn(*gathered, false), "");
 
   solver.missing.clear();
   host.cancelAtStep = 1;

@@ -55,15 +55,16 @@ int RunPrint(Session& session, const QString& library, const PrintOptions& optio
     TellUnreadSettings(session);
     if (!OpenNamed(session, library)) return 1;
     const SheetChoices choices = ChoicesFor(session, options);
-    auto gathered = GatherBoards(session, options.boards, WantsTables(choices));
-    if (!gathered) return 1;
-    const std::string nothing = WhyNothingToPrint(gathered->published, choices);
+    auto published = GatherBoards(session, options.boards, WantsTables(choices));
+    if (!published) return 1;
+    const std::string nothing = WhyNothingToPrint(*published, choices);
     if (!nothing.empty()) {
       session.host.TellError(nothing);
       return 1;
     }
-    Write(Sheets(std::move(gathered->published), choices), session.LibraryName(), options);
-    if (!gathered->remark.empty()) session.host.TellResult(gathered->remark);
+    const std::string remark = RemarkOn(*published, WantsTables(choices));
+    Write(Sheets(std::move(*published), choices), session.LibraryName(), options);
+    if (!remark.empty()) session.host.TellResult(remark);
     return 0;
   } catch (const Fault& fault) {
     session.host.TellError(fault.Description());

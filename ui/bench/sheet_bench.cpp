@@ -115,8 +115,8 @@ class Bench : public TemporaryRoot {
   }
 
   ui::Sheets Gather() {
-    auto gathered = GatherBoards(session, {}, true);
-    return {gathered ? std::move(gathered->published) : Published(), {.title = "Boards"}};
+    auto published = GatherBoards(session, {}, true);
+    return {published ? std::move(*published) : Published(), {.title = "Boards"}};
   }
 
   QuietHost host;

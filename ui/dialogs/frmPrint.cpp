@@ -290,8 +290,7 @@ void frmPrint::PutOut(const Output& output) {
   const QString said = output(Sheets(shown_, options_->Choices()));
   ShowState();
   lblSaid->setText(said);
-  const std::string remark =
-      said.isEmpty() ? std::string() : boards_.RemarkOn(shownRange_, wantsTables_);
+  const std::string remark = said.isEmpty() ? std::string() : RemarkOn(*shown_, wantsTables_);
   if (!remark.empty()) session_.host.Tell(remark);
   if (closing_) reject();
 }
