@@ -1,8 +1,8 @@
 #include "library/dated_folder.h"
 
-#include <array>
 #include <system_error>
 
+#include "core/local_time.h"
 #include "core/text.h"
 #include "disk/presence.h"
 
@@ -11,15 +11,7 @@ namespace tricklet {
 namespace fs = std::filesystem;
 
 std::string DatedText(std::time_t time) {
-  std::tm local{};
-#ifdef _WIN32
-  localtime_s(&local, &time);
-#else
-  localtime_r(&time, &local);
-#endif
-  std::array<char, 32> text{};
-  std::strftime(text.data(), text.size(), "%Y-%m-%d %H.%M", &local);
-  return text.data();
+  return LocalTimeText(time, "%Y-%m-%d %H.%M");
 }
 
 std::string DatedName(const std::string& library, const std::string& end) {

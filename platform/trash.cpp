@@ -1,6 +1,5 @@
 #include "platform/trash.h"
 
-#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -16,6 +15,7 @@
 #include <vector>
 
 #include "core/fault.h"
+#include "core/local_time.h"
 #include "core/text.h"
 #include "disk/native_file.h"
 #include "disk/presence.h"
@@ -148,12 +148,8 @@ std::string Escaped(const std::string& bytes) {
 
 std::string InfoText(const fs::path& thing, const Trash& trash) {
   const fs::path shown = trash.top.empty() ? thing : thing.lexically_relative(trash.top);
-  const std::time_t now = std::time(nullptr);
-  std::tm local{};
-  std::array<char, 32> date{};
-  ::localtime_r(&now, &local);
-  std::strftime(date.data(), date.size(), "%Y-%m-%dT%H:%M:%S", &local);
-  return "[Trash Info]\nPath=" + Escaped(shown.native()) + "\nDeletionDate=" + date.data() + "\n";
+  return "[Trash Info]\nPath=" + Escaped(shown.native()) +
+         "\nDeletionDate=" + LocalTimeText(std::time(nullptr), "%Y-%m-%dT%H:%M:%S") + "\n";
 }
 
 /// The record of a thing in the trash, complete before the thing is moved; removed again when it

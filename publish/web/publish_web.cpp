@@ -1,10 +1,9 @@
 #include "publish/web/publish_web.h"
 
-#include <array>
-#include <ctime>
 #include <vector>
 
 #include "core/fault.h"
+#include "core/local_time.h"
 #include "core/text.h"
 #include "disk/file_io.h"
 #include "disk/leftovers.h"
@@ -18,23 +17,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t kMaxPageBytes = std::size_t{256} * 1024 * 1024;
-
-/// "17 November 2026", by the clock of this computer.
-std::string Today() {
-  constexpr std::array kMonths{"January",   "February", "March",    "April",
-                               "May",       "June",     "July",     "August",
-                               "September", "October",  "November", "December"};
-  const std::time_t now = std::time(nullptr);
-  std::tm local{};
-#ifdef _WIN32
-  localtime_s(&local, &now);
-#else
-  localtime_r(&now, &local);
-#endif
-  constexpr int kFirstYear = 1900;  // of `tm_year`
-  return std::to_string(local.tm_mday) + " " + kMonths.at(static_cast<std::size_t>(local.tm_mon)) +
-         " " + std::to_string(local.tm_year + kFirstYear);
-}
 
 /// What is in the places of the page and its PBN and was not written by this command.
 std::vector<fs::path> ForeignFiles(const fs::path& page, const fs::path& pbn) {
@@ -100,7 +82,7 @@ std::optional<fs::path> Publish(Session& session, const PublishChoices& choices)
   }
   const auto published = GatherBoards(session, choices.boards, true);
   if (!published) return std::nullopt;
-  const WebChoices web{choices.title.empty() ? session.LibraryName() : choices.title, Today(),
+  const WebChoices web{choices.title.empty() ? session.LibraryName() : choices.title, TodayText(),
                        choices.names};
   MakeFolders(choices.folder);
   SweepLeftovers(session.host, choices.folder);

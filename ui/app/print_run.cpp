@@ -1,9 +1,7 @@
 #include "ui/app/print_run.h"
 
-#include <QDate>
-#include <QLocale>
-
 #include "core/fault.h"
+#include "core/local_time.h"
 #include "disk/presence.h"
 #include "library/library_folders.h"
 #include "library/library_names.h"
@@ -34,11 +32,7 @@ bool OpenNamed(Session& session, const QString& library) {
 SheetChoices ChoicesFor(const Session& session, const PrintOptions& options) {
   SheetChoices choices = options.choices;
   if (!options.titled) choices.title = session.LibraryName();
-  if (!options.subtitled) {
-    const QLocale english(QLocale::English);
-    choices.subtitle =
-        FromQt(english.toString(QDate::currentDate(), QStringLiteral("d MMMM yyyy")));
-  }
+  if (!options.subtitled) choices.subtitle = TodayText();
   return choices;
 }
 

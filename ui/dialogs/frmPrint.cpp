@@ -3,11 +3,9 @@
 #include <algorithm>
 
 #include <QComboBox>
-#include <QDate>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QMenu>
 #include <QPushButton>
 #include <QScreen>
@@ -16,6 +14,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "core/local_time.h"
 #include "library/library_scan.h"
 #include "publish/sheet_pages.h"
 #include "ui/dialogs/sheet_options.h"
@@ -30,10 +29,9 @@ namespace {
 constexpr int kFrame = 48;  // room for the title bar and borders of a window
 
 SheetProposal ProposalFor(const Session& session) {
-  const QLocale english(QLocale::English);  // as the texts on the sheets
   return {.library = session.LibraryName(),
           .title = session.LibraryName(),
-          .subtitle = FromQt(english.toString(QDate::currentDate(), QStringLiteral("d MMMM yyyy"))),
+          .subtitle = TodayText(),
           .range = {session.library.firstBoard, session.library.lastBoard}};
 }
 
