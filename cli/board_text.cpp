@@ -4,7 +4,7 @@
 
 #include "analysis/makeable_view.h"
 #include "analysis/par.h"
-#include "cli/columns.h"
+#include "core/columns.h"
 #include "core/statistics.h"
 
 namespace tricklet::cli {

@@ -8,8 +8,8 @@
 
 #include <CLI/CLI.hpp>
 
-#include "cli/columns.h"
 #include "cli/command.h"
+#include "core/columns.h"
 #include "core/text.h"
 #include "formats/results/ranking.h"
 #include "formats/results/traveller.h"
@@ -25,7 +25,7 @@ std::string InColumns(const std::vector<std::array<std::string, kColumns>>& line
   std::array<std::size_t, kColumns> widths{};
   for (const auto& line : lines) {
     for (std::size_t i = 0; i < kColumns; ++i) {
-      widths.at(i) = std::max(widths.at(i), Width(line.at(i)));
+      widths.at(i) = std::max(widths.at(i), CharacterCount(line.at(i)));
     }
   }
   std::string text;

@@ -1,7 +1,9 @@
 #include "publish/diagram.h"
 
 #include <algorithm>
-#include <string_view>
+#include <utility>
+
+#include "core/columns.h"
 
 namespace tricklet {
 namespace {
@@ -43,25 +45,6 @@ std::string PlayText(const SeenPlay& play) {
   return text;
 }
 
-/// Characters, not bytes.
-std::size_t Width(std::string_view text) {
-  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-  }));
-}
-
-std::string Padded(std::string text, std::size_t width) {
-  const std::size_t has = Width(text);
-  if (has < width) text.append(width - has, ' ');
-  return text;
-}
-
-/// `text` as a line, without the blanks at its end.
-std::string Line(std::string text) {
-  text.erase(text.find_last_not_of(' ') + 1);
-  return text + "\n";
-}
-
 using Lines = std::vector<std::string>;
 
 /// Seat, and player where known; then the suits, which are blank where no card is seen.
@@ -85,13 +68,13 @@ std::string CardLine(const SeenBoard& seen, Seat seat) {
 /// The lines between West and East: a blank one beside their names, then the trick on the table.
 Lines CentreLines(const SeenBoard& seen) {
   const auto card = [&](Seat seat) { return CardLine(seen, seat); };
-  return {"", Padded("", 4) + card(Seat::North),
-          Padded(card(Seat::West), kCentreWidth - 4) + card(Seat::East),
-          Padded("", 4) + card(Seat::South), ""};
+  return {"", PadRight("", 4) + card(Seat::North),
+          PadRight(card(Seat::West), kCentreWidth - 4) + card(Seat::East),
+          PadRight("", 4) + card(Seat::South), ""};
 }
 
 std::size_t WidthOf(const Lines& lines, std::size_t least) {
-  for (const std::string& line : lines) least = std::max(least, Width(line) + 2);
+  for (const std::string& line : lines) least = std::max(least, CharacterCount(line) + 2);
   return least;
 }
 
@@ -99,7 +82,7 @@ std::size_t WidthOf(const Lines& lines, std::size_t least) {
 std::string HandAlone(const SeenBoard& seen, Seat seat, std::size_t left) {
   std::string text;
   for (const std::string& line : HandLines(seen, seat)) {
-    if (!line.empty()) text += Line(std::string(left, ' ') + line);
+    if (!line.empty()) AppendLine(text, std::string(left, ' ') + line);
   }
   return text;
 }
@@ -111,15 +94,15 @@ std::string HandsText(const SeenBoard& seen) {
   const std::size_t left = WidthOf(west, kHandWidth);
   std::string text = HandAlone(seen, Seat::North, left);
   for (std::size_t i = 0; i < west.size(); ++i) {
-    text += Line(Padded(west[i], left) + Padded(centre[i], kCentreWidth) + east[i]);
+    AppendLine(text, PadRight(west[i], left) + PadRight(centre[i], kCentreWidth) + east[i]);
   }
   return text + HandAlone(seen, Seat::South, left);
 }
 
-std::string RowText(const CallRow& row) {
+void AppendRow(std::string& text, const CallRow& row) {
   std::string line;
-  for (const std::string& call : row) line += Padded(call + ' ', kCallWidth);
-  return Line(line);
+  for (const std::string& call : row) line += PadRight(call + ' ', kCallWidth);
+  AppendLine(text, std::move(line));
 }
 
 }  // namespace
@@ -183,8 +166,9 @@ std::string DiagramText(const SeenBoard& seen) {
   if (!heading.empty()) text += heading + "\n\n";
   text += HandsText(seen);
   if (const auto rows = DiagramCalls(seen); !rows.empty()) {
-    text += "\n" + RowText({"West", "North", "East", "South"});
-    for (const CallRow& row : rows) text += RowText(row);
+    text += "\n";
+    AppendRow(text, {"West", "North", "East", "South"});
+    for (const CallRow& row : rows) AppendRow(text, row);
   }
   const auto foot = DiagramFoot(seen);
   if (!foot.empty()) text += "\n";

@@ -1,10 +1,14 @@
-// Text in columns, for a terminal.
+// Text in columns, for a font in which all characters are equally wide.
 #pragma once
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
-namespace tricklet::cli {
+namespace tricklet {
+
+/// Characters, not bytes: suit symbols take three bytes each.
+std::size_t CharacterCount(std::string_view text);
 
 /// Filled up with blanks to `width` characters; longer text stays whole.
 std::string PadRight(std::string text, std::size_t width);
@@ -13,7 +17,4 @@ std::string PadLeft(const std::string& text, std::size_t width);
 /// Appends `line` without the blanks at its end, and a line end.
 void AppendLine(std::string& text, std::string line);
 
-/// Characters, not bytes: suit symbols take three bytes each.
-std::size_t Width(const std::string& text);
-
-}  // namespace tricklet::cli
+}  // namespace tricklet
