@@ -6,12 +6,13 @@
 #include "analysis/par.h"
 #include "core/columns.h"
 #include "core/statistics.h"
+#include "publish/call_rows.h"
 
 namespace tricklet::cli {
 namespace {
 
 constexpr std::size_t kColumn = 26;  // of the diagram: West, North and South, East
-constexpr std::size_t kCallWidth = 7;
+constexpr std::size_t kSeatWidth = 7;
 constexpr std::size_t kNumberWidth = 4;
 
 std::string SuitLine(const Board& board, Seat seat, Suit suit) {
@@ -33,41 +34,19 @@ void AppendWestAndEast(std::string& text, const Board& board) {
   }
 }
 
-std::string CallText(const CallList& calls, int index) {
-  const Call call = calls[index];
-  if (!call.IsBid() || call.Denomination() == BidStrain::NoTrump) return calls.ShownAt(index);
-  const Strain strain = ToStrain(call.Denomination());
-  return std::to_string(call.Level()) + std::string(SuitSymbol[static_cast<Suit>(strain)]);
-}
-
-/// Columns West, North, East, South; the first row begins at the dealer.
 void AppendAuction(std::string& text, const Board& board) {
   if (board.NumCalls() == 0) return;
-  std::string line;
-  for (const Seat seat : {Seat::West, Seat::North, Seat::East, Seat::South}) {
-    line += PadRight(std::string(SeatName[seat]), kCallWidth);
-  }
-  AppendLine(text, line);
-  int column = IndexOf(SeatAfter(board.Dealer()));
-  line.assign(static_cast<std::size_t>(column) * kCallWidth, ' ');
-  for (int i = 0; i < board.NumCalls(); ++i) {
-    line += PadRight(CallText(board.calls, i) + ' ', kCallWidth);  // an unread call may be long
-    if (++column % kSeats == 0) {
-      AppendLine(text, line);
-      line.clear();
-    }
-  }
-  if (!line.empty()) AppendLine(text, line);
+  text += CallRowsText(CallRows(board));
   if (!board.contract.empty()) AppendLine(text, "\nContract: " + ContractLabel(board));
 }
 
 void AppendStatistics(std::string& text, const Board& board) {
   const Statistics statistics = GetStats(board.hands);
-  std::string line = "\n" + PadRight("", kCallWidth) + " HCP LTC";
+  std::string line = "\n" + PadRight("", kSeatWidth) + " HCP LTC";
   for (const Suit suit : kAllSuits) line += PadLeft(std::string(SuitSymbol[suit]), kNumberWidth);
   AppendLine(text, line);
   for (const Seat seat : kAllSeats) {
-    line = PadRight(std::string(SeatName[seat]), kCallWidth) +
+    line = PadRight(std::string(SeatName[seat]), kSeatWidth) +
            PadLeft(std::to_string(statistics.seatHcp[seat]), kNumberWidth) +
            PadLeft(std::to_string(statistics.seatLtc[seat]), kNumberWidth);
     for (const Suit suit : kAllSuits) {
@@ -83,11 +62,11 @@ void AppendTable(std::string& text, const Board& board, bool contracts) {
   if (!board.makeableValid) return;
   const MakeableView view = MakeMakeableView(board.makeable, contracts);
   AppendLine(text, view.caption);
-  std::string line = PadRight("", kCallWidth);
+  std::string line = PadRight("", kSeatWidth);
   for (const Suit suit : kAllSuits) line += PadLeft(std::string(SuitSymbol[suit]), kNumberWidth);
   AppendLine(text, line + PadLeft("NT", kNumberWidth));
   for (const MakeableView::Row& row : view.rows) {
-    line = PadRight(row.seat, kCallWidth);
+    line = PadRight(row.seat, kSeatWidth);
     for (const std::string& cell : row.cells) line += PadLeft(cell, kNumberWidth);
     AppendLine(text, line);
   }

@@ -1,41 +1,23 @@
 #include "publish/diagram.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "core/columns.h"
+#include "publish/sheet_text.h"
 
 namespace tricklet {
 namespace {
 
 constexpr std::size_t kHandWidth = 14;    // at least: a holding of ten cards
 constexpr std::size_t kCentreWidth = 12;  // at least: between West and East
-constexpr std::size_t kCallWidth = 7;
 
 const std::string kDash = "\u2014";
 
-std::string SymbolOf(Strain strain) {
-  return strain == Strain::NoTrump ? "NT"
-                                   : std::string(SuitSymbol[static_cast<Suit>(IndexOf(strain))]);
-}
-
-/// The column of a seat in an auction, which begins at West.
-std::size_t ColumnOf(Seat seat) {
-  return static_cast<std::size_t>(IndexOf(SeatAfter(seat)));
-}
-
-std::string CallText(const CallList& calls, int index) {
-  const Call call = calls[index];
-  if (!call.IsBid()) return calls.ShownAt(index);
-  return std::to_string(call.Level()) + SymbolOf(ToStrain(call.Denomination()));
-}
-
 /// "4♠x by South": the contract with the symbol of its strain.
 std::string ContractText(const Board& board) {
-  std::string label = ContractLabel(board);
-  if (board.contractLevel == 0) return label;
-  const std::size_t letters = StrainLetter[board.trumps].size();
-  return label.substr(0, 1) + SymbolOf(board.trumps) + label.substr(1 + letters);
+  return ContractSymbols(board.contract) + ContractLabel(board).substr(board.contract.size());
 }
 
 std::string PlayText(const SeenPlay& play) {
@@ -99,20 +81,11 @@ std::string HandsText(const SeenBoard& seen) {
   return text + HandAlone(seen, Seat::South, left);
 }
 
-void AppendRow(std::string& text, const CallRow& row) {
-  std::string line;
-  for (const std::string& call : row) line += PadRight(call + ' ', kCallWidth);
-  AppendLine(text, std::move(line));
-}
-
 }  // namespace
 
 std::string DiagramRanks(Holding holding) {
   std::string ranks;
-  for (int i = 0; i < kRanks; ++i) {
-    const auto rank = static_cast<Rank>(i);
-    if (holding.Has(rank)) ranks += RankText[rank];
-  }
+  for (const std::string_view rank : RanksOf(holding)) ranks += rank;
   return ranks.empty() ? kDash : ranks;
 }
 
@@ -135,16 +108,7 @@ std::vector<std::string> DiagramHeading(const SeenBoard& seen) {
 }
 
 std::vector<CallRow> DiagramCalls(const SeenBoard& seen) {
-  std::vector<CallRow> rows;
-  const Board& board = seen.board;
-  if (!seen.auction || board.NumCalls() == 0) return rows;
-  const std::size_t first = ColumnOf(board.Dealer());
-  for (int i = 0; i < board.NumCalls(); ++i) {
-    const std::size_t place = first + static_cast<std::size_t>(i);
-    rows.resize(place / kSeats + 1);
-    rows.back().at(place % kSeats) = CallText(board.calls, i);
-  }
-  return rows;
+  return seen.auction ? CallRows(seen.board) : std::vector<CallRow>();
 }
 
 std::vector<std::string> DiagramFoot(const SeenBoard& seen) {
@@ -165,10 +129,8 @@ std::string DiagramText(const SeenBoard& seen) {
   }
   if (!heading.empty()) text += heading + "\n\n";
   text += HandsText(seen);
-  if (const auto rows = DiagramCalls(seen); !rows.empty()) {
-    text += "\n";
-    AppendRow(text, {"West", "North", "East", "South"});
-    for (const CallRow& row : rows) AppendRow(text, row);
+  if (const std::string calls = CallRowsText(DiagramCalls(seen)); !calls.empty()) {
+    text += "\n" + calls;
   }
   const auto foot = DiagramFoot(seen);
   if (!foot.empty()) text += "\n";

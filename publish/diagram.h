@@ -1,13 +1,13 @@
 // A board as a diagram for letters, mails and forums.
 #pragma once
 
-#include <array>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "core/board.h"
 #include "core/holding.h"
+#include "publish/call_rows.h"
 
 namespace tricklet {
 
@@ -40,9 +40,7 @@ std::optional<Card> CardOnTable(const SeenBoard& seen, Seat seat);
 /// The ranks from the ace down without blanks, "AK105"; a dash for a void.
 std::string DiagramRanks(Holding holding);
 
-/// The calls in columns of West, North, East and South, with suit symbols; empty where nobody
-/// calls.
-using CallRow = std::array<std::string, kSeats>;
+/// The calls; empty where they are not told.
 std::vector<CallRow> DiagramCalls(const SeenBoard& seen);
 
 /// What stands below the hands: "4♠ by South", "NS: 4 · EW: 2 · West to play", the result.

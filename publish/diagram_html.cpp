@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "publish/diagram.h"
+#include "publish/html_text.h"
 
 namespace tricklet {
 namespace {
@@ -76,7 +77,7 @@ class HtmlWriter {
         Symbol(*suit);
         text.remove_prefix(SuitSymbol[*suit].size());
       } else {
-        Escaped(text.front());
+        text_ += HtmlText(text.substr(0, 1));
         text.remove_prefix(1);
       }
     }
@@ -85,25 +86,6 @@ class HtmlWriter {
     text_ += "<span style=\"color:" + std::string(colours_[suit]) + "\">" +
              std::string(SuitSymbol[suit]) + "</span>";
   }
-  void Escaped(char character) {
-    switch (character) {
-      case '&':
-        text_ += "&amp;";
-        break;
-      case '<':
-        text_ += "&lt;";
-        break;
-      case '>':
-        text_ += "&gt;";
-        break;
-      case '"':
-        text_ += "&quot;";
-        break;
-      default:
-        text_ += character;
-    }
-  }
-
   void Heading(const std::vector<std::string>& parts) {
     text_ += "<b>";
     Text(parts.front());
@@ -167,8 +149,8 @@ class HtmlWriter {
     text_ += "<br>\n";
     Table([&] {
       Row([this] {
-        for (const char* seat : {"West", "North", "East", "South"}) {
-          Cell(1, kCell, [&] { text_ += "<b>" + std::string(seat) + "</b>"; });
+        for (const Seat seat : kCallSeats) {
+          Cell(1, kCell, [&] { text_ += "<b>" + std::string(SeatName[seat]) + "</b>"; });
         }
       });
       for (const CallRow& row : rows) {

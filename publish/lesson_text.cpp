@@ -43,10 +43,4 @@ std::vector<std::string> ContractLines(const PublishedBoard& published) {
   return lines;
 }
 
-std::vector<CallRow> CallRowsOf(const Board& board) {
-  SeenBoard seen;
-  seen.board = board;
-  return DiagramCalls(seen);
-}
-
 }  // namespace tricklet

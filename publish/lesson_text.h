@@ -36,7 +36,4 @@ std::optional<Card> LeadOf(const PublishedBoard& published);
 /// "4♠ by South", "Lead ♥K": as many lines as are known.
 std::vector<std::string> ContractLines(const PublishedBoard& published);
 
-/// The calls in columns of West, North, East and South; empty where nobody calls.
-std::vector<CallRow> CallRowsOf(const Board& board);
-
 }  // namespace tricklet

@@ -25,10 +25,6 @@ std::vector<SheetColumn> TravellerColumns(const std::string& scoring) {
           {scoring + " EW", ColumnKind::Number}};
 }
 
-std::string LeadText(Card card) {
-  return std::string(SuitSymbol[card.suit]) + std::string(RankText[card.rank]);
-}
-
 std::string PointsText(std::optional<float> points) {
   return points ? ShortestText(*points) : "";
 }
@@ -42,7 +38,7 @@ std::vector<std::string> CellsOf(const TravellerRow& row) {
           row.names[Side::EastWest],
           ContractSymbols(row.ContractText()),
           row.declarer ? std::string(SeatLetter(*row.declarer)) : "",
-          row.lead ? LeadText(*row.lead) : "",
+          row.lead ? CardText(*row.lead) : "",
           row.tricks ? std::to_string(*row.tricks) : "",
           row.score && score >= 0 ? std::to_string(score) : row.adjusted,
           row.score && score < 0 ? std::to_string(-score) : "",

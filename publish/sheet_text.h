@@ -1,4 +1,4 @@
-// The texts of a board as they stand on a sheet of paper: short, with suit symbols.
+// The texts of a board as they stand on paper and in diagrams: short, with suit symbols.
 #pragma once
 
 #include <string>

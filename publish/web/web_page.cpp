@@ -6,6 +6,7 @@
 
 #include "core/text.h"
 #include "formats/pbn/pbn_writer.h"
+#include "publish/html_text.h"
 #include "publish/web/page_text.h"
 #include "publish/web/web_data.h"
 
@@ -13,30 +14,6 @@ namespace tricklet {
 namespace {
 
 constexpr std::string_view kGenerator = R"(<meta name="generator" content="Tricklet">)";
-
-/// `text` as the text of an element or the value of an attribute in double quotes.
-std::string HtmlText(std::string_view text) {
-  std::string html;
-  for (const char c : MendUtf8(std::string(text))) {
-    switch (c) {
-      case '&':
-        html += "&amp;";
-        break;
-      case '<':
-        html += "&lt;";
-        break;
-      case '>':
-        html += "&gt;";
-        break;
-      case '"':
-        html += "&quot;";
-        break;
-      default:
-        html += c;
-    }
-  }
-  return html;
-}
 
 struct Part {
   std::string_view place;  // in `kPageText`
@@ -71,7 +48,7 @@ bool HasUnreadCall(const CallList& calls) {
 }  // namespace
 
 std::string WebPage(const Published& published, const WebChoices& choices) {
-  const std::array<Part, 4> parts{{{"{{title}}", HtmlText(Showable(choices.title))},
+  const std::array<Part, 4> parts{{{"{{title}}", HtmlText(MendUtf8(Showable(choices.title)))},
                                    {"{{date}}", HtmlText(choices.date)},
                                    {"{{pbn}}", kWebPbnName},
                                    {"{{data}}", WebData(published, choices)}}};

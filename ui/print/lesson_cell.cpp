@@ -1,7 +1,6 @@
 #include "ui/print/lesson_cell.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 #include <QPainter>
@@ -25,22 +24,20 @@ constexpr double kRow = 1.35;         // height of a row of the auction, the sam
 constexpr double kContractGap = 0.5;  // above the contract, the same
 constexpr double kContractLines = kContractGap + 2 * kLineHeight;  // contract and lead
 
-constexpr std::array kCallSeats{Seat::West, Seat::North, Seat::East, Seat::South};
-
 /// Fonts of 7.5 to 13 points, as the cell is small or large.
 double TextSize(QSizeF cell) {
   return std::clamp(std::sqrt(cell.width() * cell.height()) / 36, 7.5, 13.0);
 }
 
 double AuctionHeight(const PublishedBoard& published, double size) {
-  const auto rows = static_cast<double>(CallRowsOf(published.board).size());
+  const auto rows = static_cast<double>(CallRows(published.board).size());
   return ((rows + 1) * kRow + kContractLines) * size;
 }
 
 /// Returns the lower edge.
 double PaintCalls(QPainter& painter, const Board& board, const QRectF& room, double size,
                   const PrintStyle& style) {
-  const auto rows = CallRowsOf(board);
+  const auto rows = CallRows(board);
   if (rows.empty()) return room.top();
   const double row = std::min(kRow * size, room.height() / static_cast<double>(rows.size() + 1));
   const double column = std::min(kCallWidth * size, room.width() / kSeats);
