@@ -35,10 +35,13 @@ void GetHand(std::string_view& text, HandTable& hands, Seat seat) {
   }
 }
 
+bool HasCards(const PerSuit<Holding>& hand) {
+  return std::any_of(hand.begin(), hand.end(), [](Holding holding) { return !holding.Empty(); });
+}
+
 bool HasCards(const HandTable& hands) {
-  return std::any_of(hands.begin(), hands.end(), [](const PerSuit<Holding>& hand) {
-    return std::any_of(hand.begin(), hand.end(), [](Holding holding) { return !holding.Empty(); });
-  });
+  return std::any_of(hands.begin(), hands.end(),
+                     [](const PerSuit<Holding>& hand) { return HasCards(hand); });
 }
 
 void GetContract(Board& board) {

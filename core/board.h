@@ -54,6 +54,7 @@ void AddCard(HandTable& hands, Card card, Seat seat);
 /// that blank. Suits that are not given become void, and a hand given as "-" has no cards.
 void GetHand(std::string_view& text, HandTable& hands, Seat seat);
 
+bool HasCards(const PerSuit<Holding>& hand);
 bool HasCards(const HandTable& hands);
 
 /// Derives `contract`, `declarer`, `trumps` and `contractLevel` from the calls and the dealer. The

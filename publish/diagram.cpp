@@ -90,9 +90,7 @@ std::string DiagramRanks(Holding holding) {
 }
 
 bool HandSeen(const SeenBoard& seen, Seat seat) {
-  const PerSuit<Holding>& hand = seen.board.hands[seat];
-  return !seen.hidden[seat] &&
-         std::any_of(hand.begin(), hand.end(), [](Holding suit) { return !suit.Empty(); });
+  return !seen.hidden[seat] && HasCards(seen.board.hands[seat]);
 }
 
 std::optional<Card> CardOnTable(const SeenBoard& seen, Seat seat) {

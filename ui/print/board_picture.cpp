@@ -5,7 +5,9 @@
 #include <QPainter>
 
 #include "ui/print/diagram.h"
+#include "ui/print/painted_calls.h"
 #include "ui/print/print_style.h"
+#include "ui/print/raster.h"
 #include "ui/print/svg_page.h"
 #include "ui/style/qt_text.h"
 
@@ -19,8 +21,6 @@ constexpr double kLine = kSize * kLineHeight;
 constexpr double kSpace = kLine / 2;  // between hands, calls and foot
 
 constexpr double kScreenDots = 96;  // to the inch
-constexpr double kPointsToInch = 72;
-constexpr double kMetresToInch = 0.0254;
 
 /// "North Ann · South Bob", "East Cy · West Di", of those who are known.
 QStringList PlayersLines(const SeenBoard& seen) {
@@ -53,23 +53,12 @@ HandsDiagram HandsOf(const SeenBoard& seen) {
   return hands;
 }
 
-/// Paints the calls below `top` and returns where they end.
-double PaintCalls(QPainter& painter, const SeenBoard& seen, double top, double width,
-                  const PrintStyle& style) {
-  const auto rows = DiagramCalls(seen);
-  if (rows.empty()) return top;
-  const double column = width / kSeats;
-  const auto row = [&](const CallRow& texts, bool bold) {
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-      const QRectF place(kMargin + static_cast<double>(i) * column, top, column, kLine);
-      PaintLine(painter, place, ToQt(texts.at(i)),
-                {.size = kSize, .bold = bold, .colour = style.Text()}, style);
-    }
-    top += kLine;
-  };
-  row({"West", "North", "East", "South"}, true);
-  for (const CallRow& texts : rows) row(texts, false);
-  return top + kSpace;
+CallColumns ColumnsOf(double width, const PrintStyle& style) {
+  CallColumns columns{.headings = {}, .size = kSize, .row = kLine, .column = width / kSeats};
+  for (std::size_t i = 0; i < kCallSeats.size(); ++i) {
+    columns.headings.at(i) = {ToQt(SeatName[kCallSeats.at(i)]), style.Text()};
+  }
+  return columns;
 }
 
 }  // namespace
@@ -89,7 +78,10 @@ void PaintBoardPicture(QPainter& painter, const SeenBoard& seen, const PrintStyl
   const QSizeF hands = DiagramSize(kSize);
   PaintDiagram(painter, HandsOf(seen), QRectF(QPointF(kMargin, kMargin), hands), style);
   double top = kMargin + hands.height() + kSpace;
-  top = PaintCalls(painter, seen, top, hands.width(), style);
+  if (const auto calls = DiagramCalls(seen); !calls.empty()) {
+    top = PaintCalls(painter, {kMargin, top}, calls, ColumnsOf(hands.width(), style), style);
+    top += kSpace;
+  }
   for (const QString& line : FootLines(seen)) {
     PaintLine(painter, QRectF(kMargin, top, hands.width(), kLine), line,
               {.size = kSize, .colour = style.Text()}, style);
@@ -98,17 +90,8 @@ void PaintBoardPicture(QPainter& painter, const SeenBoard& seen, const PrintStyl
 }
 
 QImage BoardImage(const SeenBoard& seen, const PrintStyle& style, double scale) {
-  const double dots = scale * kScreenDots / kPointsToInch;
-  QImage image((BoardPictureSize(seen) * dots).toSize(), QImage::Format_RGB32);
-  image.fill(Qt::white);  // to the last dot
-  const int perMetre = qRound(scale * kScreenDots / kMetresToInch);
-  image.setDotsPerMeterX(perMetre);
-  image.setDotsPerMeterY(perMetre);
-  QPainter painter(&image);
-  painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-  painter.scale(dots, dots);
-  PaintBoardPicture(painter, seen, style);
-  return image;
+  return Raster(BoardPictureSize(seen), scale * kScreenDots,
+                [&](QPainter& painter) { PaintBoardPicture(painter, seen, style); });
 }
 
 QByteArray BoardSvg(const SeenBoard& seen, const PrintStyle& style) {

@@ -25,15 +25,6 @@ constexpr double kSmall = 0.85;  // font of what is beside the hands
 constexpr double kMiddle = 0.37;
 constexpr double kRight = 0.66;
 
-void PaintHand(QPainter& painter, const PerSuit<Holding>& hand, const QRectF& room, double size,
-               const PrintStyle& style) {
-  double baseline = room.top() + (kLineHeight + 0.72) / 2 * size;
-  for (const Suit suit : kAllSuits) {
-    PaintHolding(painter, {room.left(), baseline}, room.width(), suit, hand[suit], size, style);
-    baseline += kLineHeight * size;
-  }
-}
-
 /// The place of a letter beside the side of `box` that `seat` faces.
 QRectF AtSide(const QRectF& box, Seat seat, double size) {
   QRectF place(0, 0, size * kLineHeight, size * kLineHeight);
@@ -119,6 +110,15 @@ void PaintPoints(QPainter& painter, const HandsDiagram& diagram, const DiagramPl
 
 }  // namespace
 
+void PaintHand(QPainter& painter, const PerSuit<Holding>& hand, const QRectF& room, double size,
+               const PrintStyle& style) {
+  double baseline = room.top() + (kLineHeight + 0.72) / 2 * size;
+  for (const Suit suit : kAllSuits) {
+    PaintHolding(painter, {room.left(), baseline}, room.width(), suit, hand[suit], size, style);
+    baseline += kLineHeight * size;
+  }
+}
+
 HandsDiagram DiagramOf(const Board& board) {
   HandsDiagram diagram{.boardNumber = board.boardNumber,
                        .dealer = board.Dealer(),
@@ -127,7 +127,7 @@ HandsDiagram DiagramOf(const Board& board) {
   const Statistics statistics = GetStats(board.hands);
   for (const Seat seat : kAllSeats) {
     // A hand without cards is not known, and no four voids.
-    diagram.shown[seat] = statistics.seatCardCount[seat] > 0;
+    diagram.shown[seat] = HasCards(board.hands[seat]);
     if (diagram.shown[seat]) diagram.points[seat] = statistics.seatHcp[seat];
   }
   return diagram;

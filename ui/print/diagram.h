@@ -25,6 +25,11 @@ struct HandsDiagram {
 /// The board as it was dealt, with number and points. A hand without cards is not shown.
 HandsDiagram DiagramOf(const Board& board);
 
+/// Paints a line for each suit from the upper edge of `room` on, in fonts of `size`, narrower where
+/// its width asks for that.
+void PaintHand(QPainter& painter, const PerSuit<Holding>& hand, const QRectF& room, double size,
+               const PrintStyle& style);
+
 /// Where the parts of a diagram stand.
 struct DiagramPlaces {
   double size = 0;        ///< of the font that the hands are written in

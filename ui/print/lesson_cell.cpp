@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include "publish/sheet_text.h"
+#include "ui/print/painted_calls.h"
 #include "ui/print/paragraph.h"
 #include "ui/print/record_cell.h"
 #include "ui/style/qt_text.h"
@@ -34,28 +35,20 @@ double AuctionHeight(const PublishedBoard& published, double size) {
   return ((rows + 1) * kRow + kContractLines) * size;
 }
 
-/// Returns the lower edge.
-double PaintCalls(QPainter& painter, const Board& board, const QRectF& room, double size,
-                  const PrintStyle& style) {
-  const auto rows = CallRows(board);
-  if (rows.empty()) return room.top();
-  const double row = std::min(kRow * size, room.height() / static_cast<double>(rows.size() + 1));
-  const double column = std::min(kCallWidth * size, room.width() / kSeats);
-  TextStyle text{.size = std::min(size, row / kLineHeight), .colour = style.Text()};
-  for (std::size_t x = 0; x < kSeats; ++x) {
-    QRectF place(room.left() + static_cast<double>(x) * column, room.top(), column, row);
-    const QRectF head = place;
-    for (const CallRow& calls : rows) {
-      place.moveTop(place.bottom());
-      PaintLine(painter, place, ToQt(calls.at(x)), text, style);
-    }
-    const Seat seat = kCallSeats.at(x);
+/// The auction as large as it fits `room`, at the most in `size`.
+CallColumns ColumnsIn(const QRectF& room, const Board& board, std::size_t rows, double size,
+                      const PrintStyle& style) {
+  CallColumns columns;
+  columns.row = std::min(kRow * size, room.height() / static_cast<double>(rows + 1));
+  columns.column = std::min(kCallWidth * size, room.width() / kSeats);
+  columns.size = std::min(size, columns.row / kLineHeight);
+  for (std::size_t i = 0; i < kCallSeats.size(); ++i) {
+    const Seat seat = kCallSeats.at(i);
     const bool vulnerable = IsVulnerable(board.Vulnerability(), SideOf(seat));
-    const QColor colour = vulnerable ? style.Vulnerable() : style.Text();
-    PaintLine(painter, head, ToQt(SeatLetter(seat)),
-              {.size = text.size, .bold = true, .colour = colour}, style);
+    columns.headings.at(i) = {ToQt(SeatLetter(seat)),
+                              vulnerable ? style.Vulnerable() : style.Text()};
   }
-  return room.top() + row * static_cast<double>(rows.size() + 1);
+  return columns;
 }
 
 /// Calls, contract and lead.
@@ -63,7 +56,9 @@ void PaintAuction(QPainter& painter, const PublishedBoard& published, const QRec
                   double size, const PrintStyle& style) {
   QRectF calls = room;
   calls.setBottom(room.bottom() - kContractLines * size);
-  const double end = PaintCalls(painter, published.board, calls, size, style);
+  const auto rows = CallRows(published.board);
+  const double end = PaintCalls(painter, calls.topLeft(), rows,
+                                ColumnsIn(calls, published.board, rows.size(), size, style), style);
   QRectF line(room.left(), end + kContractGap * size, room.width(), kLineHeight * size);
   for (const std::string& text : ContractLines(published)) {
     if (line.bottom() > room.bottom() + kRounding) return;

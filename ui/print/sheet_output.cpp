@@ -13,14 +13,12 @@
 #include "core/fault.h"
 #include "core/host.h"
 #include "disk/file_io.h"
+#include "ui/print/raster.h"
 #include "ui/print/svg_page.h"
 #include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
 namespace {
-
-constexpr double kPointsPerInch = 72;
-constexpr double kInchesPerMetre = 1 / 0.0254;
 
 bool GoesOn(const PageStep& step, int page, int pages) {
   return !step || step(page, pages);
@@ -31,18 +29,10 @@ QSizeF PaperOf(const Sheets& sheets) {
 }
 
 QByteArray PngOf(const Sheets& sheets, int page) {
-  const double scale = kPictureResolution / kPointsPerInch;
-  QImage picture((PaperOf(sheets) * scale).toSize(), QImage::Format_RGB32);
+  const QImage picture = Raster(PaperOf(sheets), kPictureResolution,
+                                [&](QPainter& painter) { sheets.Paint(painter, page); });
   if (picture.isNull())
     throw Fault(FaultNumber::Unexpected, "There is not enough memory for the picture");
-  const int dotsPerMetre = static_cast<int>(kPictureResolution * kInchesPerMetre);
-  picture.setDotsPerMeterX(dotsPerMetre);
-  picture.setDotsPerMeterY(dotsPerMetre);
-  picture.fill(Qt::white);
-  QPainter painter(&picture);
-  painter.scale(scale, scale);
-  sheets.Paint(painter, page);
-  painter.end();
   QByteArray data;
   QBuffer buffer(&data);
   buffer.open(QIODevice::WriteOnly);

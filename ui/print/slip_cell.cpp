@@ -4,7 +4,7 @@
 
 #include <QPainter>
 
-#include "publish/sheet_text.h"
+#include "ui/print/diagram.h"
 #include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
@@ -15,10 +15,6 @@ constexpr double kHeading = 1.4;   // height of number and seat, as a multiple o
 constexpr double kLongest = 10.7;  // symbol and 13 cards, the same
 constexpr double kLine = 0.4;      // in points
 constexpr double kMark = 5;
-
-bool HasCards(const PerSuit<Holding>& hand) {
-  return std::any_of(hand.begin(), hand.end(), [](Holding suit) { return !suit.Empty(); });
-}
 
 }  // namespace
 
@@ -33,12 +29,7 @@ void PaintSlip(QPainter& painter, const Board& board, Seat seat, const QRectF& c
   heading.setLeft(heading.left() + PaintLine(painter, heading, number, text, style) + size);
   PaintLine(painter, heading, ToQt(SeatName[seat]), text, style);
   if (!HasCards(board.hands[seat])) return;  // not known, and no four voids
-  double baseline = heading.bottom() + (kLineHeight + 0.72) / 2 * size;
-  for (const Suit suit : kAllSuits) {
-    PaintHolding(painter, {room.left(), baseline}, room.width(), suit, board.hands[seat][suit],
-                 size, style);
-    baseline += kLineHeight * size;
-  }
+  PaintHand(painter, board.hands[seat], room.adjusted(0, heading.height(), 0, 0), size, style);
 }
 
 void PaintCutMarks(QPainter& painter, const QRectF& cell, const PrintStyle& style) {
