@@ -56,6 +56,51 @@ struct CardTricks {
   std::array<std::int32_t, 13> tricks;  ///< of the side on play, the current trick included
 };
 
+/// A deal before the opening lead, or a position.
+struct BinaryDeal {
+  std::int32_t trump;
+  std::int32_t first;
+  std::array<std::int32_t, 3> trickSuit;
+  std::array<std::int32_t, 3> trickRank;
+  /// By seat and suit: bit r for rank r, 2..14.
+  std::array<std::array<std::uint32_t, 4>, 4> cardsLeft;
+};
+
+/// The cards of a play in their order.
+struct PlayedCards {
+  std::int32_t count;
+  std::array<std::int32_t, 52> suit;
+  std::array<std::int32_t, 52> rank;  ///< 2..14
+};
+
+/// What declarer ends with before the first card of a play and after each; not after those of the
+/// last trick.
+struct PlayOutcome {
+  std::int32_t count;
+  std::array<std::int32_t, 53> tricks;
+};
+
+inline constexpr int kPlaySlots = 200;
+
+struct PlayDeals {
+  std::int32_t count;
+  std::array<BinaryDeal, kPlaySlots> deals;
+  // How a single position would be searched; plays are not searched so.
+  std::array<std::int32_t, kPlaySlots> target;
+  std::array<std::int32_t, kPlaySlots> solutions;
+  std::array<std::int32_t, kPlaySlots> mode;
+};
+
+struct PlayBatch {
+  std::int32_t count;
+  std::array<PlayedCards, kPlaySlots> plays;
+};
+
+struct PlayOutcomes {
+  std::int32_t count;
+  std::array<PlayOutcome, kPlaySlots> outcomes;
+};
+
 /// What the library tells of itself: its version, and then under 1400 bytes about the machine.
 struct LibraryInfo {
   std::int32_t major;

@@ -31,10 +31,25 @@ struct CardScore {
   int tricks = 0;  ///< the current trick included, 0..13
 };
 
+/// A play, whole or not, of a deal of 13 cards each.
+struct SolverPlay {
+  Strain trumps = Strain::NoTrump;
+  Seat declarer = Seat::North;
+  HandTable hands;          ///< before the opening lead
+  std::vector<Card> cards;  ///< from the opening lead on, 0..52, all of them legal
+  friend bool operator==(const SolverPlay&, const SolverPlay&) = default;
+};
+
+/// The tricks, 0..13, that declarer ends with when all play on double-dummy: before the opening
+/// lead, and after each card. One more than there are cards.
+using PlayTricks = std::vector<int>;
+
 class Solver {
  public:
   /// The most deals of one batch.
   static constexpr int kBatch = 32;
+  /// The most plays of one batch.
+  static constexpr int kPlayBatch = 200;
 
   Solver() = default;
   Solver(const Solver&) = delete;
@@ -55,6 +70,11 @@ class Solver {
   /// The tricks that each legal card of the hand on play leads to, in no particular order; empty
   /// when the solver cannot tell. May be called from any thread.
   virtual std::vector<CardScore> SolveCards(const SolverPosition& position) = 0;
+
+  /// What becomes of at most `kPlayBatch` plays, on all cores; one play is solved on one. Returns
+  /// the text of what went wrong, empty on success. May be called from any thread. A solver that
+  /// has no way of its own for plays is asked for each position.
+  virtual std::string SolvePlays(std::span<const SolverPlay> plays, std::span<PlayTricks> tricks);
 };
 
 }  // namespace tricklet

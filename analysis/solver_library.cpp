@@ -16,6 +16,7 @@
 #include "analysis/deal_text.h"
 #include "analysis/library_file.h"
 #include "analysis/shared_library.h"
+#include "analysis/solve_plays.h"
 #include "core/fault.h"
 #include "core/text.h"
 #include "disk/presence.h"
@@ -32,8 +33,12 @@ using CalcAllTables = std::int32_t(dds::DealBatch*, std::int32_t, std::int32_t*,
                                    dds::ParBatch*);  // CalcAllTablesPBN
 using SolvePosition = std::int32_t(dds::Position, std::int32_t, std::int32_t, std::int32_t,
                                    dds::CardTricks*, std::int32_t);  // SolveBoardPBN
-using LibraryInfo = void(dds::LibraryInfo*);                         // GetDDSInfo
-using StatusText = void(std::int32_t, char*);                        // ErrorMessage
+using AnalysePlay = std::int32_t(dds::BinaryDeal, dds::PlayedCards, dds::PlayOutcome*,
+                                 std::int32_t);  // AnalysePlayBin
+using AnalyseAllPlays = std::int32_t(dds::PlayDeals*, dds::PlayBatch*, dds::PlayOutcomes*,
+                                     std::int32_t);  // AnalyseAllPlaysBin
+using LibraryInfo = void(dds::LibraryInfo*);         // GetDDSInfo
+using StatusText = void(std::int32_t, char*);        // ErrorMessage
 
 dds::DealText ToBuffer(const std::string& deal) {
   dds::DealText buffer{};
@@ -65,6 +70,8 @@ bool IsPlausible(std::span<const SolverRecord> records) {
   });
 }
 
+constexpr const char* kImpossibleAnswer = "The double-dummy solver gave an answer that cannot be";
+
 class LibrarySolver : public Solver {
  public:
   explicit LibrarySolver(const SharedLibrary& library)
@@ -72,6 +79,8 @@ class LibrarySolver : public Solver {
         calcTable_(library.Entry<CalcTable>("CalcDDtablePBN")),
         calcAllTables_(library.Entry<CalcAllTables>("CalcAllTablesPBN")),
         solvePosition_(library.Entry<SolvePosition>("SolveBoardPBN")),
+        analysePlay_(library.Entry<AnalysePlay>("AnalysePlayBin")),
+        analyseAllPlays_(library.Entry<AnalyseAllPlays>("AnalyseAllPlaysBin")),
         libraryInfo_(library.Entry<LibraryInfo>("GetDDSInfo")),
         statusText_(library.Entry<StatusText>("ErrorMessage")) {}
 
@@ -98,12 +107,16 @@ class LibrarySolver : public Solver {
       }
     }
     if (status != dds::kNoFault) return TextOf(status);
-    return IsPlausible(records) ? "" : "The double-dummy solver gave an answer that cannot be";
+    return IsPlausible(records) ? "" : kImpossibleAnswer;
   }
 
   std::vector<CardScore> SolveCards(const SolverPosition& position) override;
+  std::string SolvePlays(std::span<const SolverPlay> plays, std::span<PlayTricks> tricks) override;
 
  private:
+  std::int32_t SolvePlayBatch(std::span<const SolverPlay> plays,
+                              std::vector<dds::PlayOutcome>& outcomes);
+
   std::int32_t SolveOne(const std::string& deal, SolverRecord& record) {
     dds::DealText buffer = ToBuffer(deal);
     if (calcTableVB_ != nullptr) return calcTableVB_(&buffer, record.data());
@@ -141,6 +154,8 @@ class LibrarySolver : public Solver {
   CalcTable* calcTable_;
   CalcAllTables* calcAllTables_;
   SolvePosition* solvePosition_;
+  AnalysePlay* analysePlay_;
+  AnalyseAllPlays* analyseAllPlays_;
   LibraryInfo* libraryInfo_;
   StatusText* statusText_;
 };
@@ -186,6 +201,77 @@ std::vector<CardScore> LibrarySolver::SolveCards(const SolverPosition& position)
   return scores;
 }
 
+dds::BinaryDeal ToBinary(const SolverPlay& play) {
+  dds::BinaryDeal deal{};
+  deal.trump = IndexOf(play.trumps);
+  deal.first = IndexOf(SeatAfter(play.declarer));
+  for (const Seat seat : kAllSeats) {
+    for (const Suit suit : kAllSuits) {
+      std::uint32_t& bits = deal.cardsLeft.at(IndexOf(seat)).at(IndexOf(suit));
+      for (int rank = 0; rank < kRanks; ++rank) {
+        const bool has = play.hands[seat][suit].Has(static_cast<Rank>(rank));
+        if (has) bits |= 1U << static_cast<unsigned>(ToLibraryRank(static_cast<Rank>(rank)));
+      }
+    }
+  }
+  return deal;
+}
+
+dds::PlayedCards ToPlayed(const std::vector<Card>& cards) {
+  dds::PlayedCards played{};
+  for (const Card card : cards) {
+    const auto at = static_cast<std::size_t>(played.count++);
+    played.suit.at(at) = IndexOf(card.suit);
+    played.rank.at(at) = ToLibraryRank(card.rank);
+  }
+  return played;
+}
+
+/// The last trick cannot go otherwise, so the library leaves its cards out. False where it leaves
+/// out more, or tells what cannot be.
+bool TakeOutcome(const dds::PlayOutcome& outcome, std::size_t cards, PlayTricks& tricks) {
+  const std::size_t wanted = std::min(cards, kCardsBeforeLastTrick) + 1;
+  if (outcome.count < 0 || static_cast<std::size_t>(outcome.count) < wanted) return false;
+  tricks.assign(outcome.tricks.begin(), outcome.tricks.begin() + static_cast<int>(wanted));
+  tricks.resize(cards + 1, tricks.back());
+  return std::all_of(tricks.begin(), tricks.end(),
+                     [](int each) { return each >= 0 && each <= kCardsInHand; });
+}
+
+std::int32_t LibrarySolver::SolvePlayBatch(std::span<const SolverPlay> plays,
+                                           std::vector<dds::PlayOutcome>& outcomes) {
+  const auto deals = std::make_unique<dds::PlayDeals>();
+  const auto batch = std::make_unique<dds::PlayBatch>();
+  const auto answer = std::make_unique<dds::PlayOutcomes>();
+  deals->count = batch->count = static_cast<std::int32_t>(plays.size());
+  for (std::size_t i = 0; i < plays.size(); ++i) {
+    deals->deals.at(i) = ToBinary(plays[i]);
+    batch->plays.at(i) = ToPlayed(plays[i].cards);
+  }
+  constexpr std::int32_t kChunk = 1;
+  const std::int32_t status = analyseAllPlays_(deals.get(), batch.get(), answer.get(), kChunk);
+  std::copy_n(answer->outcomes.begin(), outcomes.size(), outcomes.begin());
+  return status;
+}
+
+std::string LibrarySolver::SolvePlays(std::span<const SolverPlay> plays,
+                                      std::span<PlayTricks> tricks) {
+  const bool batch = plays.size() > 1 && analyseAllPlays_ != nullptr;
+  if (!batch && analysePlay_ == nullptr) return Solver::SolvePlays(plays, tricks);
+  std::vector<dds::PlayOutcome> outcomes(plays.size());
+  std::int32_t status = dds::kNoFault;
+  const std::lock_guard lock(mutex_);
+  if (batch) status = SolvePlayBatch(plays, outcomes);
+  for (std::size_t i = 0; !batch && i < plays.size() && status == dds::kNoFault; ++i) {
+    status = analysePlay_(ToBinary(plays[i]), ToPlayed(plays[i].cards), &outcomes[i], 0);
+  }
+  if (status != dds::kNoFault) return TextOf(status);
+  for (std::size_t i = 0; i < plays.size(); ++i) {
+    if (!TakeOutcome(outcomes[i], plays[i].cards.size(), tricks[i])) return kImpossibleAnswer;
+  }
+  return {};
+}
+
 /// Stands in where no library was found.
 class MissingSolver : public Solver {
  public:
@@ -196,6 +282,10 @@ class MissingSolver : public Solver {
     return why_;
   }
   std::vector<CardScore> SolveCards(const SolverPosition& /*position*/) override { return {}; }
+  std::string SolvePlays(std::span<const SolverPlay> /*plays*/,
+                         std::span<PlayTricks> /*tricks*/) override {
+    return why_;
+  }
 
  private:
   std::string why_;
