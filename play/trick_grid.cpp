@@ -1,21 +1,11 @@
 #include "play/trick_grid.h"
 
 #include <algorithm>
-#include <bit>
+
+#include "play/played_record.h"
 
 namespace tricklet {
 namespace {
-
-/// The card that led from one state to the next; nothing for a claim.
-std::optional<Card> CardBetween(const PlayState& before, const PlayState& after) {
-  if (!before.onPlay) return std::nullopt;
-  for (const Suit suit : kAllSuits) {
-    const Holding gone =
-        before.cardsLeft[*before.onPlay][suit] - after.cardsLeft[*before.onPlay][suit];
-    if (!gone.Empty()) return Card{suit, static_cast<Rank>(std::countr_zero(gone.Bits()))};
-  }
-  return std::nullopt;
-}
 
 int GivenBy(Card card, const std::vector<CardScore>& scores) {
   std::optional<int> own;
