@@ -38,6 +38,8 @@ void AddPlayCommands(CLI::App& app, Command& command);
 void AddDiagramCommand(CLI::App& app, Command& command);
 /// traveller.
 void AddResultCommands(CLI::App& app, Command& command);
+/// review.
+void AddReviewCommand(CLI::App& app, Command& command);
 /// publish.
 void AddPublishCommands(CLI::App& app, Command& command);
 /// analyse, link.

@@ -124,6 +124,7 @@ int ParseAndExecute(const std::vector<std::string>& arguments, SettingsStore& st
   AddPlayCommands(app, command);
   AddDiagramCommand(app, command);
   AddResultCommands(app, command);
+  AddReviewCommand(app, command);
   AddPublishCommands(app, command);
   AddAnalysisCommands(app, command);
   AddEditCommands(app, command);

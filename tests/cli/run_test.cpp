@@ -1,4 +1,5 @@
 #include "tests/cli/command_line.h"
+#include "tests/support/fake_solver.h"
 
 namespace tricklet::test {
 namespace {
@@ -94,6 +95,28 @@ TEST_F(CommandLine, PrintsDiagrams) {
   EXPECT_NE(out.find(north), std::string::npos) << out;
   EXPECT_EQ(Answer("diagram 8"), "1 There is no board 8 in library Default\n");
   EXPECT_EQ(Run("diagram 7 --hands X"), 2);
+}
+
+TEST_F(CommandLine, ReviewsAPlay) {
+  ASSERT_EQ(Run("import @in.pbn"), 0);
+  WriteFile(
+      Root() / "Default" / "LIN.txt",
+      "[BoardScoringMethod]\nMATCH_POINTS\n[LIN]\n"
+      "pn|A,B,C,D|ah|Board 7|qens|-50|\n"
+      "pn|A,B,C,D|md|1SQT62HKQ62DK93CK8,SKJ4HT95DT76CAJ96,SA873HAJ83D52CQ32,S95H74DAQJ84CT754|"
+      "ah|Board 7|mb|4S|mb|d|mb|p|mb|p|mb|p|pc|HT|pc|H3|pc|C5|qent|9|\n");
+  FakeSolver fake;  // the side on play has eight tricks to come, however many are left
+  fake.solveCards = [](const SolverPosition&) { return std::vector<CardScore>{{{}, 8}}; };
+  solver = [&fake]() -> Solver& { return fake; };
+  EXPECT_EQ(Answer("review 7"),
+            "0 Contract: 4Sx S\n1\tW\tH10\t8\t3\n2\tN\tH3\t5\t3\nN\t3\nE\t0\nS\t0\nW\t3\n"
+            "Double-dummy: every card seen. Declarer could make 5 tricks and made 9, which cost "
+            "East-West 0 %.\n"
+            "Card 3, the \u26635 by East, is against the rules: reviewed up to there\n");
+  EXPECT_EQ(Answer("review 7 --table 1"), "1 There is no review of an incomplete deal\n");
+  EXPECT_EQ(Answer("review 7 --table 3"), "1 There is no table 3 of board 7\n");
+  EXPECT_EQ(Answer("review 8"), "1 There is no play of board 8\n");
+  EXPECT_EQ(Run("review 7 --table 0"), 2);
 }
 
 TEST_F(CommandLine, ShowsTheTravellerOfABoardAndTheRanking) {

@@ -29,4 +29,26 @@ inline std::vector<Card> LegalCards(const CardPlay& play) {
   return cards;
 }
 
+/// The first `count` cards of a legal play of `board`, at random.
+inline std::vector<Card> RandomCards(const Board& board, int count, RandomSource& random) {
+  HandTable left = board.hands;
+  Seat onPlay = SeatAfter(board.declarer);
+  Trick trick;
+  std::vector<Card> cards;
+  while (static_cast<int>(cards.size()) < count) {
+    std::vector<Card> legal;
+    const PerSuit<Holding> holdings = trick.LegalCards(left[onPlay]);
+    for (int index = 0; index < kCardsInPack; ++index) {
+      const Card card = Card::FromIndex(index);
+      if (holdings[card.suit].Has(card.rank)) legal.push_back(card);
+    }
+    cards.push_back(legal[random.Below(static_cast<std::uint32_t>(legal.size()))]);
+    left[onPlay][cards.back().suit].Remove(cards.back().rank);
+    trick.Add(cards.back(), onPlay, board.trumps);
+    onPlay = trick.cardsInTrick == kSeats ? trick.trickWinner : SeatAfter(onPlay);
+    if (trick.cardsInTrick == kSeats) trick.cardsInTrick = 0;
+  }
+  return cards;
+}
+
 }  // namespace tricklet::test
