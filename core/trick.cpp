@@ -1,5 +1,7 @@
 #include "core/trick.h"
 
+#include <bit>
+
 namespace tricklet {
 
 PerSuit<Holding> Trick::LegalCards(const PerSuit<Holding>& hand) const {
@@ -25,6 +27,16 @@ void Trick::Add(Card card, Seat seat, Strain trumps) {
     bestTrump = card.rank;
     trickWinner = seat;
   }
+}
+
+std::optional<Card> OnlyCardOf(const PerSuit<Holding>& cards) {
+  std::optional<Card> only;
+  for (const Suit suit : kAllSuits) {
+    if (cards[suit].Empty()) continue;
+    if (only || cards[suit].Count() > 1) return std::nullopt;
+    only = Card{suit, static_cast<Rank>(std::countr_zero(cards[suit].Bits()))};
+  }
+  return only;
 }
 
 }  // namespace tricklet

@@ -24,4 +24,7 @@ struct Trick {
   friend bool operator==(const Trick&, const Trick&) = default;
 };
 
+/// The one card of `cards`; nothing when there are more, or none.
+std::optional<Card> OnlyCardOf(const PerSuit<Holding>& cards);
+
 }  // namespace tricklet

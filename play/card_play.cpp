@@ -1,12 +1,39 @@
 #include "play/card_play.h"
 
-#include <bit>
+#include <algorithm>
+#include <span>
 #include <stdexcept>
 
 #include "core/scoring.h"
 #include "core/statistics.h"
 
 namespace tricklet {
+
+void PlayState::PlayToTrick(Card card, Strain trumps) {
+  const Seat seat = onPlay.value_or(Seat::North);
+  trickGathered = false;
+  trickCards[seat] = card;
+  cardsLeft[seat][card.suit].Remove(card.rank);
+  Add(card, seat, trumps);
+  onPlay = SeatAfter(seat);
+  if (cardsInTrick < kSeats) return;
+  cardsInTrick = 0;
+  lastTrick = trickCards;
+  WinTrick(SideOf(trickWinner));
+  onPlay = trickWinner;
+  if (tricksPlayed == kTricks) onPlay.reset();
+}
+
+void PlayState::Gather() {
+  trickCards.fill(std::nullopt);
+  trickGathered = true;
+}
+
+void PlayState::WinTrick(Side side) {
+  lastTrickSide = side;
+  ++tricksWon[side];
+  trickSides.at(static_cast<std::size_t>(tricksPlayed++)) = side;
+}
 
 bool CardPlay::NeedsAuction(const Board& board) {
   return board.contractLevel == 0;
@@ -18,12 +45,43 @@ bool CardPlay::Start() {
     return false;
   }
   if (board_.contractLevel == 0 || !GetStats(board_.hands).allHandsComplete) return false;
+  recorded_.reset();
+  Begin(board_.declarer);
+  return true;
+}
+
+void CardPlay::Begin(Seat declarer) {
   timer_.Stop();
   state_ = PlayState();
-  state_.onPlay = SeatAfter(board_.declarer);
+  state_.onPlay = SeatAfter(declarer);
   state_.cardsLeft = board_.hands;
   undoTop_ = 0;
   board_.playMode = true;
+}
+
+std::string CardPlay::WhyNotPlayOn(const Board& board, const RecordedPlay& record) {
+  if (record.board.contract == kAllPass) return "The board was passed out at this table";
+  if (record.board.contractLevel == 0) return "The record has no contract to play";
+  if (!GetStats(record.board.hands).allHandsComplete) {
+    return "The record has not all four hands";
+  }
+  if (record.board.hands != board.hands) return "The record is of another deal than the board";
+  return "";
+}
+
+bool CardPlay::PlayOn(const RecordedPlay& record, int cards) {
+  if (const std::string why = WhyNotPlayOn(board_, record); !why.empty()) {
+    host_.Tell(why);
+    return false;
+  }
+  recorded_ = record.board;
+  Begin(record.board.declarer);
+  for (const Card card :
+       std::span(record.cards)
+           .first(std::min(record.cards.size(), static_cast<std::size_t>(std::max(cards, 0))))) {
+    if (!IsLegal(card)) break;
+    Play(card);
+  }
   return true;
 }
 
@@ -64,26 +122,19 @@ bool CardPlay::IsLegal(Card card) const {
 }
 
 std::optional<Card> CardPlay::OnlyLegalCard() const {
-  std::optional<Card> only;
-  const PerSuit<Holding> legal = LegalCards();
-  for (const Suit suit : kAllSuits) {
-    if (legal[suit].Empty()) continue;
-    if (only || legal[suit].Count() > 1) return std::nullopt;
-    only = Card{suit, static_cast<Rank>(std::countr_zero(legal[suit].Bits()))};
-  }
-  return only;
+  return OnlyCardOf(LegalCards());
 }
 
 bool CardPlay::Play(Card card) {
   if (!PlayMode() || SeatHolding(state_.cardsLeft, card) < 0) return false;
-  const Seat onPlay = state_.onPlay.value_or(Seat::North);
   if (!IsLegal(card)) {
     host_.Beep();
     return false;
   }
   Remember();
   if (state_.cardsInTrick == 0 && state_.tricksPlayed > 0) QuitTrick();
-  PutOnTable(card, onPlay);
+  state_.PlayToTrick(card, Played().trumps);
+  if (state_.cardsInTrick == 0) timer_.Start(kTrickDelay);
   return true;
 }
 
@@ -91,38 +142,10 @@ void CardPlay::Remember() {
   undoRecords_.at(static_cast<std::size_t>(undoTop_++)) = state_;
 }
 
-void CardPlay::PutOnTable(Card card, Seat seat) {
-  state_.trickGathered = false;
-  state_.trickCards[seat] = card;
-  state_.cardsLeft[seat][card.suit].Remove(card.rank);
-  state_.Add(card, seat, board_.trumps);
-  if (state_.cardsInTrick == kSeats) {
-    FinishTrick();
-  } else {
-    state_.onPlay = SeatAfter(seat);
-  }
-}
-
-void CardPlay::WinTrick(Side side) {
-  state_.lastTrickSide = side;
-  ++state_.tricksWon[side];
-  state_.trickSides.at(static_cast<std::size_t>(state_.tricksPlayed++)) = side;
-}
-
-void CardPlay::FinishTrick() {
-  state_.cardsInTrick = 0;
-  state_.lastTrick = state_.trickCards;
-  WinTrick(SideOf(state_.trickWinner));
-  state_.onPlay = state_.trickWinner;
-  if (state_.tricksPlayed == kTricks) state_.onPlay.reset();
-  timer_.Start(kTrickDelay);
-}
-
 void CardPlay::QuitTrick() {
   timer_.Stop();
   if (!PlayMode() || state_.cardsInTrick != 0) return;
-  state_.trickCards.fill(std::nullopt);
-  state_.trickGathered = true;
+  state_.Gather();
 }
 
 void CardPlay::Undo() {
@@ -149,14 +172,23 @@ std::string CardPlay::ClaimCaption() const {
 void CardPlay::Claim() {
   if (!PlayMode() || !state_.onPlay) return;
   const Side side = SideOf(*state_.onPlay);
+  ClaimTricks(side, MostClaim(side));
+}
+
+bool CardPlay::ClaimTricks(Side side, int tricks) {
+  if (!ClaimEnabled() || tricks < LeastClaim(side) || tricks > MostClaim(side)) return false;
   timer_.Stop();
   Remember();
-  state_.trickCards.fill(std::nullopt);
   state_.cardsInTrick = 0;
-  state_.trickGathered = true;
-  while (state_.tricksPlayed < kTricks) WinTrick(side);
-  state_.onPlay.reset();
+  state_.Gather();
   state_.claimed = true;
+  state_.claimSide = side;
+  state_.claimTricks = tricks - state_.tricksWon[side];
+  while (state_.tricksWon[side] < tricks) state_.WinTrick(side);
+  const Side other = side == Side::NorthSouth ? Side::EastWest : Side::NorthSouth;
+  while (state_.tricksPlayed < kTricks) state_.WinTrick(other);
+  state_.onPlay.reset();
+  return true;
 }
 
 std::string CardPlay::TricksText(Side side) const {
@@ -164,7 +196,8 @@ std::string CardPlay::TricksText(Side side) const {
 }
 
 std::string CardPlay::ScoreText() const {
-  return Finished() ? ResultLine(board_, state_.tricksWon[SideOf(board_.declarer)]) : "";
+  const Board& played = Played();
+  return Finished() ? ResultLine(played, state_.tricksWon[SideOf(played.declarer)]) : "";
 }
 
 }  // namespace tricklet

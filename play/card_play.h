@@ -8,6 +8,7 @@
 
 #include "core/board.h"
 #include "core/host.h"
+#include "core/recorded_play.h"
 #include "core/trick.h"
 
 namespace tricklet {
@@ -49,6 +50,18 @@ struct PlayState : Trick {
   HandTable cardsLeft;        ///< cards still in the hands
   bool trickGathered = true;  ///< the last trick has been cleared from the table
   bool claimed = false;
+  /// After a claim: whose it was, and how many of the tricks left that side has; the others have
+  /// the rest.
+  Side claimSide = Side::NorthSouth;
+  int claimTricks = 0;  ///< 0..13
+
+  /// The seat on play, which holds `card`, plays it to the trick on the table.
+  void PlayToTrick(Card card, Strain trumps);
+  /// Clears the table.
+  void Gather();
+  /// `side` has the next of the tricks.
+  void WinTrick(Side side);
+
   friend bool operator==(const PlayState&, const PlayState&) = default;
 };
 
@@ -65,6 +78,15 @@ class CardPlay {
   /// `cmdPlay` after the auction dialog: starts at the opening lead. False, with "The bidding was
   /// All Pass" for a passed-out board, when the board cannot be played.
   bool Start();
+
+  /// Why the play of `record` cannot become that of `board`: another deal, no contract, no hands. A
+  /// sentence for the person; empty when it can.
+  static std::string WhyNotPlayOn(const Board& board, const RecordedPlay& record);
+  /// Starts with the first `cards` cards of `record` played, each of which `Undo` takes back; fewer
+  /// where one of them is not legal. What is played is the contract of the record: the board keeps
+  /// its own auction. False, after a message, when the play cannot become that of the board.
+  bool PlayOn(const RecordedPlay& record, int cards);
+
   /// Ends the play; the board is as before it.
   void Stop();
 
@@ -76,6 +98,9 @@ class CardPlay {
   std::string LossByStopping() const;
 
   bool PlayMode() const { return board_.playMode; }
+  /// The deal with the auction and the contract that are played: the board, or the record's where a
+  /// play goes on from a record.
+  const Board& Played() const { return PlayMode() && recorded_ ? *recorded_ : board_; }
   const PlayState& Now() const { return state_; }
 
   /// `card` may be played now: the seat on play holds it, and it follows suit or the seat
@@ -105,6 +130,14 @@ class CardPlay {
   /// The side on play takes all tricks that are left. Nothing happens when nobody is on play.
   void Claim();
 
+  /// The tricks, 0..13 in all, that `side` can still claim: those that it has, and with all that
+  /// are left.
+  int LeastClaim(Side side) const { return state_.tricksWon[side]; }
+  int MostClaim(Side side) const { return state_.tricksWon[side] + kTricks - state_.tricksPlayed; }
+  /// Ends the play with `tricks` in all for `side`; the other side has the rest. False, and nothing
+  /// happens, when that cannot be or nobody is on play.
+  bool ClaimTricks(Side side, int tricks);
+
   /// 13 tricks are played or claimed.
   bool Finished() const { return PlayMode() && state_.tricksPlayed == kTricks; }
   /// "NS: 4" and "EW: 2".
@@ -120,14 +153,13 @@ class CardPlay {
   const PlayState& StateAt(int step) const;
 
  private:
+  void Begin(Seat declarer);
   void Remember();
-  void PutOnTable(Card card, Seat seat);
-  void FinishTrick();
-  void WinTrick(Side side);
 
   Board& board_;
   Host& host_;
   TrickTimer& timer_;
+  std::optional<Board> recorded_;  // with its own auction, where a play goes on from a record
   PlayState state_;
   int undoTop_ = 0;
   std::array<PlayState, kCardsInPack> undoRecords_{};  // before each card, and before the claim

@@ -14,9 +14,9 @@ std::optional<Card> CardBetween(const PlayState& before, const PlayState& after)
   return std::nullopt;
 }
 
-RecordedPlay RecordOfPlay(const Board& board, const CardPlay& play) {
+RecordedPlay RecordOfPlay(const CardPlay& play) {
   RecordedPlay record;
-  record.board = board;
+  record.board = play.Played();
   record.board.playMode = false;
   if (!play.PlayMode()) return record;
   for (int step = 0; step < play.UndoTop(); ++step) {
@@ -24,7 +24,7 @@ RecordedPlay RecordOfPlay(const Board& board, const CardPlay& play) {
       record.cards.push_back(*card);
     }
   }
-  if (play.Finished()) record.tricks = play.Now().tricksWon[SideOf(board.declarer)];
+  if (play.Finished()) record.tricks = play.Now().tricksWon[SideOf(record.board.declarer)];
   return record;
 }
 

@@ -62,7 +62,9 @@ TrickGrid MakeTrickGrid(const CardPlay& play, const KnownScores& known) {
     if (const auto card = CardBetween(before, after)) {
       AddCard(grid, *card, before, after, known);
     } else {
-      grid.claimedBy = after.lastTrickSide;
+      grid.claimedBy = after.claimSide;
+      grid.claimed = after.claimTricks;
+      grid.claimedOf = kTricks - before.tricksPlayed;
       if (before.cardsInTrick > 0) ForgetWinner(grid.rows.back());
     }
   }

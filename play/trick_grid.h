@@ -25,7 +25,9 @@ struct TrickGrid {
   int current = -1;       ///< the row of the trick on the table or to be led to; -1 after the play
   std::optional<Seat> toPlay;     ///< the next to play to the current trick; nobody when it is full
   int cards = 0;                  ///< played so far, 0..52
-  std::optional<Side> claimedBy;  ///< the side that has all tricks without a card
+  std::optional<Side> claimedBy;  ///< the side that has claimed tricks without a card
+  int claimed = 0;                ///< how many of them it has, 0..13; the other side has the rest
+  int claimedOf = 0;              ///< how many there were, 1..13
 
   /// Some card gave a trick away.
   bool AnyGiven() const;

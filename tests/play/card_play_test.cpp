@@ -1,10 +1,12 @@
 #include "play/card_play.h"
 
 #include <algorithm>
+#include <functional>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "play/played_record.h"
 #include "tests/support/calls.h"
 #include "tests/support/hands.h"
 #include "tests/support/plays.h"
@@ -186,6 +188,87 @@ TEST_F(PlayTest, EditingAsksOnlyInMidPlay) {
   EXPECT_TRUE(play.EndForEditing());
   EXPECT_FALSE(play.PlayMode());
   EXPECT_FALSE(timer.running);
+}
+
+TEST_F(PlayTest, AClaimOfSomeTricksLeavesTheRestToTheOthers) {
+  const struct {
+    Side side;
+    int tricks;
+    int tricksOfNorthSouth;
+  } kCases[] = {
+      {Side::NorthSouth, 3, 3}, {Side::NorthSouth, 12, 12}, {Side::NorthSouth, 0, 0},
+      {Side::EastWest, 1, 12},  {Side::EastWest, 13, 0},
+  };
+  for (const auto& each : kCases) {
+    ASSERT_TRUE(play.Start());
+    PlayAll({Suit::Hearts, Suit::Diamonds, Suit::Clubs, Suit::Spades});
+    ASSERT_TRUE(play.Play({Suit::Hearts, Rank::Ace}));
+    EXPECT_FALSE(play.ClaimTricks(Side::EastWest, 0)) << "they have one";
+    EXPECT_FALSE(play.ClaimTricks(Side::NorthSouth, 13));
+    const PlayState before = play.Now();
+    ASSERT_TRUE(play.ClaimTricks(each.side, each.tricks));
+    EXPECT_TRUE(play.Finished());
+    EXPECT_EQ(play.Now().tricksWon[Side::NorthSouth], each.tricksOfNorthSouth);
+    EXPECT_EQ(
+        std::count(play.Now().trickSides.begin(), play.Now().trickSides.end(), Side::NorthSouth),
+        each.tricksOfNorthSouth);
+    EXPECT_FALSE(play.ClaimTricks(each.side, each.tricks)) << "nothing is left";
+    play.Undo();
+    EXPECT_EQ(play.Now(), before);
+  }
+}
+
+TEST_F(PlayTest, GoesOnFromARecordInItsContract) {
+  const Board stored = board;
+  RecordedPlay record{board, {}, 13};
+  test::SetAuction(record.board, "P 2D P P P");  // by East, where the board has 1NT by North
+  for (const char* card : {"D2", "C2", "S2", "H2", "D3", "C3", "S4", "S3"}) {
+    record.cards.push_back(test::CardOf(card));
+  }
+  ASSERT_TRUE(play.PlayOn(record, 5));
+  EXPECT_EQ(play.UndoTop(), 5);
+  EXPECT_EQ(play.Now().tricksWon[Side::NorthSouth], 1);
+  EXPECT_EQ(play.Played().contract, "2D");
+  EXPECT_TRUE(play.Play(test::CardOf("CA"))) << "another card than the record's";
+  play.Claim();
+  EXPECT_EQ(play.ScoreText().substr(0, 2), "2D");
+  const std::vector<Card> made = RecordOfPlay(play).cards;
+  EXPECT_EQ(made.size(), 6);
+  EXPECT_EQ(made.back(), test::CardOf("CA"));
+  while (play.UndoEnabled()) play.Undo();
+  EXPECT_EQ(play.Now().onPlay, Seat::South);
+  play.Stop();
+  EXPECT_EQ(board.calls, stored.calls);
+  EXPECT_EQ(board.contract, stored.contract);
+  EXPECT_EQ(play.Played().contract, stored.contract);
+  ASSERT_TRUE(play.PlayOn(record, 52));
+  EXPECT_EQ(play.UndoTop(), 7) << "the eighth card is not East's";
+  ASSERT_TRUE(play.Start());
+  EXPECT_EQ(play.Played().contract, "1NT") << "the board's own again";
+}
+
+TEST_F(PlayTest, APlayOfAnotherDealIsNotTheBoards) {
+  const struct {
+    std::function<void(RecordedPlay&)> change;
+    const char* message;
+  } kCases[] = {
+      {[](RecordedPlay& record) { test::SetAuction(record.board, "P P P P"); },
+       "The board was passed out at this table"},
+      {[](RecordedPlay& record) { test::SetAuction(record.board, ""); },
+       "The record has no contract to play"},
+      {[](RecordedPlay& record) { record.board.hands = {}; }, "The record has not all four hands"},
+      {[](RecordedPlay& record) {
+         std::swap(record.board.hands[Seat::North], record.board.hands[Seat::East]);
+       },
+       "The record is of another deal than the board"},
+  };
+  for (const auto& each : kCases) {
+    RecordedPlay record{board, {}, {}};
+    each.change(record);
+    host.ExpectTell(each.message);
+    EXPECT_FALSE(play.PlayOn(record, 0));
+    EXPECT_FALSE(board.playMode);
+  }
 }
 
 }  // namespace
