@@ -12,12 +12,11 @@
 #include "formats/results/traveller.h"
 #include "library/board_range.h"
 #include "library/session.h"
+#include "library/stored_boards.h"
 
 namespace tricklet {
 
-struct PublishedBoard {
-  Board board;
-  bool complete = false;   ///< four hands of thirteen cards
+struct PublishedBoard : StoredBoard {
   std::optional<Par> par;  ///< of a complete board with a table
   std::string notes;       ///< UTF-8, lines divided by "\n"; empty where there are none
   Traveller traveller;     ///< without rows where there are no results
@@ -29,8 +28,6 @@ struct Published {
   LinFile results;
   std::string whyNoTables;  ///< that were to be computed and are missing; empty when none are
 };
-
-bool LacksTable(const PublishedBoard& published);
 
 /// The ranking of those who have played the boards.
 Ranking RankingOf(const Published& published);
