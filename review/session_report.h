@@ -22,8 +22,9 @@
 //  - Overbid: the contract cannot be made double-dummy, and is worth less double-dummy than par. So
 //    a sacrifice that pays is none.
 //
-// A ruling counts nowhere. A table whose record has another deal than the library's board counts
-// with its result and its play, and without par or anything else that needs the board's table.
+// A table with a ruling counts with its play alone. One whose record has another deal than the
+// library's board counts with its result and its play, and without all that needs the board's
+// table.
 #pragma once
 
 #include <cstddef>
@@ -60,6 +61,14 @@ struct AgainstPar {
   friend bool operator==(const AgainstPar&, const AgainstPar&) = default;
 };
 
+/// A play that has been reviewed.
+struct ReviewedPlay {
+  Seat declarer = Seat::North;  ///< by the record of the play
+  PerSeat<GivenAway> given;     ///< the leader's has a lead, dummy's nothing
+  std::string remark;           ///< why the review ends early; empty where it does not
+  friend bool operator==(const ReviewedPlay&, const ReviewedPlay&) = default;
+};
+
 /// One result of the session.
 struct ReportTable {
   int boardNumber = 0;
@@ -74,9 +83,8 @@ struct ReportTable {
   std::string adjusted;             ///< the score's text where it is a ruling: "A5050"
   std::optional<AgainstPar> par;    ///< North-South's; nothing without a score or a table
   PerSide<BiddingVerdict> bidding;  ///< nothing is set where `par` is missing
-  /// Tricks given away; nothing where there is no play that can be reviewed, or not yet.
-  std::optional<PerSeat<GivenAway>> given;
-  std::string remark;  ///< why its review ends early; empty where it does not
+  /// Nothing where there is no play that can be reviewed, or not yet.
+  std::optional<ReviewedPlay> play;
 
   /// `par` from the point of view of `side`.
   std::optional<AgainstPar> ParOf(Side side) const;
@@ -117,7 +125,7 @@ struct ReportEntrant {
   std::string number;  ///< as in the file; empty where there is none
   std::string names;   ///< "Ann & Bob", of a team "Ann & Bob, Cy & Di"; empty where not known
   std::string field;   ///< "North-South", "East-West"; empty where there is one field only
-  int boards = 0;      ///< with a result; a team has two to a board, one at each table
+  int boards = 0;      ///< with a score; a team has two to a board, one at each table
 
   MeanFigure par;      ///< points against par
   MeanFigure bidding;  ///< and the two parts of it
