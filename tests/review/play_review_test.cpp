@@ -78,6 +78,31 @@ TEST(PlayReview, IsRefusedWithoutSomethingToReview) {
   EXPECT_EQ(why(record), "There is no review of an incomplete deal");
 }
 
+/// A board whose optimum cards were published one by one (The Hague, 1998, round 2, board 16; the
+/// OptimumPlayTable among the examples of the PBN standard): all that was played is among them but
+/// East's king of hearts.
+TEST(PlayReview, AgreesWithAPublishedTableOfOptimumCards) {
+  const auto solver = LoadSolver({});
+  ASSERT_EQ(solver->Missing(), "");
+  RecordedPlay record;
+  record.board.boardNumber = 16;
+  record.board.hands =
+      HandsOf("W:AJ9754.J62.K62.6 32..A954.AQJ9875 KQ86.KQT843.QJ.K T.A975.T873.T432");
+  SetAuction(record.board, "2D 3C 4H 5C P P X P P P");
+  for (const char* card : {"SK", "ST", "S4", "S2", "HK", "H5", "H2", "C7", "S3", "S6", "C2", "S5",
+                           "HA", "H6", "D4", "H3"}) {
+    record.cards.push_back(CardOf(card));
+  }
+  std::string failure;
+  const auto review = ReviewPlay(*solver, record, failure);
+  ASSERT_TRUE(review) << failure;
+  EXPECT_EQ(review->cards.size(), 16U);
+  EXPECT_EQ(review->doubleDummy, 10);
+  EXPECT_EQ(review->MistakeFrom(0), 4U);
+  EXPECT_EQ(review->cards[4].given, 1);
+  EXPECT_FALSE(review->MistakeFrom(5));
+}
+
 TEST(PlayReview, FindsNoMistakeInTheBestPlay) {
   const auto solver = LoadSolver({});
   ASSERT_EQ(solver->Missing(), "");
