@@ -47,6 +47,11 @@ void Replay::PreviousTrick() {
   } while (BackEnabled() && play_.Now().cardsInTrick != 0);
 }
 
+void Replay::GoTo(int cards) {
+  while (BackEnabled() && Shown() > cards) Back();
+  while (ForwardEnabled() && Shown() < cards) Forward();
+}
+
 bool Replay::ForwardBy(Card card) {
   if (!ForwardEnabled() || record_.cards.at(static_cast<std::size_t>(Shown())) != card) {
     return false;

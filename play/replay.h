@@ -31,11 +31,15 @@ class Replay {
   void NextTrick();
   /// To the beginning of the trick, or of the one before.
   void PreviousTrick();
+  /// To where `cards` have been played, 0..52; no further than to the record's end.
+  void GoTo(int cards);
   /// Goes forward if `card` is the next of the record; false, and nothing happens, if it is not.
   bool ForwardBy(Card card);
 
   /// Cards seen so far: 0 before the opening lead, to 52.
   int Shown() const { return play_.UndoTop(); }
+  /// Cards that can be seen: those before the first illegal one, 0..52.
+  int Playable() const { return playable_; }
   /// "Card 5 of 52", at the record's end with a remark when the play is not complete; or why there
   /// is nothing to be seen.
   std::string PlaceText() const;

@@ -54,15 +54,15 @@ TEST_F(ReplayTest, StepsByCardsAndByTricksFromEveryPlace) {
     EXPECT_EQ(replay.ScoreText(), shown < kCardsInPack ? "" : result);
     replay.NextTrick();
     ExpectPlace(replay, std::min(shown / 4 * 4 + 4, kCardsInPack));
-    while (replay.Shown() > shown) replay.Back();
+    replay.GoTo(shown);
     ExpectPlace(replay, shown);
     replay.PreviousTrick();
     ExpectPlace(replay, std::max(shown - 1, 0) / 4 * 4);
-    while (replay.Shown() <= shown && replay.ForwardEnabled()) replay.Forward();
+    replay.GoTo(shown + 1);
   }
   EXPECT_EQ(replay.PlaceText(), "Card 52 of 52");
   replay.Forward();
-  while (replay.BackEnabled()) replay.Back();
+  replay.GoTo(-1);
   replay.Back();
   EXPECT_FALSE(replay.ForwardBy(record.cards[1]));
   ExpectPlace(replay, 0);

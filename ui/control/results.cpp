@@ -69,6 +69,9 @@ void Results::NextTrick() {
 void Results::PreviousTrick() {
   Step([](Replay& replay) { replay.PreviousTrick(); });
 }
+void Results::GoTo(int cards) {
+  Step([cards](Replay& replay) { replay.GoTo(cards); });
+}
 
 void Results::PlayCard(Card card) {
   Step([&](Replay& replay) {

@@ -55,6 +55,7 @@ class Results : public QObject {
   void Back();
   void NextTrick();
   void PreviousTrick();
+  void GoTo(int cards);
   /// Plays a card that was clicked or typed when it is the next of the record; else refuses it.
   void PlayCard(Card card);
 
