@@ -20,6 +20,7 @@ int main(int argc, char** argv) {
       {"ExportBoards", "ReadFilesFloor", 3.0},
       {"OpenLibrary", "OpenFloor", 3.0},
       {"AnalyseBoards", "SolverAloneFloor", 1.05},
+      {"ReviewPlays", "PlayAloneFloor", 1.1},
       {"ImportDlm", "ReadDlmFloor", 2.0},
       {"ImportLinRecords", "ReadLinFloor", 2.0},
       {"ImportUsebio", "UsebioFloor", 2.0},

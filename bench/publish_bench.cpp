@@ -17,11 +17,10 @@ const Published& Evening() {
     Published published;
     published.results = session.results;
     for (const Board& board : session.boards) {
-      published.boards.push_back({.board = board,
-                                  .complete = true,
-                                  .par = {},
-                                  .notes = {},
-                                  .traveller = MakeTraveller(session.results, board.boardNumber)});
+      PublishedBoard& one = published.boards.emplace_back();
+      one.board = board;
+      one.complete = true;
+      one.traveller = MakeTraveller(session.results, board.boardNumber);
     }
     return published;
   }();
