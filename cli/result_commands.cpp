@@ -1,6 +1,4 @@
 // The commands for the results that a library keeps.
-#include <algorithm>
-#include <array>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -17,37 +15,13 @@
 namespace tricklet::cli {
 namespace {
 
-/// The lines in columns as wide as their widest cell; those without any text are left out. Words
-/// stand at the left of their column, numbers at the right.
-template <std::size_t kColumns>
-std::string InColumns(const std::vector<std::array<std::string, kColumns>>& lines,
-                      const std::array<bool, kColumns>& left) {
-  std::array<std::size_t, kColumns> widths{};
-  for (const auto& line : lines) {
-    for (std::size_t i = 0; i < kColumns; ++i) {
-      widths.at(i) = std::max(widths.at(i), CharacterCount(line.at(i)));
-    }
-  }
-  std::string text;
-  for (const auto& line : lines) {
-    std::string aligned;
-    for (std::size_t i = 0; i < kColumns; ++i) {
-      if (widths.at(i) == 0) continue;
-      aligned += (i == 0 ? "" : "  ") + (left.at(i) ? PadRight(line.at(i), widths.at(i))
-                                                    : PadLeft(line.at(i), widths.at(i)));
-    }
-    AppendLine(text, aligned);
-  }
-  return text;
-}
+using Line = std::vector<std::string>;
+using Lefts = std::vector<bool>;
 
 constexpr std::size_t kColumns = 11;
-using Line = std::array<std::string, kColumns>;
-constexpr std::array<bool, kColumns> kLeft{false, false, true,  true,  true, false,
-                                           false, false, false, false, true};
 
 Line LineOf(const TravellerRow& row) {
-  Line line;
+  Line line(kColumns);
   line[0] = row.pair[Side::NorthSouth];
   line[1] = row.pair[Side::EastWest];
   line[2] = row.ContractText();
@@ -69,7 +43,8 @@ std::string TravellerText(const Traveller& traveller) {
   std::vector<Line> lines{{"NS", "EW", "Contract", "By", "Lead", "Tricks", "NS+", "EW+",
                            traveller.scoring, traveller.scoring, "Names"}};
   for (const TravellerRow& row : traveller.rows) lines.push_back(LineOf(row));
-  return InColumns(lines, kLeft);
+  const Lefts left{false, false, true, true, true, false, false, false, false, false, true};
+  return AlignedLines(lines, left);
 }
 
 ExitCode TravellerOf(const Context& context, int boardNumber) {
@@ -87,21 +62,18 @@ ExitCode TravellerOf(const Context& context, int boardNumber) {
   return ExitCode::Done;
 }
 
-constexpr std::size_t kRankingColumns = 6;
-using RankingLine = std::array<std::string, kRankingColumns>;
-constexpr std::array<bool, kRankingColumns> kRankingLeft{false, false, false, false, false, true};
-
 /// With IMPs the total decides, and there is no percentage.
 std::string RankingTableText(const Ranking& ranking, const RankingTable& table) {
   const bool percentages = ranking.unit == RankingUnit::Percentage;
-  std::vector<RankingLine> lines{{"Place", "No", "Boards", percentages ? "MP" : ranking.UnitText(),
-                                  percentages ? ranking.UnitText() : "", "Names"}};
+  std::vector<Line> lines{{"Place", "No", "Boards", percentages ? "MP" : ranking.UnitText(),
+                           percentages ? ranking.UnitText() : "", "Names"}};
   for (const RankedEntrant& one : table.entrants) {
     lines.push_back({std::to_string(one.place) + (one.shared ? "=" : " "), one.number,
                      std::to_string(one.boards), one.TotalText(),
                      percentages ? one.PercentageText() : "", one.names});
   }
-  return (table.heading.empty() ? "" : table.heading + "\n") + InColumns(lines, kRankingLeft);
+  return (table.heading.empty() ? "" : table.heading + "\n") +
+         AlignedLines(lines, {false, false, false, false, false, true});
 }
 
 ExitCode ShowRanking(const Context& context) {

@@ -26,4 +26,25 @@ void AppendLine(std::string& text, std::string line) {
   text += line + "\n";
 }
 
+std::string AlignedLines(const std::vector<std::vector<std::string>>& lines,
+                         const std::vector<bool>& left) {
+  std::vector<std::size_t> widths(left.size());
+  for (const auto& line : lines) {
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+      widths[i] = std::max(widths[i], CharacterCount(line.at(i)));
+    }
+  }
+  std::string text;
+  for (const auto& line : lines) {
+    std::string aligned;
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+      if (widths[i] == 0) continue;
+      aligned += (i == 0 ? "" : "  ") +
+                 (left[i] ? PadRight(line[i], widths[i]) : PadLeft(line[i], widths[i]));
+    }
+    AppendLine(text, aligned);
+  }
+  return text;
+}
+
 }  // namespace tricklet

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -155,6 +156,17 @@ std::string ShortestText(float number) {
   const auto written =
       std::to_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed);
   return {digits.data(), written.ptr};
+}
+
+std::string DecimalText(double number, int decimals) {
+  constexpr std::size_t kLongest = 400;  // of all finite numbers
+  constexpr double kTen = 10;
+  const double scale = std::pow(kTen, decimals);
+  const double rounded = std::round(number * scale) / scale;
+  std::array<char, kLongest> text{};
+  const auto end = std::to_chars(text.data(), text.data() + text.size(),
+                                 rounded == 0 ? 0.0 : rounded, std::chars_format::fixed, decimals);
+  return {text.data(), end.ptr};
 }
 
 std::string_view TakeLine(std::string_view& rest) {

@@ -60,6 +60,10 @@ std::string ZeroPadded(int number, std::size_t digits);
 /// "7.5", "-0.1". `number` is finite.
 std::string ShortestText(float number);
 
+/// The number with so many decimals, rounded, with a point whatever the locale: "54.17", never
+/// "-0.00". `number` is finite, `decimals` is 0..9.
+std::string DecimalText(double number, int decimals);
+
 /// Takes the line at the front of `rest`, without its end (CR LF, CR or LF). `rest` must not be
 /// empty.
 std::string_view TakeLine(std::string_view& rest);

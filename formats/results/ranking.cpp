@@ -1,9 +1,6 @@
 #include "formats/results/ranking.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
-#include <cmath>
 #include <map>
 #include <optional>
 #include <set>
@@ -231,17 +228,7 @@ void LeaveOutAlone(Ranking& ranking) {
                 [](const RankingTable& table) { return table.entrants.size() < 2; });
 }
 
-/// With two decimals.
-std::string DecimalText(double number) {
-  constexpr double kHundredths = 100;
-  constexpr std::size_t kLongest = 400;  // of all finite numbers
-  constexpr int kDecimals = 2;
-  const double rounded = std::round(number * kHundredths) / kHundredths;
-  std::array<char, kLongest> text{};
-  const auto end = std::to_chars(text.data(), text.data() + text.size(),
-                                 rounded == 0 ? 0.0 : rounded, std::chars_format::fixed, kDecimals);
-  return {text.data(), end.ptr};
-}
+constexpr int kDecimals = 2;
 
 }  // namespace
 
@@ -250,14 +237,14 @@ std::string RankedEntrant::PlaceText() const {
 }
 
 std::string RankedEntrant::TotalText() const {
-  std::string text = DecimalText(total);
+  std::string text = DecimalText(total, kDecimals);
   text.erase(text.find_last_not_of('0') + 1);
   if (text.back() == '.') text.pop_back();
   return text;
 }
 
 std::string RankedEntrant::PercentageText() const {
-  return DecimalText(percentage);
+  return DecimalText(percentage, kDecimals);
 }
 
 std::string Ranking::UnitText() const {
