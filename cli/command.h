@@ -40,6 +40,8 @@ void AddDiagramCommand(CLI::App& app, Command& command);
 void AddResultCommands(CLI::App& app, Command& command);
 /// review.
 void AddReviewCommand(CLI::App& app, Command& command);
+/// report.
+void AddReportCommand(CLI::App& app, Command& command);
 /// publish.
 void AddPublishCommands(CLI::App& app, Command& command);
 /// analyse, link.

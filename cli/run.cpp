@@ -125,6 +125,7 @@ int ParseAndExecute(const std::vector<std::string>& arguments, SettingsStore& st
   AddDiagramCommand(app, command);
   AddResultCommands(app, command);
   AddReviewCommand(app, command);
+  AddReportCommand(app, command);
   AddPublishCommands(app, command);
   AddAnalysisCommands(app, command);
   AddEditCommands(app, command);
