@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "core/board.h"
@@ -10,11 +11,24 @@
 
 namespace tricklet {
 
+/// What a record says of a call beside the call itself.
+struct CallRemark {
+  bool alerted = false;
+  std::string meaning;  ///< UTF-8, one line fit to be shown; empty where the call is not explained
+
+  bool Empty() const { return !alerted && meaning.empty(); }
+  friend bool operator==(const CallRemark&, const CallRemark&) = default;
+};
+/// Of the calls of an auction, in their order. May be shorter than the auction: of the calls beyond
+/// it nothing is said.
+using CallRemarks = std::vector<CallRemark>;
+
 struct RecordedPlay {
   tricklet::Board board;    ///< deal, calls and contract; not the current board
   std::vector<Card> cards;  ///< in the order in which they were played; not necessarily legal
   /// Declarer's tricks, 0..13; kept beside `cards`, which end where somebody claimed.
   std::optional<int> tricks;
+  CallRemarks remarks{};  ///< of the board's calls
 };
 
 /// A play as far as it goes by the rules.

@@ -88,21 +88,63 @@ void ReadDeal(std::string_view value, LinRecord& record) {
   CompleteDeal(record.hands);
 }
 
+void AddCall(Call call, bool alerted, LinRecord& record) {
+  record.calls.push_back(call);
+  record.remarks.push_back({alerted, ""});
+}
+
 /// One call of an "mb" field, or several that stand there without a mark between them ("1Cp1Hp").
-void ReadCalls(std::string_view value, std::vector<Call>& calls) {
-  std::string text(value);
-  std::erase(text, '!');  // the alert
+/// "!" alerts the call before it, or the one that stands alone.
+void ReadCalls(std::string_view value, LinRecord& record) {
+  std::string text;
+  std::string alerts;  // as long as `text`, with the "!" at the character that it follows
+  for (const char c : value) {
+    if (c != '!') {
+      text += c;
+      alerts += ' ';
+    } else if (!alerts.empty()) {
+      alerts.back() = '!';
+    }
+  }
+  const auto alerted = [&](std::size_t first, std::size_t length) {
+    return alerts.find('!', first) < first + length;
+  };
   if (const auto call = Call::FromText(text)) {
-    calls.push_back(*call);
+    AddCall(*call, text.size() < value.size(), record);
     return;
   }
   for (std::size_t i = 0; i < text.size(); ++i) {
-    const bool bid = text[i] >= '1' && text[i] <= '7';
-    if (const auto call = Call::FromText(std::string_view(text).substr(i, bid ? 2 : 1))) {
-      calls.push_back(*call);
-      if (bid) ++i;
+    const std::size_t length = text[i] >= '1' && text[i] <= '7' ? 2 : 1;
+    if (const auto call = Call::FromText(std::string_view(text).substr(i, length))) {
+      AddCall(*call, alerted(i, length), record);
+      i += length - 1;
     }
   }
+}
+
+/// An explanation in one line. "!C" stands for a club, and so on, unless a word begins there.
+std::string MeaningOf(std::string_view value) {
+  constexpr std::size_t kLongest = 1000;  // as much as the reader of PBN puts into a record
+  std::string text;
+  for (std::size_t i = 0; i < value.size(); ++i) {
+    const int suit = value[i] == '!' && i + 1 < value.size()
+                         ? kSuitPlaces.at(static_cast<unsigned char>(value[i + 1]))
+                         : -1;
+    const char after = i + 2 < value.size() ? ToUpper(value[i + 2]) : ' ';
+    if (suit >= 0 && !(after >= 'A' && after <= 'Z')) {
+      text += SuitSymbol[static_cast<Suit>(suit)];
+      ++i;
+    } else {
+      text += value[i];
+    }
+  }
+  return Showable(TrimLines(text), kLongest);
+}
+
+/// Explains the last call. Of several explanations the first is the one given at the table.
+void ReadMeaning(std::string_view value, LinRecord& record) {
+  if (record.remarks.empty() || !record.remarks.back().meaning.empty()) return;
+  record.remarks.back().meaning = MeaningOf(value);
 }
 
 /// The names of the open room, or of the closed one where the field has those too.
@@ -174,7 +216,9 @@ LinRecord ParseLinRecord(std::string_view text) {
       ReadDeal(field.value, record);
     } else if (field.tag == "mb") {
       record.hasAuction = true;
-      ReadCalls(field.value, record.calls);
+      ReadCalls(field.value, record);
+    } else if (field.tag == "an") {
+      ReadMeaning(field.value, record);
     } else if (field.tag == "pn") {
       players = field.value;
     } else if (field.tag == "pc") {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/board.h"
+#include "core/recorded_play.h"
 #include "formats/lin/lin_text.h"
 #include "formats/sink/board_sink.h"
 
@@ -30,6 +31,7 @@ struct LinRecord {
   std::optional<Seat> dealer;    ///< of the deal's digit, which need not be the board's dealer
   bool hasAuction = false;       ///< there is an "mb" field
   std::vector<Call> calls;       ///< from the dealer on; not always legal, and of any number
+  CallRemarks remarks;           ///< of `calls`, as many: alerts ("!") and explanations ("an")
   PerSeat<std::string> players;  ///< bytes as in the record; empty where none is named
   std::vector<Card> play;        ///< the cards as they were played, the opening lead first
   std::optional<int> claim;      ///< tricks of the declarer as claimed, "mc|N|"

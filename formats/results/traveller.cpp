@@ -165,6 +165,8 @@ TravellerRow MakeRow(const LinRecord& record, int boardNumber, const PairNames& 
                      bool matchPoints) {
   TravellerRow row;
   row.record.board = BoardOf(record, boardNumber);
+  row.record.remarks = record.remarks;
+  if (row.record.board.calls.Empty()) row.record.remarks.clear();
   row.record.cards = record.play;
   const Board scored = ReadContractOf(record, row);
   ReadTricks(record, scored, row);

@@ -1,5 +1,7 @@
 #include "ui/control/results.h"
 
+#include "formats/results/call_remarks.h"
+
 namespace tricklet::ui {
 
 Results::Results(Session& session, QObject* parent) : QObject(parent), session_(session) {}
@@ -16,6 +18,10 @@ void Results::ReadTraveller() {
   ++edition_;
   row_ = -1;
   replay_.reset();
+}
+
+CallRemarks Results::Remarks() const {
+  return replay_ ? replay_->Record().remarks : RemarksOn(session_.board, traveller_);
 }
 
 bool Results::IsStillTheBoard() const {

@@ -31,6 +31,9 @@ class Results : public QObject {
   const Traveller& OfBoard() const { return traveller_; }
   /// What is written about the current board; may be empty.
   const std::string& Note() const { return note_; }
+  /// What is said of the calls that are seen: of the record's, else of the current board's where a
+  /// record has the same auction.
+  CallRemarks Remarks() const;
   /// Grows with each new traveller of `OfBoard`, so that a pane knows when to show it afresh.
   int Edition() const { return edition_; }
 

@@ -113,7 +113,8 @@ void AuctionPane::SetFromAfar(bool afar) {
   afar_ = afar;
 }
 
-void AuctionPane::Show(const Session& session, const AuctionEntry* entry, const Board* recorded) {
+void AuctionPane::Show(const Session& session, const AuctionEntry* entry, const Board* recorded,
+                       const CallRemarks& remarks) {
   const Board& board = recorded != nullptr ? *recorded : session.board;
   SetTitle(recorded != nullptr ? tr("Recorded auction") : tr("Auction"));
   SetUnfolded(session.settings.showAuction);
@@ -121,6 +122,7 @@ void AuctionPane::Show(const Session& session, const AuctionEntry* entry, const 
   const bool calling = entry != nullptr && !entry->Over();
   ShowHeads(session.board, calling ? std::optional(entry->ToCall()) : std::nullopt);
   ShowCalls(session, entry != nullptr ? entry->Calls() : board.calls);
+  if (entry == nullptr) ShowRemarks(session, remarks, board.NumCalls());
 }
 
 /// The seat to call stands out by a triangle as well as by its colour.
@@ -174,6 +176,23 @@ void AuctionPane::ShowCalls(const Session& session, const CallList& calls) {
                       MakeCall(calls, i, session.settings, palette()));
   }
   SetSizes();
+}
+
+void AuctionPane::ShowRemarks(const Session& session, const CallRemarks& remarks, int calls) {
+  const int offset = ColumnOf(session.board.Dealer());
+  for (int i = 0; i < calls && i < static_cast<int>(remarks.size()); ++i) {
+    const CallRemark& remark = remarks[static_cast<std::size_t>(i)];
+    QTableWidgetItem* item = flexBids->item((offset + i) / kSeats, (offset + i) % kSeats);
+    if (remark.Empty() || item == nullptr) continue;
+    const QVariant spoken = item->data(Qt::AccessibleTextRole);
+    const QString call = spoken.isValid() ? spoken.toString() : item->text();
+    const QString said = remark.meaning.empty()
+                             ? tr("%1, alerted").arg(call)
+                             : QStringLiteral("%1: %2").arg(call, ToQt(remark.meaning));
+    item->setData(CallDelegate::kDotRole, true);
+    item->setData(Qt::AccessibleTextRole, said);
+    item->setToolTip(QStringLiteral("<qt>%1</qt>").arg(said.toHtmlEscaped()));  // wraps its lines
+  }
 }
 
 void AuctionPane::SetSizes() {

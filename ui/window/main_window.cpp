@@ -175,7 +175,7 @@ void MainWindow::DisplayAuction() {
   results_->DropStaleRecord(commands_->Auction() != nullptr || edit_->Editing());
   const Replay* record = results_->Record();
   panes_.auction->Show(session_, commands_->Auction(),
-                       record != nullptr ? &record->Record().board : nullptr);
+                       record != nullptr ? &record->Record().board : nullptr, results_->Remarks());
   DisplayPlay();
 }
 

@@ -105,6 +105,26 @@ TEST(ParseLinRecord, ReadsCalls) {
   }
 }
 
+TEST(ParseLinRecord, KeepsWhatIsSaidOfTheCalls) {
+  // The fields; each call's remark: "!" for an alert, then the explanation
+  const std::pair<const char*, const char*> kCases[] = {
+      {"mb|1C!|an|3+ !C; 2- !s |mb|p|", "!3+ \u2663; 2- \u2660 / "},
+      {"mb|1N|an|15-17|an|more|mb|d!|", "15-17 / !"},
+      {"mb|1Cp1H!p|an|last|", " /  / ! / last"},
+      {"mb|!2D|an|Really!Strong|", "!Really!Strong"},
+      {"an|before the first call|mb|p|mb|8C!|", ""}};
+  for (const auto& [fields, said] : kCases) {
+    const LinRecord record = ParseLinRecord(fields);
+    std::string text;
+    for (const CallRemark& remark : record.remarks) {
+      text += (&remark == record.remarks.data() ? "" : " / ") +
+              std::string(remark.alerted ? "!" : "") + remark.meaning;
+    }
+    EXPECT_EQ(record.remarks.size(), record.calls.size()) << fields;
+    EXPECT_EQ(text, said) << fields;
+  }
+}
+
 TEST(StorableBoard, HoldsAHundredCalls) {
   const std::string text = "qx|o5|md|3SA,,,|" + test::LinPasses(99);
   LeftOut leftOut;

@@ -8,6 +8,7 @@
 
 #include "formats/lin/lin_record.h"
 #include "formats/results/board_results.h"
+#include "formats/results/call_remarks.h"
 #include "formats/results/lin_data.h"
 #include "tests/support/calls.h"
 #include "tests/support/library_fixture.h"
@@ -256,6 +257,20 @@ TEST_F(LibraryTest, LinDataIsReadAgainWhenItIsAnotherFile) {
   for (int again = 0; again < 2; ++again) EXPECT_TRUE(data.Of(session)->Empty()) << "told once";
   session.settings.library = "Elsewhere";
   EXPECT_TRUE(data.Of(session)->Empty());
+}
+
+TEST(RemarksOn, AreThoseOfTheFirstRecordWithTheSameAuctionThatHasAny) {
+  const std::string opening = "mb|1C!|an|strong|mb|p|mb|p|mb|p|";
+  LinFile file =
+      FileOf("IMPS", {Record("A,B,C,D", "mb|1C|mb|p|mb|p|mb|p|"),
+                      Record("E,F,G,H", "mb|1D!|mb|p|mb|p|mb|p|"), Record("I,J,K,L", opening)});
+  const Traveller traveller = MakeTraveller(file, 1);
+  Board board = traveller.rows[0].record.board;
+  EXPECT_EQ(RemarksText(board, RemarksOn(board, traveller)), "1C: strong");
+  EXPECT_EQ(RemarksText(board, RemarksOn(traveller.rows[1].record.board, traveller)),
+            "1C: alerted");
+  std::swap(board.hands[Seat::North], board.hands[Seat::South]);
+  EXPECT_TRUE(RemarksOn(board, traveller).empty()) << "another deal";
 }
 
 }  // namespace

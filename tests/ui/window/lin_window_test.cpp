@@ -69,6 +69,29 @@ TEST_F(LinWindowTest, AreChosenPastedOrDropped) {
   EXPECT_TRUE(Drop(files)) << "one after another, whatever comes of each";
 }
 
+TEST_F(LinWindowTest, WhatIsSaidOfACallIsSaidAtTheCallUntilTheAuctionIsAnother) {
+  host.ExpectTellWith("has been saved");
+  Paste(ToQt(test::LinRecordText("o7", "mb|1C!|an|3+ !C <any>|mb|p|mb|d!|mb|p|mb|p|mb|p|")));
+  const auto said = [this] {
+    const auto* grid = Find<QTableWidget>("flexBids");
+    QStringList calls;
+    for (int row = 0; row < grid->rowCount(); ++row) {
+      for (int column = 0; column < grid->columnCount(); ++column) {
+        const QTableWidgetItem* call = grid->item(row, column);
+        if (call == nullptr || call->toolTip().isEmpty()) continue;
+        calls << call->toolTip() << call->data(Qt::AccessibleTextRole).toString();
+      }
+    }
+    return calls.join(u'|');
+  };
+  EXPECT_EQ(FromQt(said()),
+            "<qt>1 Clubs: 3+ \u2663 &lt;any&gt;</qt>|1 Clubs: 3+ \u2663 <any>|"
+            "<qt>Dbl, alerted</qt>|Dbl, alerted");
+  session.board.calls.RemoveLast();
+  Key("Ctrl+T");  // shows all afresh
+  EXPECT_EQ(FromQt(said()), "");
+}
+
 TEST_F(LinWindowTest, TheStatusLineSaysWhereADropWillLand) {
   QMimeData text;
   text.setText(kRecord);
