@@ -21,6 +21,8 @@ int main(int argc, char** argv) {
       {"OpenLibrary", "OpenFloor", 3.0},
       {"AnalyseBoards", "SolverAloneFloor", 1.05},
       {"ReviewPlays", "PlayAloneFloor", 1.1},
+      {"ReportEvening", "EveningAloneFloor", 1.1},
+      {"ReportEveningAgain", "EveningAloneFloor", 0.05},
       {"ImportDlm", "ReadDlmFloor", 2.0},
       {"ImportLinRecords", "ReadLinFloor", 2.0},
       {"ImportUsebio", "UsebioFloor", 2.0},

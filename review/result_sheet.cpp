@@ -26,9 +26,9 @@ std::string WhoSits(const SessionReport& report, const ReportTable& table, Side 
 }
 
 std::string VerdictText(const BiddingVerdict& verdict) {
-  if (verdict.missedSlam) return "missed slam";
-  if (verdict.missedGame) return verdict.overbid ? "missed game, overbid" : "missed game";
-  return verdict.overbid ? "overbid" : "";
+  std::string text = verdict.missedSlam ? "missed slam" : (verdict.missedGame ? "missed game" : "");
+  if (verdict.overbid) text += text.empty() ? "overbid" : ", overbid";
+  return text;
 }
 
 /// Of both sides: "NS missed game".
