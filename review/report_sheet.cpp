@@ -41,7 +41,7 @@ std::string Received(const ReportEntrant& one) {
 
 /// A column and what it says of an entrant.
 struct EntrantColumn {
-  SheetColumn column;
+  ReportColumn column;
   std::function<std::string(const ReportEntrant&)> cell;
 };
 
@@ -185,7 +185,7 @@ std::string AlignedSheet(const ReportSheet& sheet) {
 
 std::string CsvSheet(const ReportSheet& sheet) {
   Cells headings;
-  for (const SheetColumn& column : sheet.columns) headings.push_back(column.meaning);
+  for (const ReportColumn& column : sheet.columns) headings.push_back(column.meaning);
   std::string text = CsvLine(headings);
   for (const Cells& cells : sheet.rows) text += CsvLine(cells);
   return text;

@@ -9,7 +9,7 @@
 
 namespace tricklet {
 
-struct SheetColumn {
+struct ReportColumn {
   std::string heading;  ///< short: "Decl"
   std::string meaning;  ///< "Tricks given away as declarer, per play"; the heading in CSV
   bool left = false;    ///< words, as opposed to a number
@@ -17,7 +17,7 @@ struct SheetColumn {
 };
 
 struct ReportSheet {
-  std::vector<SheetColumn> columns;
+  std::vector<ReportColumn> columns;
   /// A cell for each column; empty where something is not known.
   std::vector<std::vector<std::string>> rows;
 };

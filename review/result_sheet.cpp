@@ -55,7 +55,7 @@ std::vector<std::string> GivenCells(const ReportTable& table) {
 }
 
 /// The columns from the contract to the play, which both sheets have.
-std::vector<SheetColumn> CommonColumns() {
+std::vector<ReportColumn> CommonColumns() {
   return {{"Contract", "Contract", true},
           {"By", "Declarer", true},
           {"Lead", "Lead", true},
@@ -87,7 +87,7 @@ std::vector<std::string> CommonCells(const ReportTable& table, Side side) {
   return cells;
 }
 
-void Append(std::vector<SheetColumn>& columns, std::vector<SheetColumn> more) {
+void Append(std::vector<ReportColumn>& columns, std::vector<ReportColumn> more) {
   columns.insert(columns.end(), more.begin(), more.end());
 }
 
