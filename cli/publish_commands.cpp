@@ -19,6 +19,7 @@ struct Words {
   std::string title;
   std::string names = std::string(NamesShownName(NamesShown::Full));
   bool force = false;
+  bool report = false;
 };
 
 std::string CheckBoards(const std::string& text) {
@@ -38,6 +39,7 @@ ExitCode Publish(const Context& context, const Words& words) {
   choices.names = NamesShownOf(words.names).value_or(NamesShown::None);
   choices.folder = PathFromText(words.folder);
   choices.replaceForeign = words.force;
+  choices.report = words.report;
   const auto page = PublishWebPage(session, choices);
   if (!page) return ExitCode::Refused;
   context.data << PathText(*page) << '\n';
@@ -60,6 +62,7 @@ void AddPublishCommands(CLI::App& app, Command& command) {
   publish->add_option("--names", words->names, "Names of players: full, initials or none")
       ->type_name("full|initials|none")
       ->check(CheckNames);
+  publish->add_flag("--report", words->report, "Review the plays, and show the session report");
   publish->add_flag("--force", words->force, "Replace an index.html that is no page of Tricklet's");
   WhenChosen(*publish, command, [words](const Context& context, const ConsoleHost&) {
     return Publish(context, *words);

@@ -1,5 +1,6 @@
 #include "publish/published.h"
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <utility>
@@ -8,6 +9,8 @@
 #include "core/fault.h"
 #include "library/board_notes.h"
 #include "library/library_scan.h"
+#include "review/report_source.h"
+#include "review/session_review.h"
 
 namespace tricklet {
 namespace {
@@ -54,7 +57,39 @@ std::optional<Published> Gather(Session& session, const BoardRange& range, bool 
   return published;
 }
 
+/// Only the boards that are published.
+void KeepPublished(const Published& published, ReportSource& source) {
+  const auto isPublished = [&published](int number) {
+    return std::any_of(
+        published.boards.begin(), published.boards.end(),
+        [number](const PublishedBoard& one) { return one.board.boardNumber == number; });
+  };
+  std::erase_if(source.travellers,
+                [&](const Traveller& traveller) { return !isPublished(traveller.boardNumber); });
+}
+
 }  // namespace
+
+bool AddReview(Session& session, Published& published, std::string& failure) {
+  if (published.results.Empty()) return true;
+  if (!session.getSolver) {
+    failure = "There is no double-dummy solver";
+    return true;
+  }
+  Solver& solver = session.getSolver();
+  failure = solver.Missing();
+  if (!failure.empty()) return true;
+  auto source = GatherReport(session, false);
+  if (!source) return true;
+  SessionReview review = ReviewSession(session, solver, *source, {});
+  if (review.cancelled) return false;
+  failure = review.failure;
+  if (!failure.empty()) return true;
+  KeepPublished(published, *source);
+  SessionReport report = MakeSessionReport(*source, review.answers);
+  published.review = PublishedReview{std::move(report), std::move(review.answers)};
+  return true;
+}
 
 Ranking RankingOf(const Published& published) {
   std::vector<const Traveller*> travellers;

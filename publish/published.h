@@ -13,6 +13,7 @@
 #include "library/board_range.h"
 #include "library/session.h"
 #include "library/stored_boards.h"
+#include "review/session_report.h"
 
 namespace tricklet {
 
@@ -22,11 +23,18 @@ struct PublishedBoard : StoredBoard {
   Traveller traveller;     ///< without rows where there are no results
 };
 
+/// The plays of a session double-dummy.
+struct PublishedReview {
+  SessionReport report;   ///< of the boards that are published
+  ReportAnswers answers;  ///< of all boards with results
+};
+
 /// The boards in the order of their numbers, and the results that they come from.
 struct Published {
   std::vector<PublishedBoard> boards;
   LinFile results;
   std::string whyNoTables;  ///< that were to be computed and are missing; empty when none are
+  std::optional<PublishedReview> review;  ///< where it was wanted and could be had
 };
 
 /// The ranking of those who have played the boards.
@@ -44,5 +52,9 @@ inline constexpr const char* kNothingToPublish = "There are no boards in this ra
 /// it is in the answer alone. Nothing, after a message, when there is no board or one cannot be
 /// read; nothing and no message when the person has cancelled.
 std::optional<Published> GatherBoards(Session& session, const BoardRange& range, bool tables);
+
+/// Adds the review of the plays, with progress: none where there are no results. False when the
+/// person has cancelled; why there is none otherwise comes in `failure`, else empty.
+bool AddReview(Session& session, Published& published, std::string& failure);
 
 }  // namespace tricklet

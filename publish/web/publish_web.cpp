@@ -80,8 +80,10 @@ std::optional<fs::path> Publish(Session& session, const PublishChoices& choices)
       !WantsReplaced(session.host, places.foreign)) {
     return std::nullopt;
   }
-  const auto published = GatherBoards(session, choices.boards, true);
+  auto published = GatherBoards(session, choices.boards, true);
   if (!published) return std::nullopt;
+  std::string whyNoReport;
+  if (choices.report && !AddReview(session, *published, whyNoReport)) return std::nullopt;
   const WebChoices web{choices.title.empty() ? session.LibraryName() : choices.title, TodayText(),
                        choices.names};
   MakeFolders(choices.folder);
@@ -89,7 +91,9 @@ std::optional<fs::path> Publish(Session& session, const PublishChoices& choices)
   if (!WriteBoth(session.host, places, WebPage(*published, web), WebPbn(*published, web))) {
     return std::nullopt;
   }
-  const std::string remark = RemarkOn(*published, true);
+  std::string remark = RemarkOn(*published, true);
+  if (!whyNoReport.empty())
+    remark += (remark.empty() ? "" : "\n") + ("There is no report: " + whyNoReport);
   if (!remark.empty()) session.host.TellError(remark);
   return places.page;
 }

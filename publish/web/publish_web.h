@@ -18,6 +18,7 @@ struct PublishChoices {
   NamesShown names = NamesShown::Full;
   std::filesystem::path folder;  ///< made when it is missing
   bool replaceForeign = false;   ///< what others have written is replaced without a question
+  bool report = false;           ///< plays are reviewed, and the page has the report
 };
 
 /// What to begin with: what was chosen last, all boards of the current library, and the library's
@@ -30,7 +31,8 @@ void RememberPublish(Session& session, const PublishChoices& choices);
 inline constexpr const char* kWebPageName = "index.html";
 
 /// Writes the boards of the range, as they are stored, into the folder: the page and beside it the
-/// PBN, each whole or not at all. Missing tables are computed first. What has these names and was
+/// PBN, each whole or not at all. Missing tables are computed first, and plays
+/// reviewed where the report is wanted. What has these names and was
 /// not written by this program is asked about: it goes to the recycle bin, or nothing is done. The
 /// path of the page when it was written; what could not be shown in full has then been told.
 /// Nothing otherwise: after a message, or when the person has cancelled.

@@ -10,6 +10,7 @@
 #include "publish/web/entrants.h"
 #include "publish/web/json_writer.h"
 #include "publish/web/web_ranking.h"
+#include "publish/web/web_report.h"
 
 namespace tricklet {
 namespace {
@@ -22,6 +23,7 @@ struct Writing {
   JsonWriter& json;
   const Entrants& entrants;
   NamesShown names;
+  std::optional<WebReview> review;
 };
 
 std::string CardLetters(Card card) {
@@ -151,6 +153,7 @@ void WriteTable(const Writing& writing, const PublishedBoard& published, std::si
   WritePoints(json, row, at, worth);
   WriteCalls(writing, row.record.board.calls);
   WritePlay(json, row.record, published.board);
+  if (writing.review) writing.review->WriteTable(json, published.board.boardNumber, at);
   json.EndObject();
 }
 
@@ -223,13 +226,15 @@ std::string ScoringOf(const Published& published) {
 std::string WebData(const Published& published, const WebChoices& choices) {
   JsonWriter json;
   const Entrants entrants(published, choices.names);
-  const Writing writing{json, entrants, choices.names};
+  Writing writing{json, entrants, choices.names, {}};
+  if (published.review) writing.review.emplace(*published.review);
   json.BeginObject().Key("scoring").String(ScoringOf(published));
   WriteEntrants(json, entrants);
   json.Key("boards").BeginArray();
   for (const PublishedBoard& board : published.boards) WriteBoard(writing, board);
   json.EndArray();
   WriteRanking(json, published, entrants, choices.names);
+  WriteReport(json, published, entrants, choices.names);
   json.EndObject();
   return json.Text();
 }

@@ -16,6 +16,9 @@ namespace tricklet {
 ///   boards     in the order of their numbers, as below
 ///   ranking    {"unit": "%" or "IMP", "tables": [{"heading", "rows": [{"place", "entrant",
 ///              "number", "names", "boards", "total", "percentage"}]}], "notes": [sentence]}
+///   report     only where plays have been reviewed: {"columns": [{"heading", "meaning"}],
+///              "tables": [{"heading", "rows": [{"entrant", "number", "names", "cells": [text]}]}],
+///              "notes": [sentence]}
 ///
 /// A board: "number"; "dealer" 0..3, North first; "vulnerable" 0..3, 1 North-South, 2 East-West;
 /// "hands" ["AKQ.T98.." by suits from spades on], North first; "points" [0..37], only with
@@ -27,7 +30,9 @@ namespace tricklet {
 /// "points" and "percent", each [North-South, East-West] or null; "calls"; "hands" where they
 /// differ from the board's; "play" "SKS3..", the cards as far as they are legal; "leaders" "WNN..",
 /// one for each trick and for what comes after a complete one; "trumps" 0..4, 4 no-trump; "end",
-/// what ends the play before its last card. What is not known is left out.
+/// what ends the play before its last card; of a play that has been reviewed "given" "0010..", the
+/// tricks 0..d that each card gave away; "against" par, North-South's points, and "why" the side
+/// that beat it did. What is not known is left out.
 std::string WebData(const Published& published, const WebChoices& choices);
 
 }  // namespace tricklet

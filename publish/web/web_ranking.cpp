@@ -7,11 +7,24 @@
 namespace tricklet {
 namespace {
 
-/// The names of a contestant as they are published; those of a team pair by pair.
-std::string NamesOf(const RankedEntrant& entrant, Contestants contestants, NamesShown names) {
+void WriteEntrant(JsonWriter& json, const RankedEntrant& ranked, const Entrants& entrants,
+                  Contestants contestants, NamesShown names) {
+  json.BeginObject().Key("place").String(ranked.PlaceText());
+  json.Key("entrant").Number(
+      contestants == Contestants::Teams ? -1 : entrants.EntrantOf(ranked.number, ranked.names));
+  json.Key("number").String(ranked.number);
+  json.Key("names").String(ContestantNames(ranked.names, contestants, names));
+  json.Key("boards").Number(ranked.boards).Key("total").Number(ranked.total);
+  json.Key("percentage").Number(ranked.percentage).EndObject();
+}
+
+}  // namespace
+
+std::string ContestantNames(const std::string& fullNames, Contestants contestants,
+                            NamesShown names) {
   constexpr std::string_view kBetweenPairs = ", ";
   std::string text;
-  std::string_view rest = entrant.names;
+  std::string_view rest = fullNames;
   if (contestants != Contestants::Teams) return PublishedNames(rest, names);
   for (;;) {
     const auto end = rest.find(kBetweenPairs);
@@ -22,7 +35,6 @@ std::string NamesOf(const RankedEntrant& entrant, Contestants contestants, Names
   }
 }
 
-/// A player of the session is named in the sentence.
 bool NamesSomebody(const std::string& sentence, const Published& published) {
   const auto named = [&sentence](const std::string& player) {
     return !player.empty() && sentence.find(player) != std::string::npos;
@@ -35,19 +47,6 @@ bool NamesSomebody(const std::string& sentence, const Published& published) {
         });
       });
 }
-
-void WriteEntrant(JsonWriter& json, const RankedEntrant& ranked, const Entrants& entrants,
-                  Contestants contestants, NamesShown names) {
-  json.BeginObject().Key("place").String(ranked.PlaceText());
-  json.Key("entrant").Number(
-      contestants == Contestants::Teams ? -1 : entrants.EntrantOf(ranked.number, ranked.names));
-  json.Key("number").String(ranked.number);
-  json.Key("names").String(NamesOf(ranked, contestants, names));
-  json.Key("boards").Number(ranked.boards).Key("total").Number(ranked.total);
-  json.Key("percentage").Number(ranked.percentage).EndObject();
-}
-
-}  // namespace
 
 void WriteRanking(JsonWriter& json, const Published& published, const Entrants& entrants,
                   NamesShown names) {

@@ -4,6 +4,7 @@
 
 #include "generate/deal.h"
 #include "library/board_file.h"
+#include "tests/review/club_evening.h"
 #include "tests/support/fake_solver.h"
 #include "tests/support/library_fixture.h"
 
@@ -67,6 +68,27 @@ TEST_F(GatherTest, WhatStandsInTheWayIsTold) {
   solver.missing.clear();
   host.cancelAtStep = 1;
   EXPECT_FALSE(GatherBoards(session, {1, 9}, true)) << "cancelled";
+}
+
+using ReviewedEvening = ClubEvening;
+
+TEST_F(ReviewedEvening, HasTheReportOfWhatIsPublished) {
+  Add(TableOf(3, "Ann & Bob", "Gus & Hal", "4S P P P", "10", kFirstTrick));
+  Add(TableOf(4, "Ann & Bob", "Gus & Hal", "P P P 4S P P P", "10", "H4"));
+  StoreResults();
+  auto published = GatherBoards(session, {3, 3}, false);
+  ASSERT_TRUE(published);
+  std::string failure;
+  EXPECT_TRUE(AddReview(session, *published, failure));
+  EXPECT_EQ(failure, "There is no double-dummy solver");
+  EXPECT_FALSE(published->review);
+
+  session.getSolver = [this]() -> Solver& { return solver; };
+  EXPECT_TRUE(AddReview(session, *published, failure));
+  EXPECT_EQ(failure, "");
+  ASSERT_TRUE(published->review);
+  EXPECT_EQ(published->review->report.boards.size(), 1U);
+  EXPECT_EQ(published->review->report.reviewed, 1);
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
 """The web page of a session in a real browser; started by scripts/test-web."""
 
+import csv
 import functools
 import http.server
+import io
 import json
 import os
 import pathlib
@@ -47,6 +49,7 @@ class Pages(unittest.TestCase):
         cls.expected = json.loads((cls.home / "positions.json").read_text(encoding="utf-8"))
         for name in NAMES:
             cls.publish(name, name)
+        cls.publish("Club", "Reviewed", "--report")
         cls.browser = cls.enterClassContext(Browser())
         handler = functools.partial(Quiet, directory=cls.folder)
         cls.server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), handler)
@@ -58,6 +61,12 @@ class Pages(unittest.TestCase):
     def publish(cls, library, to, *options):
         command(CLI, "--root", cls.folder, "--library", library, "--quiet", "publish",
                 str(cls.home / "site" / to), *options)
+
+    @classmethod
+    def answer(cls, library, *words):
+        """What the command line prints."""
+        return subprocess.run([CLI, "--root", cls.folder, "--library", library, "--quiet", *words],
+                              check=True, timeout=LIMIT, capture_output=True, text=True).stdout
 
     def setUp(self):
         self.browser.size(1024, 768)
@@ -212,12 +221,44 @@ class Pages(unittest.TestCase):
         for width in (320, 360, 768, 1024, 1920):
             self.browser.size(width, 740)
             for name, places in (("Club", ("", "#b2t1", "#b2t2", "#boards", "#ranking", "#p1")),
-                                 ("Odd", ("", "#b1t1", "#ranking", "#p1")), ("Deals", ("",))):
+                                 ("Odd", ("", "#b1t1", "#ranking", "#p1")), ("Deals", ("",)),
+                                 ("Reviewed", ("", "#b2t1", "#report"))):
                 for place in places:
                     self.open(name, place)
                     over = self.browser.run(
                         "return document.documentElement.scrollWidth - innerWidth")
                     self.assertLessEqual(over, 0, f"{name}{place} at {width}")
+
+    def test_the_report_has_the_figures_of_the_command_line(self):
+        rows = list(csv.DictReader(io.StringIO(self.answer("Club", "report", "--csv"))))
+        self.open("Reviewed", "#report")
+        shown = self.browser.run("""return [...document.querySelectorAll("table.report tbody tr")]
+            .map((row) => [...row.cells].map((cell) => cell.innerText.replace("\u2212", "-")))""")
+        self.assertEqual([row[0] for row in shown], [row["Number"] for row in rows])
+        self.assertEqual([row[3] for row in shown], [row["Points against par, mean"] for row in rows])
+        self.assertEqual([row[6] for row in shown],
+                         [row["Tricks given away as declarer, per play"] for row in rows])
+        self.check_quiet()
+        self.open("Club")
+        self.assertTrue(self.browser.run("return document.getElementById('to-report').hidden"))
+
+    def test_cards_that_gave_tricks_away_are_marked(self):
+        place = self.place_with_play()
+        board, table = place[2:].split("t")
+        cards = [line.split("\t") for line in
+                 self.answer("Club", "review", board, "--table", table).splitlines()
+                 if line.count("\t") == 4]
+        mistakes = [(int(number), int(given)) for number, _, _, _, given in cards if given != "0"]
+        self.assertTrue(mistakes)
+        self.open("Reviewed", place)
+        self.assertEqual(self.browser.run("return document.querySelectorAll('#mistakes button')"
+                                          ".length"), len(mistakes))
+        for at, (number, given) in enumerate(mistakes):
+            self.browser.run("document.querySelectorAll('#mistakes button')[arguments[0]].click()", at)
+            self.assertEqual(self.text("#place"), f"card {number} of 52")
+            self.assertIn(f"It gives {given} trick", self.text("#said"))
+            self.assertTrue(self.text(".card.given, .card .given").startswith("\u2212"))
+        self.check_quiet()
 
     def test_every_text_stands_out(self):
         for dark in (False, True):
@@ -227,10 +268,16 @@ class Pages(unittest.TestCase):
                 self.go(place)  # with the reader's own rows marked
                 self.browser.press("End")
                 self.assertEqual(self.probe("faintTexts()"), [], f"{place} dark {dark}")
+            for place in ("#report", "#b1", self.place_with_play()):
+                self.open("Reviewed", place)
+                self.assertEqual(self.probe("faintTexts()"), [], f"reviewed {place} dark {dark}")
 
     def test_every_part_has_a_name(self):
         for place in ("", "#p1", self.place_with_play(), "#ranking"):
             self.open("Club", place)
+            self.assertEqual(self.probe("namelessParts()"), [], place)
+        for place in ("#report", self.place_with_play()):
+            self.open("Reviewed", place)
             self.assertEqual(self.probe("namelessParts()"), [], place)
             self.assertEqual(self.browser.run("return document.documentElement.lang"), "en")
 

@@ -25,6 +25,7 @@ function travellerRow(board, table, at) {
     make("td", { class: "number wide" }, table.taken === undefined ? null : String(table.taken)),
     make("td", { class: "number" }, scoreText(table, 0)),
     make("td", { class: "number" }, comparison(table, 0)),
+    session.report ? parCells(table) : null,
     make("td", { class: "play" }, canBeShown(table) ? playLink(board, at) : null));
 }
 
@@ -33,6 +34,7 @@ function travellerNode(board) {
   const rows = board.tables.map((table, at) => travellerRow(board, table, at));
   const head = tableHead(["North-South", "East-West", "Contract", ["Lead", "wide"],
     ["Tricks", "number wide"], ["Score", "number"], [comparisonHead, "number"],
+    ...(session.report ? [["To par", "number wide"], ["Par beaten by", "wide"]] : []),
     [make("span", { class: "hidden" }, "Play"), "play"]]);
   return make("section", { class: "results scroll" }, make("table", null,
     make("caption", null, "Results"), head, make("tbody", null, rows)));

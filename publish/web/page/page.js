@@ -1,5 +1,6 @@
-// What is shown at which address: "#b7" a board, "#b7t3" its third table, "#ranking", "#p3" the
-// boards of an entrant, "#boards" the list where there is no room for it beside the page.
+// What is shown at which address: "#b7" a board, "#b7t3" its third table, "#ranking",
+// "#report", "#p3" the boards of an entrant, "#boards" the list where there is no room for it beside
+// the page.
 
 const kTitle = document.title;
 
@@ -8,6 +9,7 @@ const addressOf = (board, at) => `#b${board.number}${at >= 0 ? `t${at + 1}` : ""
 // What the address names; the first board where it names nothing that there is.
 function placeOf(address) {
   if (address === "#ranking") return { kind: "ranking" };
+  if (address === "#report" && session.report) return { kind: "report" };
   if (address === "#boards") return { kind: "list", board: boards[0] };
   const entrant = /^#p(\d+)$/.exec(address);
   if (entrant && session.entrants[entrant[1] - 1]) return { kind: "own", entrant: entrant[1] - 1 };
@@ -61,6 +63,7 @@ const kViews = {
     [contractNodes(board.tables[at], true), " \u00b7 ",
       board.tables[at].pairs.map(pairText).join(" v ")], tableView(board, at)],
   ranking: () => ["Ranking", [], rankingNode()],
+  report: () => ["Report", ["Double-dummy: every card seen"], reportNode()],
   own: ({ entrant }) => [session.entrants[entrant].label, [ownPlace()], ownNode()],
 };
 
@@ -176,6 +179,7 @@ function start() {
   byId("chooser").hidden = !hasResults;
   byId("to-own").hidden = !hasResults;
   byId("to-ranking").hidden = !session.ranking;
+  byId("to-report").hidden = !session.report;
   byId("own").addEventListener("change", onOwn);
   byId("to-own").addEventListener("click", (event) => {
     if (own >= 0) return;

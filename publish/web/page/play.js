@@ -13,6 +13,7 @@ function playOf(board, table) {
     cards,
     leaders,
     hands: table.hands || board.hands,
+    given: [...(table.given || "")].map((digit) => parseInt(digit, 16)),
     shown: 0,
     seatOf: (at) => (leaders[Math.floor(at / 4)] + (at % 4)) % 4,
   };
@@ -45,9 +46,36 @@ function positionOf(play) {
   };
 }
 
-function cardNode(card, seat, marked) {
+function cardNode(card, seat, marked, given) {
   return make("div", { class: `card ${kSeatLetters[seat]}${marked ? " marked" : ""}` },
-    make("span", { class: card[0] }, rankText(card[1])), make("span", null, suitSign(card[0])));
+    make("span", { class: card[0] }, rankText(card[1])), make("span", null, suitSign(card[0])),
+    given ? make("span", { class: "given" }, readAs(`\u2212${given}`, givenText(given))) : null);
+}
+
+const givenText = (given) => `gives ${given} trick${given === 1 ? "" : "s"} away`;
+
+// What the card that lies in a seat gave away; 0 where that is not known.
+function givenIn(play, seat) {
+  for (let at = play.shown - 1; at >= Math.max(0, play.shown - 4); --at) {
+    if (play.seatOf(at) === seat) return play.given[at] || 0;
+  }
+  return 0;
+}
+
+// The cards that gave tricks away, each as a button that goes there.
+function mistakesNode(play) {
+  if (play.given.length === 0) return null;
+  const mistakes = play.given.flatMap((given, at) => (given > 0 ? [at] : []));
+  if (mistakes.length === 0) {
+    return make("p", { class: "muted" }, "Double-dummy, no card gave a trick away");
+  }
+  return make("p", { id: "mistakes" }, "Tricks given away, double-dummy: ", mistakes.map((at) => {
+    const button = make("button", { type: "button", class: "control" },
+      `${kSeats[play.seatOf(at)]}\u00a0`,
+      cardSigns(play.cards[at]), readAs(`\u00a0\u2212${play.given[at]}`, ` ${givenText(play.given[at])}`));
+    button.addEventListener("click", () => stepTo(at + 1));
+    return [button, " "];
+  }));
 }
 
 function tricksText(play, position) {
@@ -62,6 +90,8 @@ function stepNews(play, position) {
   if (play.shown === 0) return "Before the opening lead";
   const card = play.cards[play.shown - 1];
   const news = [`Card ${play.shown}: ${kSeats[position.last]} plays the ${cardName(card)}.`];
+  const given = play.given[play.shown - 1];
+  if (given) news.push(`It ${givenText(given)}.`);
   if (position.winner >= 0) {
     news.push(`${kSeats[position.winner]} wins trick ${position.trickNumber}.`,
       `North-South ${position.won[0]}, East-West ${position.won[1]}.`);
@@ -73,7 +103,8 @@ function stepNews(play, position) {
 function feltNode(play, position) {
   const marked = position.winner >= 0 ? position.winner : position.last;
   const felt = make("div", { class: "felt" }, position.trick.map((card, seat) =>
-    card && cardNode(card, seat, seat === marked)), make("p", null, tricksText(play, position)));
+    card && cardNode(card, seat, seat === marked, givenIn(play, seat))),
+  make("p", null, tricksText(play, position)));
   onSwipe(felt, stepBy);
   felt.addEventListener("click", () => stepBy(1));
   return felt;
@@ -161,5 +192,5 @@ function playNode(board, table) {
     make("p", { class: "muted" }, "The play was not recorded"));
   }
   return make("div", null, make("div", { class: "playing" }, stepsNode()),
-    make("p", { id: "end", class: "muted" }));
+    make("p", { id: "end", class: "muted" }), mistakesNode(playing));
 }

@@ -97,6 +97,8 @@ TEST(WebPage, HoldsNoMoreOfThePlayersThanIsWanted) {
   }
   Published published = PublishedOf(session);
   published.boards[0].notes = "Vorname3 forgot to alert";
+  const ReportSource source{session.results, MakeTravellers(session.results), {}, {}};
+  published.review = PublishedReview{MakeSessionReport(source, {}), {}};
   const auto holds = [&](NamesShown names, const char* part) {
     const WebChoices choices{"Club", "", names};
     return (WebPage(published, choices) + WebPbn(published, choices)).find(part) !=
