@@ -72,6 +72,13 @@ class Evening : public TemporaryRoot {
   }
 
   void Forget() { fs::remove(session.LibraryPath() / ".tricklet-review"); }
+  /// The plays alone, without what the report says of contracts and leads.
+  std::size_t Review() {
+    ReportSource source;
+    source.results = LoadLinData(session);
+    source.travellers = MakeTravellers(source.results);
+    return ReviewSession(session, *solver, source, {}).answers.reviews.size();
+  }
   /// How many plays have been reviewed.
   std::size_t Report() {
     const ReportOutcome outcome = ReportSession(session, *solver, {});
@@ -123,6 +130,15 @@ void EveningAloneFloor(benchmark::State& state) {
   if (!solved) state.SkipWithError("the solver library failed");
 }
 
+void ReviewEvening(benchmark::State& state) {
+  Evening& evening = TheEvening();
+  std::size_t reviewed = 0;
+  Measure(
+      state, [&] { evening.Forget(); }, [&] { reviewed = evening.Review(); });
+  if (reviewed != evening.plays.size()) state.SkipWithError("not all plays are reviewed");
+}
+
+/// With the leads against contracts that can be beaten.
 void ReportEvening(benchmark::State& state) {
   Evening& evening = TheEvening();
   std::size_t reviewed = 0;
@@ -142,6 +158,7 @@ void ReportEveningAgain(benchmark::State& state) {
 }
 
 TRICKLET_BENCH_TIMES(EveningAloneFloor, kFewRepetitions);
+TRICKLET_BENCH_TIMES(ReviewEvening, kFewRepetitions);
 TRICKLET_BENCH_TIMES(ReportEvening, kFewRepetitions);
 TRICKLET_BENCH_TIMES(ReportEveningAgain, kFewRepetitions);
 

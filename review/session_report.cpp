@@ -109,6 +109,7 @@ class ReportMaker {
       const ReportTable& table = report_.tables[at];
       const auto played = PlayedContract(table);
       if (!table.par || !played || played->contractLevel == 0) continue;
+      if (*table.doubleDummy < played->contractLevel + kBook - kMostUndertricks) continue;
       const auto tricks = solved->second.find({played->declarer, played->trumps});
       if (tricks == solved->second.end()) continue;
       CountLead(BeatableOf(*played, tricks->second, board), table);

@@ -152,6 +152,10 @@ struct ReportEntrant {
   std::vector<std::size_t> tables;  ///< its results: indices of `SessionReport::tables`
 };
 
+/// The leads against contracts that fail by more tricks double-dummy are left out: hardly one lets
+/// them make, and to find it takes as long as to review a play.
+inline constexpr int kMostUndertricks = 2;
+
 /// A contract of a board that some lead beats.
 struct BeatableContract {
   int level = 0;  ///< 1..7
@@ -176,8 +180,9 @@ struct ReportBoard {
   MeanFigure againstPar;   ///< points of North-South
   PerSide<int> beatPar;    ///< tables at which the side beat par
   int atPar = 0;
-  std::vector<BeatableContract> beatable;  ///< in the order in which the tables have them
-  std::vector<std::size_t> tables;         ///< indices of `SessionReport::tables`
+  /// Contracts that fail by up to `kMostUndertricks`, in the order in which the tables have them.
+  std::vector<BeatableContract> beatable;
+  std::vector<std::size_t> tables;  ///< indices of `SessionReport::tables`
 };
 
 struct SessionReport {

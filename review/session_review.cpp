@@ -105,7 +105,8 @@ class ReviewRun {
     }
   }
 
-  /// Only a contract that does not make against the best defence has leads that beat it.
+  /// Only a contract that does not make against the best defence has leads that beat it; one that
+  /// fails by more is beaten by any.
   void FindLeads() {
     for (const Traveller& traveller : source_.travellers) {
       const auto deal = source_.boards.find(traveller.boardNumber);
@@ -123,7 +124,8 @@ class ReviewRun {
       return std::nullopt;
     }
     const int tricks = deal.makeable[ToTableSeat(played->declarer)][ToTableStrain(played->trumps)];
-    if (tricks >= played->contractLevel + kBook) return std::nullopt;
+    const int undertricks = played->contractLevel + kBook - tricks;
+    if (undertricks < 1 || undertricks > kMostUndertricks) return std::nullopt;
     return LeadKey(played->declarer, played->trumps);
   }
 

@@ -21,7 +21,8 @@ struct SessionReview {
 using ReviewProgress = std::function<void(const ReportAnswers&)>;
 
 /// Reviews the plays of `source`, which is of the current library, in batches beside, with progress
-/// and Cancel through the session's `Host`; then the leads against contracts that can be beaten.
+/// and Cancel through the session's `Host`; then the leads against contracts that fail by
+/// one or two tricks double-dummy.
 /// `shown` is called after each batch and may be empty. What the library has kept is not solved
 /// again, and what has been solved is kept (review_cache.h), also when it ends early.
 SessionReview ReviewSession(Session& session, Solver& solver, const ReportSource& source,
