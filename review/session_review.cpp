@@ -36,7 +36,7 @@ struct LeadsAtBoard {
 
 /// So many that no core waits long for the last of a batch, and that a batch takes about a second.
 std::size_t BatchSize() {
-  constexpr std::size_t kPerCore = 16;
+  constexpr std::size_t kPerCore = 32;
   constexpr std::size_t kLeast = 32;
   const std::size_t cores = std::max(1U, std::thread::hardware_concurrency());
   return std::clamp(kPerCore * cores, kLeast, static_cast<std::size_t>(Solver::kPlayBatch));
