@@ -109,7 +109,8 @@ class ReportMaker {
       const ReportTable& table = report_.tables[at];
       const auto played = PlayedContract(table);
       if (!table.par || !played || played->contractLevel == 0) continue;
-      if (*table.doubleDummy < played->contractLevel + kBook - kMostUndertricks) continue;
+      const int least = played->contractLevel + kBook - kMostUndertricks;
+      if (table.doubleDummy.value_or(0) < least) continue;
       const auto tricks = solved->second.find({played->declarer, played->trumps});
       if (tricks == solved->second.end()) continue;
       CountLead(BeatableOf(*played, tricks->second, board), table);
@@ -176,7 +177,7 @@ std::optional<AgainstPar> ReportTable::ParOf(Side side) const {
 }
 
 std::string ReportTable::WhyBeaten() const {
-  if (!par || par->total == 0 || !par->bidding) return {};
+  if (!par || par->total == 0 || !par->bidding || !par->play) return {};
   const auto helped = [this](int points) {
     return (points > 0) == (par->total > 0) && points != 0;
   };
