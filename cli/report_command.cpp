@@ -67,7 +67,8 @@ void ShowEntrants(std::ostream& out, const SessionReport& report,
 ExitCode ShowSome(const Context& context, const SessionReport& report, const Asked& asked) {
   const std::vector<std::size_t> chosen = Chosen(report, asked);
   if (chosen.empty()) {
-    const std::string whom = asked.pair ? "number " + *asked.pair : "name " + *asked.name;
+    const std::string whom =
+        asked.pair ? "number " + *asked.pair : "name " + asked.name.value_or("");
     context.session.host.Tell("Nobody in the results has the " + whom);
     return ExitCode::Refused;
   }
@@ -85,26 +86,26 @@ ExitCode ShowSome(const Context& context, const SessionReport& report, const Ask
   return ExitCode::Done;
 }
 
-ExitCode ShowBoard(const Context& context, const SessionReport& report, const Asked& asked) {
+ExitCode ShowBoard(const Context& context, const SessionReport& report, int number, bool csv) {
   const auto board =
       std::find_if(report.boards.begin(), report.boards.end(),
-                   [&](const ReportBoard& each) { return each.boardNumber == *asked.board; });
+                   [&](const ReportBoard& each) { return each.boardNumber == number; });
   if (board == report.boards.end()) {
-    context.session.host.Tell("There are no results of board " + std::to_string(*asked.board));
+    context.session.host.Tell("There are no results of board " + std::to_string(number));
     return ExitCode::Refused;
   }
-  if (!asked.csv) {
+  if (!csv) {
     SessionReport alone;
     alone.boards = {*board};
     context.data << AlignedSheet(BoardSheet(alone)) << '\n';
   }
-  context.data << SheetText(ResultSheet(report, *board), asked.csv) << (asked.csv ? "" : "\n");
+  context.data << SheetText(ResultSheet(report, *board), csv) << (csv ? "" : "\n");
   return ExitCode::Done;
 }
 
 ExitCode ShowReport(const Context& context, const SessionReport& report, const Asked& asked) {
   if (asked.pair || asked.name) return ShowSome(context, report, asked);
-  if (asked.board) return ShowBoard(context, report, asked);
+  if (asked.board) return ShowBoard(context, report, *asked.board, asked.csv);
   if (!asked.csv || !asked.boards) {
     std::vector<std::size_t> all(report.entrants.size());
     std::iota(all.begin(), all.end(), 0U);

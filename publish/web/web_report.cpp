@@ -67,8 +67,8 @@ void WebReview::WriteTable(JsonWriter& json, int boardNumber, std::size_t row) c
     json.Key("given").String(given);
   }
   const auto table = tables_.find({boardNumber, row});
-  if (table == tables_.end() || !table->second->par) return;
-  json.Key("against").Number(table->second->par->total);
+  if (table == tables_.end()) return;
+  if (const auto par = table->second->par) json.Key("against").Number(par->total);
   if (const std::string why = table->second->WhyBeaten(); !why.empty()) json.Key("why").String(why);
 }
 
