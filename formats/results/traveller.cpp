@@ -324,10 +324,11 @@ std::string LinPlayRecord(const Traveller& traveller, const Board& board, int ro
 std::string ReadLinBidding(const TravellerRow& row) {
   const std::string names = " " + row.NamesText();
   if (row.contract == kAllPass && row.adjusted.empty()) return row.contract + names;
-  if (!row.HasResult()) return kNotPlayed + names;
+  if (!row.HasResult() && !row.Result()) return kNotPlayed + names;
   std::string text = row.contract;
   if (row.declarer) text += " by " + std::string(SeatName[*row.declarer]);
   if (const auto result = row.Result()) text += " " + Signed(*result);
+  if (!row.HasResult()) return text + names;  // a play that is kept without a score
   return text + (text.empty() ? "" : " ") + (row.score ? Signed(*row.score) : row.adjusted) + names;
 }
 

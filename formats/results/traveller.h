@@ -74,7 +74,8 @@ std::string LinPlayRecord(const Traveller& traveller, const Board& board, int ro
 
 /// Gives the text of one table in a line: "4S by South +1 +650 Ann & Bob v Cy & Di", a score of 0
 /// as "="; "All Pass" and the names for a board that was passed out, "Not played" for one without a
-/// result. A ruling stands in the place of the score.
+/// result, but contract and result where the play is known. A ruling stands in the place of the
+/// score.
 std::string ReadLinBidding(const TravellerRow& row);
 
 /// The entries for the list of play records: the names of each row, in the order of the rows.
