@@ -14,8 +14,11 @@
 #include "core/scoring.h"
 #include "core/text.h"
 #include "library/board_store.h"
+#include "library/tables.h"
 #include "play/auction_entry.h"
+#include "play/best_line.h"
 #include "play/card_play.h"
+#include "play/claim_check.h"
 
 namespace tricklet::cli {
 namespace {
@@ -26,6 +29,8 @@ struct PlayArguments {
   int undo = 0;                      ///< how many times to take back the last card or claim
   std::optional<std::string> claim;  ///< the seat on play that claims the rest
   bool claimFirst = false;           ///< the claim comes before the undo
+  std::optional<int> tricks;         ///< those of the claimer's side in all; else all that are left
+  std::string best;                  ///< cards that the program plays after all that: "3", "all"
 };
 
 struct ScoreArguments {
@@ -108,8 +113,32 @@ bool PlayCards(const Context& context, CardPlay& play, const std::vector<std::st
   return true;
 }
 
-bool ClaimBy(const Context& context, CardPlay& play, const std::string& text) {
+/// Any side may claim a number of tricks; the rest only who is on play. The check goes before, so
+/// that a claim that cannot be says nothing else.
+bool ClaimTricksBy(const Context& context, CardPlay& play, Seat seat, int tricks) {
+  Session& session = context.session;
+  if (!play.ClaimEnabled()) {
+    session.host.Tell("Nobody is on play");
+    return false;
+  }
+  const Side side = SideOf(seat);
+  if (tricks < play.LeastClaim(side) || tricks > play.MostClaim(side)) {
+    session.host.Tell("A claim by " + std::string(SeatName[seat]) + " is of " +
+                      std::to_string(play.LeastClaim(side)) + " to " +
+                      std::to_string(play.MostClaim(side)) + " tricks");
+    return false;
+  }
+  if (session.getSolver) {
+    const auto check = CheckClaim(session.getSolver(), play.Now(), play.Played(), side, tricks);
+    if (check) context.data << ClaimCheckText(*check) << '\n';
+  }
+  return play.ClaimTricks(side, tricks);
+}
+
+bool ClaimBy(const Context& context, CardPlay& play, const PlayArguments& arguments) {
+  const std::string& text = *arguments.claim;
   const auto seat = SeatFromText(text);
+  if (seat && arguments.tricks) return ClaimTricksBy(context, play, *seat, *arguments.tricks);
   if (seat && play.Now().onPlay == seat) {
     play.Claim();
     return true;
@@ -117,6 +146,27 @@ bool ClaimBy(const Context& context, CardPlay& play, const std::string& text) {
   context.session.host.Tell(seat ? std::string(SeatName[*seat]) + " is not on play"
                                  : text + " is no seat");
   return false;
+}
+
+/// The program plays so many cards for the hands on play, and names them; fewer where the play ends
+/// before.
+bool PlayBest(const Context& context, CardPlay& play, const std::string& count) {
+  if (count.empty() || !play.Now().onPlay) return true;
+  Session& session = context.session;
+  if (!RequireSolver(session)) return false;
+  Solver& solver = session.getSolver();
+  int left = count == "all" ? kCardsInPack : std::stoi(count);
+  for (; left > 0 && play.Now().onPlay; --left) {
+    const auto card = ProgramCard(solver, play.Now(), play.Played().trumps);
+    if (!card) {
+      session.host.TellError(solver.Missing().empty() ? "The solver could not find a card to play"
+                                                      : solver.Missing());
+      return false;
+    }
+    context.data << SeatName[*play.Now().onPlay] << " plays " << CardText(*card) << '\n';
+    play.Play(*card);
+  }
+  return true;
 }
 
 bool TakeBack(const Context& context, CardPlay& play, int count) {
@@ -130,7 +180,7 @@ bool TakeBack(const Context& context, CardPlay& play, int count) {
 
 /// False, with the reason, when the seat cannot claim or there is less to take back.
 bool ClaimAndTakeBack(const Context& context, CardPlay& play, const PlayArguments& arguments) {
-  const auto claims = [&] { return !arguments.claim || ClaimBy(context, play, *arguments.claim); };
+  const auto claims = [&] { return !arguments.claim || ClaimBy(context, play, arguments); };
   if (arguments.claimFirst) return claims() && TakeBack(context, play, arguments.undo);
   return TakeBack(context, play, arguments.undo) && claims();
 }
@@ -185,6 +235,7 @@ ExitCode Play(const Context& context, const PlayArguments& arguments) {
   }
   if (!PlayCards(context, play, arguments.cards)) return ExitCode::Refused;
   if (!ClaimAndTakeBack(context, play, arguments)) return ExitCode::Refused;
+  if (!PlayBest(context, play, arguments.best)) return ExitCode::Refused;
   ShowTable(context, play);
   return ExitCode::Done;
 }
@@ -232,6 +283,13 @@ void AddPlay(CLI::App& app, Command& command) {
                    ->check(CLI::Range(0, kCardsInPack));
   auto* claim = play->add_option("--claim", asked->claim, "The seat on play takes the rest")
                     ->type_name("SEAT");
+  play->add_option("--tricks", asked->tricks, "Claim so many in all, checked double-dummy")
+      ->type_name("N")
+      ->check(CLI::Range(0, kTricks))
+      ->needs(claim);
+  play->add_option("--best", asked->best, "Then play the best K cards, or all, double-dummy")
+      ->type_name("K|all")
+      ->check(CLI::IsMember({"all"}) | CLI::Range(1, kCardsInPack));
   WhenChosen(*play, command, [=](const Context& context, const ConsoleHost&) {
     const std::vector<CLI::Option*>& order = play->parse_order();
     asked->claimFirst =

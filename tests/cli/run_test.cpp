@@ -253,6 +253,29 @@ TEST_F(CommandLine, PlaysCards) {
   EXPECT_EQ(Answer("play 7 --claim north"), "1 North is not on play\n");
 }
 
+TEST_F(CommandLine, ClaimsSomeTricksAndPlaysTheBestCards) {
+  ASSERT_EQ(Run("import @in.pbn"), 0);
+  FakeSolver fake;
+  fake.solveCards = [](const SolverPosition&) {
+    return std::vector<CardScore>{{{Suit::Spades, Rank::King}, 8}};
+  };
+  solver = [&fake]() -> Solver& { return fake; };
+  EXPECT_EQ(Run("play 7 --best 1"), 0);
+  EXPECT_EQ(out.find("West plays \u2660K\n"), 0) << out;
+  EXPECT_EQ(Run("play 7 --claim south --tricks 9"), 0);
+  EXPECT_EQ(out.find("Claim 9: West can hold it to 5\n"), 0) << out;
+  EXPECT_NE(out.find("1NT+2 by South"), std::string::npos) << out;
+  EXPECT_EQ(Run("play 7 --claim south --tricks 9 --undo 1"), 0);
+  EXPECT_NE(out.find("West is on play\n"), std::string::npos) << out;
+  EXPECT_EQ(Answer("play 7 sk S3 s9 SQ --claim n --tricks 13"),
+            "1 A claim by North is of 0 to 12 tricks\n");
+  EXPECT_EQ(Run("play 7 --tricks 9"), 2);
+  EXPECT_EQ(Run("play 7 --best none"), 2);
+  fake.missing = "No solver is here";
+  fake.solveCards = {};
+  EXPECT_EQ(Answer("play 7 --best all"), "1 No solver is here\n");
+}
+
 TEST_F(CommandLine, Scores) {
   EXPECT_EQ(Answer("score 4Sx N 9 --board 5"), "0 4Sx-1 by North : EW +200\n");
   EXPECT_EQ(Answer("score 1c** e 7"), "0 1Cxx= by East : EW +230\n");
