@@ -59,6 +59,10 @@ Card CheapestOf(const std::vector<Card>& best, const PerSuit<Holding>& hand, Str
 
 }  // namespace
 
+bool ProgramTurn::SameAs(const ProgramTurn& other) const {
+  return toEnd == other.toEnd && PositionOf(state, trumps) == PositionOf(other.state, other.trumps);
+}
+
 std::optional<Card> SensibleCard(const PlayState& state, Strain trumps,
                                  std::span<const CardScore> scores) {
   const std::vector<Card> best = BestOf(scores);
@@ -85,6 +89,13 @@ std::vector<Card> BestLine(Solver& solver, PlayState state, Strain trumps,
     state.PlayToTrick(*card, trumps);
   }
   return line;
+}
+
+std::vector<Card> CardsForTurn(Solver& solver, const ProgramTurn& turn,
+                               const std::function<bool()>& goOn) {
+  if (turn.toEnd) return BestLine(solver, turn.state, turn.trumps, goOn);
+  const auto card = ProgramCard(solver, turn.state, turn.trumps);
+  return card ? std::vector<Card>{*card} : std::vector<Card>{};
 }
 
 }  // namespace tricklet

@@ -11,6 +11,16 @@
 
 namespace tricklet {
 
+/// What the program is to play.
+struct ProgramTurn {
+  PlayState state;  ///< somebody is on play
+  Strain trumps = Strain::NoTrump;
+  bool toEnd = false;  ///< all that is left, for all four hands; else one card
+
+  /// The same cards are asked for, whether the last trick has been gathered or not.
+  bool SameAs(const ProgramTurn& other) const;
+};
+
 /// The one of `scores` that a sensible player would choose of those that lead to the most tricks,
 /// for the hand on play in `state`: when following, the lowest; when discarding, the lowest that is
 /// no trump; when leading, one of the longest suit, the lowest or the top of a sequence of honours.
@@ -28,5 +38,9 @@ std::optional<Card> ProgramCard(Solver& solver, const PlayState& state, Strain t
 /// false. May be called from any thread.
 std::vector<Card> BestLine(Solver& solver, PlayState state, Strain trumps,
                            const std::function<bool()>& goOn);
+
+/// The cards for `turn`, by `ProgramCard` or `BestLine`.
+std::vector<Card> CardsForTurn(Solver& solver, const ProgramTurn& turn,
+                               const std::function<bool()>& goOn);
 
 }  // namespace tricklet

@@ -46,6 +46,7 @@ bool CardPlay::Start() {
   }
   if (board_.contractLevel == 0 || !GetStats(board_.hands).allHandsComplete) return false;
   recorded_.reset();
+  recordedCards_.clear();
   Begin(board_.declarer);
   return true;
 }
@@ -75,6 +76,7 @@ bool CardPlay::PlayOn(const RecordedPlay& record, int cards) {
     return false;
   }
   recorded_ = record.board;
+  recordedCards_ = record.cards;
   Begin(record.board.declarer);
   for (const Card card :
        std::span(record.cards)
@@ -101,15 +103,25 @@ bool CardPlay::EndForEditing() {
   return true;
 }
 
-std::string CardPlay::LossByStopping() const {
-  int left = 0;
-  for (const Seat seat : kAllSeats) {
-    for (const Suit suit : kAllSuits) left += state_.cardsLeft[seat][suit].Count();
+int CardPlay::CardsToLose() const {
+  if (!PlayMode()) return 0;
+  const int played = state_.claimed ? undoTop_ - 1 : undoTop_;
+  if (!recorded_) return played;
+  for (int step = 0; step < played; ++step) {
+    const auto at = static_cast<std::size_t>(step);
+    const bool follows = at < recordedCards_.size() &&
+                         SeatHolding(StateAt(step).cardsLeft, recordedCards_[at]) >= 0 &&
+                         SeatHolding(StateAt(step + 1).cardsLeft, recordedCards_[at]) < 0;
+    if (!follows) return played - step;
   }
-  const int played = kCardsInPack - left;
-  if (!PlayMode() || played == 0) return "";
-  if (played == 1) return "The card played so far is not kept.";
-  return "The " + std::to_string(played) + " cards played so far are not kept.";
+  return 0;
+}
+
+std::string CardPlay::LossByStopping() const {
+  const int cards = CardsToLose();
+  if (cards == 0) return "";
+  if (cards == 1) return "The card played so far is not kept.";
+  return "The " + std::to_string(cards) + " cards played so far are not kept.";
 }
 
 PerSuit<Holding> CardPlay::LegalCards() const {

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "core/board.h"
 #include "core/host.h"
@@ -94,8 +95,11 @@ class CardPlay {
   /// and others not. False when the person wants to play on.
   bool EndForEditing();
 
-  /// "The 17 cards played so far are not kept."; empty when none has been played.
+  /// "The 17 cards played so far are not kept."; empty when none has been played. Cards that a
+  /// record has, from its first one on, are not lost.
   std::string LossByStopping() const;
+  /// The cards played, 0..52, without those that only follow the record that the play goes on from.
+  int CardsToLose() const;
 
   bool PlayMode() const { return board_.playMode; }
   /// The deal with the auction and the contract that are played: the board, or the record's where a
@@ -159,7 +163,8 @@ class CardPlay {
   Board& board_;
   Host& host_;
   TrickTimer& timer_;
-  std::optional<Board> recorded_;  // with its own auction, where a play goes on from a record
+  std::optional<Board> recorded_;    // with its own auction, where a play goes on from a record
+  std::vector<Card> recordedCards_;  // of that record
   PlayState state_;
   int undoTop_ = 0;
   std::array<PlayState, kCardsInPack> undoRecords_{};  // before each card, and before the claim

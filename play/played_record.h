@@ -9,9 +9,6 @@ namespace tricklet {
 /// The cards of `play` so far, in the contract that is played. Declarer's tricks are known when the
 /// play has ended, by its last card or by a claim. Without cards where no play is on.
 RecordedPlay RecordOfPlay(const CardPlay& play);
-inline RecordedPlay RecordOfPlay(const Board& /*board*/, const CardPlay& play) {
-  return RecordOfPlay(play);
-}
 
 /// The card that led from `before` to `after`; nothing for a claim.
 std::optional<Card> CardBetween(const PlayState& before, const PlayState& after);

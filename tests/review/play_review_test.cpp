@@ -119,7 +119,7 @@ TEST(PlayReview, FindsNoMistakeInTheBestPlay) {
     ASSERT_TRUE(best != scores.end() && play.Play(best->card));
   }
   std::string failure;
-  const auto review = ReviewPlay(*solver, RecordOfPlay(board, play), failure);
+  const auto review = ReviewPlay(*solver, RecordOfPlay(play), failure);
   ASSERT_TRUE(review) << failure;
   EXPECT_EQ(review->cards.size(), std::size_t{kCardsInPack});
   EXPECT_FALSE(review->MistakeFrom(0));

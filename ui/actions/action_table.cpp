@@ -31,6 +31,9 @@ bool NotEditing(State state) {
 bool NotInPlay(State state) {
   return !state.PlayUnfinished();
 }
+bool PlayUnfinished(State state) {
+  return state.PlayUnfinished();
+}
 bool CanRevert(State state) {
   return state.canRevert && !state.PlayUnfinished();
 }
@@ -255,6 +258,28 @@ const std::array kTable{
     ActionEntry{"mnuClaim", QT_TR_NOOP("&Claim"), QT_TR_NOOP("Claim"), "Ctrl+L",
                 QT_TR_NOOP("All tricks that are left go to the side on play"), "claim",
                 &Commands::Claim, IsOn<&WindowState::canClaim>, nullptr, ClaimText},
+    ActionEntry{
+        "mnuPlayOn", QT_TR_NOOP("Play &on from here"), QT_TR_NOOP("Play on"), "Shift+F9",
+        QT_TR_NOOP("Play the board from this card of the record; the record stays as it is"), "",
+        WindowAsk::PlayOn, IsOn<&WindowState::canPlayOn>},
+    ActionEntry{"mnuClaimTricks", QT_TR_NOOP("Cla&im tricks..."), "", "Ctrl+Shift+L",
+                QT_TR_NOOP("Claim a number of tricks, checked double-dummy when asked"), "",
+                &Commands::ClaimTricks, IsOn<&WindowState::canClaim>},
+    ActionEntry{"mnuKeepPlay", QT_TR_NOOP("&Keep this play..."), "", "Ctrl+Shift+K",
+                QT_TR_NOOP("Make a record of the play in the library's results"), "",
+                &Commands::KeepPlay, IsOn<&WindowState::cardsPlayed>},
+    ActionEntry{"mnuProgramCard", QT_TR_NOOP("Best c&ard"), "", "F12",
+                QT_TR_NOOP("Let the program play one card, double-dummy"), "",
+                &Commands::ProgramCard, IsOn<&WindowState::canClaim>},
+    ActionEntry{"mnuBestLine", QT_TR_NOOP("Best &line to the end"), "", "Shift+F12",
+                QT_TR_NOOP("Let the program play all hands to the end, double-dummy"), "",
+                &Commands::BestLine, IsOn<&WindowState::canClaim>},
+    ActionEntry{"mnuDefendBest", QT_TR_NOOP("The program &defends"), "", "Ctrl+F9",
+                QT_TR_NOOP("Play declarer and dummy against the best defence, double-dummy"), "",
+                &Commands::DefendBest, PlayUnfinished, IsOn<&WindowState::programDefends>},
+    ActionEntry{"mnuDeclareBest", QT_TR_NOOP("The program decla&res"), "", "Ctrl+Shift+F9",
+                QT_TR_NOOP("Defend against a declarer who plays best, double-dummy"), "",
+                &Commands::DeclareBest, PlayUnfinished, IsOn<&WindowState::programDeclares>},
     // Analysis
     ActionEntry{"mnuDDS", QT_TR_NOOP("Analyse &board"), QT_TR_NOOP("Analyse"), "Ctrl+D",
                 QT_TR_NOOP("Compute the double-dummy table"), "analyse", &Commands::AnalyseBoard,

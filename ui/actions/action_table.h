@@ -21,6 +21,7 @@ enum class WindowAsk : std::uint8_t {
   PresentationPanes,
   LeavePresentation,
   Traveller,
+  PlayOn,
   FindBoards,
   CopyDiagram,
   HideHands,

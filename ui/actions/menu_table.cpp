@@ -21,7 +21,9 @@ constexpr std::array kMenus{
     MenuEntry{QT_TR_NOOP("&Board"),
               "mnuNext mnuPrevious mnuFirst mnuLast mnuGoTo mnuFind | mnuSwap | mnuRandom "
               "mnuFillFourth mnuUndoFill | mnuClearBoard mnuUndoClear"},
-    MenuEntry{QT_TR_NOOP("&Play"), "mnuBidding | mnuPlay mnuUndoCard mnuGatherTrick mnuClaim"},
+    MenuEntry{QT_TR_NOOP("&Play"),
+              "mnuBidding | mnuPlay mnuPlayOn mnuUndoCard mnuGatherTrick mnuClaim mnuClaimTricks "
+              "mnuKeepPlay | mnuProgramCard mnuBestLine mnuDefendBest mnuDeclareBest"},
     MenuEntry{QT_TR_NOOP("&Analysis"), "mnuDDS mnuAnalyse | mnuBSOL"},
     MenuEntry{QT_TR_NOOP("&Results"),
               "mnuTraveller | mnuLinForward mnuLinBack mnuLinNextTrick mnuLinPreviousTrick "
@@ -44,14 +46,16 @@ const char* const kToolbar =
     "tbrBestCards=mnuBestCards cmdDDS=mnuDDS cmdBSOL=mnuBSOL | cmdEdit=mnuEdit cmdSwap=mnuSwap "
     "cmdGenerate=mnuGenerate | tbrHands=mnuHands tbrPresent=mnuPresentation";
 const char* const kTableContext =
-    "mnuUndo mnuRedo | mnuBidding mnuPlay mnuClaim | mnuEdit mnuSwap | mnuDDS mnuBSOL | mnuHands "
+    "mnuUndo mnuRedo | mnuBidding mnuPlay mnuPlayOn mnuProgramCard mnuClaim | mnuEdit mnuSwap | "
+    "mnuDDS mnuBSOL | mnuHands "
     "mnuHideNorth "
     "mnuHideEast mnuHideSouth mnuHideWest | mnuCopyHand mnuCopyDiagram mnuPasteHand | mnuSave "
     "mnuRevert | mnuPresentation";
 const char* const kBoardListContext =
     "mnuCopyHand mnuPasteHand | mnuSave mnuRevert | mnuDDS mnuAnalyse | mnuFind mnuGoTo";
 const char* const kTravellerContext =
-    "mnuLinForward mnuLinBack mnuLinNextTrick mnuLinPreviousTrick | mnuLinLeave | mnuTraveller";
+    "mnuLinForward mnuLinBack mnuLinNextTrick mnuLinPreviousTrick | mnuPlayOn mnuLinLeave | "
+    "mnuTraveller";
 
 std::span<const MenuEntry> MenuTable() {
   return kMenus;

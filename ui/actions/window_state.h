@@ -38,11 +38,15 @@ struct WindowState {
   bool canUndoCard = false;
   bool canRedoCard = false;
   bool canClaim = false;
+  bool cardsPlayed = false;     ///< some, in the play
+  bool programDefends = false;  ///< the program plays the defenders' hands
+  bool programDeclares = false;
   bool trickComplete = false;
   bool canFill = false;
   bool canFillFourth = false;
   bool canUndoFill = false;
   bool canUndoClear = false;
+  bool canPlayOn = false;     ///< from the record, which is of the board
   bool canGoForward = false;  ///< in the record
   bool canGoBack = false;
   bool canRevert = false;  ///< the board differs from what is stored

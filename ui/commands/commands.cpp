@@ -16,7 +16,6 @@
 #include "ui/commands/documents.h"
 #include "ui/control/edit_control.h"
 #include "ui/control/play_control.h"
-#include "ui/dialogs/frmBidding.h"
 #include "ui/dialogs/frmExport.h"
 #include "ui/dialogs/frmImport.h"
 #include "ui/dialogs/frmOptions.h"
@@ -155,8 +154,9 @@ void Commands::Save() {
   Run([this] { SaveHand(session_); });
 }
 
+/// Ends at once but for a play that is under way, whose cards no draft keeps.
 void Commands::Exit() {
-  session_.host.EndProgram();
+  if (play_.Leave()) session_.host.EndProgram();
 }
 
 void Commands::SelectLibrary(int index) {
@@ -239,50 +239,6 @@ void Commands::PasteHand() {
     tricklet::PasteHand(session_);
     edit_.Note("paste");
   });
-}
-
-void Commands::Bidding() {
-  Run([this] { EnterAuction(); });
-}
-
-void Commands::EnterAuction() {
-  frmBidding dialog(session_, window_);
-  connect(&dialog, &frmBidding::AuctionChanged, this, &Commands::AuctionChanged);
-  auction_ = &dialog.Entry();
-  emit AuctionChanged();
-  emit AuctionOpened(&dialog);
-  dialog.exec();
-  auction_ = nullptr;
-  edit_.Note("auction");
-  emit AuctionChanged();
-}
-
-void Commands::PlayOrStop() {
-  Run([this] {
-    if (session_.board.playMode) {
-      if (play_.Leave()) play_.Stop();
-      return;
-    }
-    edit_.Stop();
-    if (CardPlay::NeedsAuction(session_.board)) EnterAuction();
-    if (play_.Start()) emit PlayStarted();
-  });
-}
-
-void Commands::PlayCard(Card card) {
-  Attempt([&] { play_.PlayCard(card); });
-}
-void Commands::PlayOnlyCard() {
-  Attempt([this] { play_.PlayOnlyCard(); });
-}
-void Commands::UndoCard() {
-  Attempt([this] { play_.Undo(); });
-}
-void Commands::Claim() {
-  Attempt([this] { play_.Claim(); });
-}
-void Commands::QuitTrick() {
-  Attempt([this] { play_.QuitTrick(); });
 }
 
 void Commands::Toggle(bool Settings::*setting) {

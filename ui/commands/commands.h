@@ -1,6 +1,7 @@
 // What the person can ask for, as calls of the engine.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -20,6 +21,8 @@ namespace tricklet {
 class AuctionEntry;
 struct ImportOutcome;
 struct Looker;
+struct ProgramTurn;
+struct RecordedPlay;
 }  // namespace tricklet
 
 namespace tricklet::ui {
@@ -29,6 +32,7 @@ class PlayControl;
 class Updates;
 class frmBidding;
 class frmSwap;
+enum class ProgramHands : std::uint8_t;
 
 /// The routes from menus, keys, panes and drops to the engine's procedures. Each command runs to
 /// its end and is followed by `Done`, whatever came of it; a command that is asked for while
@@ -132,12 +136,27 @@ class Commands : public QObject {
   void Bidding();
   /// Starts the play, after the auction dialog where there is no auction yet; or leaves it.
   void PlayOrStop();
+  /// The first `cards` cards of a record become the board's own play, of a table where `players`
+  /// sat.
+  void PlayOn(const RecordedPlay& record, int cards, const PerSeat<std::string>& players);
   // Followed by the play's `Changed` instead of `Done`.
   void PlayCard(Card card);
   void PlayOnlyCard();
   void UndoCard();
   void Claim();
+  /// Asks by a dialog for whom and how many.
+  void ClaimTricks();
+  /// Asks for a name, and makes a record of the play in the library.
+  void KeepPlay();
   void QuitTrick();
+  /// The program plays one card for the hand on play, or all that is left.
+  void ProgramCard();
+  void BestLine();
+  /// The program plays the defenders or the declarer and dummy from now on, or no more.
+  void DefendBest();
+  void DeclareBest();
+  /// The cards that the program has found for its turn; none when the solver has failed.
+  void PlayProgram(const ProgramTurn& turn, const std::vector<Card>& cards);
 
   /// Flips a switch of the settings and stores it.
   void Toggle(bool Settings::*setting);
@@ -187,6 +206,9 @@ class Commands : public QObject {
   void Copy(Runner run, bool (*copy)(Session&), const QString& said);
   bool RunGenerator(QString& said);
   void EnterAuction();
+  void AskProgram(bool toEnd);
+  void ToggleProgram(ProgramHands hands);
+  void TellNoCard();
   Looker Look() const;
   void Remember(const ImportOutcome& outcome);
   void OpenNewVersion();

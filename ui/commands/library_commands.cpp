@@ -47,7 +47,7 @@ void Commands::CopyLibrary() {
 
 void Commands::DeleteLibrary() {
   QString said;
-  Run([&] {
+  Leave([&] {
     const std::vector<std::string> names = RequireLibraries(session_);
     if (names.empty()) return;
     frmDeleteLib dialog(session_, names, window_);

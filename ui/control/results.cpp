@@ -1,5 +1,7 @@
 #include "ui/control/results.h"
 
+#include <utility>
+
 #include "formats/results/call_remarks.h"
 
 namespace tricklet::ui {
@@ -30,7 +32,27 @@ bool Results::IsStillTheBoard() const {
          board.hands == board_.hands && board.calls == board_.calls;
 }
 
+void Results::Pause() {
+  if (!replay_) return;
+  const auto row = static_cast<std::size_t>(row_);
+  paused_ = Place{row_, replay_->Shown(), traveller_.rows.at(row).lin};
+}
+
+void Results::Resume() {
+  const Place place = *std::exchange(paused_, std::nullopt);
+  const auto row = static_cast<std::size_t>(place.row);
+  if (!IsStillTheBoard() || row >= traveller_.rows.size() ||
+      traveller_.rows[row].lin != place.lin) {
+    return;
+  }
+  replay_ = std::make_unique<Replay>(traveller_.rows[row].record, session_.host);
+  row_ = place.row;
+  while (replay_->Shown() < place.shown && replay_->ForwardEnabled()) replay_->Forward();
+}
+
 void Results::DropStaleRecord(bool entering) {
+  if (paused_ && !session_.board.playMode && !replay_ && !entering) Resume();
+  if (!session_.board.playMode) paused_.reset();
   if (replay_ && (entering || session_.board.playMode || !IsStillTheBoard())) {
     row_ = -1;
     replay_.reset();

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include <QObject>
@@ -53,6 +54,9 @@ class Results : public QObject {
   void ShowRecord(int row);
   /// Looks at the board itself again.
   void Leave();
+  /// The play goes on from the record: the next `DropStaleRecord` without a play comes back to
+  /// where it is now, if the board is still the same.
+  void Pause();
   // Steps of `Replay` in the record that is being looked at; none without one.
   void Forward();
   void Back();
@@ -68,6 +72,7 @@ class Results : public QObject {
  private:
   void Step(const std::function<void(Replay&)>& step);
   bool IsStillTheBoard() const;
+  void Resume();
 
   Session& session_;
   LinData lin_;
@@ -78,6 +83,12 @@ class Results : public QObject {
   int edition_ = 0;
   int row_ = -1;
   std::unique_ptr<Replay> replay_;
+  struct Place {
+    int row = -1;
+    int shown = 0;
+    std::string lin;  // of the row
+  };
+  std::optional<Place> paused_;
   Board board_;          // as it was when the record was chosen
   std::string library_;  // the library's name then
 };

@@ -124,6 +124,8 @@ void TravellerPane::BuildSteps(QVBoxLayout* column, const Actions& actions) {
   row->addWidget(AddStep("cmdLinNextTrick", tr(">>"), actions.Of("mnuLinNextTrick")));
   lblLinPlace_->setObjectName(QStringLiteral("lblLinPlace"));
   MakeQuiet(lblLinPlace_);
+  row->addWidget(
+      AddStep("cmdPlayOn", actions.Of("mnuPlayOn")->iconText(), actions.Of("mnuPlayOn")));
   row->addWidget(lblLinPlace_, 1);
   row->addWidget(AddStep("cmdLinLeave", tr("x"), actions.Of("mnuLinLeave")));
   column->addLayout(row);

@@ -173,7 +173,7 @@ void TrickPane::Show(const Session& session, const Board& board, const TrickGrid
   flexTricks_->clearSpans();
   flexTricks_->setRowCount(tricks + (grid.claimedBy ? 1 : 0));
   for (int row = 0; row < tricks; ++row) ShowRow(row, grid, session.settings);
-  if (grid.claimedBy) ShowClaim(tricks, *grid.claimedBy);
+  if (grid.claimedBy) ShowClaim(tricks, grid);
   const int last = flexTricks_->rowCount() - 1;
   if (last >= 0) flexTricks_->scrollToItem(flexTricks_->item(last, kNumberColumn));
   lblGiven_->setVisible(grid.AnyGiven());
@@ -202,9 +202,14 @@ void TrickPane::ShowRow(int row, const TrickGrid& grid, const Settings& settings
   }
 }
 
-void TrickPane::ShowClaim(int row, Side side) {
-  auto* claim = new QTableWidgetItem(side == Side::NorthSouth ? tr("North-South claimed the rest")
-                                                              : tr("East-West claimed the rest"));
+void TrickPane::ShowClaim(int row, const TrickGrid& grid) {
+  const QString side = grid.claimedBy == Side::NorthSouth ? tr("North-South") : tr("East-West");
+  const QString text = grid.claimed == grid.claimedOf
+                           ? tr("%1 claimed the rest")
+                           : tr("%1 claimed %2 of the last %3")
+                                 .arg(QStringLiteral("%1"), QString::number(grid.claimed),
+                                      QString::number(grid.claimedOf));
+  auto* claim = new QTableWidgetItem(text.arg(side));
   claim->setForeground(palette().brush(QPalette::PlaceholderText));
   claim->setToolTip(claim->text());
   flexTricks_->setItem(row, kNumberColumn, claim);

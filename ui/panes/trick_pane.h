@@ -38,7 +38,7 @@ class TrickPane : public Section {
  private:
   void BuildGrid();
   void ShowRow(int row, const TrickGrid& grid, const Settings& settings);
-  void ShowClaim(int row, Side side);
+  void ShowClaim(int row, const TrickGrid& grid);
   void SetSizes();
 
   ElidedLabel* lblDeal_;

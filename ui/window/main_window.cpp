@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QCloseEvent>
 
+#include "formats/results/call_remarks.h"
 #include "library/recent_files.h"
 #include "library/unsaved_changes.h"
 #include "ui/actions/actions.h"
@@ -14,6 +15,7 @@
 #include "ui/background/best_cards_finder.h"
 #include "ui/background/board_summaries.h"
 #include "ui/background/later.h"
+#include "ui/background/program_player.h"
 #include "ui/commands/commands.h"
 #include "ui/control/draft_clock.h"
 #include "ui/control/edit_control.h"
@@ -59,6 +61,7 @@ MainWindow::MainWindow(Session& session, Updates& updates)
       edit_(std::make_unique<EditControl>(session, *play_)),
       tables_(new BackgroundTables(session, this)),
       best_(new BestCardsFinder(session, this)),
+      program_(new ProgramPlayer(session, this)),
       results_(new Results(session, this)),
       summaries_(new BoardSummaries(session, this)),
       commands_(new Commands(session, *play_, *edit_, updates, this)),
@@ -174,8 +177,10 @@ DiskWatch::Leave MainWindow::LeaveToWatch() const {
 void MainWindow::DisplayAuction() {
   results_->DropStaleRecord(commands_->Auction() != nullptr || edit_->Editing());
   const Replay* record = results_->Record();
-  panes_.auction->Show(session_, commands_->Auction(),
-                       record != nullptr ? &record->Record().board : nullptr, results_->Remarks());
+  const Board* played = record == nullptr ? PlayedAuction() : nullptr;
+  panes_.auction->Show(
+      session_, commands_->Auction(), record != nullptr ? &record->Record().board : played,
+      played != nullptr ? RemarksOn(*played, results_->OfBoard()) : results_->Remarks());
   DisplayPlay();
 }
 
@@ -189,6 +194,7 @@ void MainWindow::DisplayPlay() {
   DisplayTable();
   ShowTricks();
   ShowState();
+  program_->Think(play_->Turn());
 }
 
 void MainWindow::GatherState() {
@@ -228,7 +234,7 @@ void MainWindow::DisplayTable() {
     panes_.table->ShowEmpty();
     return;
   }
-  ShowPlayOf(session_.board, play_->Play());
+  ShowPlayOf(play_->Play().Played(), play_->Play(), play_->Players());
 }
 
 /// The hands of `board` as `play` has left them, and what each card leads to.
@@ -312,6 +318,9 @@ void MainWindow::CarryOut(WindowAsk what) {
     case WindowAsk::Traveller:
       panes_.traveller->Toggle();
       break;
+    case WindowAsk::PlayOn:
+      PlayOn();
+      break;
     case WindowAsk::FindBoards:
       panes_.library->List()->BeginFind();
       break;
@@ -336,6 +345,23 @@ void MainWindow::CarryOut(WindowAsk what) {
       panes_.area->Widen(true, what == WindowAsk::WidenRight);
       break;
   }
+}
+
+/// From the card of the record that is looked at.
+void MainWindow::PlayOn() {
+  const Replay* replay = results_->Record();
+  if (replay == nullptr) return;
+  const auto row = static_cast<std::size_t>(results_->Row());
+  const RecordedPlay record = replay->Record();  // which goes when the play begins
+  const PerSeat<std::string> players = results_->OfBoard().rows.at(row).players;
+  results_->Pause();
+  commands_->PlayOn(record, replay->Shown(), players);
+}
+
+/// The board whose auction is played where it is not the current one's own.
+const Board* MainWindow::PlayedAuction() const {
+  const Board& played = play_->Play().Played();
+  return &played == &session_.board ? nullptr : &played;
 }
 
 /// What is in sight goes to the clipboard, and no more.
@@ -367,7 +393,7 @@ void MainWindow::ShowHidden() {
 /// The tricks of the play, or of the play record that is looked at.
 void MainWindow::ShowTricks() {
   const Replay* record = results_->Record();
-  const Board& board = record != nullptr ? record->Record().board : session_.board;
+  const Board& board = record != nullptr ? record->Record().board : play_->Play().Played();
   const CardPlay& play = record != nullptr ? record->Play() : play_->Play();
   const auto known = [&](const PlayState& before) { return best_->Known(before, board.trumps); };
   using Leaving = TrickPane::Leaving;

@@ -30,6 +30,7 @@ class DraftClock;
 class EditControl;
 class MainMenu;
 class PlayControl;
+class ProgramPlayer;
 class ProgressFrame;
 class Results;
 class StatusLine;
@@ -96,6 +97,8 @@ class MainWindow : public QMainWindow {
   void ShowState();
   void ShowTricks();
   void CarryOut(WindowAsk what);
+  void PlayOn();
+  const Board* PlayedAuction() const;
   void CopyDiagram();
   void HideAll();
   void Hide(Seat seat);
@@ -107,6 +110,7 @@ class MainWindow : public QMainWindow {
   std::unique_ptr<EditControl> edit_;
   BackgroundTables* tables_;
   BestCardsFinder* best_;
+  ProgramPlayer* program_;
   Results* results_;
   BoardSummaries* summaries_;
   Commands* commands_;

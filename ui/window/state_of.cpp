@@ -25,9 +25,12 @@ void AddBoard(WindowState& state, const Session& session) {
 void AddPlay(WindowState& state, const PlayControl& play) {
   state.playing = play.Play().PlayMode();
   state.playFinished = play.Play().Finished();
-  state.canUndoCard = play.Play().UndoEnabled();
+  state.canUndoCard = play.CanUndo();
   state.canRedoCard = play.CanRedo();
   state.canClaim = play.Play().ClaimEnabled();
+  state.cardsPlayed = state.playing && play.Play().UndoTop() > 0;
+  state.programDefends = play.Program() == ProgramHands::Defenders;
+  state.programDeclares = play.Program() == ProgramHands::Declarer;
   state.trickComplete = play.TrickComplete();
   state.claimCaption = play.Play().ClaimCaption();
 }
@@ -43,9 +46,11 @@ void AddEdit(WindowState& state, const EditControl& edit) {
   state.canRevert = edit.History().CanRevert();
 }
 
-void AddResults(WindowState& state, const Results& results) {
+void AddResults(WindowState& state, const Session& session, const Results& results) {
   const Replay* record = results.Record();
   state.recordShown = record != nullptr;
+  state.canPlayOn =
+      record != nullptr && CardPlay::WhyNotPlayOn(session.board, record->Record()).empty();
   state.canGoForward = record != nullptr && record->ForwardEnabled();
   state.canGoBack = record != nullptr && record->BackEnabled();
   state.hasResults = results.HasLinData();
@@ -78,7 +83,7 @@ WindowState StateOf(WindowState known, const Session& session, const Commands& c
   AddBoard(state, session);
   AddPlay(state, play);
   AddEdit(state, edit);
-  AddResults(state, results);
+  AddResults(state, session, results);
   AddUpdates(state, updates);
   AddSettings(state, session.settings);
   return state;

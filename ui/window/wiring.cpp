@@ -7,6 +7,7 @@
 #include "ui/background/best_cards_finder.h"
 #include "ui/background/board_summaries.h"
 #include "ui/background/later.h"
+#include "ui/background/program_player.h"
 #include "ui/commands/commands.h"
 #include "ui/control/draft_clock.h"
 #include "ui/control/play_control.h"
@@ -101,6 +102,7 @@ void MainWindow::ConnectPlay() {
   connect(panes_.contract, &ContractPane::Left, panes_.table, qOverload<>(&QWidget::setFocus));
   connect(play_, &PlayControl::Changed, this, &MainWindow::DisplayPlay);
   connect(best_, &BestCardsFinder::Changed, this, &MainWindow::DisplayPlay);
+  connect(program_, &ProgramPlayer::Found, commands_, &Commands::PlayProgram);
   connect(panes_.table, &TableView::TrickAsked, commands_, &Commands::QuitTrick);
   connect(panes_.tricks, &TrickPane::StopAsked, this,
           [this] { results_->Record() != nullptr ? results_->Leave() : commands_->PlayOrStop(); });
