@@ -9,6 +9,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPushButton>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QStyle>
@@ -124,8 +125,8 @@ void TravellerPane::BuildSteps(QVBoxLayout* column, const Actions& actions) {
   row->addWidget(AddStep("cmdLinNextTrick", tr(">>"), actions.Of("mnuLinNextTrick")));
   lblLinPlace_->setObjectName(QStringLiteral("lblLinPlace"));
   MakeQuiet(lblLinPlace_);
-  row->addWidget(
-      AddStep("cmdPlayOn", actions.Of("mnuPlayOn")->iconText(), actions.Of("mnuPlayOn")));
+  steps_.append(MakeActionButton("cmdPlayOn", actions.Of("mnuPlayOn")));
+  row->addWidget(steps_.last());
   row->addWidget(lblLinPlace_, 1);
   row->addWidget(AddStep("cmdLinLeave", tr("x"), actions.Of("mnuLinLeave")));
   column->addLayout(row);
