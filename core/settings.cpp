@@ -53,6 +53,7 @@ constexpr std::array kTable{
     SettingEntry{kOptions, "ShowAuction", "True", TRICKLET_FIELD(showAuction)},
     SettingEntry{kOptions, "ShowMakeTable", "True", TRICKLET_FIELD(showMakeTable)},
     SettingEntry{kOptions, "ShowTraveller", "True", TRICKLET_FIELD(showTraveller)},
+    SettingEntry{kOptions, "ShowReview", "True", TRICKLET_FIELD(showReview)},
     SettingEntry{kOptions, "LeftWidth", "0", TRICKLET_FIELD(leftWidth), 0, kMostWidth},
     SettingEntry{kOptions, "RightWidth", "0", TRICKLET_FIELD(rightWidth), 0, kMostWidth},
     SettingEntry{kOptions, "RecycleReplaced", "True", TRICKLET_FIELD(recycleReplaced)},

@@ -113,9 +113,10 @@ struct Settings {
   ColourScheme colourScheme = ColourScheme::System;
   ToolbarStyle toolbarStyle = ToolbarStyle::TextUnderIcon;
   CaptionStyle captionStyle = CaptionStyle::Full;
-  bool showAuction = true;      ///< the auction is unfolded; likewise the next two
+  bool showAuction = true;      ///< the auction is unfolded; likewise the next three
   bool showMakeTable = true;    ///< the makeable table
   bool showTraveller = true;    ///< the traveller
+  bool showReview = true;       ///< the review of a play
   int leftWidth = 0;            ///< of the left column, in tenths of the window's font height;
                                 ///< 0: as the window's size gives
   int rightWidth = 0;           ///< likewise of the right column

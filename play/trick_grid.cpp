@@ -7,22 +7,11 @@
 namespace tricklet {
 namespace {
 
-int GivenBy(Card card, const std::vector<CardScore>& scores) {
-  std::optional<int> own;
-  int best = 0;
-  for (const CardScore& score : scores) {
-    best = std::max(best, score.tricks);
-    if (score.card == card) own = score.tricks;
-  }
-  return own ? best - *own : 0;
-}
-
-void AddCard(TrickGrid& grid, Card card, const PlayState& before, const PlayState& after,
-             const KnownScores& known) {
+void AddCard(TrickGrid& grid, Card card, const PlayState& before, const PlayState& after) {
   const bool led = before.cardsInTrick == 0;
   if (led) grid.rows.emplace_back();
   TrickGrid::Row& row = grid.rows.back();
-  row[*before.onPlay] = TrickGrid::Cell{card, led, false, GivenBy(card, known(before))};
+  row[*before.onPlay] = TrickGrid::Cell{.card = card, .number = grid.cards, .led = led};
   for (const Seat seat : kAllSeats) {
     if (row[seat]) row[seat]->wins = seat == after.trickWinner;
   }
@@ -44,6 +33,16 @@ void FindCurrent(TrickGrid& grid, const PlayState& now) {
   if (now.onPlay && !grid.rows.back()[*now.onPlay]) grid.toPlay = now.onPlay;
 }
 
+void Mark(TrickGrid& grid, std::span<const int> given) {
+  for (TrickGrid::Row& row : grid.rows) {
+    for (auto& cell : row) {
+      if (cell && static_cast<std::size_t>(cell->number) < given.size()) {
+        cell->given = given[static_cast<std::size_t>(cell->number)];
+      }
+    }
+  }
+}
+
 }  // namespace
 
 bool TrickGrid::AnyGiven() const {
@@ -53,14 +52,14 @@ bool TrickGrid::AnyGiven() const {
   });
 }
 
-TrickGrid MakeTrickGrid(const CardPlay& play, const KnownScores& known) {
+TrickGrid MakeTrickGrid(const CardPlay& play, std::span<const int> given) {
   TrickGrid grid;
   if (!play.PlayMode()) return grid;
   for (int step = 0; step < play.UndoTop(); ++step) {
     const PlayState& before = play.StateAt(step);
     const PlayState& after = play.StateAt(step + 1);
     if (const auto card = CardBetween(before, after)) {
-      AddCard(grid, *card, before, after, known);
+      AddCard(grid, *card, before, after);
     } else {
       grid.claimedBy = after.claimSide;
       grid.claimed = after.claimTricks;
@@ -69,6 +68,29 @@ TrickGrid MakeTrickGrid(const CardPlay& play, const KnownScores& known) {
     }
   }
   FindCurrent(grid, play.Now());
+  Mark(grid, given);
+  return grid;
+}
+
+TrickGrid MakeRecordGrid(const Replay& replay, std::span<const int> given) {
+  TrickGrid grid;
+  if (replay.Playable() == 0) return grid;
+  const std::vector<Card>& cards = replay.Record().cards;
+  const std::span seen = std::span(cards).first(static_cast<std::size_t>(replay.Playable()));
+  const LegalPlay play = FollowPlay(replay.Record().board, seen);
+  for (int number = 0; number < replay.Playable(); ++number) {
+    const auto trick = static_cast<std::size_t>(number / kSeats);
+    const Seat seat = SeatAfter(play.leaders.at(trick), number % kSeats);
+    if (number % kSeats == 0) grid.rows.emplace_back();
+    grid.rows.back()[seat] =
+        TrickGrid::Cell{.card = seen[static_cast<std::size_t>(number)],
+                        .number = number,
+                        .led = number % kSeats == 0,
+                        .wins = trick + 1 < play.leaders.size() && play.leaders[trick + 1] == seat};
+  }
+  grid.cards = replay.Shown();
+  grid.current = std::max(0, grid.cards - 1) / kSeats;
+  Mark(grid, given);
   return grid;
 }
 

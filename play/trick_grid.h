@@ -1,18 +1,19 @@
 // The tricks of a play as a table: a row for each trick, a column for each seat.
 #pragma once
 
-#include <functional>
 #include <optional>
+#include <span>
 #include <vector>
 
-#include "analysis/solver.h"
 #include "play/card_play.h"
+#include "play/replay.h"
 
 namespace tricklet {
 
 struct TrickGrid {
   struct Cell {
     Card card;
+    int number = 0;     ///< its place in the play, from 0 for the opening lead
     bool led = false;   ///< the first card of its trick
     bool wins = false;  ///< the trick, or what there is of it so far
     int given = 0;      ///< tricks that it gave away double-dummy, 0..13; 0 too where not known
@@ -33,10 +34,12 @@ struct TrickGrid {
   bool AnyGiven() const;
 };
 
-/// What each legal card led to in `before`, as `BestCards` tells it; empty where that is not known.
-using KnownScores = std::function<std::vector<CardScore>(const PlayState& before)>;
+/// The grid of `play`; without rows where its `PlayMode` is off. `given` has the tricks, 0..13, that
+/// each card gave away, from the opening lead on as far as they are known.
+TrickGrid MakeTrickGrid(const CardPlay& play, std::span<const int> given);
 
-/// The grid of `play`; without rows where its `PlayMode` is off.
-TrickGrid MakeTrickGrid(const CardPlay& play, const KnownScores& known);
+/// All cards of a record that can be seen, those after the place that was stepped to among them.
+/// The current row is that of the card that was stepped to, or the first. Nobody is to play.
+TrickGrid MakeRecordGrid(const Replay& replay, std::span<const int> given);
 
 }  // namespace tricklet

@@ -1,5 +1,6 @@
 #include "play/trick_grid.h"
 
+#include <array>
 #include <sstream>
 
 #include <gtest/gtest.h>
@@ -35,6 +36,15 @@ std::string TextOf(const TrickGrid& grid) {
   return text.str();
 }
 
+Board BoardSeven() {
+  Board board;
+  board.boardNumber = 7;
+  board.hands =
+      test::HandsOf("N:AQ975.K86.KT2.J4 84.T732.AQ3.T652 KJT3.A4.9654.AK7 62.QJ95.J87.Q983");
+  test::SetAuction(board, "4S P P P");
+  return board;
+}
+
 TEST(TrickGrid, RowsOfTricks) {
   const struct {
     std::string steps;  // cards; "gather", "claim" and "undo"
@@ -55,20 +65,12 @@ TEST(TrickGrid, RowsOfTricks) {
       {"HQ HK H2 H4 C4 C2 claim undo", "HQ> HK*-1 H2 H4 | [. C4>* C2 ?]", 6},
   };
   test::ScriptedHost host;
-  // One position is known: North's answer to the opening lead.
-  const KnownScores known = [](const PlayState& before) -> std::vector<CardScore> {
-    if (before.tricksPlayed > 0 || before.onPlay != Seat::North) return {};
-    return {{test::CardOf("HK"), 9}, {test::CardOf("H8"), 10}, {test::CardOf("H6"), 10}};
-  };
+  const std::array given{0, 1};  // no more is known
   for (const auto& each : kCases) {
-    Board board;
-    board.boardNumber = 7;
-    board.hands =
-        test::HandsOf("N:AQ975.K86.KT2.J4 84.T732.AQ3.T652 KJT3.A4.9654.AK7 62.QJ95.J87.Q983");
-    test::SetAuction(board, "4S P P P");
+    Board board = BoardSeven();
     NoTimer timer;
     CardPlay play(board, host, timer);
-    EXPECT_EQ(TextOf(MakeTrickGrid(play, known)), "") << "before the play";
+    EXPECT_EQ(TextOf(MakeTrickGrid(play, given)), "") << "before the play";
     ASSERT_TRUE(play.Start());
     std::istringstream steps(each.steps);
     for (std::string step; steps >> step;) {
@@ -82,12 +84,36 @@ TEST(TrickGrid, RowsOfTricks) {
         ASSERT_TRUE(play.Play(test::CardOf(step))) << each.steps << ": " << step;
       }
     }
-    const TrickGrid grid = MakeTrickGrid(play, known);
+    const TrickGrid grid = MakeTrickGrid(play, given);
     EXPECT_EQ(TextOf(grid), each.rows) << each.steps;
     EXPECT_EQ(grid.cards, each.cards) << each.steps;
     EXPECT_EQ(grid.claimedBy, each.claimedBy) << each.steps;
     EXPECT_EQ(grid.AnyGiven(), each.cards > 1) << each.steps;
   }
+}
+
+TEST(TrickGrid, ARecordHasAllItsCardsAndTheRowOfTheOneSteppedTo) {
+  RecordedPlay record{BoardSeven(), {}, {}};
+  for (const char* card : {"HQ", "HK", "H2", "H4", "SQ", "S4", "DA"}) {  // South has spades
+    record.cards.push_back(test::CardOf(card));
+  }
+  test::ScriptedHost host;
+  const std::array given{0, 1, 0, 0, 0, 2};
+  const std::pair<int, const char*> places[] = {
+      {0, "[HQ> HK*-1 H2 H4] | . SQ> S4-2 ."},
+      {4, "[HQ> HK*-1 H2 H4] | . SQ> S4-2 ."},
+      {5, "HQ> HK*-1 H2 H4 | [. SQ> S4-2 .]"},
+      {52, "HQ> HK*-1 H2 H4 | [. SQ> S4-2 .]"},
+  };
+  Replay replay(record, host);
+  for (const auto& [place, rows] : places) {
+    replay.GoTo(place);
+    const TrickGrid grid = MakeRecordGrid(replay, given);
+    EXPECT_EQ(TextOf(grid), rows) << place;
+    EXPECT_EQ(grid.cards, std::min(place, 6));
+  }
+  record.cards.erase(record.cards.begin());
+  EXPECT_EQ(TextOf(MakeRecordGrid(Replay(record, host), given)), "") << "the lead is not West's";
 }
 
 }  // namespace

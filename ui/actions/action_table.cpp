@@ -280,6 +280,13 @@ const std::array kTable{
     ActionEntry{"mnuDeclareBest", QT_TR_NOOP("The program decla&res"), "", "Ctrl+Shift+F9",
                 QT_TR_NOOP("Defend against a declarer who plays best, double-dummy"), "",
                 &Commands::DeclareBest, PlayUnfinished, IsOn<&WindowState::programDeclares>},
+    ActionEntry{"mnuNextMistake", QT_TR_NOOP("&Next mistake"), QT_TR_NOOP("Next mistake"), "F3",
+                QT_TR_NOOP("Go to the next card of the record that gave a trick away"), "",
+                WindowAsk::NextMistake, IsOn<&WindowState::hasMistakeAfter>},
+    ActionEntry{"mnuPreviousMistake", QT_TR_NOOP("Previous &mistake"),
+                QT_TR_NOOP("Previous mistake"), "Shift+F3",
+                QT_TR_NOOP("Go back to the card of the record that gave a trick away"), "",
+                WindowAsk::PreviousMistake, IsOn<&WindowState::hasMistakeBefore>},
     // Analysis
     ActionEntry{"mnuDDS", QT_TR_NOOP("Analyse &board"), QT_TR_NOOP("Analyse"), "Ctrl+D",
                 QT_TR_NOOP("Compute the double-dummy table"), "analyse", &Commands::AnalyseBoard,

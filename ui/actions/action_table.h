@@ -22,6 +22,8 @@ enum class WindowAsk : std::uint8_t {
   LeavePresentation,
   Traveller,
   PlayOn,
+  NextMistake,
+  PreviousMistake,
   FindBoards,
   CopyDiagram,
   HideHands,

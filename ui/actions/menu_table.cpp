@@ -23,7 +23,8 @@ constexpr std::array kMenus{
               "mnuFillFourth mnuUndoFill | mnuClearBoard mnuUndoClear"},
     MenuEntry{QT_TR_NOOP("&Play"),
               "mnuBidding | mnuPlay mnuPlayOn mnuUndoCard mnuGatherTrick mnuClaim mnuClaimTricks "
-              "mnuKeepPlay | mnuProgramCard mnuBestLine mnuDefendBest mnuDeclareBest"},
+              "mnuKeepPlay | mnuProgramCard mnuBestLine mnuDefendBest mnuDeclareBest | "
+              "mnuNextMistake mnuPreviousMistake"},
     MenuEntry{QT_TR_NOOP("&Analysis"), "mnuDDS mnuAnalyse | mnuBSOL"},
     MenuEntry{QT_TR_NOOP("&Results"),
               "mnuTraveller | mnuLinForward mnuLinBack mnuLinNextTrick mnuLinPreviousTrick "
@@ -54,8 +55,8 @@ const char* const kTableContext =
 const char* const kBoardListContext =
     "mnuCopyHand mnuPasteHand | mnuSave mnuRevert | mnuDDS mnuAnalyse | mnuFind mnuGoTo";
 const char* const kTravellerContext =
-    "mnuLinForward mnuLinBack mnuLinNextTrick mnuLinPreviousTrick | mnuPlayOn mnuLinLeave | "
-    "mnuTraveller";
+    "mnuLinForward mnuLinBack mnuLinNextTrick mnuLinPreviousTrick | mnuNextMistake "
+    "mnuPreviousMistake | mnuPlayOn mnuLinLeave | mnuTraveller";
 
 std::span<const MenuEntry> MenuTable() {
   return kMenus;

@@ -13,6 +13,7 @@ PanesShown ShownIn(const WindowState& state) {
   shown.left = !state.presentation;
   shown.library = !state.editing && !state.PlayUnfinished() && !state.recordShown;
   shown.tricks = !state.editing && (state.playing || state.recordShown);
+  shown.review = shown.tricks && state.Reviewing();
   shown.edit = state.editing;
   // They tell what hidden hands hold.
   shown.statistics = state.showStats && state.hasCards && !state.AnyHidden() && !state.editing &&

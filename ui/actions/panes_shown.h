@@ -14,6 +14,7 @@ struct PanesShown {
   bool left = false;  ///< the column, with what is on in it
   bool library = false;
   bool tricks = false;
+  bool review = false;
   bool edit = false;
   bool statistics = false;
 

@@ -49,6 +49,8 @@ struct WindowState {
   bool canPlayOn = false;     ///< from the record, which is of the board
   bool canGoForward = false;  ///< in the record
   bool canGoBack = false;
+  bool hasMistakeAfter = false;   ///< in the record, after the place that was stepped to
+  bool hasMistakeBefore = false;  ///< before it
   bool canRevert = false;  ///< the board differs from what is stored
   std::string undoStep{};  ///< what can be undone on the board: "rotate"; empty when nothing
   std::string redoStep{};
@@ -70,6 +72,12 @@ struct WindowState {
 
   /// Cards are still to be played: nothing else is done with the board meanwhile.
   bool PlayUnfinished() const { return playing && !playFinished; }
+  /// What cards have cost may be told: not while some hand is a secret, and of a play that goes on
+  /// only where best cards are told, too.
+  bool Reviewing() const {
+    if (PlayUnfinished()) return showBestCards;
+    return (playing || recordShown) && !AnyHidden();
+  }
   bool AnyHidden() const {
     return std::any_of(kAllSeats.begin(), kAllSeats.end(),
                        [this](Seat seat) { return hidden[seat]; });

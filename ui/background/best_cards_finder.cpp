@@ -30,12 +30,6 @@ const std::vector<CardScore>* BestCardsFinder::Remembered(const Question& questi
   return answer == answers_.end() ? nullptr : &answer->tricks;
 }
 
-std::vector<CardScore> BestCardsFinder::Known(const PlayState& state, Strain trumps) const {
-  const auto question = session_.settings.showBestCards ? QuestionOf(state, trumps) : std::nullopt;
-  const auto* tricks = question ? Remembered(*question) : nullptr;
-  return tricks != nullptr ? *tricks : std::vector<CardScore>{};
-}
-
 void BestCardsFinder::Find(const CardPlay& play, const Board& board) {
   std::optional<Question> question;
   if (session_.settings.showBestCards && session_.getSolver && play.PlayMode()) {

@@ -31,12 +31,9 @@ class BestCardsFinder : public QObject {
 
   /// As `BestCards` tells them; empty while they are not known.
   const std::vector<CardScore>& Tricks() const { return tricks_; }
-  /// What was found, now or earlier, for the position of `state`; empty where nothing was, and
-  /// while the setting is off. Only the last few hundred positions are remembered.
-  std::vector<CardScore> Known(const PlayState& state, Strain trumps) const;
 
  signals:
-  /// `Tricks` or `Known` tell more now.
+  /// `Tricks` tells more now.
   void Changed();
 
  private:

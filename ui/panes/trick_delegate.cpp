@@ -40,11 +40,24 @@ void DrawMark(QPainter& painter, QRectF room, const QString& text) {
   painter.drawText(pill, Qt::AlignCenter, text);
 }
 
-void DrawNext(QPainter& painter, const QRect& room, const QPalette& palette) {
-  QPen pen(palette.color(QPalette::PlaceholderText), 1, Qt::DashLine);
+void DrawFrame(QPainter& painter, const QRect& room, const QPen& pen) {
   painter.setPen(pen);
   painter.setBrush(Qt::NoBrush);
-  painter.drawRoundedRect(QRectF(room).adjusted(2.5, 2.5, -4.5, -3.5), 3, 3);
+  painter.drawRoundedRect(QRectF(room).adjusted(1.5, 1.5, -1.5, -1.5), 3, 3);
+}
+
+void DrawFrames(QPainter& painter, const QStyleOptionViewItem& cell, const QModelIndex& index) {
+  if (index.data(TrickDelegate::NextRole).toBool()) {
+    DrawFrame(painter, cell.rect,
+              QPen(cell.palette.color(QPalette::PlaceholderText), 1, Qt::DashLine));
+  }
+  if (index.data(TrickDelegate::HereRole).toBool()) {
+    DrawFrame(painter, cell.rect, QPen(cell.palette.color(QPalette::Text), 1.5));
+  }
+  if (cell.state.testFlag(QStyle::State_HasFocus) &&
+      cell.state.testFlag(QStyle::State_KeyboardFocusChange)) {
+    DrawFrame(painter, cell.rect, QPen(cell.palette.color(QPalette::Highlight), 2));
+  }
 }
 
 }  // namespace
@@ -56,7 +69,7 @@ void TrickDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   painter->save();
   painter->setRenderHint(QPainter::Antialiasing);
   painter->fillRect(cell.rect, cell.backgroundBrush);
-  if (index.data(NextRole).toBool()) DrawNext(*painter, cell.rect, cell.palette);
+  DrawFrames(*painter, cell, index);
 
   const QString symbol = index.data(SymbolRole).toString();
   const bool wins = index.data(WinsRole).toBool();

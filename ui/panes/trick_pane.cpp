@@ -3,11 +3,14 @@
 #include <array>
 
 #include <QEvent>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "ui/actions/action_grid.h"
+#include "ui/actions/actions.h"
 #include "ui/panes/seat_header.h"
 #include "ui/panes/trick_delegate.h"
 #include "ui/style/focus_ring.h"
@@ -37,30 +40,16 @@ constexpr int ColumnOf(Seat seat) {
 }
 
 /// Everything that the drawing of a card tells, in words.
-QString Spoken(Seat seat, const TrickGrid::Cell& cell) {
+QString Spoken(Seat seat, const TrickGrid::Cell& cell, bool here) {
   QStringList parts{TrickPane::tr("%1: %2 %3")
                         .arg(ToQt(SeatName[seat]), ToQt(SuitName[cell.card.suit]),
                              ToQt(RankText[cell.card.rank]))};
   if (cell.led) parts += TrickPane::tr("led");
   if (cell.wins) parts += TrickPane::tr("the winning card");
-  if (cell.given > 0) parts += TrickPane::tr("gave away %n trick(s)", nullptr, cell.given);
+  if (cell.given == 1) parts += TrickPane::tr("gave away 1 trick");
+  if (cell.given > 1) parts += TrickPane::tr("gave away %1 tricks").arg(cell.given);
+  if (here) parts += TrickPane::tr("the last card on the table");
   return parts.join(QStringLiteral(", "));
-}
-
-QTableWidgetItem* MakeCard(Seat seat, const TrickGrid::Cell& cell, const Settings& settings,
-                           const QPalette& palette) {
-  auto* item = new QTableWidgetItem(ToQt(RankText[cell.card.rank]));
-  item->setData(TrickDelegate::SymbolRole, ToQt(SuitSymbol[cell.card.suit]));
-  item->setData(TrickDelegate::SymbolColourRole,
-                SuitColourOnWindow(cell.card.suit, settings.suitColour, palette));
-  item->setData(TrickDelegate::LedRole, cell.led);
-  item->setData(TrickDelegate::WinsRole, cell.wins);
-  if (cell.given > 0) {
-    item->setData(TrickDelegate::GivenRole, QStringLiteral("\u2212%1").arg(cell.given));
-  }
-  item->setToolTip(Spoken(seat, cell));
-  item->setData(Qt::AccessibleTextRole, item->toolTip());
-  return item;
 }
 
 QTableWidgetItem* MakeGap(Seat seat, bool next) {
@@ -87,16 +76,27 @@ QString CaptionOf(TrickPane::Leaving leaving) {
 
 }  // namespace
 
-TrickPane::TrickPane(QWidget* parent)
+TrickPane::TrickPane(const Actions& actions, QWidget* parent)
     : Section(QStringLiteral("fraTricks"), parent),
       lblDeal_(new ElidedLabel(this)),
       flexTricks_(new QTableWidget(0, kColumns, this)),
       lblGiven_(new QLabel(tr("Red: gave a trick away double-dummy"), this)),
+      fraMistakes_(new QWidget(this)),
+      cmdPreviousMistake_(MakeActionButton("cmdPreviousMistake", actions.Of("mnuPreviousMistake"))),
+      cmdNextMistake_(MakeActionButton("cmdNextMistake", actions.Of("mnuNextMistake"))),
       cmdStopPlay_(new QPushButton(CaptionOf(Leaving::Play), this)) {
   lblDeal_->setObjectName(QStringLiteral("lblTrickDeal"));
   MakeQuiet(lblDeal_);
   Body()->addWidget(lblDeal_);
+  auto* mistakes = new QHBoxLayout(fraMistakes_);
+  mistakes->setContentsMargins(0, 0, 0, 0);
+  for (QPushButton* button : {cmdPreviousMistake_, cmdNextMistake_}) {
+    button->setMinimumWidth(1);
+    mistakes->addWidget(button, 1);
+  }
+  Body()->addWidget(fraMistakes_);
   BuildGrid();
+  ConnectGrid();
   Body()->addWidget(flexTricks_, kStretch);
   lblGiven_->setObjectName(QStringLiteral("lblGiven"));
   lblGiven_->setWordWrap(true);
@@ -134,6 +134,34 @@ void TrickPane::BuildGrid() {
   SetSizes();
 }
 
+void TrickPane::ConnectGrid() {
+  flexTricks_->setMouseTracking(true);
+  flexTricks_->installEventFilter(this);
+  flexTricks_->viewport()->installEventFilter(this);
+  const auto point = [this](int row, int column) { emit Pointed(NumberAt(row, column)); };
+  connect(flexTricks_, &QTableWidget::cellEntered, this, point);
+  connect(flexTricks_, &QTableWidget::currentCellChanged, this, point);
+  connect(flexTricks_, &QTableWidget::viewportEntered, this, [this] { emit Pointed(-1); });
+  connect(flexTricks_, &QTableWidget::cellClicked, this, &TrickPane::Ask);
+  connect(flexTricks_, &QTableWidget::cellActivated, this, &TrickPane::Ask);
+}
+
+int TrickPane::NumberAt(int row, int column) const {
+  const QTableWidgetItem* item = flexTricks_->item(row, column);
+  const QVariant number = item != nullptr ? item->data(TrickDelegate::NumberRole) : QVariant();
+  return number.isValid() ? number.toInt() : -1;
+}
+
+void TrickPane::Ask(int row, int column) {
+  const int number = NumberAt(row, column);
+  if (record_ && number >= 0) emit PlaceAsked(number + 1);
+}
+
+bool TrickPane::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Leave || event->type() == QEvent::FocusOut) emit Pointed(-1);
+  return Section::eventFilter(watched, event);
+}
+
 void TrickPane::SetSizes() {
   const int height = QFontMetrics(flexTricks_->font()).height();
   const auto pixels = [height](double heights) { return static_cast<int>(height * heights); };
@@ -149,7 +177,7 @@ void TrickPane::SetSizes() {
 }
 
 QList<QWidget*> TrickPane::TabOrder() const {
-  return {flexTricks_, cmdStopPlay_};
+  return {cmdPreviousMistake_, cmdNextMistake_, flexTricks_, cmdStopPlay_};
 }
 
 void TrickPane::Show(const Session& session, const Board& board, const TrickGrid& grid,
@@ -160,6 +188,20 @@ void TrickPane::Show(const Session& session, const Board& board, const TrickGrid
       tr("Dealer %1 · %2")
           .arg(ToQt(SeatName[board.Dealer()]), ToQt(VulShort[board.Vulnerability()])));
   cmdStopPlay_->setText(CaptionOf(leaving));
+  record_ = leaving == Leaving::Record;
+  fraMistakes_->setVisible(record_);
+  ShowHeads();
+  const int tricks = static_cast<int>(grid.rows.size());
+  flexTricks_->clearSpans();
+  flexTricks_->setRowCount(tricks + (grid.claimedBy ? 1 : 0));
+  for (int row = 0; row < tricks; ++row) ShowRow(row, grid, session.settings);
+  if (grid.claimedBy) ShowClaim(tricks, grid);
+  const int seen = record_ ? grid.current : flexTricks_->rowCount() - 1;
+  if (seen >= 0) flexTricks_->scrollToItem(flexTricks_->item(seen, kNumberColumn));
+  lblGiven_->setVisible(grid.AnyGiven());
+}
+
+void TrickPane::ShowHeads() {
   for (int column = 0; column < kColumns; ++column) {
     auto* head = new QTableWidgetItem;
     head->setBackground(palette().brush(QPalette::Base));
@@ -169,14 +211,25 @@ void TrickPane::Show(const Session& session, const Board& board, const TrickGrid
   for (const Seat seat : kAllSeats) {
     flexTricks_->horizontalHeaderItem(ColumnOf(seat))->setText(ToQt(SeatName[seat]));
   }
-  const int tricks = static_cast<int>(grid.rows.size());
-  flexTricks_->clearSpans();
-  flexTricks_->setRowCount(tricks + (grid.claimedBy ? 1 : 0));
-  for (int row = 0; row < tricks; ++row) ShowRow(row, grid, session.settings);
-  if (grid.claimedBy) ShowClaim(tricks, grid);
-  const int last = flexTricks_->rowCount() - 1;
-  if (last >= 0) flexTricks_->scrollToItem(flexTricks_->item(last, kNumberColumn));
-  lblGiven_->setVisible(grid.AnyGiven());
+}
+
+/// `here` is the number of the card that was stepped to; -1 for none.
+QTableWidgetItem* TrickPane::MakeCard(Seat seat, const TrickGrid::Cell& cell,
+                                      const Settings& settings, int here) const {
+  auto* item = new QTableWidgetItem(ToQt(RankText[cell.card.rank]));
+  item->setData(TrickDelegate::SymbolRole, ToQt(SuitSymbol[cell.card.suit]));
+  item->setData(TrickDelegate::SymbolColourRole,
+                SuitColourOnWindow(cell.card.suit, settings.suitColour, palette()));
+  item->setData(TrickDelegate::LedRole, cell.led);
+  item->setData(TrickDelegate::WinsRole, cell.wins);
+  item->setData(TrickDelegate::NumberRole, cell.number);
+  item->setData(TrickDelegate::HereRole, cell.number == here);
+  if (cell.given > 0) {
+    item->setData(TrickDelegate::GivenRole, QStringLiteral("\u2212%1").arg(cell.given));
+  }
+  item->setToolTip(Spoken(seat, cell, cell.number == here));
+  item->setData(Qt::AccessibleTextRole, item->toolTip());
+  return item;
 }
 
 void TrickPane::ShowRow(int row, const TrickGrid& grid, const Settings& settings) {
@@ -193,8 +246,9 @@ void TrickPane::ShowRow(int row, const TrickGrid& grid, const Settings& settings
   flexTricks_->setItem(row, kNumberColumn, number);
   for (const Seat seat : kAllSeats) {
     flexTricks_->setItem(row, ColumnOf(seat),
-                         cards[seat] ? MakeCard(seat, *cards[seat], settings, palette())
-                                     : MakeGap(seat, current && grid.toPlay == seat));
+                         cards[seat]
+                             ? MakeCard(seat, *cards[seat], settings, record_ ? grid.cards - 1 : -1)
+                             : MakeGap(seat, current && grid.toPlay == seat));
   }
   if (!current) return;
   for (int column = 0; column < kColumns; ++column) {

@@ -32,7 +32,6 @@
 #include "ui/panes/notes_pane.h"
 #include "ui/panes/statistics_pane.h"
 #include "ui/panes/traveller_pane.h"
-#include "ui/panes/trick_pane.h"
 #include "ui/style/progress_frame.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/section.h"
@@ -42,6 +41,7 @@
 #include "ui/window/copied_diagram.h"
 #include "ui/window/main_menu.h"
 #include "ui/window/placing.h"
+#include "ui/window/review_display.h"
 #include "ui/window/state_of.h"
 #include "ui/window/status_line.h"
 #include "ui/window/work_area.h"
@@ -71,6 +71,7 @@ MainWindow::MainWindow(Session& session, Updates& updates)
       actions_(new Actions(*this, *commands_, *results_)),
       menu_(new MainMenu(*this, *actions_)),
       panes_(session, *commands_, *actions_, *results_, *summaries_),
+      review_(new ReviewDisplay(session, *play_, *results_, panes_, this)),
       status_(new StatusLine(this)) {
   setStatusBar(status_);
   setObjectName(QStringLiteral("frmMain"));
@@ -192,7 +193,7 @@ void MainWindow::DisplayPlay() {
   panes_.notes->Show(results_->Note());
   GatherState();
   DisplayTable();
-  ShowTricks();
+  review_->Show(state_);
   ShowState();
   program_->Think(play_->Turn());
 }
@@ -200,6 +201,8 @@ void MainWindow::DisplayPlay() {
 void MainWindow::GatherState() {
   state_.working = panes_.progress->IsWorking();
   state_ = StateOf(std::move(state_), session_, *commands_, *play_, *edit_, *results_, updates_);
+  state_.hasMistakeAfter = review_->HasMistakeAfter();
+  state_.hasMistakeBefore = review_->HasMistakeBefore();
 }
 
 /// Gathers the state, and sets the actions and what is shown by it.
@@ -321,6 +324,12 @@ void MainWindow::CarryOut(WindowAsk what) {
     case WindowAsk::PlayOn:
       PlayOn();
       break;
+    case WindowAsk::NextMistake:
+      review_->ToNextMistake();
+      break;
+    case WindowAsk::PreviousMistake:
+      review_->ToPreviousMistake();
+      break;
     case WindowAsk::FindBoards:
       panes_.library->List()->BeginFind();
       break;
@@ -387,20 +396,18 @@ void MainWindow::Hide(Seat seat) {
 
 void MainWindow::ShowHidden() {
   panes_.table->SetHidden(state_.hidden);
+  review_->Show(state_);
   ShowState();
 }
 
-/// The tricks of the play, or of the play record that is looked at.
-void MainWindow::ShowTricks() {
-  const Replay* record = results_->Record();
-  const Board& board = record != nullptr ? record->Record().board : play_->Play().Played();
-  const CardPlay& play = record != nullptr ? record->Play() : play_->Play();
-  const auto known = [&](const PlayState& before) { return best_->Known(before, board.trumps); };
-  using Leaving = TrickPane::Leaving;
-  const Leaving leaving = record != nullptr ? Leaving::Record
-                          : play.Finished() ? Leaving::FinishedPlay
-                                            : Leaving::Play;
-  panes_.tricks->Show(session_, board, MakeTrickGrid(play, known), leaving);
+/// What a card has cost; without a text, what the line said before goes.
+void MainWindow::TellMistake(const QString& text) {
+  if (!text.isEmpty()) {
+    status_->Say(text);
+  } else if (status_->Said() == mistake_) {
+    status_->Say(StatusText());
+  }
+  mistake_ = text;
 }
 
 void MainWindow::SetPresentation(bool on) {

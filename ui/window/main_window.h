@@ -33,6 +33,7 @@ class PlayControl;
 class ProgramPlayer;
 class ProgressFrame;
 class Results;
+class ReviewDisplay;
 class StatusLine;
 class Updates;
 
@@ -95,7 +96,7 @@ class MainWindow : public QMainWindow {
   void SetWorking(bool working);
   void GatherState();
   void ShowState();
-  void ShowTricks();
+  void TellMistake(const QString& text);
   void CarryOut(WindowAsk what);
   void PlayOn();
   const Board* PlayedAuction() const;
@@ -119,7 +120,9 @@ class MainWindow : public QMainWindow {
   Actions* actions_;
   MainMenu* menu_;
   Panes panes_;
+  ReviewDisplay* review_;
   StatusLine* status_;
+  QString mistake_;    // what the status line says of a card; empty where it says something else
   WindowState state_;  // of the last display; what only the window knows is set here
   Qt::WindowStates stateBefore_;
 };

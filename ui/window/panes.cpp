@@ -11,6 +11,7 @@
 #include "ui/panes/library_pane.h"
 #include "ui/panes/makeable_pane.h"
 #include "ui/panes/notes_pane.h"
+#include "ui/panes/review_pane.h"
 #include "ui/panes/statistics_pane.h"
 #include "ui/panes/traveller_pane.h"
 #include "ui/panes/trick_pane.h"
@@ -30,7 +31,8 @@ constexpr QSize kLeastWindow(320, 240);
 Panes::Panes(Session& session, Commands& commands, const Actions& actions, Results& results,
              BoardSummaries& summaries)
     : library(new LibraryPane(session, summaries)),
-      tricks(new TrickPane),
+      tricks(new TrickPane(actions)),
+      review(new ReviewPane),
       edit(new EditPane(commands, actions)),
       statistics(new StatisticsPane),
       table(new TableView),
@@ -42,7 +44,7 @@ Panes::Panes(Session& session, Commands& commands, const Actions& actions, Resul
       progress(new ProgressFrame) {}
 
 QWidget* Panes::Lay(QWidget* window) {
-  left = new SideColumn(QStringLiteral("colLeft"), {library, tricks, edit, statistics});
+  left = new SideColumn(QStringLiteral("colLeft"), {library, tricks, review, edit, statistics});
   right =
       new SideColumn(QStringLiteral("colRight"), {auction, contract, makeable, notes, traveller});
   table->setObjectName(QStringLiteral("picTable"));
@@ -71,18 +73,18 @@ void Panes::Show(const PanesShown& shown, const Settings& settings) {
   KeepRoom(right, shown.rightRoom);
   KeepRoom(makeable, shown.makeableRoom);
   const std::pair<QWidget*, bool> panes[] = {
-      {table, shown.table},   {left, shown.left},           {library, shown.library},
-      {tricks, shown.tricks}, {edit, shown.edit},           {statistics, shown.statistics},
-      {right, shown.right},   {contract, shown.contract},   {makeable, shown.makeable},
-      {notes, shown.notes},   {traveller, shown.traveller},
+      {table, shown.table},           {left, shown.left},     {library, shown.library},
+      {tricks, shown.tricks},         {review, shown.review}, {edit, shown.edit},
+      {statistics, shown.statistics}, {right, shown.right},   {contract, shown.contract},
+      {makeable, shown.makeable},     {notes, shown.notes},   {traveller, shown.traveller},
   };
   for (const auto& [pane, visible] : panes) pane->setVisible(visible);
 }
 
 QList<QWidget*> Panes::TabOrder() const {
-  return library->TabOrder() + tricks->TabOrder() + edit->TabOrder() + table->TabOrder() +
-         auction->TabOrder() + contract->TabOrder() + makeable->TabOrder() + notes->TabOrder() +
-         traveller->TabOrder();
+  return library->TabOrder() + tricks->TabOrder() + review->TabOrder() + edit->TabOrder() +
+         table->TabOrder() + auction->TabOrder() + contract->TabOrder() + makeable->TabOrder() +
+         notes->TabOrder() + traveller->TabOrder();
 }
 
 }  // namespace tricklet::ui

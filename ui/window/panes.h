@@ -20,6 +20,7 @@ class MakeablePane;
 class NotesPane;
 class ProgressFrame;
 class Results;
+class ReviewPane;
 class SideColumn;
 class StatisticsPane;
 class TableView;
@@ -46,6 +47,7 @@ class Panes {
 
   LibraryPane* library;
   TrickPane* tricks;
+  ReviewPane* review;
   EditPane* edit;
   StatisticsPane* statistics;
   TableView* table;

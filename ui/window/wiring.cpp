@@ -20,6 +20,7 @@
 #include "ui/panes/edit_pane.h"
 #include "ui/panes/library_pane.h"
 #include "ui/panes/makeable_pane.h"
+#include "ui/panes/review_pane.h"
 #include "ui/panes/traveller_pane.h"
 #include "ui/panes/trick_pane.h"
 #include "ui/style/folding_section.h"
@@ -30,6 +31,7 @@
 #include "ui/window/drop_target.h"
 #include "ui/window/main_menu.h"
 #include "ui/window/main_window.h"
+#include "ui/window/review_display.h"
 #include "ui/window/status_line.h"
 #include "ui/window/work_area.h"
 
@@ -107,6 +109,8 @@ void MainWindow::ConnectPlay() {
   connect(panes_.tricks, &TrickPane::StopAsked, this,
           [this] { results_->Record() != nullptr ? results_->Leave() : commands_->PlayOrStop(); });
   connect(panes_.table, &TableView::HideAsked, this, &MainWindow::Hide);
+  connect(review_, &ReviewDisplay::Changed, this, &MainWindow::DisplayPlay);
+  connect(review_, &ReviewDisplay::Told, this, &MainWindow::TellMistake);
 }
 
 /// What is folded away and how wide the columns are outlasts the program.
@@ -121,6 +125,7 @@ void MainWindow::ConnectColumns() {
   keep(panes_.auction, &Settings::showAuction);
   keep(panes_.makeable, &Settings::showMakeTable);
   keep(panes_.traveller, &Settings::showTraveller);
+  keep(panes_.review, &Settings::showReview);
   connect(panes_.area, &WorkArea::WidthChosen, this, [this](bool right, int tenths) {
     int Settings::*setting = right ? &Settings::rightWidth : &Settings::leftWidth;
     session_.settings.*setting = tenths;

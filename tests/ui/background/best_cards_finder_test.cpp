@@ -64,7 +64,6 @@ TEST_F(BestCardsFinderTest, TellsThePositionInHandAndForgetsTheOneBefore) {
   session.settings.showBestCards = true;
   EXPECT_TRUE(Find());
   EXPECT_EQ(asked, before) << "what was found is remembered";
-  EXPECT_EQ(finder.Known(play.Play().StateAt(0), session.board.trumps).size(), 1U);
   play.Stop();
   finder.Find(play.Play(), session.board);
   EXPECT_TRUE(finder.Tricks().empty());
