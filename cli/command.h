@@ -28,6 +28,8 @@ void AddBoardArgument(CLI::App& command, int& board);
 
 /// libraries, boards, show, export, settings.
 void AddBoardCommands(CLI::App& app, Command& command);
+/// notes.
+void AddNotesCommand(CLI::App& app, Command& command);
 /// import, import-lin.
 void AddImportCommands(CLI::App& app, Command& command);
 /// library.

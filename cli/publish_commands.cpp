@@ -18,6 +18,7 @@ struct Words {
   std::string boards;
   std::string title;
   std::string names = std::string(NamesShownName(NamesShown::Full));
+  bool notes = false;
   bool force = false;
   bool report = false;
 };
@@ -37,6 +38,7 @@ ExitCode Publish(const Context& context, const Words& words) {
   if (const auto boards = ReadBoardRange(words.boards)) choices.boards = *boards;
   choices.title = words.title;
   choices.names = NamesShownOf(words.names).value_or(NamesShown::None);
+  choices.notes = words.notes;
   choices.folder = PathFromText(words.folder);
   choices.replaceForeign = words.force;
   choices.report = words.report;
@@ -63,6 +65,7 @@ void AddPublishCommands(CLI::App& app, Command& command) {
       ->type_name("full|initials|none")
       ->check(CheckNames);
   publish->add_flag("--report", words->report, "Review the plays, and show the session report");
+  publish->add_flag("--notes", words->notes, "Publish the notes to the boards too");
   publish->add_flag("--force", words->force, "Replace an index.html that is no page of Tricklet's");
   WhenChosen(*publish, command, [words](const Context& context, const ConsoleHost&) {
     return Publish(context, *words);

@@ -119,6 +119,7 @@ int ParseAndExecute(const std::vector<std::string>& arguments, SettingsStore& st
   app.name("tricklet-cli");
   DescribeOptions(app, parsed);
   AddBoardCommands(app, command);
+  AddNotesCommand(app, command);
   AddImportCommands(app, command);
   AddLibraryCommands(app, command);
   AddPlayCommands(app, command);

@@ -74,6 +74,41 @@ void StoreNotes(const Session& session, const BoardNotes& notes, LibraryWrite& w
   write.Replace(NotesPath(session), text);
 }
 
+std::string NoteText(std::string_view note) {
+  std::string text;
+  for (std::string_view rest = note; !rest.empty();) {
+    text += TakeLine(rest);
+    text += '\n';
+  }
+  return std::string(TrimLines(ShowableLines(text)));
+}
+
+bool StoreNote(Session& session, int boardNumber, std::string_view note, std::string_view seen) {
+  std::string text = NoteText(note);
+  try {
+    auto write = LibraryWrite::Begin(session);
+    if (!write) return false;
+    BoardNotes notes = LoadNotes(session);
+    std::string& stored = notes[boardNumber];
+    const bool changed = stored != seen && stored != text && !stored.empty();
+    if (changed) text = stored + (text.empty() ? "" : "\n\n" + text);
+    if (stored == text && !changed) return true;
+    stored = text;
+    if (text.empty()) notes.erase(boardNumber);
+    StoreNotes(session, notes, *write);
+    write->Finish();
+    if (changed) {
+      session.host.Tell("Another program has changed the notes of board " +
+                        std::to_string(boardNumber) + " meanwhile. Both texts are kept.");
+    }
+    return true;
+  } catch (const Fault& fault) {
+    session.host.TellError("The notes of board " + std::to_string(boardNumber) +
+                           " could not be stored:\n" + fault.Description());
+    return false;
+  }
+}
+
 const BoardNotes& NotesData::Of(Session& session) {
   const FileStamp stamp = StampOf(NotesPath(session));
   if (stamp == stamp_) return notes_;

@@ -37,6 +37,17 @@ BoardNotes LoadNotes(const Session& session);
 /// what it replaces. Throws `Fault`, and then the old file is as it was.
 void StoreNotes(const Session& session, const BoardNotes& notes, LibraryWrite& write);
 
+/// Gives one board of the current library the text `note`; an empty one takes its notes away. The
+/// file is read afresh under the library's lock, so that what others have written meanwhile of
+/// other boards stays. `seen` is what the board's notes were when the person began: where another
+/// program has changed them since, both texts are kept, and that is told. False, after a message,
+/// when it could not be stored; the old file is then as it was.
+bool StoreNote(Session& session, int boardNumber, std::string_view note, std::string_view seen);
+
+/// `note` as `StoreNote` keeps it: without empty lines and blanks at both ends, control characters
+/// as blanks, lines divided by "\n".
+std::string NoteText(std::string_view note);
+
 /// The notes of the current library, kept in memory.
 class NotesData {
  public:

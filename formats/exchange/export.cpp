@@ -13,6 +13,7 @@
 #include "formats/lin/lin_writer.h"
 #include "formats/pbn/pbn_writer.h"
 #include "library/board_file.h"
+#include "library/board_notes.h"
 #include "library/board_range.h"
 #include "library/board_store.h"
 #include "library/library_scan.h"
@@ -52,12 +53,16 @@ bool LoadForExport(Session& session, const ExportRange& range, int number, Expor
 }
 
 void CollectPBN(Session& session, const ExportRange& range, ExportRun& run) {
-  const PbnOptions options{session.settings.pbnBids, session.settings.pbnShark};
+  const BoardNotes notes = LoadNotes(session);
   Board board;
   for (int number = range.first; number <= range.last; ++number) {
     const bool complete = LoadForExport(session, range, number, run, board);
     if (run.cancelled) break;
-    if (complete) run.text += PbnRecord(board, session.LibraryName(), options);
+    if (complete) {
+      PbnOptions options{session.settings.pbnBids, session.settings.pbnShark};
+      if (const auto note = notes.find(number); note != notes.end()) options.notes = note->second;
+      run.text += PbnRecord(board, session.LibraryName(), options);
+    }
     run.text += "\r\n";
   }
   run.text += "\r\n";

@@ -1,5 +1,6 @@
 #include "formats/pbn/pbn_writer.h"
 
+#include <algorithm>
 #include <array>
 
 #include "core/host.h"
@@ -68,6 +69,38 @@ void AppendTable(std::string& text, const MakeableTable& table) {
   }
 }
 
+/// Suit symbols as PBN has them in comments: "\S".
+std::string CommentText(std::string_view line) {
+  std::string text;
+  while (!line.empty()) {
+    const auto suit = std::find_if(kAllSuits.begin(), kAllSuits.end(), [line](Suit each) {
+      return line.starts_with(SuitSymbol[each]);
+    });
+    if (suit != kAllSuits.end()) {
+      text += "\\" + std::string(StrainLetter[ToStrain(*suit)]);
+      line.remove_prefix(SuitSymbol[*suit].size());
+    } else {
+      text += line.front() == '{' ? '(' : line.front() == '}' ? ')' : line.front();
+      line.remove_prefix(1);
+    }
+  }
+  return Utf8ToLatin1(text);
+}
+
+void AppendNotes(std::string& text, std::string_view notes) {
+  text += '{';
+  for (std::string_view rest = notes; !rest.empty();) {
+    const bool first = text.back() == '{';
+    const std::string line = CommentText(TakeLine(rest));
+    // A tag is known by its bracket even where blanks stand before it.
+    if (!first) text += Trim(line).starts_with('[') ? " " : kLineEnd;
+    if (!first && line.starts_with('%')) text += ' ';
+    text += line;
+  }
+  text += '}';
+  text += kLineEnd;
+}
+
 }  // namespace
 
 std::string PbnRecord(const Board& board, std::string_view libraryName, PbnOptions options) {
@@ -85,6 +118,7 @@ std::string PbnRecord(const Board& board, std::string_view libraryName, PbnOptio
     AppendTag(text, "Result", "0");
     text += "{\r\nBoard " + std::to_string(board.boardNumber) + "\r\n}\r\n";
   }
+  if (!options.notes.empty()) AppendNotes(text, options.notes);
   return text;
 }
 

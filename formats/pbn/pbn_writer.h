@@ -11,6 +11,10 @@ namespace tricklet {
 struct PbnOptions {
   bool bids = true;    ///< write the auction
   bool shark = false;  ///< write a result tag and a board comment
+  /// UTF-8, lines divided by "\n": written as a comment after the rest; nothing where empty.
+  /// Braces become parentheses, since the first "}" ends a comment (PBN 2.1, section 3.8), and no
+  /// line opens with "[" or "%", which readers by lines take for a tag and for an escape.
+  std::string_view notes{};
 };
 
 /// One game: Description, Board, Dealer, Vulnerable and Deal; the auction and the table when the

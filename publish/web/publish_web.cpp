@@ -85,7 +85,7 @@ std::optional<fs::path> Publish(Session& session, const PublishChoices& choices)
   std::string whyNoReport;
   if (choices.report && !AddReview(session, *published, whyNoReport)) return std::nullopt;
   const WebChoices web{choices.title.empty() ? session.LibraryName() : choices.title, TodayText(),
-                       choices.names};
+                       choices.names, choices.notes};
   MakeFolders(choices.folder);
   SweepLeftovers(session.host, choices.folder);
   if (!WriteBoth(session.host, places, WebPage(*published, web), WebPbn(*published, web))) {

@@ -19,6 +19,7 @@ struct PublishChoices {
   std::filesystem::path folder;  ///< made when it is missing
   bool replaceForeign = false;   ///< what others have written is replaced without a question
   bool report = false;           ///< plays are reviewed, and the page has the report
+  bool notes = false;            ///< what is written about the boards is published too
 };
 
 /// What to begin with: what was chosen last, all boards of the current library, and the library's

@@ -23,6 +23,7 @@ struct Writing {
   JsonWriter& json;
   const Entrants& entrants;
   NamesShown names;
+  bool notes;
   std::optional<WebReview> review;
 };
 
@@ -191,6 +192,7 @@ void WriteBoard(const Writing& writing, const PublishedBoard& published) {
   if (board.contractLevel > 0) json.Key("declarer").Number(IndexOf(board.declarer));
   if (board.makeableValid) WriteTricks(json, board.makeable);
   if (published.par) json.Key("par").String(ParText(*published.par));
+  if (writing.notes && !published.notes.empty()) json.Key("notes").String(published.notes);
   json.Key("tables").BeginArray();
   const Worth worth = WorthOf(published.traveller);
   for (std::size_t at = 0; at < published.traveller.rows.size(); ++at) {
@@ -226,7 +228,7 @@ std::string ScoringOf(const Published& published) {
 std::string WebData(const Published& published, const WebChoices& choices) {
   JsonWriter json;
   const Entrants entrants(published, choices.names);
-  Writing writing{json, entrants, choices.names, {}};
+  Writing writing{json, entrants, choices.names, choices.notes, {}};
   if (published.review) writing.review.emplace(*published.review);
   json.BeginObject().Key("scoring").String(ScoringOf(published));
   WriteEntrants(json, entrants);

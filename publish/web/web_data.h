@@ -23,7 +23,8 @@ namespace tricklet {
 /// A board: "number"; "dealer" 0..3, North first; "vulnerable" 0..3, 1 North-South, 2 East-West;
 /// "hands" ["AKQ.T98.." by suits from spades on], North first; "points" [0..37], only with
 /// "complete"; "calls" ["1S"]; "contract" "4Sx"; "declarer" 0..3; "tricks" [[spades, hearts,
-/// diamonds, clubs, no-trump]], North, South, East, West; "par" "Par 4S= NS +420"; "tables".
+/// diamonds, clubs, no-trump]], North, South, East, West; "par" "Par 4S= NS +420"; "notes"
+/// with its lines, only where they are chosen; "tables".
 ///
 /// A table: "pairs" [North-South, East-West], -1 for nobody; "contract"; "declarer"; "lead" "SK";
 /// "taken" 0..13; "result" over or under the contract; "score" of North-South, or "ruling" as text;

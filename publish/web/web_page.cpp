@@ -60,7 +60,9 @@ std::string WebPbn(const Published& published, const WebChoices& choices) {
   for (const PublishedBoard& board : published.boards) {
     if (!board.complete) continue;
     const bool bids = choices.names == NamesShown::Full || !HasUnreadCall(board.board.calls);
-    text += PbnRecord(board.board, choices.title, {.bids = bids, .shark = false}) + "\r\n";
+    const std::string_view notes = choices.notes ? board.notes : std::string_view();
+    const PbnOptions options{.bids = bids, .shark = false, .notes = notes};
+    text += PbnRecord(board.board, choices.title, options) + "\r\n";
   }
   return text;
 }

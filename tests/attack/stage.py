@@ -175,6 +175,7 @@ COMMANDS = {
     "edit": "--yes edit 1 clear",
     "edit-new": "edit 9 fill --seed 3",
     "auction": "--yes auction 1 1n ap",
+    "notes": "notes 1 --set Signals",
     "analyse": "--yes analyse 1 2",
     "library-copy": "library copy Copy",
     "library-export": "library export new/folder",

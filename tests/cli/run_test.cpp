@@ -97,6 +97,19 @@ TEST_F(CommandLine, PrintsDiagrams) {
   EXPECT_EQ(Run("diagram 7 --hands X"), 2);
 }
 
+TEST_F(CommandLine, KeepsNotesThatGoOutWithTheBoard) {
+  Run("--library L import @in.pbn");
+  EXPECT_EQ(Answer("--library L notes 7"), "0 ");
+  EXPECT_EQ(Answer("--library L notes 7 --set 'Count {first}'"), "0 ");
+  EXPECT_EQ(Answer("--library L notes 7"), "0 Count {first}\n");
+  EXPECT_EQ(Run("--library L export 7 7 @out.pbn"), 0);
+  EXPECT_EQ(Run("--library M import --results keep @out.pbn"), 0) << err;
+  EXPECT_EQ(Answer("--library M notes 7"), "0 Count (first)\n");
+  EXPECT_EQ(Answer("--library L notes 7 --clear"), "0 ");
+  EXPECT_EQ(Answer("--library L notes 7"), "0 ");
+  EXPECT_EQ(Answer("--library L notes 8 --set x"), "1 There is no board 8 in library L\n");
+}
+
 TEST_F(CommandLine, ReviewsAPlay) {
   ASSERT_EQ(Run("import @in.pbn"), 0);
   WriteFile(

@@ -36,5 +36,39 @@ TEST_F(NotesDataTest, ReadsTheFileAgainWhenItHasChanged) {
   EXPECT_EQ(notes.Of(session).at(1), "second one");
 }
 
+class StoreNoteTest : public LibraryTest {
+ protected:
+  std::string OfBoard1() const {
+    const BoardNotes notes = LoadNotes(session);
+    const auto note = notes.find(1);
+    return note == notes.end() ? "-" : note->second;
+  }
+};
+
+TEST_F(StoreNoteTest, ChangesOneBoardOfTheFileAsItIsThen) {
+  // What board 1 has, what was seen of it, what is stored; what it has then
+  const char* const kCases[][4] = {{"", "", "\n a \r\nb\x01 \n", "a \nb"},
+                                   {"old", "old", "new", "new"},
+                                   {"old", "old", "", "-"},
+                                   {"theirs", "", "mine", "theirs\n\nmine"},
+                                   {"theirs", "old", "", "theirs"},
+                                   {"same", "old", "same", "same"},
+                                   {"", "old", "mine", "mine"}};
+  for (const auto& [there, seen, note, then] : kCases) {
+    WriteFile(NotesPath(session), "[1]\n" + std::string(there) + "\n[2]\nother\n");
+    if (std::string_view(there) == "theirs") host.ExpectTellWith("Both texts are kept");
+    EXPECT_TRUE(StoreNote(session, 1, note, seen));
+    EXPECT_EQ(OfBoard1(), then) << there << '|' << seen << '|' << note;
+    EXPECT_EQ(LoadNotes(session).at(2), "other");
+  }
+}
+
+TEST_F(StoreNoteTest, SaysWhenItCannotAndLeavesTheFile) {
+  WriteFile(NotesPath(session), "[1]\nold\n");
+  host.ExpectTellWith("could not be stored");
+  EXPECT_FALSE(StoreNote(session, 1, std::string(kMaxNotesBytes, 'x'), "old"));
+  EXPECT_EQ(OfBoard1(), "old");
+}
+
 }  // namespace
 }  // namespace tricklet::test

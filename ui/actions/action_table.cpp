@@ -71,15 +71,14 @@ bool CanPlayOrStop(State state) {
 bool CanAnalyse(State state) {
   return state.complete && !state.editing;
 }
-/// In play and while hands are edited the digits are ranks of cards.
-bool DigitsAreFree(State state) {
-  return !state.playing && !state.editing && !state.recordShown;
-}
 bool CanCopyDiagram(State state) {
   return state.hasCards || state.recordShown;
 }
 bool CanHide(State state) {
   return !state.editing;
+}
+bool CanHideSide(State state) {
+  return CanHide(state) && state.declarer.has_value();
 }
 bool CanCheckForUpdates(State state) {
   return state.updateObstacle.empty();
@@ -91,6 +90,10 @@ bool AnyHidden(State state) {
 template <Seat kSeat>
 bool IsHidden(State state) {
   return state.hidden[kSeat];
+}
+template <bool kDeclaring>
+bool IsSideHidden(State state) {
+  return state.declarer && state.IsSideHidden(kDeclaring);
 }
 template <ColourScheme kScheme>
 bool HasScheme(State state) {
@@ -225,6 +228,9 @@ const std::array kTable{
     ActionEntry{"mnuFind", QT_TR_NOOP("Fin&d boards"), "", "Ctrl+F",
                 QT_TR_NOOP("Search the list of the boards"), "", WindowAsk::FindBoards,
                 LibraryShown},
+    ActionEntry{"mnuNotes", QT_TR_NOOP("No&tes"), "", "Ctrl+Shift+M",
+                QT_TR_NOOP("Write notes to the board, which the library keeps"), "",
+                WindowAsk::Notes, CanShowNotes},
     ActionEntry{"mnuSwap", QT_TR_NOOP("Rotate/&Swap..."), QT_TR_NOOP("Swap"), "Ctrl+R",
                 QT_TR_NOOP("Exchange hands or suits, or rotate the deal"), "swap", &Commands::Swap,
                 NotInPlay},
@@ -320,18 +326,24 @@ const std::array kTable{
     ActionEntry{"mnuHands", QT_TR_NOOP("&Hide all hands"), QT_TR_NOOP("Hands"), "Ctrl+Shift+H",
                 QT_TR_NOOP("Turn all hands face down, or up again"), "hands", WindowAsk::HideHands,
                 CanHide, AnyHidden, HandsCaption},
-    ActionEntry{"mnuHideNorth", QT_TR_NOOP("Hide &North"), "", "1",
+    ActionEntry{"mnuHideDeclaring", QT_TR_NOOP("Hide &declarer and dummy"), "", "Alt+5",
+                QT_TR_NOOP("Turn the hands of declarer and dummy face down, or up again"), "",
+                WindowAsk::HideDeclaring, CanHideSide, IsSideHidden<true>},
+    ActionEntry{"mnuHideDefenders", QT_TR_NOOP("Hide defende&rs"), "", "Alt+6",
+                QT_TR_NOOP("Turn the hands of the defenders face down, or up again"), "",
+                WindowAsk::HideDefenders, CanHideSide, IsSideHidden<false>},
+    ActionEntry{"mnuHideNorth", QT_TR_NOOP("Hide &North"), "", "Alt+1 1",
                 QT_TR_NOOP("Turn North's hand face down, or up again"), "", WindowAsk::HideNorth,
-                DigitsAreFree, IsHidden<Seat::North>},
-    ActionEntry{"mnuHideEast", QT_TR_NOOP("Hide &East"), "", "2",
+                CanHide, IsHidden<Seat::North>},
+    ActionEntry{"mnuHideEast", QT_TR_NOOP("Hide &East"), "", "Alt+2 2",
                 QT_TR_NOOP("Turn East's hand face down, or up again"), "", WindowAsk::HideEast,
-                DigitsAreFree, IsHidden<Seat::East>},
-    ActionEntry{"mnuHideSouth", QT_TR_NOOP("Hide So&uth"), "", "3",
+                CanHide, IsHidden<Seat::East>},
+    ActionEntry{"mnuHideSouth", QT_TR_NOOP("Hide So&uth"), "", "Alt+3 3",
                 QT_TR_NOOP("Turn South's hand face down, or up again"), "", WindowAsk::HideSouth,
-                DigitsAreFree, IsHidden<Seat::South>},
-    ActionEntry{"mnuHideWest", QT_TR_NOOP("Hide &West"), "", "4",
+                CanHide, IsHidden<Seat::South>},
+    ActionEntry{"mnuHideWest", QT_TR_NOOP("Hide &West"), "", "Alt+4 4",
                 QT_TR_NOOP("Turn West's hand face down, or up again"), "", WindowAsk::HideWest,
-                DigitsAreFree, IsHidden<Seat::West>},
+                CanHide, IsHidden<Seat::West>},
     ActionEntry{"mnuStatistics", QT_TR_NOOP("&Statistics"), "", "Ctrl+T",
                 QT_TR_NOOP("Points, losers and suit lengths beside the table"), "",
                 &Settings::showStats, nullptr, IsOn<&WindowState::showStats>},

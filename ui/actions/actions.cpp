@@ -118,6 +118,13 @@ void Actions::Fill(QToolBar* bar) const {
     button->setObjectName(names.first());
     button->setFocusPolicy(Qt::TabFocus);
     button->setAutoRaise(true);
+    if (names.first() == QStringLiteral("tbrHands")) {
+      auto* menu = new QMenu(button);
+      menu->setToolTipsVisible(true);
+      Fill(menu, kHandsMenu);
+      button->setMenu(menu);
+      button->setPopupMode(QToolButton::MenuButtonPopup);
+    }
   }
 }
 

@@ -19,7 +19,7 @@ constexpr std::array kMenus{
               "mnuRefresh | mnuImportLibrary mnuImportLibraries mnuExportLibrary "
               "mnuExportLibraries | mnuMoveLibraries"},
     MenuEntry{QT_TR_NOOP("&Board"),
-              "mnuNext mnuPrevious mnuFirst mnuLast mnuGoTo mnuFind | mnuSwap | mnuRandom "
+              "mnuNext mnuPrevious mnuFirst mnuLast mnuGoTo mnuFind mnuNotes | mnuSwap | mnuRandom "
               "mnuFillFourth mnuUndoFill | mnuClearBoard mnuUndoClear"},
     MenuEntry{QT_TR_NOOP("&Play"),
               "mnuBidding | mnuPlay mnuPlayOn mnuUndoCard mnuGatherTrick mnuClaim mnuClaimTricks "
@@ -30,7 +30,8 @@ constexpr std::array kMenus{
               "mnuTraveller | mnuLinForward mnuLinBack mnuLinNextTrick mnuLinPreviousTrick "
               "mnuLinLeave"},
     MenuEntry{QT_TR_NOOP("&View"),
-              "mnuHands mnuHideNorth mnuHideEast mnuHideSouth mnuHideWest | mnuStatistics "
+              "mnuHands mnuHideDeclaring mnuHideDefenders mnuHideNorth mnuHideEast mnuHideSouth "
+              "mnuHideWest | mnuStatistics "
               "mnuMakeable mnuBestCards mnuCardFaces | mnuColours> mnuColoursSystem "
               "mnuColoursLight mnuColoursDark < mnuTools> mnuToolsUnder mnuToolsBeside "
               "mnuToolsIcons < mnuColumns> mnuWidenLeft mnuNarrowLeft mnuWidenRight mnuNarrowRight "
@@ -46,11 +47,13 @@ const char* const kToolbar =
     "cmdBidding=mnuBidding cmdPlay=mnuPlay tbrUndo=mnuUndo tbrRedo=mnuRedo tbrClaim=mnuClaim | "
     "tbrBestCards=mnuBestCards cmdDDS=mnuDDS cmdBSOL=mnuBSOL | cmdEdit=mnuEdit cmdSwap=mnuSwap "
     "cmdGenerate=mnuGenerate | tbrHands=mnuHands tbrPresent=mnuPresentation";
+const char* const kHandsMenu =
+    "mnuHands | mnuHideDeclaring mnuHideDefenders | mnuHideNorth mnuHideEast mnuHideSouth "
+    "mnuHideWest";
 const char* const kTableContext =
     "mnuUndo mnuRedo | mnuBidding mnuPlay mnuPlayOn mnuProgramCard mnuClaim | mnuEdit mnuSwap | "
-    "mnuDDS mnuBSOL | mnuHands "
-    "mnuHideNorth "
-    "mnuHideEast mnuHideSouth mnuHideWest | mnuCopyHand mnuCopyDiagram mnuPasteHand | mnuSave "
+    "mnuDDS mnuBSOL | mnuHands mnuHideDeclaring mnuHideDefenders mnuHideNorth mnuHideEast "
+    "mnuHideSouth mnuHideWest | mnuCopyHand mnuCopyDiagram mnuPasteHand | mnuSave "
     "mnuRevert | mnuPresentation";
 const char* const kBoardListContext =
     "mnuCopyHand mnuPasteHand | mnuSave mnuRevert | mnuDDS mnuAnalyse | mnuFind mnuGoTo";

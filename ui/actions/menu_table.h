@@ -16,6 +16,9 @@ std::span<const MenuEntry> MenuTable();
 /// The toolbar: "|" or the name of a button, "=" and that of its action.
 extern const char* const kToolbar;
 
+/// The menu of the toolbar's button `tbrHands`, as in `MenuEntry::actions`.
+extern const char* const kHandsMenu;
+
 /// Actions of the context menus, as in `MenuEntry::actions`.
 extern const char* const kTableContext;
 extern const char* const kBoardListContext;

@@ -2,6 +2,12 @@
 
 namespace tricklet::ui {
 
+bool CanShowNotes(const WindowState& state) {
+  const bool answers = !state.presentation || state.presentationPanes;
+  return answers && !state.AnyHidden() && !state.PlayUnfinished() && !state.editing &&
+         !(state.emptyLibrary && !state.hasCards);
+}
+
 PanesShown ShownIn(const WindowState& state) {
   // A class is to bid and play without the answers, unless the panes have been switched on.
   const bool answers = !state.presentation || state.presentationPanes;
@@ -23,8 +29,7 @@ PanesShown ShownIn(const WindowState& state) {
   shown.contract = state.recordShown || (state.hasCalls && !state.entering);
   shown.makeable = state.makeableKnown && state.showMakeable && answers;
   shown.makeableRoom = state.complete && state.showMakeable && answers;
-  // They may tell how the board is played and what hidden hands hold.
-  shown.notes = state.hasNotes && answers && !state.AnyHidden() && !state.PlayUnfinished();
+  shown.notes = CanShowNotes(state) && (state.hasNotes || state.writingNotes);
   shown.traveller = state.hasResults && answers;
 
   shown.leftRoom = !state.presentation;

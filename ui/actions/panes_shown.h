@@ -31,6 +31,10 @@ struct PanesShown {
   friend bool operator==(const PanesShown&, const PanesShown&) = default;
 };
 
+/// Whether the notes of the board may be seen: they may tell how the board is played and what
+/// hidden hands hold.
+bool CanShowNotes(const WindowState& state);
+
 /// The one place that decides it. The auction is in the right column whenever that is shown.
 PanesShown ShownIn(const WindowState& state);
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <optional>
 #include <string>
 
 #include "core/notation.h"
@@ -29,10 +30,11 @@ struct WindowState {
   bool complete = false;  ///< all four hands have 13 cards
   bool hasCalls = false;  ///< there is an auction, of the board or of the record
   bool makeableKnown = false;
-  bool changed = false;     ///< there are changes that are not saved
-  bool canPaste = false;    ///< a board has been copied
-  bool hasNotes = false;    ///< something is written about the board
-  bool hasResults = false;  ///< the library has results of tables
+  bool changed = false;       ///< there are changes that are not saved
+  bool canPaste = false;      ///< a board has been copied
+  bool hasNotes = false;      ///< something is written about the board
+  bool writingNotes = false;  ///< the person has asked for the notes, also where there are none
+  bool hasResults = false;    ///< the library has results of tables
 
   // What can be done in the play, the editing and the record.
   bool canUndoCard = false;
@@ -55,7 +57,8 @@ struct WindowState {
   std::string undoStep{};  ///< what can be undone on the board: "rotate"; empty when nothing
   std::string redoStep{};
   std::string claimCaption = "Claim";
-  PerSeat<bool> hidden{};  ///< hands that are turned face down
+  PerSeat<bool> hidden{};          ///< hands that are turned face down
+  std::optional<Seat> declarer{};  ///< of the contract that is seen: the board's or the record's
 
   // The check for newer versions.
   bool updatesLeftOut = false;   ///< of this build
@@ -77,6 +80,12 @@ struct WindowState {
   bool Reviewing() const {
     if (PlayUnfinished()) return showBestCards;
     return (playing || recordShown) && !AnyHidden();
+  }
+  /// Both hands of the declaring side, or of the defenders, are turned face down. There has to be a
+  /// declarer.
+  bool IsSideHidden(bool declaring) const {
+    const Seat seat = declaring ? *declarer : SeatAfter(*declarer);
+    return hidden[seat] && hidden[PartnerOf(seat)];
   }
   bool AnyHidden() const {
     return std::any_of(kAllSeats.begin(), kAllSeats.end(),

@@ -1,6 +1,7 @@
 #include "ui/dialogs/frmPublish.h"
 
 #include <QButtonGroup>
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFormLayout>
@@ -39,6 +40,9 @@ frmPublish::frmPublish(Session& session, const PublishChoices& proposed, QWidget
   form->addRow(tr("&Boards"), txtBoards);
   form->addRow(tr("&Title"), txtTitle);
   form->addRow(tr("Names of players"), MakeNames());
+  chkNotes = new QCheckBox(tr("N&otes to the boards, as they are: they may name players"), this);
+  chkNotes->setObjectName(QStringLiteral("chkNotes"));
+  form->addRow(QString(), chkNotes);
   auto* folder = MakeFolder();
   form->addRow(tr("&Folder"), folder);
   qobject_cast<QLabel*>(form->labelForField(folder))->setBuddy(txtFolder);
@@ -113,6 +117,7 @@ void frmPublish::Go() {
   choices_.boards = *boards;
   choices_.title = FromQt(txtTitle->text().trimmed());
   choices_.names = static_cast<NamesShown>(optNames->checkedId());
+  choices_.notes = chkNotes->isChecked();
   choices_.folder = PathFromText(FromQt(folder));
   accept();
 }

@@ -7,6 +7,7 @@
 #include "publish/web/publish_web.h"
 
 class QButtonGroup;
+class QCheckBox;
 class QLineEdit;
 
 namespace tricklet::ui {
@@ -32,6 +33,7 @@ class frmPublish : public QDialog {
   PublishChoices choices_;
   QLineEdit* txtBoards;
   QLineEdit* txtTitle;
+  QCheckBox* chkNotes = nullptr;
   QLineEdit* txtFolder = nullptr;
   QButtonGroup* optNames = nullptr;
 };

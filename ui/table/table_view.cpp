@@ -220,9 +220,16 @@ bool TableView::IsOurKey(const QKeyEvent& event) const {
   return keys_.WouldTake(event.key(), event.modifiers(), play.HandOnPlay(), play.legal);
 }
 
+/// While cards are played or moved, digits are ranks, also where they name none that can be played.
+bool TableView::IsRankKey(const QKeyEvent& event) const {
+  return (edit_ || scene_.play) && event.modifiers() == Qt::NoModifier &&
+         event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9;
+}
+
 bool TableView::event(QEvent* event) {
   // A key that plays a card is not a shortcut at the same time: Escape may be one as well.
-  if (event->type() == QEvent::ShortcutOverride && IsOurKey(static_cast<QKeyEvent&>(*event))) {
+  if (event->type() == QEvent::ShortcutOverride &&
+      (IsOurKey(static_cast<QKeyEvent&>(*event)) || IsRankKey(static_cast<QKeyEvent&>(*event)))) {
     event->accept();
     return true;
   }

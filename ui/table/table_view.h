@@ -106,6 +106,7 @@ class TableView : public QWidget {
   void Ask(const std::optional<CardMove>& move);
   bool EditKey(TableEdit& edit, const QKeyEvent& event);
   bool IsOurKey(const QKeyEvent& event) const;
+  bool IsRankKey(const QKeyEvent& event) const;
 
   TableScene scene_;
   std::optional<TableEdit> edit_;

@@ -168,7 +168,7 @@ DiskWatch::Leave MainWindow::LeaveToWatch() const {
                     QApplication::activeModalWidget() != nullptr ||
                     QApplication::activePopupWidget() != nullptr;
   if (busy || !isVisible() || isMinimized() || state_.presentation ||
-      results_->Record() != nullptr || panes_.library->Typing(session_)) {
+      results_->Record() != nullptr || panes_.library->Typing(session_) || panes_.notes->Typing()) {
     return Leave::Nothing;
   }
   if (session_.board.playMode || edit_->Editing()) return Leave::Tell;
@@ -333,11 +333,18 @@ void MainWindow::CarryOut(WindowAsk what) {
     case WindowAsk::FindBoards:
       panes_.library->List()->BeginFind();
       break;
+    case WindowAsk::Notes:
+      WriteNotes();
+      break;
     case WindowAsk::CopyDiagram:
       CopyDiagram();
       break;
     case WindowAsk::HideHands:
       HideAll();
+      break;
+    case WindowAsk::HideDeclaring:
+    case WindowAsk::HideDefenders:
+      HideSide(what == WindowAsk::HideDeclaring);
       break;
     case WindowAsk::HideNorth:
     case WindowAsk::HideEast:
@@ -373,6 +380,18 @@ const Board* MainWindow::PlayedAuction() const {
   return &played == &session_.board ? nullptr : &played;
 }
 
+/// What is typed anywhere is taken over or stored; false when it still waits for the person.
+bool MainWindow::FinishTyping() {
+  return panes_.edit->FinishTyping() && panes_.notes->FinishTyping();
+}
+
+/// Shows the notes, also where there are none yet, and goes there.
+void MainWindow::WriteNotes() {
+  state_.writingNotes = true;
+  ShowState();
+  panes_.notes->BeginTyping();
+}
+
 /// What is in sight goes to the clipboard, and no more.
 void MainWindow::CopyDiagram() {
   const bool auction = ShownIn(state_).right && session_.settings.showAuction;
@@ -391,6 +410,15 @@ void MainWindow::HideAll() {
 
 void MainWindow::Hide(Seat seat) {
   state_.hidden[seat] = !state_.hidden[seat];
+  ShowHidden();
+}
+
+/// Turns both hands of a side face down, or up again when both are.
+void MainWindow::HideSide(bool declaring) {
+  if (!state_.declarer) return;
+  const bool down = !state_.IsSideHidden(declaring);
+  const Seat seat = declaring ? *state_.declarer : SeatAfter(*state_.declarer);
+  state_.hidden[seat] = state_.hidden[PartnerOf(seat)] = down;
   ShowHidden();
 }
 
@@ -453,8 +481,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     return;
   }
-  if (!panes_.edit->FinishTyping() || !play_->Leave() ||
-      CheckSaveChanges(session_) == Answer::Cancel) {
+  if (!FinishTyping() || !play_->Leave() || CheckSaveChanges(session_) == Answer::Cancel) {
     event->ignore();
     return;
   }

@@ -100,9 +100,12 @@ class MainWindow : public QMainWindow {
   void CarryOut(WindowAsk what);
   void PlayOn();
   const Board* PlayedAuction() const;
+  bool FinishTyping();
+  void WriteNotes();
   void CopyDiagram();
   void HideAll();
   void Hide(Seat seat);
+  void HideSide(bool declaring);
   void ShowHidden();
 
   Session& session_;

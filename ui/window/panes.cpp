@@ -39,7 +39,7 @@ Panes::Panes(Session& session, Commands& commands, const Actions& actions, Resul
       auction(new AuctionPane),
       contract(new ContractPane(actions)),
       makeable(new MakeablePane),
-      notes(new NotesPane),
+      notes(new NotesPane(session)),
       traveller(new TravellerPane(results, actions)),
       progress(new ProgressFrame) {}
 

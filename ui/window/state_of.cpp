@@ -53,6 +53,8 @@ void AddResults(WindowState& state, const Session& session, const Results& resul
       record != nullptr && CardPlay::WhyNotPlayOn(session.board, record->Record()).empty();
   state.canGoForward = record != nullptr && record->ForwardEnabled();
   state.canGoBack = record != nullptr && record->BackEnabled();
+  const Board& seen = record != nullptr ? record->Record().board : session.board;
+  state.declarer = seen.contractLevel > 0 ? std::optional(seen.declarer) : std::nullopt;
   state.hasResults = results.HasLinData();
   state.hasNotes = !results.Note().empty();
 }

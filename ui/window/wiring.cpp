@@ -20,6 +20,7 @@
 #include "ui/panes/edit_pane.h"
 #include "ui/panes/library_pane.h"
 #include "ui/panes/makeable_pane.h"
+#include "ui/panes/notes_pane.h"
 #include "ui/panes/review_pane.h"
 #include "ui/panes/traveller_pane.h"
 #include "ui/panes/trick_pane.h"
@@ -84,7 +85,7 @@ void MainWindow::Connect() {
 }
 
 void MainWindow::ConnectEdit() {
-  commands_->SetFinishTyping([this] { return panes_.edit->FinishTyping(); });
+  commands_->SetFinishTyping([this] { return FinishTyping(); });
   commands_->SetGiveUpTyping([this] { panes_.edit->GiveUpTyping(); });
   commands_->SetLinRecord(
       [this] { return LinPlayRecord(results_->OfBoard(), session_.board, results_->Row()); });
@@ -111,6 +112,16 @@ void MainWindow::ConnectPlay() {
   connect(panes_.table, &TableView::HideAsked, this, &MainWindow::Hide);
   connect(review_, &ReviewDisplay::Changed, this, &MainWindow::DisplayPlay);
   connect(review_, &ReviewDisplay::Told, this, &MainWindow::TellMistake);
+  connect(panes_.notes, &NotesPane::Stored, this, [this] {
+    results_->ReadTraveller();
+    DisplayPlay();
+  });
+  connect(panes_.notes, &NotesPane::Left, this, [this](bool empty) {
+    panes_.table->setFocus();
+    if (!empty) return;
+    state_.writingNotes = false;
+    ShowState();
+  });
 }
 
 /// What is folded away and how wide the columns are outlasts the program.

@@ -28,7 +28,7 @@ function boardView(board) {
     contractNodes({ contract: board.contract, declarer: board.declarer }, true)) : null;
   return make("div", { id: "board-view" }, diagramNode(board, only),
     make("div", { class: "beside" }, make("div", null, calls, contract), makeableNode(board)),
-    travellerNode(board));
+    board.notes ? make("p", { class: "notes" }, board.notes) : null, travellerNode(board));
 }
 
 // The other tables of the board, and the way back to it.

@@ -261,6 +261,29 @@ TEST(PbnContents, FindsNothingButTheBoardInOurOwnFiles) {
   EXPECT_EQ(game.records.size(), 0U) << "the result 0 that is written is none";
 }
 
+TEST(PbnContents, FindsTheNotesThatTheWriterPutsThere) {
+  Board board = OneGame("[Board \"7\"]\n" + kPbnDeal + "[Auction \"S\"]\n1C X AP\n").board;
+  board.boardNumber = 7;
+  // The notes, and what comes back of them: braces, tags and escapes are no part of a comment.
+  const std::pair<const char*, const char*> kCases[] = {
+      {"Lead a \u2660\n\nZo\u00eb", "Lead a \u2660\n\nZo\u00eb"},
+      {"a {b} c", "a (b) c"},
+      {"a\n[Board \"9\"]\n %b\n%c", "a [Board \"9\"]\n %b\n %c"},
+      {"[Deal \"x\"]", "[Deal \"x\"]"},
+      {"\u4e00; \"q", "?; \"q"}};
+  for (const auto& [notes, read] : kCases) {
+    const std::string text =
+        PbnRecord(board, "Library", {.bids = true, .shark = true, .notes = notes});
+    const FoundGame game = OneGame(text + "\r\n");
+    EXPECT_EQ(game.notes, read);
+    EXPECT_EQ(game.board.hands, board.hands);
+    EXPECT_EQ(game.board.calls, board.calls);
+    Collector sink;
+    ReadPBN("% PBN\r\n" + text, sink);
+    ASSERT_EQ(sink.boards.size(), 1U) << "a reader by lines finds no tag in them";
+  }
+}
+
 TEST(PbnContents, KeepsCommentsAndNotes) {
   const std::string head = "[Event \"\"]\n[Board \"1\"] {One\r\n two } ; three\n" + kPbnDeal;
   const std::string calls =

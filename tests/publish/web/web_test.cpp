@@ -113,6 +113,9 @@ TEST(WebPage, HoldsNoMoreOfThePlayersThanIsWanted) {
   }
   EXPECT_TRUE(holds(NamesShown::Initials, "V.N. \\u0026 V.N."));
   EXPECT_FALSE(holds(NamesShown::None, "V.N."));
+  EXPECT_FALSE(holds(NamesShown::Full, "forgot"));
+  const WebChoices noted{"Club", "", NamesShown::None, true};
+  EXPECT_EQ(Count(WebPage(published, noted) + WebPbn(published, noted), "forgot"), 2);
 }
 
 TEST(WebData, EndsAPlayBeforeItsFirstIllegalCard) {

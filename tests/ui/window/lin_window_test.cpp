@@ -2,8 +2,10 @@
 #include <QClipboard>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QUrl>
 
+#include "library/board_notes.h"
 #include "tests/ui/window_fixture.h"
 
 namespace tricklet::ui {
@@ -90,6 +92,43 @@ TEST_F(LinWindowTest, WhatIsSaidOfACallIsSaidAtTheCallUntilTheAuctionIsAnother) 
   session.board.calls.RemoveLast();
   Key("Ctrl+T");  // shows all afresh
   EXPECT_EQ(FromQt(said()), "");
+}
+
+TEST_F(LinWindowTest, NotesAreStoredWhenTheBoardIsLeftAndByNoOtherKeys) {
+  PutBoard(1);
+  PutBoard(2);
+  Key("F5");
+  EXPECT_FALSE(Shown("txtNotes"));
+  Key("Ctrl+Shift+M");
+  ASSERT_EQ(Focus(), "txtNotes");
+  auto* text = Find<QPlainTextEdit>("txtNotes");
+  QTest::keyClicks(text, QStringLiteral("1 duck"));
+  FocusKey("Ctrl+Z");
+  EXPECT_EQ(FromQt(text->toPlainText()), "") << "undone in the text";
+  QTest::keyClicks(text, QStringLiteral("1 duck"));
+  test::WriteFile(NotesPath(session), "[2]\nof another program\n");
+  Find<QAction>("mnuNext")->trigger();
+  EXPECT_EQ(FromQt(text->toPlainText()), "of another program");
+  EXPECT_EQ(LoadNotes(session).at(1), "1 duck");
+  Key("Alt+4");
+  EXPECT_FALSE(Shown("txtNotes")) << "they may tell of a hidden hand";
+}
+
+TEST_F(LinWindowTest, NotesThatCannotBeStoredStayUntilTheyAreGivenUp) {
+  PutBoard(1);
+  PutBoard(2);
+  Key("F5");
+  Key("Ctrl+Shift+M");
+  auto* text = Find<QPlainTextEdit>("txtNotes");
+  QTest::keyClicks(text, QStringLiteral("a"));
+  std::filesystem::create_directory(NotesPath(session));
+  for (const Answer answer : {Answer::No, Answer::Yes}) {
+    host.ExpectTellWith("could not be stored");
+    host.ExpectAskWith("give up what you have typed", answer);
+    Find<QAction>("mnuNext")->trigger();
+    EXPECT_EQ(session.board.boardNumber, answer == Answer::No ? 1 : 2);
+    EXPECT_EQ(FromQt(text->toPlainText()), answer == Answer::No ? "a" : "");
+  }
 }
 
 TEST_F(LinWindowTest, TheStatusLineSaysWhereADropWillLand) {
