@@ -1,4 +1,4 @@
-// Travellers and rankings as tables for sheets of paper: what stands in them, not where.
+// Travellers, rankings and reports as tables for sheets of paper: what stands in them, not where.
 #pragma once
 
 #include <cstdint>
@@ -22,7 +22,13 @@ struct SheetColumn {
   friend bool operator==(const SheetColumn&, const SheetColumn&) = default;
 };
 
-enum class SheetTableKind : std::uint8_t { Traveller, Ranking, Remarks };
+enum class SheetTableKind : std::uint8_t {
+  Traveller,
+  Ranking,
+  Entrants,  ///< of a report
+  Boards,    ///< of a report; its texts are wrapped
+  Remarks    ///< sentences, without headings
+};
 
 struct SheetTable {
   SheetTableKind kind = SheetTableKind::Traveller;

@@ -26,9 +26,10 @@ constexpr std::array kMenus{
               "mnuKeepPlay | mnuProgramCard mnuBestLine mnuDefendBest mnuDeclareBest | "
               "mnuNextMistake mnuPreviousMistake"},
     MenuEntry{QT_TR_NOOP("&Analysis"), "mnuDDS mnuAnalyse | mnuBSOL"},
-    MenuEntry{QT_TR_NOOP("&Results"),
-              "mnuTraveller | mnuLinForward mnuLinBack mnuLinNextTrick mnuLinPreviousTrick "
-              "mnuLinLeave"},
+    MenuEntry{
+        QT_TR_NOOP("&Results"),
+        "mnuTraveller mnuReport | mnuLinForward mnuLinBack mnuLinNextTrick mnuLinPreviousTrick "
+        "mnuLinLeave"},
     MenuEntry{QT_TR_NOOP("&View"),
               "mnuHands mnuHideDeclaring mnuHideDefenders mnuHideNorth mnuHideEast mnuHideSouth "
               "mnuHideWest | mnuStatistics "

@@ -14,6 +14,7 @@
 #include "core/holding.h"
 #include "library/session.h"
 #include "ui/dialogs/frmGenerate.h"
+#include "ui/dialogs/frmReport.h"
 
 class QWidget;
 
@@ -72,6 +73,9 @@ class Commands : public QObject {
   void Export();
   /// `mnuPrint`: the dialog that prints sheets of the library's boards or stores them as files.
   void Print();
+  /// `mnuReport`: the session of the library double-dummy; the person may go from there to a board
+  /// and, by `RecordAsked`, to one of its results.
+  void Report();
   /// `mnuPublish`: the library as a web page.
   void Publish();
   void Save();
@@ -191,6 +195,8 @@ class Commands : public QObject {
   void EditStarted();
   /// A dialog that is still open has changed the hands.
   void HandsChanged();
+  /// The person wants to look at the record of this row of the current board's traveller.
+  void RecordAsked(int row);
   /// Before the dialog appears.
   void SwapOpened(frmSwap* dialog);
 
@@ -224,6 +230,7 @@ class Commands : public QObject {
   QPointer<QWidget> window_;
   std::filesystem::path exportPath_;   // of the last export, where the next one begins
   std::filesystem::path sheetFolder_;  // where sheets were saved last
+  ReportLook reportLook_;              // where the last report was left
   GenerateChoices generateChoices_;    // of the last run, where the next one begins
   bool running_ = false;
 };

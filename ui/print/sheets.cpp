@@ -47,6 +47,10 @@ Sheets::Sheets(std::shared_ptr<const Published> published, SheetChoices choices)
                 : MakeBoardPages(*published_, choices_, room);
 }
 
+Sheets::Sheets(std::vector<SheetTable> tables, SheetChoices choices)
+    : choices_(std::move(choices)),
+      source_(MakeTablePages(std::move(tables), choices_, Room().size())) {}
+
 int Sheets::Pages() const {
   return std::max(1, source_->Pages());
 }

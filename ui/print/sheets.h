@@ -3,12 +3,14 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include <QPageLayout>
 #include <QRectF>
 
 #include "publish/published.h"
 #include "publish/sheet_choices.h"
+#include "publish/sheet_tables.h"
 
 class QPainter;
 
@@ -23,6 +25,8 @@ class Sheets {
   Sheets(Published published, SheetChoices choices);
   /// Shares boards that others look at too.
   Sheets(std::shared_ptr<const Published> published, SheetChoices choices);
+  /// Tables that belong to no layout: of `choices` only paper, titles and colours count.
+  Sheets(std::vector<SheetTable> tables, SheetChoices choices);
 
   const SheetChoices& Choices() const { return choices_; }
   /// At least one.

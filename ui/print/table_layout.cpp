@@ -140,7 +140,9 @@ QStringList TableColumns::LinesOf(const SheetTable& table, std::size_t row,
   const QString text = ToQt(table.rows[row][column]);
   const double width = places_[column].width;
   if (!IsNames(table, column)) return {text};
-  if (table.kind == SheetTableKind::Remarks) return Wrapped(text, width);
+  if (table.kind == SheetTableKind::Remarks || table.kind == SheetTableKind::Boards) {
+    return Wrapped(text, width);
+  }
   return kReadable * TextWidth(text, MeasuresOf(table.kind).cellSize) <= width ? QStringList(text)
                                                                                : Halves(text);
 }

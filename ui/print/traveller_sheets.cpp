@@ -28,9 +28,9 @@ Qt::Alignment AlignmentOf(ColumnKind kind) {
   return kind == ColumnKind::Number ? Qt::AlignRight : Qt::AlignLeft;
 }
 
-class TravellerPages : public PageSource {
+class TablePages : public PageSource {
  public:
-  TravellerPages(std::vector<SheetTable> tables, const SheetChoices& choices, QSizeF room)
+  TablePages(std::vector<SheetTable> tables, const SheetChoices& choices, QSizeF room)
       : tables_(std::move(tables)),
         style_{.colours = choices.colours},
         columns_(ColumnsOf(tables_, room.width())),
@@ -41,10 +41,17 @@ class TravellerPages : public PageSource {
   QString Heading(int page) const override {
     const TablePage& parts = At(page);
     const SheetTable& first = *parts.front().table;
-    if (first.kind != SheetTableKind::Traveller) {
-      return QCoreApplication::translate("Sheets", "Ranking");
+    switch (first.kind) {
+      case SheetTableKind::Traveller:
+        return ToQt(TravellersHeading(first.boardNumber, LastBoard(parts)));
+      case SheetTableKind::Entrants:
+      case SheetTableKind::Boards:
+        return QCoreApplication::translate("Sheets", "Session report");
+      case SheetTableKind::Ranking:
+      case SheetTableKind::Remarks:
+        break;
     }
-    return ToQt(TravellersHeading(first.boardNumber, LastBoard(parts)));
+    return QCoreApplication::translate("Sheets", "Ranking");
   }
 
   QString Foot(int page) const override {
@@ -88,8 +95,7 @@ class TravellerPages : public PageSource {
 };
 
 /// The title with what belongs to it, and "continued" on pages after the first.
-void TravellerPages::PaintTitle(QPainter& painter, const TablePart& part,
-                                const QRectF& place) const {
+void TablePages::PaintTitle(QPainter& painter, const TablePart& part, const QRectF& place) const {
   const SheetTable& table = *part.table;
   const TextStyle title{
       .size = MeasuresOf(table.kind).titleSize, .bold = true, .colour = style_.Text()};
@@ -110,7 +116,7 @@ void TravellerPages::PaintTitle(QPainter& painter, const TablePart& part,
 }
 
 /// Leaves `place` below the headings.
-void TravellerPages::PaintHeadings(QPainter& painter, const TablePart& part, QRectF& place) const {
+void TablePages::PaintHeadings(QPainter& painter, const TablePart& part, QRectF& place) const {
   const SheetTable& table = *part.table;
   const auto& columns = columns_.at(table.kind).Places();
   place.setHeight(MeasuresOf(table.kind).headingLine);
@@ -127,7 +133,7 @@ void TravellerPages::PaintHeadings(QPainter& painter, const TablePart& part, QRe
   place.moveTop(place.bottom());
 }
 
-void TravellerPages::PaintRows(QPainter& painter, const TablePart& part, QRectF place) const {
+void TablePages::PaintRows(QPainter& painter, const TablePart& part, QRectF place) const {
   const SheetTable& table = *part.table;
   const TableColumns& columns = columns_.at(table.kind);
   const TableMeasures& measures = MeasuresOf(table.kind);
@@ -152,7 +158,7 @@ void TravellerPages::PaintRows(QPainter& painter, const TablePart& part, QRectF 
   }
 }
 
-void TravellerPages::PaintRule(QPainter& painter, const QRectF& above, double width) const {
+void TablePages::PaintRule(QPainter& painter, const QRectF& above, double width) const {
   painter.save();
   painter.setPen(QPen(style_.Rule(), width));
   painter.drawLine(above.bottomLeft(), above.bottomRight());
@@ -168,7 +174,12 @@ std::unique_ptr<PageSource> MakeTravellerPages(const Published& published,
     for (SheetTable& table : RankingTables(RankingOf(published)))
       tables.push_back(std::move(table));
   }
-  return std::make_unique<TravellerPages>(std::move(tables), choices, room);
+  return MakeTablePages(std::move(tables), choices, room);
+}
+
+std::unique_ptr<PageSource> MakeTablePages(std::vector<SheetTable> tables,
+                                           const SheetChoices& choices, QSizeF room) {
+  return std::make_unique<TablePages>(std::move(tables), choices, room);
 }
 
 }  // namespace tricklet::ui

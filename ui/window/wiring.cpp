@@ -154,6 +154,7 @@ void MainWindow::ConnectColumns() {
 /// While a play record is looked at, cards that are clicked or typed are meant for it.
 void MainWindow::ConnectResults() {
   connect(results_, &Results::Changed, this, &MainWindow::DisplayAuction);
+  connect(commands_, &Commands::RecordAsked, results_, &Results::ShowRecord);
   connect(panes_.table, &TableView::CardAsked, this, [this](Card card) {
     results_->Record() != nullptr ? results_->PlayCard(card) : commands_->PlayCard(card);
   });

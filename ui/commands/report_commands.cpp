@@ -1,0 +1,31 @@
+// The command that reports on a session.
+#include <optional>
+
+#include "library/library_choice.h"
+#include "library/unsaved_changes.h"
+#include "ui/commands/commands.h"
+#include "ui/control/play_control.h"
+#include "ui/dialogs/frmReport.h"
+
+namespace tricklet::ui {
+
+void Commands::Report() {
+  std::optional<ReportPlace> place;
+  emit Dealing(true);
+  LeaveUnsaved([&] {
+    if (!SettleChanges(session_)) return;
+    frmReport dialog(session_, reportLook_, sheetFolder_, window_);
+    if (dialog.exec() != QDialog::Accepted || !play_.Leave()) return;
+    place = dialog.Place();
+    if (place && place->boardNumber != session_.board.boardNumber) {
+      tricklet::SelectBoard(session_, place->boardNumber);
+    }
+  });
+  emit Dealing(false);
+  // Once the board's traveller has been read.
+  if (place && place->row >= 0 && place->boardNumber == session_.board.boardNumber) {
+    emit RecordAsked(place->row);
+  }
+}
+
+}  // namespace tricklet::ui

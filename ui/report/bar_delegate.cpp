@@ -1,0 +1,86 @@
+#include "ui/report/bar_delegate.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QApplication>
+#include <QPainter>
+
+#include "ui/report/report_model.h"
+#include "ui/style/theme.h"
+
+namespace tricklet::ui {
+namespace {
+
+constexpr double kWidthInLines = 2.6;  // of the room for bars, in heights of a line
+constexpr double kHeightInLines = 0.5;
+constexpr double kShortest = 1.5;  // pixels: what is not zero can be seen
+
+double RoomFor(const QFontMetrics& metrics) {
+  return kWidthInLines * metrics.height();
+}
+
+/// From zero to the number.
+QRectF BarIn(const QRectF& room, CellBar kind, double part) {
+  const bool middle = kind == CellBar::AboutZero;
+  const double zero = middle ? room.center().x() : room.left();
+  const double longest = middle ? room.width() / 2 : room.width();
+  const double length = part == 0 ? 0 : std::clamp(std::abs(part) * longest, kShortest, longest);
+  return {part < 0 ? zero - length : zero, room.top(), length, room.height()};
+}
+
+void DrawBar(QPainter& painter, const QRectF& room, CellBar kind, double part,
+             const QColor& colour) {
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  const QRectF bar = BarIn(room, kind, part);
+  if (kind == CellBar::AboutZero) {
+    QColor line = colour;
+    line.setAlphaF(0.5F);
+    painter.setPen(QPen(line, 1));
+    painter.drawLine(QPointF(room.center().x(), room.top() - 2),
+                     QPointF(room.center().x(), room.bottom() + 2));
+  }
+  if (part > 0) {
+    painter.fillRect(bar, colour);
+  } else if (part < 0) {
+    painter.setPen(QPen(colour, 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(bar.adjusted(0.5, 0.5, -0.5, -0.5));
+  }
+}
+
+}  // namespace
+
+void BarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                        const QModelIndex& index) const {
+  QStyledItemDelegate::paint(painter, option, index);
+  const QVariant part = index.data(ReportModel::BarRole);
+  if (!part.isValid()) return;
+  QStyleOptionViewItem cell = option;
+  initStyleOption(&cell, index);
+  const bool chosen = cell.state.testFlag(QStyle::State_Selected);
+  const bool active = cell.state.testFlag(QStyle::State_Active);
+  const auto group = active ? QPalette::Active : QPalette::Inactive;
+  const QColor colour =
+      cell.palette.color(group, chosen ? QPalette::HighlightedText : QPalette::Highlight);
+  const double height = kHeightInLines * cell.fontMetrics.height();
+  const double margin = cell.fontMetrics.averageCharWidth();
+  const QRectF room(cell.rect.left() + margin, cell.rect.center().y() + 0.5 - height / 2,
+                    RoomFor(cell.fontMetrics), height);
+  painter->save();
+  painter->setClipRect(cell.rect);
+  DrawBar(*painter, room, static_cast<CellBar>(index.data(ReportModel::BarKindRole).toInt()),
+          part.toDouble(), colour);
+  painter->restore();
+}
+
+QSize BarDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  QSize size = QStyledItemDelegate::sizeHint(option, index);
+  if (index.data(ReportModel::BarKindRole).toInt() != static_cast<int>(CellBar::None)) {
+    size.rwidth() += static_cast<int>(
+        std::ceil(RoomFor(option.fontMetrics) + 2 * option.fontMetrics.averageCharWidth()));
+  }
+  return size;
+}
+
+}  // namespace tricklet::ui

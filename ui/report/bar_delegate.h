@@ -1,0 +1,21 @@
+// Numbers with a small bar beside them.
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace tricklet::ui {
+
+/// For the cells of a `ReportModel`. A bar to the right is filled; one to the left, of a number
+/// below zero, is an outline.
+class BarDelegate : public QStyledItemDelegate {
+  Q_OBJECT
+
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+};
+
+}  // namespace tricklet::ui
