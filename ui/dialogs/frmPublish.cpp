@@ -43,6 +43,12 @@ frmPublish::frmPublish(Session& session, const PublishChoices& proposed, QWidget
   chkNotes = new QCheckBox(tr("N&otes to the boards, as they are: they may name players"), this);
   chkNotes->setObjectName(QStringLiteral("chkNotes"));
   form->addRow(QString(), chkNotes);
+  chkReport = new QCheckBox(tr("&Report of the session: every play is reviewed"), this);
+  chkReport->setObjectName(QStringLiteral("chkReport"));
+  chkReport->setChecked(proposed.report);
+  chkReport->setToolTip(
+      tr("Who lost what against double-dummy play. The first time it takes a while."));
+  form->addRow(QString(), chkReport);
   auto* folder = MakeFolder();
   form->addRow(tr("&Folder"), folder);
   qobject_cast<QLabel*>(form->labelForField(folder))->setBuddy(txtFolder);
@@ -118,6 +124,7 @@ void frmPublish::Go() {
   choices_.title = FromQt(txtTitle->text().trimmed());
   choices_.names = static_cast<NamesShown>(optNames->checkedId());
   choices_.notes = chkNotes->isChecked();
+  choices_.report = chkReport->isChecked();
   choices_.folder = PathFromText(FromQt(folder));
   accept();
 }

@@ -12,7 +12,7 @@ class QLineEdit;
 
 namespace tricklet::ui {
 
-/// Asks for boards, title, names and folder. It closes only with all of them or by Cancel.
+/// Asks for boards, title, names, the report and the folder. It closes only with all of them or by Cancel.
 class frmPublish : public QDialog {
   Q_OBJECT
 
@@ -36,6 +36,7 @@ class frmPublish : public QDialog {
   QCheckBox* chkNotes = nullptr;
   QLineEdit* txtFolder = nullptr;
   QButtonGroup* optNames = nullptr;
+  QCheckBox* chkReport = nullptr;
 };
 
 }  // namespace tricklet::ui

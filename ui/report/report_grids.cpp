@@ -120,23 +120,22 @@ ReportCell NumberCell(const std::string& number) {
   return cell;
 }
 
+/// As short as it is elsewhere in the tables.
+QString FieldText(const ReportEntrant& entrant) {
+  if (entrant.field == "North-South") return SideText(Side::NorthSouth);
+  if (entrant.field == "East-West") return SideText(Side::EastWest);
+  return ToQt(entrant.field);
+}
+
 std::vector<ReportCell> EntrantRow(const ReportEntrant& entrant) {
-  return {NumberCell(entrant.number),
-          TextCell(ToQt(entrant.names)),
-          TextCell(ToQt(entrant.field)),
-          CountCell(entrant.boards),
-          MeanCell(entrant.par),
-          MeanCell(entrant.bidding),
-          MeanCell(entrant.play),
-          MeanCell(entrant.declarer),
-          MeanCell(entrant.lead),
-          MeanCell(entrant.defence),
-          GiftsCell(entrant),
-          MadeCell(entrant),
-          MissedCell(entrant.games),
-          MissedCell(entrant.slams),
-          CountCell(entrant.overbid),
-          DoubledCell(entrant)};
+  return {NumberCell(entrant.number),   TextCell(ToQt(entrant.names)),
+          TextCell(FieldText(entrant)), CountCell(entrant.boards),
+          MeanCell(entrant.par),        MeanCell(entrant.bidding),
+          MeanCell(entrant.play),       MeanCell(entrant.declarer),
+          MeanCell(entrant.lead),       MeanCell(entrant.defence),
+          GiftsCell(entrant),           MadeCell(entrant),
+          MissedCell(entrant.games),    MissedCell(entrant.slams),
+          CountCell(entrant.overbid),   DoubledCell(entrant)};
 }
 
 ReportCell ParCell(const ReportBoard& board) {

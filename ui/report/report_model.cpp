@@ -15,6 +15,12 @@ bool SameHeadings(const ReportGrid& a, const ReportGrid& b) {
                     });
 }
 
+/// So that a column of numbers is not as wide as two words.
+QString InTwoLines(QString heading) {
+  const qsizetype at = heading.lastIndexOf(u' ');
+  return at < 0 ? heading : heading.replace(at, 1, u'\n');
+}
+
 }  // namespace
 
 void ReportModel::Show(ReportGrid grid) {
@@ -100,6 +106,8 @@ QVariant ReportModel::headerData(int section, Qt::Orientation orientation, int r
   const ReportColumn& column = ColumnAt(section);
   switch (role) {
     case Qt::DisplayRole:
+      return column.number ? InTwoLines(column.heading) : column.heading;
+    case Qt::AccessibleTextRole:
       return column.heading;
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:

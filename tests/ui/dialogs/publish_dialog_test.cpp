@@ -29,12 +29,14 @@ TEST_F(PublishDialogTest, StaysUntilRangeAndFolderAreThere) {
   host.Choose(folder.Path());
   form.Press("cmdFolder");
   form.Press("optNames_1");
+  form.Press("chkReport");
   form.Type("txtTitle", " Tuesday ");
   form.Press("cmdGo");
   EXPECT_FALSE(dialog.isVisible());
   EXPECT_EQ(dialog.Choices().boards, (BoardRange{3, 8}));
   EXPECT_EQ(dialog.Choices().title, "Tuesday");
   EXPECT_EQ(dialog.Choices().names, NamesShown::Initials);
+  EXPECT_TRUE(dialog.Choices().report);
   EXPECT_EQ(dialog.Choices().folder, folder.Path());
 }
 

@@ -86,7 +86,8 @@ class ReportDialogTest : public WindowTest {
   }
   static std::string Cell(const ReportView& view, int row, const char* heading) {
     for (int column = 0; column < view.model()->columnCount(); ++column) {
-      const QString text = view.model()->headerData(column, Qt::Horizontal).toString();
+      const QString text =
+          view.model()->headerData(column, Qt::Horizontal, Qt::AccessibleTextRole).toString();
       if (text == QLatin1String(heading))
         return FromQt(view.model()->index(row, column).data().toString());
     }
