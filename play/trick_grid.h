@@ -34,8 +34,8 @@ struct TrickGrid {
   bool AnyGiven() const;
 };
 
-/// The grid of `play`; without rows where its `PlayMode` is off. `given` has the tricks, 0..13, that
-/// each card gave away, from the opening lead on as far as they are known.
+/// The grid of `play`; without rows where its `PlayMode` is off. `given` has the tricks, 0..13,
+/// that each card gave away, from the opening lead on as far as they are known.
 TrickGrid MakeTrickGrid(const CardPlay& play, std::span<const int> given);
 
 /// All cards of a record that can be seen, those after the place that was stepped to among them.

@@ -53,8 +53,8 @@ struct WindowState {
   bool canGoBack = false;
   bool hasMistakeAfter = false;   ///< in the record, after the place that was stepped to
   bool hasMistakeBefore = false;  ///< before it
-  bool canRevert = false;  ///< the board differs from what is stored
-  std::string undoStep{};  ///< what can be undone on the board: "rotate"; empty when nothing
+  bool canRevert = false;         ///< the board differs from what is stored
+  std::string undoStep{};         ///< what can be undone on the board: "rotate"; empty when nothing
   std::string redoStep{};
   std::string claimCaption = "Claim";
   PerSeat<bool> hidden{};          ///< hands that are turned face down

@@ -12,7 +12,8 @@ class QLineEdit;
 
 namespace tricklet::ui {
 
-/// Asks for boards, title, names, the report and the folder. It closes only with all of them or by Cancel.
+/// Asks for boards, title, names, the report and the folder. It closes only with all of them or by
+/// Cancel.
 class frmPublish : public QDialog {
   Q_OBJECT
 

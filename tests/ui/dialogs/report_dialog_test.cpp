@@ -22,14 +22,14 @@ class LastCardCosts : public test::FakeSolver {
  public:
   std::string SolvePlays(std::span<const SolverPlay> plays,
                          std::span<PlayTricks> answers) override {
-    solvedPlays += static_cast<int>(plays.size());
+    if (plays.size() > 1) batches += 1;  // a record that is looked at is solved by itself
     for (std::size_t i = 0; i < plays.size(); ++i) {
       answers[i].assign(plays[i].cards.size() + 1, 10);
       answers[i].back() = 9;
     }
     return {};
   }
-  std::atomic<int> solvedPlays{0};
+  std::atomic<int> batches{0};
 };
 
 /// Two tables of board 3 of library Club, 4S by South: made, and one down.
@@ -121,14 +121,14 @@ TEST_F(ReportDialogTest, ShowsReviewsOnceAndGoesToTheRecordThatIsChosen) {
   });
   EXPECT_EQ(session.board.boardNumber, 3);
   EXPECT_TRUE(Enabled("mnuLinLeave")) << "its record is looked at";
-  EXPECT_EQ(solver.solvedPlays, 2);
+  EXPECT_EQ(solver.batches, 1);
 
   Key("Ctrl+Shift+J");
   WithReport([&](const Driven& form) {
     EXPECT_EQ(form.Find<QTabWidget>("tabReport")->currentIndex(), 1) << "as it was left";
     form.Press("cmdClose");
   });
-  EXPECT_EQ(solver.solvedPlays, 2) << "what has been reviewed is kept";
+  EXPECT_EQ(solver.batches, 1) << "what has been reviewed is kept";
 }
 
 TEST_F(ReportDialogTest, WithoutASolverItShowsWhatIsKnown) {
