@@ -194,7 +194,8 @@ dds::BinaryDeal ToBinary(const SolverPlay& play) {
   deal.first = IndexOf(SeatAfter(play.declarer));
   for (const Seat seat : kAllSeats) {
     for (const Suit suit : kAllSuits) {
-      std::uint32_t& bits = deal.cardsLeft.at(IndexOf(seat)).at(IndexOf(suit));
+      std::uint32_t& bits =
+          deal.cardsLeft.at(static_cast<std::size_t>(seat)).at(static_cast<std::size_t>(suit));
       for (int rank = 0; rank < kRanks; ++rank) {
         const bool has = play.hands[seat][suit].Has(static_cast<Rank>(rank));
         if (has) bits |= 1U << static_cast<unsigned>(ToLibraryRank(static_cast<Rank>(rank)));

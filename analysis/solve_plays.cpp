@@ -69,7 +69,7 @@ std::string SolveByPositions(Solver& solver, const SolverPlay& play, PlayTricks&
 
 std::string Solver::SolvePlays(std::span<const SolverPlay> plays, std::span<PlayTricks> tricks) {
   for (std::size_t i = 0; i < plays.size(); ++i) {
-    const std::string failure = SolveByPositions(*this, plays[i], tricks[i]);
+    std::string failure = SolveByPositions(*this, plays[i], tricks[i]);
     if (!failure.empty()) return failure;
   }
   return {};

@@ -135,10 +135,10 @@ bool ClaimTricksBy(const Context& context, CardPlay& play, Seat seat, int tricks
   return play.ClaimTricks(side, tricks);
 }
 
-bool ClaimBy(const Context& context, CardPlay& play, const PlayArguments& arguments) {
-  const std::string& text = *arguments.claim;
+bool ClaimBy(const Context& context, CardPlay& play, const std::string& text,
+             std::optional<int> tricks) {
   const auto seat = SeatFromText(text);
-  if (seat && arguments.tricks) return ClaimTricksBy(context, play, *seat, *arguments.tricks);
+  if (seat && tricks) return ClaimTricksBy(context, play, *seat, *tricks);
   if (seat && play.Now().onPlay == seat) {
     play.Claim();
     return true;
@@ -156,14 +156,14 @@ bool PlayBest(const Context& context, CardPlay& play, const std::string& count) 
   if (!RequireSolver(session)) return false;
   Solver& solver = session.getSolver();
   int left = count == "all" ? kCardsInPack : std::stoi(count);
-  for (; left > 0 && play.Now().onPlay; --left) {
+  for (auto onPlay = play.Now().onPlay; left > 0 && onPlay; --left, onPlay = play.Now().onPlay) {
     const auto card = ProgramCard(solver, play.Now(), play.Played().trumps);
     if (!card) {
       session.host.TellError(solver.Missing().empty() ? "The solver could not find a card to play"
                                                       : solver.Missing());
       return false;
     }
-    context.data << SeatName[*play.Now().onPlay] << " plays " << CardText(*card) << '\n';
+    context.data << SeatName[*onPlay] << " plays " << CardText(*card) << '\n';
     play.Play(*card);
   }
   return true;
@@ -180,7 +180,9 @@ bool TakeBack(const Context& context, CardPlay& play, int count) {
 
 /// False, with the reason, when the seat cannot claim or there is less to take back.
 bool ClaimAndTakeBack(const Context& context, CardPlay& play, const PlayArguments& arguments) {
-  const auto claims = [&] { return !arguments.claim || ClaimBy(context, play, arguments); };
+  const auto claims = [&] {
+    return !arguments.claim || ClaimBy(context, play, *arguments.claim, arguments.tricks);
+  };
   if (arguments.claimFirst) return claims() && TakeBack(context, play, arguments.undo);
   return TakeBack(context, play, arguments.undo) && claims();
 }

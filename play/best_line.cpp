@@ -32,7 +32,7 @@ std::vector<Card> BestOf(std::span<const CardScore> scores) {
   for (const CardScore& score : scores) {
     if (score.tricks == most) best.push_back(score.card);
   }
-  std::ranges::sort(best, {}, &Card::Index);
+  std::ranges::sort(best, [](Card a, Card b) { return a.Index() < b.Index(); });
   return best;
 }
 
@@ -73,7 +73,7 @@ std::optional<Card> SensibleCard(const PlayState& state, Strain trumps,
 
 std::optional<Card> ProgramCard(Solver& solver, const PlayState& state, Strain trumps) {
   const auto position = PositionOf(state, trumps);
-  if (!position) return std::nullopt;
+  if (!position || !state.onPlay) return std::nullopt;
   const auto only = OnlyCardOf(state.LegalCards(state.cardsLeft[*state.onPlay]));
   return only ? only : SensibleCard(state, trumps, solver.SolveCards(*position));
 }

@@ -9,7 +9,7 @@ namespace tricklet {
 std::optional<ClaimCheck> CheckClaim(Solver& solver, const PlayState& state, const Board& played,
                                      Side side, int tricks) {
   const auto position = PositionOf(state, played.trumps);
-  if (!position) return std::nullopt;
+  if (!position || !state.onPlay) return std::nullopt;
   const Seat onPlay = *state.onPlay;
   const auto scores = BestCards(solver, *position, state.tricksWon[SideOf(onPlay)]);
   if (scores.empty()) return std::nullopt;
@@ -28,7 +28,7 @@ std::string ClaimCheckText(const ClaimCheck& check) {
     return claim + std::string(SeatName[check.by]) + " can hold it to " +
            std::to_string(check.best);
   }
-  const std::string holds = claim + "it holds against any defence";
+  std::string holds = claim + "it holds against any defence";
   if (check.best == check.claimed) return holds;
   return holds + ", and " + std::to_string(check.best) + " can be made";
 }

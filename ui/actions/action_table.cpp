@@ -93,7 +93,7 @@ bool IsHidden(State state) {
 }
 template <bool kDeclaring>
 bool IsSideHidden(State state) {
-  return state.declarer && state.IsSideHidden(kDeclaring);
+  return state.IsSideHidden(kDeclaring);
 }
 template <ColourScheme kScheme>
 bool HasScheme(State state) {

@@ -81,9 +81,10 @@ struct WindowState {
     if (PlayUnfinished()) return showBestCards;
     return (playing || recordShown) && !AnyHidden();
   }
-  /// Both hands of the declaring side, or of the defenders, are turned face down. There has to be a
+  /// Both hands of the declaring side, or of the defenders, are turned face down. False without a
   /// declarer.
   bool IsSideHidden(bool declaring) const {
+    if (!declarer) return false;
     const Seat seat = declaring ? *declarer : SeatAfter(*declarer);
     return hidden[seat] && hidden[PartnerOf(seat)];
   }

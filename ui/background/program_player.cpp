@@ -20,16 +20,16 @@ void ProgramPlayer::Think(const std::optional<ProgramTurn>& turn) {
   ++*wanted_;
   turn_ = turn;
   cards_.reset();
-  if (turn_) Post();
+  if (turn_) Post(*turn_);
 }
 
-void ProgramPlayer::Post() {
+void ProgramPlayer::Post(const ProgramTurn& turn) {
   if (!worker_) worker_ = std::make_unique<Worker>();
   const auto found = std::make_shared<std::vector<Card>>();
   const int number = *wanted_;
   const auto goOn = [number, wanted = wanted_] { return *wanted == number; };
   worker_->Post(
-      [found, goOn, turn = *turn_, solver = session_.getSolver] {
+      [found, goOn, turn, solver = session_.getSolver] {
         if (goOn() && solver) *found = CardsForTurn(solver(), turn, goOn);
       },
       [this, found, goOn] {

@@ -33,7 +33,7 @@ class ProgramPlayer : public QObject {
   void Found(const tricklet::ProgramTurn& turn, const std::vector<tricklet::Card>& cards);
 
  private:
-  void Post();
+  void Post(const ProgramTurn& turn);
   void Give();
 
   Session& session_;

@@ -55,12 +55,12 @@ void ReviewFinder::Show() {
   complete_ = false;
   why_.clear();
   const Answer* nearest = Nearest();
-  if (nearest == nullptr) return;
+  if (nearest == nullptr || !record_) return;
   if (!nearest->failure.empty()) {
     why_ = nearest->failure;
     return;
   }
-  const std::size_t known = *CommonCards(play_, nearest->play);
+  const std::size_t known = CommonCards(play_, nearest->play).value_or(0);
   PlayTricks tricks = nearest->tricks;
   tricks.resize(known + 1);
   complete_ = known == play_.cards.size();

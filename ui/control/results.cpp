@@ -1,7 +1,5 @@
 #include "ui/control/results.h"
 
-#include <utility>
-
 #include "formats/results/call_remarks.h"
 
 namespace tricklet::ui {
@@ -39,7 +37,9 @@ void Results::Pause() {
 }
 
 void Results::Resume() {
-  const Place place = *std::exchange(paused_, std::nullopt);
+  if (!paused_) return;
+  const Place place = *paused_;
+  paused_.reset();
   const auto row = static_cast<std::size_t>(place.row);
   if (!IsStillTheBoard() || row >= traveller_.rows.size() ||
       traveller_.rows[row].lin != place.lin) {

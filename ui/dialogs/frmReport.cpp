@@ -10,7 +10,6 @@
 #include <QScreen>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include "core/fault.h"
@@ -135,7 +134,7 @@ void frmReport::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   if (reviewed_) return;
   reviewed_ = true;
-  QTimer::singleShot(0, this, &frmReport::Review);
+  QMetaObject::invokeMethod(this, &frmReport::Review, Qt::QueuedConnection);
 }
 
 /// Everything that can be known, as it becomes known.

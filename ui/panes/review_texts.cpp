@@ -54,9 +54,9 @@ QString TricksAfterText(const PlayReview& review, int cards) {
     return ReviewTexts::tr("Before the lead: %1").arg(TricksText(review.doubleDummy));
   }
   const ReviewedCard& card = review.cards.at(static_cast<std::size_t>(cards) - 1);
-  const QString text = ReviewTexts::tr("Card %1, the %2 by %3: %4")
-                           .arg(QString::number(cards), ToQt(CardText(card.card)),
-                                ToQt(SeatName[card.seat]), TricksText(card.declarerTricks));
+  QString text = ReviewTexts::tr("Card %1, the %2 by %3: %4")
+                     .arg(QString::number(cards), ToQt(CardText(card.card)),
+                          ToQt(SeatName[card.seat]), TricksText(card.declarerTricks));
   if (card.given == 0) return text;
   return text + ReviewTexts::tr(", %1 given away").arg(card.given);
 }

@@ -88,8 +88,9 @@ void ParScatter::PaintAxes(QPainter& painter) const {
   faint.setAlphaF(0.3F);
   painter.setPen(QPen(faint, 1));
   const double step = std::max(kStep, std::ceil(most_ / kStep / kMostLines) * kStep);
-  for (double at = 0; at <= most_; at += step) {
-    for (const double points : {at, -at}) {
+  const int lines = static_cast<int>(most_ / step);
+  for (int line = 0; line <= lines; ++line) {
+    for (const double points : {line * step, -line * step}) {
       const QPointF place = PlaceOf({points, points, false, {}});
       painter.drawLine(QPointF(place.x(), field.top()), QPointF(place.x(), field.bottom()));
       painter.drawLine(QPointF(field.left(), place.y()), QPointF(field.right(), place.y()));

@@ -191,7 +191,8 @@ ReportGrid BoardGrid(const SessionReport& report) {
        Number(Words::tr("At par"), Words::tr("Tables with the score of par.")),
        Number(Words::tr("E-W beat par"), Words::tr("Tables at which East-West beat par."),
               CellBar::FromLeft),
-       Number(Words::tr("Beatable"), Words::tr("Tables whose contract some lead beats.")),
+       Number(Words::tr("Beatable"),
+              Words::tr("Tables whose contract some lead beats by one or two tricks.")),
        Number(Words::tr("Lead found"), Words::tr("Of those, the tables that made such a lead.")),
        Wide(Words::tr("Beaten by"), Words::tr("The leads that beat the contracts played."))},
       {}};
