@@ -30,6 +30,7 @@ TEST(PlayReview, CountsForEachHandWhatItsCardsGaveAway) {
   record.tricks = 9;
   const PlayReview review = MakeReview(record, {10, 11, 11, 11, 11, 9});
   std::vector<int> given;
+  given.reserve(review.cards.size());
   for (const ReviewedCard& card : review.cards) given.push_back(card.given);
   EXPECT_EQ(given, (std::vector{1, 0, 0, 0, 0})) << "the lead; a gain of the defence is no gift";
   EXPECT_EQ(review.needed, 10);

@@ -62,6 +62,7 @@ TEST_F(SessionReportTest, PlayersHaveTheirOwnTricksAndTheirSidesContracts) {
   EXPECT_EQ(GivenText(report.entrants[2]), " Gus: 2 boards, gave 0/0 0/0 2/1, got 1/1 0/0 0/0");
   EXPECT_EQ(GivenText(report.entrants[3]), " Hal: 2 boards, gave 0/0 1/1 0/1, got 1/1 0/0 0/0");
   std::vector<int> games;
+  games.reserve(report.entrants.size());
   for (const ReportEntrant& one : report.entrants) games.push_back(one.games.bid);
   EXPECT_EQ(games, (std::vector{2, 1, 1, 0}));
 }
