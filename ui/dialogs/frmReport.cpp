@@ -18,6 +18,7 @@
 #include "review/report_sheet.h"
 #include "review/report_source.h"
 #include "review/session_review.h"
+#include "ui/background/later.h"
 #include "ui/report/report_sheets.h"
 #include "ui/report/report_texts.h"
 #include "ui/style/progress_frame.h"
@@ -134,7 +135,7 @@ void frmReport::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   if (reviewed_) return;
   reviewed_ = true;
-  QMetaObject::invokeMethod(this, &frmReport::Review, Qt::QueuedConnection);
+  Later(this, [this] { Review(); });
 }
 
 /// Everything that can be known, as it becomes known.

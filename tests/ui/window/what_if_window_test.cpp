@@ -39,7 +39,10 @@ class WhatIfWindowTest : public WindowTest {
     };
     session.getSolver = [this]() -> Solver& { return solver; };
   }
-  ~WhatIfWindowTest() override { window.reset(); }  // before its solver
+  void TearDown() override {
+    window.reset();  // before its solver
+    WindowTest::TearDown();
+  }
 
   void ChooseRecord(int cards) {
     window->findChild<Results*>()->ShowRecord(0);
