@@ -4,7 +4,7 @@
 
 #include <QCoreApplication>
 
-#include "ui/actions/panes_shown.h"
+#include "ui/actions/action_conditions.h"
 #include "ui/commands/commands.h"
 #include "ui/control/results.h"
 #include "ui/style/qt_text.h"
@@ -17,92 +17,7 @@ struct Actions {
   Q_DECLARE_TR_FUNCTIONS(Actions)
 };
 
-// When an action can be carried out, and when its mark is set.
-
-using State = const WindowState&;
-
-template <bool WindowState::*kSwitch>
-bool IsOn(State state) {
-  return state.*kSwitch;
-}
-bool NotEditing(State state) {
-  return !state.editing;
-}
-bool NotInPlay(State state) {
-  return !state.PlayUnfinished();
-}
-bool PlayUnfinished(State state) {
-  return state.PlayUnfinished();
-}
-bool CanRevert(State state) {
-  return state.canRevert && !state.PlayUnfinished();
-}
-bool CanUndo(State state) {
-  return state.playing ? state.canUndoCard : !state.undoStep.empty();
-}
-bool CanRedo(State state) {
-  return state.playing ? state.canRedoCard : !state.redoStep.empty();
-}
-bool CanPaste(State state) {
-  return state.canPaste && !state.PlayUnfinished();
-}
-bool LibraryShown(State state) {
-  return ShownIn(state).library && !state.presentation;
-}
-bool CanFill(State state) {
-  return state.canFill && !state.PlayUnfinished();
-}
-bool CanFillFourth(State state) {
-  return state.canFillFourth && !state.PlayUnfinished();
-}
-bool CanUndoFill(State state) {
-  return state.canUndoFill && !state.PlayUnfinished();
-}
-bool CanUndoClear(State state) {
-  return state.canUndoClear && !state.PlayUnfinished();
-}
-bool CanBid(State state) {
-  return !state.PlayUnfinished() && !state.editing;
-}
-bool CanPlayOrStop(State state) {
-  return state.playing || state.complete;
-}
-/// Its table would not be seen while the hands are edited.
-bool CanAnalyse(State state) {
-  return state.complete && !state.editing;
-}
-bool CanCopyDiagram(State state) {
-  return state.hasCards || state.recordShown;
-}
-bool CanHide(State state) {
-  return !state.editing;
-}
-bool CanHideSide(State state) {
-  return CanHide(state) && state.declarer.has_value();
-}
-bool CanCheckForUpdates(State state) {
-  return state.updateObstacle.empty();
-}
-
-bool AnyHidden(State state) {
-  return state.AnyHidden();
-}
-template <Seat kSeat>
-bool IsHidden(State state) {
-  return state.hidden[kSeat];
-}
-template <bool kDeclaring>
-bool IsSideHidden(State state) {
-  return state.IsSideHidden(kDeclaring);
-}
-template <ColourScheme kScheme>
-bool HasScheme(State state) {
-  return state.colourScheme == kScheme;
-}
-template <ToolbarStyle kStyle>
-bool HasStyle(State state) {
-  return state.toolbarStyle == kStyle;
-}
+using namespace condition;
 
 // Texts that depend on the state.
 
