@@ -8,7 +8,6 @@
 
 #include "ui/dialogs/import_rows_delegate.h"
 #include "ui/dialogs/import_rows_model.h"
-#include "ui/style/focus_ring.h"
 
 namespace tricklet::ui {
 namespace {
@@ -21,31 +20,13 @@ constexpr int kMostCharacters = 28;
 }  // namespace
 
 ImportRowsView::ImportRowsView(ImportRowsModel* rows, bool fourColours, QWidget* parent)
-    : QTableView(parent), rows_(rows) {
+    : RowsView(parent), rows_(rows) {
   setObjectName(QStringLiteral("grdBoards"));
   setAccessibleName(tr("Boards of the file"));
   setModel(rows);
   setItemDelegate(new ImportRowsDelegate(fourColours, this));
-  new FocusRing(this);
-  setSelectionBehavior(QAbstractItemView::SelectRows);
-  setEditTriggers(QAbstractItemView::NoEditTriggers);
-  setTabKeyNavigation(false);
-  setShowGrid(false);
-  setWordWrap(false);
-  setCornerButtonEnabled(false);
-  setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-  verticalHeader()->hide();
-  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setSectionsClickable(false);
   horizontalHeader()->setStretchLastSection(true);
-  SetSizes();
-}
-
-/// All rows are of one height, so that none has to be measured.
-void ImportRowsView::SetSizes() {
-  verticalHeader()->setMinimumSectionSize(1);
-  verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
 }
 
 void ImportRowsView::FitColumns() {
@@ -73,26 +54,13 @@ void ImportRowsView::FitColumns() {
 void ImportRowsView::keyPressEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_Space || event->modifiers() != Qt::NoModifier ||
       !currentIndex().isValid()) {
-    QTableView::keyPressEvent(event);
+    RowsView::keyPressEvent(event);
     return;
   }
   const QModelIndexList chosen = selectionModel()->selectedRows();
   const QModelIndex mark = currentIndex().siblingAtColumn(0);
   const bool wanted = mark.data(Qt::CheckStateRole).toInt() != Qt::Checked;
   rows_->Want(chosen.isEmpty() ? QModelIndexList{mark} : chosen, wanted);
-}
-
-void ImportRowsView::changeEvent(QEvent* event) {
-  QTableView::changeEvent(event);
-  if (event->type() != QEvent::FontChange) return;
-  SetSizes();
-  FitColumns();
-}
-
-QSize ImportRowsView::SizeOf(int rows, int characters) const {
-  return {fontMetrics().averageCharWidth() * characters,
-          horizontalHeader()->sizeHint().height() + rows * verticalHeader()->defaultSectionSize() +
-              2 * frameWidth()};
 }
 
 QSize ImportRowsView::sizeHint() const {

@@ -2,11 +2,9 @@
 
 #include <algorithm>
 
-#include <QEvent>
 #include <QHeaderView>
 
 #include "ui/report/bar_delegate.h"
-#include "ui/style/focus_ring.h"
 
 namespace tricklet::ui {
 namespace {
@@ -21,28 +19,16 @@ bool NothingIn(const ReportGrid& grid, std::size_t column) {
 }  // namespace
 
 ReportView::ReportView(const QString& name, QWidget* parent)
-    : QTableView(parent), rows_(new ReportModel(this)), order_(new ReportOrder(rows_)) {
+    : RowsView(parent), rows_(new ReportModel(this)), order_(new ReportOrder(rows_)) {
   setObjectName(name);
   setModel(order_);
   setItemDelegate(new BarDelegate(this));
-  new FocusRing(this);
-  setSelectionBehavior(QAbstractItemView::SelectRows);
   setSelectionMode(QAbstractItemView::SingleSelection);
-  setEditTriggers(QAbstractItemView::NoEditTriggers);
-  setTabKeyNavigation(false);
-  setShowGrid(false);
   setAlternatingRowColors(true);
-  setWordWrap(false);
-  setCornerButtonEnabled(false);
-  setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-  verticalHeader()->hide();
-  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setSortIndicatorShown(true);
   horizontalHeader()->setSortIndicatorClearable(true);
   horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
   setSortingEnabled(true);
-  SetSizes();
   connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           [this] { emit RowChosen(); });
   connect(this, &QAbstractItemView::activated, this, &ReportView::Entered);
@@ -63,12 +49,6 @@ void ReportView::Choose(int row) {
   const QModelIndex place = order_->PlaceOf(row);
   setCurrentIndex(place);
   if (place.isValid()) scrollTo(place);
-}
-
-/// All rows are of one height, so that none has to be measured.
-void ReportView::SetSizes() {
-  verticalHeader()->setMinimumSectionSize(1);
-  verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
 }
 
 void ReportView::FitColumns() {
@@ -101,21 +81,8 @@ void ReportView::WidenNames() {
 }
 
 void ReportView::resizeEvent(QResizeEvent* event) {
-  QTableView::resizeEvent(event);
+  RowsView::resizeEvent(event);
   WidenNames();
-}
-
-void ReportView::changeEvent(QEvent* event) {
-  QTableView::changeEvent(event);
-  if (event->type() != QEvent::FontChange) return;
-  SetSizes();
-  FitColumns();
-}
-
-QSize ReportView::SizeOf(int rows, int characters) const {
-  return {fontMetrics().averageCharWidth() * characters,
-          horizontalHeader()->sizeHint().height() + rows * verticalHeader()->defaultSectionSize() +
-              2 * frameWidth()};
 }
 
 QSize ReportView::sizeHint() const {

@@ -1,15 +1,14 @@
 // A table of a report, to be worked by mouse and keys.
 #pragma once
 
-#include <QTableView>
-
 #include "ui/report/report_model.h"
+#include "ui/style/rows_view.h"
 
 namespace tricklet::ui {
 
 /// Rows are chosen one at a time; a click on a heading sorts by its column, a third one puts the
 /// rows back into their own order.
-class ReportView : public QTableView {
+class ReportView : public RowsView {
   Q_OBJECT
 
  public:
@@ -22,6 +21,7 @@ class ReportView : public QTableView {
   int Chosen() const;
   void Choose(int row);  ///< -1 for none
 
+  void FitColumns() override;
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
@@ -32,14 +32,10 @@ class ReportView : public QTableView {
   void Entered();
 
  protected:
-  void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void SetSizes();
-  void FitColumns();
   void WidenNames();
-  QSize SizeOf(int rows, int characters) const;
 
   ReportModel* rows_;
   ReportOrder* order_;
