@@ -2,19 +2,18 @@
 // a batch of plays, in its own largest batches, over the same plays in memory.
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 #include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "analysis/dds_types.h"
-#include "analysis/shared_library.h"
 #include "analysis/solver_library.h"
 #include "bench/bare_play.h"
 #include "bench/club_session.h"
 #include "bench/measure.h"
 #include "bench/quiet_host.h"
+#include "bench/solver_call.h"
 #include "bench/temporary_root.h"
 #include "disk/file_io.h"
 #include "library/board_file.h"
@@ -36,18 +35,6 @@ constexpr int kFewRepetitions = 3;
 
 using AnalyseAllPlays = std::int32_t(dds::PlayDeals*, dds::PlayBatch*, dds::PlayOutcomes*,
                                      std::int32_t);
-
-/// The batch call of the library that the program would take; null where none is installed.
-AnalyseAllPlays* BatchCall() {
-  const char* named = std::getenv("TRICKLET_SOLVER");
-#ifdef _WIN32
-  const char* usual = "dds.dll";
-#else
-  const char* usual = "libdds.so.0";
-#endif
-  const SharedLibrary library(named != nullptr ? named : usual);
-  return library.IsOpen() ? library.Entry<AnalyseAllPlays>("AnalyseAllPlaysBin") : nullptr;
-}
 
 /// A library with the boards, their tables and the results.
 class Evening : public TemporaryRoot {
@@ -113,7 +100,7 @@ bool SolveBatch(AnalyseAllPlays* call, const std::vector<BarePlay>& plays, std::
 }
 
 void EveningAloneFloor(benchmark::State& state) {
-  AnalyseAllPlays* call = BatchCall();
+  AnalyseAllPlays* call = SolverCall<AnalyseAllPlays>("AnalyseAllPlaysBin");
   if (call == nullptr) {
     state.SkipWithError("the solver library has no call for batches of plays");
     return;

@@ -1,17 +1,16 @@
 // The review of plays of 52 cards, one by one, beside the solver library alone: its call for a
 // play, of the same plays in memory.
 #include <cstdint>
-#include <cstdlib>
 #include <memory>
 #include <random>
 #include <string>
 #include <vector>
 
-#include "analysis/shared_library.h"
 #include "analysis/solver_library.h"
 #include "bench/bare_play.h"
 #include "bench/measure.h"
 #include "bench/random_board.h"
+#include "bench/solver_call.h"
 #include "core/trick.h"
 #include "review/play_review.h"
 
@@ -24,18 +23,6 @@ constexpr int kSomeRepetitions = 7;
 
 using AnalysePlay = std::int32_t(dds::BinaryDeal, dds::PlayedCards, dds::PlayOutcome*,
                                  std::int32_t);
-
-/// The call of the library that the program would take; null where none is installed.
-AnalysePlay* PlayCall() {
-  const char* named = std::getenv("TRICKLET_SOLVER");
-#ifdef _WIN32
-  const char* usual = "dds.dll";
-#else
-  const char* usual = "libdds.so.0";
-#endif
-  const SharedLibrary library(named != nullptr ? named : usual);
-  return library.IsOpen() ? library.Entry<AnalysePlay>("AnalysePlayBin") : nullptr;
-}
 
 /// Any of the legal cards.
 Card AnyOf(const PerSuit<Holding>& legal, std::mt19937& random) {
@@ -80,7 +67,7 @@ const std::vector<RecordedPlay>& Records() {
 }
 
 void PlayAloneFloor(benchmark::State& state) {
-  AnalysePlay* call = PlayCall();
+  AnalysePlay* call = SolverCall<AnalysePlay>("AnalysePlayBin");
   if (call == nullptr) {
     state.SkipWithError("the solver library has no call for plays");
     return;

@@ -2,7 +2,6 @@
 // call, in its own largest batches, over the same deals in memory.
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -10,10 +9,10 @@
 
 #include "analysis/dds_types.h"
 #include "analysis/deal_text.h"
-#include "analysis/shared_library.h"
 #include "analysis/solver_library.h"
 #include "bench/measure.h"
 #include "bench/quiet_host.h"
+#include "bench/solver_call.h"
 #include "bench/temporary_root.h"
 #include "disk/file_io.h"
 #include "generate/generate.h"
@@ -35,18 +34,6 @@ constexpr std::size_t kLargestBatch = 40;
 
 using CalcAllTables = std::int32_t(dds::DealBatch*, std::int32_t, std::int32_t*, dds::TableBatch*,
                                    dds::ParBatch*);
-
-/// The batch call of the library that the program would take; null where none is installed.
-CalcAllTables* BatchCall() {
-  const char* named = std::getenv("TRICKLET_SOLVER");
-#ifdef _WIN32
-  const char* usual = "dds.dll";
-#else
-  const char* usual = "libdds.so.0";
-#endif
-  const SharedLibrary library(named != nullptr ? named : usual);
-  return library.IsOpen() ? library.Entry<CalcAllTables>("CalcAllTablesPBN") : nullptr;
-}
 
 /// A library of 100 random deals, and the solver.
 class Fixture : public TemporaryRoot {
@@ -121,7 +108,7 @@ bool SolveBatch(CalcAllTables* call, const std::vector<std::string>& deals, std:
 }
 
 void SolverAloneFloor(benchmark::State& state) {
-  CalcAllTables* call = BatchCall();
+  CalcAllTables* call = SolverCall<CalcAllTables>("CalcAllTablesPBN");
   const std::vector<std::string>& deals = Boards().deals;
   if (call == nullptr) {
     state.SkipWithError("the solver library is not installed");
