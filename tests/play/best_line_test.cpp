@@ -97,23 +97,31 @@ TEST(BestLine, EndsWithTheTricksThatTheSolverPromises) {
   }
 }
 
-TEST(BestLine, EndsWhereTheSolverFailsOrNobodyWaits) {
+/// One spade by North, about to be led to. North has the spades, East the hearts, South the
+/// diamonds and West the clubs.
+struct SpadePlay {
+  SpadePlay() {
+    board.hands = test::OneSuitEach();
+    test::SetAuction(board, "1S P P P");
+    EXPECT_TRUE(play.Start());
+  }
   Board board;
-  board.hands = test::OneSuitEach();
-  test::SetAuction(board, "1S P P P");
   test::ScriptedHost host;
   NoTimer timer;
-  CardPlay play(board, host, timer);
-  ASSERT_TRUE(play.Start());
+  CardPlay play{board, host, timer};
+};
+
+TEST(BestLine, EndsWhereTheSolverFailsOrNobodyWaits) {
+  SpadePlay spades;
   test::FakeSolver solver;  // cannot tell
   const auto always = [] { return true; };
-  EXPECT_TRUE(BestLine(solver, play.Now(), board.trumps, always).empty());
+  EXPECT_TRUE(BestLine(solver, spades.play.Now(), spades.board.trumps, always).empty());
   solver.solveCards = [](const SolverPosition& position) {
     return std::vector<CardScore>{{test::CardOf("H2"), static_cast<int>(position.trick.size())}};
   };
   int asked = 0;
   const auto once = [&asked] { return ++asked <= 1; };
-  EXPECT_EQ(BestLine(solver, play.Now(), board.trumps, once), CardsOf("H2"));
+  EXPECT_EQ(BestLine(solver, spades.play.Now(), spades.board.trumps, once), CardsOf("H2"));
 }
 
 TEST(ClaimCheck, SaysWhoCanHoldItToWhat) {
@@ -136,15 +144,9 @@ TEST(ClaimCheck, SaysWhoCanHoldItToWhat) {
     return std::vector<CardScore>{{test::CardOf("H2"), 5}, {test::CardOf("H3"), 4}};
   };
   for (const auto& each : kCases) {
-    Board board;
-    board.hands = test::OneSuitEach();
-    test::SetAuction(board, "1S P P P");
-    test::ScriptedHost host;
-    NoTimer timer;
-    CardPlay play(board, host, timer);
-    ASSERT_TRUE(play.Start());
-    for (const Card card : CardsOf(each.played)) ASSERT_TRUE(play.Play(card));
-    const auto check = CheckClaim(solver, play.Now(), board, each.side, each.tricks);
+    SpadePlay spades;
+    for (const Card card : CardsOf(each.played)) ASSERT_TRUE(spades.play.Play(card));
+    const auto check = CheckClaim(solver, spades.play.Now(), spades.board, each.side, each.tricks);
     ASSERT_TRUE(check);
     EXPECT_EQ(ClaimCheckText(*check), each.text);
   }

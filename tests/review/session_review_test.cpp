@@ -73,15 +73,15 @@ TEST_F(SessionReviewTest, WhatWasKeptIsTakenOnlyIfItCanBe) {
   EXPECT_EQ(Reviewed(), "2 reviewed, 0 solved");
 }
 
+#ifndef _WIN32  // where making links is a privilege
 TEST_F(SessionReviewTest, ALinkIsNeitherReadNorWritten) {
   WriteFile(folder.Path() / "mine", "mine");
-  std::error_code failure;
-  fs::create_symlink(folder.Path() / "mine", Kept(), failure);
-  if (failure) GTEST_SKIP() << "no links here";
+  fs::create_symlink(folder.Path() / "mine", Kept());
   EXPECT_EQ(Reviewed(), "2 reviewed, 2 solved");
   EXPECT_EQ(Reviewed(), "2 reviewed, 2 solved");
   EXPECT_EQ(ReadFile(folder.Path() / "mine"), "mine");
 }
+#endif
 
 TEST_F(SessionReviewTest, CancelKeepsTheBatchThatWasUnderWay) {
   for (int table = 0; table < 700; ++table) {
