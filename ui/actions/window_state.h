@@ -78,8 +78,8 @@ struct WindowState {
   /// What cards have cost may be told: not while some hand is a secret, and of a play that goes on
   /// only where best cards are told, too.
   bool Reviewing() const {
-    if (PlayUnfinished()) return showBestCards;
-    return (playing || recordShown) && !AnyHidden();
+    if (AnyHidden()) return false;
+    return PlayUnfinished() ? showBestCards : playing || recordShown;
   }
   /// Both hands of the declaring side, or of the defenders, are turned face down. False without a
   /// declarer.

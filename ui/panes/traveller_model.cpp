@@ -14,10 +14,16 @@ bool HasNames(int column) {
          column == static_cast<int>(TravellerColumn::EastWest);
 }
 
+/// The lead lies in a hand that is turned face down, or may do so.
+bool IsLeadSecret(const TravellerRow& row, const PerSeat<bool>& hidden) {
+  if (row.declarer) return hidden[SeatAfter(*row.declarer)];
+  return std::any_of(hidden.begin(), hidden.end(), [](bool each) { return each; });
+}
+
 }  // namespace
 
 void TravellerModel::Show(const Traveller& traveller, const std::optional<Par>& par,
-                          bool fourColours, const QPalette& palette) {
+                          const PerSeat<bool>& hidden, bool fourColours, const QPalette& palette) {
   beginResetModel();
   marked_ = -1;
   quiet_ = palette.color(QPalette::PlaceholderText);
@@ -31,8 +37,11 @@ void TravellerModel::Show(const Traveller& traveller, const std::optional<Par>& 
     const auto kind = static_cast<TravellerColumn>(column);
     heads_.at(place) = MakeTravellerHead(kind, traveller);
     for (std::size_t row = 0; row < rows_.size(); ++row) {
+      const TravellerRow& from = traveller.rows[row];
+      const bool secret = kind == TravellerColumn::Lead && IsLeadSecret(from, hidden);
       rows_[row].cells.at(place) =
-          MakeTravellerCell(kind, traveller.rows[row], traveller, fourColours, palette);
+          secret ? TravellerCell{QString(), TravellerCell::kNothing}
+                 : MakeTravellerCell(kind, from, traveller, fourColours, palette);
     }
   }
   if (par && !rows_.empty()) InsertPar(traveller, *par);

@@ -26,9 +26,10 @@ class TravellerModel : public QAbstractTableModel {
 
   using QAbstractTableModel::QAbstractTableModel;
 
-  /// Copies what is to be shown of `traveller`, and resets the model.
-  void Show(const Traveller& traveller, const std::optional<Par>& par, bool fourColours,
-            const QPalette& palette);
+  /// Copies what is to be shown of `traveller`, and resets the model. Leads from the `hidden` hands
+  /// are left out.
+  void Show(const Traveller& traveller, const std::optional<Par>& par, const PerSeat<bool>& hidden,
+            bool fourColours, const QPalette& palette);
   /// Sets a row of the traveller in bold: that of the play record which is being looked at; -1 for
   /// none.
   void Mark(int row);

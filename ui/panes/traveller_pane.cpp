@@ -160,7 +160,7 @@ void TravellerPane::SetSizes() {
   flexTraveller->setPalette(marked);
 }
 
-void TravellerPane::Show(const Session& session) {
+void TravellerPane::Show(const Session& session, const PerSeat<bool>& hidden) {
   SetUnfolded(session.settings.showTraveller);
   QSizePolicy policy = sizePolicy();
   policy.setVerticalStretch(Unfolded() ? kStretch : 0);
@@ -171,10 +171,11 @@ void TravellerPane::Show(const Session& session) {
     par = ComputePar(board.makeable, board.Dealer(), board.Vulnerability());
   }
   if (shownEdition_ != results_.Edition() || fourColours_ != session.settings.suitColour ||
-      par != par_) {
+      par != par_ || hidden != hidden_) {
     shownEdition_ = results_.Edition();
     fourColours_ = session.settings.suitColour;
     par_ = par;
+    hidden_ = hidden;
     FillGrid(session);
     FillNames();
   }
@@ -188,7 +189,7 @@ void TravellerPane::FillGrid(const Session& session) {
   SetTitle(tables == 0 ? tr("No traveller for this board") : tr("Traveller"));
   lblTables_->setText(tables == 1 ? tr("1 table") : tr("%1 tables").arg(tables));
   lblTables_->setVisible(tables > 0);
-  rows_->Show(traveller, par_, session.settings.suitColour, palette());
+  rows_->Show(traveller, par_, hidden_, session.settings.suitColour, palette());
   TravellerResize();
 }
 

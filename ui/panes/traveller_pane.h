@@ -28,8 +28,9 @@ class TravellerPane : public FoldingSection {
   TravellerPane(Results& results, const Actions& actions, QWidget* parent = nullptr);
 
   /// Shows the results of the board that `results` was last read for, and its record if one is
-  /// looked at. The order that the person has sorted them by stays.
-  void Show(const Session& session);
+  /// looked at. The order that the person has sorted them by stays. A lead from one of the `hidden`
+  /// hands is not told.
+  void Show(const Session& session, const PerSeat<bool>& hidden);
 
   /// The row of the traveller at `at`, a place in the pane; -1 where there is none.
   int RowAt(const QPoint& at) const;
@@ -62,6 +63,7 @@ class TravellerPane : public FoldingSection {
   int shownEdition_ = 0;
   bool fourColours_ = false;
   std::optional<Par> par_;
+  PerSeat<bool> hidden_;
   bool marking_ = false;  // the selection is the program's, not the person's
   TravellerModel* rows_;
   TravellerOrder* order_;

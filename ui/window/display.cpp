@@ -117,7 +117,7 @@ void MainWindow::DisplayAuction() {
 void MainWindow::DisplayPlay() {
   if (panes_.progress->IsWorking()) return;
   panes_.library->OfferNext(play_->Play().Finished());
-  panes_.traveller->Show(session_);
+  panes_.traveller->Show(session_, state_.hidden);
   panes_.notes->Show(results_->Note());
   GatherState();
   DisplayTable();

@@ -257,6 +257,7 @@ void MainWindow::HideSide(bool declaring) {
 
 void MainWindow::ShowHidden() {
   panes_.table->SetHidden(state_.hidden);
+  panes_.traveller->Show(session_, state_.hidden);
   review_->Show(state_);
   ShowState();
 }

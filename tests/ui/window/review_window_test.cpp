@@ -1,4 +1,8 @@
 // The review of a record and of a play in the real main window.
+#include <QClipboard>
+#include <QMimeData>
+#include <QRegularExpression>
+
 #include "formats/results/lin_file.h"
 #include "tests/support/fake_solver.h"
 #include "tests/ui/window_fixture.h"
@@ -18,6 +22,36 @@ class TwoMistakes : public test::FakeSolver {
     return {};
   }
 };
+
+/// Everything that the window tells in words, in sight or to a screen reader or by a tip.
+QStringList AllWords(const QWidget& window) {
+  QStringList words;
+  for (const QWidget* part : window.findChildren<QWidget*>()) {
+    if (!part->isVisible()) continue;
+    words << part->accessibleName() << part->accessibleDescription() << part->toolTip()
+          << part->property("text").toString();
+    const auto* view = qobject_cast<const QAbstractItemView*>(part);
+    if (view == nullptr || view->model() == nullptr) continue;
+    const QAbstractItemModel& model = *view->model();
+    for (int row = 0; row < model.rowCount(); ++row) {
+      for (int column = 0; column < model.columnCount(); ++column) {
+        for (const int role : {Qt::DisplayRole, Qt::ToolTipRole, Qt::AccessibleTextRole,
+                               Qt::AccessibleDescriptionRole}) {
+          words << model.index(row, column).data(role).toString();
+        }
+      }
+    }
+  }
+  return words;
+}
+
+/// Those that name a card of `suit`.
+std::string CardsToldOf(const QStringList& words, Suit suit) {
+  const auto pattern = QStringLiteral("(%1|%2):? ?(10|[2-9AKQJT])\\b")
+                           .arg(ToQt(SuitSymbol[suit]), ToQt(SuitName[suit]));
+  const QRegularExpression card(pattern, QRegularExpression::CaseInsensitiveOption);
+  return FromQt(words.filter(card).join(u'|'));
+}
 
 /// Board 1: one spade by North, who has the spades; East has the hearts, South the diamonds, West
 /// the clubs. At the other table it was passed out.
@@ -132,6 +166,27 @@ TEST_F(ReviewWindowTest, AHiddenHandKeepsItsSecrets) {
   EXPECT_EQ(Grid()->rowCount(), 1) << "of the cards so far";
   Key("Ctrl+Shift+H");
   EXPECT_TRUE(QTest::qWaitFor([this] { return Shown("fraReview"); }));
+}
+
+TEST_F(ReviewWindowTest, NothingTellsTheCardsOfAHiddenHand) {
+  session.settings.showBestCards = true;
+  for (const bool record : {false, true}) {
+    if (record) ShowRecord();
+    if (!record) Open();
+    if (!record) window->resize(1600, 1000);
+    const char* keys[] = {"Alt+1", "Alt+2", "Alt+3", "Alt+4"};
+    for (const Seat seat : kAllSeats) {
+      const auto suit = static_cast<Suit>(seat);  // each seat has one
+      EXPECT_NE(CardsToldOf(AllWords(*window), suit), "") << "face up";
+      Key(keys[IndexOf(seat)]);
+      QTest::qWait(50);  // for what is found beside
+      EXPECT_EQ(CardsToldOf(AllWords(*window), suit), "") << SeatName[seat] << record;
+      Key("Ctrl+Shift+C");
+      const QMimeData* copied = QApplication::clipboard()->mimeData();
+      EXPECT_EQ(CardsToldOf({copied->text(), copied->html()}, suit), "") << SeatName[seat];
+      Key(keys[IndexOf(seat)]);
+    }
+  }
 }
 
 TEST_F(ReviewWindowTest, APlayIsReviewedWithBestCardsAndWhenItIsOver) {
