@@ -71,7 +71,10 @@ void KeepPublished(const Published& published, ReportSource& source) {
 }  // namespace
 
 bool AddReview(Session& session, Published& published, std::string& failure) {
-  if (published.results.Empty()) return true;
+  if (published.results.Empty()) {
+    failure = kNothingToReport;
+    return true;
+  }
   if (!session.getSolver) {
     failure = "There is no double-dummy solver";
     return true;

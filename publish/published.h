@@ -53,8 +53,8 @@ inline constexpr const char* kNothingToPublish = "There are no boards in this ra
 /// read; nothing and no message when the person has cancelled.
 std::optional<Published> GatherBoards(Session& session, const BoardRange& range, bool tables);
 
-/// Adds the review of the plays, with progress: none where there are no results. False when the
-/// person has cancelled; why there is none otherwise comes in `failure`, else empty.
+/// Adds the review of the plays, with progress. False when the person has cancelled; why there is
+/// none otherwise, as where there are no results, comes in `failure`, else empty.
 bool AddReview(Session& session, Published& published, std::string& failure);
 
 }  // namespace tricklet

@@ -89,6 +89,10 @@ TEST_F(ReviewedEvening, HasTheReportOfWhatIsPublished) {
   ASSERT_TRUE(published->review);
   EXPECT_EQ(published->review->report.boards.size(), 1U);
   EXPECT_EQ(published->review->report.reviewed, 1);
+
+  Published withoutResults;
+  EXPECT_TRUE(AddReview(session, withoutResults, failure));
+  EXPECT_EQ(failure, "There are no results in this library");
 }
 
 }  // namespace
