@@ -101,6 +101,19 @@ struct PlayOutcomes {
   std::array<PlayOutcome, kPlaySlots> outcomes;
 };
 
+struct PositionBatch {
+  std::int32_t count;
+  std::array<Position, kPlaySlots> positions;
+  std::array<std::int32_t, kPlaySlots> target;  ///< of each, as for a single position
+  std::array<std::int32_t, kPlaySlots> solutions;
+  std::array<std::int32_t, kPlaySlots> mode;
+};
+
+struct CardTricksBatch {
+  std::int32_t count;
+  std::array<CardTricks, kPlaySlots> cards;
+};
+
 /// What the library tells of itself: its version, and then under 1400 bytes about the machine.
 struct LibraryInfo {
   std::int32_t major;

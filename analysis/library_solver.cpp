@@ -19,7 +19,8 @@ using CalcTable = std::int32_t(dds::DealText, dds::TableByStrain*);  // CalcDDta
 using CalcAllTables = std::int32_t(dds::DealBatch*, std::int32_t, std::int32_t*, dds::TableBatch*,
                                    dds::ParBatch*);  // CalcAllTablesPBN
 using SolvePosition = std::int32_t(dds::Position, std::int32_t, std::int32_t, std::int32_t,
-                                   dds::CardTricks*, std::int32_t);  // SolveBoardPBN
+                                   dds::CardTricks*, std::int32_t);               // SolveBoardPBN
+using SolvePositions = std::int32_t(dds::PositionBatch*, dds::CardTricksBatch*);  // SolveAllBoards
 using AnalysePlay = std::int32_t(dds::BinaryDeal, dds::PlayedCards, dds::PlayOutcome*,
                                  std::int32_t);  // AnalysePlayBin
 using AnalyseAllPlays = std::int32_t(dds::PlayDeals*, dds::PlayBatch*, dds::PlayOutcomes*,
@@ -66,6 +67,7 @@ class LibrarySolver : public Solver {
         calcTable_(library.Entry<CalcTable>("CalcDDtablePBN")),
         calcAllTables_(library.Entry<CalcAllTables>("CalcAllTablesPBN")),
         solvePosition_(library.Entry<SolvePosition>("SolveBoardPBN")),
+        solvePositions_(library.Entry<SolvePositions>("SolveAllBoards")),
         analysePlay_(library.Entry<AnalysePlay>("AnalysePlayBin")),
         analyseAllPlays_(library.Entry<AnalyseAllPlays>("AnalyseAllPlaysBin")),
         libraryInfo_(library.Entry<LibraryInfo>("GetDDSInfo")),
@@ -98,6 +100,8 @@ class LibrarySolver : public Solver {
   }
 
   std::vector<CardScore> SolveCards(const SolverPosition& position) override;
+  void SolveCardsOfAll(std::span<const SolverPosition> positions,
+                       std::span<std::vector<CardScore>> scores) override;
   std::string SolvePlays(std::span<const SolverPlay> plays, std::span<PlayTricks> tricks) override;
 
  private:
@@ -141,6 +145,7 @@ class LibrarySolver : public Solver {
   CalcTable* calcTable_;
   CalcAllTables* calcAllTables_;
   SolvePosition* solvePosition_;
+  SolvePositions* solvePositions_;
   AnalysePlay* analysePlay_;
   AnalyseAllPlays* analyseAllPlays_;
   LibraryInfo* libraryInfo_;
@@ -164,8 +169,7 @@ void AppendScores(const dds::CardTricks& answer, std::size_t entry,
   }
 }
 
-std::vector<CardScore> LibrarySolver::SolveCards(const SolverPosition& position) {
-  if (solvePosition_ == nullptr) return {};
+dds::Position ToPosition(const SolverPosition& position) {
   dds::Position record{};
   record.trump = IndexOf(position.trumps);
   record.first = IndexOf(position.leader);
@@ -174,18 +178,53 @@ std::vector<CardScore> LibrarySolver::SolveCards(const SolverPosition& position)
     record.trickRank.at(i) = ToLibraryRank(position.trick[i].rank);
   }
   record.cardsLeft = ToBuffer(SolverDealText(position.cardsLeft));
-  constexpr std::int32_t kBestScore = -1;
-  constexpr std::int32_t kAllCards = 3;
-  constexpr std::int32_t kMode = 1;  // search even when only one card is legal
-  dds::CardTricks answer{};
-  const std::lock_guard lock(mutex_);
+  return record;
+}
+
+// How a position is searched.
+constexpr std::int32_t kBestScore = -1;
+constexpr std::int32_t kAllCards = 3;
+constexpr std::int32_t kMode = 1;  // even when only one card is legal
+
+std::vector<CardScore> ScoresOf(const dds::CardTricks& answer) {
   std::vector<CardScore> scores;
-  if (solvePosition_(record, kBestScore, kAllCards, kMode, &answer, 0) != dds::kNoFault) {
-    return scores;
-  }
-  const auto count = std::clamp<std::size_t>(static_cast<std::size_t>(answer.count), 0, 13);
+  const auto count = static_cast<std::size_t>(std::clamp(answer.count, 0, kCardsInHand));
   for (std::size_t entry = 0; entry < count; ++entry) AppendScores(answer, entry, scores);
   return scores;
+}
+
+std::vector<CardScore> LibrarySolver::SolveCards(const SolverPosition& position) {
+  if (solvePosition_ == nullptr) return {};
+  dds::CardTricks answer{};
+  const std::lock_guard lock(mutex_);
+  const std::int32_t status =
+      solvePosition_(ToPosition(position), kBestScore, kAllCards, kMode, &answer, 0);
+  return status == dds::kNoFault ? ScoresOf(answer) : std::vector<CardScore>();
+}
+
+void LibrarySolver::SolveCardsOfAll(std::span<const SolverPosition> positions,
+                                    std::span<std::vector<CardScore>> scores) {
+  if (positions.size() < 2 || solvePositions_ == nullptr) {
+    Solver::SolveCardsOfAll(positions, scores);
+    return;
+  }
+  const auto batch = std::make_unique<dds::PositionBatch>();
+  const auto answer = std::make_unique<dds::CardTricksBatch>();
+  batch->count = static_cast<std::int32_t>(positions.size());
+  for (std::size_t i = 0; i < positions.size(); ++i) {
+    batch->positions.at(i) = ToPosition(positions[i]);
+    batch->target.at(i) = kBestScore;
+    batch->solutions.at(i) = kAllCards;
+    batch->mode.at(i) = kMode;
+  }
+  std::unique_lock lock(mutex_);
+  const bool solved = solvePositions_(batch.get(), answer.get()) == dds::kNoFault;
+  lock.unlock();
+  if (!solved) {  // one of them; the others have an answer by themselves
+    Solver::SolveCardsOfAll(positions, scores);
+    return;
+  }
+  for (std::size_t i = 0; i < positions.size(); ++i) scores[i] = ScoresOf(answer->cards.at(i));
 }
 
 dds::BinaryDeal ToBinary(const SolverPlay& play) {

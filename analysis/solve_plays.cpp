@@ -67,6 +67,11 @@ std::string SolveByPositions(Solver& solver, const SolverPlay& play, PlayTricks&
   return {};
 }
 
+void Solver::SolveCardsOfAll(std::span<const SolverPosition> positions,
+                             std::span<std::vector<CardScore>> scores) {
+  for (std::size_t i = 0; i < positions.size(); ++i) scores[i] = SolveCards(positions[i]);
+}
+
 std::string Solver::SolvePlays(std::span<const SolverPlay> plays, std::span<PlayTricks> tricks) {
   for (std::size_t i = 0; i < plays.size(); ++i) {
     std::string failure = SolveByPositions(*this, plays[i], tricks[i]);

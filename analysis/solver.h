@@ -48,7 +48,7 @@ class Solver {
  public:
   /// The most deals of one batch.
   static constexpr int kBatch = 32;
-  /// The most plays of one batch.
+  /// The most plays or positions of one batch.
   static constexpr int kPlayBatch = 200;
 
   Solver() = default;
@@ -70,6 +70,11 @@ class Solver {
   /// The tricks that each legal card of the hand on play leads to, in no particular order; empty
   /// when the solver cannot tell. May be called from any thread.
   virtual std::vector<CardScore> SolveCards(const SolverPosition& position) = 0;
+
+  /// The same of at most `kPlayBatch` positions, on all cores: an answer for each. A solver that
+  /// has no way of its own for several is asked for one after the other.
+  virtual void SolveCardsOfAll(std::span<const SolverPosition> positions,
+                               std::span<std::vector<CardScore>> scores);
 
   /// What becomes of at most `kPlayBatch` plays, on all cores; one play is solved on one. Returns
   /// the text of what went wrong, empty on success. May be called from any thread. A solver that

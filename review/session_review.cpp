@@ -42,16 +42,19 @@ std::size_t BatchSize() {
   return std::clamp(kPerCore * cores, kLeast, static_cast<std::size_t>(Solver::kPlayBatch));
 }
 
-/// Declarer's tricks after each lead; empty when the solver cannot tell.
-LeadTricks SolveLeads(Solver& solver, const LeadsAtBoard& wanted) {
+SolverPosition ToSolve(const LeadsAtBoard& wanted) {
   SolverPosition position;
   position.trumps = wanted.key.second;
   position.leader = SeatAfter(wanted.key.first);
   position.cardsLeft = *wanted.hands;
+  return position;
+}
+
+/// Declarer's tricks after each lead; empty where the solver could not tell.
+LeadTricks ToLeads(const std::vector<CardScore>& scores) {
   LeadTricks leads;
-  for (const CardScore& each : solver.SolveCards(position)) {
-    leads.emplace_back(each.card, kCardsInHand - each.tricks);
-  }
+  leads.reserve(scores.size());
+  for (const CardScore& each : scores) leads.emplace_back(each.card, kCardsInHand - each.tricks);
   std::sort(leads.begin(), leads.end(),
             [](const auto& a, const auto& b) { return a.first.Index() < b.first.Index(); });
   return leads;
@@ -179,17 +182,29 @@ class ReviewRun {
   }
 
   void ReviewLeads() {
-    for (const LeadsAtBoard& wanted : leads_) {
-      if (!GoesOn()) return;
-      auto answer =
-          std::async(std::launch::async, [this, &wanted] { return SolveLeads(solver_, wanted); });
-      Wait(answer, "Leads of board " + std::to_string(wanted.boardNumber));
-      LeadTricks leads = answer.get();
+    while (leadsDone_ < leads_.size() && GoesOn()) {
+      const std::size_t count = std::min(BatchSize(), leads_.size() - leadsDone_);
+      auto answer = std::async(std::launch::async, [this, count] {
+        std::vector<SolverPosition> batch;
+        batch.reserve(count);
+        for (std::size_t i = 0; i < count; ++i) batch.push_back(ToSolve(leads_[leadsDone_ + i]));
+        std::vector<std::vector<CardScore>> scores(count);
+        solver_.SolveCardsOfAll(batch, scores);
+        return scores;
+      });
+      Wait(answer, "Looking for leads");
+      TakeLeads(answer.get());
+    }
+  }
+
+  void TakeLeads(const std::vector<std::vector<CardScore>>& scores) {
+    for (const auto& each : scores) {
+      const LeadsAtBoard& wanted = leads_[leadsDone_++];
+      LeadTricks leads = ToLeads(each);
       if (leads.size() == kCardsInHand) cache_.AddLeads(*wanted.hands, wanted.key, leads);
       review_.answers.leads[wanted.boardNumber][wanted.key] = std::move(leads);
-      ++leadsDone_;
     }
-    if (!leads_.empty()) Show();
+    Show();
   }
 
   /// Lets pending events run until it is ready; the solver cannot be stopped in a batch.

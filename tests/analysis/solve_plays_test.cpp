@@ -1,10 +1,14 @@
 #include "analysis/solve_plays.h"
 
+#include <map>
+
 #include <gtest/gtest.h>
 
 #include "analysis/solver_library.h"
+#include "play/best_cards.h"
 #include "review/play_review.h"
 #include "tests/support/plays.h"
+#include "tests/support/scripted_host.h"
 #include "tests/support/thorough.h"
 
 namespace tricklet::test {
@@ -37,6 +41,45 @@ TEST(SolvePlays, AgreesWithThePositionsOfEachPlay) {
     ASSERT_EQ(SolveByPositions(*solver, plays[i], byPositions), "");
     EXPECT_EQ(batch[i], byPositions) << "play " << i;
     EXPECT_EQ(alone, byPositions) << "play " << i;
+  }
+}
+
+/// After 0, 7, 14 ... cards of plays at random.
+std::vector<SolverPosition> RandomPositions(int count) {
+  RandomSource random(17);
+  ScriptedHost host;
+  NoTimer timer;
+  std::vector<SolverPosition> positions;
+  for (int i = 0; i < count; ++i) {
+    Board board = RandomBoard(i, random);
+    const auto cards = RandomCards(board, 7 * i % kCardsInPack, random);
+    CardPlay play(board, host, timer);
+    EXPECT_TRUE(play.Start());
+    for (const Card card : cards) EXPECT_TRUE(play.Play(card));
+    positions.push_back(PositionOf(play.Now(), board.trumps).value());
+  }
+  return positions;
+}
+
+/// By cards: which of two that are worth the same comes first is the library's affair.
+std::map<int, int> ByCard(const std::vector<CardScore>& scores) {
+  std::map<int, int> byCard;
+  for (const CardScore& each : scores) byCard[each.card.Index()] = each.tricks;
+  return byCard;
+}
+
+TEST(SolveCardsOfAll, AgreesWithEachPositionByItself) {
+  const auto solver = LoadSolver({});
+  ASSERT_EQ(solver->Missing(), "");
+  auto positions = RandomPositions(Repetitions(160));
+  for (const bool impossible : {false, true}) {
+    if (impossible) positions[1].cardsLeft[Seat::North] = {};
+    std::vector<std::vector<CardScore>> scores(positions.size());
+    solver->SolveCardsOfAll(positions, scores);
+    for (std::size_t i = 0; i < positions.size(); ++i) {
+      EXPECT_EQ(ByCard(scores[i]), ByCard(solver->SolveCards(positions[i]))) << i;
+    }
+    EXPECT_EQ(scores[1].empty(), impossible);
   }
 }
 
