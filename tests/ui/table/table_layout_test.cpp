@@ -181,13 +181,20 @@ TEST(TableLayoutTest, CloseUpWhatIsLeft) {
 }
 
 TEST(TableLayoutTest, WritesCaptionsForTheBackOfTheRoom) {
-  const std::pair<QSizeF, int> cases[] = {{{1024, 600}, 1},
-                                          {{1366, 768}, 1},
-                                          {{1920, 1080}, 1},
-                                          {{880, 768}, 2},  // with panes beside it
-                                          {{1230, 1080}, 2}};
-  for (const auto& [size, lines] : cases) {
+  struct Case {
+    QSizeF size;
+    bool points;  // and losers: a long caption
+    int lines;
+  };
+  constexpr Case kCases[] = {{{1024, 600}, false, 1},
+                             {{1366, 768}, false, 1},
+                             {{1920, 1080}, false, 1},
+                             {{880, 768}, true, 2},  // with panes beside it
+                             {{1230, 1080}, true, 2}};
+  for (const auto& [size, points, lines] : kCases) {
     TableScene scene;
+    scene.settings.hgFont[1].name = "DejaVu Sans";  // which each machine has, at the same width
+    scene.settings.captionHcp = scene.settings.captionLtc = points;
     scene.board = OrdinaryBoard();
     scene.board.contract = "4S";
     scene.board.declarer = Seat::West;
