@@ -44,6 +44,8 @@ void AddResultCommands(CLI::App& app, Command& command);
 void AddReviewCommand(CLI::App& app, Command& command);
 /// report.
 void AddReportCommand(CLI::App& app, Command& command);
+/// statistics.
+void AddStatisticsCommand(CLI::App& app, Command& command);
 /// publish.
 void AddPublishCommands(CLI::App& app, Command& command);
 /// analyse, link.

@@ -127,6 +127,7 @@ int ParseAndExecute(const std::vector<std::string>& arguments, SettingsStore& st
   AddResultCommands(app, command);
   AddReviewCommand(app, command);
   AddReportCommand(app, command);
+  AddStatisticsCommand(app, command);
   AddPublishCommands(app, command);
   AddAnalysisCommands(app, command);
   AddEditCommands(app, command);

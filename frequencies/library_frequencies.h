@@ -1,0 +1,24 @@
+// What the deals of a library look like.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "frequencies/deal_frequencies.h"
+#include "library/session.h"
+
+namespace tricklet {
+
+struct LibraryFrequencies {
+  DealFrequencies frequencies;
+  /// What is left out and why, a sentence each.
+  std::vector<std::string> remarks;
+};
+
+/// Counts the complete deals of the current library as they are stored, with the tables that they
+/// have. Nothing, after a message, when there is none or the disk does not give a board; nothing
+/// and no message when the person has cancelled.
+std::optional<LibraryFrequencies> CountLibrary(Session& session);
+
+}  // namespace tricklet
