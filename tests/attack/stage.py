@@ -94,7 +94,7 @@ class Stage:
         return [column[1] for column in columns if column[0] != "0"]
 
     def prepare(self):
-        """Two libraries, one of them with results; a file to replace; a folder to copy from."""
+        """Three libraries, two of them with results; a file to replace; a folder to copy from."""
         self.clear()
         for kind, name, to in (("pbn", "two_games_lf.pbn", "in.pbn"),
                                ("dlm", "two_boards_lf.dlm", "in.dlm"),
@@ -115,8 +115,10 @@ class Stage:
         shutil.copytree(self.home / "root/Other", self.home / "more/Third")
         shutil.copytree(self.home / "root/Other", self.home / "there/Sample")
         self.require("export", "1", "1", "old.pbn")
-        # What is published is then no other when a table cannot be stored.
+        # What is published or reported is then no other when a table cannot be stored.
         self.require("--library", "Other", "analyse")
+        self.require("--library", "Played", "import", "in.xml")
+        self.require("--library", "Played", "analyse")
         self.require("settings", "RecycleReplaced", "True")
         self.keep()
 
@@ -134,7 +136,7 @@ class Stage:
 
     def tree(self):
         """Each path with the bytes of the file; None for a folder. Without the times of replacing
-        and recycling."""
+        and recycling, and without what a report keeps to be quicker the next time."""
         tree = {}
 
         def take(path, data):
@@ -146,6 +148,8 @@ class Stage:
             for name in folders:
                 take(os.path.join(folder, name), None)
             for name in files:
+                if name == ".tricklet-review":
+                    continue
                 path = os.path.join(folder, name)
                 data = pathlib.Path(path).read_bytes()
                 if name.endswith(".trashinfo"):
@@ -186,6 +190,7 @@ COMMANDS = {
     "library-move": "--yes library move new/root",
     "library-delete": "library delete Other",
     "publish": "--library Other publish new/site",
+    "report": "--library Played report --csv",
     "settings": "settings PBNShark True",
 }
 
