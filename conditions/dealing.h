@@ -1,0 +1,43 @@
+// Deals that meet a script, one after the other: one thread's worth.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+#include "analysis/solver.h"
+#include "conditions/evaluator.h"
+#include "conditions/script.h"
+#include "conditions/shuffle.h"
+#include "core/random_source.h"
+
+namespace tricklet {
+
+/// Deals at random what a script leaves open and keeps what meets its condition: each deal that
+/// holds what is predealt and meets the condition is equally likely.
+class Dealing {
+ public:
+  /// `solver` as for `Evaluator`. The same script and random source give the same deals.
+  Dealing(std::shared_ptr<const Script> script, Solver* solver, RandomSource random);
+  Dealing(const Dealing&) = delete;
+  Dealing& operator=(const Dealing&) = delete;
+
+  /// The next deal that is accepted, after at most `tries` deals; nothing when none of them is.
+  /// Raises a `Fault` when the solver fails.
+  std::optional<HandTable> Next(std::int64_t tries);
+
+  /// Deals tried up to now, those that were accepted among them.
+  std::int64_t Tried() const { return tried_; }
+
+  /// Of the deal that `Next` has given: what another expression of the script is worth.
+  int Value(ExpressionId expression) { return evaluator_.Value(expression); }
+
+ private:
+  std::shared_ptr<const Script> script_;
+  RandomSource random_;
+  Evaluator evaluator_;
+  Shuffle shuffle_;
+  std::int64_t tried_ = 0;
+};
+
+}  // namespace tricklet
