@@ -21,6 +21,7 @@ int main(int argc, char** argv) {
       {"OpenLibrary", "OpenFloor", 3.0},
       {"AnalyseBoards", "SolverAloneFloor", 1.05},
       {"ReviewPlays", "PlayAloneFloor", 1.1},
+      {"SimulateLeads", "PositionsAloneFloor", 1.05},
       {"ReviewEvening", "EveningAloneFloor", 1.1},
       {"ReportEvening", "EveningAloneFloor", 2.0},
       {"ReportEveningAgain", "EveningAloneFloor", 0.05},

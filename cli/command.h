@@ -42,6 +42,8 @@ void AddDiagramCommand(CLI::App& app, Command& command);
 void AddResultCommands(CLI::App& app, Command& command);
 /// review.
 void AddReviewCommand(CLI::App& app, Command& command);
+/// simulate.
+void AddSimulateCommand(CLI::App& app, Command& command);
 /// report.
 void AddReportCommand(CLI::App& app, Command& command);
 /// statistics.

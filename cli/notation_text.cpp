@@ -25,4 +25,26 @@ std::optional<Suit> SuitFromText(std::string_view text) {
   return std::nullopt;
 }
 
+std::optional<Card> CardFromText(std::string_view text) {
+  if (text.size() < 2) return std::nullopt;
+  const auto suit = std::string_view("SHDC").find(ToUpper(text[0]));
+  const std::string_view rank = text.substr(1);
+  if (suit == std::string_view::npos) return std::nullopt;
+  for (int index = 0; index < kRanks; ++index) {
+    const auto candidate = static_cast<Rank>(index);
+    const bool ten = candidate == Rank::Ten && EqualNoCase(rank, "T");
+    if (ten || EqualNoCase(rank, RankText[candidate]))
+      return Card{static_cast<Suit>(suit), candidate};
+  }
+  return std::nullopt;
+}
+
+std::optional<Vulnerability> VulnerabilityFromText(std::string_view text) {
+  for (int index = 0; index < kSeats; ++index) {
+    const auto candidate = static_cast<Vulnerability>(index);
+    if (EqualNoCase(text, PBNVul[candidate])) return candidate;
+  }
+  return std::nullopt;
+}
+
 }  // namespace tricklet::cli

@@ -46,21 +46,6 @@ ExitCode Refuse(const Context& context, const std::string& text) {
   return ExitCode::Refused;
 }
 
-/// Suit letter and rank: "SA", "h10", "HT".
-std::optional<Card> CardFromText(std::string_view text) {
-  if (text.size() < 2) return std::nullopt;
-  const auto suit = std::string_view("SHDC").find(ToUpper(text[0]));
-  const std::string_view rank = text.substr(1);
-  if (suit == std::string_view::npos) return std::nullopt;
-  for (int index = 0; index < kRanks; ++index) {
-    const auto candidate = static_cast<Rank>(index);
-    const bool ten = candidate == Rank::Ten && EqualNoCase(rank, "T");
-    if (ten || EqualNoCase(rank, RankText[candidate]))
-      return Card{static_cast<Suit>(suit), candidate};
-  }
-  return std::nullopt;
-}
-
 /// Why `call` cannot be made now.
 std::string WhyNot(const AuctionEntry& entry, Call call) {
   const std::string by = call.Text() + " by " + std::string(SeatName[entry.ToCall()]) + ": ";
@@ -252,11 +237,9 @@ ExitCode Score(const Context& context, const ScoreArguments& arguments) {
   board.declarer = *declarer;
   board.boardNumber = arguments.board;
   // Boards 1 to 4 are love all, North-South, East-West and all vulnerable.
-  constexpr std::array<std::string_view, 4> kNames{"none", "ns", "ew", "all"};
-  const auto name = std::find_if(kNames.begin(), kNames.end(), [&](std::string_view each) {
-    return EqualNoCase(each, arguments.vulnerability);
-  });
-  if (name != kNames.end()) board.boardNumber = static_cast<int>(name - kNames.begin()) + 1;
+  if (const auto named = VulnerabilityFromText(arguments.vulnerability)) {
+    board.boardNumber = IndexOf(*named) + 1;
+  }
   context.data << ResultLine(board, arguments.tricks) << '\n';
   return ExitCode::Done;
 }

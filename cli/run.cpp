@@ -126,6 +126,7 @@ int ParseAndExecute(const std::vector<std::string>& arguments, SettingsStore& st
   AddDiagramCommand(app, command);
   AddResultCommands(app, command);
   AddReviewCommand(app, command);
+  AddSimulateCommand(app, command);
   AddReportCommand(app, command);
   AddStatisticsCommand(app, command);
   AddPublishCommands(app, command);

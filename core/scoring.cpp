@@ -6,7 +6,6 @@ namespace tricklet {
 namespace {
 
 constexpr int kGame = 100;  // contract points that make a game
-constexpr int kSmallSlam = 6;
 
 int Penalty(int undertricks, bool vulnerable, Doubling doubling) {
   const int factor = vulnerable ? 2 : 1;
@@ -50,6 +49,11 @@ int MadeScore(int level, Strain strain, Doubling doubling, int overtricks, bool 
 }
 
 }  // namespace
+
+int GameLevel(Strain strain) {
+  constexpr EnumArray<Strain, int, kStrains> kLevels{{4, 4, 5, 5, 3}};
+  return kLevels[strain];
+}
 
 int ScoreContract(Vulnerability vulnerability, int level, Strain strain, Doubling doubling,
                   int result, Seat declarer) {

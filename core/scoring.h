@@ -9,6 +9,13 @@ namespace tricklet {
 
 enum class Doubling : int { Undoubled, Doubled, Redoubled };
 
+/// The lowest level, 3..5, of a game in `strain`: one whose tricks are worth 100 points undoubled
+/// (Laws of Duplicate Bridge, 77).
+int GameLevel(Strain strain);
+
+/// The lowest level of a slam.
+inline constexpr int kSmallSlam = 6;
+
 /// The score of a contract from North-South's point of view (Laws of Duplicate Bridge, 77).
 /// `level` 0 is a passed-out board, which scores 0. `result` is the declaring side's tricks less
 /// six and the level: overtricks, 0, or undertricks as a negative number.

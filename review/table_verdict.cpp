@@ -110,11 +110,6 @@ bool IsSameDeal(const TravellerRow& row, const Board& board) {
   return !HasCards(hands) || hands == board.hands;
 }
 
-int GameLevel(Strain strain) {
-  constexpr EnumArray<Strain, int, kStrains> kLevels{{4, 4, 5, 5, 3}};
-  return kLevels[strain];
-}
-
 std::optional<Board> PlayedContract(const std::string& contract, std::optional<Seat> declarer,
                                     int boardNumber) {
   Board played;

@@ -20,13 +20,6 @@ std::optional<Board> PlayedContract(const std::string& contract, std::optional<S
                                     int boardNumber);
 std::optional<Board> PlayedContract(const ReportTable& table);
 
-/// The lowest level, 3..5, of a game in `strain`: one whose tricks are worth 100 points undoubled
-/// (Laws of Duplicate Bridge, 77).
-int GameLevel(Strain strain);
-
-/// The lowest level of a slam.
-inline constexpr int kSmallSlam = 6;
-
 /// What `row`, number `index` of its traveller, tells by itself, and, where `board` is the
 /// library's board with its table, how it compares with `par`. Entrants and play are left to the
 /// caller.
