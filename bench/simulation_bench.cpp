@@ -34,7 +34,7 @@ SimulationPlan Plan() {
 std::unique_ptr<SimulationRun> Simulated() {
   static const auto solver = LoadSolver({});
   std::string why;
-  auto run = SimulationRun::Begin(Plan(), {}, *solver, why);
+  auto run = SimulationRun::Begin(Plan(), *solver, why);
   while (run && run->Step([] { return true; })) {
   }
   return run;

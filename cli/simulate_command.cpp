@@ -1,5 +1,4 @@
 // The command that deals many deals and asks the solver what happens in them.
-#include <fstream>
 #include <memory>
 #include <ostream>
 #include <sstream>
@@ -10,7 +9,9 @@
 
 #include "cli/command.h"
 #include "cli/notation_text.h"
+#include "conditions/script.h"
 #include "core/text.h"
+#include "disk/file_io.h"
 #include "library/tables.h"
 #include "simulation/keep_deals.h"
 #include "simulation/simulation_run.h"
@@ -28,6 +29,8 @@ struct Asked {
   std::string vulnerability;  ///< empty: the board's
   std::string cards;          ///< with blanks between them
   std::optional<std::vector<std::string>> forget;
+  std::string condition;
+  std::string script;  ///< a file that holds the condition
   int deals = kUsualSimulatedDeals;
   std::uint64_t seed = 1;
   bool csv = false;
@@ -100,6 +103,7 @@ std::optional<SimulationPlan> ReadPlan(const Asked& asked, const Board& board, s
   plan.question = asked.question;
   plan.hands = board.hands;
   plan.vulnerability = VulnerabilityFromText(asked.vulnerability).value_or(board.Vulnerability());
+  plan.condition = asked.condition;
   plan.deals = asked.deals;
   plan.seed = asked.seed;
   const bool read = ReadContracts(asked, board, plan, why) && ReadCards(asked, plan, why) &&
@@ -140,13 +144,15 @@ ExitCode Simulate(const Context& context, const Asked& asked) {
   Session& session = context.session;
   if (!LoadBoard(context, asked.board)) return ExitCode::Refused;
   std::string why;
-  const auto plan = ReadPlan(asked, session.board, why);
+  auto plan = ReadPlan(asked, session.board, why);
   if (!plan) {
     session.host.Tell(why);
     return ExitCode::Usage;
   }
+  if (!asked.script.empty())
+    plan->condition = ReadWholeFile(PathFromText(asked.script), kLongestScript);
   if (!RequireSolver(session)) return ExitCode::Refused;
-  const auto run = SimulationRun::Begin(*plan, {}, session.getSolver(), why);
+  const auto run = SimulationRun::Begin(*plan, session.getSolver(), why);
   if (!run) {
     session.host.Tell(why);
     return ExitCode::Refused;
@@ -169,6 +175,11 @@ void AddShared(CLI::App& simulate, Asked& asked) {
   simulate.add_option("--forget", asked.forget, "Hands that are not known: N,E,S")
       ->type_name("SEATS")
       ->delimiter(',');
+  auto* condition = simulate.add_option("--condition", asked.condition, "What the deals must meet")
+                        ->type_name("TEXT");
+  simulate.add_option("--script", asked.script, "The same, in a file")
+      ->type_name("FILE")
+      ->excludes(condition);
   simulate.add_option("--deals", asked.deals, "At the most")
       ->type_name("K")
       ->check(CLI::Range(1, kMostSimulatedDeals));

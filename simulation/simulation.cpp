@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/fault.h"
 #include "core/text.h"
 
 namespace tricklet {
@@ -49,7 +50,13 @@ std::size_t Simulation::MostDeals() const {
 
 bool Simulation::Step(const std::function<bool()>& goOn) {
   if (progress_.end != SimulationEnd::Running) return false;
-  DealBatch(goOn);
+  try {
+    DealBatch(goOn);
+  } catch (const std::exception& failure) {  // of the solver, asked by the condition
+    progress_.end = SimulationEnd::Failed;
+    progress_.failure = FaultFrom(failure).Description();
+    return false;
+  }
   if (batch_.empty() || !goOn()) return progress_.end == SimulationEnd::Running;
   return SolveBatch();
 }

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "simulation/condition.h"
+
 namespace tricklet {
 namespace {
 
@@ -61,13 +63,17 @@ SimulationSheet SheetOf(const SimulationTable& table) {
   return std::visit([](const auto& each) { return SheetOf(each); }, table);
 }
 
-std::unique_ptr<SimulationRun> SimulationRun::Begin(const SimulationPlan& plan,
-                                                    std::function<bool(const HandTable&)> accepts,
-                                                    Solver& solver, std::string& why) {
+std::unique_ptr<SimulationRun> SimulationRun::Begin(const SimulationPlan& plan, Solver& solver,
+                                                    std::string& why) {
   why = solver.Missing();
   if (!why.empty()) return nullptr;
-  const auto known = KnownOf(plan, why);
+  auto known = KnownOf(plan, why);
   if (!known) return nullptr;
+  std::function<bool(const HandTable&)> accepts;
+  if (!plan.condition.empty()) {
+    accepts = ReadCondition(plan.condition, solver, plan.seed, *known, why);
+    if (!accepts) return nullptr;
+  }
   auto run = std::unique_ptr<SimulationRun>(new SimulationRun);
   if (plan.question == SimulatedQuestion::Contract) {
     run->contract_ =

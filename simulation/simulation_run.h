@@ -28,12 +28,13 @@ struct SimulationPlan {
   /// The hands that are known. Unset: of a lead or a play those that the hand on play sees, of a
   /// contract declarer's and dummy's.
   std::optional<PerSeat<bool>> known;
+  std::string condition;  ///< of the deals (condition.h); empty: every one
   int deals = kUsualSimulatedDeals;
   std::uint64_t seed = 1;
 };
 
-/// What is known before the dealing. Nothing, and why in a sentence for the person, when the plan
-/// cannot be carried out.
+/// What is known before the dealing, but for what the condition adds. Nothing, and why in a
+/// sentence for the person, when the plan cannot be carried out.
 std::optional<KnownCards> KnownOf(const SimulationPlan& plan, std::string& why);
 
 using SimulationTable = std::variant<CardTable, ContractTable>;
@@ -42,10 +43,9 @@ SimulationSheet SheetOf(const SimulationTable& table);
 class SimulationRun {
  public:
   /// Null, and why in a sentence for the person, when the plan cannot be carried out or there is no
-  /// solver. `accepts` is the condition; without it every deal is taken. `solver` outlives the run.
-  static std::unique_ptr<SimulationRun> Begin(const SimulationPlan& plan,
-                                              std::function<bool(const HandTable&)> accepts,
-                                              Solver& solver, std::string& why);
+  /// solver. `solver` outlives the run.
+  static std::unique_ptr<SimulationRun> Begin(const SimulationPlan& plan, Solver& solver,
+                                              std::string& why);
 
   /// As `Simulation` has them.
   bool Step(const std::function<bool()>& goOn) { return simulation_->Step(goOn); }

@@ -26,7 +26,7 @@ SimulationPlan LeadPlan() {
 std::unique_ptr<SimulationRun> Finished(const SimulationPlan& plan, Solver& solver,
                                         bool interrupt = false) {
   std::string why;
-  auto run = SimulationRun::Begin(plan, {}, solver, why);
+  auto run = SimulationRun::Begin(plan, solver, why);
   EXPECT_TRUE(run) << why;
   int asked = 0;
   while (run && run->Step([&] { return !interrupt || ++asked % 7 != 0; })) {
@@ -140,11 +140,17 @@ TEST(Simulation, EndsWhenTheErrorsAreSmall) {
   EXPECT_EQ(Finished(plan, solver)->Progress().end, SimulationEnd::Precise);
   EXPECT_EQ(Finished(plan, solver)->Progress().deals, 100);
   std::string why;
-  const auto never = SimulationRun::Begin(
-      plan, [](const HandTable&) { return false; }, solver, why);
+  plan.condition = "hcp(north) > 20 && hcp(south) > 20";
+  const auto never = SimulationRun::Begin(plan, solver, why);
   ASSERT_TRUE(never);
   int asked = 0;
   EXPECT_TRUE(never->Step([&] { return ++asked < 5; })) << "can be broken off while it deals";
+  plan.condition = "predeal north DAK\npredeal clubs(south) == 5\nhearts(east) == 4";
+  for (const HandTable& deal : Finished(plan, solver)->Deals()) {
+    EXPECT_TRUE(deal[Seat::North][Suit::Diamonds].Has(Rank::Ace));
+    EXPECT_EQ(deal[Seat::South][Suit::Clubs].Count(), 5);
+    EXPECT_EQ(deal[Seat::East][Suit::Hearts].Count(), 4);
+  }
   solver.solveCards = {};
   EXPECT_EQ(Finished(plan, solver)->Progress().end, SimulationEnd::Failed);
 }
@@ -156,7 +162,7 @@ TEST(Simulation, SaysWhatCannotBe) {
     plan.question = SimulatedQuestion::Play;
     change(plan);
     std::string why;
-    EXPECT_EQ(SimulationRun::Begin(plan, {}, solver, why), nullptr);
+    EXPECT_EQ(SimulationRun::Begin(plan, solver, why), nullptr);
     return why;
   };
   PerSeat<bool> all;
@@ -167,6 +173,10 @@ TEST(Simulation, SaysWhatCannotBe) {
             "West is on play: all 13 cards of that hand must be known");
   EXPECT_EQ(whyNot([&](auto& plan) { plan.known = all; }),
             "All cards are known: there is nothing to deal");
+  EXPECT_EQ(whyNot([](auto& plan) { plan.condition = "predeal north SA"; }),
+            "The \u2660A is known to be with West");
+  EXPECT_EQ(whyNot([](auto& plan) { plan.condition = "hcp(nort)"; }).substr(0, 16),
+            "Line 1, column 5");
   all[Seat::West] = false;
   EXPECT_EQ(whyNot([&](auto& plan) { plan.known = all; }),
             "West is on play, so its cards must be known");
