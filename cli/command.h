@@ -54,6 +54,8 @@ void AddPublishCommands(CLI::App& app, Command& command);
 void AddAnalysisCommands(CLI::App& app, Command& command);
 /// edit.
 void AddEditCommands(CLI::App& app, Command& command);
+/// deal.
+void AddDealCommand(CLI::App& app, Command& command);
 /// generate.
 void AddGenerateCommands(CLI::App& app, Command& command);
 

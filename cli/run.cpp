@@ -132,6 +132,7 @@ int ParseAndExecute(const std::vector<std::string>& arguments, SettingsStore& st
   AddPublishCommands(app, command);
   AddAnalysisCommands(app, command);
   AddEditCommands(app, command);
+  AddDealCommand(app, command);
   AddGenerateCommands(app, command);
   try {
     std::vector<std::string> words = arguments;

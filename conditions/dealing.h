@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "analysis/solver.h"
+#include "conditions/deal_plan.h"
 #include "conditions/evaluator.h"
 #include "conditions/script.h"
 #include "conditions/shuffle.h"
@@ -22,6 +23,9 @@ class Dealing {
   Dealing(const Dealing&) = delete;
   Dealing& operator=(const Dealing&) = delete;
 
+  /// Begins anew with another random source, as if this had just been made with it.
+  void Restart(RandomSource random);
+
   /// The next deal that is accepted, after at most `tries` deals; nothing when none of them is.
   /// Raises a `Fault` when the solver fails.
   std::optional<HandTable> Next(std::int64_t tries);
@@ -33,9 +37,14 @@ class Dealing {
   int Value(ExpressionId expression) { return evaluator_.Value(expression); }
 
  private:
-  std::shared_ptr<const Script> script_;
+  /// Deals and looks at hands one after the other; false as soon as a test fails.
+  bool TryDeal();
+  bool Passes(std::size_t place);
+
+  DealPlan plan_;
   RandomSource random_;
   Evaluator evaluator_;
+  Shuffle unshuffled_;
   Shuffle shuffle_;
   std::int64_t tried_ = 0;
 };

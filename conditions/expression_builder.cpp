@@ -53,6 +53,16 @@ void ExpressionBuilder::Append(const Node& node) {
   steps_.push_back(random ? steps : 0);
 }
 
+void ExpressionBuilder::TakeOver() {
+  std::vector<Node> nodes;
+  nodes.swap(content_.nodes);
+  content_.nodes.reserve(nodes.size());
+  for (const Node& node : nodes) {
+    known_.try_emplace(node, static_cast<ExpressionId>(content_.nodes.size()));
+    Append(node);
+  }
+}
+
 ExpressionId ExpressionBuilder::Add(const Node& node) {
   if (const auto value = Folded(node); value) return Number(*value);
   const auto id = static_cast<ExpressionId>(content_.nodes.size());

@@ -14,6 +14,8 @@ class ExpressionBuilder {
  public:
   explicit ExpressionBuilder(ScriptContent& content) : content_(content) {}
 
+  /// Takes over the nodes that the script has already. To be called before anything is added.
+  void TakeOver();
   /// The node; one that is equal to an earlier one is that. What can be computed at once is a
   /// number.
   ExpressionId Add(const Node& node);

@@ -7,27 +7,14 @@
 #include "core/fault.h"
 #include "disk/presence.h"
 #include "generate/deal.h"
+#include "generate/overwrite.h"
 #include "library/board_store.h"
 #include "library/library_choice.h"
-#include "library/library_scan.h"
 #include "library/library_write.h"
-#include "library/loss_text.h"
 #include "library/unsaved_changes.h"
 
 namespace tricklet {
 namespace {
-
-/// Asks about overwriting when any board of the range exists.
-bool MayOverwrite(Session& session, const Constraints& constraints) {
-  const auto [first, last] = constraints.genBoards;
-  const std::string atStake =
-      BoardsAtStake(ScanLibrary(session.LibraryPath()), first, last, "would be replaced");
-  if (atStake.empty()) return true;
-  return session.host.Ask({.text = "You will overwrite existing boards in the library - " +
-                                   session.ShownLibrary() + "\nDo you wish to do that?",
-                           .safe = Answer::No,
-                           .detail = atStake + FateOfReplaced(session.settings)}) == Answer::Yes;
-}
 
 /// Deals board `number` until the person takes the deal; false when the run is to end.
 bool DealBoard(Session& session, int number, const Constraints& constraints,
@@ -114,7 +101,9 @@ GenerateOutcome Generate(Session& session, const Constraints& constraints,
                          const GenerateOptions& options) {
   if (!SettleChanges(session)) return {.refused = true};
   const int before = session.board.boardNumber;
-  if (!MayOverwrite(session, constraints)) return {.refused = true};
+  if (!MayOverwrite(session, constraints.genBoards.front(), constraints.genBoards.back())) {
+    return {.refused = true};
+  }
   auto write = LibraryWrite::Begin(session);
   if (!write) return {.refused = true};
   write->KeepReplaced(session, "generation");
