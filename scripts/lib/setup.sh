@@ -11,7 +11,7 @@ build_packages=(
   libdds0            # the double-dummy solver, loaded at run time
   fonts-dejavu-core  # has the four suit symbols
 )
-test_packages=(libgtest-dev libgmock-dev)
+test_packages=(libgtest-dev libgmock-dev dealer)
 bench_packages=(libbenchmark-dev dealer)
 # The first clang that has std::source_location with this system's C++ library.
 clang_version=16

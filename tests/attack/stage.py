@@ -99,6 +99,7 @@ class Stage:
         for kind, name, to in (("pbn", "two_games_lf.pbn", "in.pbn"),
                                ("dlm", "two_boards_lf.dlm", "in.dlm"),
                                ("lin", "two_rooms.lin", "in.lin"),
+                               ("script", "weak_two.dlr", "conditions.dlr"),
                                ("usebio", "pairs.xml", "in.xml")):
             shutil.copy(self.tools.checkout / "tests/fuzz/corpus" / kind / name, self.home / to)
         (self.home / "root").mkdir()
@@ -176,6 +177,7 @@ COMMANDS = {
     "export-dlm": "export 1 4 new.dlm",
     "export-lin": "export 1 4 new.lin",
     "generate": "--yes generate 3 7 --seed 5",
+    "deal": "--yes deal conditions.dlr --first 3 --produce 5 --seed 5",
     "edit": "--yes edit 1 clear",
     "edit-new": "edit 9 fill --seed 3",
     "auction": "--yes auction 1 1n ap",
