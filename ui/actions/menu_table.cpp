@@ -25,7 +25,7 @@ constexpr std::array kMenus{
               "mnuBidding | mnuPlay mnuPlayOn mnuUndoCard mnuGatherTrick mnuClaim mnuClaimTricks "
               "mnuKeepPlay | mnuProgramCard mnuBestLine mnuDefendBest mnuDeclareBest | "
               "mnuNextMistake mnuPreviousMistake"},
-    MenuEntry{QT_TR_NOOP("&Analysis"), "mnuDDS mnuAnalyse | mnuBSOL"},
+    MenuEntry{QT_TR_NOOP("&Analysis"), "mnuDDS mnuAnalyse | mnuSimulate | mnuBSOL"},
     MenuEntry{
         QT_TR_NOOP("&Results"),
         "mnuTraveller mnuReport | mnuLinForward mnuLinBack mnuLinNextTrick mnuLinPreviousTrick "

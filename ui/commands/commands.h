@@ -76,6 +76,8 @@ class Commands : public QObject {
   /// `mnuReport`: the session of the library double-dummy; the person may go from there to a board
   /// and, by `RecordAsked`, to one of its results.
   void Report();
+  /// `mnuSimulate`: what is not known of the board, dealt many times.
+  void Simulate();
   /// `mnuPublish`: the library as a web page.
   void Publish();
   void Save();

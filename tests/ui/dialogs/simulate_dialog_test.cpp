@@ -1,0 +1,62 @@
+// The simulation of a board, opened from the window.
+#include <QCheckBox>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QSpinBox>
+
+#include "tests/support/fake_solver.h"
+#include "tests/support/hands.h"
+#include "tests/ui/window_fixture.h"
+#include "ui/dialogs/frmSimulate.h"
+#include "ui/report/report_view.h"
+
+namespace tricklet::ui {
+namespace {
+
+/// Every card of the hand on lead leads to four tricks.
+std::vector<CardScore> FourTricks(const SolverPosition& position) {
+  std::vector<CardScore> scores;
+  for (int index = 0; index < kCardsInPack; ++index) {
+    const Card card = Card::FromIndex(index);
+    if (position.cardsLeft[position.leader][card.suit].Has(card.rank)) scores.push_back({card, 4});
+  }
+  return scores;
+}
+
+TEST(SimulateDialog, RunsBesideTheWindow) {
+  test::FakeSolver solver;
+  solver.solveCards = FourTricks;
+  test::ScriptedHost host;
+  MemoryStore store;
+  Session session(host, store);
+  session.getSolver = [&solver]() -> Solver& { return solver; };
+  RecordedPlay record;
+  record.board.hands =
+      test::HandsOf("N:K652.K73.K54.742 J8.J98.AT83.JT98 Q7.AQ2.QJ96.AKQ6 AT943.T654.72.53");
+  std::filesystem::path folder;
+  frmSimulate dialog(session, record, folder, nullptr);
+  const Driven driven{&dialog};
+  EXPECT_TRUE(driven.Find<QCheckBox>("chkKnownWest")->isChecked()) << "who is to lead";
+  EXPECT_FALSE(driven.Find<QCheckBox>("chkKnownNorth")->isChecked());
+  auto* said = driven.Find<QLabel>("lblSaid");
+  auto* condition = driven.Find<QPlainTextEdit>("txtCondition");
+  condition->setPlainText(QStringLiteral("hcp(nort)"));
+  driven.Press("cmdRun");
+  EXPECT_TRUE(said->text().startsWith(u"Line 1, column 5"));
+  condition->clear();
+  driven.Find<QSpinBox>("spnDeals")->setValue(60);
+  driven.Press("cmdRun");
+  auto* run = driven.Find<QAbstractButton>("cmdRun");
+  EXPECT_FALSE(run->isEnabled());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return run->isEnabled(); }));
+  EXPECT_TRUE(said->text().startsWith(u"60 deals")) << said->text().toStdString();
+  EXPECT_EQ(driven.Find<ReportView>("grdTable")->model()->rowCount(), 4) << "equals are one row";
+  // A condition that no deal meets is still being dealt to when the dialog closes.
+  condition->setPlainText(QStringLiteral("hcp(north) > 37"));
+  driven.Press("cmdRun");
+  QTest::qWait(20);
+  dialog.reject();
+}
+
+}  // namespace
+}  // namespace tricklet::ui
