@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <cmath>
 #include <condition_variable>
 #include <exception>
 #include <map>
@@ -164,7 +165,7 @@ std::string DealProgressText(const DealRunOutcome& now, const DealRunOptions& op
   const double share = ShareDone(now, options);
   if (share <= 0) return text;
   const double left = now.seconds * (1 - share) / share;
-  return text + ", " + WithCommas(static_cast<std::int64_t>(left + 0.5)) + " s left";
+  return text + ", " + WithCommas(std::llround(left)) + " s left";
 }
 
 DealRunOutcome RunDeals(const std::shared_ptr<const Script>& script, Solver* solver, Host& host,
