@@ -30,6 +30,7 @@ int main(int argc, char** argv) {
       {"ImportUsebio", "UsebioFloor", 2.0},
       {"LookAndImportCleanBoards", "ImportCleanBoards", 1.1},
       {"LookAndImportClub", "ReadClubFloor", 1.5},
+      {"FindInAllLibraries", "ReadAllFilesFloor", 1.5},
       {"MakeWebPage", "EscapeWebPage", 10.0},
   });
   benchmark::RunSpecifiedBenchmarks(&reporter);

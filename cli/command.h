@@ -48,6 +48,8 @@ void AddSimulateCommand(CLI::App& app, Command& command);
 void AddReportCommand(CLI::App& app, Command& command);
 /// statistics.
 void AddStatisticsCommand(CLI::App& app, Command& command);
+/// find.
+void AddFindCommand(CLI::App& app, Command& command);
 /// publish.
 void AddPublishCommands(CLI::App& app, Command& command);
 /// analyse, link.

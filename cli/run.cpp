@@ -129,6 +129,7 @@ int ParseAndExecute(const std::vector<std::string>& arguments, SettingsStore& st
   AddSimulateCommand(app, command);
   AddReportCommand(app, command);
   AddStatisticsCommand(app, command);
+  AddFindCommand(app, command);
   AddPublishCommands(app, command);
   AddAnalysisCommands(app, command);
   AddEditCommands(app, command);

@@ -140,6 +140,13 @@ BoardQuery::Test BoardQuery::TestOf(std::string_view word) {
   return found->fits;
 }
 
+bool BoardQuery::Knows(std::string_view word) {
+  Board wanted;
+  return RangeOf(word) || SetContract(wanted, word) ||
+         std::any_of(kWords.begin(), kWords.end(),
+                     [word](const Word& known) { return EqualNoCase(known.text, word); });
+}
+
 bool BoardQuery::Matches(const ListedBoard& board) const {
   return std::all_of(words_.begin(), words_.end(), [&](const Test& fits) { return fits(board); });
 }

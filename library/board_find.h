@@ -33,6 +33,9 @@ class BoardQuery {
   bool Empty() const { return words_.empty(); }
   bool Matches(const ListedBoard& board) const;
 
+  /// A word is one of the above and not cut short.
+  static bool Knows(std::string_view word);
+
  private:
   using Test = std::function<bool(const ListedBoard&)>;
   static Test TestOf(std::string_view word);

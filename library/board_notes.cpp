@@ -58,11 +58,15 @@ std::string NotesText(const BoardNotes& notes) {
 }
 
 std::filesystem::path NotesPath(const Session& session) {
-  return session.LibraryPath() / "Notes.txt";
+  return session.LibraryPath() / kNotesFile;
 }
 
 BoardNotes LoadNotes(const Session& session) {
-  const std::filesystem::path path = NotesPath(session);
+  return LoadNotesOf(session.LibraryPath());
+}
+
+BoardNotes LoadNotesOf(const std::filesystem::path& folder) {
+  const std::filesystem::path path = folder / kNotesFile;
   return FileExists(path) ? ParseNotes(ReadWholeFile(path, kMaxNotesBytes)) : BoardNotes();
 }
 

@@ -19,6 +19,9 @@ namespace tricklet {
 /// By board number 1..999; no text is empty, lines are divided by "\n".
 using BoardNotes = std::map<int, std::string>;
 
+/// Its name in the library's folder.
+inline constexpr const char* kNotesFile = "Notes.txt";
+
 /// Largest "Notes.txt" that is read or written.
 inline constexpr std::size_t kMaxNotesBytes = std::size_t{16} * 1024 * 1024;
 
@@ -32,6 +35,8 @@ std::filesystem::path NotesPath(const Session& session);
 
 /// The notes of the current library; none when it has no such file. Throws `Fault`.
 BoardNotes LoadNotes(const Session& session);
+/// The notes of the library in `folder`, likewise.
+BoardNotes LoadNotesOf(const std::filesystem::path& folder);
 
 /// Puts them into the current library's file, which is kept for the recycle bin as `write` keeps
 /// what it replaces. Throws `Fault`, and then the old file is as it was.

@@ -158,11 +158,15 @@ LinFile ParseLinFile(std::string_view text) {
 }
 
 fs::path LinDataPath(const Session& session) {
-  return session.LibraryPath() / "LIN.txt";
+  return session.LibraryPath() / kLinFile;
 }
 
 LinFile LoadLinData(const Session& session) {
-  const fs::path path = LinDataPath(session);
+  return LoadLinDataOf(session.LibraryPath());
+}
+
+LinFile LoadLinDataOf(const fs::path& folder) {
+  const fs::path path = folder / kLinFile;
   if (!FileExists(path)) return {};
   return ParseLinFile(ReadWholeFile(path, kMaxLinFileBytes));
 }

@@ -29,6 +29,9 @@
 
 namespace tricklet {
 
+/// Its name in the library's folder.
+inline constexpr const char* kLinFile = "LIN.txt";
+
 /// Largest "LIN.txt" that is read or written. A session of 30 boards at 15 tables takes under 1
 /// MiB.
 inline constexpr std::size_t kMaxLinFileBytes = std::size_t{128} * 1024 * 1024;
@@ -69,6 +72,8 @@ std::filesystem::path LinDataPath(const Session& session);
 /// Reads "LIN.txt" of the current library; empty when there is none. Throws `Fault` when it cannot
 /// be read.
 LinFile LoadLinData(const Session& session);
+/// "LIN.txt" of the library in `folder`, likewise.
+LinFile LoadLinDataOf(const std::filesystem::path& folder);
 
 /// Puts `data`, which holds what is to be kept of the old file, in the place of the current
 /// library's "LIN.txt", whole or not at all. Throws `Fault`, and then the old file is as it was.
