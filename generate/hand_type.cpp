@@ -11,7 +11,6 @@ using Pattern = std::array<int, kSuits>;  // lengths, the longest first
 
 constexpr std::array<Pattern, 3> kBalancedPatterns{{{4, 4, 3, 2}, {5, 3, 3, 2}, {4, 3, 3, 3}}};
 constexpr Pattern kThreeSuiter{4, 4, 4, 1};
-constexpr int kWeakTwoLength = 6;
 
 constexpr Limits kAnyLength{0, kCardsInHand};
 

@@ -6,6 +6,8 @@
 
 namespace tricklet {
 
+/// Cards of a weak two's long suit.
+inline constexpr int kWeakTwoLength = 6;
 /// Fewest cards of a pre-empt's long suit.
 inline constexpr int kShortestPreempt = 7;
 /// How often a hand has a suit of 7..13 cards, in percent of all hands. By counting:

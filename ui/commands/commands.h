@@ -213,6 +213,8 @@ class Commands : public QObject {
   void Copy(Runner run, const std::function<QString()>& copy);
   void Copy(Runner run, bool (*copy)(Session&), const QString& said);
   bool RunGenerator(QString& said);
+  bool DealToCondition(QString& said);
+  bool DealToConstraints(QString& said);
   void EnterAuction();
   void AskProgram(bool toEnd);
   void ToggleProgram(ProgramHands hands);

@@ -1,5 +1,6 @@
 // The command that fills boards with random deals.
 #include "generate/generate.h"
+#include "generate/store_deals.h"
 #include "ui/commands/commands.h"
 #include "ui/control/edit_control.h"
 #include "ui/dialogs/frmPreview.h"
@@ -9,13 +10,10 @@ namespace tricklet::ui {
 namespace {
 
 /// The boards of a run lie side by side from the first one on, also when it was cancelled.
-QString StoredText(const GenerateOutcome& outcome, const Constraints& constraints) {
-  const int first = constraints.genBoards.front();
-  if (outcome.boardsStored == 0) return {};
-  if (outcome.boardsStored == 1) return Commands::tr("Board %1 has been dealt").arg(first);
-  return Commands::tr("Boards %1 to %2 have been dealt")
-      .arg(first)
-      .arg(first + outcome.boardsStored - 1);
+QString StoredText(int boardsStored, int first) {
+  if (boardsStored == 0) return {};
+  if (boardsStored == 1) return Commands::tr("Board %1 has been dealt").arg(first);
+  return Commands::tr("Boards %1 to %2 have been dealt").arg(first).arg(first + boardsStored - 1);
 }
 
 }  // namespace
@@ -23,6 +21,34 @@ QString StoredText(const GenerateOutcome& outcome, const Constraints& constraint
 /// False when the run was refused before it began. `said` is what it has done, unless that has been
 /// told already.
 bool Commands::RunGenerator(QString& said) {
+  return generateChoices_.byCondition ? DealToCondition(said) : DealToConstraints(said);
+}
+
+/// By numbers of the program's own stream, unless the script names its seed.
+bool Commands::DealToCondition(QString& said) {
+  const int first = generateChoices_.constraints.genBoards.front();
+  const int wanted = generateChoices_.constraints.genBoards.back() - first + 1;
+  const Script& script = *generateChoices_.script;
+  if (script.UsesSolver() && !RequireSolver(session_)) return false;
+  const auto drawn = static_cast<std::uint64_t>(session_.random.Rnd() * 0x1p53);
+  const DealRunOptions options{.produce = wanted,
+                               .generate = script.Generate(),
+                               .seed = script.Content().seed.value_or(drawn)};
+  const StoreDealsOutcome outcome =
+      StoreDeals(session_, generateChoices_.script,
+                 script.UsesSolver() ? &session_.getSolver() : nullptr, options, first);
+  edit_.Note("dealt hands");
+  said = StoredText(outcome.boardsStored, first);
+  const bool tooRare = outcome.boardsStored < wanted && !outcome.run.cancelled && !outcome.failed;
+  if (tooRare && !outcome.refused) {
+    session_.host.Tell("Only " + std::to_string(outcome.boardsStored) + " of " +
+                       std::to_string(wanted) + " boards: no more deals met the condition in " +
+                       std::to_string(outcome.run.tried) + " tries");
+  }
+  return !outcome.refused;
+}
+
+bool Commands::DealToConstraints(QString& said) {
   GenerateOptions options{.analyse = session_.settings.autoMakeable};
   if (generateChoices_.preview) {
     options.preview = [this](const Board& board) {
@@ -32,7 +58,8 @@ bool Commands::RunGenerator(QString& said) {
   const GenerateOutcome outcome =
       tricklet::Generate(session_, generateChoices_.constraints, options);
   edit_.Note("dealt hands");
-  if (GenerateText(outcome).empty()) said = StoredText(outcome, generateChoices_.constraints);
+  if (GenerateText(outcome).empty())
+    said = StoredText(outcome.boardsStored, generateChoices_.constraints.genBoards.front());
   return !outcome.refused;
 }
 

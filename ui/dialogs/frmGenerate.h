@@ -1,8 +1,12 @@
 // The generator's dialog.
 #pragma once
 
+#include <memory>
+#include <string>
+
 #include <QDialog>
 
+#include "conditions/script.h"
 #include "generate/constraints.h"
 #include "library/session.h"
 
@@ -10,20 +14,27 @@ class QButtonGroup;
 class QCheckBox;
 class QDialogButtonBox;
 class QLayout;
+class QPushButton;
+class QTabWidget;
 
 namespace tricklet::ui {
 
+class ConditionPanel;
 class GenerateHand;
 class NumberRange;
 
 /// What the person chooses in the dialog. Kept while the program runs.
 struct GenerateChoices {
   Constraints constraints;
-  bool preview = false;  ///< every deal is shown before it is stored
+  bool preview = false;      ///< every deal is shown before it is stored
+  bool byCondition = false;  ///< what deals are wanted is said by `script`, not by `constraints`
+  std::string condition;     ///< as it was written, also where it does not count
+  std::shared_ptr<const Script> script;  ///< with `byCondition`
 };
 
-/// Asks for the boards to generate and the constraints of one or two hands. It closes only with
-/// constraints that agree, or by Cancel.
+/// Asks for the boards to generate and what deals are wanted: by a form, the constraints of one or
+/// two hands, or by a condition in words. It closes only with constraints that agree or a
+/// condition that can be read, or by Cancel.
 class frmGenerate : public QDialog {
   Q_OBJECT
 
@@ -35,11 +46,14 @@ class frmGenerate : public QDialog {
   GenerateChoices Chosen() const;
 
  private:
-  QLayout* BuildRun();
+  QLayout* BuildBoards();
+  QWidget* BuildForm(const GenerateChoices& choices);
   QDialogButtonBox* BuildButtons();
   void Connect();
   void SetTabOrder(const QDialogButtonBox& buttons);
   void Fill(const GenerateChoices& choices);
+  void WriteAsText();
+  bool Agrees();
   void Go();
 
   Session& session_;
@@ -48,6 +62,9 @@ class frmGenerate : public QDialog {
   QButtonGroup* optSpecify;
   QCheckBox* chkPreview;
   PerGenHand<GenerateHand*> hands_;
+  QTabWidget* tabs_;
+  ConditionPanel* condition_;
+  QPushButton* cmdAsText = nullptr;
 };
 
 }  // namespace tricklet::ui

@@ -1,0 +1,55 @@
+// A condition for deals: the editor, what is wrong in it or how rare it is, examples and presets.
+#pragma once
+
+#include <atomic>
+#include <memory>
+
+#include <QWidget>
+
+#include "library/session.h"
+
+class QLabel;
+class QMenu;
+class QToolButton;
+
+namespace tricklet::ui {
+
+class ConditionEditor;
+class Worker;
+
+class ConditionPanel : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit ConditionPanel(Session& session, QWidget* parent = nullptr);
+  ~ConditionPanel() override;
+
+  std::string Text() const;
+  void SetText(const std::string& text);
+  ConditionEditor* Editor() const { return txtCondition; }
+
+  /// The script. Where it cannot be read there is none: the first fault is told, and the cursor put
+  /// where it is.
+  std::shared_ptr<const Script> Take();
+
+  /// The controls in the order of the tab key.
+  QList<QWidget*> TabOrder() const;
+
+ private:
+  void ShowOutcome();
+  void ShowRarity(const QString& text);
+  void FillExamples(QMenu* menu);
+  void FillPresets(QMenu* menu);
+  void SavePreset();
+  void LoadPresetNamed(const std::string& name);
+
+  Session& session_;
+  ConditionEditor* txtCondition;
+  QLabel* lblCondition;
+  QToolButton* cmdExamples;
+  QToolButton* cmdPresets;
+  std::shared_ptr<std::atomic<bool>> stop_;  // of the sample being dealt
+  std::unique_ptr<Worker> worker_;
+};
+
+}  // namespace tricklet::ui
