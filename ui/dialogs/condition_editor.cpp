@@ -10,6 +10,7 @@
 #include <QScrollBar>
 #include <QStandardItemModel>
 #include <QTextBlock>
+#include <QTextEdit>
 #include <QTimer>
 
 #include "conditions/vocabulary.h"
@@ -108,10 +109,10 @@ QTextCursor ConditionEditor::CursorAt(const ScriptFault& fault) const {
 }
 
 void ConditionEditor::ShowFaults() {
-  QList<ExtraSelection> selections;
+  QList<QTextEdit::ExtraSelection> selections;
   const QColor red = ReadableOn(palette().color(QPalette::Base), QColor(0xc4, 0x20, 0x30));
   for (const ScriptFault& fault : outcome_.faults) {
-    ExtraSelection selection;
+    QTextEdit::ExtraSelection selection;
     selection.cursor = CursorAt(fault);
     selection.format.setUnderlineStyle(QTextCharFormat::WaveUnderline);
     selection.format.setUnderlineColor(red);

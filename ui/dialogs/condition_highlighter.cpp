@@ -1,6 +1,10 @@
 #include "ui/dialogs/condition_highlighter.h"
 
-#include <QPalette>
+#include <algorithm>
+#include <array>
+#include <string>
+#include <vector>
+
 #include <QTextCharFormat>
 
 #include "conditions/tokens.h"

@@ -1,6 +1,7 @@
 // Colours for the words of the language of deal conditions.
 #pragma once
 
+#include <QPalette>
 #include <QSyntaxHighlighter>
 
 namespace tricklet::ui {

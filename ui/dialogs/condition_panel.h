@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+#include "conditions/script.h"
 #include "library/session.h"
 
 class QLabel;

@@ -5,7 +5,6 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
-#include <QFontDatabase>
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -13,7 +12,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSpinBox>
@@ -23,6 +21,7 @@
 #include "disk/file_io.h"
 #include "simulation/keep_deals.h"
 #include "ui/background/worker.h"
+#include "ui/dialogs/condition_editor.h"
 #include "ui/dialogs/library_name_dialog.h"
 #include "ui/dialogs/simulation_grid.h"
 #include "ui/report/report_view.h"
@@ -142,12 +141,9 @@ QWidget* frmSimulate::MakeQuestion() {
     grid->addWidget(chkKnown[seat], IndexOf(seat), 0);
     grid->addWidget(lblHand[seat], IndexOf(seat), 1);
   }
-  txtCondition = new QPlainTextEdit(pane);
-  txtCondition->setObjectName(QStringLiteral("txtCondition"));
+  txtCondition = new ConditionEditor(pane);
   txtCondition->setAccessibleName(tr("Condition of the other hands"));
   txtCondition->setPlaceholderText(tr("hcp(south) >= 15 && hcp(south) <= 17"));
-  txtCondition->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-  txtCondition->setTabChangesFocus(true);
   auto* lblCondition = new QLabel(tr("C&ondition of the other hands"), pane);
   lblCondition->setBuddy(txtCondition);
   auto* form = new QFormLayout;

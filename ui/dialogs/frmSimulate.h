@@ -18,13 +18,13 @@ class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
-class QPlainTextEdit;
 class QProgressBar;
 class QPushButton;
 class QSpinBox;
 
 namespace tricklet::ui {
 
+class ConditionEditor;
 class ReportView;
 class TrickHistogram;
 class Worker;
@@ -83,7 +83,7 @@ class frmSimulate : public QDialog {
   QLineEdit* txtAgainst = nullptr;
   PerSeat<QCheckBox*> chkKnown;
   PerSeat<QLabel*> lblHand;
-  QPlainTextEdit* txtCondition = nullptr;
+  ConditionEditor* txtCondition = nullptr;
   QSpinBox* spnDeals = nullptr;
   QSpinBox* spnSeed = nullptr;
   QLabel* lblTitle = nullptr;
