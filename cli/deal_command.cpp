@@ -133,8 +133,8 @@ void WriteDeal(std::ostream& data, const HandTable& hands, int number, const std
 
 std::uint64_t SeedOf(const Script& script, const DealArguments& asked) {
   if (asked.seed) return *asked.seed;
-  if (script.Content().seed) return *script.Content().seed;
-  return std::random_device()();
+  const std::optional<std::uint64_t> seed = script.Content().seed;
+  return seed ? *seed : std::random_device()();
 }
 
 /// A copy of the script whose one action writes each deal as `format` says.
@@ -191,7 +191,7 @@ ExitCode WriteDeals(const Context& context, std::shared_ptr<const Script> script
 }
 
 ExitCode StoreBoards(const Context& context, const std::shared_ptr<const Script>& script,
-                     Solver* solver, int first, DealRunOptions options) {
+                     Solver* solver, int first, const DealRunOptions& options) {
   Session& session = context.session;
   if (options.produce > kLastBoardNumber - first + 1) {
     session.host.TellError("A library holds boards up to 999: --produce says how many are wanted");

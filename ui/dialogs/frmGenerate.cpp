@@ -55,8 +55,9 @@ frmGenerate::frmGenerate(Session& session, const GenerateChoices& choices, QWidg
   setWindowTitle(tr("Generate deals"));
   chkPreview->setObjectName(QStringLiteral("chkPreview"));
   tabs_->setObjectName(QStringLiteral("tabGenerate"));
+  tabs_->setAccessibleName(tr("What deals are wanted"));
   tabs_->addTab(BuildForm(choices), tr("&Hands"));
-  tabs_->addTab(condition_, tr("C&onditions"));
+  tabs_->addTab(condition_, tr("Cond&itions"));
   condition_->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   auto* column = new QVBoxLayout(this);
   column->addLayout(BuildBoards());
@@ -137,7 +138,6 @@ void frmGenerate::Connect() {
 
 void frmGenerate::SetTabOrder(const QDialogButtonBox& buttons) {
   QList<QWidget*> order{boards_->Minimum(), boards_->Maximum()};
-  order += tabs_->focusProxy() != nullptr ? tabs_->focusProxy() : tabs_;
   for (const QButtonGroup* options : {optnGen, optSpecify}) {
     for (QAbstractButton* option : options->buttons()) order += option;
   }

@@ -134,7 +134,8 @@ TEST_F(GenerateWindowTest, TheTabKeyFollowsTheEye) {
         "cmbBoards_0 cmbBoards_1 optnGen_1 optSpecify_0 optSuit1_0 cmbMinPoints_0 cmbMaxPoints_0 "
         "optType1_0 cmbMinCards_0 cmbMaxCards_0 cmbMinCards_1 cmbMaxCards_1 cmbMinCards_2 "
         "cmbMaxCards_2 cmbMinCards_3 cmbMaxCards_3 optSuit2_1 cmbMinPoints_1 cmbMaxPoints_1 "
-        "optType2_1 cmbHandType_1 optHandType2_0 chkPreview cmdGo cmdCancel cmbBoards_0";
+        "optType2_1 cmbHandType_1 optHandType2_0 chkPreview cmdAsText cmdGo cmdCancel "
+        "qt_tabwidget_tabbar cmbBoards_0";
     std::string order = form.Focus();
     while (order.size() < expected.size()) {
       FocusKey("Tab");
