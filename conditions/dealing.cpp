@@ -4,7 +4,7 @@
 
 namespace tricklet {
 
-Dealing::Dealing(std::shared_ptr<const Script> script, Solver* solver, RandomSource random)
+Dealing::Dealing(const std::shared_ptr<const Script>& script, Solver* solver, RandomSource random)
     : plan_(PlanDeals(script)),
       random_(random),
       evaluator_(plan_.script, solver, random_),

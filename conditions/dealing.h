@@ -19,7 +19,7 @@ namespace tricklet {
 class Dealing {
  public:
   /// `solver` as for `Evaluator`. The same script and random source give the same deals.
-  Dealing(std::shared_ptr<const Script> script, Solver* solver, RandomSource random);
+  Dealing(const std::shared_ptr<const Script>& script, Solver* solver, RandomSource random);
   Dealing(const Dealing&) = delete;
   Dealing& operator=(const Dealing&) = delete;
 

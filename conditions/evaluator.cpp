@@ -190,7 +190,8 @@ int Evaluator::TricksOf(const Node& node) {
     if (!failure.empty()) throw Fault(FaultNumber::Unexpected, failure);
     tricks_ = records[0];
   }
-  return tricks_->at(static_cast<std::size_t>(IndexOf(node.seat) * kStrains + node.value));
+  const int index = IndexOf(node.seat) * kStrains + node.value;
+  return tricks_->at(static_cast<std::size_t>(index));
 }
 
 }  // namespace tricklet

@@ -14,12 +14,12 @@ balanced && hcp(south) >= 15 && hcp(south) <= 17
 && hcp(north) >= 10 && hcp(north) <= 15
 )"},
     ConditionExample{"Stayman", R"(# North has a four-card major opposite a strong notrump.
-notrump = shape(south, any 4333 + any 4432 + any 5332)
-          && hcp(south) >= 15 && hcp(south) <= 17
+strong = shape(south, any 4333 + any 4432 + any 5332)
+         && hcp(south) >= 15 && hcp(south) <= 17
 major = (hearts(north) == 4 || spades(north) == 4)
         && hearts(north) <= 4 && spades(north) <= 4
 
-notrump && major && hcp(north) >= 8
+strong && major && hcp(north) >= 8
 )"},
     ConditionExample{"A weak two in a major",
                      R"(# A good six-card suit in a hand that is worth no opening bid.

@@ -58,7 +58,8 @@ std::array<Shape, kShapes> MakeShapes() {
 
 /// By the four lengths, the longest first; three of them say the fourth.
 constexpr std::size_t Code(const Shape& shape) {
-  return static_cast<std::size_t>((shape[0] * (kRanks + 1) + shape[1]) * (kRanks + 1) + shape[2]);
+  const int index = (shape[0] * (kRanks + 1) + shape[1]) * (kRanks + 1) + shape[2];
+  return static_cast<std::size_t>(index);
 }
 
 using ShapeCodes = std::array<std::int8_t, std::size_t{kRanks + 1} * (kRanks + 1) * (kRanks + 1)>;

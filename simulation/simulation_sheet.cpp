@@ -59,6 +59,10 @@ std::string TitleOf(const CardTable& table) {
          ByDeclarer(table.contract);
 }
 
+constexpr const char* kAgainstOthers =
+    "MP and IMPs: against each other card that could be played on the same deal, averaged; 50 % "
+    "and 0 where all are equal.";
+
 std::string TitleOf(const ContractTable& table) {
   const std::string first = ByDeclarer(table.first.contract);
   return table.second ? first + " against " + ByDeclarer(table.second->contract) : first;
@@ -67,12 +71,9 @@ std::string TitleOf(const ContractTable& table) {
 SimulationSheet SheetOf(const CardTable& table) {
   SimulationSheet sheet;
   sheet.title = TitleOf(table);
-  sheet.remarks = {
-      std::string(kEachDealDoubleDummy), kErrors,
-      "Behind: the first row less this one, by differences on the same deals.",
-      "MP and IMPs: against each other card that could be played on the same deal, averaged; 50 % "
-      "and 0 where all are equal.",
-      "Adjacent cards that led to the same on all deals are one row."};
+  sheet.remarks = {std::string(kEachDealDoubleDummy), kErrors,
+                   "Behind: the first row less this one, by differences on the same deals.",
+                   kAgainstOthers, "Adjacent cards that led to the same on all deals are one row."};
   sheet.header = {"Card",  table.declaring ? "Makes %" : "Beats %",
                   "Error", "Tricks",
                   "Error", "Behind %",

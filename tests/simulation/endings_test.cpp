@@ -92,6 +92,7 @@ TEST(Simulation, AgreesWithAllLayoutsOfAnEnding) {
       ++dealt[KeyOf(*deal)];
     }
     std::vector<long> counts;
+    counts.reserve(dealt.size());
     for (const auto& [key, times] : dealt) counts.push_back(times);
     if (counts.size() > 1) {
       EXPECT_LT(ChiSquareDeviation(counts, std::vector<double>(counts.size(), 1)), 4);

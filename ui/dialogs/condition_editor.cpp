@@ -140,9 +140,11 @@ void ConditionEditor::OfferWords(bool asked) {
   const QString word = WordBeforeCursor();
   completer_->setCompletionPrefix(word);
   const bool none = completer_->completionCount() == 0;
-  const bool finished =
-      completer_->completionCount() == 1 && completer_->currentCompletion() == word;
-  if (none || finished || (!asked && word.size() < kLettersToOffer)) {
+  // Else Enter after a whole word would be the list's.
+  const bool finished = completer_->currentCompletion() == word;
+  const QString before = textCursor().block().text().left(textCursor().positionInBlock());
+  const bool comment = before.contains(u'#') || before.contains(QLatin1String("//"));
+  if (none || finished || comment || (!asked && word.size() < kLettersToOffer)) {
     completer_->popup()->hide();
     return;
   }
