@@ -294,7 +294,7 @@ void frmSimulate::Run() {
   std::shared_ptr<SimulationRun> run;
   if (plan && session_.getSolver) run = SimulationRun::Begin(*plan, session_.getSolver(), why);
   if (plan && !session_.getSolver) why = FromQt(tr("There is no double-dummy solver"));
-  if (!run) {
+  if (!plan || !run) {
     Said(ToQt(why));
     return;
   }
@@ -372,6 +372,7 @@ void frmSimulate::Keep() {
 }
 
 void frmSimulate::SaveTable() {
+  if (!table_) return;
   const auto file =
       session_.host.ChooseSaveFile({.description = FromQt(tr("Tables for spreadsheets")),
                                     .extensions = {"csv"},
@@ -387,6 +388,7 @@ void frmSimulate::SaveTable() {
 }
 
 void frmSimulate::CopyTable() {
+  if (!table_) return;
   const SimulationSheet sheet = SheetOf(*table_);
   std::string text = sheet.title + "\n" + TabText(sheet);
   for (const std::string& remark : sheet.remarks) text += remark + "\n";
