@@ -146,7 +146,8 @@ TEST(Simulation, EndsWhenTheErrorsAreSmall) {
   int asked = 0;
   EXPECT_TRUE(never->Step([&] { return ++asked < 5; })) << "can be broken off while it deals";
   plan.condition = "predeal north DAK\npredeal clubs(south) == 5\nhearts(east) == 4";
-  for (const HandTable& deal : Finished(plan, solver)->Deals()) {
+  const auto predealt = Finished(plan, solver);
+  for (const HandTable& deal : predealt->Deals()) {
     EXPECT_TRUE(deal[Seat::North][Suit::Diamonds].Has(Rank::Ace));
     EXPECT_EQ(deal[Seat::South][Suit::Clubs].Count(), 5);
     EXPECT_EQ(deal[Seat::East][Suit::Hearts].Count(), 4);
