@@ -18,6 +18,7 @@ LengthDraw::LengthDraw(const Predealt& predealt) {
   constexpr std::size_t kKeys = std::size_t{kSuits} << 12U;
   places_.assign(kKeys, -1);
   free_.fill(kRanks);
+  bool fits = true;
   for (const Seat seat : kAllSeats) {
     const auto s = static_cast<std::size_t>(seat);
     int inHand = 0;
@@ -25,13 +26,14 @@ LengthDraw::LengthDraw(const Predealt& predealt) {
       const auto u = static_cast<std::size_t>(suit);
       const int given = predealt.cards[seat][suit].Count();
       const auto& length = predealt.lengths[seat][suit];
+      fits = fits && (!length || *length >= given);
       inHand += given;
       free_.at(u) -= given;
       asked_.at(s).at(u) = length ? int{*length} - given : -1;
     }
     room_.at(s) = static_cast<std::uint8_t>(kCardsInHand - inHand);
   }
-  if (WeightFrom(0, room_) <= 0) steps_.clear();
+  if (!fits || WeightFrom(0, room_) <= 0) steps_.clear();
 }
 
 LengthDraw::Key LengthDraw::KeyOf(std::size_t suit, const std::array<std::uint8_t, kSeats>& room) {

@@ -17,6 +17,7 @@ class LengthDraw {
  public:
   using Lengths = PerSeat<PerSuit<int>>;
 
+  /// No hand has more than 13 predealt cards.
   explicit LengthDraw(const Predealt& predealt);
 
   /// Whether there is any deal at all.

@@ -25,7 +25,8 @@ struct ScriptFault {
 /// "Line 6, column 5: ..."
 std::string FaultText(const ScriptFault& fault);
 
-/// Cards and suit lengths that are settled before dealing. There is a deal that holds them.
+/// Cards and suit lengths that are settled before dealing. In a script there is a deal that holds
+/// them.
 struct Predealt {
   HandTable cards;
   PerSeat<PerSuit<std::optional<std::uint8_t>>> lengths;  ///< not below the cards of `cards`

@@ -90,10 +90,14 @@ std::optional<PlayPoint> FollowTo(const Board& board, std::span<const Card> card
   return std::nullopt;
 }
 
-KnownCards KnownAt(const PlayPoint& point, const HandTable& hands, const PerSeat<bool>& seen) {
-  KnownCards known{point.cardsPlayed, point.shownOut};
+Predealt KnownAt(const PlayPoint& point, const HandTable& hands, const PerSeat<bool>& seen) {
+  Predealt known{point.cardsPlayed, {}};
   for (const Seat seat : kAllSeats) {
-    if (seen[seat]) known.hands[seat] = hands[seat];
+    if (seen[seat]) known.cards[seat] = hands[seat];
+    for (const Suit suit : kAllSuits) {
+      if (!point.shownOut[seat][suit]) continue;
+      known.lengths[seat][suit] = static_cast<std::uint8_t>(known.cards[seat][suit].Count());
+    }
   }
   return known;
 }

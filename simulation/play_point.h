@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "analysis/solver.h"
+#include "conditions/script.h"
 #include "core/board.h"
-#include "simulation/known_cards.h"
 
 namespace tricklet {
 
@@ -38,8 +38,8 @@ std::optional<PlayPoint> FollowTo(const Board& board, std::span<const Card> card
                                   std::string& why);
 
 /// What is known of the deal of `hands` to somebody who sees the hands `seen`: these, and every
-/// card played by the others, with the suits in which they have shown out.
-KnownCards KnownAt(const PlayPoint& point, const HandTable& hands, const PerSeat<bool>& seen);
+/// card played by the others, with the lengths of the suits in which they have shown out.
+Predealt KnownAt(const PlayPoint& point, const HandTable& hands, const PerSeat<bool>& seen);
 
 /// What the hand on play sees: itself and dummy, once that is on the table; declarer and dummy for
 /// either of them.

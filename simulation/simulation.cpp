@@ -38,8 +38,8 @@ std::string EndText(const SimulationProgress& progress) {
          " IMP of a comparison of contracts.";
 }
 
-Simulation::Simulation(Tally& tally, std::unique_ptr<DealSource> source, Solver& solver, int wanted)
-    : tally_(tally), source_(std::move(source)), solver_(solver), batchSize_(kFirstBatch) {
+Simulation::Simulation(Tally& tally, std::unique_ptr<Dealing> dealing, Solver& solver, int wanted)
+    : tally_(tally), dealing_(std::move(dealing)), solver_(solver), batchSize_(kFirstBatch) {
   progress_.wanted = wanted;
 }
 
@@ -66,21 +66,19 @@ void Simulation::DealBatch(const std::function<bool()>& goOn) {
   const auto left = static_cast<std::size_t>(progress_.wanted - progress_.deals);
   const std::size_t size = std::min({batchSize_, left, MostDeals()});
   while (batch_.size() < size && goOn() && Clock::now() - start < kDealingTime) {
-    const std::int64_t before = source_->Tried();
-    if (auto deal = source_->Next(kTriesAtOnce)) {
+    const std::int64_t before = dealing_->Tried();
+    if (auto deal = dealing_->Next(kTriesAtOnce)) {
       batch_.push_back(*deal);
       triesSinceDeal_ = 0;
       continue;
     }
-    triesSinceDeal_ += source_->Tried() - before;
-    if (!source_->Impossible() && triesSinceDeal_ < kMostTries) continue;
+    triesSinceDeal_ += dealing_->Tried() - before;
+    if (triesSinceDeal_ < kMostTries) continue;
     progress_.end = SimulationEnd::NoDeal;
-    progress_.failure = source_->Impossible() ? "No deal agrees with the cards that are known"
-                                              : "None of " + std::to_string(triesSinceDeal_) +
-                                                    " deals meets the condition";
+    progress_.failure = "None of " + std::to_string(triesSinceDeal_) + " deals meets the condition";
     break;
   }
-  progress_.tried = source_->Tried();
+  progress_.tried = dealing_->Tried();
   progress_.dealing += Clock::now() - start;
 }
 

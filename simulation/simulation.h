@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "analysis/solver.h"
-#include "simulation/deal_source.h"
+#include "conditions/dealing.h"
 #include "simulation/tally.h"
 
 namespace tricklet {
@@ -25,7 +25,7 @@ enum class SimulationEnd {
   Running,
   Enough,   ///< the number of deals has been reached
   Precise,  ///< the errors are small enough (tally.h)
-  NoDeal,   ///< no deal was found among `kMostTries`, or none can be
+  NoDeal,   ///< no deal was found among `kMostTries`
   Failed    ///< the solver did not answer
 };
 
@@ -45,7 +45,7 @@ std::string ProgressText(const SimulationProgress& progress);
 /// Why it has ended: "Stopped by itself: ..."; empty while it runs and at the number of deals.
 std::string EndText(const SimulationProgress& progress);
 
-/// Deterministic: the deals of the source in their order, whatever the time that they take, and
+/// Deterministic: the deals of `Dealing` in their order, whatever the time that they take, and
 /// whether it is to end is asked after fixed numbers of them.
 class Simulation {
  public:
@@ -53,7 +53,7 @@ class Simulation {
   static constexpr std::int64_t kMostTries = 20'000'000;
 
   /// `tally` and `solver` outlive the simulation. `wanted` is 1..`kMostSimulatedDeals`.
-  Simulation(Tally& tally, std::unique_ptr<DealSource> source, Solver& solver, int wanted);
+  Simulation(Tally& tally, std::unique_ptr<Dealing> dealing, Solver& solver, int wanted);
 
   /// Deals and solves some more, for about a second. False when it has ended. Dealing is left when
   /// `goOn`, asked every now and then, returns false; nothing is lost then. May be called from any
@@ -71,7 +71,7 @@ class Simulation {
   std::size_t MostDeals() const;
 
   Tally& tally_;
-  std::unique_ptr<DealSource> source_;
+  std::unique_ptr<Dealing> dealing_;
   Solver& solver_;
   SimulationProgress progress_;
   std::vector<HandTable> deals_;

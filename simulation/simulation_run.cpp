@@ -1,8 +1,6 @@
 #include "simulation/simulation_run.h"
 
-#include <utility>
-
-#include "simulation/condition.h"
+#include "simulation/known_deal.h"
 
 namespace tricklet {
 namespace {
@@ -17,9 +15,9 @@ std::optional<PlayPoint> PointOf(const SimulationPlan& plan, std::string& why) {
 }
 
 /// Some card is known of nobody.
-bool LeavesSome(const KnownCards& known) {
+bool LeavesSome(const Predealt& known) {
   for (int index = 0; index < kCardsInPack; ++index) {
-    if (SeatHolding(known.hands, Card::FromIndex(index)) < 0) return true;
+    if (SeatHolding(known.cards, Card::FromIndex(index)) < 0) return true;
   }
   return false;
 }
@@ -30,14 +28,14 @@ PerSeat<bool> DeclaringHands(Seat declarer) {
   return seen;
 }
 
-std::optional<KnownCards> Checked(const KnownCards& known, std::string& why) {
+std::optional<Predealt> Checked(const Predealt& known, std::string& why) {
   if (LeavesSome(known)) return known;
   why = "All cards are known: there is nothing to deal";
   return std::nullopt;
 }
 
-std::optional<KnownCards> KnownAtPoint(const SimulationPlan& plan, const PlayPoint& point,
-                                       std::string& why) {
+std::optional<Predealt> KnownAtPoint(const SimulationPlan& plan, const PlayPoint& point,
+                                     std::string& why) {
   const PerSeat<bool> seen = plan.known.value_or(SeenOnPlay(point));
   if (seen[point.onPlay]) return Checked(KnownAt(point, plan.hands, seen), why);
   why = std::string(SeatName[point.onPlay]) + " is on play, so its cards must be known";
@@ -46,15 +44,15 @@ std::optional<KnownCards> KnownAtPoint(const SimulationPlan& plan, const PlayPoi
 
 }  // namespace
 
-std::optional<KnownCards> KnownOf(const SimulationPlan& plan, std::string& why) {
+std::optional<Predealt> KnownOf(const SimulationPlan& plan, std::string& why) {
   if (plan.question != SimulatedQuestion::Contract) {
     const auto point = PointOf(plan, why);
     return point ? KnownAtPoint(plan, *point, why) : std::nullopt;
   }
-  KnownCards known;
+  Predealt known;
   const PerSeat<bool> seen = plan.known.value_or(DeclaringHands(plan.contract.declarer));
   for (const Seat seat : kAllSeats) {
-    if (seen[seat]) known.hands[seat] = plan.hands[seat];
+    if (seen[seat]) known.cards[seat] = plan.hands[seat];
   }
   return Checked(known, why);
 }
@@ -67,13 +65,10 @@ std::unique_ptr<SimulationRun> SimulationRun::Begin(const SimulationPlan& plan, 
                                                     std::string& why) {
   why = solver.Missing();
   if (!why.empty()) return nullptr;
-  auto known = KnownOf(plan, why);
+  const auto known = KnownOf(plan, why);
   if (!known) return nullptr;
-  std::function<bool(const HandTable&)> accepts;
-  if (!plan.condition.empty()) {
-    accepts = ReadCondition(plan.condition, solver, plan.seed, *known, why);
-    if (!accepts) return nullptr;
-  }
+  const auto script = ScriptOfDeals(*known, plan.condition, why);
+  if (!script) return nullptr;
   auto run = std::unique_ptr<SimulationRun>(new SimulationRun);
   if (plan.question == SimulatedQuestion::Contract) {
     run->contract_ =
@@ -85,8 +80,8 @@ std::unique_ptr<SimulationRun> SimulationRun::Begin(const SimulationPlan& plan, 
   }
   Tally& tally = run->cards_ ? static_cast<Tally&>(*run->cards_) : *run->contract_;
   run->simulation_ = std::make_unique<Simulation>(
-      tally, std::make_unique<KnownDeals>(*known, RandomSource(plan.seed), std::move(accepts)),
-      solver, plan.deals);
+      tally, std::make_unique<Dealing>(script, &solver, RandomSource(plan.seed)), solver,
+      plan.deals);
   return run;
 }
 

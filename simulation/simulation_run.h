@@ -28,14 +28,14 @@ struct SimulationPlan {
   /// The hands that are known. Unset: of a lead or a play those that the hand on play sees, of a
   /// contract declarer's and dummy's.
   std::optional<PerSeat<bool>> known;
-  std::string condition;  ///< of the deals (condition.h); empty: every one
+  std::string condition;  ///< of the deals (known_deal.h); empty: every one
   int deals = kUsualSimulatedDeals;
   std::uint64_t seed = 1;
 };
 
 /// What is known before the dealing, but for what the condition adds. Nothing, and why in a
 /// sentence for the person, when the plan cannot be carried out.
-std::optional<KnownCards> KnownOf(const SimulationPlan& plan, std::string& why);
+std::optional<Predealt> KnownOf(const SimulationPlan& plan, std::string& why);
 
 using SimulationTable = std::variant<CardTable, ContractTable>;
 SimulationSheet SheetOf(const SimulationTable& table);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "analysis/solver_library.h"
+#include "simulation/known_deal.h"
 #include "simulation/simulation_run.h"
 #include "tests/support/chi_square.h"
 #include "tests/support/plays.h"
@@ -81,13 +82,14 @@ TEST(Simulation, AgreesWithAllLayoutsOfAnEnding) {
     plan.cards = cards;
     const auto known = KnownOf(plan, why);
     ASSERT_TRUE(known) << why;
-    const Completion completion(*known);
+    const auto script = ScriptOfDeals(*known, "", why);
+    ASSERT_TRUE(script) << why;
+    Dealing dealing(script, nullptr, RandomSource(static_cast<std::uint64_t>(number)));
     std::map<std::string, long> dealt;
     for (const HandTable& layout : layouts) dealt[KeyOf(layout)] = 0;
     constexpr std::size_t kEach = 200;
-    RandomSource dealing(static_cast<std::uint64_t>(number));
     for (std::size_t i = 0; i < kEach * layouts.size(); ++i) {
-      const auto deal = completion.Deal(dealing);
+      const auto deal = dealing.Next(1);
       ASSERT_TRUE(deal && dealt.contains(KeyOf(*deal)));
       ++dealt[KeyOf(*deal)];
     }

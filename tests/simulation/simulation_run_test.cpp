@@ -176,6 +176,8 @@ TEST(Simulation, SaysWhatCannotBe) {
             "All cards are known: there is nothing to deal");
   EXPECT_EQ(whyNot([](auto& plan) { plan.condition = "predeal north SA"; }),
             "The \u2660A is known to be with West");
+  EXPECT_EQ(whyNot([](auto& plan) { plan.condition = "predeal spades(west) == 3"; }),
+            "No deal agrees with the cards that are known");
   EXPECT_EQ(whyNot([](auto& plan) { plan.condition = "hcp(nort)"; }).substr(0, 16),
             "Line 1, column 5");
   all[Seat::West] = false;
