@@ -100,7 +100,7 @@ class LibrarySolver : public Solver {
   }
 
   std::vector<CardScore> SolveCards(const SolverPosition& position) override;
-  void SolveCardsOfAll(std::span<const SolverPosition> positions,
+  void SolveCardsOfAll(std::span<const SolverPosition> positions, CardsWanted wanted,
                        std::span<std::vector<CardScore>> scores) override;
   std::string SolvePlays(std::span<const SolverPlay> plays, std::span<PlayTricks> tricks) override;
 
@@ -183,6 +183,7 @@ dds::Position ToPosition(const SolverPosition& position) {
 
 // How a position is searched.
 constexpr std::int32_t kBestScore = -1;
+constexpr std::int32_t kOneBest = 1;
 constexpr std::int32_t kAllCards = 3;
 constexpr std::int32_t kMode = 1;  // even when only one card is legal
 
@@ -202,10 +203,10 @@ std::vector<CardScore> LibrarySolver::SolveCards(const SolverPosition& position)
   return status == dds::kNoFault ? ScoresOf(answer) : std::vector<CardScore>();
 }
 
-void LibrarySolver::SolveCardsOfAll(std::span<const SolverPosition> positions,
+void LibrarySolver::SolveCardsOfAll(std::span<const SolverPosition> positions, CardsWanted wanted,
                                     std::span<std::vector<CardScore>> scores) {
   if (positions.size() < 2 || solvePositions_ == nullptr) {
-    Solver::SolveCardsOfAll(positions, scores);
+    Solver::SolveCardsOfAll(positions, wanted, scores);
     return;
   }
   const auto batch = std::make_unique<dds::PositionBatch>();
@@ -214,14 +215,14 @@ void LibrarySolver::SolveCardsOfAll(std::span<const SolverPosition> positions,
   for (std::size_t i = 0; i < positions.size(); ++i) {
     batch->positions.at(i) = ToPosition(positions[i]);
     batch->target.at(i) = kBestScore;
-    batch->solutions.at(i) = kAllCards;
+    batch->solutions.at(i) = wanted == CardsWanted::All ? kAllCards : kOneBest;
     batch->mode.at(i) = kMode;
   }
   std::unique_lock lock(mutex_);
   const bool solved = solvePositions_(batch.get(), answer.get()) == dds::kNoFault;
   lock.unlock();
   if (!solved) {  // one of them; the others have an answer by themselves
-    Solver::SolveCardsOfAll(positions, scores);
+    Solver::SolveCardsOfAll(positions, wanted, scores);
     return;
   }
   for (std::size_t i = 0; i < positions.size(); ++i) scores[i] = ScoresOf(answer->cards.at(i));

@@ -67,7 +67,7 @@ std::string SolveByPositions(Solver& solver, const SolverPlay& play, PlayTricks&
   return {};
 }
 
-void Solver::SolveCardsOfAll(std::span<const SolverPosition> positions,
+void Solver::SolveCardsOfAll(std::span<const SolverPosition> positions, CardsWanted /*wanted*/,
                              std::span<std::vector<CardScore>> scores) {
   for (std::size_t i = 0; i < positions.size(); ++i) scores[i] = SolveCards(positions[i]);
 }

@@ -44,6 +44,10 @@ struct SolverPlay {
 /// lead, and after each card. One more than there are cards.
 using PlayTricks = std::vector<int>;
 
+/// All cards of a position, or one that takes as many tricks as any, which is found in less than
+/// half the time.
+enum class CardsWanted : std::uint8_t { All, OneBest };
+
 class Solver {
  public:
   /// The most deals of one batch.
@@ -71,9 +75,10 @@ class Solver {
   /// when the solver cannot tell. May be called from any thread.
   virtual std::vector<CardScore> SolveCards(const SolverPosition& position) = 0;
 
-  /// The same of at most `kPlayBatch` positions, on all cores: an answer for each. A solver that
-  /// has no way of its own for several is asked for one after the other.
-  virtual void SolveCardsOfAll(std::span<const SolverPosition> positions,
+  /// The same of at most `kPlayBatch` positions, on all cores: an answer for each, which has the
+  /// cards that are wanted at the least. A solver that has no way of its own for several is asked
+  /// for one after the other.
+  virtual void SolveCardsOfAll(std::span<const SolverPosition> positions, CardsWanted wanted,
                                std::span<std::vector<CardScore>> scores);
 
   /// What becomes of at most `kPlayBatch` plays, on all cores; one play is solved on one. Returns

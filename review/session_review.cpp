@@ -189,7 +189,7 @@ class ReviewRun {
         batch.reserve(count);
         for (std::size_t i = 0; i < count; ++i) batch.push_back(ToSolve(leads_[leadsDone_ + i]));
         std::vector<std::vector<CardScore>> scores(count);
-        solver_.SolveCardsOfAll(batch, scores);
+        solver_.SolveCardsOfAll(batch, CardsWanted::All, scores);
         return scores;
       });
       Wait(answer, "Looking for leads");

@@ -44,6 +44,7 @@ class CardTally : public Tally {
   CardTally(const PlayPoint& point, const SimulatedContract& contract, Vulnerability vulnerability);
 
   std::size_t PositionsPerDeal() const override { return 1; }
+  CardsWanted Wanted() const override { return CardsWanted::All; }
   void AppendPositions(const HandTable& deal,
                        std::vector<SolverPosition>& positions) const override;
   bool Add(std::span<const CardScores> answers) override;

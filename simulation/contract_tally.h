@@ -48,6 +48,7 @@ class ContractTally : public Tally {
 
   /// 2 where the contracts differ in strain or declarer.
   std::size_t PositionsPerDeal() const override { return twoPositions_ ? 2 : 1; }
+  CardsWanted Wanted() const override { return CardsWanted::OneBest; }
   void AppendPositions(const HandTable& deal,
                        std::vector<SolverPosition>& positions) const override;
   bool Add(std::span<const CardScores> answers) override;

@@ -88,7 +88,7 @@ bool Simulation::SolveBatch() {
   for (const HandTable& deal : batch_) tally_.AppendPositions(deal, positions);
   std::vector<CardScores> answers(positions.size());
   const auto start = Clock::now();
-  solver_.SolveCardsOfAll(positions, answers);
+  solver_.SolveCardsOfAll(positions, tally_.Wanted(), answers);
   const std::chrono::duration<double> taken = Clock::now() - start;
   progress_.solving += taken;
   const double perDeal = taken.count() / static_cast<double>(batch_.size());

@@ -26,6 +26,8 @@ class Tally {
 
   /// Positions of each deal, at least 1; the same for all.
   virtual std::size_t PositionsPerDeal() const = 0;
+  /// What `Add` needs of each position.
+  virtual CardsWanted Wanted() const = 0;
   /// Appends the positions of `deal`.
   virtual void AppendPositions(const HandTable& deal,
                                std::vector<SolverPosition>& positions) const = 0;
