@@ -30,7 +30,8 @@ struct DealArguments {
   std::optional<std::int64_t> generate;
   std::optional<std::uint64_t> seed;
   unsigned cores = 0;
-  int first = 0;  ///< boards are stored from this one on; 0: deals are written
+  int first = 0;         ///< boards are stored from this one on; 0: deals are written
+  bool analyse = false;  ///< of the boards stored
   std::string format;
   std::string check;
 };
@@ -191,18 +192,21 @@ ExitCode WriteDeals(const Context& context, std::shared_ptr<const Script> script
 }
 
 ExitCode StoreBoards(const Context& context, const std::shared_ptr<const Script>& script,
-                     Solver* solver, int first, const DealRunOptions& options) {
+                     Solver* solver, const DealArguments& asked, const DealRunOptions& options) {
   Session& session = context.session;
-  if (options.produce > kLastBoardNumber - first + 1) {
+  if (options.produce > kLastBoardNumber - asked.first + 1) {
     session.host.TellError("A library holds boards up to 999: --produce says how many are wanted");
     return ExitCode::Usage;
   }
+  if (asked.analyse && !RequireSolver(session)) return ExitCode::Refused;
   if (!OpenLibrary(context, true)) return ExitCode::Refused;
-  const StoreDealsOutcome outcome = StoreDeals(session, script, solver, options, first);
+  const StoreDealsOutcome outcome =
+      StoreDeals(session, script, solver, options, asked.first, asked.analyse);
   if (outcome.refused) return ExitCode::Refused;
   context.data << outcome.boardsStored << (outcome.boardsStored == 1 ? " board" : " boards")
-               << " stored, " << outcome.run.tried << " deals tried\n";
-  return outcome.failed ? ExitCode::Refused : EndOfRun(session.host, outcome.run);
+               << " stored, " << outcome.dealing.tried << " deals tried\n";
+  if (outcome.dealing.cancelled) return EndOfRun(session.host, outcome.dealing);
+  return Succeeded(outcome) ? ExitCode::Done : ExitCode::Refused;
 }
 
 ExitCode Deal(const Context& context, const DealArguments& asked) {
@@ -216,7 +220,7 @@ ExitCode Deal(const Context& context, const DealArguments& asked) {
                                .generate = asked.generate.value_or(script->Generate()),
                                .seed = SeedOf(*script, asked),
                                .cores = asked.cores};
-  if (asked.first > 0) return StoreBoards(context, script, solver, asked.first, options);
+  if (asked.first > 0) return StoreBoards(context, script, solver, asked, options);
   return WriteDeals(context, script, solver, asked, options);
 }
 
@@ -240,6 +244,8 @@ void AddDealCommand(CLI::App& app, Command& command) {
   auto* first = deal->add_option("--first", asked->first,
                                  "Store the deals in the library, from this board on");
   first->check(CLI::Range(kFirstBoardNumber, kLastBoardNumber))->type_name("N");
+  deal->add_flag("--analyse", asked->analyse, "Compute the double-dummy tables of these boards too")
+      ->needs(first);
   auto* format = deal->add_option("--format", asked->format,
                                   "Write each deal as pbn, oneline, lin or dlm, and no more");
   format->check(CLI::IsMember({"pbn", "oneline", "lin", "dlm"}))->excludes(first);

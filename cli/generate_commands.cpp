@@ -179,14 +179,8 @@ ExitCode GenerateBoards(const Context& context, const GenerateArguments& argumen
   if (outcome.refused) return ExitCode::Refused;
   context.data << outcome.boardsStored << (outcome.boardsStored == 1 ? " board" : " boards")
                << " generated\n";
-  if (outcome.cancelled || outcome.failed) return ExitCode::Refused;
-  // That tables were cancelled, failed or could not be stored has been reported already.
-  const AnalysisOutcome& tables = outcome.tables;
-  if (!tables.failure.empty() || tables.cancelled || !tables.readOnly.empty() ||
-      tables.unreadable > 0) {
-    return ExitCode::Refused;
-  }
-  if (arguments.analyse) session.host.Tell(AnalysisText(tables));
+  if (!Succeeded(outcome)) return ExitCode::Refused;  // why has been told already
+  if (arguments.analyse) session.host.Tell(AnalysisText(outcome.tables));
   return ExitCode::Done;
 }
 

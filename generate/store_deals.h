@@ -4,23 +4,22 @@
 #include <memory>
 
 #include "conditions/script.h"
+#include "generate/board_run.h"
 #include "generate/deal_run.h"
 #include "library/session.h"
 
 namespace tricklet {
 
-struct StoreDealsOutcome {
-  DealRunOutcome run = {};
-  int boardsStored = 0;
-  bool refused = false;  ///< by the person, before anything was written
-  bool failed = false;   ///< a board could not be stored; the person has been told why
+struct StoreDealsOutcome : BoardRunOutcome {
+  DealRunOutcome dealing = {};
 };
 
-/// Stores deals as the boards from `first` on in the current library, at most up to the last board
-/// that a library can hold: `options.produce` is to say no more. Dealer and vulnerability are those
-/// of the board numbers. Asks first about unsaved changes, and once about overwriting; loads the
-/// first board at the end. What is replaced goes to the recycle bin.
+/// Stores deals as the boards from `first` on in the current library, as `RunOverBoards` does, at
+/// most up to the last board that a library can hold: `options.produce` is to say no more. Dealer
+/// and vulnerability are those of the board numbers. With `analyse` the boards get their tables.
+/// Tells when fewer deals than wanted have met the script.
 StoreDealsOutcome StoreDeals(Session& session, const std::shared_ptr<const Script>& script,
-                             Solver* solver, const DealRunOptions& options, int first);
+                             Solver* solver, const DealRunOptions& options, int first,
+                             bool analyse);
 
 }  // namespace tricklet

@@ -35,6 +35,12 @@ TEST_F(DealCommand, StoresBoardsAndNamesFaults) {
   ASSERT_EQ(Run("--library Lab deal " + script + " --first 4 --seed 1"), 0) << err;
   EXPECT_TRUE(out.starts_with("5 boards stored, ")) << out;
   EXPECT_TRUE(std::filesystem::exists(Root() / "Lab"));
+  ASSERT_EQ(Run("--library Lab deal " + Script("generate 50\nhcp(north) > 24") +
+                " --first 20 --produce 5 --seed 1"),
+            0)
+      << "fewer are no failure";
+  EXPECT_NE(err.find("of 5 boards: no more deals met the condition in 50 tries"), std::string::npos)
+      << err;
   EXPECT_EQ(Run("--no --library Lab deal " + script + " --first 8 --seed 1"), 1) << "overwrites";
   EXPECT_EQ(Run("deal " + script + " --first 996"), 2) << "beyond the last board";
   EXPECT_EQ(Run("deal " + Script("1\nhcp(nort) > 3")), 1);

@@ -27,24 +27,18 @@ bool Commands::RunGenerator(QString& said) {
 /// By numbers of the program's own stream, unless the script names its seed.
 bool Commands::DealToCondition(QString& said) {
   const int first = generateChoices_.constraints.genBoards.front();
-  const int wanted = generateChoices_.constraints.genBoards.back() - first + 1;
+  const int last = generateChoices_.constraints.genBoards.back();
   const Script& script = *generateChoices_.script;
   if (script.UsesSolver() && !RequireSolver(session_)) return false;
   const auto drawn = static_cast<std::uint64_t>(session_.random.Rnd() * 0x1p53);
-  const DealRunOptions options{.produce = wanted,
+  const DealRunOptions options{.produce = last - first + 1,
                                .generate = script.Generate(),
                                .seed = script.Content().seed.value_or(drawn)};
-  const StoreDealsOutcome outcome =
-      StoreDeals(session_, generateChoices_.script,
-                 script.UsesSolver() ? &session_.getSolver() : nullptr, options, first);
+  const StoreDealsOutcome outcome = StoreDeals(
+      session_, generateChoices_.script, script.UsesSolver() ? &session_.getSolver() : nullptr,
+      options, first, session_.settings.autoMakeable);
   edit_.Note("dealt hands");
-  said = StoredText(outcome.boardsStored, first);
-  const bool tooRare = outcome.boardsStored < wanted && !outcome.run.cancelled && !outcome.failed;
-  if (tooRare && !outcome.refused) {
-    session_.host.Tell("Only " + std::to_string(outcome.boardsStored) + " of " +
-                       std::to_string(wanted) + " boards: no more deals met the condition in " +
-                       std::to_string(outcome.run.tried) + " tries");
-  }
+  if (outcome.told.empty()) said = StoredText(outcome.boardsStored, first);
   return !outcome.refused;
 }
 
@@ -58,7 +52,7 @@ bool Commands::DealToConstraints(QString& said) {
   const GenerateOutcome outcome =
       tricklet::Generate(session_, generateChoices_.constraints, options);
   edit_.Note("dealt hands");
-  if (GenerateText(outcome).empty())
+  if (outcome.told.empty())
     said = StoredText(outcome.boardsStored, generateChoices_.constraints.genBoards.front());
   return !outcome.refused;
 }
