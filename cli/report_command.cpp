@@ -26,11 +26,8 @@ struct Asked {
   bool csv = false;
 };
 
-/// Lines end as those of every other command; redirected into a file on Windows, in CR LF.
 std::string SheetText(const ReportSheet& sheet, bool csv) {
-  std::string text = csv ? CsvSheet(sheet) : AlignedSheet(sheet);
-  std::erase(text, '\r');
-  return text;
+  return csv ? CsvSheet(sheet) : AlignedSheet(sheet);
 }
 
 /// Those of the number that was asked for, or with the name in theirs; all when neither was.

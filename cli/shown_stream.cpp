@@ -11,6 +11,8 @@ ShownLines::~ShownLines() {
 }
 
 bool ShownLines::PassOn() {
+  // Standard output has the line ends of the system, whatever those of a table for a file are.
+  if (line_.ends_with("\r\n")) line_.erase(line_.size() - 2, 1);
   below_ << ShowableLines(std::exchange(line_, std::string()));
   return below_.good();
 }

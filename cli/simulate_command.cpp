@@ -126,9 +126,7 @@ ExitCode Print(const Context& context, const Asked& asked, const SimulationRun& 
   Host& host = context.session.host;
   const SimulationProgress& progress = run.Progress();
   const SimulationSheet sheet = SheetOf(run.Table());
-  std::string text = asked.csv ? CsvText(sheet) : TabText(sheet);
-  std::erase(text, '\r');  // standard output has the line ends of the system
-  context.data << text;
+  context.data << (asked.csv ? CsvText(sheet) : TabText(sheet));
   host.Tell(sheet.title + ": " + ProgressText(progress));
   if (!asked.csv) {
     for (const std::string& remark : sheet.remarks) host.Tell(remark);

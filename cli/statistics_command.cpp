@@ -17,10 +17,8 @@ ExitCode ShowStatistics(const Context& context, bool csv) {
   if (!OpenLibrary(context, false)) return ExitCode::Refused;
   const auto library = CountLibrary(context.session);
   if (!library) return ExitCode::Refused;
-  std::string text =
-      csv ? CsvFrequencies(library->frequencies) : AlignedFrequencies(library->frequencies);
-  std::erase(text, '\r');  // lines end as those of every other command
-  context.data << text;
+  context.data << (csv ? CsvFrequencies(library->frequencies)
+                       : AlignedFrequencies(library->frequencies));
   for (const std::string& remark : library->remarks) context.session.host.Tell(remark);
   return ExitCode::Done;
 }
