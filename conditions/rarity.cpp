@@ -17,13 +17,6 @@ std::int64_t TwoDigits(double number) {
   return static_cast<std::int64_t>(std::llround(number / unit) * std::llround(unit));
 }
 
-/// "1,200,000"
-std::string Grouped(std::int64_t number) {
-  std::string digits = std::to_string(number);
-  for (std::size_t at = digits.size(); at > 3; at -= 3) digits.insert(at - 3, ",");
-  return digits;
-}
-
 }  // namespace
 
 Rarity EstimateRarity(const std::shared_ptr<const Script>& script, std::chrono::milliseconds time,
@@ -47,9 +40,9 @@ std::string RarityText(const Rarity& rarity) {
   if (rarity.accepted == rarity.tried) return "Every deal";
   const double one = static_cast<double>(rarity.tried) /
                      static_cast<double>(std::max<std::int64_t>(rarity.accepted, 1));
-  if (rarity.accepted == 0) return "Fewer than 1 deal in " + Grouped(TwoDigits(one));
+  if (rarity.accepted == 0) return "Fewer than 1 deal in " + GroupedText(TwoDigits(one));
   if (one < 10) return "About 1 deal in " + DecimalText(one, 1);
-  return "About 1 deal in " + Grouped(TwoDigits(one));
+  return "About 1 deal in " + GroupedText(TwoDigits(one));
 }
 
 }  // namespace tricklet

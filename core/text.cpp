@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
@@ -167,6 +166,12 @@ std::string DecimalText(double number, int decimals) {
   const auto end = std::to_chars(text.data(), text.data() + text.size(),
                                  rounded == 0 ? 0.0 : rounded, std::chars_format::fixed, decimals);
   return {text.data(), end.ptr};
+}
+
+std::string GroupedText(std::int64_t number) {
+  std::string digits = std::to_string(number);
+  for (std::size_t at = digits.size(); at > 3; at -= 3) digits.insert(at - 3, ",");
+  return digits;
 }
 
 std::string_view TakeLine(std::string_view& rest) {

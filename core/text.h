@@ -3,6 +3,7 @@
 
 #include <charconv>
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -63,6 +64,9 @@ std::string ShortestText(float number);
 /// The number with so many decimals, rounded, with a point whatever the locale: "54.17", never
 /// "-0.00". `number` is finite, `decimals` is 0..9.
 std::string DecimalText(double number, int decimals);
+
+/// "1,234,567"; `number` is not negative.
+std::string GroupedText(std::int64_t number);
 
 /// Takes the line at the front of `rest`, without its end (CR LF, CR or LF). `rest` must not be
 /// empty.

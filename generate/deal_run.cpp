@@ -12,6 +12,7 @@
 #include <thread>
 
 #include "conditions/dealing.h"
+#include "core/text.h"
 
 namespace tricklet {
 namespace {
@@ -31,14 +32,6 @@ RandomSource RandomOfBlock(std::uint64_t seed, std::int64_t block) {
   std::uint64_t mixed = (static_cast<std::uint64_t>(block) + 1) * 0xD1B54A32D192ED03U;
   mixed ^= mixed >> 32U;
   return RandomSource(seed ^ mixed * 0x9E3779B97F4A7C15U);
-}
-
-std::string WithCommas(std::int64_t number) {
-  std::string digits = std::to_string(number);
-  for (auto at = static_cast<std::ptrdiff_t>(digits.size()) - 3; at > 0; at -= 3) {
-    digits.insert(static_cast<std::size_t>(at), ",");
-  }
-  return digits;
 }
 
 /// How much of a run is done, 0..1: whichever of its two limits is nearer.
@@ -158,14 +151,15 @@ class BlockQueue {
 }  // namespace
 
 std::string DealProgressText(const DealRunOutcome& now, const DealRunOptions& options) {
-  std::string text = WithCommas(now.tried) + " deals tried, " + WithCommas(now.produced) + " found";
+  std::string text =
+      GroupedText(now.tried) + " deals tried, " + GroupedText(now.produced) + " found";
   if (now.seconds <= 0) return text;
   const double rate = static_cast<double>(now.tried) / now.seconds;
-  text += ", " + WithCommas(static_cast<std::int64_t>(rate)) + " a second";
+  text += ", " + GroupedText(static_cast<std::int64_t>(rate)) + " a second";
   const double share = ShareDone(now, options);
   if (share <= 0) return text;
   const double left = now.seconds * (1 - share) / share;
-  return text + ", " + WithCommas(std::llround(left)) + " s left";
+  return text + ", " + GroupedText(std::llround(left)) + " s left";
 }
 
 DealRunOutcome RunDeals(const std::shared_ptr<const Script>& script, Solver* solver, Host& host,
