@@ -16,8 +16,8 @@ bool IsLooseHolding(std::string_view word) {
   return !twice && ranks.find_first_not_of("AKQJT98765432") == std::string::npos;
 }
 
-std::string Letter(Suit suit) {
-  return std::string(SuitName[suit]);
+std::string NameOf(Suit suit) {
+  return std::string(WordFor(suit));
 }
 
 }  // namespace
@@ -75,7 +75,7 @@ void ScriptReader::ReadPredealtLength() {
   auto& known = content_.predealt.lengths[seat][suit];
   if (known) {
     ScriptCursor::Fail(
-        where, std::string(SeatName[seat]) + "'s " + Letter(suit) + " have their length already");
+        where, std::string(SeatName[seat]) + "'s " + NameOf(suit) + " have their length already");
   }
   if (length < 0 || length > kCardsInHand)
     ScriptCursor::Fail(where, "expected a length from 0 to 13");
@@ -104,7 +104,7 @@ void ScriptReader::CheckLengths(const Token& where, Seat seat, Suit suit) const 
     inSuit += hand[suit].value_or(0);
     knownInSuit += hand[suit] ? 1 : 0;
   }
-  check(inSuit, knownInSuit, "the " + Letter(suit));
+  check(inSuit, knownInSuit, "the " + NameOf(suit));
 }
 
 void ScriptReader::CheckPredealt() {
@@ -115,7 +115,7 @@ void ScriptReader::CheckPredealt() {
       const auto& length = predealt.lengths[seat][suit];
       if (length && *length < predealt.cards[seat][suit].Count()) {
         ScriptCursor::Fail(lastPredeal_, std::string(SeatName[seat]) + " is given more " +
-                                             Letter(suit) + " than the length says");
+                                             NameOf(suit) + " than the length says");
       }
     }
   }

@@ -5,6 +5,8 @@
 #include <span>
 #include <string_view>
 
+#include "core/notation.h"
+
 namespace tricklet {
 
 enum class WordKind : std::uint8_t {
@@ -85,12 +87,18 @@ struct Word {
   std::string_view meaning;  ///< a line for the person who writes
   WordCode code;
   int value = 0;
+  /// Worth offering to somebody who types: not the singular, plural or capitals of another.
+  bool offered = true;
 };
 
-/// All words, in no particular order. "seed" is one, and yet a name wherever no number follows it.
+/// All words, sorted. "seed" is one, and yet a name wherever no number follows it.
 std::span<const Word> Vocabulary();
 
 /// The word spelt `text`, null when there is none. Capitals count.
 const Word* FindWord(std::string_view text);
+
+/// "spades", "north": as the program's own texts spell them.
+std::string_view WordFor(Suit suit);
+std::string_view WordFor(Seat seat);
 
 }  // namespace tricklet

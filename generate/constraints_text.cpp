@@ -1,19 +1,15 @@
 #include "generate/constraints_text.h"
 
-#include <string_view>
 #include <vector>
 
+#include "conditions/vocabulary.h"
 #include "generate/hand_type.h"
 
 namespace tricklet {
 namespace {
 
-// As the language spells them.
-constexpr PerSeat<std::string_view> kSeatNames{{"north", "east", "south", "west"}};
-constexpr PerSuit<std::string_view> kSuitNames{{"spades", "hearts", "diamonds", "clubs"}};
-
 std::string LengthOf(Suit suit, const std::string& seat) {
-  return std::string(kSuitNames[suit]) + "(" + seat + ")";
+  return std::string(WordFor(suit)) + "(" + seat + ")";
 }
 
 /// "hcp(north) >= 15" and "hcp(north) <= 17"; nothing of a limit that all hands meet.
@@ -73,7 +69,7 @@ std::string ConditionText(const Constraints& constraints, Seat dealer) {
   for (const GenHand hand : kGenHands) {
     if (IndexOf(hand) >= constraints.numGenHands) break;
     const Seat seat = SeatOf(constraints, hand, dealer);
-    const std::string condition = HandCondition(constraints, hand, std::string(kSeatNames[seat]));
+    const std::string condition = HandCondition(constraints, hand, std::string(WordFor(seat)));
     if (condition.empty()) continue;
     text += (text.empty() ? "" : " &&\n") + condition;
   }

@@ -25,11 +25,9 @@ constexpr std::chrono::milliseconds kPause{250};
 constexpr int kLettersToOffer = 2;
 
 QStandardItemModel* WordModel(QObject* parent) {
-  std::vector<Word> words(Vocabulary().begin(), Vocabulary().end());
-  std::sort(words.begin(), words.end(),
-            [](const Word& a, const Word& b) { return a.text < b.text; });
   auto* model = new QStandardItemModel(parent);
-  for (const Word& word : words) {
+  for (const Word& word : Vocabulary()) {
+    if (!word.offered) continue;
     const QString text = ToQt(word.text);
     auto* item = new QStandardItem(QStringLiteral("%1   %2").arg(text, ToQt(word.meaning)));
     item->setData(text, Qt::UserRole);
