@@ -17,7 +17,7 @@ namespace tricklet::cli {
 namespace {
 
 struct Asked {
-  std::string condition;
+  std::string what;  ///< a condition, or words
   std::string words;
   bool all = false;
 };
@@ -33,20 +33,11 @@ std::string LineOf(const FoundBoard& board, bool all) {
   return line + '\t' + std::to_string(board.tables) + '\t' + Showable(FoundNoteText(board)) + '\n';
 }
 
-/// The solver, which a condition may ask for, where there is one.
-Solver* SolverOf(const Session& session) {
-  if (!session.getSolver) return nullptr;
-  Solver& solver = session.getSolver();
-  return solver.Missing().empty() ? &solver : nullptr;
-}
-
 ExitCode Find(const Context& context, const Asked& asked) {
   Session& session = context.session;
   const bool there = asked.all ? RootExists(context) : OpenLibrary(context, false);
   if (!there) return ExitCode::Refused;
-  const bool tricks = asked.condition.find("trick") != std::string::npos;
-  const QueryOutcome outcome =
-      ReadQuery(asked.condition, asked.words, tricks ? SolverOf(session) : nullptr);
+  const QueryOutcome outcome = ReadQuery(asked.what, asked.words, session.getSolver);
   if (!outcome.query) {
     session.host.TellError(outcome.fault);
     return ExitCode::Refused;
@@ -77,8 +68,8 @@ void AddFindCommand(CLI::App& app, Command& command) {
   const auto asked = std::make_shared<Asked>();
   auto* find = app.add_subcommand("find", "Find boards by what they hold, or by words");
   auto* what = find->add_option_group("what");
-  what->add_option("CONDITION", asked->condition,
-                   "What the deal is like: 'hcp(south) > 15 and spades(south) > 4'")
+  what->add_option("CONDITION", asked->what,
+                   "What the deal is like: 'hcp(south) > 15 and spades(south) > 4'; or words")
       ->check(NotEmpty);
   what->add_option("--words", asked->words, "Contract, par, dealer, players, notes: 'slam ann'")
       ->type_name("W")

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "conditions/evaluator.h"
-#include "core/text.h"
 
 namespace tricklet {
 namespace {
@@ -23,28 +22,26 @@ class Condition {
 
 }  // namespace
 
-QueryOutcome ReadQuery(std::string_view condition, std::string_view words, Solver* solver) {
+QueryOutcome ReadQuery(std::string_view text, std::string_view words, const GetSolver& getSolver) {
   QueryOutcome outcome;
-  if (Trim(condition).empty()) {
-    outcome.query = FindQuery(words);
+  if (!ReadsAsCondition(text)) {
+    outcome.query = FindQuery(std::string(text) + ' ' + std::string(words));
     return outcome;
   }
-  const ReadOutcome read = ReadScript(condition);
+  const ReadOutcome read = ReadScript(text);
   for (const ScriptFault& fault : read.faults) {
     outcome.fault += (outcome.fault.empty() ? "" : "\n") + FaultText(fault);
   }
   if (!read.script) return outcome;
-  if (read.script->UsesSolver() && solver == nullptr) {
-    outcome.fault = "There is no double-dummy solver";
-    return outcome;
+  Solver* solver = nullptr;
+  if (read.script->UsesSolver()) {
+    solver = getSolver ? &getSolver() : nullptr;
+    outcome.fault = solver != nullptr ? solver->Missing() : "There is no double-dummy solver";
+    if (!outcome.fault.empty()) return outcome;
   }
   const auto test = std::make_shared<Condition>(read.script, solver);
   outcome.query = FindQuery(words, [test](const HandTable& hands) { return test->Accepts(hands); });
   return outcome;
-}
-
-QueryOutcome ReadQuery(std::string_view text, Solver* solver) {
-  return ReadsAsCondition(text) ? ReadQuery(text, {}, solver) : ReadQuery({}, text, solver);
 }
 
 }  // namespace tricklet

@@ -42,7 +42,7 @@ class FindBoardsTest : public testing::Test {
   }
   /// "A1 A2", then what could not be read.
   std::string Found(const std::string& text) {
-    const QueryOutcome outcome = ReadQuery(text, nullptr);
+    const QueryOutcome outcome = ReadQuery(text, {}, {});
     if (!outcome.query) return outcome.fault;
     std::string found;
     FindSink sink;
