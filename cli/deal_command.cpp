@@ -1,6 +1,4 @@
 // The command that deals to conditions, and tells which deals of a file meet them.
-#include <iostream>
-#include <iterator>
 #include <memory>
 #include <optional>
 #include <ostream>
@@ -10,6 +8,7 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/command.h"
+#include "cli/script_text.h"
 #include "conditions/evaluator.h"
 #include "core/fault.h"
 #include "core/text.h"
@@ -36,32 +35,12 @@ struct DealArguments {
   std::string check;
 };
 
-constexpr const char* kStandardInput = "-";
-
-/// The text of the script, or a message.
-std::optional<std::string> ScriptText(Host& host, const std::string& name) {
-  if (name == kStandardInput) {
-    std::string text;
-    char c = 0;
-    while (text.size() <= kLongestScript && std::cin.get(c)) text += c;
-    return text;
-  }
-  try {
-    return ReadWholeFile(PathFromText(name), kLongestScript);
-  } catch (const Fault& fault) {
-    host.TellError(fault.Description());
-    return std::nullopt;
-  }
-}
-
 std::shared_ptr<const Script> ReadNamedScript(Host& host, const std::string& name) {
-  const auto text = ScriptText(host, name);
+  const auto text = ReadScriptText(host, name);
   if (!text) return nullptr;
   ReadOutcome outcome = ReadScript(*text);
-  const std::string shown =
-      name == kStandardInput ? "standard input" : ShownPath(PathFromText(name));
   for (const ScriptFault& fault : outcome.faults) {
-    host.TellError(shown + ": " + FaultText(fault));
+    host.TellError(ShownScript(name) + ": " + FaultText(fault));
   }
   return outcome.script;
 }
@@ -165,9 +144,7 @@ ExitCode WriteDeals(const Context& context, std::shared_ptr<const Script> script
   }
   if (!asked.format.empty()) script = WithFormat(*script, asked.format);
   options.expressions = ExpressionsOf(*script);
-  const std::string name = asked.script == kStandardInput
-                               ? "standard input"
-                               : ShownPath(PathFromText(asked.script).filename());
+  const std::string name = ShownPath(PathFromText(ShownScript(asked.script)).filename());
   DealReport report(script, name, options.seed, context.data);
   int number = 0;
   if (asked.format == "dlm") context.data << DLMHeader(1, static_cast<int>(options.produce));

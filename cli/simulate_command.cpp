@@ -9,9 +9,8 @@
 
 #include "cli/command.h"
 #include "cli/notation_text.h"
-#include "conditions/script.h"
+#include "cli/script_text.h"
 #include "core/text.h"
-#include "disk/file_io.h"
 #include "library/tables.h"
 #include "simulation/keep_deals.h"
 #include "simulation/simulation_run.h"
@@ -147,8 +146,11 @@ ExitCode Simulate(const Context& context, const Asked& asked) {
     session.host.Tell(why);
     return ExitCode::Usage;
   }
-  if (!asked.script.empty())
-    plan->condition = ReadWholeFile(PathFromText(asked.script), kLongestScript);
+  if (!asked.script.empty()) {
+    auto text = ReadScriptText(session.host, asked.script);
+    if (!text) return ExitCode::Refused;
+    plan->condition = *std::move(text);
+  }
   if (!RequireSolver(session)) return ExitCode::Refused;
   const auto run = SimulationRun::Begin(*plan, session.getSolver(), why);
   if (!run) {
@@ -175,7 +177,7 @@ void AddShared(CLI::App& simulate, Asked& asked) {
       ->delimiter(',');
   auto* condition = simulate.add_option("--condition", asked.condition, "What the deals must meet")
                         ->type_name("TEXT");
-  simulate.add_option("--script", asked.script, "The same, in a file")
+  simulate.add_option("--script", asked.script, "The same, in a file; - for standard input")
       ->type_name("FILE")
       ->excludes(condition);
   simulate.add_option("--deals", asked.deals, "At the most")
