@@ -54,20 +54,6 @@ bool SolverFor(Session& session, const Script& script, Solver*& solver) {
   return true;
 }
 
-bool IsComplete(const HandTable& hands) {
-  PerSuit<Holding> suits;
-  for (const auto& hand : hands) {
-    int cards = 0;
-    for (const Suit suit : kAllSuits) {
-      if (!(suits[suit] & hand[suit]).Empty()) return false;
-      suits[suit] = suits[suit] | hand[suit];
-      cards += hand[suit].Count();
-    }
-    if (cards != kCardsInHand) return false;
-  }
-  return true;
-}
-
 ExitCode CheckFile(const Context& context, const std::shared_ptr<const Script>& script,
                    Solver* solver, const DealArguments& asked) {
   constexpr std::size_t kLongestFile = std::size_t{256} << 20U;

@@ -21,17 +21,15 @@ LengthDraw::LengthDraw(const Predealt& predealt) {
   bool fits = true;
   for (const Seat seat : kAllSeats) {
     const auto s = static_cast<std::size_t>(seat);
-    int inHand = 0;
     for (const Suit suit : kAllSuits) {
       const auto u = static_cast<std::size_t>(suit);
       const int given = predealt.cards[seat][suit].Count();
       const auto& length = predealt.lengths[seat][suit];
       fits = fits && (!length || *length >= given);
-      inHand += given;
       free_.at(u) -= given;
       asked_.at(s).at(u) = length ? int{*length} - given : -1;
     }
-    room_.at(s) = static_cast<std::uint8_t>(kCardsInHand - inHand);
+    room_.at(s) = static_cast<std::uint8_t>(kCardsInHand - CardsIn(predealt.cards[seat]));
   }
   if (!fits || WeightFrom(0, room_) <= 0) steps_.clear();
 }

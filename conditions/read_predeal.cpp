@@ -55,9 +55,7 @@ void ScriptReader::ReadPredealtCards() {
       }
       cards[seat][suit].Add(card.rank);
     }
-    int inHand = 0;
-    for (const Holding& holding : cards[seat]) inHand += holding.Count();
-    if (inHand > kCardsInHand) {
+    if (CardsIn(cards[seat]) > kCardsInHand) {
       cursor_.Fail("more than 13 cards for " + std::string(SeatName[seat]));
     }
     cursor_.Skip();

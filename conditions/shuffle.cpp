@@ -13,8 +13,7 @@ Shuffle::Shuffle(const Predealt& predealt, const std::array<Seat, kSeats>& seats
     free_.at(count++) = static_cast<std::uint8_t>(IndexOf(card.suit) * 16 + IndexOf(card.rank));
   }
   for (std::size_t place = 0; place < seats_.size(); ++place) {
-    int missing = kCardsInHand;
-    for (const Holding& holding : predealt.cards[seats_.at(place)]) missing -= holding.Count();
+    const int missing = kCardsInHand - CardsIn(predealt.cards[seats_.at(place)]);
     bounds_.at(place + 1) = static_cast<std::uint8_t>(bounds_.at(place) + missing);
   }
   if (predealt.AnyLength()) lengths_ = std::make_shared<const LengthDraw>(predealt);

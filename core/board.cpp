@@ -35,6 +35,21 @@ void GetHand(std::string_view& text, HandTable& hands, Seat seat) {
   }
 }
 
+int CardsIn(const PerSuit<Holding>& hand) {
+  int cards = 0;
+  for (const Holding holding : hand) cards += holding.Count();
+  return cards;
+}
+
+bool IsComplete(const HandTable& hands) {
+  PerSuit<Holding> dealt;
+  for (const auto& hand : hands) {
+    if (CardsIn(hand) != kCardsInHand) return false;
+    for (const Suit suit : kAllSuits) dealt[suit] = dealt[suit] | hand[suit];
+  }
+  return CardsIn(dealt) == kCardsInPack;
+}
+
 bool HasCards(const PerSuit<Holding>& hand) {
   return std::any_of(hand.begin(), hand.end(), [](Holding holding) { return !holding.Empty(); });
 }

@@ -54,6 +54,10 @@ void AddCard(HandTable& hands, Card card, Seat seat);
 /// that blank. Suits that are not given become void, and a hand given as "-" has no cards.
 void GetHand(std::string_view& text, HandTable& hands, Seat seat);
 
+int CardsIn(const PerSuit<Holding>& hand);
+/// Four hands of thirteen cards, each card once.
+bool IsComplete(const HandTable& hands);
+
 bool HasCards(const PerSuit<Holding>& hand);
 bool HasCards(const HandTable& hands);
 

@@ -8,14 +8,6 @@
 namespace tricklet {
 namespace {
 
-bool IsComplete(const HandTable& hands) {
-  return std::all_of(hands.begin(), hands.end(), [](const PerSuit<Holding>& hand) {
-    int cards = 0;
-    for (const Holding holding : hand) cards += holding.Count();
-    return cards == kCardsInHand;
-  });
-}
-
 /// Who plays the card at `index` of a play that has got so far.
 Seat PlayerOf(const LegalPlay& play, std::size_t index) {
   return SeatAfter(play.leaders.at(index / kSeats), static_cast<int>(index % kSeats));

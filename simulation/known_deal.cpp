@@ -41,9 +41,7 @@ bool JoinLengths(const Predealt& predealt, Predealt& known) {
 /// Some deal holds all of it.
 bool IsPossible(const Predealt& known) {
   const bool room = std::all_of(kAllSeats.begin(), kAllSeats.end(), [&known](Seat seat) {
-    int cards = 0;
-    for (const Holding holding : known.cards[seat]) cards += holding.Count();
-    return cards <= kCardsInHand;
+    return CardsIn(known.cards[seat]) <= kCardsInHand;
   });
   return room && (!known.AnyLength() || LengthDraw(known).Possible());
 }

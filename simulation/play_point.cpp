@@ -5,12 +5,6 @@
 namespace tricklet {
 namespace {
 
-bool IsWhole(const PerSuit<Holding>& hand) {
-  int cards = 0;
-  for (const Holding holding : hand) cards += holding.Count();
-  return cards == kCardsInHand;
-}
-
 /// Goes card by card.
 class Follower {
  public:
@@ -80,7 +74,7 @@ std::optional<PlayPoint> FollowTo(const Board& board, std::span<const Card> card
   }
   PlayPoint point = follower.Point();
   const std::string onPlay(SeatName[point.onPlay]);
-  if (!IsWhole(board.hands[point.onPlay])) {
+  if (CardsIn(board.hands[point.onPlay]) != kCardsInHand) {
     why = onPlay + " is on play: all 13 cards of that hand must be known";
   } else if (!HasCards(point.legal)) {
     why = onPlay + " has no card left to play";

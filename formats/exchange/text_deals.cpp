@@ -14,12 +14,6 @@ using Hand = PerSuit<Holding>;
 
 constexpr std::string_view kBlanks = " \t\r\n";
 
-int CardsOf(const Hand& hand) {
-  int cards = 0;
-  for (const Holding held : hand) cards += held.Count();
-  return cards;
-}
-
 /// The ranks of one suit; "-" is none. Nothing when a rank is unknown or comes twice.
 std::optional<Holding> ReadSuit(std::string_view text) {
   constexpr std::string_view kRanks = "AKQJT98765432";
@@ -51,7 +45,7 @@ std::optional<Hand> ReadHand(std::string_view text) {
 }
 
 bool IsComplete(const Hand& hand) {
-  return CardsOf(hand) == kCardsInHand;
+  return CardsIn(hand) == kCardsInHand;
 }
 
 /// The seat that the text names before a colon, which it takes away; nothing when it names none.
@@ -84,7 +78,7 @@ std::optional<HandTable> ReadDeal(std::string_view text) {
   for (int step = 0; step < kSeats; ++step) {
     const auto hand = ReadHand(TakeWord(text));
     if (!hand) return std::nullopt;
-    const bool plain = CardsOf(*hand) == 0 || IsComplete(*hand);
+    const bool plain = CardsIn(*hand) == 0 || IsComplete(*hand);
     if (!seat && !plain) return std::nullopt;
     hands[SeatAfter(seat.value_or(Seat::North), step)] = *hand;
   }

@@ -12,12 +12,6 @@ namespace {
 
 constexpr double kFeltRadius = 12;
 
-int CardsIn(const PerSuit<Holding>& hand) {
-  int cards = 0;
-  for (const Suit suit : kAllSuits) cards += hand[suit].Count();
-  return cards;
-}
-
 }  // namespace
 
 void DrawFelt(QPainter& painter, const QRectF& felt, const TableColours& colours) {

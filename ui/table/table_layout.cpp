@@ -275,12 +275,6 @@ void PlaceBacks(TableLayout& layout, int count, Seat seat) {
   }
 }
 
-int CardsIn(const PerSuit<Holding>& hand) {
-  int cards = 0;
-  for (const Suit suit : kAllSuits) cards += hand[suit].Count();
-  return cards;
-}
-
 }  // namespace
 
 TableLayout LayOutTable(QSizeF size, const HandTable& hands, const TableNeeds& needs) {
