@@ -94,26 +94,31 @@ std::shared_ptr<const Script> ConditionPanel::Take() {
   return nullptr;
 }
 
-/// What is wrong; else how rare the deals are, as soon as a sample of them has been dealt.
+void ConditionPanel::DealsChanged() {
+  ShowOutcome();
+}
+
+/// What is wrong; else how rare the deals are, as soon as a sample of them has been dealt. Of an
+/// empty text nothing is said.
 void ConditionPanel::ShowOutcome() {
   if (stop_) *stop_ = true;
-  const QString fault = txtCondition->FaultText();
-  if (!fault.isEmpty()) {
-    ShowRarity(fault);
-    return;
-  }
+  if (const QString fault = txtCondition->FaultText(); !fault.isEmpty()) return Say(fault);
+  if (txtCondition->document()->isEmpty()) return Say({});
+  std::string why;
+  const auto script = deals_ ? deals_(why) : txtCondition->Outcome().script;
+  if (!script) return Say(ToQt(why));
   stop_ = std::make_shared<std::atomic<bool>>(false);
   auto rarity = std::make_shared<Rarity>();
   worker_->Post(
-      [script = txtCondition->Outcome().script, stop = stop_, rarity] {
+      [script, stop = stop_, rarity] {
         if (!*stop) *rarity = EstimateRarity(script, kSample, *stop);
       },
       [this, stop = stop_, rarity] {
-        if (!*stop) ShowRarity(ToQt(RarityText(*rarity)));
+        if (!*stop) Say(ToQt(RarityText(*rarity)));
       });
 }
 
-void ConditionPanel::ShowRarity(const QString& text) {
+void ConditionPanel::Say(const QString& text) {
   lblCondition->setText(text);
   txtCondition->setAccessibleDescription(text);
 }

@@ -2,7 +2,10 @@
 #pragma once
 
 #include <atomic>
+#include <functional>
 #include <memory>
+#include <string>
+#include <utility>
 
 #include <QWidget>
 
@@ -29,6 +32,13 @@ class ConditionPanel : public QWidget {
   void SetText(const std::string& text);
   ConditionEditor* Editor() const { return txtCondition; }
 
+  /// What deals are asked for, when it is not the script alone that says so; how rare they are is
+  /// told of these. Null, and why in a sentence for the person, when there can be none.
+  using Deals = std::function<std::shared_ptr<const Script>(std::string& why)>;
+  void SetDeals(Deals deals) { deals_ = std::move(deals); }
+  /// To be called when other deals are asked for although the text is the same.
+  void DealsChanged();
+
   /// The script. Where it cannot be read there is none: the first fault is told, and the cursor put
   /// where it is.
   std::shared_ptr<const Script> Take();
@@ -38,13 +48,14 @@ class ConditionPanel : public QWidget {
 
  private:
   void ShowOutcome();
-  void ShowRarity(const QString& text);
+  void Say(const QString& text);
   void FillExamples(QMenu* menu);
   void FillPresets(QMenu* menu);
   void SavePreset();
   void LoadPresetNamed(const std::string& name);
 
   Session& session_;
+  Deals deals_;
   ConditionEditor* txtCondition;
   QLabel* lblCondition;
   QToolButton* cmdExamples;

@@ -14,18 +14,14 @@
 #include "library/session.h"
 #include "simulation/simulation_run.h"
 
-class QCheckBox;
-class QComboBox;
 class QLabel;
-class QLineEdit;
 class QProgressBar;
 class QPushButton;
-class QSpinBox;
 
 namespace tricklet::ui {
 
-class ConditionEditor;
 class ReportView;
+class SimulationQuestion;
 class TrickHistogram;
 class Worker;
 
@@ -43,17 +39,10 @@ class frmSimulate : public QDialog {
   void done(int result) override;
 
  private:
-  QWidget* MakeQuestion();
   QWidget* MakeResult();
   QWidget* MakeFoot();
   QPushButton* MakeButton(const char* name, const QString& text);
   void SetTabOrder();
-
-  SimulatedQuestion Question() const;
-  std::optional<SimulatedContract> ReadContract(const QLineEdit* text, std::string& why) const;
-  std::optional<SimulationPlan> ReadPlan(std::string& why) const;
-  void ShowUsualHands();
-  void ShowHands();
 
   void Run();
   void Stop();
@@ -69,7 +58,6 @@ class frmSimulate : public QDialog {
   void CopyTable();
 
   Session& session_;
-  RecordedPlay record_;
   std::filesystem::path& folder_;
   std::shared_ptr<SimulationRun> run_;
   std::shared_ptr<std::atomic<bool>> stop_;
@@ -77,15 +65,7 @@ class frmSimulate : public QDialog {
   bool running_ = false;
   std::unique_ptr<Worker> worker_;  // last of what it works on
 
-  QComboBox* cmbQuestion = nullptr;
-  QLineEdit* txtContract = nullptr;
-  QComboBox* cmbDeclarer = nullptr;
-  QLineEdit* txtAgainst = nullptr;
-  PerSeat<QCheckBox*> chkKnown;
-  PerSeat<QLabel*> lblHand;
-  ConditionEditor* txtCondition = nullptr;
-  QSpinBox* spnDeals = nullptr;
-  QSpinBox* spnSeed = nullptr;
+  SimulationQuestion* question_;
   QLabel* lblTitle = nullptr;
   QLabel* lblSaid = nullptr;
   ReportView* grdTable = nullptr;
