@@ -1,19 +1,12 @@
 // Deals tried a second against scripts of conditions, on one core, each beside the program `dealer`
 // with the same script, where that is installed.
 #include <array>
-#include <cstdio>
-#include <cstdlib>
-#include <memory>
 #include <string>
 
 #include <benchmark/benchmark.h>
 
+#include "bench/dealer_program.h"
 #include "conditions/dealing.h"
-
-#ifdef _WIN32
-#define popen _popen
-#define pclose _pclose
-#endif
 
 namespace tricklet::bench {
 namespace {
@@ -55,22 +48,12 @@ void TryDeals(benchmark::State& state, const Task& task) {
   state.SetItemsProcessed(state.iterations() * kTries);
 }
 
-/// Debian keeps it among the games. It takes an average, as it would print the deals otherwise.
-bool RunDealer(const Task& task) {
-  std::FILE* const pipe = popen("PATH=$PATH:/usr/games exec dealer -s 1 >/dev/null 2>&1", "w");
-  if (pipe == nullptr) return false;
-  std::fprintf(pipe, "generate %d produce %d\n%s\naction average 1\n", kTries, kTries, task.script);
-  return pclose(pipe) == 0;
-}
-
 void TryDealsByDealer(benchmark::State& state, const Task& task) {
-  for ([[maybe_unused]] auto _ : state) {
-    if (!RunDealer(task)) {
-      state.SkipWithError("the program dealer is not installed, or failed");
-      return;
-    }
-  }
-  state.SetItemsProcessed(state.iterations() * kTries);
+  const std::string tries = std::to_string(kTries);
+  MeasureDealer(
+      state,
+      "generate " + tries + " produce " + tries + "\n" + task.script + "\naction average 1\n",
+      kTries);
 }
 
 [[maybe_unused]] const bool kRegistered = [] {

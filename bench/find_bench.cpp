@@ -87,8 +87,7 @@ void FindInAllLibraries(benchmark::State& state) {
   Measure(
       state, [] { Libraries(); },
       [&found, &state] {
-        const QueryOutcome outcome =
-            ReadQuery("hcp(south) > 12 and spades(south) > 4", "flo", {});
+        const QueryOutcome outcome = ReadQuery("hcp(south) > 12 and spades(south) > 4", "flo", {});
         FindSink sink;
         sink.found = [&found](const FoundBoard&) { ++found; };
         sink.broken = [&state](const fs::path&, const std::string& why) {

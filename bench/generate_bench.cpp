@@ -2,18 +2,12 @@
 // condition, where that is installed. It deals at random and throws away what does not meet the
 // condition, where ours is built to it, so the two agree in the constraints and not in how often
 // they make which of the deals within them.
-#include <cstdio>
-#include <cstdlib>
 #include <string>
 
 #include <benchmark/benchmark.h>
 
+#include "bench/dealer_program.h"
 #include "generate/deal.h"
-
-#ifdef _WIN32
-#define popen _popen
-#define pclose _pclose
-#endif
 
 namespace tricklet::bench {
 namespace {
@@ -87,33 +81,10 @@ void GenerateDeals(benchmark::State& state, const Task& task) {
   state.SetItemsProcessed(state.iterations());
 }
 
-/// Debian keeps it among the games.
-constexpr const char* kDealer = "PATH=$PATH:/usr/games exec dealer -s 1 >/dev/null 2>&1";
-
-bool DealerInstalled() {
-  static const bool installed =
-      std::system("PATH=$PATH:/usr/games command -v dealer >/dev/null 2>&1") == 0;
-  return installed;
-}
-
-/// Runs `dealer` over the task; it prints one average and no deal.
-bool RunDealer(const Task& task) {
-  FILE* input = popen(kDealer, "w");
-  if (input == nullptr) return false;
-  const int written = std::fprintf(
-      input, "generate 2000000000\nproduce %d\ncondition %s\naction average hcp(east)\n",
-      task.dealerDeals, task.condition);
-  return pclose(input) == 0 && written > 0;
-}
-
 void DealerProgram(benchmark::State& state, const Task& task) {
-  for ([[maybe_unused]] auto _ : state) {
-    if (!DealerInstalled() || !RunDealer(task)) {
-      state.SkipWithError("the program dealer is not installed, or failed");
-      return;
-    }
-  }
-  state.SetItemsProcessed(state.iterations() * task.dealerDeals);
+  const std::string script = "generate 2000000000\nproduce " + std::to_string(task.dealerDeals) +
+                             "\ncondition " + task.condition + "\naction average hcp(east)\n";
+  MeasureDealer(state, script, task.dealerDeals);
 }
 
 #define TRICKLET_DEALS(task)                                                                    \

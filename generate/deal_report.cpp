@@ -74,26 +74,6 @@ void WriteLines(std::ostream& out, const HandTable& hands, char separator) {
   }
 }
 
-/// Where a value is counted: 0 below the range, the last place above it.
-std::size_t PlaceOf(std::int32_t value, const ValueRange& range) {
-  const std::int64_t width = std::max<std::int64_t>(0, std::int64_t{range.high} - range.low + 1);
-  if (value < range.low) return 0;
-  if (value > range.high) return static_cast<std::size_t>(width + 1);
-  return static_cast<std::size_t>(std::int64_t{value} - range.low + 1);
-}
-
-std::size_t PlacesOf(const ValueRange& range) {
-  return static_cast<std::size_t>(
-      std::max<std::int64_t>(2, std::int64_t{range.high} - range.low + 3));
-}
-
-/// "Low", a value, "High": the heading of a place.
-std::string Heading(std::size_t place, const ValueRange& range) {
-  if (place == 0) return "Low";
-  if (place + 1 == PlacesOf(range)) return "High";
-  return std::to_string(range.low + static_cast<std::int64_t>(place) - 1);
-}
-
 }  // namespace
 
 std::vector<ExpressionId> ExpressionsOf(const Script& script) {
@@ -113,10 +93,7 @@ DealReport::DealReport(std::shared_ptr<const Script> script, std::string name, s
     : script_(std::move(script)), name_(std::move(name)), seed_(seed), out_(out) {
   for (const ScriptAction& action : script_->Actions()) {
     Gathered& gathered = gathered_.emplace_back();
-    if (action.ranges.empty()) continue;
-    std::size_t places = 1;
-    for (const ValueRange& range : action.ranges) places *= PlacesOf(range);
-    gathered.counts.resize(places);
+    if (!action.ranges.empty()) gathered.frequency.emplace(action.ranges);
   }
 }
 
@@ -129,12 +106,9 @@ void DealReport::Add(const FoundDeal& deal) {
       gathered_[i].deals.push_back(deal.hands);
     } else if (action.kind == ActionKind::Average) {
       gathered_[i].sum += *value++;
-    } else if (action.kind == ActionKind::Frequency) {
-      std::size_t place = 0;
-      for (const ValueRange& range : action.ranges) {
-        place = place * PlacesOf(range) + PlaceOf(*value++, range);
-      }
-      ++gathered_[i].counts[place];
+    } else if (auto& frequency = gathered_[i].frequency) {
+      frequency->Add(value);
+      value += action.ranges.size();
     } else {
       Print(action, deal, value);
     }
@@ -189,58 +163,14 @@ void DealReport::WritePbn(const HandTable& hands) {
        << SolverDealText(hands) << "\"]\n[Declarer \"?\"]\n[Contract \"?\"]\n[Result \"?\"]\n\n";
 }
 
-void DealReport::WriteFrequency(const ScriptAction& action, const Gathered& gathered) {
-  out_ << "Frequency " << action.title << ":\n";
-  const ValueRange& rows = action.ranges.front();
-  const std::size_t height = PlacesOf(rows);
-  if (action.ranges.size() == 1) {
-    for (std::size_t row = 0; row < height; ++row) {
-      const std::int64_t count = gathered.counts[row];
-      const bool outside = row == 0 || row + 1 == height;
-      if (outside && count == 0) continue;
-      if (outside) {
-        out_ << Heading(row, rows);
-      } else {
-        out_ << std::setw(5) << Heading(row, rows);
-      }
-      out_ << '\t' << std::setw(8) << count << '\n';
-    }
-    return;
-  }
-  const ValueRange& columns = action.ranges.back();
-  const std::size_t width = PlacesOf(columns);
-  out_ << "    ";
-  for (std::size_t column = 0; column < width; ++column) {
-    out_ << std::setw(7) << Heading(column, columns);
-  }
-  out_ << "    Sum\n";
-  std::vector<std::int64_t> sums(width + 1);
-  for (std::size_t row = 0; row < height; ++row) {
-    const bool outside = row == 0 || row + 1 == height;
-    out_ << (outside ? std::left : std::right) << std::setw(4) << Heading(row, rows) << std::right;
-    std::int64_t sum = 0;
-    for (std::size_t column = 0; column < width; ++column) {
-      const std::int64_t count = gathered.counts[row * width + column];
-      sum += count;
-      sums[column] += count;
-      out_ << std::setw(7) << count;
-    }
-    sums[width] += sum;
-    out_ << std::setw(7) << sum << '\n';
-  }
-  out_ << "Sum ";
-  for (const std::int64_t sum : sums) out_ << std::setw(7) << sum;
-  out_ << "\n\n";
-}
-
 void DealReport::Finish(const DealRunOutcome& outcome) {
   for (std::size_t i = 0; i < gathered_.size(); ++i) {
     const ScriptAction& action = script_->Actions()[i];
     const Gathered& gathered = gathered_[i];
     if (action.kind == ActionKind::Print) {
       for (const Seat seat : action.seats) WritePage(out_, seat, gathered.deals);
-    } else if (action.kind == ActionKind::Frequency) {
-      WriteFrequency(action, gathered);
+    } else if (gathered.frequency) {
+      gathered.frequency->Write(out_, action.title);
     } else if (action.kind == ActionKind::Average) {
       if (!action.title.empty()) out_ << action.title << ": ";
       if (deals_ == 0) {

@@ -4,11 +4,13 @@
 #include <cstdint>
 #include <iosfwd>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "conditions/script.h"
 #include "generate/deal_run.h"
+#include "generate/value_counts.h"
 
 namespace tricklet {
 
@@ -30,13 +32,12 @@ class DealReport {
   /// What an action remembers of the deals.
   struct Gathered {
     double sum = 0;
-    std::vector<std::int64_t> counts;  ///< by value, with one place below and above; rows of two
-    std::vector<HandTable> deals;      ///< of `print`
+    std::optional<ValueCounts> frequency;
+    std::vector<HandTable> deals;  ///< of `print`
   };
 
   void Print(const ScriptAction& action, const FoundDeal& deal, const std::int32_t*& value);
   void WritePbn(const HandTable& hands);
-  void WriteFrequency(const ScriptAction& action, const Gathered& gathered);
 
   std::shared_ptr<const Script> script_;
   std::string name_;

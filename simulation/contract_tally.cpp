@@ -36,7 +36,7 @@ std::int64_t AtLeast(const TrickCounts& counts, int tricks) {
 }  // namespace
 
 std::string ComparisonText(const ContractTable& table) {
-  if (!table.comparison || !table.second) return {};
+  if (!table.comparison || !table.second || table.deals == 0) return {};
   const Estimate& imps = table.comparison->imps;
   const std::string first = ContractName(table.first.contract);
   const std::string second = ContractName(table.second->contract);

@@ -38,7 +38,8 @@ struct ContractTable {
   std::optional<ContractComparison> comparison;  ///< with a second one
 };
 
-/// "3NT beats 4♥ by 0.8 ± 0.3 IMP"; "is level with" where the error is as large as the difference.
+/// "3NT beats 4♥ by 0.8 ± 0.3 IMP"; "are level" where the error is as large as the difference.
+/// Empty without a second contract or without deals.
 std::string ComparisonText(const ContractTable& table);
 
 class ContractTally : public Tally {

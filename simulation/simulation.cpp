@@ -26,7 +26,7 @@ constexpr std::int64_t kFewest = 100;
 
 std::string ProgressText(const SimulationProgress& progress) {
   std::string text = std::to_string(progress.deals) + (progress.deals == 1 ? " deal" : " deals");
-  if (progress.tried > progress.deals) text += " of " + std::to_string(progress.tried) + " dealt";
+  if (progress.tried > progress.deals) text += " of " + GroupedText(progress.tried) + " dealt";
   return text + ", " + DecimalText(progress.dealing.count(), 1) + " s dealing, " +
          DecimalText(progress.solving.count(), 1) + " s solving";
 }
@@ -75,7 +75,7 @@ void Simulation::DealBatch(const std::function<bool()>& goOn) {
     triesSinceDeal_ += dealing_->Tried() - before;
     if (triesSinceDeal_ < kMostTries) continue;
     progress_.end = SimulationEnd::NoDeal;
-    progress_.failure = "None of " + std::to_string(triesSinceDeal_) + " deals meets the condition";
+    progress_.failure = "None of " + GroupedText(triesSinceDeal_) + " deals meets the condition";
     break;
   }
   progress_.tried = dealing_->Tried();

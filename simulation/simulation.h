@@ -40,7 +40,7 @@ struct SimulationProgress {
   std::string failure;  ///< a sentence for the person, of NoDeal and Failed
 };
 
-/// "1000 deals of 58212 dealt, 0.4 s dealing, 41.0 s solving"
+/// "1000 deals of 58,212 dealt, 0.4 s dealing, 41.0 s solving"
 std::string ProgressText(const SimulationProgress& progress);
 /// Why it has ended: "Stopped by itself: ..."; empty while it runs and at the number of deals.
 std::string EndText(const SimulationProgress& progress);
