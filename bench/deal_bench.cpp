@@ -26,14 +26,16 @@ constexpr std::array kTasks{
          "opening = spades(south) > 4 and hcp(south) > 10 and losers(south) < 8\n"
          "raise = spades(north) > 3 and hcp(north) > 5 and hcp(north) < 10\n"
          "opening and raise and hcp(east) < 12 and hcp(west) < 12"},
-    Task{"either_side", "ns = hcp(north) + hcp(south)\nns > 28 or (ns < 12 and cccc(west) > 1600)"},
+    Task{"either_side",
+         "points = hcp(north) + hcp(south)\n"
+         "points > 28 or (points < 12 and cccc(west) > 1600)"},
     Task{"wild",
          "n = shape(north, any 7xxx + any 65xx) s = shape(south, any 7xxx + any 65xx)\n"
          "e = shape(east, any 7xxx + any 65xx) w = shape(west, any 7xxx + any 65xx)\n"
          "n + s + e + w > 2"},
     Task{"known_cards",
          "predeal south SAQ54, HK2 predeal west HAQ\n"
-         "hearts(west) > 4 and hcp(south) > 14 ? clubs(north) < 3 : diamonds(east) > 6"}};
+         "condition hearts(west) > 4 and hcp(south) > 14 ? clubs(north) < 3 : diamonds(east) > 6"}};
 
 void TryDeals(benchmark::State& state, const Task& task) {
   const ReadOutcome outcome = ReadScript(task.script);

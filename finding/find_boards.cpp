@@ -20,12 +20,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// What the records of a library say of one board.
-struct Played {
-  int tables = 0;
-  std::set<std::string, std::less<>> players;  // "Ann,Bob,Cy,Di" of each table
-};
-
 /// The players of a record, as they stand there.
 std::string_view PlayersOf(std::string_view record) {
   LinField field;
@@ -66,7 +60,7 @@ class Search {
     LibraryState library;
     Guarded(folder, [&] { library = ScanLibrary(folder); });
     if (library.boardCount == 0) return true;
-    played_.clear();
+    records_.clear();
     notes_.clear();
     Guarded(folder / kLinFile, [&] { ReadResults(folder); });
     Guarded(folder / kNotesFile, [&] { notes_ = LoadNotesOf(folder); });
@@ -81,12 +75,10 @@ class Search {
   }
 
   void ReadResults(const fs::path& folder) {
-    for (const std::string& record : LoadLinDataOf(folder).lin) {
+    results_ = LoadLinDataOf(folder);
+    for (const std::string& record : results_.lin) {
       const int number = BoardNumberOfLin(record);
-      if (!IsStorable(number)) continue;
-      Played& played = played_[number];
-      if (played.tables < static_cast<int>(kMaxTravellerRows)) ++played.tables;
-      if (query_.AsksForPlayers()) played.players.emplace(PlayersOf(record));
+      if (IsStorable(number)) records_[number].push_back(&record);
     }
   }
 
@@ -98,6 +90,7 @@ class Search {
       sink_.broken(path, "The file is no board");
       return;
     }
+    if (!query_.Accepts(board.hands)) return;
     FoundBoard found = FoundFrom(board, library);
     if (query_.AsksForPar()) AddPar(board, found);
     if (!query_.Matches(found)) return;
@@ -111,6 +104,14 @@ class Search {
     found.par = ComputePar(board.makeable, board.Dealer(), board.Vulnerability());
   }
 
+  void AddResults(const std::vector<const std::string*>& records, FoundBoard& found) const {
+    found.tables = static_cast<int>(std::min(records.size(), kMaxTravellerRows));
+    if (!query_.AsksForPlayers()) return;
+    std::set<std::string_view> tables;  // "Ann,Bob,Cy,Di"
+    for (const std::string* record : records) tables.insert(PlayersOf(*record));
+    for (const std::string_view table : tables) found.players.append(table) += '\n';
+  }
+
   FoundBoard FoundFrom(const Board& board, const std::string& library) const {
     const Statistics statistics = GetStats(board.hands);
     FoundBoard found;
@@ -121,9 +122,8 @@ class Search {
     found.hands = board.hands;
     found.complete = statistics.allHandsComplete;
     found.points = statistics.seatHcp;
-    if (const auto played = played_.find(board.boardNumber); played != played_.end()) {
-      found.tables = played->second.tables;
-      for (const std::string& table : played->second.players) found.players += table + '\n';
+    if (const auto records = records_.find(board.boardNumber); records != records_.end()) {
+      AddResults(records->second, found);
     }
     if (const auto note = notes_.find(board.boardNumber); note != notes_.end()) {
       found.note = note->second;
@@ -135,8 +135,10 @@ class Search {
   const FindSink& sink_;
   int libraries_ = 0;
   int done_ = 0;
-  std::map<int, Played> played_;  // of the library that is read, by board number
-  BoardNotes notes_;              // likewise
+  // Of the library that is read:
+  LinFile results_;
+  std::map<int, std::vector<const std::string*>> records_;  // of `results_`, by board number
+  BoardNotes notes_;
 };
 
 }  // namespace

@@ -63,10 +63,12 @@ FindQuery::Test FindQuery::TestOf(std::string_view word) {
   };
 }
 
+bool FindQuery::Accepts(const HandTable& hands) const {
+  return !condition_ || (IsComplete(hands) && condition_(hands));
+}
+
 bool FindQuery::Matches(const FoundBoard& board) const {
-  const bool worded =
-      std::all_of(words_.begin(), words_.end(), [&](const Test& fits) { return fits(board); });
-  return worded && (!condition_ || (board.complete && condition_(board.hands)));
+  return std::all_of(words_.begin(), words_.end(), [&](const Test& fits) { return fits(board); });
 }
 
 bool ReadsAsCondition(std::string_view text) {

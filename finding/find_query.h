@@ -32,6 +32,9 @@ class FindQuery {
   bool AsksForPlayers() const { return asksForPlayers_; }
   /// `FoundBoard::par` is looked at.
   bool AsksForPar() const { return asksForPar_; }
+  /// Whether the condition is met, by an incomplete deal only where there is none.
+  bool Accepts(const HandTable& hands) const;
+  /// Whether each of the words fits.
   bool Matches(const FoundBoard& board) const;
 
  private:
