@@ -205,7 +205,8 @@ std::vector<CardScore> LibrarySolver::SolveCards(const SolverPosition& position)
 
 void LibrarySolver::SolveCardsOfAll(std::span<const SolverPosition> positions, CardsWanted wanted,
                                     std::span<std::vector<CardScore>> scores) {
-  if (positions.size() < 2 || solvePositions_ == nullptr) {
+  const bool oneAsked = positions.size() == 1 && wanted == CardsWanted::All;
+  if (positions.empty() || oneAsked || solvePositions_ == nullptr) {
     Solver::SolveCardsOfAll(positions, wanted, scores);
     return;
   }

@@ -4,7 +4,6 @@
 #include <cstdlib>
 #include <utility>
 
-#include "analysis/deal_text.h"
 #include "conditions/arithmetic.h"
 #include "conditions/cccc.h"
 #include "core/comparison.h"
@@ -74,7 +73,7 @@ void Evaluator::Begin(const DealBits& deal) {
     std::ranges::fill(known_, Known{});
     dealNumber_ = 1;
   }
-  tricks_.reset();
+  tricks_.fill(std::nullopt);
 }
 
 int Evaluator::Value(ExpressionId expression) {
@@ -182,16 +181,22 @@ int Evaluator::RandomBelow(int bound) {
 }
 
 int Evaluator::TricksOf(const Node& node) {
-  if (!tricks_) {
-    if (solver_ == nullptr) throw Fault(FaultNumber::Unexpected, "There is no solver for tricks.");
-    const std::array deals{SolverDealText(HandsOf(*deal_))};
-    std::array<SolverRecord, 1> records{};
-    const std::string failure = solver_->Solve(deals, records);
-    if (!failure.empty()) throw Fault(FaultNumber::Unexpected, failure);
-    tricks_ = records[0];
-  }
   const int index = IndexOf(node.seat) * kStrains + node.value;
-  return tricks_->at(static_cast<std::size_t>(index));
+  auto& tricks = tricks_.at(static_cast<std::size_t>(index));
+  if (!tricks) tricks = SolveTricks(node.seat, static_cast<Strain>(node.value));
+  return *tricks;
+}
+
+/// By the best lead against this one contract: a whole table takes a dozen times as long.
+int Evaluator::SolveTricks(Seat declarer, Strain strain) {
+  if (solver_ == nullptr) throw Fault(FaultNumber::Unexpected, "There is no solver for tricks.");
+  const std::array positions{SolverPosition{strain, SeatAfter(declarer), {}, HandsOf(*deal_)}};
+  std::array<std::vector<CardScore>, 1> leads;
+  solver_->SolveCardsOfAll(positions, CardsWanted::OneBest, leads);
+  int most = -1;
+  for (const CardScore& lead : leads.front()) most = std::max(most, lead.tricks);
+  if (most < 0) throw Fault(FaultNumber::Unexpected, "The double-dummy solver gave no answer.");
+  return kCardsInHand - most;
 }
 
 }  // namespace tricklet

@@ -49,6 +49,7 @@ class Evaluator {
   int ScoreOf(const Node& node);
   int RandomBelow(int bound);
   int TricksOf(const Node& node);
+  int SolveTricks(Seat declarer, Strain strain);
   const HandBits& Hand(Seat seat) const { return (*deal_)[static_cast<std::size_t>(seat)]; }
 
   std::shared_ptr<const Script> script_;
@@ -60,7 +61,7 @@ class Evaluator {
   std::vector<Known> known_;         // for each node; only those that are kept
   std::vector<bool> kept_;           // nodes that several use, and steps in deep expressions
   std::vector<ExpressionId> steps_;  // computed first, so that no call nests too deep
-  std::optional<SolverRecord> tricks_;
+  std::array<std::optional<int>, kSeats * kStrains> tricks_;  // of the deal, by seat and strain
 };
 
 }  // namespace tricklet

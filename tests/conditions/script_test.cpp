@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "analysis/get_dds.h"
+#include "analysis/solver_library.h"
 #include "conditions/dealing.h"
+#include "conditions/vocabulary.h"
 #include "tests/support/hands.h"
 
 namespace tricklet {
@@ -170,6 +173,33 @@ TEST(Script, LongAndDeepTextsAreBounded) {
   }
   EXPECT_EQ(ValueOf(chain + "v10000", none), 10000);
   EXPECT_NE(FaultsOf(doubling + "d40"), "") << "a trillion random numbers";
+}
+
+/// The solver finds the table by another of its calls.
+TEST(Script, TricksAreThoseOfTheTable) {
+  const auto solver = LoadSolver({});
+  ASSERT_EQ(solver->Missing(), "");
+  const HandTable hands =
+      test::HandsOf("N:K652.K73.K54.742 J8.J98.AT83.JT98 Q7.AQ2.QJ96.AKQ6 AT943.T654.72.53");
+  std::string failure;
+  const auto table = SolveDeals(*solver, {hands}, failure);
+  ASSERT_EQ(table.size(), 1U) << failure;
+  RandomSource random(1);
+  for (const Seat seat : kAllSeats) {
+    for (const auto& [word, strain] : {std::pair{"notrump", TableStrain::NoTrump},
+                                       {"spades", TableStrain::Spades},
+                                       {"hearts", TableStrain::Hearts},
+                                       {"diamonds", TableStrain::Diamonds},
+                                       {"clubs", TableStrain::Clubs}}) {
+      const std::string text = "tricks(" + std::string(WordFor(seat)) + ", " + word + ")";
+      const auto script = ReadScript(text).script;
+      ASSERT_TRUE(script && script->UsesSolver()) << text;
+      Evaluator evaluator(script, solver.get(), random);
+      EXPECT_EQ(evaluator.Value(script->Condition(), hands),
+                table.front()[ToTableSeat(seat)][strain])
+          << text;
+    }
+  }
 }
 
 }  // namespace

@@ -23,10 +23,10 @@ ReportCell Text(const std::string& text) {
   return {ToQt(text), std::nullopt};
 }
 
-/// "♠QJ"
+/// "♠ Q J"
 std::string CardsText(const std::vector<Card>& cards) {
   std::string text(SuitSymbol[cards.front().suit]);
-  for (const Card card : cards) text += RankText[card.rank];
+  for (const Card card : cards) text += " " + std::string(RankText[card.rank]);
   return text;
 }
 
