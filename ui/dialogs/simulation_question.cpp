@@ -227,7 +227,8 @@ std::optional<SimulationPlan> SimulationQuestion::Plan(std::string& why) const {
 
 std::shared_ptr<const Script> SimulationQuestion::DealsAsked(std::string& why) const {
   const auto plan = Plan(why);
-  const auto known = plan ? KnownOf(*plan, why) : std::nullopt;
+  if (!plan) return nullptr;
+  const auto known = KnownOf(*plan, why);
   return known ? ScriptOfDeals(*known, plan->condition, why) : nullptr;
 }
 
