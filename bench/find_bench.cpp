@@ -93,7 +93,7 @@ void FindInAllLibraries(benchmark::State& state) {
         sink.broken = [&state](const fs::path&, const std::string& why) {
           state.SkipWithError(why.c_str());
         };
-        sink.goOn = [](int, int) { return true; };
+        sink.goOn = [](const FindProgress&) { return true; };
         FindBoards({Libraries().root, FoldersOf(Libraries().root)}, outcome.query.value(), sink);
       });
   if (found == 0) state.SkipWithError("nothing was found");

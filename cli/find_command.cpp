@@ -56,8 +56,11 @@ ExitCode Find(const Context& context, const Asked& asked) {
     session.host.Tell(ShownPath(path) + ": " + why);
   };
   const WorkScope work(session.host);
-  sink.goOn = [&](int done, int of) { return session.host.Step("Looking for boards", done, of); };
-  if (!FindBoards(scope, *outcome.query, sink)) return ExitCode::Refused;
+  sink.goOn = [&](const FindProgress& progress) {
+    return session.host.Step("Looking for boards", progress.libraries, progress.of);
+  };
+  const FindProgress end = FindBoards(scope, *outcome.query, sink);
+  if (end.libraries < end.of) return ExitCode::Refused;
   if (found == 0) session.host.Tell("No board has been found");
   return allRead ? ExitCode::Done : ExitCode::Refused;
 }

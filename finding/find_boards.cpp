@@ -33,15 +33,13 @@ class Search {
  public:
   Search(const FindQuery& query, const FindSink& sink) : query_(query), sink_(sink) {}
 
-  /// False when it was ended.
-  bool Look(const FindScope& scope) {
-    libraries_ = static_cast<int>(scope.libraries.size());
+  FindProgress Look(const FindScope& scope) {
+    progress_.of = static_cast<int>(scope.libraries.size());
     for (const std::string& name : scope.libraries) {
-      if (!sink_.goOn(done_, libraries_)) return false;
-      if (!LookInto(scope.root / PathFromText(name), name)) return false;
-      ++done_;
+      if (!sink_.goOn(progress_) || !LookInto(scope.root / PathFromText(name), name)) break;
+      ++progress_.libraries;
     }
-    return true;
+    return progress_;
   }
 
  private:
@@ -55,6 +53,7 @@ class Search {
     }
   }
 
+  /// False when it was ended.
   bool LookInto(const fs::path& folder, const std::string& name) {
     constexpr int kBetweenQuestions = 16;
     LibraryState library;
@@ -67,7 +66,8 @@ class Search {
     int since = 0;
     for (int number = library.firstBoard; number <= library.lastBoard; ++number) {
       if (!library.boardPresent.at(static_cast<std::size_t>(number))) continue;
-      if (++since % kBetweenQuestions == 0 && !sink_.goOn(done_, libraries_)) return false;
+      if (++since % kBetweenQuestions == 0 && !sink_.goOn(progress_)) return false;
+      ++progress_.boards;
       const fs::path path = folder / BoardFileName(number);
       Guarded(path, [&] { LookAt(path, name, number); });
     }
@@ -133,8 +133,7 @@ class Search {
 
   const FindQuery& query_;
   const FindSink& sink_;
-  int libraries_ = 0;
-  int done_ = 0;
+  FindProgress progress_;
   // Of the library that is read:
   LinFile results_;
   std::map<int, std::vector<const std::string*>> records_;  // of `results_`, by board number
@@ -143,7 +142,7 @@ class Search {
 
 }  // namespace
 
-bool FindBoards(const FindScope& scope, const FindQuery& query, const FindSink& sink) {
+FindProgress FindBoards(const FindScope& scope, const FindQuery& query, const FindSink& sink) {
   return Search(query, sink).Look(scope);
 }
 

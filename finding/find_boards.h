@@ -17,18 +17,23 @@ struct FindScope {
   std::vector<std::string> libraries;  ///< names of folders of the root, in the order of the answer
 };
 
+struct FindProgress {
+  int libraries = 0;  ///< that have been read
+  int of = 0;         ///< in the scope
+  int boards = 0;     ///< that have been looked at
+};
+
 /// What is told while the boards are read, on the thread that reads them.
 struct FindSink {
   /// A board that was asked for: library by library, in the order of their numbers.
   std::function<void(FoundBoard)> found;
   /// A file or folder that cannot be read, and why; the search goes on.
   std::function<void(const std::filesystem::path&, const std::string&)> broken;
-  /// Asked before each library and every few boards: whether to go on. `done` of `of` libraries
-  /// have been read.
-  std::function<bool(int done, int of)> goOn;
+  /// Asked before each library and every few boards: whether to go on.
+  std::function<bool(const FindProgress&)> goOn;
 };
 
-/// False when `goOn` said no.
-bool FindBoards(const FindScope& scope, const FindQuery& query, const FindSink& sink);
+/// How far it has come: all libraries, unless `goOn` said no.
+FindProgress FindBoards(const FindScope& scope, const FindQuery& query, const FindSink& sink);
 
 }  // namespace tricklet

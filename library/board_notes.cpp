@@ -70,12 +70,12 @@ BoardNotes LoadNotesOf(const std::filesystem::path& folder) {
   return FileExists(path) ? ParseNotes(ReadWholeFile(path, kMaxNotesBytes)) : BoardNotes();
 }
 
-void StoreNotes(const Session& session, const BoardNotes& notes, LibraryWrite& write) {
+void StoreNotes(const BoardNotes& notes, LibraryWrite& write) {
   const std::string text = NotesText(notes);
   if (text.size() > kMaxNotesBytes) {
     throw Fault(FaultNumber::PathFileAccess, "The notes of the library would be too long");
   }
-  write.Replace(NotesPath(session), text);
+  write.Replace(write.Library() / kNotesFile, text);
 }
 
 std::string NoteText(std::string_view note) {
@@ -99,7 +99,7 @@ bool StoreNote(Session& session, int boardNumber, std::string_view note, std::st
     if (stored == text && !changed) return true;
     stored = text;
     if (text.empty()) notes.erase(boardNumber);
-    StoreNotes(session, notes, *write);
+    StoreNotes(notes, *write);
     write->Finish();
     if (changed) {
       session.host.Tell("Another program has changed the notes of board " +

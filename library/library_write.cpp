@@ -8,11 +8,12 @@ namespace tricklet {
 
 namespace fs = std::filesystem;
 
-std::optional<LibraryWrite> LibraryWrite::Wait(Session& session, std::chrono::milliseconds patience,
+std::optional<LibraryWrite> LibraryWrite::Wait(Session& session, const fs::path& folder,
+                                               std::chrono::milliseconds patience,
                                                std::string& holder) {
-  const fs::path folder = session.LibraryPath();
   WriteState& state = session.writing;
-  if (auto held = state.lock.lock(); held && state.folder == folder) return LibraryWrite(held);
+  if (auto held = state.lock.lock(); held && state.folder == folder)
+    return LibraryWrite(folder, held);
   std::shared_ptr<WriteLock> lock = WriteLock::Take(folder, patience, holder);
   if (!lock) return std::nullopt;
   if (state.folder != folder) {
@@ -21,26 +22,30 @@ std::optional<LibraryWrite> LibraryWrite::Wait(Session& session, std::chrono::mi
   }
   state.folder = folder;
   state.lock = lock;
-  return LibraryWrite(std::move(lock));
+  return LibraryWrite(folder, std::move(lock));
 }
 
 std::optional<LibraryWrite> LibraryWrite::Begin(Session& session) {
-  std::string busy;
-  auto write = Begin(session, busy);
-  if (!write) session.host.TellError(busy);
+  return Begin(session, session.LibraryPath());
+}
+
+std::optional<LibraryWrite> LibraryWrite::Begin(Session& session, const fs::path& library) {
+  std::string holder;
+  auto write = Wait(session, library, WriteLock::kPatience, holder);
+  if (!write) session.host.TellError(BusyText(PathText(library.filename()), holder));
   return write;
 }
 
 std::optional<LibraryWrite> LibraryWrite::Begin(Session& session, std::string& busy) {
   std::string holder;
-  auto write = Wait(session, WriteLock::kPatience, holder);
+  auto write = Wait(session, session.LibraryPath(), WriteLock::kPatience, holder);
   if (!write) busy = BusyText(session.LibraryName(), holder);
   return write;
 }
 
 std::optional<LibraryWrite> LibraryWrite::BeginAtOnce(Session& session) {
   std::string holder;
-  return Wait(session, std::chrono::milliseconds(0), holder);
+  return Wait(session, session.LibraryPath(), std::chrono::milliseconds(0), holder);
 }
 
 LibraryWrite::~LibraryWrite() {
@@ -56,8 +61,16 @@ void LibraryWrite::Replace(const fs::path& file, std::string_view data) {
   ReplaceWholeFile(file, data, unflushed_);
 }
 
+void LibraryWrite::Remove(const fs::path& file) {
+  if (replaced_) replaced_->Keep(file, {});
+  std::error_code failure;
+  fs::remove(file, failure);
+  if (failure) throw Fault::OfFile(failure, PathText(file));
+  unflushed_.Add(library_);
+}
+
 void LibraryWrite::KeepReplaced(const Session& session, const std::string& command) {
-  if (session.settings.recycleReplaced) replaced_.emplace(session.LibraryPath(), command);
+  if (session.settings.recycleReplaced) KeepReplaced(command);
 }
 
 std::string LibraryWrite::RecycleReplaced(Host& host) {

@@ -1,4 +1,4 @@
-// Changes to the files of the current library: by one program at a time, and lasting.
+// Changes to the files of a library: by one program at a time, and lasting.
 #pragma once
 
 #include <chrono>
@@ -14,13 +14,14 @@
 
 namespace tricklet {
 
-/// Holds the current library's write lock, and knows which folders are still to be flushed. One may
-/// be begun while another of the same session lives.
+/// Holds a library's write lock, that of the current one unless its folder is given, and knows
+/// which folders are still to be flushed. One may be begun while another of the same session lives.
 class LibraryWrite {
  public:
   /// Nothing, after a message, when another program is changing the library and does not finish
   /// soon. Else what a killed program has left in it is swept away.
   static std::optional<LibraryWrite> Begin(Session& session);
+  static std::optional<LibraryWrite> Begin(Session& session, const std::filesystem::path& library);
   /// `Begin` for a caller that has its own way to tell: the message comes in `busy`.
   static std::optional<LibraryWrite> Begin(Session& session, std::string& busy);
   /// Begins unless another program is changing the library just now; says nothing.
@@ -33,11 +34,19 @@ class LibraryWrite {
   /// Flushes what has not been; a failure of that is not told.
   ~LibraryWrite();
 
-  void Replace(const std::filesystem::path& file, std::string_view data);
+  /// The library's folder.
+  const std::filesystem::path& Library() const { return library_; }
 
-  /// From now on what `Replace` replaces is kept for the recycle bin, where the settings say so.
-  /// `command` is as `ReplacedBoards` has it.
+  void Replace(const std::filesystem::path& file, std::string_view data);
+  /// Takes away a file whose content stands elsewhere by now. Throws `Fault`.
+  void Remove(const std::filesystem::path& file);
+
+  /// From now on what `Replace` and `Remove` take away is kept for the recycle bin, where the
+  /// settings say so. `command` is as `ReplacedBoards` has it.
   void KeepReplaced(const Session& session, const std::string& command);
+  /// The same whatever the settings say: for a command that could not be carried out safely
+  /// without.
+  void KeepReplaced(const std::string& command) { replaced_.emplace(library_, command); }
   /// Sends it there. To be called before `Finish`. Empty, or what to tell the person when the bin
   /// does not take it. Throws `Fault`.
   std::string RecycleReplaced(Host& host);
@@ -49,10 +58,12 @@ class LibraryWrite {
   void Finish() { unflushed_.Flush(); }
 
  private:
-  explicit LibraryWrite(std::shared_ptr<WriteLock> lock) : lock_(std::move(lock)) {}
-  static std::optional<LibraryWrite> Wait(Session& session, std::chrono::milliseconds patience,
-                                          std::string& holder);
+  LibraryWrite(std::filesystem::path library, std::shared_ptr<WriteLock> lock)
+      : library_(std::move(library)), lock_(std::move(lock)) {}
+  static std::optional<LibraryWrite> Wait(Session& session, const std::filesystem::path& folder,
+                                          std::chrono::milliseconds patience, std::string& holder);
 
+  std::filesystem::path library_;
   std::shared_ptr<WriteLock> lock_;
   UnflushedFolders unflushed_;
   std::optional<ReplacedBoards> replaced_;

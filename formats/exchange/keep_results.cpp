@@ -96,7 +96,7 @@ void KeepNotes(Session& session, LibrarySink& sink, const Reading& reading) {
     const auto found = reading.notes.find(board);
     if (found != reading.notes.end()) notes.insert(*found);
   }
-  if (notes != before) StoreNotes(session, notes, sink.Write());
+  if (notes != before) StoreNotes(notes, sink.Write());
 }
 
 void KeepResults(Session& session, Brings brings, LibrarySink& sink, Reading& reading) {

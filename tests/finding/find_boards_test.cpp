@@ -52,8 +52,8 @@ class FindBoardsTest : public testing::Test {
     sink.broken = [&](const std::filesystem::path& path, const std::string&) {
       broken.push_back(path.filename().string());
     };
-    sink.goOn = [](int, int) { return true; };
-    EXPECT_TRUE(FindBoards({folder.Path(), {"A", "B"}}, *outcome.query, sink));
+    sink.goOn = [](const FindProgress&) { return true; };
+    EXPECT_EQ(FindBoards({folder.Path(), {"A", "B"}}, *outcome.query, sink).boards, 4);
     return found;
   }
   TempFolder folder;
@@ -92,8 +92,8 @@ TEST_F(FindBoardsTest, EndsWhenToldTo) {
   FindSink sink;
   sink.found = [&](const FoundBoard&) { ++found; };
   sink.broken = [](const std::filesystem::path&, const std::string&) {};
-  sink.goOn = [](int done, int) { return done < 1; };
-  EXPECT_FALSE(FindBoards({folder.Path(), {"A", "B"}}, FindQuery(), sink));
+  sink.goOn = [](const FindProgress& progress) { return progress.libraries < 1; };
+  EXPECT_EQ(FindBoards({folder.Path(), {"A", "B"}}, FindQuery(), sink).libraries, 1);
   EXPECT_EQ(found, 2);
 }
 
