@@ -56,7 +56,7 @@ void AddPublishCommands(CLI::App& app, Command& command) {
   publish->add_option("DIR", words->folder, "Folder of the page, made when it is missing")
       ->required()
       ->check(NotEmpty);
-  publish->add_option("--boards", words->boards, "Boards, 7 or 1-36; all when not given")
+  publish->add_option("--boards", words->boards, "Boards, 7 or 1-36 or 1-3,7; all when not given")
       ->type_name("A-B")
       ->check(CheckBoards);
   publish->add_option("--title", words->title, "Title; the library's name when not given")

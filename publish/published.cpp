@@ -40,7 +40,8 @@ std::optional<Published> Gather(Session& session, const BoardRange& range, bool 
   Published published;
   CountHands(session);
   for (int number = range.first; number <= range.last; ++number) {
-    if (!session.library.boardPresent.at(static_cast<std::size_t>(number))) continue;
+    const bool stored = session.library.boardPresent.at(static_cast<std::size_t>(number));
+    if (!stored || !range.Has(number)) continue;
     static_cast<StoredBoard&>(published.boards.emplace_back()) = ReadStoredBoard(session, number);
   }
   if (published.boards.empty()) {

@@ -14,6 +14,7 @@ std::string LettersOf(const PerSeat<bool>& seats) {
 }
 
 BoardRange RememberedRange(const PrintSettings& settings, const BoardRange& whole) {
+  if (!whole.only.empty()) return whole;
   const auto range = ReadBoardRange(settings.boards);
   return range && range->first <= whole.last && range->last >= whole.first ? *range : whole;
 }
@@ -80,7 +81,8 @@ void RememberSheets(PrintSettings& settings, const SheetProposal& proposal,
   settings.title = settings.ownTitle ? choices.title : std::string();
   settings.ownSubtitle = choices.subtitle != proposal.subtitle;
   settings.subtitle = settings.ownSubtitle ? choices.subtitle : std::string();
-  settings.boards = request.range == proposal.range ? std::string() : BoardRangeText(request.range);
+  const bool proposed = request.range == proposal.range || !proposal.range.only.empty();
+  settings.boards = proposed ? std::string() : BoardRangeText(request.range);
 }
 
 }  // namespace tricklet

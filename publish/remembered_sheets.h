@@ -21,7 +21,7 @@ struct SheetProposal {
   std::string library;  ///< its name, UTF-8
   std::string title;
   std::string subtitle;
-  BoardRange range;  ///< from its first to its last board
+  BoardRange range;  ///< from its first to its last board, or those of it that were chosen
 };
 
 /// Boards on a page of `layout`, one of `BoardsPerPage(layout)`; 0 where that cannot be chosen.

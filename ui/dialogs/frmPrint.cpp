@@ -49,13 +49,14 @@ frmPrint::frmPrint(Session& session, std::filesystem::path& folder, QWidget* par
   connect(timCompute, &QTimer::timeout, this, &frmPrint::Compute);
 }
 
-bool frmPrint::Gather() {
+bool frmPrint::Gather(const std::set<int>& chosen) {
   CountHands(session_);
   if (session_.library.boardCount == 0) {
     session_.host.Tell(FromQt(tr("There are no hands to print")));
     return false;
   }
   proposal_ = ProposalFor(session_);
+  if (!chosen.empty()) proposal_.range = BoardRangeOf(chosen);
   shownRange_ = proposal_.range;
   if (!boards_.Read(proposal_.range)) return false;
   MakeFields();
@@ -192,7 +193,9 @@ void frmPrint::SetFirstSize() {
 
 /// The range as it is typed; nothing while it is none.
 std::optional<BoardRange> frmPrint::Range() const {
-  return BoardRangeBetween(FromQt(options_->From()), FromQt(options_->To()));
+  auto range = BoardRangeBetween(FromQt(options_->From()), FromQt(options_->To()));
+  if (range) range->only = proposal_.range.only;
+  return range;
 }
 
 /// Why the sheets cannot be printed; empty when they can.

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 
@@ -35,9 +36,9 @@ class frmPrint : public QDialog {
   /// chosen; it may be empty. Both are to outlive the dialog.
   frmPrint(Session& session, std::filesystem::path& folder, QWidget* parent);
 
-  /// Reads the boards. False, after a message, when there is nothing that could be printed: the
-  /// dialog is not to be shown then.
-  bool Gather();
+  /// Reads the boards, of `chosen` only these. False, after a message, when there is nothing that
+  /// could be printed: the dialog is not to be shown then.
+  bool Gather(const std::set<int>& chosen = {});
 
   /// By default `AskForPrinter`.
   void SetPrinterChooser(PrinterChooser chooser) { choosePrinter_ = std::move(chooser); }
