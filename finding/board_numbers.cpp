@@ -33,8 +33,8 @@ NewNumbers NumbersFor(const std::vector<int>& old, const NumberPlan& plan,
   int next = plan.first;
   found.numbers.reserve(old.size());
   for (const int number : old) {
-    const int given = plan.numbering == Numbering::Keep ? number
-                      : plan.numbering == Numbering::SameDeal
+    const int given = plan.numbering == NewNumbering::Keep ? number
+                      : plan.numbering == NewNumbering::SameDeal
                           ? NextSameDeal(number, plan.first, used)
                           : next++;
     if (!IsStorable(given)) {

@@ -10,14 +10,14 @@
 
 namespace tricklet {
 
-enum class Numbering : std::uint8_t {
+enum class NewNumbering : std::uint8_t {
   Keep,      ///< the number that a board has
   SameDeal,  ///< the lowest free one with the same dealer and vulnerability
   InTurn     ///< one after another
 };
 
 struct NumberPlan {
-  Numbering numbering = Numbering::SameDeal;
+  NewNumbering numbering = NewNumbering::SameDeal;
   int first = kFirstBoardNumber;  ///< of `SameDeal` and `InTurn`: 1..999, none below it is given
 };
 

@@ -64,16 +64,16 @@ TEST_F(ChosenBoardsTest, NumbersAreFreeAndAsTheyWereAskedFor) {
     std::string numbers;
   };
   const std::vector<Case> cases{
-      {{3, 1}, {Numbering::Keep}, "3 1"},
-      {{3, 3}, {Numbering::Keep}, "Board 3 is there already"},
-      {{20, 21}, {Numbering::Keep}, "Boards 20-21 are there already"},
-      {{3, 19, 16}, {Numbering::SameDeal, 1}, "3 19 16"},
-      {{4, 36, 5, 16}, {Numbering::SameDeal, 5}, "36 52 5 16"},
-      {{16, 17, 15}, {Numbering::SameDeal, 32}, "32 33 47"},
-      {{9, 2}, {Numbering::InTurn, 7}, "7 8"},
-      {{9, 2}, {Numbering::InTurn, 19}, "Board 20 is there already"},
-      {{9, 2}, {Numbering::InTurn, 999}, "A library can have no board above 999"},
-      {{1}, {Numbering::SameDeal, 999}, "A library can have no board above 999"}};
+      {{3, 1}, {NewNumbering::Keep}, "3 1"},
+      {{3, 3}, {NewNumbering::Keep}, "Board 3 is there already"},
+      {{20, 21}, {NewNumbering::Keep}, "Boards 20-21 are there already"},
+      {{3, 19, 16}, {NewNumbering::SameDeal, 1}, "3 19 16"},
+      {{4, 36, 5, 16}, {NewNumbering::SameDeal, 5}, "36 52 5 16"},
+      {{16, 17, 15}, {NewNumbering::SameDeal, 32}, "32 33 47"},
+      {{9, 2}, {NewNumbering::InTurn, 7}, "7 8"},
+      {{9, 2}, {NewNumbering::InTurn, 19}, "Board 20 is there already"},
+      {{9, 2}, {NewNumbering::InTurn, 999}, "A library can have no board above 999"},
+      {{1}, {NewNumbering::SameDeal, 999}, "A library can have no board above 999"}};
   for (const Case& each : cases) {
     const NewNumbers found = NumbersFor(each.old, each.plan, {20, 21});
     std::string text = found.fault;
@@ -86,20 +86,20 @@ TEST_F(ChosenBoardsTest, NumbersAreFreeAndAsTheyWereAskedFor) {
 
 TEST_F(ChosenBoardsTest, CopiesTakeNotesAndKeepTheAuctionOfTheirDealer) {
   host.ExpectTell("2 boards copied to the library Best");
-  EXPECT_TRUE(CopyBoards(session, {{"Club", 3}, {"Club", 2}}, "Best", {Numbering::SameDeal, 4}));
+  EXPECT_TRUE(CopyBoards(session, {{"Club", 3}, {"Club", 2}}, "Best", {NewNumbering::SameDeal, 4}));
   EXPECT_EQ(Holds("Best"), "18:2C(two) 19:3C(three)");
   EXPECT_EQ(Joined(session.libraryNames), "Best, Club");
 
   host.ExpectTell(
       "2 boards copied to the library Best; 1 without its auction, as the dealer is another one");
-  EXPECT_TRUE(CopyBoards(session, {{"Club", 1}, {"Best", 19}}, "Best", {Numbering::InTurn, 22}));
+  EXPECT_TRUE(CopyBoards(session, {{"Club", 1}, {"Best", 19}}, "Best", {NewNumbering::InTurn, 22}));
   EXPECT_EQ(Holds("Best"), "18:2C(two) 19:3C(three) 22:deal 23:3C(three)");
 
   host.ExpectTell("Boards 18-19 are there already in the library Best");
   EXPECT_FALSE(
-      CopyBoards(session, {{"Best", 18}, {"Best", 19}, {"Club", 1}}, "Best", {Numbering::Keep}));
+      CopyBoards(session, {{"Best", 18}, {"Best", 19}, {"Club", 1}}, "Best", {NewNumbering::Keep}));
   host.ExpectTell("A library cannot be named a/b");
-  EXPECT_FALSE(CopyBoards(session, {{"Club", 1}}, "a/b", {Numbering::Keep}));
+  EXPECT_FALSE(CopyBoards(session, {{"Club", 1}}, "a/b", {NewNumbering::Keep}));
   EXPECT_EQ(Holds("Best"), "18:2C(two) 19:3C(three) 22:deal 23:3C(three)");
   EXPECT_EQ(Holds("Club"), kAsItWas);
 }
@@ -109,7 +109,7 @@ TEST_F(ChosenBoardsTest, NumbersAnewWithNotesAndResults) {
   LoadHand(session);
   host.ExpectTell("3 boards have new numbers, 2 without the auction, as the dealer is another one");
   // 19 has the dealer and the vulnerability of 3.
-  EXPECT_TRUE(RenumberBoards(session, {3, 1, 2}, {Numbering::InTurn, 19}));
+  EXPECT_TRUE(RenumberBoards(session, {3, 1, 2}, {NewNumbering::InTurn, 19}));
   EXPECT_EQ(Holds("Club"), "19:3C(three)x1 20:deal 21:deal(two)");
   EXPECT_EQ(Shown(), "Club 19 of 21, 3 stored");
   EXPECT_EQ(host.replaced,
@@ -119,21 +119,21 @@ TEST_F(ChosenBoardsTest, NumbersAnewWithNotesAndResults) {
 
 TEST_F(ChosenBoardsTest, BoardsMayTakeEachOthersNumbers) {
   host.ExpectTell("2 boards have new numbers, 2 without the auction, as the dealer is another one");
-  EXPECT_TRUE(RenumberBoards(session, {2, 1}, {Numbering::InTurn, 1}));
+  EXPECT_TRUE(RenumberBoards(session, {2, 1}, {NewNumbering::InTurn, 1}));
   EXPECT_EQ(Holds("Club"), "1:deal(two) 2:deal 3:3C(three)x1");
 }
 
 TEST_F(ChosenBoardsTest, WhatCannotBeNumberedAnewStaysAsItIs) {
   host.ExpectTellWith("The results of board 3 belong to another dealer or vulnerability.");
-  EXPECT_FALSE(RenumberBoards(session, {2, 3}, {Numbering::InTurn, 5}));
+  EXPECT_FALSE(RenumberBoards(session, {2, 3}, {NewNumbering::InTurn, 5}));
   host.ExpectTell("Board 3 is there already");
-  EXPECT_FALSE(RenumberBoards(session, {1, 2}, {Numbering::InTurn, 2}));
+  EXPECT_FALSE(RenumberBoards(session, {1, 2}, {NewNumbering::InTurn, 2}));
   EXPECT_EQ(Holds("Club"), kAsItWas);
 
   // The disk refuses one of the files: those written before it are as they were.
   std::filesystem::create_directories(session.BoardPath(7) / "in the way");
   host.ExpectAskWith("Is a directory", Answer::No);
-  EXPECT_FALSE(RenumberBoards(session, {1, 2}, {Numbering::InTurn, 6}));
+  EXPECT_FALSE(RenumberBoards(session, {1, 2}, {NewNumbering::InTurn, 6}));
   std::filesystem::remove_all(session.BoardPath(7));
   EXPECT_EQ(Holds("Club"), kAsItWas);
 }

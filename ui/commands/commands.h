@@ -13,6 +13,7 @@
 
 #include "core/holding.h"
 #include "library/session.h"
+#include "ui/dialogs/frmFindBoards.h"
 #include "ui/dialogs/frmGenerate.h"
 #include "ui/dialogs/frmReport.h"
 
@@ -23,6 +24,7 @@ class AuctionEntry;
 struct ImportOutcome;
 struct Looker;
 struct ProgramTurn;
+struct PublishChoices;
 struct RecordedPlay;
 }  // namespace tricklet
 
@@ -78,6 +80,8 @@ class Commands : public QObject {
   void Report();
   /// `mnuSimulate`: what is not known of the board, dealt many times.
   void Simulate();
+  /// `mnuFindBoards`: boards of this library or of all; the person may go from there to one.
+  void FindBoards();
   /// `mnuPublish`: the library as a web page.
   void Publish();
   void Save();
@@ -216,6 +220,7 @@ class Commands : public QObject {
   bool DealToCondition(QString& said);
   bool DealToConstraints(QString& said);
   void EnterAuction();
+  void PublishBoards(const PublishChoices& proposed, QWidget* over);
   void AskProgram(bool toEnd);
   void ToggleProgram(ProgramHands hands);
   void TellNoCard();
@@ -234,6 +239,7 @@ class Commands : public QObject {
   QPointer<QWidget> window_;
   std::filesystem::path exportPath_;   // of the last export, where the next one begins
   std::filesystem::path sheetFolder_;  // where sheets were saved last
+  FindLook findLook_;                  // what was looked for last
   ReportLook reportLook_;              // where the last report was left
   GenerateChoices generateChoices_;    // of the last run, where the next one begins
   bool running_ = false;

@@ -40,14 +40,17 @@ void Commands::Publish() {
       session_.host.TellError(kNothingToPublish);
       return;
     }
-    frmPublish dialog(session_, ProposedPublish(session_), window_);
-    if (dialog.exec() != QDialog::Accepted) return;
-    RememberPublish(session_, dialog.Choices());
-    if (const auto page = PublishWebPage(session_, dialog.Choices())) {
-      OfferToOpen(session_.host, *page);
-    }
+    PublishBoards(ProposedPublish(session_), window_);
   });
   emit Dealing(false);
+}
+
+void Commands::PublishBoards(const PublishChoices& proposed, QWidget* over) {
+  frmPublish dialog(session_, proposed, over);
+  if (dialog.exec() != QDialog::Accepted) return;
+  RememberPublish(session_, dialog.Choices());
+  if (const auto page = PublishWebPage(session_, dialog.Choices()))
+    OfferToOpen(session_.host, *page);
 }
 
 }  // namespace tricklet::ui

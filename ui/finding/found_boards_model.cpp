@@ -1,0 +1,204 @@
+#include "ui/finding/found_boards_model.h"
+
+#include <array>
+#include <optional>
+#include <tuple>
+
+#include "core/scoring.h"
+#include "finding/found_text.h"
+#include "ui/style/qt_text.h"
+#include "ui/style/symbols.h"
+
+namespace tricklet::ui {
+namespace {
+
+struct Heading {
+  const char* shown;
+  const char* inFull;
+};
+constexpr std::array<Heading, kFoundColumns> kHeadings{
+    {{QT_TR_NOOP("Library"), QT_TR_NOOP("The library that has the board")},
+     {QT_TR_NOOP("Board"), QT_TR_NOOP("The number of the board")},
+     {QT_TR_NOOP("Dealer"), QT_TR_NOOP("The dealer")},
+     {QT_TR_NOOP("Vul"), QT_TR_NOOP("Who is vulnerable")},
+     {QT_TR_NOOP("Contract"), QT_TR_NOOP("The contract of the board's own auction")},
+     {QT_TR_NOOP("Par"),
+      QT_TR_NOOP("Par, by the double-dummy table that is stored with the board")},
+     {QT_TR_NOOP("Points NS-EW"), QT_TR_NOOP("High-card points of North-South and East-West")},
+     {QT_TR_NOOP("South"), QT_TR_NOOP("The lengths of South's suits")},
+     {QT_TR_NOOP("Notes"), QT_TR_NOOP("What is written about the board")},
+     {QT_TR_NOOP("Results"), QT_TR_NOOP("How many tables have played the board")}}};
+
+constexpr FoundColumn ColumnOf(int section) {
+  return static_cast<FoundColumn>(section);
+}
+
+QString ResultsText(int tables) {
+  if (tables == 0) return {};
+  return tables == 1 ? FoundBoardsModel::tr("1 table")
+                     : FoundBoardsModel::tr("%1 tables").arg(tables);
+}
+
+QString Text(const FoundBoard& board, FoundColumn column) {
+  const int number = board.listed.boardNumber;
+  switch (column) {
+    case FoundColumn::Library:
+      return ToQt(ShownName(board.library));
+    case FoundColumn::Number:
+      return QString::number(number);
+    case FoundColumn::Dealer:
+      return ToQt(SeatName[DealerOfBoard(number)].substr(0, 1));
+    case FoundColumn::Vulnerability:
+      return ToQt(PBNVul[VulOfBoard(number)]);
+    case FoundColumn::Contract: {
+      const std::string contract = FoundContractText(board);
+      return contract == kAllPass ? FoundBoardsModel::tr("Pass") : WithSymbols(ToQt(contract));
+    }
+    case FoundColumn::Par:
+      return WithSymbols(ToQt(FoundParText(board)));
+    case FoundColumn::Points:
+      return ToQt(FoundPointsText(board)).replace(u'-', u'\u2013');
+    case FoundColumn::Shape:
+      return ToQt(FoundShapeText(board, Seat::South));
+    case FoundColumn::Notes:
+      return ToQt(FoundNoteText(board)).simplified();
+    case FoundColumn::Results:
+      return ResultsText(board.tables);
+  }
+  return {};
+}
+
+/// By which the boards are in order; nothing where nothing is known.
+using SortKey = std::optional<std::tuple<int, int, int>>;
+
+SortKey ContractKey(const FoundBoard& board) {
+  const auto& summary = board.listed.summary;
+  if (!summary || summary->contract.empty()) return std::nullopt;
+  const bool noTrump = summary->trumps == Strain::NoTrump;
+  const int strain = noTrump ? 4 : 3 - static_cast<int>(summary->trumps);
+  return std::tuple(summary->contractLevel, strain,
+                    static_cast<int>(DoublingOf(summary->contract)));
+}
+
+SortKey ShapeKey(const FoundBoard& board) {
+  if (!board.complete) return std::nullopt;
+  int digits = 0;  // 5431 of 5-4-3-1, but for 10 and more
+  constexpr int kBase = 16;
+  int number = 0;
+  for (const char c : FoundShapeText(board, Seat::South) + '-') {
+    if (c == '-') {
+      digits = digits * kBase + number;
+      number = 0;
+    } else {
+      number = number * 10 + (c - '0');
+    }
+  }
+  return std::tuple(digits, 0, 0);
+}
+
+SortKey KeyOf(const FoundBoard& board, FoundColumn column) {
+  const int number = board.listed.boardNumber;
+  switch (column) {
+    case FoundColumn::Number:
+      return std::tuple(number, 0, 0);
+    case FoundColumn::Dealer:
+      return std::tuple(static_cast<int>(DealerOfBoard(number)), 0, 0);
+    case FoundColumn::Vulnerability:
+      return std::tuple(static_cast<int>(VulOfBoard(number)), 0, 0);
+    case FoundColumn::Contract:
+      return ContractKey(board);
+    case FoundColumn::Par:
+      return board.par ? SortKey(std::tuple(board.par->score, 0, 0)) : std::nullopt;
+    case FoundColumn::Points:
+      return board.complete
+                 ? SortKey(std::tuple(board.points[Seat::North] + board.points[Seat::South], 0, 0))
+                 : std::nullopt;
+    case FoundColumn::Shape:
+      return ShapeKey(board);
+    case FoundColumn::Results:
+      return board.tables > 0 ? SortKey(std::tuple(board.tables, 0, 0)) : std::nullopt;
+    case FoundColumn::Library:
+    case FoundColumn::Notes:
+      break;
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+void FoundBoardsModel::Clear() {
+  beginResetModel();
+  boards_.clear();
+  endResetModel();
+}
+
+void FoundBoardsModel::Append(const std::vector<FoundBoard>& boards) {
+  if (boards.empty()) return;
+  const int first = static_cast<int>(boards_.size());
+  beginInsertRows({}, first, first + static_cast<int>(boards.size()) - 1);
+  boards_.insert(boards_.end(), boards.begin(), boards.end());
+  endInsertRows();
+}
+
+int FoundBoardsModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(boards_.size());
+}
+
+int FoundBoardsModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : kFoundColumns;
+}
+
+QVariant FoundBoardsModel::data(const QModelIndex& index, int role) const {
+  const FoundBoard& board = At(index.row());
+  const FoundColumn column = ColumnOf(index.column());
+  if (role == Qt::DisplayRole) return Text(board, column);
+  if (role == Qt::ToolTipRole && column == FoundColumn::Notes && !board.note.empty()) {
+    return ToQt(board.note);
+  }
+  if (role == Qt::TextAlignmentRole && column == FoundColumn::Number) {
+    return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+  }
+  if (role == Qt::AccessibleTextRole) {
+    return tr(kHeadings.at(static_cast<std::size_t>(index.column())).shown) + u' ' +
+           Text(board, column);
+  }
+  return {};
+}
+
+QVariant FoundBoardsModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || section < 0 || section >= kFoundColumns) return {};
+  const Heading& heading = kHeadings.at(static_cast<std::size_t>(section));
+  if (role == Qt::DisplayRole) return tr(heading.shown);
+  if (role == Qt::ToolTipRole) return tr(heading.inFull);
+  if (role == Qt::TextAlignmentRole) {
+    const bool right = ColumnOf(section) == FoundColumn::Number;
+    return QVariant((right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+  }
+  return {};
+}
+
+FoundOrder::FoundOrder(FoundBoardsModel* boards) : QSortFilterProxyModel(boards), boards_(*boards) {
+  setSourceModel(boards);
+}
+
+bool FoundOrder::lessThan(const QModelIndex& left, const QModelIndex& right) const {
+  const FoundBoard& one = boards_.At(left.row());
+  const FoundBoard& other = boards_.At(right.row());
+  const FoundColumn column = ColumnOf(left.column());
+  const bool ascending = sortOrder() == Qt::AscendingOrder;
+  // As they were found, whichever way the column goes.
+  const bool before = (left.row() < right.row()) == ascending;
+  if (column == FoundColumn::Library || column == FoundColumn::Notes) {
+    const QString text = Text(one, column);
+    const QString otherText = Text(other, column);
+    if (text.isEmpty() != otherText.isEmpty()) return text.isEmpty() != ascending;
+    const int order = text.localeAwareCompare(otherText);
+    return order == 0 ? before : order < 0;
+  }
+  const SortKey key = KeyOf(one, column);
+  const SortKey otherKey = KeyOf(other, column);
+  if (key.has_value() != otherKey.has_value()) return key.has_value() == ascending;
+  return key == otherKey ? before : key < otherKey;
+}
+
+}  // namespace tricklet::ui
