@@ -291,7 +291,7 @@ void frmFindBoards::Copy() {
   });
   if (dialog.exec() != QDialog::Accepted) return;
   look_.copiedTo = dialog.Library();
-  Look();
+  if (look_.all || look_.copiedTo == session_.LibraryName()) Look();
 }
 
 void frmFindBoards::Renumber() {

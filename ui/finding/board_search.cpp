@@ -28,6 +28,7 @@ struct BoardSearch::Run {
 
 BoardSearch::BoardSearch(QObject* parent)
     : QObject(parent), often_(new QTimer(this)), worker_(std::make_unique<Worker>()) {
+  setObjectName(QStringLiteral("boardSearch"));
   often_->setInterval(kBetweenBatches);
   connect(often_, &QTimer::timeout, this, &BoardSearch::Give);
 }
