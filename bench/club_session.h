@@ -40,7 +40,7 @@ inline std::vector<ExplainedCall> RandomAuction(std::mt19937& random) {
   }};
   std::vector<ExplainedCall> auction;
   for (const char* call : kAuctions.at(random() % kAuctions.size())) {
-    auction.push_back({Call::FromText(call).value(), ""});
+    auction.push_back({Call::FromText(call).value_or(Call::Pass()), ""});
   }
   return auction;
 }

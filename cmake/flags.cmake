@@ -17,6 +17,8 @@ if(MSVC)
 else()
   target_compile_options(tricklet_flags INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow $<$<BOOL:${TRICKLET_WERROR}>:-Werror>)
+  # In joined sources one may hide a name of another, which it never sees.
+  target_compile_options(tricklet_flags INTERFACE $<$<BOOL:${CMAKE_UNITY_BUILD}>:-Wno-shadow>)
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # GCC 12 sees an overlap in every "literal" + std::string&& when it optimises (its bug 105329).

@@ -46,10 +46,17 @@ function(tricklet_on_floor target folder)
   message(FATAL_ERROR "${folder} stands in no line of floors.txt")
 endfunction()
 
+# Builds that join sources, to read their headers once for a dozen, compile these one by one: their
+# sources have names of their own that are the same.
+set(tricklet_single_floors cli ui/dialogs ui/print ui/report ui/table)
+
 # tricklet_floor(FOLDER SOURCE...): the library of a folder. Sources are named inside the folder.
 function(tricklet_floor folder)
   tricklet_floor_target(${folder} target)
   list(TRANSFORM ARGN PREPEND ${PROJECT_SOURCE_DIR}/${folder}/)
   add_library(${target} STATIC ${ARGN})
   tricklet_on_floor(${target} ${folder})
+  if(folder IN_LIST tricklet_single_floors)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD OFF)
+  endif()
 endfunction()

@@ -61,7 +61,8 @@ class Evaluator {
   std::vector<Known> known_;         // for each node; only those that are kept
   std::vector<bool> kept_;           // nodes that several use, and steps in deep expressions
   std::vector<ExpressionId> steps_;  // computed first, so that no call nests too deep
-  std::array<std::optional<int>, kSeats * kStrains> tricks_;  // of the deal, by seat and strain
+  std::array<std::optional<int>, std::size_t{kSeats} * kStrains>
+      tricks_;  // of the deal, by seat and strain
 };
 
 }  // namespace tricklet

@@ -74,7 +74,8 @@ using ShapeSet = std::bitset<4096>;
 
 /// The lengths of spades, hearts and diamonds; those of clubs follow from them.
 constexpr std::size_t ShapeIndex(int spades, int hearts, int diamonds) {
-  return static_cast<std::size_t>(spades * 256 + hearts * 16 + diamonds);
+  return static_cast<std::size_t>(spades) * 256 + static_cast<std::size_t>(hearts) * 16 +
+         static_cast<std::size_t>(diamonds);
 }
 
 /// Level, strain and vulnerability of an undoubled contract in one number.

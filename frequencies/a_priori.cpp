@@ -19,9 +19,9 @@ constexpr WaysTable MakeWays() {
   return ways;
 }
 
-constexpr int kHonours = 4;  // aces, and so on
-constexpr int kSpots = 36;   // cards without points
-constexpr int kSide = 26;    // cards of two hands
+constexpr int kHonours = 4;    // aces, and so on
+constexpr int kSpots = 36;     // cards without points
+constexpr int kTwoHands = 26;  // cards of two hands
 
 /// In how many different orders the lengths can be given to the suits.
 int Orders(Shape shape) {
@@ -110,9 +110,10 @@ double ChanceOfPoints(int points, int cards) {
 }
 
 double ChanceOfBreak(int missing, int longer) {
-  const std::int64_t ways = Ways(missing, longer) * Ways(kSide - missing, kCardsInHand - longer);
+  const std::int64_t ways =
+      Ways(missing, longer) * Ways(kTwoHands - missing, kCardsInHand - longer);
   const int orders = longer * 2 == missing ? 1 : 2;
-  return static_cast<double>(orders * ways) / static_cast<double>(Ways(kSide, kCardsInHand));
+  return static_cast<double>(orders * ways) / static_cast<double>(Ways(kTwoHands, kCardsInHand));
 }
 
 }  // namespace tricklet

@@ -60,10 +60,10 @@ class Cells {
 
 /// How likely the side with more cards of a suit lacks `missing` of them: it is one of two sides.
 double ChanceOfMissing(int missing) {
-  constexpr int kSide = 26;
+  constexpr int kBothHands = 26;
   const auto ways = static_cast<double>(Ways(kRanks, missing)) *
-                    static_cast<double>(Ways(kCardsInPack - kRanks, kSide - missing));
-  return 2 * ways / static_cast<double>(Ways(kCardsInPack, kSide));
+                    static_cast<double>(Ways(kCardsInPack - kRanks, kBothHands - missing));
+  return 2 * ways / static_cast<double>(Ways(kCardsInPack, kBothHands));
 }
 
 /// The chances, counted once.

@@ -14,11 +14,11 @@
 namespace tricklet {
 namespace {
 
-constexpr std::array kLetters{'n', 'e', 's', 'w'};
-constexpr std::size_t kColumn = 20;
+constexpr std::array kSeatLetters{'n', 'e', 's', 'w'};
+constexpr std::size_t kHandWidth = 20;
 
 std::string Padded(std::string text) {
-  text.resize(std::max(text.size(), kColumn), ' ');
+  text.resize(std::max(text.size(), kHandWidth), ' ');
   return text;
 }
 
@@ -69,8 +69,8 @@ void WritePage(std::ostream& out, Seat seat, std::span<const HandTable> deals) {
 void WriteLines(std::ostream& out, const HandTable& hands, char separator) {
   for (const Seat seat : kAllSeats) {
     int count = 0;
-    out << kLetters.at(static_cast<std::size_t>(seat)) << ' ' << HandDealText(hands[seat], count)
-        << separator;
+    out << kSeatLetters.at(static_cast<std::size_t>(seat)) << ' '
+        << HandDealText(hands[seat], count) << separator;
   }
 }
 

@@ -10,13 +10,13 @@ namespace {
 
 /// The rank at the front of `text`, which then holds what follows it.
 std::optional<Rank> TakeRank(std::string_view& text) {
-  constexpr std::string_view kLetters = "AKQJT98765432";
+  constexpr std::string_view kRankLetters = "AKQJT98765432";
   constexpr std::string_view kTen = "10";
   if (text.substr(0, kTen.size()) == kTen) {
     text.remove_prefix(kTen.size());
     return Rank::Ten;
   }
-  const auto index = kLetters.find(ToUpper(text.front()));
+  const auto index = kRankLetters.find(ToUpper(text.front()));
   if (index == std::string_view::npos) return std::nullopt;
   text.remove_prefix(1);
   return static_cast<Rank>(index);

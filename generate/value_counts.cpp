@@ -31,7 +31,7 @@ std::string Heading(std::size_t place, const ValueRange& range) {
   return std::to_string(range.low + static_cast<std::int64_t>(place) - 1);
 }
 
-constexpr int kColumn = 7;
+constexpr int kCellWidth = 7;
 
 }  // namespace
 
@@ -74,7 +74,7 @@ void ValueCounts::WriteRowsAndColumns(std::ostream& out) const {
   const std::size_t width = PlacesOf(columns);
   out << "    ";
   for (std::size_t column = 0; column < width; ++column) {
-    out << std::setw(kColumn) << Heading(column, columns);
+    out << std::setw(kCellWidth) << Heading(column, columns);
   }
   out << "    Sum\n";
   std::vector<std::int64_t> sums(width + 1);
@@ -86,13 +86,13 @@ void ValueCounts::WriteRowsAndColumns(std::ostream& out) const {
       const std::int64_t count = counts_[row * width + column];
       sum += count;
       sums[column] += count;
-      out << std::setw(kColumn) << count;
+      out << std::setw(kCellWidth) << count;
     }
     sums[width] += sum;
-    out << std::setw(kColumn) << sum << '\n';
+    out << std::setw(kCellWidth) << sum << '\n';
   }
   out << "Sum ";
-  for (const std::int64_t sum : sums) out << std::setw(kColumn) << sum;
+  for (const std::int64_t sum : sums) out << std::setw(kCellWidth) << sum;
   out << "\n\n";
 }
 

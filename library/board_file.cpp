@@ -9,7 +9,7 @@
 namespace tricklet {
 namespace {
 
-constexpr std::string_view kEnding = ".txt";
+constexpr std::string_view kBoardEnding = ".txt";
 constexpr std::string_view kLineEnd = "\r\n";
 
 /// Hands out one line after another, whichever way the lines end.
@@ -103,9 +103,9 @@ bool ReadTable(LineReader& lines, Board& board) {
 /// Where the disk does not tell letter case apart, any is right.
 bool IsEnding(std::string_view ending) {
 #ifdef _WIN32
-  return EqualNoCase(ending, kEnding);
+  return EqualNoCase(ending, kBoardEnding);
 #else
-  return ending == kEnding;
+  return ending == kBoardEnding;
 #endif
 }
 
@@ -113,12 +113,12 @@ bool IsEnding(std::string_view ending) {
 
 std::string BoardFileName(int boardNumber) {
   constexpr std::size_t kDigits = 3;
-  return ZeroPadded(boardNumber, kDigits) + std::string(kEnding);
+  return ZeroPadded(boardNumber, kDigits) + std::string(kBoardEnding);
 }
 
 int BoardNumberOfFile(std::string_view name) {
   constexpr std::size_t kDigits = 3;
-  if (name.size() != kDigits + kEnding.size() || !IsEnding(name.substr(kDigits))) return 0;
+  if (name.size() != kDigits + kBoardEnding.size() || !IsEnding(name.substr(kDigits))) return 0;
   int number = 0;
   for (const char c : name.substr(0, kDigits)) {
     if (c < '0' || c > '9') return 0;

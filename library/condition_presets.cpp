@@ -14,10 +14,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kEnding = ".dlr";
+constexpr std::string_view kPresetEnding = ".dlr";
 
 fs::path PresetPath(const Session& session, std::string_view name) {
-  return PresetsPath(session) / PathFromText(std::string(name) + std::string(kEnding));
+  return PresetsPath(session) / PathFromText(std::string(name) + std::string(kPresetEnding));
 }
 
 }  // namespace
@@ -32,8 +32,8 @@ std::vector<std::string> PresetNames(const Session& session) {
   if (!FolderExists(folder)) return names;
   ForEachEntry(folder, [&names](const fs::directory_entry& entry) {
     const std::string file = PathText(entry.path().filename());
-    if (!file.ends_with(kEnding) || !IsValidUtf8(file)) return;
-    std::string name = file.substr(0, file.size() - kEnding.size());
+    if (!file.ends_with(kPresetEnding) || !IsValidUtf8(file)) return;
+    std::string name = file.substr(0, file.size() - kPresetEnding.size());
     if (HasAllowedCharacters(name)) names.push_back(std::move(name));
   });
   std::sort(names.begin(), names.end(),
@@ -47,7 +47,7 @@ std::string LoadPreset(const Session& session, std::string_view name) {
 
 bool StorePreset(Session& session, std::string_view name, std::string_view text) {
   name = Trim(name);
-  if (!HasAllowedCharacters(name) || name.size() + kEnding.size() > kLongestLibraryName) {
+  if (!HasAllowedCharacters(name) || name.size() + kPresetEnding.size() > kLongestLibraryName) {
     session.host.Tell(name.empty() ? "A preset needs a name"
                                    : "A preset cannot be named " + ShownName(name));
     return false;

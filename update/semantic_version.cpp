@@ -20,18 +20,18 @@ std::vector<std::string> AtDots(std::string_view text) {
   }
 }
 
-bool ConsistsOf(std::string_view text, std::string_view characters) {
+bool IsMadeOf(std::string_view text, std::string_view characters) {
   return !text.empty() && text.find_first_not_of(characters) == std::string_view::npos;
 }
 
 bool IsDigits(const std::string& text) {
-  return ConsistsOf(text, kDigits);
+  return IsMadeOf(text, kDigits);
 }
 bool IsNumber(const std::string& text) {
   return IsDigits(text) && (text.size() == 1 || text.front() != '0');
 }
 bool IsBuildIdentifier(const std::string& text) {
-  return ConsistsOf(text, kIdentifier);
+  return IsMadeOf(text, kIdentifier);
 }
 bool IsPreReleaseIdentifier(const std::string& text) {
   return IsDigits(text) ? IsNumber(text) : IsBuildIdentifier(text);

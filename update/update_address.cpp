@@ -15,7 +15,7 @@ constexpr std::size_t kShownAddress = 60;  // bytes
 constexpr std::size_t kLongest = 2000;     // bytes; a browser takes no less
 constexpr std::array<std::string_view, 3> kLoopback{"localhost", "127.0.0.1", "[::1]"};
 
-constexpr std::string_view kDigits = "0123456789";
+constexpr std::string_view kPortDigits = "0123456789";
 constexpr std::string_view kHostName =
     "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz-.";
 constexpr std::string_view kHostNumber = "0123456789ABCDEFabcdef:.";  // between brackets
@@ -41,7 +41,7 @@ std::optional<std::string_view> HostOf(std::string_view authority) {
   const std::string_view port = authority.substr(host.size());
   if (!port.empty()) {
     const auto number = NumberFromText(port.substr(1));
-    if (port.front() != ':' || !ConsistsOf(port.substr(1), kDigits) || !number || *number < 1 ||
+    if (port.front() != ':' || !ConsistsOf(port.substr(1), kPortDigits) || !number || *number < 1 ||
         *number > UINT16_MAX) {
       return std::nullopt;
     }

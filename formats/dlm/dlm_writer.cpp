@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::size_t kNumberDigits = 2;
 
-std::string BoardLine(int number, const std::string& deal) {
+std::string LineOfBoard(int number, const std::string& deal) {
   return "Board " + ZeroPadded(number, kNumberDigits) + "=" + deal + "\r\n";
 }
 
@@ -30,11 +30,11 @@ std::string DLMBoardHead(int number) {
 }
 
 std::string DLMBoardLine(int number, const HandTable& hands) {
-  return BoardLine(number, EncodeDLMDeal(number, hands));
+  return LineOfBoard(number, EncodeDLMDeal(number, hands));
 }
 
 std::string DLMPlaceholderLine(int number) {
-  return BoardLine(number, WithDLMChecksum(number, kDLMPlaceholderDeal));
+  return LineOfBoard(number, WithDLMChecksum(number, kDLMPlaceholderDeal));
 }
 
 std::string DLMFooter() {

@@ -9,7 +9,7 @@
 namespace tricklet {
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r\n\v\f";
+constexpr std::string_view kBetweenCalls = " \t\r\n\v\f";
 constexpr int kPassesOfAllPass = 3;
 
 /// Appends `line` without its comments. `insideBraces`: a {comment} is open, before the line and
@@ -59,9 +59,9 @@ void ReadAuction(PbnLines& lines, CallList& calls) {
   const std::string section = CollectSection(lines);
   std::string_view rest = section;
   for (;;) {
-    rest.remove_prefix(std::min(rest.find_first_not_of(kBlanks), rest.size()));
+    rest.remove_prefix(std::min(rest.find_first_not_of(kBetweenCalls), rest.size()));
     if (rest.empty()) return;
-    const std::string_view word = rest.substr(0, rest.find_first_of(kBlanks));
+    const std::string_view word = rest.substr(0, rest.find_first_of(kBetweenCalls));
     AddWord(word, calls);
     rest.remove_prefix(word.size());
   }

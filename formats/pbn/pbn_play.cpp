@@ -14,20 +14,20 @@
 namespace tricklet {
 namespace {
 
-constexpr auto kEnd = std::string_view::npos;
+constexpr auto kNone = std::string_view::npos;
 
 /// Calls `use` with each word of the section until it returns false.
 void ForEachWord(const PbnGame& game, PbnTag section,
                  const std::function<bool(std::string_view)>& use) {
-  constexpr std::string_view kBlanks = " \t\v\f";
+  constexpr std::string_view kBetweenCards = " \t\v\f";
   const PbnField& field = game.fields[section];
   for (std::size_t i = field.firstPiece; i < field.endPiece; ++i) {
     std::string_view rest = game.pieces[i].text;
     while (!rest.empty()) {
-      const std::string_view word = rest.substr(0, rest.find_first_of(kBlanks));
+      const std::string_view word = rest.substr(0, rest.find_first_of(kBetweenCards));
       if (!word.empty() && !use(word)) return;
       rest.remove_prefix(word.size());
-      rest.remove_prefix(std::min(rest.find_first_not_of(kBlanks), rest.size()));
+      rest.remove_prefix(std::min(rest.find_first_not_of(kBetweenCards), rest.size()));
     }
   }
 }
@@ -35,7 +35,7 @@ void ForEachWord(const PbnGame& game, PbnTag section,
 /// Number and text of a note, "1: non-forcing".
 std::pair<std::string_view, std::string_view> NoteParts(std::string_view note) {
   const auto colon = note.find(':');
-  if (colon == kEnd) return {{}, Trim(note)};
+  if (colon == kNone) return {{}, Trim(note)};
   return {Trim(note.substr(0, colon)), Trim(note.substr(colon + 1))};
 }
 
@@ -92,8 +92,8 @@ class AuctionReader {
   /// Gives the last call the text of the note that `word` names, as "=1=" or at its end.
   void Explain(std::string_view word) {
     const auto first = word.find('=');
-    const auto second = first == kEnd ? kEnd : word.find('=', first + 1);
-    if (second == kEnd || auction_.calls.empty()) return;
+    const auto second = first == kNone ? kNone : word.find('=', first + 1);
+    if (second == kNone || auction_.calls.empty()) return;
     const auto note = notes_.find(word.substr(first + 1, second - first - 1));
     if (note == notes_.end()) return;
     // A record is one line of a file, in which nobody looks for more.

@@ -17,7 +17,7 @@ struct BadLine {
   std::string reason;  // set where the line does not show it
 };
 
-constexpr int kTableRows = kSeats * kStrains;
+constexpr int kRowsOfTable = kSeats * kStrains;
 
 /// The position of `c` in `letters`; throws `BadLine` when it is not there.
 std::size_t PositionIn(std::string_view letters, char c) {
@@ -76,11 +76,11 @@ bool EndsTable(std::string_view line) {
 
 void ReadOptimumResultTable(PbnLines& lines, Board& board) {
   std::int16_t lastTricks = 0;
-  for (int row = 0; row < kTableRows; ++row) {
+  for (int row = 0; row < kRowsOfTable; ++row) {
     lines.ReadNextLine();
     if (EndsTable(lines.Line())) {
       throw BadLine{"The double-dummy table of board " + std::to_string(board.boardNumber) +
-                    " has " + std::to_string(row) + " of its " + std::to_string(kTableRows) +
+                    " has " + std::to_string(row) + " of its " + std::to_string(kRowsOfTable) +
                     " rows"};
     }
     lastTricks = ReadTableRow(lines.Line(), board.makeable);
@@ -93,7 +93,7 @@ void ReadDoubleDummyTricks(std::string_view line, Board& board) {
   constexpr std::array kStrainOrder{TableStrain::NoTrump, TableStrain::Spades, TableStrain::Hearts,
                                     TableStrain::Diamonds, TableStrain::Clubs};
   const std::string digits = ToUpper(TagValue(line));
-  if (digits.size() < kTableRows) throw BadLine{};
+  if (digits.size() < kRowsOfTable) throw BadLine{};
   MakeableTable table;
   auto digit = digits.begin();
   for (const TableSeat declarer : kAllTableSeats) {

@@ -11,13 +11,13 @@
 namespace tricklet {
 namespace {
 
-constexpr std::string_view kBlanks = " \t";
+constexpr std::string_view kBetweenValues = " \t";
 constexpr auto kEnd = std::string_view::npos;
 
 /// Takes the word at the front of `text`; empty when there is none left.
 std::string_view TakeWord(std::string_view& text) {
-  text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-  const std::string_view word = text.substr(0, text.find_first_of(kBlanks));
+  text.remove_prefix(std::min(text.find_first_not_of(kBetweenValues), text.size()));
+  const std::string_view word = text.substr(0, text.find_first_of(kBetweenValues));
   text.remove_prefix(word.size());
   return word;
 }

@@ -12,7 +12,7 @@
 namespace tricklet {
 namespace {
 
-constexpr double kAll = 100;  // per cent
+constexpr double kWhole = 100;  // per cent
 constexpr float kMostPoints = 1e6;
 
 /// Points have few decimals, which single precision blurs: 3.3 is to be 3.3 when points are added
@@ -41,7 +41,7 @@ std::optional<double> SumShown(const TravellerRow& row, bool rulings) {
   const auto shares = PercentagesOf(row.adjusted);
   const auto& [ns, ew] = shares.values;
   if (!ns || !ew || *ns + *ew <= 0) return std::nullopt;
-  return Exact(static_cast<float>(SumOf(row) * kAll / (*ns + *ew)));
+  return Exact(static_cast<float>(SumOf(row) * kWhole / (*ns + *ew)));
 }
 
 /// The sum that most rows show; of several the largest.
@@ -113,7 +113,7 @@ BoardPoints MatchPointsOf(const Traveller& traveller) {
     const auto shares = PercentagesOf(traveller.rows[row].adjusted);
     for (const Side side : kSides) {
       if (points.rows[row][side] || !shares[side]) continue;
-      points.rows[row][side] = *points.top * Exact(*shares[side]) / kAll;
+      points.rows[row][side] = *points.top * Exact(*shares[side]) / kWhole;
     }
   }
   return points;
@@ -135,7 +135,7 @@ BoardPoints ImpsOf(const Traveller& traveller, int comparisons) {
 std::optional<double> PercentageOf(const BoardPoints& points, std::size_t row, Side side) {
   const auto& own = points.rows.at(row)[side];
   if (!own || !points.top) return std::nullopt;
-  return *own * kAll / *points.top;
+  return *own * kWhole / *points.top;
 }
 
 }  // namespace tricklet

@@ -13,7 +13,7 @@ namespace {
 constexpr float kAveragePlus = 60;
 constexpr float kAverage = 50;
 constexpr float kAverageMinus = 40;
-constexpr float kAll = 100;
+constexpr float kMostPercent = 100;
 
 /// `text` in upper case, without blanks and signs of per cent.
 std::string Bare(std::string_view text) {
@@ -35,7 +35,7 @@ std::optional<float> PercentageOf(std::string_view part) {
     if (part == "-") return kAverageMinus;
   }
   const auto number = NumberFromText<float>(part);
-  const bool possible = number && std::isfinite(*number) && *number >= 0 && *number <= kAll;
+  const bool possible = number && std::isfinite(*number) && *number >= 0 && *number <= kMostPercent;
   return possible ? number : std::nullopt;
 }
 

@@ -8,7 +8,7 @@
 namespace tricklet::ui {
 namespace {
 
-constexpr std::size_t kRemembered = 64;
+constexpr std::size_t kRememberedPlays = 64;
 
 /// How many cards two plays of the same deal and contract have in common; nothing where these
 /// differ.
@@ -107,7 +107,7 @@ void ReviewFinder::Post() {
 
 void ReviewFinder::Take(Answer answer) {
   if (answer.tricks.empty() && answer.failure.empty()) return;  // was not asked any more
-  if (answers_.size() == kRemembered) answers_.pop_front();
+  if (answers_.size() == kRememberedPlays) answers_.pop_front();
   answers_.push_back(std::move(answer));
   if (!record_) return;
   Show();

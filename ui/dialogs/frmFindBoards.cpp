@@ -52,7 +52,7 @@ frmFindBoards::frmFindBoards(Session& session, FindLook& look, QWidget* parent)
   connect(search_, &BoardSearch::Broken, this, &frmFindBoards::TellBroken);
   connect(search_, &BoardSearch::Ended, this, &frmFindBoards::ShowCounts);
   connect(grdFound, &FoundBoardsView::ChoiceChanged, this, &frmFindBoards::ShowState);
-  connect(grdFound, &FoundBoardsView::Entered, this, &frmFindBoards::Open);
+  connect(grdFound, &FoundBoardsView::Entered, this, &frmFindBoards::GoToBoard);
   connect(progress_, &ProgressFrame::Begun, this, &frmFindBoards::ShowState);
   connect(progress_, &ProgressFrame::Ended, this, &frmFindBoards::ShowState);
   new QShortcut(
@@ -127,7 +127,7 @@ QWidget* frmFindBoards::MakeFoot() {
   lblFound->setWordWrap(true);
   progress_ = new ProgressFrame(foot);
   for (auto* button : progress_->findChildren<QPushButton*>()) button->setAutoDefault(false);
-  cmdOpen = MakeButton("cmdOpen", tr("&Open"), tr("Go to the board (Enter)"), &frmFindBoards::Open);
+  cmdOpen = MakeButton("cmdOpen", tr("&Open"), tr("Go to the board (Enter)"), &frmFindBoards::GoToBoard);
   cmdCopyTo = MakeButton("cmdCopyTo", tr("&Copy to..."),
                          tr("Copy the chosen boards to another library"), &frmFindBoards::Copy);
   cmdRenumber =
@@ -273,7 +273,7 @@ bool frmFindBoards::EnterLibraryOf(const std::vector<BoardPlace>& boards) {
   return library == session_.LibraryName() || SelectLibrary(session_, library);
 }
 
-void frmFindBoards::Open() {
+void frmFindBoards::GoToBoard() {
   if (progress_->IsWorking()) return;
   const FoundBoard* current = grdFound->Current();
   if (current == nullptr) return;

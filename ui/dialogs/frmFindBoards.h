@@ -73,7 +73,7 @@ class frmFindBoards : public QDialog {
   bool OfOneLibrary(const std::vector<BoardPlace>& boards) const;
   bool EnterLibraryOf(const std::vector<BoardPlace>& boards);
   void With(const BoardsAction& action);
-  void Open();
+  void GoToBoard();
   void Copy();
   void Renumber();
   void Delete();

@@ -1,17 +1,13 @@
 #include "ui/table/caption_texts.h"
 
-#include <QCoreApplication>
 #include <QStringList>
 
 #include "core/statistics.h"
 #include "ui/style/qt_text.h"
+#include "ui/table/table_words.h"
 
 namespace tricklet::ui {
 namespace {
-
-struct Words {
-  Q_DECLARE_TR_FUNCTIONS(TableView)
-};
 
 const QString kBetween = QStringLiteral(" \u00B7 ");
 const QString kColon = QStringLiteral(": ");
@@ -27,16 +23,16 @@ Role RoleOf(const Board& board, const Settings& settings, Seat seat) {
 
 QString InFull(Role role) {
   if (role == Role::None) return {};
-  return role == Role::Declarer ? Words::tr("Declarer") : Words::tr("Dummy");
+  return role == Role::Declarer ? TableWords::tr("Declarer") : TableWords::tr("Dummy");
 }
 QString InShort(Role role) {
   if (role == Role::None) return {};
-  return role == Role::Declarer ? Words::tr("declarer") : Words::tr("dummy");
+  return role == Role::Declarer ? TableWords::tr("declarer") : TableWords::tr("dummy");
 }
 
 QString ToAct(const CaptionFacts& facts, Seat seat) {
   if (facts.toAct != seat) return {};
-  return facts.play ? Words::tr("to play") : Words::tr("to call");
+  return facts.play ? TableWords::tr("to play") : TableWords::tr("to call");
 }
 
 QString Joined(QStringList parts) {
@@ -45,7 +41,7 @@ QString Joined(QStringList parts) {
 }
 
 QString CardCount(int cards) {
-  return cards == 1 ? Words::tr("1 card") : Words::tr("%1 cards").arg(cards);
+  return cards == 1 ? TableWords::tr("1 card") : TableWords::tr("%1 cards").arg(cards);
 }
 
 QStringList Figures(const Statistics& statistics, const Settings& settings, Seat seat) {
@@ -53,10 +49,10 @@ QStringList Figures(const Statistics& statistics, const Settings& settings, Seat
   const int losers = statistics.seatLtc[seat];
   QStringList figures;
   if (settings.captionHcp) {
-    figures << (points == 1 ? Words::tr("1 point") : Words::tr("%1 points").arg(points));
+    figures << (points == 1 ? TableWords::tr("1 point") : TableWords::tr("%1 points").arg(points));
   }
   if (settings.captionLtc) {
-    figures << (losers == 1 ? Words::tr("1 loser") : Words::tr("%1 losers").arg(losers));
+    figures << (losers == 1 ? TableWords::tr("1 loser") : TableWords::tr("%1 losers").arg(losers));
   }
   return figures;
 }
@@ -68,7 +64,7 @@ QString FullCaption(const Board& board, const Settings& settings, const CaptionF
   const QString name = ToQt(facts.names[seat]);
   const QString role = InFull(RoleOf(board, settings, seat));
   const QString toAct = ToAct(facts, seat);
-  const QString hidden = facts.hidden[seat] ? Words::tr("hidden") : QString();
+  const QString hidden = facts.hidden[seat] ? TableWords::tr("hidden") : QString();
   if (facts.play || facts.hidden[seat]) {
     return (seatName + Joined({name, hidden, role, toAct})).trimmed();
   }
@@ -82,7 +78,7 @@ QString ShortCaption(const Board& board, const Settings& settings, const Caption
   QStringList parts{ToQt(SeatName[seat]), ToQt(facts.names[seat])};
   const bool cards = statistics.seatCardCount[seat] > 0;
   if (facts.hidden[seat]) {
-    parts << Words::tr("hidden");
+    parts << TableWords::tr("hidden");
   } else if (cards && (!facts.play || facts.toAct != seat)) {
     if (settings.captionnCards && statistics.seatCardCount[seat] != kCardsInHand) {
       parts << CardCount(statistics.seatCardCount[seat]);
@@ -131,8 +127,8 @@ PerSeat<QString> EditCaptions(const Board& board, const Settings& settings) {
 QString PackCaption(const Board& board, const Settings& settings) {
   int cards = 0;
   for (const Holding missing : GetStats(board.hands).missingCards) cards += missing.Count();
-  return Words::tr("Pack") + (settings.captionStyle == CaptionStyle::Short ? kBetween : kColon) +
-         CardCount(cards);
+  return TableWords::tr("Pack") +
+         (settings.captionStyle == CaptionStyle::Short ? kBetween : kColon) + CardCount(cards);
 }
 
 }  // namespace tricklet::ui

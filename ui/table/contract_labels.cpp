@@ -14,7 +14,7 @@ namespace {
 
 constexpr double kTextInLine = 0.72;  // of the line's height
 constexpr double kGap = 0.9;          // between two texts, of their size; the dot is in its middle
-constexpr double kDot = 0.13;
+constexpr double kDotSize = 0.13;
 
 QLabel* MakeLabel(const QString& name, QWidget* table) {
   auto* label = new QLabel(table);
@@ -123,7 +123,7 @@ void ContractLabels::DrawDots(QPainter& painter, const TableColours& colours) co
     for (const QLabel* label : row) {
       if (label == row.front()) continue;
       const QPointF middle(label->x() - kGap / 2 * size, label->geometry().center().y() + 1);
-      painter.drawEllipse(middle, kDot * size, kDot * size);
+      painter.drawEllipse(middle, kDotSize * size, kDotSize * size);
     }
   }
 }

@@ -3,30 +3,26 @@
 #include <algorithm>
 #include <cstdint>
 
-#include <QCoreApplication>
 #include <QFontMetricsF>
 
 #include "ui/style/qt_text.h"
 #include "ui/style/theme.h"
 #include "ui/table/descriptions.h"
+#include "ui/table/table_words.h"
 
 namespace tricklet::ui {
 namespace {
 
-struct Words {
-  Q_DECLARE_TR_FUNCTIONS(TableView)
-};
-
 QString SeatLetter(Seat seat) {
   switch (seat) {
     case Seat::North:
-      return Words::tr("N");
+      return TableWords::tr("N");
     case Seat::East:
-      return Words::tr("E");
+      return TableWords::tr("E");
     case Seat::South:
-      return Words::tr("S");
+      return TableWords::tr("S");
     default:
-      return Words::tr("W");
+      return TableWords::tr("W");
   }
 }
 
@@ -44,7 +40,7 @@ class SeatMark {
         font_(font),
         unit_(unit) {
     const bool oneLine = seat == Seat::North || seat == Seat::South;
-    if (vulnerable_) text_ += (oneLine ? u' ' : u'\n') + Words::tr("vul");
+    if (vulnerable_) text_ += (oneLine ? u' ' : u'\n') + TableWords::tr("vul");
     font_.setBold(true);
     font_.setPixelSize(std::max(1, static_cast<int>(unit)));
     const QSizeF text = QFontMetricsF(font_).size(0, text_);
@@ -86,7 +82,7 @@ class SeatMark {
     painter.drawEllipse(disc);
     painter.setPen(ReadableOn(kDealerYellow, Qt::black));
     painter.setFont(Fitted(font_, {QStringLiteral("M")}, disc.size() * 0.85, disc.height()));
-    painter.drawText(disc, Qt::AlignCenter, Words::tr("D", "dealer"));
+    painter.drawText(disc, Qt::AlignCenter, TableWords::tr("D", "dealer"));
   }
 
   bool vulnerable_;

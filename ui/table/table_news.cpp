@@ -2,29 +2,25 @@
 
 #include <array>
 
-#include <QCoreApplication>
 #include <QStringList>
 
 #include "ui/style/qt_text.h"
 #include "ui/table/descriptions.h"
+#include "ui/table/table_words.h"
 
 namespace tricklet::ui {
 namespace {
 
-struct Words {
-  Q_DECLARE_TR_FUNCTIONS(TableView)
-};
-
 QString RankWord(Rank rank) {
   switch (rank) {
     case Rank::Ace:
-      return Words::tr("ace");
+      return TableWords::tr("ace");
     case Rank::King:
-      return Words::tr("king");
+      return TableWords::tr("king");
     case Rank::Queen:
-      return Words::tr("queen");
+      return TableWords::tr("queen");
     case Rank::Jack:
-      return Words::tr("jack");
+      return TableWords::tr("jack");
     default:
       return ToQt(RankText[rank]);
   }
@@ -51,7 +47,7 @@ std::vector<Moved> CardsGone(const HandTable& before, const HandTable& now) {
 QStringList TurnWords(const PlaySnapshot& play) {
   if (play.finished) return {play.score};
   if (!play.now.onPlay) return {};
-  return {Words::tr("%1 to play").arg(ToQt(SeatName[*play.now.onPlay]))};
+  return {TableWords::tr("%1 to play").arg(ToQt(SeatName[*play.now.onPlay]))};
 }
 
 QStringList PlayNews(const PlaySnapshot& before, const PlaySnapshot& now) {
@@ -59,17 +55,17 @@ QStringList PlayNews(const PlaySnapshot& before, const PlaySnapshot& now) {
   const auto back = CardsGone(now.now.cardsLeft, before.now.cardsLeft);
   QStringList news;
   if (played.size() == 1) {
-    news << Words::tr("%1 plays the %2")
+    news << TableWords::tr("%1 plays the %2")
                 .arg(ToQt(SeatName[played[0].seat]), CardWords(played[0].card));
   } else if (back.size() == 1) {
-    news << Words::tr("%1 takes back the %2")
+    news << TableWords::tr("%1 takes back the %2")
                 .arg(ToQt(SeatName[back[0].seat]), CardWords(back[0].card));
   } else if (before.now.onPlay == now.now.onPlay && before.finished == now.finished) {
     return {};
   }
   if (before.tricks != now.tricks) {
     if (played.size() == 1) {
-      news << Words::tr("%1 wins the trick").arg(ToQt(SeatName[now.now.trickWinner]));
+      news << TableWords::tr("%1 wins the trick").arg(ToQt(SeatName[now.now.trickWinner]));
     }
     news << now.tricks[Side::NorthSouth] << now.tricks[Side::EastWest];
   }
@@ -80,7 +76,7 @@ QStringList HiddenNews(const TableScene& before, const TableScene& now) {
   QStringList news;
   for (const Seat seat : kAllSeats) {
     if (before.hidden[seat] == now.hidden[seat]) continue;
-    news << (now.hidden[seat] ? Words::tr("%1 is hidden") : Words::tr("%1 is shown"))
+    news << (now.hidden[seat] ? TableWords::tr("%1 is hidden") : TableWords::tr("%1 is shown"))
                 .arg(ToQt(SeatName[seat]));
   }
   return news;
@@ -93,9 +89,9 @@ QStringList News(const TableScene& before, const TableScene& now) {
   QStringList news = HiddenNews(before, now);
   if (before.play && now.play) return news + PlayNews(*before.play, *now.play);
   if (now.play) return news + QStringList{ToQt(ContractLabel(now.board))} + TurnWords(*now.play);
-  if (before.play) return news + QStringList{Words::tr("The play has ended")};
+  if (before.play) return news + QStringList{TableWords::tr("The play has ended")};
   if (now.toCall && before.toCall != now.toCall) {
-    news << Words::tr("%1 to call").arg(ToQt(SeatName[*now.toCall]));
+    news << TableWords::tr("%1 to call").arg(ToQt(SeatName[*now.toCall]));
   }
   return news;
 }
@@ -103,7 +99,7 @@ QStringList News(const TableScene& before, const TableScene& now) {
 }  // namespace
 
 QString CardWords(Card card) {
-  return Words::tr("%1 of %2").arg(RankWord(card.rank), ToQt(SuitName[card.suit]).toLower());
+  return TableWords::tr("%1 of %2").arg(RankWord(card.rank), ToQt(SuitName[card.suit]).toLower());
 }
 
 QString NewsOf(const TableScene& before, const TableScene& now) {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include <QCoreApplication>
 #include <QFontMetricsF>
 
 #include "ui/cards/card_glyphs.h"
@@ -10,13 +9,10 @@
 #include "ui/style/theme.h"
 #include "ui/table/descriptions.h"
 #include "ui/table/table_style.h"
+#include "ui/table/table_words.h"
 
 namespace tricklet::ui {
 namespace {
-
-struct Words {
-  Q_DECLARE_TR_FUNCTIONS(TableView)
-};
 
 constexpr QSizeF kReferenceSize(760, 680);
 constexpr double kPointsPerInch = 72;
@@ -207,8 +203,8 @@ void DrawTextHandInPlay(QPainter& painter, const QRectF& panel, const TextHandMe
 
 void DrawHiddenTextHand(QPainter& painter, const QRectF& area, const TextHandMeasures& measures,
                         int cards, Seat seat, const QPalette& palette) {
-  const QString line =
-      cards == 1 ? Words::tr("1 card face down") : Words::tr("%1 cards face down").arg(cards);
+  const QString line = cards == 1 ? TableWords::tr("1 card face down")
+                                  : TableWords::tr("%1 cards face down").arg(cards);
   const QSizeF most(area.width() - 2 * Padding(measures), measures.lineHeight);
   const QFont font = Fitted(measures.font, {line}, most, 0.6 * measures.font.pixelSize());
   const QSizeF size(QFontMetricsF(font).horizontalAdvance(line) + 2 * Padding(measures),
