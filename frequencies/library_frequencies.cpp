@@ -1,6 +1,7 @@
 #include "frequencies/library_frequencies.h"
 
 #include <set>
+#include <utility>
 
 #include "core/bounded_list.h"
 #include "core/fault.h"
@@ -50,7 +51,7 @@ bool Count(Session& session, Counted& counted) {
 
 }  // namespace
 
-std::optional<LibraryFrequencies> CountLibrary(Session& session) {
+std::optional<LibraryTally> TallyLibrary(Session& session) {
   Counted counted;
   try {
     if (!Count(session, counted)) return std::nullopt;
@@ -62,19 +63,28 @@ std::optional<LibraryFrequencies> CountLibrary(Session& session) {
     session.host.TellError("There are no complete deals in this library");
     return std::nullopt;
   }
-  LibraryFrequencies library;
-  library.frequencies =
-      FrequenciesOf(counted.deals, counted.makeable, OrdinarinessOf(counted.deals));
+  LibraryTally tally{counted.deals, counted.makeable, {}};
   if (!counted.incomplete.empty()) {
-    library.remarks.push_back(BoardsText(counted.incomplete, "is no complete deal and is left out",
-                                         "are no complete deals and are left out"));
+    tally.remarks.push_back(BoardsText(counted.incomplete, "is no complete deal and is left out",
+                                       "are no complete deals and are left out"));
   }
   if (!counted.withoutTable.empty()) {
-    library.remarks.push_back(
-        BoardsText(counted.withoutTable, "has no double-dummy table: its games are not counted",
-                   "have no double-dummy table: their games are not counted"));
+    tally.remarks.push_back(BoardsText(counted.withoutTable,
+                                       "has no double-dummy table: its games are not counted",
+                                       "have no double-dummy table: their games are not counted"));
   }
-  return library;
+  return tally;
+}
+
+LibraryFrequencies FrequenciesOf(LibraryTally tally) {
+  return {FrequenciesOf(tally.deals, tally.makeable, OrdinarinessOf(tally.deals)),
+          std::move(tally.remarks)};
+}
+
+std::optional<LibraryFrequencies> CountLibrary(Session& session) {
+  auto tally = TallyLibrary(session);
+  if (!tally) return std::nullopt;
+  return FrequenciesOf(std::move(*tally));
 }
 
 }  // namespace tricklet

@@ -10,6 +10,14 @@
 
 namespace tricklet {
 
+/// What the deals of a library are, counted.
+struct LibraryTally {
+  DealTally deals;  ///< at least one
+  MakeableTally makeable;
+  /// What is left out and why, a sentence each.
+  std::vector<std::string> remarks;
+};
+
 struct LibraryFrequencies {
   DealFrequencies frequencies;
   /// What is left out and why, a sentence each.
@@ -19,6 +27,12 @@ struct LibraryFrequencies {
 /// Counts the complete deals of the current library as they are stored, with the tables that they
 /// have. Nothing, after a message, when there is none or the disk does not give a board; nothing
 /// and no message when the person has cancelled.
+std::optional<LibraryTally> TallyLibrary(Session& session);
+
+/// Beside what is to be expected: deals sets at random, which takes up to a second on any thread.
+LibraryFrequencies FrequenciesOf(LibraryTally tally);
+
+/// Both, one after the other.
 std::optional<LibraryFrequencies> CountLibrary(Session& session);
 
 }  // namespace tricklet

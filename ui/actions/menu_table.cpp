@@ -19,13 +19,15 @@ constexpr std::array kMenus{
               "mnuRefresh | mnuImportLibrary mnuImportLibraries mnuExportLibrary "
               "mnuExportLibraries | mnuMoveLibraries"},
     MenuEntry{QT_TR_NOOP("&Board"),
-              "mnuNext mnuPrevious mnuFirst mnuLast mnuGoTo mnuFind mnuFindBoards mnuNotes | mnuSwap | mnuRandom "
+              "mnuNext mnuPrevious mnuFirst mnuLast mnuGoTo mnuFind mnuFindBoards mnuNotes | "
+              "mnuSwap | mnuRandom "
               "mnuFillFourth mnuUndoFill | mnuClearBoard mnuUndoClear"},
     MenuEntry{QT_TR_NOOP("&Play"),
               "mnuBidding | mnuPlay mnuPlayOn mnuUndoCard mnuGatherTrick mnuClaim mnuClaimTricks "
               "mnuKeepPlay | mnuProgramCard mnuBestLine mnuDefendBest mnuDeclareBest | "
               "mnuNextMistake mnuPreviousMistake"},
-    MenuEntry{QT_TR_NOOP("&Analysis"), "mnuDDS mnuAnalyse | mnuSimulate | mnuBSOL"},
+    MenuEntry{QT_TR_NOOP("&Analysis"),
+              "mnuDDS mnuAnalyse | mnuSimulate mnuDealStatistics | mnuBSOL"},
     MenuEntry{
         QT_TR_NOOP("&Results"),
         "mnuTraveller mnuReport | mnuLinForward mnuLinBack mnuLinNextTrick mnuLinPreviousTrick "
@@ -57,7 +59,8 @@ const char* const kTableContext =
     "mnuHideSouth mnuHideWest | mnuCopyHand mnuCopyDiagram mnuPasteHand | mnuSave "
     "mnuRevert | mnuPresentation";
 const char* const kBoardListContext =
-    "mnuCopyHand mnuPasteHand | mnuSave mnuRevert | mnuDDS mnuAnalyse | mnuFind mnuFindBoards mnuGoTo";
+    "mnuCopyHand mnuPasteHand | mnuSave mnuRevert | mnuDDS mnuAnalyse | mnuFind mnuFindBoards "
+    "mnuGoTo";
 const char* const kTravellerContext =
     "mnuLinForward mnuLinBack mnuLinNextTrick mnuLinPreviousTrick | mnuNextMistake "
     "mnuPreviousMistake | mnuPlayOn mnuLinLeave | mnuTraveller";

@@ -82,6 +82,8 @@ class Commands : public QObject {
   void Simulate();
   /// `mnuFindBoards`: boards of this library or of all; the person may go from there to one.
   void FindBoards();
+  /// `mnuDealStatistics`: what the deals of the library look like.
+  void DealStatistics();
   /// `mnuPublish`: the library as a web page.
   void Publish();
   void Save();

@@ -1,4 +1,4 @@
-// The command that reports on a session.
+// The commands that report on the boards of a library.
 #include <optional>
 
 #include "library/library_choice.h"
@@ -6,6 +6,7 @@
 #include "ui/commands/commands.h"
 #include "ui/control/play_control.h"
 #include "ui/dialogs/frmReport.h"
+#include "ui/dialogs/frmStatistics.h"
 
 namespace tricklet::ui {
 
@@ -26,6 +27,14 @@ void Commands::Report() {
   if (place && place->row >= 0 && place->boardNumber == session_.board.boardNumber) {
     emit RecordAsked(place->row);
   }
+}
+
+void Commands::DealStatistics() {
+  LeaveUnsaved([this] {
+    if (!SettleChanges(session_)) return;
+    frmStatistics dialog(session_, sheetFolder_, window_);
+    dialog.exec();
+  });
 }
 
 }  // namespace tricklet::ui

@@ -155,6 +155,7 @@ QVariant FoundBoardsModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::ToolTipRole && column == FoundColumn::Notes && !board.note.empty()) {
     return ToQt(board.note);
   }
+  if (role == Qt::ToolTipRole && column == FoundColumn::Par) return Text(board, column);
   if (role == Qt::TextAlignmentRole && column == FoundColumn::Number) {
     return QVariant(Qt::AlignRight | Qt::AlignVCenter);
   }

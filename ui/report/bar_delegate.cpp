@@ -12,12 +12,12 @@
 namespace tricklet::ui {
 namespace {
 
-constexpr double kWidthInLines = 2.6;  // of the room for bars, in heights of a line
 constexpr double kHeightInLines = 0.5;
+constexpr double kMarkWidth = 2;   // pixels
 constexpr double kShortest = 1.5;  // pixels: what is not zero can be seen
 
-double RoomFor(const QFontMetrics& metrics) {
-  return kWidthInLines * metrics.height();
+double RoomFor(const QFontMetrics& metrics, const QModelIndex& index) {
+  return index.data(ReportModel::BarWidthRole).toDouble() * metrics.height();
 }
 
 /// From zero to the number.
@@ -49,6 +49,14 @@ void DrawBar(QPainter& painter, const QRectF& room, CellBar kind, double part,
   }
 }
 
+/// Across the bar, so that it can be seen whether that ends before or behind it.
+void DrawMark(QPainter& painter, const QRectF& room, double part, const QColor& colour) {
+  const double at =
+      std::clamp(room.left() + part * room.width(), room.left(), room.right() - kMarkWidth);
+  const double out = room.height() / 3;
+  painter.fillRect(QRectF(at, room.top() - out, kMarkWidth, room.height() + 2 * out), colour);
+}
+
 }  // namespace
 
 void BarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -66,11 +74,15 @@ void BarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   const double height = kHeightInLines * cell.fontMetrics.height();
   const double margin = cell.fontMetrics.averageCharWidth();
   const QRectF room(cell.rect.left() + margin, cell.rect.center().y() + 0.5 - height / 2,
-                    RoomFor(cell.fontMetrics), height);
+                    RoomFor(cell.fontMetrics, index), height);
   painter->save();
   painter->setClipRect(cell.rect);
   DrawBar(*painter, room, static_cast<CellBar>(index.data(ReportModel::BarKindRole).toInt()),
           part.toDouble(), colour);
+  if (const QVariant mark = index.data(ReportModel::MarkRole); mark.isValid()) {
+    DrawMark(*painter, room, mark.toDouble(),
+             cell.palette.color(group, chosen ? QPalette::HighlightedText : QPalette::Text));
+  }
   painter->restore();
 }
 
@@ -78,7 +90,7 @@ QSize BarDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelInde
   QSize size = QStyledItemDelegate::sizeHint(option, index);
   if (index.data(ReportModel::BarKindRole).toInt() != static_cast<int>(CellBar::None)) {
     size.rwidth() += static_cast<int>(
-        std::ceil(RoomFor(option.fontMetrics) + 2 * option.fontMetrics.averageCharWidth()));
+        std::ceil(RoomFor(option.fontMetrics, index) + 2 * option.fontMetrics.averageCharWidth()));
   }
   return size;
 }

@@ -6,7 +6,7 @@
 namespace tricklet::ui {
 
 /// For the cells of a `ReportModel`. A bar to the right is filled; one to the left, of a number
-/// below zero, is an outline.
+/// below zero, is an outline. A line across it shows where it would end as expected.
 class BarDelegate : public QStyledItemDelegate {
   Q_OBJECT
 

@@ -22,12 +22,15 @@ struct ReportColumn {
   bool number = true;  ///< at the right; else a text, at the left
   bool wide = false;   ///< of names and the like: takes what room there is
   CellBar bar = CellBar::None;
+  double barWidth = 2.6;  ///< the longest that a bar can be, in heights of a line
 };
 
 struct ReportCell {
   QString text;                 ///< empty where nothing is known
   std::optional<double> value;  ///< by which it is sorted; cells without one come last
   QString tip = {};             ///< what stands behind the text; may be empty
+  /// Where the bar would end if the number were the one to be expected.
+  std::optional<double> mark = std::nullopt;
 };
 
 struct ReportGrid {

@@ -40,7 +40,8 @@ void ReportModel::Measure() {
   greatest_.assign(grid_.columns.size(), 0);
   for (const auto& row : grid_.rows) {
     for (std::size_t column = 0; column < row.size(); ++column) {
-      greatest_[column] = std::max(greatest_[column], std::abs(row[column].value.value_or(0)));
+      greatest_[column] = std::max({greatest_[column], std::abs(row[column].value.value_or(0)),
+                                    row[column].mark.value_or(0)});
     }
   }
 }
@@ -62,9 +63,8 @@ int ReportModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(grid_.columns.size());
 }
 
-QVariant ReportModel::BarOf(const QModelIndex& index) const {
+QVariant ReportModel::BarOf(const QModelIndex& index, const std::optional<double>& value) const {
   const double greatest = greatest_.at(static_cast<std::size_t>(index.column()));
-  const auto& value = At(index).value;
   if (ColumnAt(index.column()).bar == CellBar::None || !value || greatest <= 0) return {};
   return *value / greatest;
 }
@@ -93,7 +93,11 @@ QVariant ReportModel::data(const QModelIndex& index, int role) const {
       return static_cast<int>(Qt::AlignVCenter |
                               (ColumnAt(index.column()).number ? Qt::AlignRight : Qt::AlignLeft));
     case BarRole:
-      return BarOf(index);
+      return BarOf(index, At(index).value);
+    case MarkRole:
+      return BarOf(index, At(index).mark);
+    case BarWidthRole:
+      return ColumnAt(index.column()).barWidth;
     case BarKindRole:
       return static_cast<int>(ColumnAt(index.column()).bar);
     default:

@@ -16,7 +16,9 @@ class ReportModel : public QAbstractTableModel {
     /// double: the part of its column's greatest number, -1..1, with its sign; nothing where there
     /// is no picture.
     BarRole = Qt::UserRole,
-    BarKindRole,  ///< int: `CellBar`
+    BarKindRole,   ///< int: `CellBar`
+    BarWidthRole,  ///< double: `ReportColumn::barWidth`
+    MarkRole,      ///< double: of `ReportCell::mark`, as `BarRole`
   };
 
   using QAbstractTableModel::QAbstractTableModel;
@@ -35,7 +37,7 @@ class ReportModel : public QAbstractTableModel {
  private:
   const ReportCell& At(const QModelIndex& index) const;
   const ReportColumn& ColumnAt(int column) const;
-  QVariant BarOf(const QModelIndex& index) const;
+  QVariant BarOf(const QModelIndex& index, const std::optional<double>& value) const;
   QString TipOf(const QModelIndex& index) const;
   QString SpokenOf(const QModelIndex& index) const;
   void Measure();
