@@ -48,7 +48,8 @@ endfunction()
 
 # Builds that join sources, to read their headers once for a dozen, compile these one by one: their
 # sources have names of their own that are the same.
-set(tricklet_single_floors cli ui/dialogs ui/print ui/report ui/table)
+set(tricklet_single_floors
+  cli ui/actions ui/dialogs ui/panes ui/print ui/report ui/table)
 
 # tricklet_floor(FOLDER SOURCE...): the library of a folder. Sources are named inside the folder.
 function(tricklet_floor folder)

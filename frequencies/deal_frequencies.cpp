@@ -128,6 +128,11 @@ std::string Verdict(const std::optional<double>& share, int deals) {
   if (!share) return "Too few boards to tell how ordinary they are";
   constexpr double kRare = 0.01;
   constexpr double kUnusual = 0.05;
+  constexpr double kHardlyAny = 0.005;
+  if (*share < kHardlyAny) {
+    return "Fewer than 1 in 200 sets of " + BoardsText(deals) +
+           " dealt at random are like these: hardly by chance";
+  }
   const std::string these = "These " + BoardsText(deals) + " are as ordinary as " +
                             ShareText(*share) + " such sets dealt at random";
   if (*share < kRare) return these + ": hardly by chance";

@@ -38,8 +38,8 @@ BoardNotes LoadNotes(const Session& session);
 /// The notes of the library in `folder`, likewise.
 BoardNotes LoadNotesOf(const std::filesystem::path& folder);
 
-/// Puts them into the file of the library that `write` changes, which is kept for the recycle bin as
-/// `write` keeps what it replaces. Throws `Fault`, and then the old file is as it was.
+/// Puts them into the file of the library that `write` changes, which is kept for the recycle bin
+/// as `write` keeps what it replaces. Throws `Fault`, and then the old file is as it was.
 void StoreNotes(const BoardNotes& notes, LibraryWrite& write);
 
 /// Gives one board of the current library the text `note`; an empty one takes its notes away. The

@@ -85,7 +85,10 @@ class Analysis:
         """What decides on the findings: checks, tool, flags, and the text of the sources with all
         that they include, comments too, as some of them silence a check. The same in every checkout."""
         command = ["g++", "-E", "-P", "-C", *flags, file]
-        text = subprocess.run(command, check=True, capture_output=True).stdout
+        done = subprocess.run(command, capture_output=True, check=False)
+        if done.returncode != 0:
+            sys.exit(f"{file} cannot be read:\n{done.stderr.decode(errors='replace')}")
+        text = done.stdout
         parts = [config, self.version, shlex.join(flags)]
         head = "\n".join(parts).replace(self.root, ".").encode()
         return hashlib.sha256(head + text.replace(self.root.encode(), b".")).hexdigest()

@@ -78,9 +78,9 @@ TEST(Ordinariness, KnowsWildHandsFromOrdinaryOnes) {
   const Ordinariness ordinary = OrdinarinessOf(wild);
   EXPECT_LT(ordinary.share[Aspect::Shapes].value_or(1), 0.005);
   const DealFrequencies frequencies = FrequenciesOf(wild, {}, ordinary);
-  EXPECT_EQ(frequencies.verdict,
-            "These 36 boards are as ordinary as fewer than 1 in 200 such sets dealt at random: "
-            "hardly by chance");
+  EXPECT_EQ(
+      frequencies.verdict,
+      "Fewer than 1 in 200 sets of 36 boards dealt at random are like these: hardly by chance");
   EXPECT_FALSE(OrdinarinessOf(RandomDeals(4, 1)).together);
 }
 

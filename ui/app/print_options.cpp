@@ -35,7 +35,8 @@ constexpr std::array kOutputs{
               "DIR"}};
 
 constexpr std::array kChoices{
-    Described{"boards", QT_TRANSLATE_NOOP("Launch", "Boards on the sheets, for example 1-36 or 1-3,7."),
+    Described{"boards",
+              QT_TRANSLATE_NOOP("Launch", "Boards on the sheets, for example 1-36 or 1-3,7."),
               "RANGE"},
     Described{"layout", QT_TRANSLATE_NOOP("Launch", "records, lesson, slips or travellers."),
               "NAME"},

@@ -30,11 +30,13 @@ void Commands::Report() {
 }
 
 void Commands::DealStatistics() {
+  emit Dealing(true);
   LeaveUnsaved([this] {
     if (!SettleChanges(session_)) return;
     frmStatistics dialog(session_, sheetFolder_, window_);
     dialog.exec();
   });
+  emit Dealing(false);
 }
 
 }  // namespace tricklet::ui

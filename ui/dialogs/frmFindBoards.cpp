@@ -127,7 +127,8 @@ QWidget* frmFindBoards::MakeFoot() {
   lblFound->setWordWrap(true);
   progress_ = new ProgressFrame(foot);
   for (auto* button : progress_->findChildren<QPushButton*>()) button->setAutoDefault(false);
-  cmdOpen = MakeButton("cmdOpen", tr("&Open"), tr("Go to the board (Enter)"), &frmFindBoards::GoToBoard);
+  cmdOpen =
+      MakeButton("cmdOpen", tr("&Open"), tr("Go to the board (Enter)"), &frmFindBoards::GoToBoard);
   cmdCopyTo = MakeButton("cmdCopyTo", tr("&Copy to..."),
                          tr("Copy the chosen boards to another library"), &frmFindBoards::Copy);
   cmdRenumber =

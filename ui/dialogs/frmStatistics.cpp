@@ -107,8 +107,7 @@ void frmStatistics::Count() {
     done(closing_.value_or(Rejected));  // why there is nothing has been told
     return;
   }
-  lblVerdict->setText(
-      tr("%1 deals. They are being compared with deals at random...").arg(tally->deals.deals));
+  lblVerdict->setText(tr("The deals are being compared with others, dealt at random..."));
   const auto counted = std::make_shared<std::optional<LibraryFrequencies>>();
   worker_->Post([counted, tally = std::move(*tally)] { *counted = FrequenciesOf(tally); },
                 [this, counted] {
@@ -120,7 +119,7 @@ void frmStatistics::Count() {
 void frmStatistics::Show() {
   if (!counted_) return;
   const DealFrequencies& frequencies = counted_->frequencies;
-  lblVerdict->setText(tr("%1 deals. %2").arg(frequencies.deals).arg(ToQt(frequencies.verdict)));
+  lblVerdict->setText(ToQt(frequencies.verdict));
   for (const FrequencyTable& table : frequencies.tables) AddTable(table);
   QStringList remarks;
   for (const std::string& remark : counted_->remarks) remarks += ToQt(remark);
@@ -177,7 +176,9 @@ void frmStatistics::SaveTable() {
 }
 
 void frmStatistics::CopyTable() {
-  QApplication::clipboard()->setText(ToQt(AlignedFrequencies(counted_->frequencies)));
+  QString text = ToQt(AlignedFrequencies(counted_->frequencies));
+  for (const std::string& remark : counted_->remarks) text += ToQt(remark) + u'\n';
+  QApplication::clipboard()->setText(text);
   lblSaid->setText(tr("The tables have been copied"));
 }
 
