@@ -1,4 +1,5 @@
 // The command that deals to conditions, and tells which deals of a file meet them.
+#include <algorithm>
 #include <memory>
 #include <optional>
 #include <ostream>
@@ -119,6 +120,18 @@ ExitCode EndOfRun(Host& host, const DealRunOutcome& run) {
   return ExitCode::Refused;
 }
 
+/// Below what the actions wrote; apart from it where that is PBN for another program.
+void TellRun(const Context& context, const Script& script, const std::string& text) {
+  const bool pbn = std::ranges::any_of(script.Actions(), [](const ScriptAction& action) {
+    return action.kind == ActionKind::PrintPBN;
+  });
+  if (pbn) {
+    context.session.host.Tell(text);
+  } else {
+    context.data << text << '\n';
+  }
+}
+
 ExitCode WriteDeals(const Context& context, std::shared_ptr<const Script> script, Solver* solver,
                     const DealArguments& asked, DealRunOptions options) {
   const bool own = asked.format == "lin" || asked.format == "dlm";
@@ -150,7 +163,10 @@ ExitCode WriteDeals(const Context& context, std::shared_ptr<const Script> script
     }
     context.data << DLMFooter();
   }
-  if (asked.format.empty()) report.Finish(run);
+  if (asked.format.empty()) {
+    report.Finish();
+    TellRun(context, *script, DealRunText(run, options.seed));
+  }
   return EndOfRun(context.session.host, run);
 }
 
@@ -179,8 +195,9 @@ ExitCode Deal(const Context& context, const DealArguments& asked) {
   Solver* solver = nullptr;
   if (!SolverFor(session, *script, solver)) return ExitCode::Refused;
   if (!asked.check.empty()) return CheckFile(context, script, solver, asked);
-  const DealRunOptions options{.produce = asked.produce.value_or(script->Produce()),
-                               .generate = asked.generate.value_or(script->Generate()),
+  const std::int64_t generate = asked.generate.value_or(script->Generate());
+  const DealRunOptions options{.produce = asked.produce.value_or(script->Produce(generate)),
+                               .generate = generate,
                                .seed = SeedOf(*script, asked),
                                .cores = asked.cores};
   if (asked.first > 0) return StoreBoards(context, script, solver, asked, options);

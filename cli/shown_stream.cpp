@@ -19,6 +19,10 @@ bool ShownLines::PassOn() {
 
 ShownLines::int_type ShownLines::overflow(int_type c) {
   if (traits_type::eq_int_type(c, traits_type::eof())) return traits_type::not_eof(c);
+  if (traits_type::to_char_type(c) == '\f') {
+    // A page ends. To a terminal that is an empty line, and no order.
+    return PassOn() && below_.put('\f') ? c : traits_type::eof();
+  }
   line_ += traits_type::to_char_type(c);
   return line_.back() != '\n' || PassOn() ? c : traits_type::eof();
 }

@@ -30,8 +30,9 @@ ActionKind KindOf(WordCode code) {
   }
 }
 
-bool IsAction(const ScriptCursor& cursor) {
-  return cursor.WordHere() != nullptr && cursor.WordHere()->kind == WordKind::Action;
+bool IsAction(const ScriptCursor& cursor, std::size_t ahead = 0) {
+  const Word* const word = cursor.WordHere(ahead);
+  return word != nullptr && word->kind == WordKind::Action;
 }
 
 }  // namespace
@@ -72,6 +73,9 @@ ScriptAction ScriptReader::ReadAction(const Word& word) {
         action.seats.push_back(ReadSeat());
       } while (cursor_.TakeSign(","));
       cursor_.Expect(")");
+      // A page for each of them, clockwise from North, in whatever order they are named.
+      std::ranges::sort(action.seats);
+      action.seats.erase(std::ranges::unique(action.seats).begin(), action.seats.end());
       break;
     case ActionKind::PrintCompact:
     case ActionKind::PrintOneLine:
@@ -97,7 +101,12 @@ ScriptAction ScriptReader::ReadAction(const Word& word) {
 }
 
 void ScriptReader::ReadPieces(ScriptAction& action) {
-  cursor_.Expect("(");
+  // The brackets may be missing: then another action, or the end, ends the list.
+  const bool bracketed = cursor_.TakeSign("(");
+  const auto goesOn = [&] {
+    if (!bracketed && (IsAction(cursor_, 1) || cursor_.Here(1).length == 0)) return false;
+    return cursor_.TakeSign(",");
+  };
   do {
     if (cursor_.KindIs(TokenKind::Text)) {
       action.pieces.push_back({.text = ReadTitle()});
@@ -106,8 +115,8 @@ void ScriptReader::ReadPieces(ScriptAction& action) {
     } else {
       action.pieces.push_back({.expression = ReadExpression(), .text = {}});
     }
-  } while (cursor_.TakeSign(","));
-  cursor_.Expect(")");
+  } while (goesOn());
+  if (bracketed) cursor_.Expect(")");
 }
 
 void ScriptReader::ReadFrequency(ScriptAction& action) {

@@ -40,6 +40,7 @@ void ScriptReader::ReadPredeal() {
 
 void ScriptReader::ReadPredealtCards() {
   const Seat seat = ReadSeat();
+  cursor_.TakeSign(",");  // may stand there
   HandTable& cards = content_.predealt.cards;
   do {
     const std::string_view word = cursor_.Text();

@@ -117,6 +117,8 @@ void ScriptReader::ReadPoints(CountKind kind) {
   content_.counts[static_cast<std::size_t>(kind)] = PointsTable(points);
 }
 
+// As the manual of dealer has it. Debian's program (20211121) counts from 2 here: its "altcount 5"
+// is what "pt3" asks for.
 void ScriptReader::ReadAltCount() {
   const Token where = cursor_.Here();
   const std::int64_t number = cursor_.ExpectNumber();

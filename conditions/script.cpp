@@ -40,10 +40,9 @@ bool Script::Prints() const {
                              [](const ScriptAction& action) { return PrintsDeals(action.kind); });
 }
 
-std::int64_t Script::Produce() const {
+std::int64_t Script::Produce(std::int64_t generate) const {
   constexpr std::int64_t kPrinted = 40;
-  constexpr std::int64_t kCounted = 100000;
-  return content_.produce.value_or(Prints() ? kPrinted : kCounted);
+  return content_.produce.value_or(Prints() ? kPrinted : generate);
 }
 
 std::int64_t Script::Generate() const {

@@ -102,8 +102,9 @@ class Script {
   bool Prints() const;
   /// Whether the condition or an action asks for double-dummy tricks.
   bool UsesSolver() const { return usesSolver_; }
-  /// Deals wanted: as the script says, else 40 where deals are printed, 100,000 elsewhere.
-  std::int64_t Produce() const;
+  /// Deals wanted when `generate` are tried at the most: as the script says, else 40 where deals
+  /// are printed, and all that are found where they are only counted.
+  std::int64_t Produce(std::int64_t generate) const;
   /// Deals tried at the most: as the script says, else 10,000,000.
   std::int64_t Generate() const;
 

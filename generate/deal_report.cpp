@@ -163,7 +163,7 @@ void DealReport::WritePbn(const HandTable& hands) {
        << SolverDealText(hands) << "\"]\n[Declarer \"?\"]\n[Contract \"?\"]\n[Result \"?\"]\n\n";
 }
 
-void DealReport::Finish(const DealRunOutcome& outcome) {
+void DealReport::Finish() {
   for (std::size_t i = 0; i < gathered_.size(); ++i) {
     const ScriptAction& action = script_->Actions()[i];
     const Gathered& gathered = gathered_[i];
@@ -180,10 +180,14 @@ void DealReport::Finish(const DealRunOutcome& outcome) {
       }
     }
   }
-  out_ << "Generated " << outcome.tried << " hands\nProduced " << outcome.produced
-       << " hands\nInitial random seed " << seed_ << "\nTime needed " << std::fixed
-       << std::setprecision(3) << std::setw(8) << outcome.seconds << " sec\n"
-       << std::defaultfloat;
+}
+
+std::string DealRunText(const DealRunOutcome& outcome, std::uint64_t seed) {
+  std::ostringstream text;
+  text << "Generated " << outcome.tried << " hands\nProduced " << outcome.produced
+       << " hands\nInitial random seed " << seed << "\nTime needed " << std::fixed
+       << std::setprecision(3) << std::setw(8) << outcome.seconds << " sec";
+  return text.str();
 }
 
 }  // namespace tricklet

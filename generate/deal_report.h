@@ -17,6 +17,9 @@ namespace tricklet {
 /// Every expression that the actions of a script want for a deal, in their order.
 std::vector<ExpressionId> ExpressionsOf(const Script& script);
 
+/// How many deals a run has tried and found, its seed and its time, in four lines.
+std::string DealRunText(const DealRunOutcome& outcome, std::uint64_t seed);
+
 class DealReport {
  public:
   /// `name`: of the script, for PBN. `seed`: of the run.
@@ -25,8 +28,8 @@ class DealReport {
 
   /// Writes what is written for each deal. Its values are those of `ExpressionsOf`.
   void Add(const FoundDeal& deal);
-  /// Writes what is written at the end, and how many deals there were.
-  void Finish(const DealRunOutcome& outcome);
+  /// Writes what is written at the end.
+  void Finish();
 
  private:
   /// What an action remembers of the deals.

@@ -49,6 +49,17 @@ TEST_F(DealCommand, StoresBoardsAndNamesFaults) {
       << err;
 }
 
+TEST_F(DealCommand, EndsPagesAndKeepsPbnToItself) {
+  ASSERT_EQ(Run("deal " + Script("produce 1\naction print(west, east), printes \"x\", 7")), 0)
+      << err;
+  EXPECT_EQ(std::count(out.begin(), out.end(), '\f'), 2) << out;
+  EXPECT_LT(out.find("East hands:"), out.find("West hands:"));
+  EXPECT_TRUE(out.starts_with("x7")) << out;
+  ASSERT_EQ(Run("deal " + Script("produce 1\npredeal north, SA\naction printpbn")), 0) << err;
+  EXPECT_TRUE(out.ends_with("[Result \"?\"]\n\n")) << out;
+  EXPECT_NE(err.find("Produced 1 hands"), std::string::npos) << err;
+}
+
 /// What dealer finds is found here, and as often: within five standard errors of the difference.
 TEST_F(DealCommand, AgreesWithDealer) {
   const std::string condition =
