@@ -8,7 +8,8 @@
 namespace tricklet::cli {
 
 /// The buffer of a stream whose lines come out of another as `ShowableLines` gives them, so that
-/// nothing of a library or a file is an order to the terminal; form feeds pass. When the other fails, so does it.
+/// nothing of a library or a file is an order to the terminal; form feeds pass. When the other
+/// fails, so does it.
 class ShownLines : public std::streambuf {
  public:
   explicit ShownLines(std::ostream& below) : below_(below) {}
