@@ -121,6 +121,8 @@ TEST(DealReport, WritesOfDealersDealsWhatDealerWrites) {
       scores += ",\" \",score(vul" + contract + ",\" \",score(nv" + contract;
     }
   }
+  // Long scripts stand in several literals.
+  // NOLINTBEGIN(bugprone-suspicious-missing-comma)
   const std::string cases[] = {
       "produce 2000 action printoneline, " +
           OfEverything({"hcp", "controls", "losers", "quality", "cccc"}),
@@ -146,6 +148,7 @@ TEST(DealReport, WritesOfDealersDealsWhatDealerWrites) {
       "produce 20 action printoneline, printpbn",
       "produce 2 vulnerable EW dealer west action printoneline, printpbn",
   };
+  // NOLINTEND(bugprone-suspicious-missing-comma)
   for (const std::string& script : cases) {
     const std::string theirs = RunDealer(AsDealerCounts(script));
     const std::vector<HandTable> deals = DealsIn(theirs);
