@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -19,6 +18,7 @@
 #include "ui/dialogs/frmNumberBoards.h"
 #include "ui/finding/board_search.h"
 #include "ui/finding/found_boards_view.h"
+#include "ui/style/dialog_parts.h"
 #include "ui/style/progress_frame.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/section.h"
@@ -26,7 +26,6 @@
 namespace tricklet::ui {
 namespace {
 
-constexpr int kFrame = 48;         // room for the title bar and borders of a window
 constexpr int kPause = 250;        // milliseconds after the last key
 constexpr int kLongestText = 500;  // characters that can be typed
 
@@ -111,10 +110,8 @@ QWidget* frmFindBoards::MakeHead() {
 
 QPushButton* frmFindBoards::MakeButton(const char* name, const QString& text, const QString& tip,
                                        void (frmFindBoards::*action)()) {
-  auto* button = new QPushButton(text, this);
-  button->setObjectName(QString::fromLatin1(name));
+  QPushButton* button = MakeCommandButton(name, text, this);
   button->setToolTip(tip);
-  button->setAutoDefault(false);  // Enter belongs to the box and the list
   connect(button, &QPushButton::clicked, this, action);
   return button;
 }
@@ -126,7 +123,6 @@ QWidget* frmFindBoards::MakeFoot() {
   lblFound->setTextFormat(Qt::PlainText);
   lblFound->setWordWrap(true);
   progress_ = new ProgressFrame(foot);
-  for (auto* button : progress_->findChildren<QPushButton*>()) button->setAutoDefault(false);
   cmdOpen =
       MakeButton("cmdOpen", tr("&Open"), tr("Go to the board (Enter)"), &frmFindBoards::GoToBoard);
   cmdCopyTo = MakeButton("cmdCopyTo", tr("&Copy to..."),
@@ -164,7 +160,7 @@ void frmFindBoards::SetTabOrder() {
 }
 
 void frmFindBoards::SetFirstSize() {
-  resize(sizeHint().boundedTo(screen()->availableSize() - QSize(kFrame, kFrame)));
+  resize(sizeHint().boundedTo(RoomForDialog(*this)));
 }
 
 void frmFindBoards::LookSoon() {

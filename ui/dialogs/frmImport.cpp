@@ -12,7 +12,6 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
-#include <QScreen>
 #include <QSpinBox>
 #include <QVBoxLayout>
 
@@ -21,13 +20,13 @@
 #include "ui/dialogs/import_rows_model.h"
 #include "ui/dialogs/import_rows_view.h"
 #include "ui/dialogs/name_filter.h"
+#include "ui/style/dialog_parts.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/section.h"
 
 namespace tricklet::ui {
 namespace {
 
-constexpr int kFrame = 48;           // room for the title bar and borders of a window
 constexpr int kNameCharacters = 32;  // of a library's name that are in sight
 
 /// Some game of the file has what `has` looks for.
@@ -253,7 +252,7 @@ void frmImport::SetTabOrder() {
 
 /// As large as its table would like to be, but never larger than the screen.
 void frmImport::SetFirstSize() {
-  const QSize room = screen()->availableSize() - QSize(kFrame, kFrame);
+  const QSize room = RoomForDialog(*this);
   resize(sizeHint().boundedTo(room));
 }
 

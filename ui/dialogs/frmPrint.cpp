@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QTimer>
@@ -19,14 +18,13 @@
 #include "publish/sheet_pages.h"
 #include "ui/dialogs/sheet_options.h"
 #include "ui/dialogs/sheet_preview.h"
+#include "ui/style/dialog_parts.h"
 #include "ui/style/progress_frame.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/section.h"
 
 namespace tricklet::ui {
 namespace {
-
-constexpr int kFrame = 48;  // room for the title bar and borders of a window
 
 SheetProposal ProposalFor(const Session& session) {
   return {.library = session.LibraryName(),
@@ -92,10 +90,10 @@ void frmPrint::MakeFields() {
 QWidget* frmPrint::MakePreview() {
   auto* preview = new QWidget(this);
   picSheet = new SheetPreview(preview);
-  cmdPreviousPage = MakeButton("cmdPreviousPage", QStringLiteral("\u25C0"));
+  cmdPreviousPage = MakeCommandButton("cmdPreviousPage", QStringLiteral("\u25C0"), this);
   cmdPreviousPage->setAccessibleName(tr("Previous page"));
   cmdPreviousPage->setToolTip(tr("Previous page (Page Up)"));
-  cmdNextPage = MakeButton("cmdNextPage", QStringLiteral("\u25B6"));
+  cmdNextPage = MakeCommandButton("cmdNextPage", QStringLiteral("\u25B6"), this);
   cmdNextPage->setAccessibleName(tr("Next page"));
   cmdNextPage->setToolTip(tr("Next page (Page Down)"));
   lblPage = new QLabel(preview);
@@ -122,24 +120,17 @@ QWidget* frmPrint::MakePreview() {
   return preview;
 }
 
-QPushButton* frmPrint::MakeButton(const char* name, const QString& text) {
-  auto* button = new QPushButton(text, this);
-  button->setObjectName(QString::fromLatin1(name));
-  button->setAutoDefault(false);
-  return button;
-}
-
 QWidget* frmPrint::MakeButtons() {
   auto* buttons = new QWidget(this);
   lblSaid = new ElidedLabel(buttons);
   lblSaid->setObjectName(QStringLiteral("lblSaid"));
   progress_ = new ProgressFrame(buttons);
   MakeQuiet(lblSaid);
-  cmdPrint = MakeButton("cmdPrint", tr("&Print..."));
+  cmdPrint = MakeCommandButton("cmdPrint", tr("&Print..."), this);
   cmdPrint->setDefault(true);
-  cmdPdf = MakeButton("cmdPdf", tr("Save as P&DF..."));
-  cmdPictures = MakeButton("cmdPictures", tr("Sa&ve as pictures..."));
-  cmdClose = MakeButton("cmdClose", tr("Close"));
+  cmdPdf = MakeCommandButton("cmdPdf", tr("Save as P&DF..."), this);
+  cmdPictures = MakeCommandButton("cmdPictures", tr("Sa&ve as pictures..."), this);
+  cmdClose = MakeCommandButton("cmdClose", tr("Close"), this);
   auto* row = new QHBoxLayout(buttons);
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(lblSaid, 1);
@@ -185,7 +176,7 @@ void frmPrint::BeginAtRange() {
 
 /// So large that the page can be read, on its side too, where the screen has room for that.
 void frmPrint::SetFirstSize() {
-  const QSize room = screen()->availableSize() - QSize(kFrame, kFrame);
+  const QSize room = RoomForDialog(*this);
   const int height = std::min(room.height(), picSheet->sizeHint().height() * 5 / 4);
   const int width = sizeHint().width() - picSheet->sizeHint().width() + height;
   resize(QSize(width, height).boundedTo(room));

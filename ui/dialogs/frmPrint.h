@@ -53,7 +53,6 @@ class frmPrint : public QDialog {
   void MakeFields();
   QWidget* MakePreview();
   QWidget* MakeButtons();
-  QPushButton* MakeButton(const char* name, const QString& text);
   void SetTabOrder();
   void BeginAtRange();
   void SetFirstSize();

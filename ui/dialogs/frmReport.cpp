@@ -7,13 +7,10 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-#include "core/fault.h"
-#include "disk/file_io.h"
 #include "review/play_review.h"
 #include "review/report_sheet.h"
 #include "review/report_source.h"
@@ -21,6 +18,7 @@
 #include "ui/background/later.h"
 #include "ui/report/report_sheets.h"
 #include "ui/report/report_texts.h"
+#include "ui/style/dialog_parts.h"
 #include "ui/style/progress_frame.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/section.h"
@@ -28,7 +26,6 @@
 namespace tricklet::ui {
 namespace {
 
-constexpr int kFrame = 48;  // room for the title bar and borders of a window
 constexpr int kMostRemarks = 3;
 
 /// A solver that is loaded when it is first asked for; null, with the reason in `why`, without one.
@@ -84,27 +81,19 @@ frmReport::frmReport(Session& session, ReportLook& look, std::filesystem::path& 
   ShowState();
 }
 
-QPushButton* frmReport::MakeButton(const char* name, const QString& text) {
-  auto* button = new QPushButton(text, this);
-  button->setObjectName(QString::fromLatin1(name));
-  button->setAutoDefault(false);  // Enter belongs to the tables
-  return button;
-}
-
 QWidget* frmReport::MakeFoot() {
   auto* foot = new QWidget(this);
   lblSaid = new ElidedLabel(foot);
   lblSaid->setObjectName(QStringLiteral("lblSaid"));
   MakeQuiet(lblSaid);
   progress_ = new ProgressFrame(foot);
-  for (auto* button : progress_->findChildren<QPushButton*>()) button->setAutoDefault(false);
-  cmdGo = MakeButton("cmdGo", tr("&Go to board"));
+  cmdGo = MakeCommandButton("cmdGo", tr("&Go to board"), this);
   cmdGo->setToolTip(tr("Close the report and look at the chosen result (Enter)"));
-  cmdCsv = MakeButton("cmdCsv", tr("Save as &CSV..."));
+  cmdCsv = MakeCommandButton("cmdCsv", tr("Save as &CSV..."), this);
   cmdCsv->setToolTip(tr("Save the upper table, with all its numbers, for a spreadsheet"));
-  cmdPrint = MakeButton("cmdPrint", tr("&Print..."));
-  cmdPdf = MakeButton("cmdPdf", tr("Save as P&DF..."));
-  cmdClose = MakeButton("cmdClose", tr("Close"));
+  cmdPrint = MakeCommandButton("cmdPrint", tr("&Print..."), this);
+  cmdPdf = MakeCommandButton("cmdPdf", tr("Save as P&DF..."), this);
+  cmdClose = MakeCommandButton("cmdClose", tr("Close"), this);
   auto* row = new QHBoxLayout(foot);
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(lblSaid, 1);
@@ -127,7 +116,7 @@ void frmReport::SetTabOrder() {
 }
 
 void frmReport::SetFirstSize() {
-  const QSize room = screen()->availableSize() - QSize(kFrame, kFrame);
+  const QSize room = RoomForDialog(*this);
   resize((sizeHint() * 5 / 4).boundedTo(room));
 }
 
@@ -241,19 +230,8 @@ void frmReport::Said(const QString& text) {
 void frmReport::SaveCsv() {
   const bool boards = tabReport->currentWidget() == boards_;
   const QString name = boards ? tr("%1 boards.csv") : tr("%1 report.csv");
-  const auto file = session_.host.ChooseSaveFile(
-      {.description = FromQt(tr("Tables for spreadsheets")),
-       .extensions = {"csv"},
-       .suggested = folder_ / PathFromQt(name.arg(ToQt(session_.LibraryName())))});
-  if (!file) return;
-  folder_ = file->parent_path();
-  try {
-    ReplaceWholeFile(*file, CsvSheet(boards ? BoardSheet(*report_) : AllEntrants(*report_)));
-    Said(tr("Saved as %1").arg(ToQt(ShownPath(*file))));
-  } catch (const Fault& fault) {
-    session_.host.TellError(fault.Description());
-    Said({});
-  }
+  Said(SaveAsCsv(session_, name.arg(ToQt(session_.LibraryName())),
+                 CsvSheet(boards ? BoardSheet(*report_) : AllEntrants(*report_)), folder_));
 }
 
 void frmReport::SavePdf() {

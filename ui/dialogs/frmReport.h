@@ -56,7 +56,6 @@ class frmReport : public QDialog {
 
  private:
   QWidget* MakeFoot();
-  QPushButton* MakeButton(const char* name, const QString& text);
   void SetTabOrder();
   void SetFirstSize();
 

@@ -8,15 +8,15 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "core/fault.h"
-#include "disk/file_io.h"
 #include "simulation/keep_deals.h"
 #include "ui/background/worker.h"
 #include "ui/dialogs/library_name_dialog.h"
+#include "ui/dialogs/sheet_saving.h"
 #include "ui/dialogs/simulation_grid.h"
 #include "ui/dialogs/simulation_question.h"
 #include "ui/report/report_view.h"
 #include "ui/report/trick_histogram.h"
+#include "ui/style/dialog_parts.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/section.h"
 
@@ -50,13 +50,6 @@ frmSimulate::frmSimulate(Session& session, const RecordedPlay& record,
 
 frmSimulate::~frmSimulate() {
   Stop();
-}
-
-QPushButton* frmSimulate::MakeButton(const char* name, const QString& text) {
-  auto* button = new QPushButton(text, this);
-  button->setObjectName(QString::fromLatin1(name));
-  button->setAutoDefault(false);
-  return button;
 }
 
 QWidget* frmSimulate::MakeResult() {
@@ -97,13 +90,13 @@ QWidget* frmSimulate::MakeResult() {
 
 QWidget* frmSimulate::MakeFoot() {
   auto* foot = new QWidget(this);
-  cmdRun = MakeButton("cmdRun", tr("&Run"));
-  cmdStop = MakeButton("cmdStop", tr("&Stop"));
-  cmdKeep = MakeButton("cmdKeep", tr("&Keep deals in library..."));
-  cmdSave = MakeButton("cmdSave", tr("S&ave table..."));
-  cmdCopy = MakeButton("cmdCopy", tr("&Copy"));
+  cmdRun = MakeCommandButton("cmdRun", tr("&Run"), this);
+  cmdStop = MakeCommandButton("cmdStop", tr("&Stop"), this);
+  cmdKeep = MakeCommandButton("cmdKeep", tr("&Keep deals in library..."), this);
+  cmdSave = MakeCommandButton("cmdSave", tr("S&ave table..."), this);
+  cmdCopy = MakeCommandButton("cmdCopy", tr("&Copy"), this);
   cmdCopy->setToolTip(tr("The table with tabs between its columns, to be pasted elsewhere"));
-  cmdClose = MakeButton("cmdClose", tr("Close"));
+  cmdClose = MakeCommandButton("cmdClose", tr("Close"), this);
   cmdRun->setDefault(true);
   auto* row = new QHBoxLayout(foot);
   row->setContentsMargins(0, 0, 0, 0);
@@ -210,18 +203,8 @@ void frmSimulate::Keep() {
 }
 
 void frmSimulate::SaveTable() {
-  if (!table_) return;
-  const auto file =
-      session_.host.ChooseSaveFile({.description = FromQt(tr("Tables for spreadsheets")),
-                                    .extensions = {"csv"},
-                                    .suggested = folder_ / PathFromQt(tr("simulation.csv"))});
-  if (!file) return;
-  folder_ = file->parent_path();
-  try {
-    ReplaceWholeFile(*file, CsvText(SheetOf(*table_)));
-    Said(tr("Saved as %1").arg(ToQt(ShownPath(*file))));
-  } catch (const Fault& fault) {
-    session_.host.TellError(fault.Description());
+  if (table_) {
+    Said(SaveAsCsv(session_, tr("simulation.csv"), CsvText(SheetOf(*table_)), folder_));
   }
 }
 

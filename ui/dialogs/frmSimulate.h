@@ -41,7 +41,6 @@ class frmSimulate : public QDialog {
  private:
   QWidget* MakeResult();
   QWidget* MakeFoot();
-  QPushButton* MakeButton(const char* name, const QString& text);
   void SetTabOrder();
 
   void Run();

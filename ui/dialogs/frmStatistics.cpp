@@ -5,18 +5,17 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-#include "core/fault.h"
-#include "disk/file_io.h"
 #include "frequencies/frequency_sheet.h"
 #include "ui/background/later.h"
 #include "ui/background/worker.h"
+#include "ui/dialogs/sheet_saving.h"
 #include "ui/report/frequency_grid.h"
 #include "ui/report/report_view.h"
+#include "ui/style/dialog_parts.h"
 #include "ui/style/progress_frame.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/section.h"
@@ -24,7 +23,6 @@
 namespace tricklet::ui {
 namespace {
 
-constexpr int kFrame = 48;  // room for the title bar and borders of a window
 constexpr QSize kFirstSize(760, 560);
 
 QLabel* MakeText(const char* name, QWidget* parent) {
@@ -56,7 +54,7 @@ frmStatistics::frmStatistics(Session& session, std::filesystem::path& folder, QW
   column->addWidget(tabTables, 1);
   column->addWidget(lblRemarks);
   column->addWidget(MakeFoot());
-  const QSize room = screen()->availableSize() - QSize(kFrame, kFrame);
+  const QSize room = RoomForDialog(*this);
   resize(kFirstSize.expandedTo(sizeHint()).boundedTo(room));
   lblVerdict->setText(tr("The boards are being read..."));
   ShowState();
@@ -66,9 +64,7 @@ frmStatistics::~frmStatistics() = default;
 
 QPushButton* frmStatistics::MakeButton(const char* name, const QString& text,
                                        void (frmStatistics::*action)()) {
-  auto* button = new QPushButton(text, this);
-  button->setObjectName(QString::fromLatin1(name));
-  button->setAutoDefault(false);
+  QPushButton* button = MakeCommandButton(name, text, this);
   connect(button, &QPushButton::clicked, this, action);
   return button;
 }
@@ -79,7 +75,6 @@ QWidget* frmStatistics::MakeFoot() {
   lblSaid->setObjectName(QStringLiteral("lblSaid"));
   MakeQuiet(lblSaid);
   progress_ = new ProgressFrame(foot);
-  for (auto* button : progress_->findChildren<QPushButton*>()) button->setAutoDefault(false);
   cmdSave = MakeButton("cmdSave", tr("Save as &CSV..."), &frmStatistics::SaveTable);
   cmdCopy = MakeButton("cmdCopy", tr("C&opy"), &frmStatistics::CopyTable);
   cmdCopy->setToolTip(tr("Copy all tables as text"));
@@ -161,18 +156,8 @@ void frmStatistics::ShowState() {
 }
 
 void frmStatistics::SaveTable() {
-  const auto file = session_.host.ChooseSaveFile(
-      {.description = FromQt(tr("Tables for spreadsheets")),
-       .extensions = {"csv"},
-       .suggested = folder_ / PathFromQt(tr("%1 deals.csv").arg(ToQt(session_.LibraryName())))});
-  if (!file) return;
-  folder_ = file->parent_path();
-  try {
-    ReplaceWholeFile(*file, CsvFrequencies(counted_->frequencies));
-    lblSaid->setText(tr("Saved as %1").arg(ToQt(ShownPath(*file))));
-  } catch (const Fault& fault) {
-    session_.host.TellError(fault.Description());
-  }
+  lblSaid->setText(SaveAsCsv(session_, tr("%1 deals.csv").arg(ToQt(session_.LibraryName())),
+                             CsvFrequencies(counted_->frequencies), folder_));
 }
 
 void frmStatistics::CopyTable() {

@@ -6,12 +6,12 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
-#include <QScreen>
 #include <QVBoxLayout>
 
 #include "ui/cards/card_glyphs.h"
 #include "ui/control/edit_control.h"
 #include "ui/dialogs/option_group.h"
+#include "ui/style/dialog_parts.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/theme.h"
 
@@ -19,7 +19,6 @@ namespace tricklet::ui {
 namespace {
 
 constexpr int kMargin = 8;  // narrow, so that the dialog leaves the table in sight
-constexpr int kFrame = 48;  // room for the title bar and borders of a window
 
 QGridLayout* MakeGrid(QGroupBox* box) {
   auto* grid = new QGridLayout(box);
@@ -88,7 +87,7 @@ frmSwap::frmSwap(Session& session, EditControl& edit, QWidget* parent)
   connect(cmdCancel, &QPushButton::clicked, this, &QDialog::accept);
   column->addWidget(cmdCancel);
   column->setSizeConstraint(QLayout::SetFixedSize);
-  if (column->sizeHint().height() + kFrame > screen()->availableGeometry().height())
+  if (column->sizeHint().height() > RoomForDialog(*this).height())
     swaps->setDirection(QBoxLayout::LeftToRight);
 }
 

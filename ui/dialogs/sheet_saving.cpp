@@ -14,6 +14,7 @@
 
 #include "core/fault.h"
 #include "core/text.h"
+#include "disk/file_io.h"
 #include "disk/presence.h"
 #include "ui/style/qt_text.h"
 
@@ -123,6 +124,22 @@ QString SaveAsPictures(Session& session, const Sheets& sheets, PictureFormat for
         .arg(ToQt(ShownPath(*folder)), ToQt(ShownPath(files.front().filename())),
              ToQt(ShownPath(files.back().filename())));
   });
+}
+
+QString SaveAsCsv(Session& session, const QString& name, std::string_view lines, fs::path& last) {
+  const auto file =
+      session.host.ChooseSaveFile({.description = FromQt(Words::tr("Tables for spreadsheets")),
+                                   .extensions = {"csv"},
+                                   .suggested = last / PathFromQt(name)});
+  if (!file) return {};
+  last = file->parent_path();
+  try {
+    ReplaceWholeFile(*file, lines);
+    return Words::tr("Saved as %1").arg(ToQt(ShownPath(*file)));
+  } catch (const Fault& fault) {
+    session.host.TellError(fault.Description());
+    return {};
+  }
 }
 
 QString PrintOnPaper(Session& session, const Sheets& sheets, const PrinterChooser& choose,

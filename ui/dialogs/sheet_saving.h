@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <string_view>
 
 #include <QString>
 
@@ -31,6 +32,9 @@ QString SaveAsPdf(Session& session, const Sheets& sheets, std::filesystem::path&
 /// files are replaced.
 QString SaveAsPictures(Session& session, const Sheets& sheets, PictureFormat format,
                        std::filesystem::path& last);
+/// Lines for a spreadsheet, which are proposed to be saved as `name`: "Club report.csv".
+QString SaveAsCsv(Session& session, const QString& name, std::string_view lines,
+                  std::filesystem::path& last);
 QString PrintOnPaper(Session& session, const Sheets& sheets, const PrinterChooser& choose,
                      QWidget* parent);
 

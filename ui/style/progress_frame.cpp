@@ -35,6 +35,7 @@ ProgressFrame::ProgressFrame(QWidget* parent)
   bar_->setTextVisible(false);
   bar_->setMaximumHeight(fontMetrics().height() * 3 / 4);
   cmdCancelImport->setObjectName(QStringLiteral("cmdCancelImport"));
+  cmdCancelImport->setAutoDefault(false);
   new QShortcut(Qt::Key_Escape, this, this, &ProgressFrame::Cancel);  // works while visible
   connect(cmdCancelImport, &QPushButton::clicked, this, &ProgressFrame::Cancel);
 
