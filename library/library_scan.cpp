@@ -26,6 +26,14 @@ LibraryState ScanLibrary(const fs::path& folder) {
   return library;
 }
 
+std::set<int> BoardsIn(const LibraryState& library, int first, int last) {
+  std::set<int> numbers;
+  for (int number = first; number <= last; ++number) {
+    if (library.boardPresent.at(static_cast<std::size_t>(number))) numbers.insert(number);
+  }
+  return numbers;
+}
+
 void CountHands(Session& session) {
   const int maxBoard = session.library.maxBoard;
   session.library = ScanLibrary(session.LibraryPath());

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <set>
 #include <string>
 
 #include "library/session.h"
@@ -14,6 +15,10 @@ inline constexpr int kBoardsOfEmptyLibrary = 24;
 /// Scans a library's folder, once. `maxBoard` is up to its last board, or `kBoardsOfEmptyLibrary`.
 /// Throws `Fault` when it cannot be listed; one that is not there holds no boards.
 LibraryState ScanLibrary(const std::filesystem::path& folder);
+
+/// The boards of `first` to `last`, both 1..999, that the library has.
+std::set<int> BoardsIn(const LibraryState& library, int first = kFirstBoardNumber,
+                       int last = kLastBoardNumber);
 
 /// Scans the current library and leaves the number of boards that are offered as it is. Throws
 /// `Fault`, and then all is as it was.

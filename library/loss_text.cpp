@@ -5,6 +5,7 @@
 
 #include "core/bounded_list.h"
 #include "library/board_file.h"
+#include "library/library_scan.h"
 
 namespace tricklet {
 namespace {
@@ -42,10 +43,7 @@ Difference DifferenceOf(const Board& stored, const Board& shown) {
 
 std::string BoardsAtStake(const LibraryState& library, int first, int last,
                           const std::string& fate) {
-  std::set<int> numbers;
-  for (int number = first; number <= last; ++number) {
-    if (library.boardPresent.at(static_cast<std::size_t>(number))) numbers.insert(number);
-  }
+  const std::set<int> numbers = BoardsIn(library, first, last);
   if (numbers.empty()) return "";
   return std::to_string(numbers.size()) + (numbers.size() == 1 ? " board " : " boards ") + fate +
          ": " + RangesText(numbers) + ".";
