@@ -1,7 +1,6 @@
 #include "finding/found_text.h"
 
 #include <algorithm>
-#include <array>
 #include <functional>
 
 #include "core/text.h"
@@ -26,15 +25,21 @@ std::string FoundPointsText(const FoundBoard& board) {
   return std::to_string(sum(Seat::North)) + "-" + std::to_string(sum(Seat::East));
 }
 
-std::string FoundShapeText(const FoundBoard& board, Seat seat) {
-  if (!board.complete) return {};
+std::array<int, kSuits> FoundLengths(const FoundBoard& board, Seat seat) {
   std::array<int, kSuits> lengths{};
   for (const Suit suit : kAllSuits) {
     lengths.at(static_cast<std::size_t>(suit)) = board.hands[seat][suit].Count();
   }
   std::sort(lengths.begin(), lengths.end(), std::greater<>());
+  return lengths;
+}
+
+std::string FoundShapeText(const FoundBoard& board, Seat seat) {
   std::string text;
-  for (const int length : lengths) text += (text.empty() ? "" : "-") + std::to_string(length);
+  if (!board.complete) return text;
+  for (const int length : FoundLengths(board, seat)) {
+    text += (text.empty() ? "" : "-") + std::to_string(length);
+  }
   return text;
 }
 

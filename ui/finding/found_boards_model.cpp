@@ -2,7 +2,6 @@
 
 #include <array>
 #include <optional>
-#include <tuple>
 
 #include "core/scoring.h"
 #include "finding/found_text.h"
@@ -69,54 +68,42 @@ QString Text(const FoundBoard& board, FoundColumn column) {
 }
 
 /// By which the boards are in order; nothing where nothing is known.
-using SortKey = std::optional<std::tuple<int, int, int>>;
+using SortKey = std::optional<std::array<int, kSuits>>;
 
 SortKey ContractKey(const FoundBoard& board) {
   const auto& summary = board.listed.summary;
   if (!summary || summary->contract.empty()) return std::nullopt;
-  const bool noTrump = summary->trumps == Strain::NoTrump;
-  const int strain = noTrump ? 4 : 3 - static_cast<int>(summary->trumps);
-  return std::tuple(summary->contractLevel, strain,
-                    static_cast<int>(DoublingOf(summary->contract)));
+  return std::array{summary->contractLevel, static_cast<int>(ToBidStrain(summary->trumps)),
+                    static_cast<int>(DoublingOf(summary->contract)), 0};
 }
 
-SortKey ShapeKey(const FoundBoard& board) {
-  if (!board.complete) return std::nullopt;
-  int digits = 0;  // 5431 of 5-4-3-1, but for 10 and more
-  constexpr int kBase = 16;
-  int number = 0;
-  for (const char c : FoundShapeText(board, Seat::South) + '-') {
-    if (c == '-') {
-      digits = digits * kBase + number;
-      number = 0;
-    } else {
-      number = number * 10 + (c - '0');
-    }
-  }
-  return std::tuple(digits, 0, 0);
+SortKey NumberKey(int number) {
+  return std::array{number, 0, 0, 0};
 }
 
 SortKey KeyOf(const FoundBoard& board, FoundColumn column) {
   const int number = board.listed.boardNumber;
   switch (column) {
     case FoundColumn::Number:
-      return std::tuple(number, 0, 0);
+      return NumberKey(number);
     case FoundColumn::Dealer:
-      return std::tuple(static_cast<int>(DealerOfBoard(number)), 0, 0);
+      return NumberKey(static_cast<int>(DealerOfBoard(number)));
     case FoundColumn::Vulnerability:
-      return std::tuple(static_cast<int>(VulOfBoard(number)), 0, 0);
+      return NumberKey(static_cast<int>(VulOfBoard(number)));
     case FoundColumn::Contract:
       return ContractKey(board);
     case FoundColumn::Par:
-      return board.par ? SortKey(std::tuple(board.par->score, 0, 0)) : std::nullopt;
+      if (board.par) return NumberKey(board.par->score);
+      break;
     case FoundColumn::Points:
-      return board.complete
-                 ? SortKey(std::tuple(board.points[Seat::North] + board.points[Seat::South], 0, 0))
-                 : std::nullopt;
+      if (board.complete) return NumberKey(board.points[Seat::North] + board.points[Seat::South]);
+      break;
     case FoundColumn::Shape:
-      return ShapeKey(board);
+      if (board.complete) return FoundLengths(board, Seat::South);
+      break;
     case FoundColumn::Results:
-      return board.tables > 0 ? SortKey(std::tuple(board.tables, 0, 0)) : std::nullopt;
+      if (board.tables > 0) return NumberKey(board.tables);
+      break;
     case FoundColumn::Library:
     case FoundColumn::Notes:
       break;
