@@ -5,8 +5,8 @@
 
 #include "core/fault.h"
 #include "core/text.h"
-#include "disk/file_io.h"
 #include "disk/presence.h"
+#include "finding/board_text.h"
 #include "library/board_file.h"
 #include "library/board_notes.h"
 #include "library/library_choice.h"
@@ -27,15 +27,6 @@ struct Copy {
   std::string text;
   std::string note;
 };
-
-std::set<int> NumbersIn(const fs::path& library) {
-  std::set<int> numbers;
-  const LibraryState state = ScanLibrary(library);
-  for (int number = state.firstBoard; number <= state.lastBoard; ++number) {
-    if (state.boardPresent.at(static_cast<std::size_t>(number))) numbers.insert(number);
-  }
-  return numbers;
-}
 
 class Copying {
  public:
@@ -60,7 +51,7 @@ class Copying {
     std::vector<int> old;
     old.reserve(boards.size());
     for (const BoardPlace& board : boards) old.push_back(board.number);
-    const NewNumbers given = NumbersFor(old, plan, NumbersIn(folder_));
+    const NewNumbers given = NumbersFor(old, plan, BoardsIn(ScanLibrary(folder_)));
     if (!given.fault.empty()) {
       session_.host.TellError(given.fault + " in the library " + ShownName(to_));
       return false;
@@ -71,11 +62,9 @@ class Copying {
 
   void Read(const BoardPlace& board, int number) {
     const fs::path library = session_.FileLocation() / PathFromText(board.library);
-    bool lost = false;
-    Copy copy{number,
-              TextForNumber(library / BoardFileName(board.number), board.number, number, lost),
-              {}};
-    if (lost) ++auctionsLost_;
+    const BoardText text = ReadBoardFile(library / BoardFileName(board.number), board.number);
+    Copy copy{number, text.ForNumber(number), {}};
+    if (text.LosesAuction(number)) ++auctionsLost_;
     auto [notes, fresh] = notes_.try_emplace(board.library);
     if (fresh) notes->second = LoadNotesOf(library);
     if (const auto note = notes->second.find(board.number); note != notes->second.end()) {
@@ -127,19 +116,6 @@ class Copying {
 };
 
 }  // namespace
-
-std::string TextForNumber(const fs::path& file, int number, int newNumber, bool& auctionLost) {
-  std::string text = ReadWholeFile(file, kMaxBoardFileBytes);
-  Board board;
-  board.boardNumber = number;
-  if (!ReadBoardText(text, board, TableReading::Always)) {
-    throw Fault(FaultNumber::PathFileAccess, ShownPath(file) + " is no board");
-  }
-  if (DealerOfBoard(number) == DealerOfBoard(newNumber) || board.NumCalls() == 0) return text;
-  board.calls = {};
-  auctionLost = true;
-  return WriteBoardText(board);
-}
 
 int NumberAfterLast(const Session& session, const std::string& library) {
   const LibraryState state = ScanLibrary(session.FileLocation() / PathFromText(library));

@@ -5,16 +5,10 @@
 #include <vector>
 
 #include "finding/board_numbers.h"
+#include "finding/board_place.h"
 #include "library/session.h"
 
 namespace tricklet {
-
-/// A board of a library of the root.
-struct BoardPlace {
-  std::string library;
-  int number = 0;
-  friend bool operator==(const BoardPlace&, const BoardPlace&) = default;
-};
 
 /// Copies boards into the library `to`, which is made when the root has none of the name. Deal,
 /// auction, table of makeable tricks and notes go along; results stay where they were played. A
@@ -27,11 +21,5 @@ bool CopyBoards(Session& session, const std::vector<BoardPlace>& boards, const s
 /// The number after the last board of a library of the root, 1 where there is no such library: what
 /// to propose for `NumberPlan::first`. 999 where that is taken. Throws `Fault`.
 int NumberAfterLast(const Session& session, const std::string& library);
-
-/// The board as it is stored under `number`, made that of `newNumber`. What of it is lost is its
-/// auction, when the dealer is another one; then `auctionLost` becomes true. Throws `Fault` when it
-/// cannot be read or is no board.
-std::string TextForNumber(const std::filesystem::path& file, int number, int newNumber,
-                          bool& auctionLost);
 
 }  // namespace tricklet

@@ -5,12 +5,11 @@
 #include "core/bounded_list.h"
 #include "core/fault.h"
 #include "core/text.h"
-#include "disk/file_io.h"
 #include "disk/presence.h"
+#include "finding/board_text.h"
 #include "formats/results/lin_boards.h"
 #include "formats/results/lin_file.h"
 #include "formats/results/table_record.h"
-#include "library/board_file.h"
 #include "library/board_notes.h"
 #include "library/board_store.h"
 #include "library/library_choice.h"
@@ -26,15 +25,6 @@ namespace fs = std::filesystem;
 
 /// New numbers by the old ones.
 using Renaming = std::map<int, int>;
-
-std::set<int> Staying(const LibraryState& library, const std::set<int>& going) {
-  std::set<int> staying;
-  for (int number = library.firstBoard; number <= library.lastBoard; ++number) {
-    const bool stored = library.boardPresent.at(static_cast<std::size_t>(number));
-    if (stored && !going.contains(number)) staying.insert(number);
-  }
-  return staying;
-}
 
 class Renumbering {
  public:
@@ -101,10 +91,10 @@ class Renumbering {
 
   void ReadBoards() {
     for (const auto& [number, now] : renaming_) {
-      bool lost = false;
-      before_[number] = ReadWholeFile(session_.BoardPath(number), kMaxBoardFileBytes);
-      texts_[now] = TextForNumber(session_.BoardPath(number), number, now, lost);
-      if (lost) ++auctionsLost_;
+      const BoardText read = ReadBoardFile(session_.BoardPath(number), number);
+      before_[number] = read.text;
+      texts_[now] = read.ForNumber(now);
+      if (read.LosesAuction(now)) ++auctionsLost_;
     }
   }
 
@@ -165,35 +155,6 @@ std::string DoneText(std::size_t boards, int auctionsLost) {
   return text;
 }
 
-/// Sends those of one library; how many have gone.
-int RecycleBoards(Session& session, const std::string& library, const std::set<int>& numbers) {
-  const fs::path folder = session.FileLocation() / PathFromText(library);
-  auto write = LibraryWrite::Begin(session, folder);
-  if (!write) return 0;
-  int sent = 0;
-  for (const int number : numbers) {
-    const int done = sent;
-    if (!session.host.Step("Removing boards", done, static_cast<int>(numbers.size()))) break;
-    const fs::path file = folder / BoardFileName(number);
-    if (!FileExists(file) || session.host.Recycle(file)) ++sent;
-  }
-  write->Unflushed().Add(folder);
-  write->Finish();
-  return sent;
-}
-
-bool AgreesToDelete(Session& session, const std::map<std::string, std::set<int>>& boards) {
-  std::string text = "Do you wish to remove";
-  for (const auto& [library, numbers] : boards) {
-    text += (boards.size() > 1 ? "\n" + ShownName(library) + ": " : " ") +
-            std::string(numbers.size() == 1 ? "board " : "boards ") + RangesText(numbers);
-  }
-  return session.host.Ask({.text = text + "?",
-                           .safe = Answer::No,
-                           .detail = "They go to the recycle bin; their notes and results stay in "
-                                     "the library."}) == Answer::Yes;
-}
-
 }  // namespace
 
 bool RenumberBoards(Session& session, const std::vector<int>& old, const NumberPlan& plan) {
@@ -202,8 +163,8 @@ bool RenumberBoards(Session& session, const std::vector<int>& old, const NumberP
   try {
     auto write = LibraryWrite::Begin(session);
     if (!write) return false;
-    const std::set<int> staying =
-        Staying(ScanLibrary(session.LibraryPath()), {old.begin(), old.end()});
+    std::set<int> staying = BoardsIn(ScanLibrary(session.LibraryPath()));
+    for (const int number : old) staying.erase(number);
     const NewNumbers given = NumbersFor(old, plan, staying);
     if (!given.fault.empty()) {
       session.host.TellError(given.fault);
@@ -224,34 +185,6 @@ bool RenumberBoards(Session& session, const std::vector<int>& old, const NumberP
     ListAndShow(session, current);
     return false;
   }
-}
-
-bool DeleteBoards(Session& session, const std::vector<BoardPlace>& boards) {
-  std::map<std::string, std::set<int>> byLibrary;
-  for (const BoardPlace& board : boards) byLibrary[board.library].insert(board.number);
-  if (boards.empty() || !SettleChanges(session) || !AgreesToDelete(session, byLibrary))
-    return false;
-  int sent = 0;
-  try {
-    const WorkScope work(session.host);
-    for (const auto& [library, numbers] : byLibrary)
-      sent += RecycleBoards(session, library, numbers);
-    if (byLibrary.contains(session.LibraryName())) {
-      CountHands(session);
-      LoadHand(session);
-    }
-  } catch (const Fault& fault) {
-    ErrorReport(session.host, fault);
-    return false;
-  }
-  const std::string text =
-      std::to_string(sent) + (sent == 1 ? " board" : " boards") + " sent to the recycle bin";
-  if (sent == static_cast<int>(boards.size())) {
-    session.host.TellResult(text);
-    return true;
-  }
-  session.host.TellError(text + ", of " + std::to_string(boards.size()));
-  return false;
 }
 
 }  // namespace tricklet

@@ -1,9 +1,10 @@
-// Boards of a library under other numbers, and boards taken out of libraries.
+// Boards of a library under other numbers.
 #pragma once
 
 #include <vector>
 
-#include "finding/board_copies.h"
+#include "finding/board_numbers.h"
+#include "library/session.h"
 
 namespace tricklet {
 
@@ -13,9 +14,5 @@ namespace tricklet {
 /// its auction when the dealer becomes another one. The old files go to the recycle bin together.
 /// False, after a message, when nothing was done.
 bool RenumberBoards(Session& session, const std::vector<int>& old, const NumberPlan& plan);
-
-/// Sends boards to the recycle bin, after a question; their notes and results stay. False when the
-/// person did not agree or, after a message, when not all could be sent.
-bool DeleteBoards(Session& session, const std::vector<BoardPlace>& boards);
 
 }  // namespace tricklet

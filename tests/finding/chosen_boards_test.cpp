@@ -1,6 +1,8 @@
 // Boards copied, numbered anew and deleted: what stands where afterwards, and what is refused.
 #include <gtest/gtest.h>
 
+#include "finding/board_copies.h"
+#include "finding/board_deletion.h"
 #include "finding/board_renumbering.h"
 #include "formats/results/lin_boards.h"
 #include "formats/results/lin_file.h"

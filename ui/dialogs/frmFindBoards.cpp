@@ -11,6 +11,8 @@
 #include <QVBoxLayout>
 
 #include "core/fault.h"
+#include "finding/board_copies.h"
+#include "finding/board_deletion.h"
 #include "finding/board_renumbering.h"
 #include "finding/read_query.h"
 #include "library/library_choice.h"

@@ -9,7 +9,7 @@
 
 #include <QDialog>
 
-#include "finding/board_copies.h"
+#include "finding/board_place.h"
 #include "finding/find_boards.h"
 #include "library/session.h"
 
