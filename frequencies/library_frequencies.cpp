@@ -76,8 +76,8 @@ std::optional<LibraryTally> TallyLibrary(Session& session) {
   return tally;
 }
 
-LibraryFrequencies FrequenciesOf(LibraryTally tally) {
-  return {FrequenciesOf(tally.deals, tally.makeable, OrdinarinessOf(tally.deals)),
+LibraryFrequencies FrequenciesOf(LibraryTally tally, const std::function<bool()>& goOn) {
+  return {FrequenciesOf(tally.deals, tally.makeable, OrdinarinessOf(tally.deals, goOn)),
           std::move(tally.remarks)};
 }
 

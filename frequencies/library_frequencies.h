@@ -1,6 +1,7 @@
 // What the deals of a library look like.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -30,7 +31,8 @@ struct LibraryFrequencies {
 std::optional<LibraryTally> TallyLibrary(Session& session);
 
 /// Beside what is to be expected: deals sets at random, which takes up to a second on any thread.
-LibraryFrequencies FrequenciesOf(LibraryTally tally);
+/// `goOn` is as `OrdinarinessOf` has it.
+LibraryFrequencies FrequenciesOf(LibraryTally tally, const std::function<bool()>& goOn = {});
 
 /// Both, one after the other.
 std::optional<LibraryFrequencies> CountLibrary(Session& session);

@@ -129,11 +129,12 @@ Measures MeasuresOf(const DealTally& tally) {
   return measures;
 }
 
-std::vector<Measures> MeasuresOfRandomSets(int deals, int sets) {
+/// Fewer when `goOn` says no.
+std::vector<Measures> MeasuresOfRandomSets(int deals, int sets, const std::function<bool()>& goOn) {
   RandomSource random(kSeed);
   std::vector<Measures> all;
   all.reserve(static_cast<std::size_t>(sets));
-  for (int i = 0; i < sets; ++i) {
+  for (int i = 0; i < sets && (!goOn || goOn()); ++i) {
     DealTally tally;
     for (int deal = 0; deal < deals; ++deal) {
       HandTable hands;
@@ -169,11 +170,13 @@ EnumArray<Aspect, std::optional<Deviation>, kAspects> DeviationsOf(const DealTal
   return deviations;
 }
 
-Ordinariness OrdinarinessOf(const DealTally& tally) {
+Ordinariness OrdinarinessOf(const DealTally& tally, const std::function<bool()>& goOn) {
   Ordinariness ordinary;
   if (tally.deals < kFewestDeals) return ordinary;
-  ordinary.sets = std::clamp(kDealsInAll / tally.deals, kFewestSets, kMostSets);
-  const std::vector<Measures> sets = MeasuresOfRandomSets(tally.deals, ordinary.sets);
+  const int wanted = std::clamp(kDealsInAll / tally.deals, kFewestSets, kMostSets);
+  const std::vector<Measures> sets = MeasuresOfRandomSets(tally.deals, wanted, goOn);
+  if (static_cast<int>(sets.size()) < wanted) return ordinary;
+  ordinary.sets = wanted;
   const Measures own = MeasuresOf(tally);
   const auto deviations = DeviationsOf(tally);
   Measures means;

@@ -15,6 +15,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 #include "frequencies/deal_tally.h"
@@ -41,7 +42,8 @@ struct Ordinariness {
   int sets = 0;  ///< sets that were dealt to tell
 };
 
-/// Deals some 400,000 deals: takes less than a second. Nothing is set for fewer than five deals.
-Ordinariness OrdinarinessOf(const DealTally& tally);
+/// Deals some 400,000 deals: takes less than a second. Nothing is set for fewer than five deals,
+/// nor when `goOn`, which is asked between the sets, says no.
+Ordinariness OrdinarinessOf(const DealTally& tally, const std::function<bool()>& goOn = {});
 
 }  // namespace tricklet

@@ -60,7 +60,9 @@ frmStatistics::frmStatistics(Session& session, std::filesystem::path& folder, QW
   ShowState();
 }
 
-frmStatistics::~frmStatistics() = default;
+frmStatistics::~frmStatistics() {
+  *stop_ = true;
+}
 
 QPushButton* frmStatistics::MakeButton(const char* name, const QString& text,
                                        void (frmStatistics::*action)()) {
@@ -104,11 +106,14 @@ void frmStatistics::Count() {
   }
   lblVerdict->setText(tr("The deals are being compared with others, dealt at random..."));
   const auto counted = std::make_shared<std::optional<LibraryFrequencies>>();
-  worker_->Post([counted, tally = std::move(*tally)] { *counted = FrequenciesOf(tally); },
-                [this, counted] {
-                  counted_ = std::move(*counted);
-                  Show();
-                });
+  worker_->Post(
+      [counted, stop = stop_, tally = std::move(*tally)] {
+        *counted = FrequenciesOf(tally, [&stop] { return !*stop; });
+      },
+      [this, counted] {
+        counted_ = std::move(*counted);
+        Show();
+      });
 }
 
 void frmStatistics::Show() {

@@ -1,6 +1,7 @@
 // The dialog that tells what the deals of a library look like.
 #pragma once
 
+#include <atomic>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -30,7 +31,7 @@ class frmStatistics : public QDialog {
   frmStatistics(Session& session, std::filesystem::path& folder, QWidget* parent);
   ~frmStatistics() override;
 
-  /// Closes; while boards are read that is cancelled first.
+  /// Closes; while boards are read that is cancelled first, and so is the comparison.
   void done(int result) override;
 
  protected:
@@ -52,6 +53,7 @@ class frmStatistics : public QDialog {
   std::filesystem::path& folder_;
   std::optional<LibraryFrequencies> counted_;
   bool begun_ = false;
+  std::shared_ptr<std::atomic<bool>> stop_ = std::make_shared<std::atomic<bool>>(false);
   std::optional<int> closing_;  // with this result, as soon as the work has ended
   QLabel* lblVerdict;
   QTabWidget* tabTables;
