@@ -49,12 +49,16 @@ void DrawBar(QPainter& painter, const QRectF& room, CellBar kind, double part,
   }
 }
 
-/// Across the bar, so that it can be seen whether that ends before or behind it.
-void DrawMark(QPainter& painter, const QRectF& room, double part, const QColor& colour) {
+/// Across the bar, so that it can be seen whether that ends before or behind it; in a gap of the
+/// ground's colour, as the bar may have that of the mark.
+void DrawMark(QPainter& painter, const QRectF& room, double part, const QColor& colour,
+              const QColor& ground) {
   const double at =
       std::clamp(room.left() + part * room.width(), room.left(), room.right() - kMarkWidth);
   const double out = room.height() / 3;
-  painter.fillRect(QRectF(at, room.top() - out, kMarkWidth, room.height() + 2 * out), colour);
+  const QRectF mark(at, room.top() - out, kMarkWidth, room.height() + 2 * out);
+  painter.fillRect(mark.adjusted(-1, 0, 1, 0), ground);
+  painter.fillRect(mark, colour);
 }
 
 }  // namespace
@@ -81,7 +85,8 @@ void BarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
           part.toDouble(), colour);
   if (const QVariant mark = index.data(ReportModel::MarkRole); mark.isValid()) {
     DrawMark(*painter, room, mark.toDouble(),
-             cell.palette.color(group, chosen ? QPalette::HighlightedText : QPalette::Text));
+             cell.palette.color(group, chosen ? QPalette::HighlightedText : QPalette::Text),
+             cell.palette.color(group, chosen ? QPalette::Highlight : QPalette::Base));
   }
   painter->restore();
 }
