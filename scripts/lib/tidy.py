@@ -54,8 +54,15 @@ class Analysis:
         self.version = self.output([program, "--version"])
         with open(f"{DATABASE}/compile_commands.json", encoding="utf-8") as file:
             entries = json.load(file)
-        self.flags = {os.path.relpath(each["file"]): flags_of(each) for each in entries}
+        self.known = {os.path.relpath(each["file"]): flags_of(each) for each in entries}
         self.configs = {}
+
+    def flags_for(self, source):
+        """Its own; of what this build leaves out (benchmarks, fuzz targets) those of a source nearby."""
+        if source not in self.known:
+            near = max(self.known, key=lambda known: len(os.path.commonprefix([known, source])))
+            self.known[source] = [*self.known[near], f"-I{self.root}"]
+        return self.known[source]
 
     @staticmethod
     def output(command):
@@ -71,11 +78,10 @@ class Analysis:
         return self.configs[folder]
 
     def batches(self, sources):
-        """Sources of one folder with the same flags, and by itself what the build leaves out."""
+        """Sources of one folder with the same flags."""
         groups = {}
         for source in sources:
-            known = source in self.flags
-            key = (os.path.dirname(source), tuple(self.flags[source])) if known else source
+            key = (os.path.dirname(source), tuple(self.flags_for(source)))
             groups.setdefault(key, []).append(source)
         for group in groups.values():
             for begin in range(0, len(group), BATCH):
@@ -111,11 +117,7 @@ class Analysis:
         """The findings in sources of one batch."""
         config = self.config_for(sources[0])
         command = [self.program, "--quiet", f"--config={config}"]
-        flags = self.flags.get(sources[0])
-        if flags is None:  # those of a source nearby will do
-            return self.run(
-                [*command, "-p", DATABASE, f"--extra-arg=-I{self.root}", sources[0]], sources
-            )
+        flags = self.flags_for(sources[0])
         file = sources[0] if len(sources) == 1 else self.write(sources)
         key = os.path.join(self.cache, self.key(file, flags, config))
         if os.path.exists(key):
