@@ -161,11 +161,13 @@ void frmStatistics::ShowState() {
 }
 
 void frmStatistics::SaveTable() {
+  if (!counted_) return;
   lblSaid->setText(SaveAsCsv(session_, tr("%1 deals.csv").arg(ToQt(session_.LibraryName())),
                              CsvFrequencies(counted_->frequencies), folder_));
 }
 
 void frmStatistics::CopyTable() {
+  if (!counted_) return;
   QString text = ToQt(AlignedFrequencies(counted_->frequencies));
   for (const std::string& remark : counted_->remarks) text += ToQt(remark) + u'\n';
   QApplication::clipboard()->setText(text);

@@ -16,7 +16,7 @@ struct FrequencyWords {
 constexpr double kBarWidth = 14;
 
 QString TipOf(const FrequencyRow& row, const QString& unit) {
-  const QString of = FrequencyWords::tr("of %1 %2").arg(row.of).arg(unit);
+  QString of = FrequencyWords::tr("of %1 %2").arg(row.of).arg(unit);
   if (!row.expected) return of;
   return FrequencyWords::tr("%1; %2 expected").arg(of, ToQt(DecimalText(*row.expected, 1)));
 }
