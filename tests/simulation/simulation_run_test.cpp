@@ -70,6 +70,34 @@ TEST(Simulation, AgreesWithTheTablesOfItsDeals) {
   }
 }
 
+/// Declarer has twelve tricks from the top and nothing to squeeze with, so the thirteenth comes
+/// just when the spades break. How often they do is in every book (E. Borel and A. Chéron, "Théorie
+/// mathématique du bridge", 1940).
+TEST(Simulation, MakesAsManyAsThePublishedBreaksSay) {
+  struct Break {
+    const char* deal;
+    double percent;
+  };
+  const Break breaks[] = {{"N:6543.5432.5432.2 - AKQ2.AKQJ.AKQJ.A -", 67.83},   // 3-2
+                          {"N:543.5432.5432.32 - AKQ2.AKQJ.AKQJ.A -", 35.53},   // 3-3
+                          {"N:3.5432.432.65432 - AKQJ2.AKQJ.AKQ.A -", 62.17}};  // 4-3
+  const auto solver = LoadSolver({});
+  ASSERT_EQ(solver->Missing(), "");
+  for (const auto& [deal, percent] : breaks) {
+    SCOPED_TRACE(deal);
+    SimulationPlan plan;
+    plan.question = SimulatedQuestion::Contract;
+    plan.hands = HandsOf(deal);
+    plan.contract = {7, Strain::NoTrump, Doubling::Undoubled, Seat::South};
+    const auto table = std::get<ContractTable>(Finished(plan, *solver)->Table());
+    const TrickCounts& tricks = table.first.declarerTricks;
+    const auto deals = static_cast<double>(table.deals);
+    const double made = 100 * static_cast<double>(tricks.at(13)) / deals;
+    EXPECT_NEAR(made, percent, 3 * std::sqrt(percent * (100 - percent) / deals));
+    EXPECT_EQ(tricks.at(12) + tricks.at(13), table.deals);
+  }
+}
+
 TEST(Simulation, TheSameSeedGivesTheSameTable) {
   const auto solver = LoadSolver({});
   ASSERT_EQ(solver->Missing(), "");
