@@ -107,7 +107,7 @@ ExpressionId ScriptReader::ReadCount(CountKind kind) {
   if (kind == CountKind::Quality || cursor_.SignIs(",")) {
     cursor_.Expect(",");
     node.op = Op::SuitCount;
-    node.suit = static_cast<Suit>(cursor_.ExpectValue(WordCode::Suit, "a suit"));
+    node.suit = static_cast<Suit>(cursor_.ExpectValue(WordCode::Suit, "suit"));
   }
   return builder_.Add(node);
 }
@@ -163,7 +163,7 @@ ExpressionId ScriptReader::ReadTricks() {
     node.value = IndexOf(Strain::NoTrump);
     cursor_.Skip();
   } else {
-    node.value = cursor_.ExpectValue(WordCode::Suit, "a suit or notrump");
+    node.value = cursor_.ExpectValue(WordCode::Suit, "suit or notrump");
   }
   return builder_.Add(node);
 }

@@ -65,7 +65,7 @@ void ScriptReader::ReadPredealtCards() {
 
 void ScriptReader::ReadPredealtLength() {
   const Token where = cursor_.Here();
-  const auto suit = static_cast<Suit>(cursor_.ExpectValue(WordCode::Suit, "a suit"));
+  const auto suit = static_cast<Suit>(cursor_.ExpectValue(WordCode::Suit, "suit"));
   cursor_.Expect("(");
   const Seat seat = ReadSeat();
   cursor_.Expect(")");

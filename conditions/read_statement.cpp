@@ -76,7 +76,7 @@ void ScriptReader::ReadKeywordStatement(const Word& word) {
       return;
     case WordCode::Vulnerable:
       content_.vulnerable = static_cast<Vulnerability>(
-          cursor_.ExpectValue(WordCode::VulnerableSides, "one of none, NS, EW and all"));
+          cursor_.ExpectValue(WordCode::VulnerableSides, "vulnerability"));
       return;
     case WordCode::Predeal:
       return ReadPredeal();

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <limits>
+#include <map>
 #include <numeric>
 #include <utility>
 
@@ -118,13 +119,20 @@ int ScriptCursor::ExpectValue(WordCode code, std::string_view what) {
     Skip();
     return value;
   }
-  if (!KindIs(TokenKind::Name) && WordHere() == nullptr) FailExpected(what);
+  if (!KindIs(TokenKind::Name) && WordHere() == nullptr) FailExpected("a " + std::string(what));
   std::vector<std::string_view> names;
+  std::map<int, std::string_view> spellings;  // the first of each value
   for (const Word& word : Vocabulary()) {
-    if (word.code == code) names.push_back(word.text);
+    if (word.code != code) continue;
+    names.push_back(word.text);
+    spellings.emplace(word.value, word.text);
   }
+  const std::string no = Quoted() + " is no " + std::string(what);
   const std::string nearest = Nearest(Text(), names);
-  Fail(Quoted() + " is not " + std::string(what) + (nearest.empty() ? "" : ": " + nearest + "?"));
+  if (!nearest.empty()) Fail(no + ": " + nearest + "?");
+  std::string all;
+  for (const auto& [value, text] : spellings) all += (all.empty() ? "" : ", ") + std::string(text);
+  Fail(no + " (" + all + ")");
 }
 
 void ScriptCursor::Fail(const Token& where, std::string text) {

@@ -44,8 +44,8 @@ class ScriptCursor {
   /// The number at the place, maybe with a minus before it; a fault when there is none. Numbers
   /// beyond 64 bits are the greatest.
   std::int64_t ExpectNumber();
-  /// The word at the place when it is one of a kind ("north" of seats); otherwise a fault that
-  /// names the nearest.
+  /// The word at the place when it is one of a kind ("north" of seats); otherwise a fault that says
+  /// it is no `what` ("seat"), with the nearest, or all that there are.
   int ExpectValue(WordCode code, std::string_view what);
 
   [[noreturn]] void Fail(std::string text) const { Fail(Here(), std::move(text)); }

@@ -55,7 +55,7 @@ class ScriptReader {
   ExpressionId ReadTricks();
   /// What stands before the number of tricks.
   Node ReadContract();
-  Seat ReadSeat() { return static_cast<Seat>(cursor_.ExpectValue(WordCode::Seat, "a seat")); }
+  Seat ReadSeat() { return static_cast<Seat>(cursor_.ExpectValue(WordCode::Seat, "seat")); }
   [[noreturn]] void FailUnknown() const;
 
   ScriptCursor cursor_;

@@ -44,7 +44,7 @@ TEST_F(DealCommand, StoresBoardsAndNamesFaults) {
   EXPECT_EQ(Run("--no --library Lab deal " + script + " --first 8 --seed 1"), 1) << "overwrites";
   EXPECT_EQ(Run("deal " + script + " --first 996"), 2) << "beyond the last board";
   EXPECT_EQ(Run("deal " + Script("1\nhcp(nort) > 3")), 1);
-  EXPECT_NE(err.find("script.dlr: Line 2, column 5: \"nort\" is not a seat: north?"),
+  EXPECT_NE(err.find("script.dlr: Line 2, column 5: \"nort\" is no seat: north?"),
             std::string::npos)
       << err;
 }

@@ -128,7 +128,9 @@ TEST(Script, FaultsTellWhereAndWhat) {
     const char* text;
     const char* faults;
   } kCases[] = {
-      {"hcp(nort) > 3", "Line 1, column 5: \"nort\" is not a seat: north?\n"},
+      {"hcp(nort) > 3", "Line 1, column 5: \"nort\" is no seat: north?\n"},
+      {"hcp(dummy)", "Line 1, column 5: \"dummy\" is no seat (north, east, south, west)\n"},
+      {"vulnerable me", "Line 1, column 12: \"me\" is no vulnerability"},
       {"a = 1\n  b = hpc(north)\nb and c\n", "Line 2, column 7: \"hpc\" is no function: hcp?\n"},
       {"a = 1\na = 2", "Line 2, column 1: \"a\" is defined already\n"},
       {"1 and (2 or 3", "Line 1, column 14: expected \")\", not the end of the text\n"},
