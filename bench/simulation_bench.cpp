@@ -27,7 +27,7 @@ SimulationPlan Plan() {
   std::mt19937 random(5);
   plan.hands = RandomBoard(1, random).hands;
   plan.contract = {3, Strain::NoTrump, Doubling::Undoubled, Seat::South};
-  plan.deals = kDeals;
+  plan.limit.deals = kDeals;
   return plan;
 }
 

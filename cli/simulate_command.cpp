@@ -30,7 +30,7 @@ struct Asked {
   std::optional<std::vector<std::string>> forget;
   std::string condition;
   std::string script;  ///< a file that holds the condition
-  int deals = kUsualSimulatedDeals;
+  SimulationLimit limit;
   std::uint64_t seed = 1;
   bool csv = false;
   std::string library;
@@ -103,7 +103,7 @@ std::optional<SimulationPlan> ReadPlan(const Asked& asked, const Board& board, s
   plan.hands = board.hands;
   plan.vulnerability = VulnerabilityFromText(asked.vulnerability).value_or(board.Vulnerability());
   plan.condition = asked.condition;
-  plan.deals = asked.deals;
+  plan.limit = asked.limit;
   plan.seed = asked.seed;
   const bool read = ReadContracts(asked, board, plan, why) && ReadCards(asked, plan, why) &&
                     ReadKnown(asked, plan, why);
@@ -157,7 +157,7 @@ ExitCode Simulate(const Context& context, const Asked& asked) {
     session.host.Tell(why);
     return ExitCode::Refused;
   }
-  Finish(session.host, *run, asked.deals);
+  Finish(session.host, *run, asked.limit.deals);
   const ExitCode code = Print(context, asked, *run);
   if (asked.library.empty() || run->Deals().empty()) return code;
   return KeepDeals(session, run->Deals(), asked.library) ? code : ExitCode::Refused;
@@ -180,9 +180,11 @@ void AddShared(CLI::App& simulate, Asked& asked) {
   simulate.add_option("--script", asked.script, "The same, in a file; - for standard input")
       ->type_name("FILE")
       ->excludes(condition);
-  simulate.add_option("--deals", asked.deals, "At the most")
+  simulate.add_option("--deals", asked.limit.deals, "At the most")
       ->type_name("K")
       ->check(CLI::Range(1, kMostSimulatedDeals));
+  simulate.add_flag("--all-deals{false}", asked.limit.precise,
+                    "All of them, however small the errors get");
   simulate.add_option("--seed", asked.seed, "The same number gives the same table")->type_name("K");
   simulate.add_flag("--csv", asked.csv, "Comma-separated values, for a spreadsheet");
   simulate.add_option("--library", asked.library, "Keep the deals in a new library")

@@ -38,9 +38,14 @@ std::string EndText(const SimulationProgress& progress) {
          " IMP of a comparison of contracts.";
 }
 
-Simulation::Simulation(Tally& tally, std::unique_ptr<Dealing> dealing, Solver& solver, int wanted)
-    : tally_(tally), dealing_(std::move(dealing)), solver_(solver), batchSize_(kFirstBatch) {
-  progress_.wanted = wanted;
+Simulation::Simulation(Tally& tally, std::unique_ptr<Dealing> dealing, Solver& solver,
+                       SimulationLimit limit)
+    : tally_(tally),
+      dealing_(std::move(dealing)),
+      solver_(solver),
+      untilPrecise_(limit.precise),
+      batchSize_(kFirstBatch) {
+  progress_.wanted = limit.deals;
 }
 
 /// Of one batch of the solver.
@@ -100,6 +105,11 @@ bool Simulation::SolveBatch() {
   return Count(deals, answers);
 }
 
+bool Simulation::IsPrecise() const {
+  return untilPrecise_ && progress_.deals >= kFewest && progress_.deals % kAskEvery == 0 &&
+         tally_.Precise();
+}
+
 /// Deal by deal, so that it makes no difference how many a batch had.
 bool Simulation::Count(std::span<const HandTable> deals, std::span<const CardScores> answers) {
   const bool noMore = progress_.end != SimulationEnd::Running;
@@ -117,9 +127,7 @@ bool Simulation::Count(std::span<const HandTable> deals, std::span<const CardSco
       progress_.end = SimulationEnd::Enough;
       return false;
     }
-    if (progress_.deals < kFewest || progress_.deals % kAskEvery != 0 || !tally_.Precise()) {
-      continue;
-    }
+    if (!IsPrecise()) continue;
     progress_.end = SimulationEnd::Precise;
     progress_.failure.clear();
     return false;

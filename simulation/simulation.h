@@ -21,6 +21,12 @@ inline constexpr std::string_view kEachDealDoubleDummy =
 inline constexpr int kMostSimulatedDeals = 100000;
 inline constexpr int kUsualSimulatedDeals = 1000;
 
+/// When a simulation ends by itself.
+struct SimulationLimit {
+  int deals = kUsualSimulatedDeals;  ///< 1..`kMostSimulatedDeals`
+  bool precise = true;               ///< also as soon as the errors are small enough (tally.h)
+};
+
 enum class SimulationEnd {
   Running,
   Enough,   ///< the number of deals has been reached
@@ -52,8 +58,8 @@ class Simulation {
   /// Tries without a deal before it gives up.
   static constexpr std::int64_t kMostTries = 20'000'000;
 
-  /// `tally` and `solver` outlive the simulation. `wanted` is 1..`kMostSimulatedDeals`.
-  Simulation(Tally& tally, std::unique_ptr<Dealing> dealing, Solver& solver, int wanted);
+  /// `tally` and `solver` outlive the simulation.
+  Simulation(Tally& tally, std::unique_ptr<Dealing> dealing, Solver& solver, SimulationLimit limit);
 
   /// Deals and solves some more, for about a second. False when it has ended. Dealing is left when
   /// `goOn`, asked every now and then, returns false; nothing is lost then. May be called from any
@@ -67,12 +73,14 @@ class Simulation {
  private:
   void DealBatch(const std::function<bool()>& goOn);
   bool SolveBatch();
+  bool IsPrecise() const;
   bool Count(std::span<const HandTable> deals, std::span<const CardScores> answers);
   std::size_t MostDeals() const;
 
   Tally& tally_;
   std::unique_ptr<Dealing> dealing_;
   Solver& solver_;
+  bool untilPrecise_;
   SimulationProgress progress_;
   std::vector<HandTable> deals_;
   std::vector<HandTable> batch_;  // dealt and not yet counted

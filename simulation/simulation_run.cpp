@@ -81,7 +81,7 @@ std::unique_ptr<SimulationRun> SimulationRun::Begin(const SimulationPlan& plan, 
   Tally& tally = run->cards_ ? static_cast<Tally&>(*run->cards_) : *run->contract_;
   run->simulation_ = std::make_unique<Simulation>(
       tally, std::make_unique<Dealing>(script, &solver, RandomSource(plan.seed)), solver,
-      plan.deals);
+      plan.limit);
   return run;
 }
 

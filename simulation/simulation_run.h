@@ -29,7 +29,7 @@ struct SimulationPlan {
   /// contract declarer's and dummy's.
   std::optional<PerSeat<bool>> known;
   std::string condition;  ///< of the deals (known_deal.h); empty: every one
-  int deals = kUsualSimulatedDeals;
+  SimulationLimit limit;
   std::uint64_t seed = 1;
 };
 

@@ -101,7 +101,7 @@ TEST(Simulation, AgreesWithAllLayoutsOfAnEnding) {
     }
     restricted += layouts.size() < 20 ? 1 : 0;
 
-    plan.deals = 3000;
+    plan.limit.deals = 3000;
     const auto run = SimulationRun::Begin(plan, *solver, why);
     ASSERT_TRUE(run) << why;
     while (run->Step([] { return true; })) {

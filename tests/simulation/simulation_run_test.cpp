@@ -18,7 +18,7 @@ SimulationPlan LeadPlan() {
   SimulationPlan plan;
   plan.hands = HandsOf(kDeal);
   plan.contract = {3, Strain::NoTrump, Doubling::Undoubled, Seat::South};
-  plan.deals = 40;
+  plan.limit.deals = 40;
   return plan;
 }
 
@@ -39,7 +39,7 @@ TEST(Simulation, AgreesWithTheTablesOfItsDeals) {
   const auto solver = LoadSolver({});
   ASSERT_EQ(solver->Missing(), "");
   SimulationPlan plan = LeadPlan();
-  plan.deals = 12;
+  plan.limit.deals = 12;
   plan.question = SimulatedQuestion::Contract;
   plan.against = SimulatedContract{4, Strain::Hearts, Doubling::Doubled, Seat::North};
   const auto run = Finished(plan, *solver);
@@ -55,14 +55,14 @@ TEST(Simulation, AgreesWithTheTablesOfItsDeals) {
     return counts;
   };
   const auto table = std::get<ContractTable>(run->Table());
-  EXPECT_EQ(table.deals, plan.deals);
+  EXPECT_EQ(table.deals, plan.limit.deals);
   EXPECT_EQ(table.first.declarerTricks, tricksOf(*run, TableSeat::South, TableStrain::NoTrump));
   ASSERT_TRUE(table.second);
   EXPECT_EQ(table.second->declarerTricks, tricksOf(*run, TableSeat::North, TableStrain::Hearts));
   double least = 0;  // no lead holds declarer to less than the table says
   const TrickCounts best = tricksOf(*leads, TableSeat::South, TableStrain::NoTrump);
   for (std::size_t tricks = 0; tricks < best.size(); ++tricks) {
-    least += static_cast<double>(tricks) * static_cast<double>(best.at(tricks)) / plan.deals;
+    least += static_cast<double>(tricks) * static_cast<double>(best.at(tricks)) / plan.limit.deals;
   }
   const auto cards = std::get<CardTable>(leads->Table());
   for (const CardRow& row : cards.rows) {
@@ -89,6 +89,7 @@ TEST(Simulation, MakesAsManyAsThePublishedBreaksSay) {
     plan.question = SimulatedQuestion::Contract;
     plan.hands = HandsOf(deal);
     plan.contract = {7, Strain::NoTrump, Doubling::Undoubled, Seat::South};
+    plan.limit = {4000, false};
     const auto table = std::get<ContractTable>(Finished(plan, *solver)->Table());
     const TrickCounts& tricks = table.first.declarerTricks;
     const auto deals = static_cast<double>(table.deals);
@@ -102,7 +103,7 @@ TEST(Simulation, TheSameSeedGivesTheSameTable) {
   const auto solver = LoadSolver({});
   ASSERT_EQ(solver->Missing(), "");
   SimulationPlan plan = LeadPlan();
-  plan.deals = 20;
+  plan.limit.deals = 20;
   const auto text = [&](bool interrupt) {
     return TabText(SheetOf(Finished(plan, *solver, interrupt)->Table()));
   };
@@ -164,9 +165,11 @@ TEST(Simulation, EndsWhenTheErrorsAreSmall) {
     return scores;
   };
   SimulationPlan plan = LeadPlan();
-  plan.deals = 5000;
+  plan.limit.deals = 5000;
   EXPECT_EQ(Finished(plan, solver)->Progress().end, SimulationEnd::Precise);
   EXPECT_EQ(Finished(plan, solver)->Progress().deals, 100);
+  plan.limit = {150, false};
+  EXPECT_EQ(Finished(plan, solver)->Progress().deals, 150);
   std::string why;
   plan.condition = "hcp(north) > 20 && hcp(south) > 20";
   const auto never = SimulationRun::Begin(plan, solver, why);

@@ -55,6 +55,8 @@ class Commands : public QObject {
   void SetGiveUpTyping(std::function<void()> giveUp) { giveUpTyping_ = std::move(giveUp); }
   /// `record` gives the LIN record of the current board; an empty text when it has none.
   void SetLinRecord(std::function<std::string()> record) { linRecord_ = std::move(record); }
+  /// `faceDown` tells which hands lie face down on the table.
+  void SetFaceDown(std::function<PerSeat<bool>()> faceDown) { faceDown_ = std::move(faceDown); }
 
   /// The auction that is being entered; nullptr while the auction dialog is closed.
   const AuctionEntry* Auction() const { return auction_; }
@@ -237,6 +239,7 @@ class Commands : public QObject {
   std::function<bool()> finishTyping_;
   std::function<void()> giveUpTyping_;
   std::function<std::string()> linRecord_;
+  std::function<PerSeat<bool>()> faceDown_;
   const AuctionEntry* auction_ = nullptr;
   QPointer<QWidget> window_;
   std::filesystem::path exportPath_;   // of the last export, where the next one begins

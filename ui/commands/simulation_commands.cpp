@@ -11,7 +11,8 @@ void Commands::Simulate() {
     const RecordedPlay record = play_.Play().PlayMode()
                                     ? RecordOfPlay(play_.Play())
                                     : RecordedPlay{session_.board, {}, std::nullopt};
-    frmSimulate dialog(session_, record, sheetFolder_, window_);
+    frmSimulate dialog(session_, record, faceDown_ ? faceDown_() : PerSeat<bool>{}, sheetFolder_,
+                       window_);
     dialog.exec();
   });
 }

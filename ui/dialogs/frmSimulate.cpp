@@ -29,11 +29,12 @@ constexpr int kHigh = 620;
 }  // namespace
 
 frmSimulate::frmSimulate(Session& session, const RecordedPlay& record,
-                         std::filesystem::path& folder, QWidget* parent)
+                         const PerSeat<bool>& faceDown, std::filesystem::path& folder,
+                         QWidget* parent)
     : QDialog(parent),
       session_(session),
       folder_(folder),
-      question_(new SimulationQuestion(session, record, this)) {
+      question_(new SimulationQuestion(session, record, faceDown, this)) {
   setObjectName(QStringLiteral("frmSimulate"));
   setWindowTitle(tr("Simulate board %1").arg(record.board.boardNumber));
   auto* panes = new QHBoxLayout;
@@ -133,7 +134,7 @@ void frmSimulate::Run() {
   run_ = std::move(run);
   stop_ = std::make_shared<std::atomic<bool>>(false);
   running_ = true;
-  proDeals->setRange(0, plan->deals);
+  proDeals->setRange(0, plan->limit.deals);
   ShowTable();
   ShowState();
   PostStep();

@@ -30,10 +30,11 @@ class frmSimulate : public QDialog {
   Q_OBJECT
 
  public:
-  /// For the deal of `record`, and for the point that its cards have reached. `folder`, where
-  /// tables were saved last, takes each that is chosen; it outlives the dialog.
-  frmSimulate(Session& session, const RecordedPlay& record, std::filesystem::path& folder,
-              QWidget* parent);
+  /// For the deal of `record`, and for the point that its cards have reached, with the hands that
+  /// lie face down on the table. `folder`, where tables were saved last, takes each that is chosen;
+  /// it outlives the dialog.
+  frmSimulate(Session& session, const RecordedPlay& record, const PerSeat<bool>& faceDown,
+              std::filesystem::path& folder, QWidget* parent);
   ~frmSimulate() override;
 
   void done(int result) override;

@@ -61,8 +61,8 @@ QSpinBox* MakeNumber(const char* name, int highest, QWidget* parent) {
 }  // namespace
 
 SimulationQuestion::SimulationQuestion(Session& session, const RecordedPlay& record,
-                                       QWidget* parent)
-    : QWidget(parent), session_(session), record_(record) {
+                                       const PerSeat<bool>& faceDown, QWidget* parent)
+    : QWidget(parent), session_(session), record_(record), faceDown_(faceDown) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins({});
   column->addLayout(MakeContracts());
@@ -155,6 +155,14 @@ QFormLayout* SimulationQuestion::MakeNumbers() {
   spnSeed->setToolTip(tr("The same number gives the same table"));
   auto* numbers = new QFormLayout;
   numbers->addRow(tr("D&eals at the most"), spnDeals);
+  chkPrecise = new QCheckBox(tr("Fewer when the errors are s&mall"), this);
+  chkPrecise->setObjectName(QStringLiteral("chkPrecise"));
+  chkPrecise->setChecked(true);
+  chkPrecise->setToolTip(tr("No error above %1 tricks, %2 % or %3 IMP of a comparison of contracts")
+                             .arg(kTricksError)
+                             .arg(kPercentError)
+                             .arg(kImpsError));
+  numbers->addRow(QString(), chkPrecise);
   numbers->addRow(tr("See&d"), spnSeed);
   return numbers;
 }
@@ -163,7 +171,7 @@ QList<QWidget*> SimulationQuestion::TabOrder() const {
   QList<QWidget*> order{cmbQuestion, txtContract, cmbDeclarer, txtAgainst, cmbAgainst};
   for (QCheckBox* known : chkKnown) order += known;
   order += condition_->TabOrder();
-  order += {spnDeals, spnSeed};
+  order += {spnDeals, chkPrecise, spnSeed};
   return order;
 }
 
@@ -185,8 +193,10 @@ void SimulationQuestion::ShowUsualHands() {
 void SimulationQuestion::ShowHands() {
   for (const Seat seat : kAllSeats) {
     const bool known = chkKnown[seat]->isChecked();
-    lblHand[seat]->setText(known ? HandText(record_.board.hands[seat], session_, palette())
-                                 : QStringLiteral("<i>%1</i>").arg(tr("unknown")));
+    const bool shown = known && !faceDown_[seat];
+    const QString instead = known ? tr("known, face down") : tr("unknown");
+    lblHand[seat]->setText(shown ? HandText(record_.board.hands[seat], session_, palette())
+                                 : QStringLiteral("<i>%1</i>").arg(instead));
   }
   condition_->DealsChanged();
 }
@@ -220,7 +230,7 @@ std::optional<SimulationPlan> SimulationQuestion::Plan(std::string& why) const {
   for (const Seat seat : kAllSeats) known[seat] = chkKnown[seat]->isChecked();
   plan.known = known;
   if (const std::string text = condition_->Text(); !Trim(text).empty()) plan.condition = text;
-  plan.deals = spnDeals->value();
+  plan.limit = {spnDeals->value(), chkPrecise->isChecked()};
   plan.seed = static_cast<std::uint64_t>(spnSeed->value());
   return plan;
 }

@@ -28,8 +28,10 @@ class SimulationQuestion : public QWidget {
   Q_OBJECT
 
  public:
-  /// Of the deal of `record`, and of the point that its cards have reached.
-  SimulationQuestion(Session& session, const RecordedPlay& record, QWidget* parent);
+  /// Of the deal of `record`, and of the point that its cards have reached. The cards of hands that
+  /// lie face down are not shown.
+  SimulationQuestion(Session& session, const RecordedPlay& record, const PerSeat<bool>& faceDown,
+                     QWidget* parent);
 
   /// What is asked; nothing, and why in a sentence for the person, when a contract is none.
   std::optional<SimulationPlan> Plan(std::string& why) const;
@@ -52,6 +54,7 @@ class SimulationQuestion : public QWidget {
 
   Session& session_;
   RecordedPlay record_;
+  PerSeat<bool> faceDown_;
   QComboBox* cmbQuestion = nullptr;
   QLineEdit* txtContract = nullptr;
   QComboBox* cmbDeclarer = nullptr;
@@ -61,6 +64,7 @@ class SimulationQuestion : public QWidget {
   PerSeat<QLabel*> lblHand;
   ConditionPanel* condition_ = nullptr;
   QSpinBox* spnDeals = nullptr;
+  QCheckBox* chkPrecise = nullptr;
   QSpinBox* spnSeed = nullptr;
 };
 

@@ -89,6 +89,7 @@ void MainWindow::ConnectEdit() {
   commands_->SetGiveUpTyping([this] { panes_.edit->GiveUpTyping(); });
   commands_->SetLinRecord(
       [this] { return LinPlayRecord(results_->OfBoard(), session_.board, results_->Row()); });
+  commands_->SetFaceDown([this] { return state_.hidden; });
   connect(commands_, &Commands::EditStarted, this, &MainWindow::BeginEditing);
   connect(commands_, &Commands::SwapOpened, this, &MainWindow::PlaceBesideHands);
   connect(commands_, &Commands::HandsChanged, this, &MainWindow::Display);

@@ -9,6 +9,7 @@
 #include "tests/ui/window_fixture.h"
 #include "ui/dialogs/frmSimulate.h"
 #include "ui/report/report_view.h"
+#include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
 namespace {
@@ -34,10 +35,17 @@ TEST(SimulateDialog, RunsBesideTheWindow) {
   record.board.hands =
       test::HandsOf("N:K652.K73.K54.742 J8.J98.AT83.JT98 Q7.AQ2.QJ96.AKQ6 AT943.T654.72.53");
   std::filesystem::path folder;
-  frmSimulate dialog(session, record, folder, nullptr);
+  PerSeat<bool> faceDown{};
+  faceDown[Seat::West] = true;
+  frmSimulate dialog(session, record, faceDown, folder, nullptr);
   const Driven driven{&dialog};
   EXPECT_TRUE(driven.Find<QCheckBox>("chkKnownWest")->isChecked()) << "who is to lead";
   EXPECT_FALSE(driven.Find<QCheckBox>("chkKnownNorth")->isChecked());
+  const QString spades = ToQt(HoldingText(record.board.hands[Seat::West][Suit::Spades]));
+  const auto* hands = driven.Find<QCheckBox>("chkKnownWest")->parentWidget();
+  for (const QLabel* shown : hands->findChildren<QLabel*>()) {
+    EXPECT_FALSE(shown->text().contains(spades)) << "what lies face down stays so";
+  }
   auto* said = driven.Find<QLabel>("lblSaid");
   auto* condition = driven.Find<QPlainTextEdit>("txtCondition");
   condition->setPlainText(QStringLiteral("hcp(nort)"));
