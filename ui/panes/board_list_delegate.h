@@ -1,27 +1,22 @@
 // How the cells of the list of boards are drawn.
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "ui/style/suit_delegate.h"
 
 namespace tricklet::ui {
 
-/// Draws the suit of a contract in its colour and a vulnerable side in red; in the chosen row all
-/// is drawn in the colour of chosen text, which alone can be read there.
-class BoardListDelegate : public QStyledItemDelegate {
+/// Draws a vulnerable side in red, and a contract as its base does.
+class BoardListDelegate : public SuitDelegate {
   Q_OBJECT
 
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-
-  void SetFourColours(bool fourColours) { fourColours_ = fourColours; }
+  using SuitDelegate::SuitDelegate;
 
   /// A little higher than the text.
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-  void paint(QPainter* painter, const QStyleOptionViewItem& option,
-             const QModelIndex& index) const override;
 
- private:
-  bool fourColours_ = false;
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 };
 
 }  // namespace tricklet::ui

@@ -18,12 +18,6 @@ Qt::Alignment AlignmentOf(BoardColumn column) {
   return Qt::AlignVCenter | (column == BoardColumn::Score ? Qt::AlignRight : Qt::AlignLeft);
 }
 
-QVariant SuitOf(const ListedBoard& board) {
-  if (!board.summary || board.summary->contractLevel == 0) return {};
-  if (board.summary->trumps == Strain::NoTrump) return {};
-  return static_cast<int>(IndexOf(board.summary->trumps));
-}
-
 /// Of a board that can be chosen like any other, but has nothing to show yet.
 bool IsEmpty(const ListedBoard& board) {
   return !board.stored && !board.changed;
@@ -107,8 +101,6 @@ QVariant BoardListModel::data(const QModelIndex& index, int role) const {
     case Qt::ForegroundRole:
       if (!IsEmpty(board)) return {};
       return QGuiApplication::palette().brush(QPalette::PlaceholderText);
-    case kSuitRole:
-      return column == BoardColumn::Contract ? SuitOf(board) : QVariant();
     case kVulnerableRole:
       return column == BoardColumn::Vulnerability && board.stored;
     default:

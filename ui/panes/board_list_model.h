@@ -28,10 +28,8 @@ class BoardListModel : public QAbstractTableModel {
   Q_OBJECT
 
  public:
-  /// The suit of the contract's symbol as an integer; invalid where there is none.
-  static constexpr int kSuitRole = Qt::UserRole;
   /// Whether the cell tells of a side that is vulnerable, on a board that is there.
-  static constexpr int kVulnerableRole = Qt::UserRole + 1;
+  static constexpr int kVulnerableRole = Qt::UserRole;
 
   BoardListModel(const Session& session, const BoardSummaries& summaries,
                  QObject* parent = nullptr);

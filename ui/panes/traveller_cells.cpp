@@ -11,7 +11,6 @@
 #include "formats/results/ruling.h"
 #include "ui/style/qt_text.h"
 #include "ui/style/symbols.h"
-#include "ui/style/theme.h"
 
 namespace tricklet::ui {
 namespace {
@@ -46,7 +45,7 @@ QString ResultText(int result) {
 }
 
 /// "4Sx S =" with the symbol of its suit.
-TravellerCell ContractCell(const TravellerRow& row, bool fourColours, const QPalette& palette) {
+TravellerCell ContractCell(const TravellerRow& row) {
   Board contract;
   if (!SetContract(contract, row.contract)) {
     if (row.contract == kAllPass) return {Text("Pass"), -1};
@@ -59,20 +58,14 @@ TravellerCell ContractCell(const TravellerRow& row, bool fourColours, const QPal
   const int rank = contract.contractLevel * kStrains + IndexOf(ToBidStrain(contract.trumps));
   TravellerCell cell{WithSymbols(ToQt(row.contract)) + rest, static_cast<double>(rank)};
   if (contract.trumps == Strain::NoTrump) return cell;
-  cell.symbol = ToQt(SuitSymbol[ToSuit(contract.trumps)]);
-  cell.colour = SuitColourOnWindow(ToSuit(contract.trumps), fourColours, palette);
   cell.spoken = ToQt(row.contract) + rest;
   return cell;
 }
 
-TravellerCell LeadCell(const TravellerRow& row, bool fourColours, const QPalette& palette) {
+TravellerCell LeadCell(const TravellerRow& row) {
   if (!row.lead) return {QString(), TravellerCell::kNothing};
   const Card card = *row.lead;
-  return {ToQt(CardText(card)),
-          static_cast<double>(kCardsInPack - card.Index()),
-          false,
-          ToQt(SuitSymbol[card.suit]),
-          SuitColourOnWindow(card.suit, fourColours, palette),
+  return {ToQt(CardText(card)), static_cast<double>(kCardsInPack - card.Index()), false,
           ToQt(SuitName[card.suit]) + QLatin1Char(' ') + ToQt(RankText[card.rank])};
 }
 
@@ -109,17 +102,16 @@ TravellerCell PointsCell(const TravellerRow& row, const Traveller& traveller) {
 }  // namespace
 
 TravellerCell MakeTravellerCell(TravellerColumn column, const TravellerRow& row,
-                                const Traveller& traveller, bool fourColours,
-                                const QPalette& palette) {
+                                const Traveller& traveller) {
   switch (column) {
     case TravellerColumn::NorthSouth:
       return PairCell(row, Side::NorthSouth);
     case TravellerColumn::EastWest:
       return PairCell(row, Side::EastWest);
     case TravellerColumn::Contract:
-      return ContractCell(row, fourColours, palette);
+      return ContractCell(row);
     case TravellerColumn::Lead:
-      return LeadCell(row, fourColours, palette);
+      return LeadCell(row);
     case TravellerColumn::Score:
       return ScoreCell(row);
     case TravellerColumn::Points:

@@ -3,8 +3,6 @@
 
 #include <limits>
 
-#include <QColor>
-#include <QPalette>
 #include <QString>
 
 #include "analysis/par.h"
@@ -25,15 +23,11 @@ struct TravellerCell {
   QString text;
   double key = 0;
   bool isNumber = false;  ///< stands at the right
-  QString symbol = {};    ///< the suit symbol within the text; empty without one
-  QColor colour = {};     ///< its colour
   QString spoken = {};    ///< for a screen reader; empty: the text
 };
 
-/// The suits of contracts and leads are in two or four colours, fit for the window's `palette`.
 TravellerCell MakeTravellerCell(TravellerColumn column, const TravellerRow& row,
-                                const Traveller& traveller, bool fourColours,
-                                const QPalette& palette);
+                                const Traveller& traveller);
 /// The same for the line of par.
 TravellerCell MakeParCell(TravellerColumn column, const Par& par);
 

@@ -1,16 +1,16 @@
 // One cell of the traveller's grid.
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "ui/style/suit_delegate.h"
 
 namespace tricklet::ui {
 
-/// Draws the suit symbol within a text in its own colour, and lines above and below par.
-class TravellerDelegate : public QStyledItemDelegate {
+/// Draws lines above and below par, which is in one colour, and anything else as its base does.
+class TravellerDelegate : public SuitDelegate {
   Q_OBJECT
 
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  using SuitDelegate::SuitDelegate;
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;

@@ -23,7 +23,7 @@ bool IsLeadSecret(const TravellerRow& row, const PerSeat<bool>& hidden) {
 }  // namespace
 
 void TravellerModel::Show(const Traveller& traveller, const std::optional<Par>& par,
-                          const PerSeat<bool>& hidden, bool fourColours, const QPalette& palette) {
+                          const PerSeat<bool>& hidden, const QPalette& palette) {
   beginResetModel();
   marked_ = -1;
   quiet_ = palette.color(QPalette::PlaceholderText);
@@ -39,9 +39,8 @@ void TravellerModel::Show(const Traveller& traveller, const std::optional<Par>& 
     for (std::size_t row = 0; row < rows_.size(); ++row) {
       const TravellerRow& from = traveller.rows[row];
       const bool secret = kind == TravellerColumn::Lead && IsLeadSecret(from, hidden);
-      rows_[row].cells.at(place) =
-          secret ? TravellerCell{QString(), TravellerCell::kNothing}
-                 : MakeTravellerCell(kind, from, traveller, fourColours, palette);
+      rows_[row].cells.at(place) = secret ? TravellerCell{QString(), TravellerCell::kNothing}
+                                          : MakeTravellerCell(kind, from, traveller);
     }
   }
   if (par && !rows_.empty()) InsertPar(traveller, *par);
@@ -134,10 +133,6 @@ QVariant TravellerModel::data(const QModelIndex& index, int role) const {
       return RowOf(index) < 0 ? quiet_ : QVariant();
     case Qt::FontRole:
       return FontOf(index);
-    case SymbolRole:
-      return cell.symbol;
-    case SymbolColourRole:
-      return cell.colour;
     case ParRole:
       return RowOf(index) < 0;
     default:

@@ -6,6 +6,8 @@
 #include <vector>
 
 #include <QAbstractTableModel>
+#include <QColor>
+#include <QPalette>
 #include <QSortFilterProxyModel>
 
 #include "ui/panes/traveller_cells.h"
@@ -19,9 +21,7 @@ class TravellerModel : public QAbstractTableModel {
 
  public:
   enum Role {
-    SymbolRole = Qt::UserRole,  ///< QString: the suit symbol within the text; empty without one
-    SymbolColourRole,           ///< QColor
-    ParRole,                    ///< bool: the line of par
+    ParRole = Qt::UserRole,  ///< bool: the line of par
   };
 
   using QAbstractTableModel::QAbstractTableModel;
@@ -29,7 +29,7 @@ class TravellerModel : public QAbstractTableModel {
   /// Copies what is to be shown of `traveller`, and resets the model. Leads from the `hidden` hands
   /// are left out.
   void Show(const Traveller& traveller, const std::optional<Par>& par, const PerSeat<bool>& hidden,
-            bool fourColours, const QPalette& palette);
+            const QPalette& palette);
   /// Sets a row of the traveller in bold: that of the play record which is being looked at; -1 for
   /// none.
   void Mark(int row);

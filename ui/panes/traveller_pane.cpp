@@ -76,7 +76,8 @@ void TravellerPane::BuildGrid() {
   new FollowFont(flexTraveller, kFontSize);
   new FocusRing(flexTraveller);
   flexTraveller->setModel(order_);
-  flexTraveller->setItemDelegate(new TravellerDelegate(flexTraveller));
+  delegate_ = new TravellerDelegate(flexTraveller);
+  flexTraveller->setItemDelegate(delegate_);
   flexTraveller->installEventFilter(this);
   flexTraveller->viewport()->installEventFilter(this);
   flexTraveller->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -189,7 +190,8 @@ void TravellerPane::FillGrid(const Session& session) {
   SetTitle(tables == 0 ? tr("No traveller for this board") : tr("Traveller"));
   lblTables_->setText(tables == 1 ? tr("1 table") : tr("%1 tables").arg(tables));
   lblTables_->setVisible(tables > 0);
-  rows_->Show(traveller, par_, hidden_, session.settings.suitColour, palette());
+  delegate_->SetFourColours(session.settings.suitColour);
+  rows_->Show(traveller, par_, hidden_, palette());
   TravellerResize();
 }
 

@@ -16,6 +16,7 @@ namespace tricklet::ui {
 
 class Actions;
 enum class TravellerColumn;
+class TravellerDelegate;
 class TravellerModel;
 class TravellerOrder;
 
@@ -66,6 +67,7 @@ class TravellerPane : public FoldingSection {
   PerSeat<bool> hidden_;
   bool marking_ = false;  // the selection is the program's, not the person's
   TravellerModel* rows_;
+  TravellerDelegate* delegate_ = nullptr;
   TravellerOrder* order_;
   QTableView* flexTraveller;
   QComboBox* cmbLinNames;
