@@ -52,7 +52,7 @@ TEST_F(FindBoardsDialogTest, LooksForWhatIsTypedAndGoesToTheBoard) {
     EXPECT_EQ(FromQt(test::FlawsOfCaptions(*form.top).join(u'\n')), "");
     EXPECT_EQ(Found(form, "squeeze"), "Club 22; 1 of 4 boards");
     EXPECT_EQ(Found(form, "spades(nort)==13"),
-              "Club 22; Line 1, column 8: \"nort\" is not a seat: north?");
+              "Club 22; Line 1, column 8: \"nort\" is no seat: north?");
     EXPECT_EQ(Found(form, "spades(north)==13 && spades(east)==0"),
               "Club 1, Club 3, Club 22, Club 24; 4 of 4 boards");
     form.Press("cmdAll");
