@@ -42,7 +42,7 @@ frmFindBoards::frmFindBoards(Session& session, FindLook& look, QWidget* parent)
       search_(new BoardSearch(this)) {
   setObjectName(QStringLiteral("frmFindBoards"));
   setWindowTitle(tr("Find boards"));
-  grdFound = new FoundBoardsView(found_, this);
+  grdFound = new FoundBoardsView(found_, session_.settings.suitColour, this);
   auto* column = new QVBoxLayout(this);
   column->addWidget(MakeHead());
   column->addWidget(grdFound, 1);

@@ -56,8 +56,9 @@ frmReport::frmReport(Session& session, ReportLook& look, std::filesystem::path& 
   tabReport = new QTabWidget(this);
   tabReport->setObjectName(QStringLiteral("tabReport"));
   tabReport->setAccessibleName(tr("Session report"));
-  entrants_ = new ReportPage(ReportPage::Of::Entrants, tabReport);
-  boards_ = new ReportPage(ReportPage::Of::Boards, tabReport);
+  const bool fourColours = session_.settings.suitColour;
+  entrants_ = new ReportPage(ReportPage::Of::Entrants, fourColours, tabReport);
+  boards_ = new ReportPage(ReportPage::Of::Boards, fourColours, tabReport);
   tabReport->addTab(entrants_, EntrantsTitle(Contestants::Pairs));
   tabReport->addTab(boards_, tr("Boards"));
   lblRemarks = new QLabel(this);

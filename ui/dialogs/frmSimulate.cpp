@@ -65,7 +65,7 @@ QWidget* frmSimulate::MakeResult() {
       pane);
   lblLabel->setWordWrap(true);
   MakeQuiet(lblLabel);
-  grdTable = new ReportView(QStringLiteral("grdTable"), pane);
+  grdTable = new ReportView(QStringLiteral("grdTable"), session_.settings.suitColour, pane);
   grdTable->setAccessibleName(tr("Results of the simulation"));
   picTricks = new TrickHistogram(pane);
   auto* lblTricks = new QLabel(tr("Tricks by declarer in the chosen row"), pane);

@@ -132,7 +132,7 @@ void frmStatistics::Show() {
 
 void frmStatistics::AddTable(const FrequencyTable& table) {
   auto* page = new QWidget(tabTables);
-  auto* rows = new ReportView(QStringLiteral("grdTable"), page);
+  auto* rows = new ReportView(QStringLiteral("grdTable"), session_.settings.suitColour, page);
   rows->setAccessibleName(ToQt(table.title));
   rows->Show(FrequencyGrid(table));
   auto* verdict = MakeText("lblTable", page);

@@ -14,8 +14,9 @@ struct Words {
 };
 
 ReportCell Number(const Estimate& estimate, int decimals) {
-  const QString text = ToQt(DecimalText(estimate.mean, decimals)) + QStringLiteral(" \u00B1 ") +
-                       ToQt(DecimalText(estimate.error, decimals));
+  QString text = ToQt(DecimalText(estimate.mean, decimals)) + QStringLiteral(" \u00B1 ") +
+                 ToQt(DecimalText(estimate.error, decimals));
+  text.replace(u'-', u'\u2212');  // the minus sign of scores
   return {text, estimate.mean};
 }
 

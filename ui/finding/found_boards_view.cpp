@@ -5,6 +5,8 @@
 
 #include <QHeaderView>
 
+#include "ui/style/suit_delegate.h"
+
 namespace tricklet::ui {
 namespace {
 
@@ -19,11 +21,14 @@ constexpr int Section(FoundColumn column) {
 
 }  // namespace
 
-FoundBoardsView::FoundBoardsView(FoundBoardsModel* boards, QWidget* parent)
+FoundBoardsView::FoundBoardsView(FoundBoardsModel* boards, bool fourColours, QWidget* parent)
     : RowsView(parent), boards_(boards), order_(new FoundOrder(boards)) {
   setObjectName(QStringLiteral("grdFound"));
   setAccessibleName(tr("Boards found"));
   setModel(order_);
+  auto* cells = new SuitDelegate(this);
+  cells->SetFourColours(fourColours);
+  setItemDelegate(cells);
   setSelectionMode(QAbstractItemView::ExtendedSelection);
   setAlternatingRowColors(true);
   horizontalHeader()->setSortIndicatorShown(true);

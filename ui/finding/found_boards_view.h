@@ -13,7 +13,7 @@ class FoundBoardsView : public RowsView {
   Q_OBJECT
 
  public:
-  FoundBoardsView(FoundBoardsModel* boards, QWidget* parent);
+  FoundBoardsView(FoundBoardsModel* boards, bool fourColours, QWidget* parent);
 
   /// The libraries of the boards are shown.
   void ShowLibraries(bool shown);

@@ -65,7 +65,7 @@ void DrawMark(QPainter& painter, const QRectF& room, double part, const QColor& 
 
 void BarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const {
-  QStyledItemDelegate::paint(painter, option, index);
+  SuitDelegate::paint(painter, option, index);
   const QVariant part = index.data(ReportModel::BarRole);
   if (!part.isValid()) return;
   QStyleOptionViewItem cell = option;
@@ -92,7 +92,7 @@ void BarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 }
 
 QSize BarDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-  QSize size = QStyledItemDelegate::sizeHint(option, index);
+  QSize size = SuitDelegate::sizeHint(option, index);
   if (index.data(ReportModel::BarKindRole).toInt() != static_cast<int>(CellBar::None)) {
     size.rwidth() += static_cast<int>(
         std::ceil(RoomFor(option.fontMetrics, index) + 2 * option.fontMetrics.averageCharWidth()));

@@ -32,16 +32,16 @@ std::optional<ScatterPoint> PointOf(const ReportTable& table, Side side, const Q
 
 }  // namespace
 
-ReportPage::ReportPage(Of what, QWidget* parent) : QWidget(parent), what_(what) {
+ReportPage::ReportPage(Of what, bool fourColours, QWidget* parent) : QWidget(parent), what_(what) {
   const bool boards = what == Of::Boards;
   setObjectName(boards ? QStringLiteral("pagBoards") : QStringLiteral("pagEntrants"));
-  grdReport =
-      new ReportView(boards ? QStringLiteral("grdBoards") : QStringLiteral("grdEntrants"), this);
+  const QString name = boards ? QStringLiteral("grdBoards") : QStringLiteral("grdEntrants");
+  grdReport = new ReportView(name, fourColours, this);
   grdReport->setAccessibleName(boards ? tr("Boards") : tr("Entrants"));
   auto* halves = new QSplitter(Qt::Vertical, this);
   halves->setChildrenCollapsible(false);
   halves->addWidget(grdReport);
-  halves->addWidget(MakeDetails());
+  halves->addWidget(MakeDetails(fourColours));
   halves->setStretchFactor(0, 1);
   halves->setStretchFactor(1, 1);
   auto* column = new QVBoxLayout(this);
@@ -60,14 +60,14 @@ ReportPage::ReportPage(Of what, QWidget* parent) : QWidget(parent), what_(what) 
   }
 }
 
-QWidget* ReportPage::MakeDetails() {
+QWidget* ReportPage::MakeDetails(bool fourColours) {
   auto* details = new QWidget(this);
   lblChosen = new QLabel(details);
   lblChosen->setObjectName(QStringLiteral("lblChosen"));
   lblChosen->setTextFormat(Qt::PlainText);
   lblChosen->setWordWrap(true);
   lblChosen->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  grdTables = new ReportView(QStringLiteral("grdTables"), details);
+  grdTables = new ReportView(QStringLiteral("grdTables"), fourColours, details);
   grdTables->setAccessibleName(tr("Results"));
   picScatter = new ParScatter(details);
   connect(picScatter, &ParScatter::PointChosen, this, [this](int point) {

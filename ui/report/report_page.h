@@ -28,7 +28,7 @@ class ReportPage : public QWidget {
  public:
   enum class Of { Entrants, Boards };
 
-  ReportPage(Of what, QWidget* parent);
+  ReportPage(Of what, bool fourColours, QWidget* parent);
 
   /// What was chosen stays so where it still exists.
   void Show(const std::shared_ptr<const SessionReport>& report);
@@ -49,7 +49,7 @@ class ReportPage : public QWidget {
   void PlaceAsked(const ReportPlace& place);
 
  private:
-  QWidget* MakeDetails();
+  QWidget* MakeDetails(bool fourColours);
   void ShowDetails();
   void ShowEntrant();
   void ShowBoard();

@@ -18,11 +18,13 @@ bool NothingIn(const ReportGrid& grid, std::size_t column) {
 
 }  // namespace
 
-ReportView::ReportView(const QString& name, QWidget* parent)
+ReportView::ReportView(const QString& name, bool fourColours, QWidget* parent)
     : RowsView(parent), rows_(new ReportModel(this)), order_(new ReportOrder(rows_)) {
   setObjectName(name);
   setModel(order_);
-  setItemDelegate(new BarDelegate(this));
+  auto* cells = new BarDelegate(this);
+  cells->SetFourColours(fourColours);
+  setItemDelegate(cells);
   setSelectionMode(QAbstractItemView::SingleSelection);
   setAlternatingRowColors(true);
   horizontalHeader()->setSortIndicatorShown(true);

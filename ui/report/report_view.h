@@ -12,7 +12,7 @@ class ReportView : public RowsView {
   Q_OBJECT
 
  public:
-  ReportView(const QString& name, QWidget* parent);
+  ReportView(const QString& name, bool fourColours, QWidget* parent);
 
   /// Takes the place of what is shown; the row that was chosen stays so where it still exists.
   void Show(ReportGrid grid);
