@@ -4,6 +4,7 @@
 #include <condition_variable>
 #include <deque>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <thread>
 
@@ -24,12 +25,19 @@ class Worker : public QObject {
   /// Waits for the job under way; the jobs that wait are dropped, and nothing is delivered.
   ~Worker() override;
 
+  /// Gives up `worker` without waiting: the jobs that wait are dropped, nothing is delivered any
+  /// more, and `keeper` owns it until the job under way has ended. What that job uses outlives
+  /// `keeper`. Without a keeper this waits.
+  static void Retire(std::unique_ptr<Worker> worker, QObject* keeper);
+
   /// `work` runs on the worker's thread, then `done` on the window's.
   void Post(std::function<void()> work, std::function<void()> done);
 
  signals:
   /// A job has been done (sent from the worker's thread).
   void Finished();
+  /// The last job of a worker that was given up has been done (from the worker's thread).
+  void Ended();
 
  private:
   struct Job {
@@ -39,6 +47,7 @@ class Worker : public QObject {
 
   void Run();
   void Deliver();
+  void Stop();
 
   std::mutex mutex_;
   std::condition_variable wake_;

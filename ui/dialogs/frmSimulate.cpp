@@ -49,8 +49,10 @@ frmSimulate::frmSimulate(Session& session, const RecordedPlay& record,
   resize(QSize(kWide, kHigh));
 }
 
+/// A batch under way takes a second to its end: nobody waits for that.
 frmSimulate::~frmSimulate() {
   Stop();
+  Worker::Retire(std::move(worker_), parent());
 }
 
 QWidget* frmSimulate::MakeResult() {
@@ -218,7 +220,6 @@ void frmSimulate::CopyTable() {
   Said(tr("The table is in the clipboard"));
 }
 
-/// What the worker is at ends first, in about a second.
 void frmSimulate::done(int result) {
   Stop();
   QDialog::done(result);

@@ -2,6 +2,7 @@
 
 #include <future>
 
+#include <QPointer>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -43,6 +44,31 @@ TEST(WorkerTest, TheNewestGoesFirstAndNothingIsDeliveredAfterTheEnd) {
   }
   QCoreApplication::processEvents();
   EXPECT_EQ(order.size(), 4U);
+}
+
+TEST(WorkerTest, OneThatIsGivenUpEndsItsJobAndIsGone) {
+  std::promise<void> begun;
+  std::promise<void> goOn;
+  QObject keeper;
+  QPointer<Worker> kept;
+  bool delivered = false;
+  {
+    auto worker = std::make_unique<Worker>();
+    kept = worker.get();
+    worker->Post(
+        [&] {
+          begun.set_value();
+          goOn.get_future().wait();
+        },
+        [&] { delivered = true; });
+    begun.get_future().wait();
+    Worker::Retire(std::move(worker), &keeper);
+  }
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(kept.isNull()) << "its job is still under way";
+  goOn.set_value();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return kept.isNull(); }));
+  EXPECT_FALSE(delivered);
 }
 
 }  // namespace
