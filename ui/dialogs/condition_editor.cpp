@@ -108,7 +108,7 @@ QTextCursor ConditionEditor::CursorAt(const ScriptFault& fault) const {
 
 void ConditionEditor::ShowFaults() {
   QList<QTextEdit::ExtraSelection> selections;
-  const QColor red = ReadableOn(palette().color(QPalette::Base), QColor(0xc4, 0x20, 0x30));
+  const QColor red = FaultColour(palette());
   for (const ScriptFault& fault : outcome_.faults) {
     QTextEdit::ExtraSelection selection;
     selection.cursor = CursorAt(fault);

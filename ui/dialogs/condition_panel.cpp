@@ -16,6 +16,7 @@
 #include "ui/background/worker.h"
 #include "ui/dialogs/condition_editor.h"
 #include "ui/style/qt_text.h"
+#include "ui/style/theme.h"
 
 namespace tricklet::ui {
 namespace {
@@ -102,7 +103,9 @@ void ConditionPanel::DealsChanged() {
 /// empty text nothing is said.
 void ConditionPanel::ShowOutcome() {
   if (stop_) *stop_ = true;
-  if (const QString fault = txtCondition->FaultText(); !fault.isEmpty()) return Say(fault);
+  if (const QString fault = txtCondition->FaultText(); !fault.isEmpty()) {
+    return Say(fault, FaultColour(palette()));
+  }
   if (txtCondition->document()->isEmpty()) return Say({});
   std::string why;
   const auto script = deals_ ? deals_(why) : txtCondition->Outcome().script;
@@ -118,7 +121,10 @@ void ConditionPanel::ShowOutcome() {
       });
 }
 
-void ConditionPanel::Say(const QString& text) {
+void ConditionPanel::Say(const QString& text, const QColor& colour) {
+  QPalette palette;  // all but the colour is the window's
+  if (colour.isValid()) palette.setColor(QPalette::WindowText, colour);
+  lblCondition->setPalette(palette);
   lblCondition->setText(text);
   txtCondition->setAccessibleDescription(text);
 }

@@ -7,6 +7,7 @@
 #include <string>
 #include <utility>
 
+#include <QColor>
 #include <QWidget>
 
 #include "conditions/script.h"
@@ -48,7 +49,8 @@ class ConditionPanel : public QWidget {
 
  private:
   void ShowOutcome();
-  void Say(const QString& text);
+  /// `colour` may be that of a fault.
+  void Say(const QString& text, const QColor& colour = {});
   void FillExamples(QMenu* menu);
   void FillPresets(QMenu* menu);
   void SavePreset();

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -127,6 +128,10 @@ QDialogButtonBox* frmGenerate::BuildButtons() {
 }
 
 void frmGenerate::Connect() {
+  // Whoever goes there wants to write; the arrow keys go on from page to page.
+  connect(tabs_, &QTabWidget::currentChanged, this, [this](int page) {
+    if (page == kConditionPage && !tabs_->tabBar()->hasFocus()) condition_->Editor()->setFocus();
+  });
   connect(optnGen, &QButtonGroup::idToggled, this,
           [this] { hands_[GenHand::Second]->setEnabled(optnGen->checkedId() == kTwoHands); });
   connect(optSpecify, &QButtonGroup::idToggled, this, [this] {

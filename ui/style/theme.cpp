@@ -87,6 +87,10 @@ QColor SuitColourOnCard(Suit suit, bool fourColours) {
   return QColor(fourColours ? kFour[suit] : kTwo[suit]);
 }
 
+QColor FaultColour(const QPalette& palette) {
+  return SuitColourOnWindow(Suit::Hearts, false, palette);
+}
+
 QColor SuitColourOnWindow(Suit suit, bool fourColours, const QPalette& palette) {
   if (!IsDark(palette)) {
     // Paper's orange is too pale for a symbol on a background that is less than white.

@@ -17,6 +17,9 @@ namespace tricklet::ui {
 QColor SuitColourOnCard(Suit suit, bool fourColours);
 QColor SuitColourOnWindow(Suit suit, bool fourColours, const QPalette& palette);
 
+/// What says that something is wrong, on the window's background and in its fields.
+QColor FaultColour(const QPalette& palette);
+
 /// True when the window's background is dark.
 bool IsDark(const QPalette& palette);
 
