@@ -116,7 +116,7 @@ std::shared_ptr<const Script> WithFormat(const Script& script, const std::string
 
 ExitCode EndOfRun(Host& host, const DealRunOutcome& run) {
   if (!run.cancelled) return ExitCode::Done;
-  host.TellError("Cancelled: " + DealProgressText(run, {}));
+  host.TellError("Cancelled: " + DealCountsText(run));
   return ExitCode::Refused;
 }
 

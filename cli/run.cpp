@@ -17,7 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// What goes before the command.
+/// What goes before the command, or after it where it has no such option of its own.
 struct Arguments {
   std::string root;
   std::string library;
@@ -41,6 +41,7 @@ void DescribeOptions(CLI::App& app, Arguments& arguments) {
   app.add_flag("--no", arguments.no, "Answer every question with no")->excludes(yes);
   app.add_flag("--quiet", arguments.quiet, "Show no progress");
   app.require_subcommand(1);
+  app.fallthrough();
 }
 
 ConsoleOptions OptionsFrom(const Arguments& arguments, const Console& console) {

@@ -150,14 +150,18 @@ class BlockQueue {
 
 }  // namespace
 
-std::string DealProgressText(const DealRunOutcome& now, const DealRunOptions& options) {
+std::string DealCountsText(const DealRunOutcome& now) {
   std::string text =
       GroupedText(now.tried) + " deals tried, " + GroupedText(now.produced) + " found";
   if (now.seconds <= 0) return text;
   const double rate = static_cast<double>(now.tried) / now.seconds;
-  text += ", " + GroupedText(static_cast<std::int64_t>(rate)) + " a second";
+  return text + ", " + GroupedText(static_cast<std::int64_t>(rate)) + " a second";
+}
+
+std::string DealProgressText(const DealRunOutcome& now, const DealRunOptions& options) {
+  const std::string text = DealCountsText(now);
   const double share = ShareDone(now, options);
-  if (share <= 0) return text;
+  if (now.seconds <= 0 || share <= 0) return text;
   const double left = now.seconds * (1 - share) / share;
   return text + ", " + GroupedText(std::llround(left)) + " s left";
 }

@@ -43,7 +43,9 @@ DealRunOutcome RunDeals(const std::shared_ptr<const Script>& script, Solver* sol
                         const DealRunOptions& options,
                         const std::function<bool(const FoundDeal&)>& found);
 
-/// "1,234,567 deals tried, 12 found, 8,000,000 a second, 5 s left".
+/// "1,234,567 deals tried, 12 found, 8,000,000 a second".
+std::string DealCountsText(const DealRunOutcome& now);
+/// The same with ", 5 s left".
 std::string DealProgressText(const DealRunOutcome& now, const DealRunOptions& options);
 
 }  // namespace tricklet

@@ -32,7 +32,7 @@ TEST_F(DealCommand, SameSeedGivesTheSameDealsOnAnyNumberOfCores) {
 
 TEST_F(DealCommand, StoresBoardsAndNamesFaults) {
   const std::string script = Script("predeal north SAKQ\nproduce 5\nspades(south) > 3");
-  ASSERT_EQ(Run("--library Lab deal " + script + " --first 4 --seed 1"), 0) << err;
+  ASSERT_EQ(Run("deal " + script + " --library Lab --first 4 --seed 1"), 0) << err;
   EXPECT_TRUE(out.starts_with("5 boards stored, ")) << out;
   EXPECT_TRUE(std::filesystem::exists(Root() / "Lab"));
   ASSERT_EQ(Run("--library Lab deal " + Script("generate 50\nhcp(north) > 24") +
