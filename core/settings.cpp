@@ -80,6 +80,7 @@ constexpr std::array kTable{
     SettingEntry{kPrint, "Title", "", TRICKLET_FIELD(print.title)},
     SettingEntry{kPrint, "Subtitle", "", TRICKLET_FIELD(print.subtitle)},
     SettingEntry{kPublish, "WebNames", "full", TRICKLET_FIELD(publish.names)},
+    SettingEntry{kPublish, "WebReport", "False", TRICKLET_FIELD(publish.report)},
     SettingEntry{kPublish, "WebFolder", "", TRICKLET_FIELD(publish.folder)},
     SettingEntry{kPublish, "WebLibrary", "", TRICKLET_FIELD(publish.library)},
     SettingEntry{kPublish, "WebTitle", "", TRICKLET_FIELD(publish.title)},

@@ -77,6 +77,7 @@ struct PrintSettings {
 /// What was chosen for the last web page. The title belongs to one library, as above.
 struct PublishSettings {
   std::string names;    ///< of the players: "full", "initials" or "none"
+  bool report = false;  ///< with the report of the session
   std::string folder;   ///< UTF-8; empty when none has been chosen yet
   std::string library;  ///< whose title the following is
   std::string title;    ///< UTF-8

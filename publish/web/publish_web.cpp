@@ -109,12 +109,14 @@ PublishChoices ProposedPublish(const Session& session) {
   choices.title = titled ? last.title : session.LibraryName();
   choices.names = NamesShownOf(last.names).value_or(NamesShown::Full);
   choices.folder = PathFromText(last.folder);
+  choices.report = last.report;
   return choices;
 }
 
 void RememberPublish(Session& session, const PublishChoices& choices) {
   PublishSettings& settings = session.settings.publish;
   settings.names = NamesShownName(choices.names);
+  settings.report = choices.report;
   settings.folder = PathText(choices.folder);
   settings.library = session.LibraryName();
   settings.title = choices.title;

@@ -199,6 +199,7 @@ TEST_F(PublishTest, ATitleIsProposedAgainForItsOwnLibraryAlone) {
   EXPECT_EQ(choices.boards, (BoardRange{3, 9}));
   choices.title = "Tuesday";
   choices.names = NamesShown::Initials;
+  choices.report = true;
   choices.folder = folder.Path();
   RememberPublish(session, choices);
   session.settings = LoadSettings(store);
@@ -208,6 +209,7 @@ TEST_F(PublishTest, ATitleIsProposedAgainForItsOwnLibraryAlone) {
   choices = ProposedPublish(session);
   EXPECT_EQ(choices.title, "Other");
   EXPECT_EQ(choices.names, NamesShown::Initials);
+  EXPECT_TRUE(choices.report);
   EXPECT_EQ(choices.folder, folder.Path());
 }
 
