@@ -1,5 +1,7 @@
 #include "cli/shown_stream.h"
 
+#include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "core/text.h"
@@ -25,6 +27,22 @@ ShownLines::int_type ShownLines::overflow(int_type c) {
   }
   line_ += traits_type::to_char_type(c);
   return line_.back() != '\n' || PassOn() ? c : traits_type::eof();
+}
+
+/// What `overflow` would make of each character, but a line at a time.
+std::streamsize ShownLines::xsputn(const char* text, std::streamsize size) {
+  std::string_view rest(text, static_cast<std::size_t>(size));
+  const auto isEnd = [](char c) { return c == '\n' || c == '\f'; };
+  while (!rest.empty()) {
+    const auto end = std::find_if(rest.begin(), rest.end(), isEnd);
+    line_.append(rest.begin(), end);
+    rest.remove_prefix(static_cast<std::size_t>(end - rest.begin()));
+    if (rest.empty()) break;
+    const int_type taken = overflow(traits_type::to_int_type(rest.front()));
+    if (traits_type::eq_int_type(taken, traits_type::eof())) break;
+    rest.remove_prefix(1);
+  }
+  return size - static_cast<std::streamsize>(rest.size());
 }
 
 int ShownLines::sync() {

@@ -20,6 +20,7 @@ class ShownLines : public std::streambuf {
 
  private:
   int_type overflow(int_type c) override;
+  std::streamsize xsputn(const char* text, std::streamsize size) override;
   int sync() override;
   bool PassOn();
 

@@ -69,7 +69,12 @@ bool IsOrder(std::string_view character) {
 std::string WithoutOrders(std::string_view text, std::string_view kept) {
   std::string shown;
   shown.reserve(text.size());
+  const auto isPlain = [](char c) { return c >= ' ' && c <= '~'; };
   while (!text.empty()) {
+    const auto plain = std::find_if_not(text.begin(), text.end(), isPlain);
+    shown.append(text.begin(), plain);
+    text.remove_prefix(static_cast<std::size_t>(plain - text.begin()));
+    if (text.empty()) break;
     const std::string_view character = text.substr(0, SequenceLength(text));
     const bool shows = !IsOrder(character) || kept.find(character) != std::string_view::npos;
     shown += shows ? character : " ";

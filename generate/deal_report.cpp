@@ -32,14 +32,15 @@ std::string Spaced(Holding holding) {
 
 /// Hands side by side, a line for each suit.
 void WriteHands(std::ostream& out, std::span<const PerSuit<Holding>> hands) {
+  std::string lines;
   for (const Suit suit : kAllSuits) {
     for (std::size_t i = 0; i < hands.size(); ++i) {
       const std::string text = Spaced(hands[i][suit]);
-      out << (i + 1 < hands.size() ? Padded(text) : text);
+      lines += i + 1 < hands.size() ? Padded(text) : text;
     }
-    out << '\n';
+    lines += '\n';
   }
-  out << '\n';
+  out << lines << '\n';
 }
 
 std::string Numbered(std::int64_t number) {
