@@ -84,6 +84,8 @@ class Commands : public QObject {
   void Simulate();
   /// `mnuFindBoards`: boards of this library or of all; the person may go from there to one.
   void FindBoards();
+  /// The same, beginning with `text`.
+  void FindBoardsBy(const QString& text);
   /// `mnuDealStatistics`: what the deals of the library look like.
   void DealStatistics();
   /// `mnuPublish`: the library as a web page.

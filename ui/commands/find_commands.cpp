@@ -6,6 +6,7 @@
 #include "ui/commands/commands.h"
 #include "ui/control/play_control.h"
 #include "ui/dialogs/frmPrint.h"
+#include "ui/style/qt_text.h"
 
 namespace tricklet::ui {
 
@@ -32,6 +33,11 @@ void Commands::FindBoards() {
     }
   });
   emit Dealing(false);
+}
+
+void Commands::FindBoardsBy(const QString& text) {
+  findLook_.text = FromQt(text);
+  FindBoards();
 }
 
 }  // namespace tricklet::ui

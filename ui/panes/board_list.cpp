@@ -26,6 +26,7 @@ BoardList::BoardList(const Session& session, BoardSummaries& summaries, QWidget*
       lblFound(new QLabel(this)) {
   BuildFind();
   lblFound->setObjectName(QStringLiteral("lblFound"));
+  lblFound->setWordWrap(true);
   MakeQuiet(lblFound);
   lblFound->hide();
   connect(lstBoards, &BoardListView::Chosen, this, &BoardList::Choose);
@@ -55,11 +56,12 @@ void BoardList::BuildFind() {
          "none, NS, EW, all: who is vulnerable\n"
          "4S, 3NTx, spades: the contract; part, game or slam; doubled, redoubled\n"
          "bid, passed: the auction; played, unplayed: the result\n"
-         "empty, dealt: the cards; changed: not saved");
+         "empty, dealt: the cards; changed: not saved\n"
+         "Enter, where no board fits: finds by a condition, a player or a note");
   txtFindBoards->setToolTip(tip);
   txtFindBoards->setAccessibleDescription(tip);
   connect(txtFindBoards, &QLineEdit::textChanged, this, &BoardList::Find);
-  connect(txtFindBoards, &QLineEdit::returnPressed, this, &BoardList::GoToFound);
+  connect(txtFindBoards, &QLineEdit::returnPressed, this, &BoardList::GoOrSearch);
   new QShortcut(
       Qt::Key_Down, txtFindBoards, this, [this] { GoToFound(); }, Qt::WidgetShortcut);
   new QShortcut(
@@ -89,8 +91,18 @@ void BoardList::Find(const QString& text) {
 
 /// What is left out is said.
 void BoardList::ShowFound() {
-  lblFound->setText(tr("%1 of %2 boards").arg(found_->rowCount()).arg(boards_->rowCount()));
+  lblFound->setText(found_->rowCount() == 0
+                        ? tr("None. Enter finds more.")
+                        : tr("%1 of %2 boards").arg(found_->rowCount()).arg(boards_->rowCount()));
   lblFound->setVisible(!found_->FindsAll());
+}
+
+void BoardList::GoOrSearch() {
+  if (found_->rowCount() > 0) return GoToFound();
+  const QString text = txtFindBoards->text();
+  if (found_->FindsAll()) return;
+  txtFindBoards->clear();  // so that the list is whole again afterwards
+  emit SearchAsked(text);
 }
 
 /// Enter or Down in the box: the first board that was found, unless the current one is among them.

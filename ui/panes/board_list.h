@@ -39,6 +39,8 @@ class BoardList : public QWidget {
   void BoardChosen(int boardNumber);
   /// The person is done with the list: the keys are meant for the table.
   void Left();
+  /// No board of the list fits `text`: it is to be looked for in what boards hold.
+  void SearchAsked(const QString& text);
   /// A menu for the current board, which the person has just chosen, is wanted there, in pixels of
   /// the screen.
   void MenuAsked(const QPoint& place);
@@ -48,6 +50,7 @@ class BoardList : public QWidget {
   void Find(const QString& text);
   void ShowFound();
   void GoToFound();
+  void GoOrSearch();
   void Choose(int boardNumber);
   void AskForMenu(const QPoint& place);
 

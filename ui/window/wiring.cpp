@@ -52,6 +52,7 @@ void MainWindow::Connect() {
   connect(actions_, &Actions::Asked, this, &MainWindow::CarryOut);
   menu_->OfferAt(panes_.table, kTableContext);
   QMenu* ofBoard = menu_->ContextMenu(panes_.library, kBoardListContext);
+  connect(panes_.library->List(), &BoardList::SearchAsked, commands_, &Commands::FindBoardsBy);
   connect(panes_.library->List(), &BoardList::MenuAsked, ofBoard,
           [ofBoard](const QPoint& at) { ofBoard->popup(at); });
   menu_->OfferAt(panes_.traveller, kTravellerContext);

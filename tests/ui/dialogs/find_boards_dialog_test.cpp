@@ -71,6 +71,17 @@ TEST_F(FindBoardsDialogTest, LooksForWhatIsTypedAndGoesToTheBoard) {
   EXPECT_EQ(LibraryTestBy::Shown(), "Teaching 7 of 9, 2 stored");
 }
 
+TEST_F(FindBoardsDialogTest, IsWhereTheBoxAboveTheListLeads) {
+  Open();
+  Expect([](const Driven& form) {
+    EXPECT_EQ(Found(form), "Club 22; 1 of 4 boards");
+    form.Press("cmdClose");
+  });
+  Type("txtFindBoards", "squeeze");
+  FocusKey("Return");
+  EXPECT_EQ(Text("txtFindBoards"), "");
+}
+
 TEST_F(FindBoardsDialogTest, WorksOnTheBoardsThatAreChosen) {
   WithFound([this](const Driven& form) {
     Found(form);

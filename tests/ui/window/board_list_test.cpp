@@ -117,7 +117,7 @@ TEST_F(BoardListTest, FindsBoardsAndSaysHowManyAreLeftOut) {
   Type("txtFindBoards", "3nt");
   FocusKey("Return");
   Type("txtFindBoards", "no such word");
-  EXPECT_EQ(Text("lblFound"), "0 of 24 boards");
+  EXPECT_EQ(Text("lblFound"), "None. Enter finds more.");
   FocusKey("Esc");
   EXPECT_FALSE(Shown("lblFound"));
   EXPECT_EQ(Chosen() + ", " + Focus(), "22, picTable");
