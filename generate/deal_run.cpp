@@ -159,7 +159,7 @@ std::string DealCountsText(const DealRunOutcome& now) {
 }
 
 std::string DealProgressText(const DealRunOutcome& now, const DealRunOptions& options) {
-  const std::string text = DealCountsText(now);
+  std::string text = DealCountsText(now);
   const double share = ShareDone(now, options);
   if (now.seconds <= 0 || share <= 0) return text;
   const double left = now.seconds * (1 - share) / share;
