@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "ui/panes/traveller_model.h"
+#include "ui/style/cell_text.h"
 
 namespace tricklet::ui {
 namespace {
@@ -21,7 +22,9 @@ void TravellerDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
     SuitDelegate::paint(painter, option, index);
     return;
   }
-  QStyledItemDelegate::paint(painter, option, index);
+  QStyleOptionViewItem cell = option;
+  initStyleOption(&cell, index);
+  DrawCell(*painter, cell);
   painter->save();
   DrawParLines(*painter, option.rect, option.palette.color(QPalette::PlaceholderText));
   painter->restore();
