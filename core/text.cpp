@@ -69,6 +69,8 @@ bool IsOrder(std::string_view character) {
 std::string WithoutOrders(std::string_view text, std::string_view kept) {
   std::string shown;
   shown.reserve(text.size());
+  // Nearly all of a text is such characters, and whole boards go through here when they are
+  // printed.
   const auto isPlain = [](char c) { return c >= ' ' && c <= '~'; };
   while (!text.empty()) {
     const auto plain = std::find_if_not(text.begin(), text.end(), isPlain);

@@ -25,8 +25,7 @@ int RecycleBoards(Session& session, const std::string& library, const std::set<i
   if (!write) return 0;
   int sent = 0;
   for (const int number : numbers) {
-    const int done = sent;
-    if (!session.host.Step("Removing boards", done, static_cast<int>(numbers.size()))) break;
+    if (!session.host.Step("Removing boards", sent, static_cast<int>(numbers.size()))) break;
     const fs::path file = folder / BoardFileName(number);
     if (!FileExists(file) || session.host.Recycle(file)) ++sent;
   }

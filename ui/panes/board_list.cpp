@@ -97,10 +97,11 @@ void BoardList::ShowFound() {
   lblFound->setVisible(!found_->FindsAll());
 }
 
+/// Enter in the box. That list tells boards by what its columns say; where none fits, the person
+/// may mean what only the files tell.
 void BoardList::GoOrSearch() {
-  if (found_->rowCount() > 0) return GoToFound();
+  if (found_->rowCount() > 0 || found_->FindsAll()) return GoToFound();
   const QString text = txtFindBoards->text();
-  if (found_->FindsAll()) return;
   txtFindBoards->clear();  // so that the list is whole again afterwards
   emit SearchAsked(text);
 }
