@@ -183,7 +183,7 @@ void AddShared(CLI::App& simulate, Asked& asked) {
   simulate.add_option("--deals", asked.limit.deals, "At the most")
       ->type_name("K")
       ->check(CLI::Range(1, kMostSimulatedDeals));
-  simulate.add_flag("--all-deals{false}", asked.limit.precise,
+  simulate.add_flag("--all-deals{false}", asked.limit.untilPrecise,
                     "All of them, however small the errors get");
   simulate.add_option("--seed", asked.seed, "The same number gives the same table")->type_name("K");
   simulate.add_flag("--csv", asked.csv, "Comma-separated values, for a spreadsheet");

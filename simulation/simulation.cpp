@@ -43,7 +43,7 @@ Simulation::Simulation(Tally& tally, std::unique_ptr<Dealing> dealing, Solver& s
     : tally_(tally),
       dealing_(std::move(dealing)),
       solver_(solver),
-      untilPrecise_(limit.precise),
+      untilPrecise_(limit.untilPrecise),
       batchSize_(kFirstBatch) {
   progress_.wanted = limit.deals;
 }

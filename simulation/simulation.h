@@ -24,7 +24,7 @@ inline constexpr int kUsualSimulatedDeals = 1000;
 /// When a simulation ends by itself.
 struct SimulationLimit {
   int deals = kUsualSimulatedDeals;  ///< 1..`kMostSimulatedDeals`
-  bool precise = true;               ///< also as soon as the errors are small enough (tally.h)
+  bool untilPrecise = true;          ///< also as soon as the errors are small enough (tally.h)
 };
 
 enum class SimulationEnd {
