@@ -120,6 +120,10 @@ int ScriptCursor::ExpectValue(WordCode code, std::string_view what) {
     return value;
   }
   if (!KindIs(TokenKind::Name) && WordHere() == nullptr) FailExpected("a " + std::string(what));
+  FailNoValue(code, what);
+}
+
+void ScriptCursor::FailNoValue(WordCode code, std::string_view what) const {
   std::vector<std::string_view> names;
   std::map<int, std::string_view> spellings;  // the first of each value
   for (const Word& word : Vocabulary()) {

@@ -48,6 +48,8 @@ class ScriptCursor {
   /// it is no `what` ("seat"), with the nearest, or all that there are.
   int ExpectValue(WordCode code, std::string_view what);
 
+  /// The name at the place is no `what`; the nearest of them, or all.
+  [[noreturn]] void FailNoValue(WordCode code, std::string_view what) const;
   [[noreturn]] void Fail(std::string text) const { Fail(Here(), std::move(text)); }
   [[noreturn]] static void Fail(const Token& where, std::string text);
   /// "expected WHAT, not \"hcpp\"".
